@@ -1,0 +1,90 @@
+#include "runtime/PathNames.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <system_error>
+
+namespace tarsil {
+
+namespace {
+
+ErrorNumber numberOf(int code, std::string_view path)
+{
+    switch (code) {
+    case ENOENT: {
+        std::error_code ignored;
+        const auto parent = nativePath(path).parent_path();
+        const bool parentIsThere = parent.empty() || std::filesystem::is_directory(parent, ignored);
+        return parentIsThere ? ErrorNumber::FileNotFound : ErrorNumber::PathNotFound;
+    }
+    case ENOTDIR:
+        return ErrorNumber::PathNotFound;
+    case EACCES:
+    case EPERM:
+    case EROFS:
+        return ErrorNumber::PermissionDenied;
+    case ENOSPC:
+        return ErrorNumber::DiskFull;
+    case EIO:
+        return ErrorNumber::DeviceInputOutput;
+    default:
+        return ErrorNumber::PathFileAccess;
+    }
+}
+
+} // namespace
+
+std::string joinPath(std::string_view folder, std::string_view name)
+{
+    std::string path(folder);
+    return path.append("\\").append(name);
+}
+
+std::filesystem::path nativePath(std::string_view path)
+{
+    std::u8string text(path.begin(), path.end());
+    std::replace(text.begin(), text.end(), u8'\\', u8'/');
+    return std::filesystem::path(text);
+}
+
+std::string pathText(const std::filesystem::path& path)
+{
+    const std::u8string text = path.generic_u8string();
+    return {text.begin(), text.end()};
+}
+
+std::string shownPath(std::string_view path)
+{
+    return nativePath(path).string();
+}
+
+FilePath resolvePath(std::string_view path)
+{
+    std::error_code failed;
+    const std::filesystem::path native = nativePath(path);
+    std::filesystem::path whole = std::filesystem::absolute(native, failed);
+    whole = (failed ? native : whole).lexically_normal();
+    std::string folder = pathText(whole.parent_path());
+    if (folder.ends_with('/'))
+        folder.pop_back();
+    return {folder, pathText(whole.filename())};
+}
+
+bool fileExists(std::string_view path)
+{
+    std::error_code ignored;
+    const auto status = std::filesystem::status(nativePath(path), ignored);
+    return std::filesystem::exists(status) && !std::filesystem::is_directory(status);
+}
+
+RunTimeError fileError(int code, std::string source, std::string_view path)
+{
+    std::string details = shownPath(path);
+    const ErrorNumber number = numberOf(code, path);
+    if (number == ErrorNumber::PathFileAccess)
+        details.append(" (").append(std::generic_category().message(code)).append(")");
+    return {number, std::move(source), details};
+}
+
+} // namespace tarsil

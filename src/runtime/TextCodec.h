@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tarsil {
+
+/// Whether the bytes are well-formed UTF-8 (no overlong forms, surrogates or values past U+10FFFF).
+bool isUtf8(std::string_view bytes);
+
+/// Bytes of an 8-bit text file as UTF-8: taken as they are when they are well-formed UTF-8, read as
+/// Windows-1252 otherwise (its five unused bytes become the C1 controls of the same value).
+std::string decodeText(std::string_view bytes);
+
+/// UTF-8 text as bytes of an 8-bit text file: Windows-1252 when every character has a place there,
+/// otherwise the UTF-8 itself.
+std::string encodeText(std::string_view utf8);
+
+} // namespace tarsil

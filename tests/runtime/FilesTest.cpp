@@ -1,0 +1,152 @@
+#include "runtime/AtomicFile.h"
+#include "runtime/MappedFile.h"
+#include "runtime/RunTimeError.h"
+
+#include "support/TestFiles.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <iterator>
+#include <string>
+
+namespace tarsil {
+
+namespace {
+
+namespace fs = std::filesystem;
+using test::fileBytes;
+using test::TemporaryFolder;
+
+template <typename Action>
+int errorOf(Action action)
+{
+    try {
+        action();
+    } catch (const RunTimeError& error) {
+        return static_cast<int>(error.number());
+    }
+    return 0;
+}
+
+std::ptrdiff_t filesIn(const TemporaryFolder& folder)
+{
+    return std::distance(fs::directory_iterator(folder.path()), fs::directory_iterator());
+}
+
+TEST(AtomicFile, putsTheNewFileInPlaceOnCommit)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.write("a.txt", "old");
+    AtomicFile file(path);
+    file.write("new");
+    file.write(" text");
+    EXPECT_EQ(fileBytes(path), "old");
+    file.commit();
+    EXPECT_EQ(fileBytes(path), "new text");
+    EXPECT_EQ(filesIn(folder), 1);
+}
+
+TEST(AtomicFile, leavesTheOldFileWithoutCommit)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.write("a.txt", "old");
+    {
+        AtomicFile file(path);
+        file.write("new");
+    }
+    EXPECT_EQ(fileBytes(path), "old");
+    EXPECT_EQ(filesIn(folder), 1);
+}
+
+TEST(AtomicFile, makesAFileThatWasNotThere)
+{
+    const TemporaryFolder folder;
+    writeFile(folder.file("new file.txt"), "text");
+    EXPECT_EQ(fileBytes(folder.file("new file.txt")), "text");
+}
+
+TEST(AtomicFile, takesBackslashesInItsPath)
+{
+    const TemporaryFolder folder;
+    writeFile(folder.path().string() + "\\a.txt", "text");
+    EXPECT_EQ(fileBytes(folder.file("a.txt")), "text");
+}
+
+TEST(AtomicFile, refusesAReadOnlyTarget)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.write("a.txt", "old");
+    fs::permissions(path, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
+    EXPECT_EQ(errorOf([&] { writeFile(path, "new"); }), 70);
+    EXPECT_EQ(fileBytes(path), "old");
+    EXPECT_EQ(filesIn(folder), 1);
+}
+
+TEST(AtomicFile, refusesATargetMadeReadOnlyBeforeCommit)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.write("a.txt", "old");
+    AtomicFile file(path);
+    file.write("new");
+    fs::permissions(path, fs::perms::owner_read);
+    EXPECT_EQ(errorOf([&] { file.commit(); }), 70);
+    EXPECT_EQ(fileBytes(path), "old");
+}
+
+TEST(AtomicFile, refusesAFolderAsTarget)
+{
+    const TemporaryFolder folder;
+    EXPECT_EQ(errorOf([&] { writeFile(folder.path().string(), "x"); }), 75);
+    EXPECT_EQ(filesIn(folder), 0);
+}
+
+TEST(AtomicFile, refusesAMissingFolder)
+{
+    const TemporaryFolder folder;
+    EXPECT_EQ(errorOf([&] { writeFile(folder.file("missing") + "/a.txt", "x"); }), 76);
+}
+
+TEST(AtomicFile, keepsThePermissionsOfTheOldFile)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.write("a.txt", "old");
+    const auto permissions = fs::perms::owner_read | fs::perms::owner_write;
+    fs::permissions(path, permissions);
+    writeFile(path, "new");
+    EXPECT_EQ(fs::status(path).permissions(), permissions);
+}
+
+TEST(AtomicFile, writesThroughASymbolicLink)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.write("a.txt", "old");
+    fs::create_symlink(path, folder.file("link.txt"));
+    writeFile(folder.file("link.txt"), "new");
+    EXPECT_TRUE(fs::is_symlink(folder.file("link.txt")));
+    EXPECT_EQ(fileBytes(path), "new");
+}
+
+TEST(MappedFile, showsTheBytesOfAFile)
+{
+    const TemporaryFolder folder;
+    const MappedFile file(folder.write("a b.txt", std::string_view("x\0y\r\n", 5)));
+    EXPECT_EQ(file.bytes(), std::string_view("x\0y\r\n", 5));
+    EXPECT_EQ(MappedFile(folder.write("empty", "")).bytes(), "");
+}
+
+TEST(MappedFile, refusesWhatIsNoFile)
+{
+    const TemporaryFolder folder;
+    const auto open = [](const std::string& path) {
+        return errorOf([&] { const MappedFile file(path); });
+    };
+    EXPECT_EQ(open(folder.file("missing")), 53);
+    EXPECT_EQ(open(folder.path().string()), 75);
+    EXPECT_EQ(open(folder.file("missing") + "/a.txt"), 76);
+    EXPECT_EQ(open("/dev/null"), 75);
+}
+
+} // namespace
+
+} // namespace tarsil

@@ -1,0 +1,58 @@
+#include "runtime/TextCodec.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace tarsil {
+
+namespace {
+
+TEST(TextCodec, takesUtf8AsItIs)
+{
+    EXPECT_EQ(decodeText("plain"), "plain");
+    EXPECT_EQ(decodeText("Fl\xC3\xBCgel"), "Fl\xC3\xBCgel");
+    EXPECT_EQ(decodeText("\xF0\x9D\x84\x9E"), "\xF0\x9D\x84\x9E");
+    EXPECT_EQ(decodeText(""), "");
+}
+
+TEST(TextCodec, readsOtherBytesAsWindows1252)
+{
+    EXPECT_EQ(decodeText("Fl\xFCgel"), "Fl\xC3\xBCgel");
+    EXPECT_EQ(decodeText("5 \x80"), "5 \xE2\x82\xAC"); // the euro sign, U+20AC
+    EXPECT_EQ(decodeText("\x96"), "\xE2\x80\x93"); // the dash, U+2013
+    EXPECT_EQ(decodeText("\x81 \xE9"), "\xC2\x81 \xC3\xA9"); // an unused byte keeps its value
+}
+
+TEST(TextCodec, tellsWellFormedUtf8)
+{
+    EXPECT_TRUE(isUtf8("\xED\x9F\xBF")); // U+D7FF
+    EXPECT_FALSE(isUtf8("\xED\xA0\x80")); // a surrogate
+    EXPECT_FALSE(isUtf8("\xC0\xAF")); // overlong
+    EXPECT_FALSE(isUtf8("\xE0\x80\x80")); // overlong
+    EXPECT_FALSE(isUtf8("\xF4\x90\x80\x80")); // past U+10FFFF
+    EXPECT_FALSE(isUtf8("\xC3")); // cut
+    EXPECT_FALSE(isUtf8("\x80")); // a continuation alone
+}
+
+TEST(TextCodec, writesWindows1252WhereEveryCharacterFits)
+{
+    EXPECT_EQ(encodeText("Fl\xC3\xBCgel \xE2\x82\xAC"), "Fl\xFCgel \x80");
+    EXPECT_EQ(encodeText("plain"), "plain");
+}
+
+TEST(TextCodec, writesUtf8WhereACharacterDoesNotFit)
+{
+    EXPECT_EQ(encodeText("\xCE\xB1 = 3\xC2\xB0"), "\xCE\xB1 = 3\xC2\xB0"); // alpha
+}
+
+TEST(TextCodec, comesBackAsItWas)
+{
+    for (const std::string text :
+         {"Fl\xC3\xBCgel", "\xCE\xB1\xC3\xBC", "\xC3\x83\xC2\xBC", "plain", "\xC3\x82\xC2\xB0"})
+        EXPECT_EQ(decodeText(encodeText(text)), text);
+}
+
+} // namespace
+
+} // namespace tarsil

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace tarsil::test {
+
+/// A folder of its own for one test, removed with everything in it.
+class TemporaryFolder
+{
+public:
+    TemporaryFolder();
+    ~TemporaryFolder();
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+    const std::filesystem::path& path() const { return m_path; }
+
+    /// The path of a file of this name in the folder.
+    std::string file(std::string_view name) const;
+
+    /// Writes such a file and returns its path.
+    std::string write(std::string_view name, std::string_view bytes) const;
+
+private:
+    std::filesystem::path m_path;
+};
+
+/// All bytes of a file.
+std::string fileBytes(const std::filesystem::path& path);
+
+/// Path of a file of the samples.
+std::string sample(std::string_view name);
+
+} // namespace tarsil::test
