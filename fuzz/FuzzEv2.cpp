@@ -1,0 +1,8 @@
+#include "FuzzReader.h"
+
+#include "model/EvolutionReaders.h"
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    return tarsil::fuzz::readTwice(tarsil::fuzz::textOf(data, size), tarsil::readEv2);
+}

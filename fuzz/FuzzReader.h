@@ -1,0 +1,54 @@
+#pragma once
+
+#include "FuzzTarget.h"
+
+#include "model/EVM.h"
+#include "runtime/RunTimeError.h"
+#include "runtime/TextStream.h"
+
+#include <cmath>
+
+namespace tarsil::fuzz {
+
+/// Whatever a file declares, its evolution must not take more memory than its bytes are worth.
+inline void requireProportion(const EVM& evolution, std::size_t bytes)
+{
+    std::size_t points = 0;
+    for (const auto& mode : evolution.Modes)
+        points += mode->Points.capacity();
+    require(points <= bytes / 16 + 64, "memory in proportion to the file");
+}
+
+inline void requireWholeTree(const EVM& evolution)
+{
+    for (const auto& mode : evolution.Modes) {
+        require(mode->Parent == &evolution, "a mode knows its evolution");
+        require(!mode->Points.empty(), "a mode has points");
+        for (const Point& point : mode->Points) {
+            require(point.Parent == mode.get(), "a point knows its mode");
+            require(std::isfinite(point.speed) && std::isfinite(point.G), "values are finite");
+        }
+    }
+}
+
+/// Reads the text with one of the readers, twice: the second time must find the same.
+template <typename Reader>
+int readTwice(std::string_view text, Reader reader)
+{
+    EVM evolutions[2];
+    for (EVM& evolution : evolutions) {
+        TextStream stream(text, "fuzz");
+        try {
+            reader(stream, evolution);
+        } catch (const RunTimeError& error) {
+            require(!error.description().empty(), "an error says what is wrong");
+            continue;
+        }
+        requireWholeTree(evolution);
+        requireProportion(evolution, text.size());
+    }
+    require(evolutions[0].Modes.size() == evolutions[1].Modes.size(), "reading is repeatable");
+    return 0;
+}
+
+} // namespace tarsil::fuzz

@@ -1,0 +1,93 @@
+#include "model/EVM.h"
+
+#include "model/EvolutionReaders.h"
+#include "model/EvolutionWriter.h"
+#include "runtime/AtomicFile.h"
+#include "runtime/MappedFile.h"
+#include "runtime/PathNames.h"
+#include "runtime/TextCodec.h"
+#include "runtime/TextStream.h"
+
+#include <utility>
+
+namespace tarsil {
+
+std::string EVM::path() const
+{
+    return joinPath(Folder, FileName);
+}
+
+void EVM::Contruct()
+{
+    const bool isOld = FileName.find(".evm") != std::string::npos;
+    if (!isOld && FileName.find(".ev2") == std::string::npos)
+        return;
+    const MappedFile file(path());
+    TextStream stream(file.bytes(), shownPath(path()));
+    EVM contents;
+    if (isOld)
+        readEvm(stream, contents);
+    else
+        readEv2(stream, contents);
+    takeContents(contents);
+}
+
+void EVM::contructFromSemicolonFile()
+{
+    const MappedFile file(path());
+    TextStream stream(file.bytes(), shownPath(path()));
+    EVM contents;
+    readSemicolonTable(stream, contents);
+    takeContents(contents);
+}
+
+void EVM::PrintEVM(std::string_view path) const
+{
+    writeFile(path, encodeText(evmText(*this)));
+}
+
+void EVM::Change(const EVM& source)
+{
+    EVM copy;
+    for (const auto& mode : source.Modes)
+        copy.appendMode().copyFrom(*mode);
+    copy.na = source.na;
+    copy.numberOfSpeeds = source.numberOfSpeeds;
+    copy.numberOfStructuralModes = source.numberOfStructuralModes;
+    copy.isNewFormat = source.isNewFormat;
+    copy.hasParticipationFactors = source.hasParticipationFactors;
+    copy.programVersion = programVersion;
+    copy.ev2Version = ev2Version;
+    copy.runningDate = runningDate;
+    copy.solverVersion = solverVersion;
+    copy.flutterMethod = flutterMethod;
+    copy.Param = Param;
+    takeContents(copy);
+}
+
+AeMode& EVM::appendMode()
+{
+    Modes.push_back(std::make_unique<AeMode>());
+    Modes.back()->Parent = this;
+    return *Modes.back();
+}
+
+void EVM::takeContents(EVM& source)
+{
+    Modes = std::move(source.Modes);
+    for (const auto& mode : Modes)
+        mode->Parent = this;
+    na = source.na;
+    numberOfSpeeds = source.numberOfSpeeds;
+    numberOfStructuralModes = source.numberOfStructuralModes;
+    isNewFormat = source.isNewFormat;
+    hasParticipationFactors = source.hasParticipationFactors;
+    programVersion = std::move(source.programVersion);
+    ev2Version = std::move(source.ev2Version);
+    runningDate = std::move(source.runningDate);
+    solverVersion = std::move(source.solverVersion);
+    flutterMethod = std::move(source.flutterMethod);
+    Param = std::move(source.Param);
+}
+
+} // namespace tarsil

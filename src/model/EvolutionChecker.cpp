@@ -1,0 +1,35 @@
+#include "model/EvolutionChecker.h"
+
+#include "model/CheckerParts.h"
+#include "runtime/MappedFile.h"
+#include "runtime/PathNames.h"
+#include "runtime/RunTimeError.h"
+#include "runtime/TextStream.h"
+
+namespace tarsil {
+
+std::vector<Finding> checkEvolution(std::string_view path)
+{
+    const MappedFile file(path);
+    return checkEvolutionText(file.bytes(), resolvePath(path).name);
+}
+
+std::vector<Finding> checkEvolutionText(std::string_view text, std::string_view fileName)
+{
+    const bool isOld = fileName.find(".evm") != std::string_view::npos;
+    if (!isOld && fileName.find(".ev2") == std::string_view::npos)
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall, "EvolutionChecker",
+                           "the name \"" + std::string(fileName)
+                               + "\" holds neither \".evm\" nor \".ev2\"");
+    FindingList findings;
+    TextStream stream(text, std::string(fileName));
+    if (stream.atEndOfStream())
+        findings.add(1, "the file is empty");
+    else if (isOld)
+        checkEvm(stream, findings);
+    else
+        checkEv2(stream, findings);
+    return findings.take();
+}
+
+} // namespace tarsil

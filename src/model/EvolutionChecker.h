@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarsil {
+
+/// Something in a modal evolution file that its reader passes over, or stops at.
+struct Finding
+{
+    std::size_t line; ///< counted from 1
+    std::string text;
+};
+
+/// Everything doubtful in the file of the name given, in the order of its lines: counts that
+/// disagree with the rows, a mode cut short, speeds that do not increase, equal speeds, a repeated
+/// mode number, a field count that carries no factors, a text in a number field, a section that is
+/// missing. At most `mostFindings` are listed, then one that says so. Errors: those of opening a
+/// file; error 5 for a name with neither ".evm" nor ".ev2".
+std::vector<Finding> checkEvolution(std::string_view path);
+
+/// The same for text in memory; `fileName` chooses the layout as in `EVM::Contruct`.
+std::vector<Finding> checkEvolutionText(std::string_view text, std::string_view fileName);
+
+constexpr std::size_t mostFindings = 1000;
+
+} // namespace tarsil

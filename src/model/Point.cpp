@@ -1,0 +1,32 @@
+#include "model/Point.h"
+
+#include "runtime/RunTimeError.h"
+
+namespace tarsil {
+
+void ParticipationFactors::append(float factor)
+{
+    if (m_count == capacity)
+        throw RunTimeError(ErrorNumber::SubscriptOutOfRange, "Point",
+                           "a point holds at most five modal participation factors");
+    m_values[m_count++] = factor;
+}
+
+void Point::Clone(const Point& source)
+{
+    kfreq = source.kfreq;
+    re = source.re;
+    im = source.im;
+    speed = source.speed;
+    G = source.G;
+    f = source.f;
+    spare1 = source.spare1;
+    spare2 = source.spare2;
+    ParticipationFactors factors;
+    for (const float factor : source.mpf)
+        factors.append(factor);
+    mpf = factors;
+    Parent = source.Parent;
+}
+
+} // namespace tarsil

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+
+namespace tarsil {
+
+class AeMode;
+
+/// The modal participation factors of one point: an ordered collection of at most five singles,
+/// kept inside the point so that a point costs no allocation of its own.
+class ParticipationFactors
+{
+public:
+    static constexpr std::size_t capacity = 5;
+
+    std::size_t size() const { return m_count; }
+    bool empty() const { return m_count == 0; }
+    float operator[](std::size_t index) const { return m_values[index]; }
+
+    /// Error 9 "Subscript out of range" when all five places are taken.
+    void append(float factor);
+
+    const float* begin() const { return m_values.data(); }
+    const float* end() const { return m_values.data() + m_count; }
+
+private:
+    std::array<float, capacity> m_values {};
+    std::uint32_t m_count = 0;
+};
+
+/// One aeroelastic mode at one speed: 64 bytes, no allocation.
+class Point
+{
+public:
+    float kfreq = 0; ///< reduced frequency, dimensionless; old format only
+    float re = 0; ///< real part of the eigenvalue; new format only
+    float im = 0; ///< imaginary part of the eigenvalue; new format only
+    float speed = 0; ///< equivalent airspeed, knots (KEAS)
+    float G = 0; ///< damping g, dimensionless; negative is stable
+    float f = 0; ///< frequency, Hz
+    float spare1 = 0; ///< filled by no reader; kept and copied
+    float spare2 = 0; ///< filled by no reader; kept and copied
+    ParticipationFactors mpf;
+    AeMode* Parent = nullptr; ///< the mode that holds this point; not owned
+
+    /// Copies the eight values of `source`, a new collection of its participation factors in the
+    /// same order, and its `Parent`.
+    void Clone(const Point& source);
+};
+
+} // namespace tarsil

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "model/EVM.h"
+#include "runtime/RunTimeError.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace tarsil::test {
+
+/// The start of an .evm file: three text lines and the line of counts, drawn as they stand in it.
+std::string evmHeader(std::string_view speeds, std::string_view modes);
+
+/// The start of an .ev2 file up to and including the four heading lines of its results.
+std::string ev2Header(std::string_view modelLines);
+
+/// An .ev2 row of so many fields: 1|1|2|3|...
+std::string ev2Row(std::size_t fields);
+
+/// What the three readers make of a text; `name` in messages is "wing.evm" and so on.
+void readEvmText(std::string_view text, EVM& evolution);
+void readEv2Text(std::string_view text, EVM& evolution);
+void readSemicolonText(std::string_view text, EVM& evolution);
+
+/// The error that `action` raises; none when it raises none.
+template <typename Action>
+std::optional<RunTimeError> errorOf(Action action)
+{
+    try {
+        action();
+    } catch (const RunTimeError& error) {
+        return error;
+    }
+    return std::nullopt;
+}
+
+} // namespace tarsil::test
