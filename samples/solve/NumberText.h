@@ -1,0 +1,17 @@
+// This header writes numbers in fixed widths for the sample files.
+#pragma once
+
+#include <string>
+
+namespace tarsil::goland {
+
+/// A number with the given digits after the point, right aligned in the width.
+std::string fixedText(double value, int width, int digits);
+
+/// A number as 0.00000E+00, right aligned in the width.
+std::string exponentText(double value, int width);
+
+/// An integer, right aligned in the width.
+std::string integerText(int value, int width);
+
+} // namespace tarsil::goland
