@@ -1,0 +1,126 @@
+#include "analysis/FlutterReport.h"
+
+#include "analysis/FlutterSearch.h"
+#include "analysis/Isa.h"
+#include "model/EVM.h"
+#include "runtime/Numbers.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tarsil {
+
+namespace {
+
+enum Column : std::size_t {
+    FileName = 1,
+    Case,
+    Mass,
+    Mach,
+    ModeNumber,
+    LargestDamping,
+    LargestDampingSpeed,
+    FirstBlock
+};
+
+constexpr std::size_t headingLine = 1;
+
+void writeHeadings(Sheet& sheet)
+{
+    sheet.setText(headingLine, FileName, "Modal Evolution");
+    sheet.setText(headingLine, Case, "Case");
+    sheet.setText(headingLine, Mass, "Mass");
+    sheet.setText(headingLine, Mach, "Mach No.");
+    sheet.setText(headingLine, ModeNumber, "Aero Mode");
+    sheet.setText(headingLine, LargestDamping, "gmax value");
+    sheet.setText(headingLine, LargestDampingSpeed, "gmax speed");
+}
+
+void writeBlockHeadings(std::size_t crossings, Sheet& sheet)
+{
+    sheet.setText(headingLine, FirstBlock, "Flutter Speed");
+    sheet.setText(headingLine, FirstBlock + crossings, "Flutter Frequency");
+    sheet.setText(headingLine, FirstBlock + 2 * crossings, "Flutter Altitude");
+    sheet.setText(headingLine, FirstBlock + 3 * crossings, "MPF(1)");
+}
+
+/// Searches every mode; the largest number of crossings that one of them has.
+std::size_t findCrossings(const std::vector<ReportRow>& rows, double gOffset)
+{
+    std::size_t largest = 0;
+    for (const ReportRow& row : rows) {
+        FlutterPtsCalc(*row.mode, gOffset);
+        largest = std::max(largest, row.mode->flutterPoints.size());
+    }
+    return largest;
+}
+
+} // namespace
+
+FlutterReport::FlutterReport(double referenceDamping, double speedLimit, MachQuestion askMach)
+    : m_referenceDamping(referenceDamping), m_speedLimit(speedLimit), m_askMach(std::move(askMach))
+{ }
+
+void FlutterReport::write(const std::vector<ReportRow>& rows, Sheet& sheet) const
+{
+    writeHeadings(sheet);
+    const std::size_t crossings = findCrossings(rows, -m_referenceDamping);
+    writeBlockHeadings(crossings, sheet);
+    std::size_t line = headingLine;
+    for (const ReportRow& row : rows)
+        writeRow(row, ++line, crossings, sheet);
+}
+
+void FlutterReport::writeRow(const ReportRow& row, std::size_t line, std::size_t crossings,
+                             Sheet& sheet) const
+{
+    const AeMode& mode = *row.mode;
+    const EVM& evolution = *mode.Parent;
+    sheet.setText(line, FileName, evolution.FileName);
+    if (evolution.isNewFormat)
+        sheet.setText(line, Case, row.caseText);
+    sheet.setText(line, Mass, evolution.Param.Mass);
+    sheet.setNumber(line, Mach, decimalValue(evolution.Param.Mach));
+    sheet.setNumber(line, ModeNumber, mode.Id);
+    writeMaximum(mode, line, sheet);
+    writeCrossings(mode, line, crossings, sheet);
+}
+
+void FlutterReport::writeMaximum(const AeMode& mode, std::size_t line, Sheet& sheet) const
+{
+    // The search leaves the speed alone when the first point is the maximum.
+    double speed = mode.Points.empty() ? 0.0 : double {mode.Points.front().speed};
+    const float damping = gMaxCalc(mode, m_speedLimit, speed);
+    sheet.setNumber(line, LargestDamping, decimalValue(damping));
+    sheet.setNumber(line, LargestDampingSpeed, decimalValue(static_cast<float>(speed)));
+}
+
+void FlutterReport::writeCrossings(const AeMode& mode, std::size_t line, std::size_t crossings,
+                                   Sheet& sheet) const
+{
+    const EVM& evolution = *mode.Parent;
+    std::size_t column = FirstBlock;
+    for (const Point& point : mode.flutterPoints) {
+        sheet.setNumber(line, column, decimalValue(point.speed));
+        sheet.setNumber(line, column + crossings, decimalValue(point.f));
+        const float mach = machNumber(evolution, line, sheet);
+        sheet.setNumber(line, column + 2 * crossings,
+                        ISA::IsaAltitude(double {point.speed}, double {mach}, "knot"));
+        if (evolution.hasParticipationFactors && !point.mpf.empty())
+            sheet.setNumber(line, column + 3 * crossings, decimalValue(point.mpf[0]));
+        ++column;
+    }
+}
+
+/// The evolution's Mach number, or the one that the user gives, which goes into the row.
+float FlutterReport::machNumber(const EVM& evolution, std::size_t line, Sheet& sheet) const
+{
+    if (evolution.Param.Mach > 0)
+        return evolution.Param.Mach;
+    const std::string answer = m_askMach(evolution, machPrompt).value_or(std::string());
+    const float mach = toSingle(answer, "FlutterReport", "Mach No. of " + evolution.FileName);
+    sheet.setNumber(line, Mach, decimalValue(mach));
+    return mach;
+}
+
+} // namespace tarsil

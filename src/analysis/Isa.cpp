@@ -1,0 +1,55 @@
+#include "analysis/Isa.h"
+
+#include "runtime/Numbers.h"
+#include "runtime/RunTimeError.h"
+
+#include <cmath>
+#include <string>
+
+namespace tarsil::ISA {
+
+namespace {
+
+constexpr double knotsPerMetrePerSecond = 1.94384449244;
+constexpr double squareOfSoundSpeed = 115794.8064; // at sea level, (m/s)^2
+constexpr double tropopauseRatio = 0.223358;
+constexpr double tropopauseAltitude = 36089; // ft
+constexpr double pressureExponent = 5.2561;
+constexpr double zeroTemperatureAltitude = 288.15 / 0.0019812; // temperature over lapse rate, ft
+
+double metresPerSecond(double speed, std::string_view units)
+{
+    if (units == "mps")
+        return speed;
+    if (units == "knot")
+        return speed / knotsPerMetrePerSecond;
+    return 0;
+}
+
+[[noreturn]] void fail(ErrorNumber number, double eas, double mach, std::string_view units)
+{
+    throw RunTimeError(number, "ISA",
+                       "altitude of " + shortestText(eas) + " " + std::string(units) + " at Mach "
+                           + shortestText(mach));
+}
+
+} // namespace
+
+double IsaAltitude(double eas, double mach, std::string_view units)
+{
+    const double speed = metresPerSecond(eas, units);
+    if (mach == 0)
+        fail(ErrorNumber::DivisionByZero, eas, mach, units);
+    const double ratio = speed / mach;
+    const double delta = ratio * ratio / squareOfSoundSpeed;
+    if (!std::isfinite(delta))
+        fail(ErrorNumber::Overflow, eas, mach, units);
+    if (delta > tropopauseRatio)
+        return (1 - std::pow(delta, 1 / pressureExponent)) * zeroTemperatureAltitude;
+    if (delta == 0)
+        fail(ErrorNumber::InvalidProcedureCall, eas, mach, units);
+    const double decay = -4.8063 * std::pow(10.0, -5.0); // per foot
+    return std::log(delta / tropopauseRatio) / decay + tropopauseAltitude;
+}
+
+} // namespace tarsil::ISA

@@ -1,0 +1,52 @@
+#include "analysis/Sheet.h"
+
+#include "runtime/Numbers.h"
+#include "runtime/RunTimeError.h"
+
+#include <algorithm>
+
+namespace tarsil {
+
+void Sheet::setText(std::size_t row, std::size_t column, std::string_view text)
+{
+    reach(row, column) = std::string(text);
+}
+
+void Sheet::setNumber(std::size_t row, std::size_t column, double number)
+{
+    reach(row, column) = number;
+}
+
+const Sheet::Cell& Sheet::cell(std::size_t row, std::size_t column) const
+{
+    static const Cell empty;
+    // Row or column 0 wraps round to the largest number, which no table reaches.
+    if (row - 1 >= m_rows.size() || column - 1 >= m_rows[row - 1].size())
+        return empty;
+    return m_rows[row - 1][column - 1];
+}
+
+std::string Sheet::textOf(const Cell& cell)
+{
+    if (const auto* text = std::get_if<std::string>(&cell))
+        return *text;
+    if (const auto* number = std::get_if<double>(&cell))
+        return shortestText(*number);
+    return {};
+}
+
+Sheet::Cell& Sheet::reach(std::size_t row, std::size_t column)
+{
+    if (row == 0 || column == 0)
+        throw RunTimeError(ErrorNumber::SubscriptOutOfRange, "Sheet",
+                           "row " + std::to_string(row) + ", column " + std::to_string(column));
+    if (m_rows.size() < row)
+        m_rows.resize(row);
+    auto& cells = m_rows[row - 1];
+    if (cells.size() < column)
+        cells.resize(column);
+    m_columnCount = std::max(m_columnCount, column);
+    return cells[column - 1];
+}
+
+} // namespace tarsil

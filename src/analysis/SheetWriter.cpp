@@ -1,0 +1,67 @@
+#include "analysis/SheetWriter.h"
+
+#include "analysis/Sheet.h"
+#include "analysis/XlsxWriter.h"
+#include "runtime/AtomicFile.h"
+#include "runtime/PathNames.h"
+#include "runtime/RunTimeError.h"
+#include "runtime/TextCodec.h"
+
+#include <string>
+
+namespace tarsil {
+
+namespace {
+
+std::string lowerCaseExtension(std::string_view path)
+{
+    std::string extension = pathText(nativePath(path).extension());
+    for (char& c : extension) {
+        if (c >= 'A' && c <= 'Z')
+            c = static_cast<char>(c - 'A' + 'a');
+    }
+    return extension;
+}
+
+std::string quoted(const std::string& text)
+{
+    if (text.find_first_of(",\"\r\n") == std::string::npos)
+        return text;
+    std::string result = "\"";
+    for (const char c : text) {
+        if (c == '"')
+            result += c;
+        result += c;
+    }
+    return result + '"';
+}
+
+std::string csvText(const Sheet& sheet)
+{
+    std::string text;
+    for (std::size_t row = 1; row <= sheet.rowCount(); ++row) {
+        for (std::size_t column = 1; column <= sheet.columnCount(); ++column) {
+            if (column > 1)
+                text += ',';
+            text += quoted(Sheet::textOf(sheet.cell(row, column)));
+        }
+        text += "\r\n";
+    }
+    return text;
+}
+
+} // namespace
+
+void writeSheet(const Sheet& sheet, std::string_view path)
+{
+    const std::string extension = lowerCaseExtension(path);
+    if (extension == ".xlsx")
+        writeXlsx(sheet, path);
+    else if (extension == ".csv")
+        writeFile(path, encodeText(csvText(sheet)));
+    else
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall, "SheetWriter",
+                           std::string(path) + " ends neither in .xlsx nor in .csv");
+}
+
+} // namespace tarsil

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string_view>
+
+namespace tarsil {
+
+class Sheet;
+
+/// Writes the sheet to a file, whole or not at all. The extension of `path`, in any case, chooses
+/// the form:
+///
+///     .xlsx  one sheet; numbers as numbers, every text as text (also one that begins with "=");
+///            the first row in bold and frozen; equal sheets give equal bytes
+///     .csv   commas between the cells, CR LF behind each row, double quotes around a text that
+///            holds a comma, a quote or a line end; a decimal point whatever the locale; 8-bit text
+///
+/// Errors: 5 for another extension, or a sheet or text beyond what a spreadsheet can hold; those of
+/// writing a file (57, 61, 70, 75, 76).
+void writeSheet(const Sheet& sheet, std::string_view path);
+
+} // namespace tarsil

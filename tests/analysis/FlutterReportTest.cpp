@@ -1,0 +1,295 @@
+#include "analysis/FlutterReport.h"
+
+#include "analysis/Isa.h"
+#include "analysis/ModeBuilder.h"
+#include "runtime/Numbers.h"
+#include "runtime/RunTimeError.h"
+
+#include <gtest/gtest.h>
+
+using namespace tarsil;
+using test::addMode;
+
+namespace {
+
+std::string text(const Sheet& sheet, std::size_t row, std::size_t column)
+{
+    return Sheet::textOf(sheet.cell(row, column));
+}
+
+double number(const Sheet& sheet, std::size_t row, std::size_t column)
+{
+    const auto* value = std::get_if<double>(&sheet.cell(row, column));
+    EXPECT_NE(value, nullptr) << "no number in row " << row << ", column " << column;
+    return value != nullptr ? *value : 0;
+}
+
+bool isEmpty(const Sheet& sheet, std::size_t row, std::size_t column)
+{
+    return std::holds_alternative<std::monostate>(sheet.cell(row, column));
+}
+
+/// Answers nothing; a test that expects no question fails.
+std::optional<std::string> noQuestion(const EVM&, std::string_view)
+{
+    ADD_FAILURE() << "asked for a Mach number";
+    return std::nullopt;
+}
+
+/// Counts the questions and gives the same answer to each.
+struct Answer
+{
+    std::optional<std::string> text;
+    int questions = 0;
+
+    FlutterReport::MachQuestion asker()
+    {
+        return [this](const EVM&, std::string_view prompt) {
+            EXPECT_EQ(prompt,
+                      "Tarsil does not know the Mach No.Please enter manually or use EV2 files.");
+            ++questions;
+            return text;
+        };
+    }
+};
+
+void describe(EVM& evolution, bool isNew)
+{
+    evolution.FileName = isNew ? "wing.ev2" : "wing.evm";
+    evolution.isNewFormat = isNew;
+    evolution.Param.Mass = "FULL FUEL";
+    evolution.Param.Mach = isNew ? 0.78F : 0.0F;
+}
+
+RunTimeError errorOf(const FlutterReport& report, const std::vector<ReportRow>& rows, Sheet& sheet)
+{
+    try {
+        report.write(rows, sheet);
+    } catch (const RunTimeError& error) {
+        return error;
+    }
+    ADD_FAILURE() << "no error";
+    return {ErrorNumber::InvalidProcedureCall, "", ""};
+}
+
+} // namespace
+
+TEST(Report, asksInTheGivenWords)
+{
+    EXPECT_EQ(FlutterReport::dampingPrompt, "Enter reference damping (g) for flutter calculation:");
+    EXPECT_EQ(FlutterReport::speedLimitPrompt, "Enter speed limit for maximum damping calculation");
+}
+
+TEST(Report, laysOutBlocksOfTheLargestNumberOfCrossings)
+{
+    EVM evolution;
+    describe(evolution, true);
+    evolution.hasParticipationFactors = true;
+    AeMode& first = addMode(evolution, 3, {{300, -1, 4}, {400, 1, 6}});
+    AeMode& second = addMode(evolution, 5, {{200, -1, 8}, {300, 1, 10}, {400, -1, 14}});
+    for (AeMode* mode : {&first, &second}) {
+        for (Point& point : mode->Points)
+            point.mpf.append(point.f * 10);
+    }
+    Sheet sheet;
+    FlutterReport(0, 350, noQuestion).write({{&first, "case A"}, {&second, "case B"}}, sheet);
+
+    const std::vector<std::string> headings = {"Modal Evolution",
+                                               "Case",
+                                               "Mass",
+                                               "Mach No.",
+                                               "Aero Mode",
+                                               "gmax value",
+                                               "gmax speed",
+                                               "Flutter Speed",
+                                               "",
+                                               "Flutter Frequency",
+                                               "",
+                                               "Flutter Altitude",
+                                               "",
+                                               "MPF(1)",
+                                               ""};
+    for (std::size_t i = 0; i < headings.size(); ++i)
+        EXPECT_EQ(text(sheet, 1, i + 1), headings[i]) << "column " << i + 1;
+    EXPECT_EQ(sheet.rowCount(), 3U);
+    EXPECT_EQ(sheet.columnCount(), 15U);
+
+    EXPECT_EQ(text(sheet, 2, 1), "wing.ev2");
+    EXPECT_EQ(text(sheet, 2, 2), "case A");
+    EXPECT_EQ(text(sheet, 2, 3), "FULL FUEL");
+    EXPECT_EQ(number(sheet, 2, 4), 0.78) << "not 0.7799999713897705, the single as a double";
+    EXPECT_EQ(number(sheet, 2, 5), 3);
+    EXPECT_EQ(number(sheet, 2, 6), -1) << "350 KEAS is before the second point";
+    EXPECT_EQ(number(sheet, 2, 7), 300) << "the speed of the first point, which is the maximum";
+
+    // Half-way between the points, all of them.
+    EXPECT_EQ(number(sheet, 2, 8), 350);
+    EXPECT_TRUE(isEmpty(sheet, 2, 9));
+    EXPECT_EQ(number(sheet, 2, 10), 5);
+    EXPECT_TRUE(isEmpty(sheet, 2, 11));
+    EXPECT_EQ(number(sheet, 2, 12), ISA::IsaAltitude(350, double {0.78F}, "knot"));
+    EXPECT_EQ(number(sheet, 2, 14), 50);
+
+    EXPECT_EQ(number(sheet, 3, 6), 1);
+    EXPECT_EQ(number(sheet, 3, 7), 300);
+    EXPECT_EQ(number(sheet, 3, 8), 250);
+    EXPECT_EQ(number(sheet, 3, 9), 350);
+    EXPECT_EQ(number(sheet, 3, 10), 9);
+    EXPECT_EQ(number(sheet, 3, 11), 12);
+    EXPECT_EQ(number(sheet, 3, 13), ISA::IsaAltitude(350, double {0.78F}, "knot"));
+    EXPECT_EQ(number(sheet, 3, 14), 90);
+    EXPECT_EQ(number(sheet, 3, 15), 120);
+}
+
+TEST(Report, looksForTheReferenceDampingItself)
+{
+    EVM evolution;
+    describe(evolution, true);
+    AeMode& mode = addMode(evolution, 1, {{300, -0.5F, 4}, {400, 0.5F, 8}});
+    Sheet sheet;
+    FlutterReport(-0.25, 1000, noQuestion).write({{&mode, ""}}, sheet);
+    EXPECT_EQ(number(sheet, 2, 8), 325); // a quarter of the way from -0.5 to 0.5
+}
+
+TEST(Report, writesSinglesAsAPersonReadsThem)
+{
+    EVM evolution;
+    describe(evolution, true);
+    AeMode& mode = addMode(evolution, 1, {{352.1F, -0.0131F}, {400, -0.2F}});
+    Sheet sheet;
+    FlutterReport(0, 1000, noQuestion).write({{&mode, ""}}, sheet);
+    EXPECT_EQ(number(sheet, 2, 6), -0.0131);
+    EXPECT_EQ(number(sheet, 2, 7), 352.1);
+}
+
+TEST(Report, writesAllBlockHeadingsIntoOneColumnWithoutCrossings)
+{
+    EVM evolution;
+    describe(evolution, true);
+    AeMode& mode = addMode(evolution, 1, {{300, -2, 4}, {400, -1, 8}});
+    Sheet sheet;
+    FlutterReport(0, 1000, noQuestion).write({{&mode, "case"}}, sheet);
+    EXPECT_EQ(text(sheet, 1, 8), "MPF(1)");
+    EXPECT_EQ(sheet.columnCount(), 8U);
+    EXPECT_TRUE(isEmpty(sheet, 2, 8));
+}
+
+TEST(Report, hasHeadingsWithoutRows)
+{
+    Sheet sheet;
+    FlutterReport(0, 1000, noQuestion).write({}, sheet);
+    EXPECT_EQ(sheet.rowCount(), 1U);
+    EXPECT_EQ(text(sheet, 1, 1), "Modal Evolution");
+    EXPECT_EQ(text(sheet, 1, 8), "MPF(1)");
+}
+
+TEST(Report, leavesTheCaseOfAnOldFormatEmpty)
+{
+    EVM evolution;
+    describe(evolution, false);
+    AeMode& mode = addMode(evolution, 1, {{300, -2, 4}, {400, -1, 8}});
+    Sheet sheet;
+    FlutterReport(0, 1000, noQuestion).write({{&mode, "case"}}, sheet);
+    EXPECT_TRUE(isEmpty(sheet, 2, 2));
+    EXPECT_EQ(number(sheet, 2, 4), 0) << "no crossing, so the Mach number was not asked for";
+}
+
+TEST(Report, leavesFactorsOutWhereTheEvolutionHasNone)
+{
+    EVM evolution;
+    describe(evolution, true);
+    AeMode& mode = addMode(evolution, 1, {{300, -1, 4}, {400, 1, 8}});
+    for (Point& point : mode.Points)
+        point.mpf.append(1);
+    Sheet sheet;
+    FlutterReport(0, 1000, noQuestion).write({{&mode, ""}}, sheet);
+    EXPECT_TRUE(isEmpty(sheet, 2, 11));
+    EXPECT_EQ(text(sheet, 1, 11), "MPF(1)");
+}
+
+TEST(Report, toleratesACrossingWithoutFactors)
+{
+    EVM evolution;
+    describe(evolution, true);
+    evolution.hasParticipationFactors = true;
+    AeMode& mode = addMode(evolution, 1, {{300, -1, 4}, {400, 1, 8}});
+    Sheet sheet;
+    EXPECT_NO_THROW(FlutterReport(0, 1000, noQuestion).write({{&mode, ""}}, sheet));
+    EXPECT_TRUE(isEmpty(sheet, 2, 11));
+}
+
+TEST(Report, asksForTheMachNumberOncePerCrossing)
+{
+    EVM evolution;
+    describe(evolution, false);
+    AeMode& first = addMode(evolution, 1, {{200, -1, 1}, {300, 1, 1}, {400, -1, 1}});
+    AeMode& second = addMode(evolution, 2, {{200, -1, 1}, {300, 1, 1}});
+    AeMode& stable = addMode(evolution, 3, {{200, -1, 1}, {300, -1, 1}});
+    Answer answer {"0.5"};
+    Sheet sheet;
+    FlutterReport(0, 1000, answer.asker())
+        .write({{&first, ""}, {&second, ""}, {&stable, ""}}, sheet);
+    EXPECT_EQ(answer.questions, 3);
+    EXPECT_EQ(number(sheet, 2, 4), 0.5);
+    EXPECT_EQ(number(sheet, 2, 12), ISA::IsaAltitude(250, 0.5, "knot"));
+    EXPECT_EQ(number(sheet, 3, 4), 0.5);
+    EXPECT_EQ(number(sheet, 4, 4), 0);
+}
+
+TEST(Report, takesNoAnswerAndAWrongAnswerAsTypeMismatch)
+{
+    EVM evolution;
+    describe(evolution, false);
+    AeMode& mode = addMode(evolution, 1, {{200, -1, 1}, {300, 1, 1.5F}});
+    const std::optional<std::string> answers[] = {std::nullopt, "", "fast"};
+    for (const auto& text : answers) {
+        Answer answer {text};
+        Sheet sheet;
+        const RunTimeError error =
+            errorOf(FlutterReport(0, 1000, answer.asker()), {{&mode, ""}}, sheet);
+        EXPECT_EQ(error.number(), ErrorNumber::TypeMismatch);
+        EXPECT_EQ(number(sheet, 2, 8), 250) << "the cells written so far stay";
+        EXPECT_EQ(number(sheet, 2, 9), 1.25);
+        EXPECT_TRUE(isEmpty(sheet, 2, 10));
+    }
+}
+
+TEST(Report, keepsTheAnswerThatMakesTheAltitudeFail)
+{
+    EVM evolution;
+    describe(evolution, false);
+    AeMode& mode = addMode(evolution, 1, {{200, -1, 1}, {300, 1, 1}});
+    Answer answer {"0"};
+    Sheet sheet;
+    const RunTimeError error =
+        errorOf(FlutterReport(0, 1000, answer.asker()), {{&mode, ""}}, sheet);
+    EXPECT_EQ(error.number(), ErrorNumber::DivisionByZero);
+    EXPECT_EQ(number(sheet, 2, 4), 0);
+}
+
+TEST(Report, keepsTheFirstHeadingsWhenASearchFails)
+{
+    EVM evolution;
+    describe(evolution, true);
+    AeMode& mode = addMode(evolution, 1, {{300, -1, 1}, {300, 1, 1}});
+    Sheet sheet;
+    const RunTimeError error = errorOf(FlutterReport(0, 1000, noQuestion), {{&mode, ""}}, sheet);
+    EXPECT_EQ(error.number(), ErrorNumber::DivisionByZero);
+    EXPECT_EQ(sheet.rowCount(), 1U);
+    EXPECT_EQ(sheet.columnCount(), 7U);
+}
+
+TEST(Report, keepsTheRowsBeforeAModeWithoutPoints)
+{
+    EVM evolution;
+    describe(evolution, true);
+    AeMode& good = addMode(evolution, 1, {{300, -1, 1}});
+    AeMode& empty = addMode(evolution, 2, {});
+    Sheet sheet;
+    const RunTimeError error =
+        errorOf(FlutterReport(0, 1000, noQuestion), {{&good, ""}, {&empty, ""}}, sheet);
+    EXPECT_EQ(error.number(), ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(number(sheet, 2, 6), -1);
+    EXPECT_EQ(number(sheet, 3, 5), 2);
+    EXPECT_TRUE(isEmpty(sheet, 3, 6));
+}

@@ -1,0 +1,118 @@
+#include "analysis/Isa.h"
+
+#include "runtime/RunTimeError.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+using namespace tarsil;
+using ISA::IsaAltitude;
+
+namespace {
+
+constexpr double knots = 1.94384449244; // in a metre per second
+constexpr double squareOfSoundSpeed = 115794.8064; // (m/s)^2
+constexpr double feetPerMetre = 1 / 0.3048; // by definition
+
+/// The equivalent airspeed (m/s) that belongs to Mach 1 at a pressure ratio.
+double speedAtRatio(double delta)
+{
+    return std::sqrt(delta * squareOfSoundSpeed);
+}
+
+ErrorNumber errorOf(double eas, double mach, const char* units)
+{
+    try {
+        IsaAltitude(eas, mach, units);
+    } catch (const RunTimeError& error) {
+        EXPECT_EQ(error.source(), "ISA");
+        return error.number();
+    }
+    ADD_FAILURE() << "no error";
+    return {};
+}
+
+} // namespace
+
+TEST(Isa, givesTheAltitudeOfAKnownSpeedAndMachNumber)
+{
+    // By hand: v = 154.333 m/s, delta = (154.333 / 0.5)^2 / 115794.8064 = 0.82279,
+    // h = (1 - 0.82279^0.190255) * 145442.16 ft = 0.03643 * 145442.16 ft.
+    EXPECT_NEAR(IsaAltitude(300, 0.5, "knot"), 5298, 1);
+}
+
+TEST(Isa, takesMetresPerSecond)
+{
+    EXPECT_DOUBLE_EQ(IsaAltitude(300 / knots, 0.5, "mps"), IsaAltitude(300, 0.5, "knot"));
+}
+
+TEST(Isa, agreesWithThePublishedPressuresOfTheStandardAtmosphere)
+{
+    // ISO 2533:1975, table of geopotential altitude (m) and pressure (hPa); 1013.25 hPa at 0 m. The
+    // rounded constants are good for a few feet.
+    const struct
+    {
+        double metres;
+        double hectopascals;
+        double toleranceInFeet;
+    } rows[] = {{0, 1013.25, 0.01},  {1000, 898.746, 1},  {5000, 540.199, 2},  {10000, 264.363, 3},
+                {11000, 226.320, 3}, {15000, 120.445, 5}, {20000, 54.7487, 10}};
+    for (const auto& row : rows)
+        EXPECT_NEAR(IsaAltitude(speedAtRatio(row.hectopascals / 1013.25), 1, "mps"),
+                    row.metres * feetPerMetre, row.toleranceInFeet)
+            << row.metres << " m";
+}
+
+TEST(Isa, isNegativeBelowTheSea)
+{
+    // ISO 2533:1975: 1139.29 hPa at -1000 m.
+    EXPECT_NEAR(IsaAltitude(speedAtRatio(1139.29 / 1013.25), 1, "mps"), -1000 * feetPerMetre, 2);
+}
+
+TEST(Isa, usesTheStratosphereAtTheBoundary)
+{
+    // The ratio 0.223358 itself takes the logarithm of 1. A square root squared may be off by a
+    // last bit, so the speed is the largest whose ratio does not pass the boundary.
+    double boundary = speedAtRatio(0.223358);
+    while (boundary * boundary / squareOfSoundSpeed > 0.223358)
+        boundary = std::nextafter(boundary, 0.0);
+    EXPECT_NEAR(IsaAltitude(boundary, 1, "mps"), 36089, 1e-6);
+    EXPECT_GT(IsaAltitude(speedAtRatio(0.22335), 1, "mps"), 36089);
+    // (1 - 0.22336^(1/5.2561)) * 145442.156 ft; the two laws meet only roughly.
+    const double below = IsaAltitude(speedAtRatio(0.22336), 1, "mps");
+    EXPECT_LT(below, 36089);
+    EXPECT_NEAR(below, 36088, 1);
+}
+
+TEST(Isa, followsTheExponentialLawAboveTheTropopause)
+{
+    // A pressure falls to 1/e within 1 / 4.8063e-5 ft.
+    EXPECT_NEAR(IsaAltitude(speedAtRatio(0.223358 / std::exp(1.0)), 1, "mps"),
+                36089 + 1 / 4.8063e-5, 1e-6);
+}
+
+TEST(Isa, refusesMachZero)
+{
+    EXPECT_EQ(errorOf(300, 0, "knot"), ErrorNumber::DivisionByZero);
+}
+
+TEST(Isa, refusesSpeedZero)
+{
+    EXPECT_EQ(errorOf(0, 0.5, "knot"), ErrorNumber::InvalidProcedureCall);
+}
+
+TEST(Isa, comparesUnitsExactly)
+{
+    EXPECT_EQ(errorOf(300, 0.5, "Knot"), ErrorNumber::InvalidProcedureCall);
+    EXPECT_EQ(errorOf(300, 0.5, "m/s"), ErrorNumber::InvalidProcedureCall);
+    EXPECT_EQ(errorOf(300, 0.5, ""), ErrorNumber::InvalidProcedureCall);
+}
+
+TEST(Isa, refusesWhatNoDoubleHolds)
+{
+    EXPECT_EQ(errorOf(1e200, 1, "mps"), ErrorNumber::Overflow);
+    EXPECT_EQ(errorOf(300, std::numeric_limits<double>::denorm_min(), "knot"),
+              ErrorNumber::Overflow);
+}

@@ -1,0 +1,56 @@
+#include "analysis/FlutterSearch.h"
+#include "model/Session.h"
+#include "support/TestFiles.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+
+using namespace tarsil;
+
+// The uniform cantilever wing of M. Goland and Y. L. Luke, "The Flutter of a Uniform Wing with Tip
+// Weights", Journal of Applied Mechanics 15 (1948), pp. 13-20: at sea level the wing without tip
+// weight flutters at 137.2 m/s (266.7 KEAS) with 70.7 rad/s (11.25 Hz). The samples come from a
+// strip theory with a few beam modes, tabulated every few knots: 1 % in speed and 2 % in frequency
+// are what such a model is good for.
+
+namespace {
+
+constexpr double knots = 1.94384449244; // in a metre per second
+constexpr double publishedSpeed = 137.2 * knots;
+constexpr double publishedFrequency = 70.7 / (2 * 3.14159265358979);
+
+/// The crossing of zero damping at the lowest speed, over all modes of a sample.
+std::optional<Point> firstFlutterPoint(const char* name)
+{
+    Session session;
+    std::optional<Point> first;
+    for (const auto& mode : session.open(test::sample(name)).Modes) {
+        FlutterPtsCalc(*mode, 0);
+        for (const Point& point : mode->flutterPoints) {
+            if (!first || point.speed < first->speed)
+                first = point;
+        }
+    }
+    return first;
+}
+
+void expectPublishedFlutter(const char* name)
+{
+    const auto found = firstFlutterPoint(name);
+    ASSERT_TRUE(found.has_value()) << name << " does not flutter";
+    EXPECT_NEAR(double {found->speed}, publishedSpeed, 0.01 * publishedSpeed) << name;
+    EXPECT_NEAR(double {found->f}, publishedFrequency, 0.02 * publishedFrequency) << name;
+}
+
+} // namespace
+
+TEST(KnownFlutterSpeed, ofTheGolandWingIsFoundInTheSectionedSample)
+{
+    expectPublishedFlutter("goland_clean_m040.ev2");
+}
+
+TEST(KnownFlutterSpeed, ofTheGolandWingIsFoundInTheFixedColumnSample)
+{
+    expectPublishedFlutter("goland_clean_m040.evm");
+}

@@ -1,0 +1,226 @@
+#include "analysis/SheetWriter.h"
+
+#include "analysis/Sheet.h"
+#include "analysis/XlsxReader.h"
+#include "runtime/RunTimeError.h"
+#include "support/TestFiles.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <string>
+#include <sys/resource.h>
+
+using namespace tarsil;
+using test::fileBytes;
+using test::TemporaryFolder;
+using ::testing::HasSubstr;
+
+namespace {
+
+Sheet example()
+{
+    Sheet sheet;
+    sheet.setText(1, 1, "Modal Evolution");
+    sheet.setText(1, 2, "gmax value");
+    sheet.setText(2, 1, "wing, \"full\".ev2");
+    sheet.setNumber(2, 2, -0.0131);
+    sheet.setText(3, 1, "=1+1");
+    sheet.setText(4, 1, "Fl\xC3\xBCgel");
+    sheet.setNumber(4, 4, 352.1);
+    return sheet;
+}
+
+RunTimeError errorOf(const Sheet& sheet, const std::string& path)
+{
+    try {
+        writeSheet(sheet, path);
+    } catch (const RunTimeError& error) {
+        return error;
+    }
+    ADD_FAILURE() << "no error";
+    return {ErrorNumber::InvalidProcedureCall, "", ""};
+}
+
+std::size_t fileCount(const TemporaryFolder& folder)
+{
+    std::size_t count = 0;
+    for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(folder.path()))
+        ++count;
+    return count;
+}
+
+/// Lets no file of this process grow beyond so many bytes, as on a full disk.
+class FileSizeLimit
+{
+public:
+    explicit FileSizeLimit(rlim_t bytes)
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        rlimit limit = m_before;
+        limit.rlim_cur = bytes;
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit() { setrlimit(RLIMIT_FSIZE, &m_before); }
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+private:
+    rlimit m_before {};
+};
+
+} // namespace
+
+TEST(SheetAsCsv, quotesWhereNeededAndEndsLinesWithCrLf)
+{
+    const TemporaryFolder folder;
+    writeSheet(example(), folder.file("a.csv"));
+    EXPECT_EQ(fileBytes(folder.file("a.csv")),
+              "Modal Evolution,gmax value,,\r\n"
+              "\"wing, \"\"full\"\".ev2\",-0.0131,,\r\n"
+              "=1+1,,,\r\n"
+              "Fl\xFCgel,,,352.1\r\n");
+}
+
+TEST(SheetAsCsv, isUtf8WhereTheEightBitTextHasNoPlace)
+{
+    const TemporaryFolder folder;
+    Sheet sheet;
+    sheet.setText(1, 1, "\xCE\xB1, line\nend");
+    writeSheet(sheet, folder.file("a.csv"));
+    EXPECT_EQ(fileBytes(folder.file("a.csv")), "\"\xCE\xB1, line\nend\"\r\n");
+}
+
+TEST(SheetAsXlsx, readsBackAsItWas)
+{
+    const TemporaryFolder folder;
+    const Sheet sheet = example();
+    writeSheet(sheet, folder.file("a.xlsx"));
+    const Sheet back = test::readXlsx(folder.file("a.xlsx"));
+    ASSERT_EQ(back.rowCount(), sheet.rowCount());
+    ASSERT_EQ(back.columnCount(), sheet.columnCount());
+    for (std::size_t row = 1; row <= sheet.rowCount(); ++row) {
+        for (std::size_t column = 1; column <= sheet.columnCount(); ++column)
+            EXPECT_EQ(back.cell(row, column), sheet.cell(row, column)) << row << ", " << column;
+    }
+    EXPECT_EQ(fileCount(folder), 1U) << "no temporary file is left";
+}
+
+TEST(SheetAsXlsx, keepsTheWholePrecisionOfANumber)
+{
+    const TemporaryFolder folder;
+    Sheet sheet;
+    sheet.setNumber(1, 1, 5298.3141592653589);
+    sheet.setNumber(1, 2, 1e-7);
+    sheet.setText(1, 3, "x");
+    writeSheet(sheet, folder.file("a.xlsx"));
+    const Sheet back = test::readXlsx(folder.file("a.xlsx"));
+    // Spreadsheets keep 15 to 16 significant digits.
+    EXPECT_NEAR(std::get<double>(back.cell(1, 1)), 5298.3141592653589, 1e-11);
+    EXPECT_EQ(std::get<double>(back.cell(1, 2)), 1e-7);
+}
+
+TEST(SheetAsXlsx, hasABoldFrozenHeadingAndATitle)
+{
+    const TemporaryFolder folder;
+    writeSheet(example(), folder.file("a.xlsx"));
+    const std::string page = test::zipPart(folder.file("a.xlsx"), "xl/worksheets/sheet1.xml");
+    EXPECT_THAT(page, HasSubstr("state=\"frozen\""));
+    EXPECT_THAT(page, HasSubstr("ySplit=\"1\""));
+    EXPECT_THAT(page, HasSubstr("<c r=\"A1\" s=\"1\""));
+    EXPECT_THAT(page, HasSubstr("customWidth"));
+    EXPECT_THAT(test::zipPart(folder.file("a.xlsx"), "xl/styles.xml"), HasSubstr("<b/>"));
+    EXPECT_THAT(test::zipPart(folder.file("a.xlsx"), "docProps/core.xml"),
+                HasSubstr("<dc:title>Flutter speeds</dc:title>"));
+}
+
+TEST(SheetAsXlsx, givesEqualBytesForEqualSheets)
+{
+    const TemporaryFolder folder;
+    writeSheet(example(), folder.file("a.xlsx"));
+    writeSheet(example(), folder.file("b.xlsx"));
+    EXPECT_EQ(fileBytes(folder.file("a.xlsx")), fileBytes(folder.file("b.xlsx")));
+    EXPECT_THAT(test::zipPart(folder.file("a.xlsx"), "docProps/core.xml"), HasSubstr("1980-01-01"));
+}
+
+TEST(SheetAsXlsx, takesTextThatIsNoUtf8)
+{
+    const TemporaryFolder folder;
+    Sheet sheet;
+    sheet.setText(1, 1, "Fl\xFCgel.ev2"); // a file name in an 8-bit encoding
+    writeSheet(sheet, folder.file("a.xlsx"));
+    EXPECT_EQ(Sheet::textOf(test::readXlsx(folder.file("a.xlsx")).cell(1, 1)), "Fl\xC3\xBCgel.ev2");
+}
+
+TEST(SheetAsXlsx, refusesATextThatNoCellHolds)
+{
+    const TemporaryFolder folder;
+    Sheet sheet;
+    sheet.setText(1, 1, std::string(40000, 'x')); // a cell holds 32767 characters
+    const RunTimeError error = errorOf(sheet, folder.file("a.xlsx"));
+    EXPECT_EQ(error.number(), ErrorNumber::InvalidProcedureCall);
+    EXPECT_EQ(fileCount(folder), 0U);
+}
+
+TEST(SheetFile, isChosenByTheExtensionInAnyCase)
+{
+    const TemporaryFolder folder;
+    writeSheet(example(), folder.file("A.XLSX"));
+    writeSheet(example(), folder.file("A.Csv"));
+    EXPECT_EQ(fileBytes(folder.file("A.XLSX")).substr(0, 2), "PK");
+    EXPECT_EQ(fileBytes(folder.file("A.Csv")).substr(0, 5), "Modal");
+}
+
+TEST(SheetFile, refusesAnotherExtensionByName)
+{
+    const TemporaryFolder folder;
+    const RunTimeError error = errorOf(example(), folder.file("report.ods"));
+    EXPECT_EQ(error.number(), ErrorNumber::InvalidProcedureCall);
+    EXPECT_THAT(error.description(), HasSubstr("report.ods"));
+    EXPECT_EQ(fileCount(folder), 0U);
+}
+
+TEST(SheetFile, saysWhenTheFolderIsMissing)
+{
+    const TemporaryFolder folder;
+    EXPECT_EQ(errorOf(example(), folder.file("none/a.xlsx")).number(), ErrorNumber::PathNotFound);
+    EXPECT_EQ(errorOf(example(), folder.file("none/a.csv")).number(), ErrorNumber::PathNotFound);
+}
+
+TEST(SheetFile, saysWhenTheNameIsThatOfAFolder)
+{
+    const TemporaryFolder folder;
+    std::filesystem::create_directory(folder.file("a.xlsx"));
+    EXPECT_EQ(errorOf(example(), folder.file("a.xlsx")).number(), ErrorNumber::PathFileAccess);
+}
+
+TEST(SheetFile, leavesAReadOnlyFileAsItIs)
+{
+    const TemporaryFolder folder;
+    for (const char* name : {"a.xlsx", "a.csv"}) {
+        const std::string path = folder.write(name, "old");
+        std::filesystem::permissions(path, std::filesystem::perms::owner_read);
+        EXPECT_EQ(errorOf(example(), path).number(), ErrorNumber::PermissionDenied);
+        EXPECT_EQ(fileBytes(path), "old");
+    }
+    EXPECT_EQ(fileCount(folder), 2U);
+}
+
+TEST(SheetFile, leavesTheOldFileWhenTheNewOneDoesNotFit)
+{
+    const TemporaryFolder folder;
+    Sheet sheet;
+    for (std::size_t row = 1; row <= 2000; ++row)
+        sheet.setNumber(row, 1, static_cast<double>(row) * 1.37);
+    for (const char* name : {"a.xlsx", "a.csv"}) {
+        const std::string path = folder.write(name, "old");
+        {
+            const FileSizeLimit limit(4096);
+            EXPECT_EQ(errorOf(sheet, path).number(), ErrorNumber::PathFileAccess) << name;
+        }
+        EXPECT_EQ(fileBytes(path), "old");
+    }
+    EXPECT_EQ(fileCount(folder), 2U);
+}
