@@ -1,0 +1,7 @@
+#include "plot/DeviceContext.h"
+
+namespace tarsil {
+
+DeviceContext::~DeviceContext() = default;
+
+} // namespace tarsil

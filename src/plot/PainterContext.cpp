@@ -1,0 +1,279 @@
+#include "plot/PainterContext.h"
+
+#include "plot/PixelMath.h"
+
+#include <QLineF>
+#include <QPaintEngine>
+#include <QPainter>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace tarsil {
+
+namespace {
+
+constexpr qsizetype longestPolyline = 4096;
+/// The raster engine takes ten times as long for round joints as for plain lines; so narrow ones
+/// with square ends, half a pixel or two longer, look no different.
+constexpr double narrowLine = 4;
+/// Painters are exact only so far from the surface; a line that goes farther is cut there.
+constexpr double guardBand = 16000;
+
+QColor colorOf(ColorValue color)
+{
+    return {color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF};
+}
+
+/// Lengths of dashes and gaps in pixels, measured on the platform's own pens.
+QList<qreal> dashPattern(int style)
+{
+    switch (style) {
+    case penstyle::dash:
+        return {18, 6};
+    case penstyle::dot:
+        return {3, 3};
+    case penstyle::dashDot:
+        return {9, 6, 3, 6};
+    case penstyle::dashDotDot:
+        return {9, 3, 3, 3, 3, 3};
+    default:
+        return {};
+    }
+}
+
+bool isDashed(const Pen& pen)
+{
+    return pen.width <= 1 && pen.style >= penstyle::dash && pen.style <= penstyle::dashDotDot;
+}
+
+QPen painterPen(const Pen& pen)
+{
+    const int width = std::max(pen.width, 1);
+    QPen result(colorOf(pen.color), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+    if (width == 1) { // caps and joins of so thin a line are not seen, but cost time
+        result.setCapStyle(isDashed(pen) ? Qt::FlatCap : Qt::SquareCap);
+        result.setJoinStyle(Qt::BevelJoin);
+    }
+    if (isDashed(pen))
+        result.setDashPattern(dashPattern(pen.style));
+    return result;
+}
+
+QPointF pixelCentre(QPoint pixel)
+{
+    return {pixel.x() + 0.5, pixel.y() + 0.5};
+}
+
+bool insideGuardBand(QPointF point)
+{
+    return std::abs(point.x()) <= guardBand && std::abs(point.y()) <= guardBand;
+}
+
+/// Cuts a line to the guard band (Liang and Barsky 1984); false when nothing is left.
+bool cutToGuardBand(QPointF& from, QPointF& to)
+{
+    const QPointF way = to - from;
+    const std::array<std::array<double, 2>, 4> borders = {{{-way.x(), from.x() + guardBand},
+                                                           {way.x(), guardBand - from.x()},
+                                                           {-way.y(), from.y() + guardBand},
+                                                           {way.y(), guardBand - from.y()}}};
+    double first = 0;
+    double last = 1;
+    for (const auto& [direction, distance] : borders) {
+        if (direction == 0 && distance < 0)
+            return false;
+        if (direction < 0)
+            first = std::max(first, distance / direction);
+        else if (direction > 0)
+            last = std::min(last, distance / direction);
+    }
+    if (first > last)
+        return false;
+    to = from + last * way;
+    from += first * way;
+    return true;
+}
+
+bool isRaster(const QPainter& painter)
+{
+    return painter.paintEngine()->type() == QPaintEngine::Raster;
+}
+
+/// Whether the raster engine draws lines of one unit's width in its own fast way: one pixel for
+/// each step of the longer side, shared with its neighbour.
+bool drawsThinLinesByPixels(const QPainter& painter)
+{
+    return isRaster(painter) && painter.deviceTransform().type() <= QTransform::TxTranslate;
+}
+
+/// A line from pixel centre to pixel centre, lengthened by half a step at each end so that both
+/// pixels are inked whole. (Caps would do the same, but that way moves a sloped line sideways with
+/// them.) A dashed line leaves its last pixel to the segment that follows.
+QLineF wholePixels(QPointF from, QPointF to, bool dashed)
+{
+    const QPointF way = to - from;
+    const double steps = std::max(std::abs(way.x()), std::abs(way.y()));
+    const QPointF halfStep = steps == 0 ? QPointF(0.5, 0) : way / (2 * steps);
+    return {from - halfStep, dashed ? to - halfStep : to + halfStep};
+}
+
+} // namespace
+
+QFont screenFont(const Font& font)
+{
+    QFont result(font.family);
+    result.setPixelSize(std::max(1, static_cast<int>(std::lround(pixelsOfPoints(font.points)))));
+    result.setBold(font.bold);
+    result.setItalic(font.italic);
+    result.setUnderline(font.underline);
+    result.setStrikeOut(font.strikeOut);
+    result.setHintingPreference(QFont::PreferFullHinting);
+    result.setKerning(false);
+    return result;
+}
+
+PainterContext::PainterContext(QPainter& painter)
+    : m_painter(painter), m_screenFont(screenFont(m_font)), m_metrics(m_screenFont),
+      m_narrowWidth(isRaster(painter) ? narrowLine / painter.deviceTransform().m11() : 0),
+      m_thinLinesByPixels(drawsThinLinesByPixels(painter))
+{
+    m_painter.setRenderHint(QPainter::Antialiasing);
+    m_painter.setRenderHint(QPainter::TextAntialiasing);
+    m_painter.setBackgroundMode(Qt::TransparentMode);
+    m_painter.setBrush(Qt::NoBrush);
+}
+
+PainterContext::~PainterContext()
+{
+    flush();
+}
+
+void PainterContext::drawLine(QPoint from, QPoint to, const Pen& pen)
+{
+    if (pen.style == penstyle::none)
+        return;
+    QPointF start = pixelCentre(from + m_origin);
+    QPointF end = pixelCentre(to + m_origin);
+    const bool whole = insideGuardBand(start) && insideGuardBand(end);
+    if (!whole && !cutToGuardBand(start, end))
+        return;
+    const bool continues = !isDashed(pen) && !m_points.isEmpty() && pen == m_pen
+        && m_points.constLast() == start && m_points.size() < longestPolyline;
+    if (!continues) {
+        flush();
+        m_pen = pen;
+        m_points.append(start);
+    }
+    m_points.append(end);
+}
+
+void PainterContext::flush()
+{
+    if (m_points.isEmpty())
+        return;
+    if (m_thinLinesByPixels && m_pen.width <= 1)
+        drawThinLines();
+    else if (!isDashed(m_pen) && m_pen.width <= m_narrowWidth)
+        drawNarrowLines();
+    else
+        drawPolyline();
+    m_points.clear();
+}
+
+void PainterContext::drawPolyline()
+{
+    m_painter.setPen(painterPen(m_pen));
+    m_painter.drawPolyline(m_points);
+}
+
+void PainterContext::drawNarrowLines()
+{
+    QPen pen = painterPen(m_pen);
+    pen.setCapStyle(Qt::SquareCap);
+    m_painter.setPen(pen);
+    QList<QLineF> lines;
+    lines.reserve(m_points.size());
+    for (qsizetype i = 1; i < m_points.size(); ++i)
+        lines.append(QLineF(m_points[i - 1], m_points[i]));
+    m_painter.drawLines(lines);
+}
+
+/// One by one: at the joints of a thin polyline the raster engine leaves lighter pixels.
+void PainterContext::drawThinLines()
+{
+    QPen pen = painterPen(m_pen);
+    pen.setCapStyle(Qt::FlatCap);
+    m_painter.setPen(pen);
+    QList<QLineF> lines;
+    lines.reserve(m_points.size());
+    for (qsizetype i = 1; i < m_points.size(); ++i)
+        lines.append(wholePixels(m_points[i - 1], m_points[i], isDashed(m_pen)));
+    m_painter.drawLines(lines);
+}
+
+void PainterContext::drawText(QPoint reference, const QString& text, const Font& font,
+                              ColorValue color, TextAlignment alignment)
+{
+    flush();
+    const QFontMetrics& metrics = metricsOf(font);
+    QPoint baseline = reference + m_origin;
+    if (alignment == TextAlignment::BottomCenter)
+        baseline.ry() -= metrics.descent();
+    else if (alignment != TextAlignment::BaselineLeft)
+        baseline.ry() += metrics.ascent();
+    if (alignment == TextAlignment::TopRight)
+        baseline.rx() -= metrics.horizontalAdvance(text);
+    else if (alignment == TextAlignment::TopCenter || alignment == TextAlignment::BottomCenter)
+        baseline.rx() -= metrics.horizontalAdvance(text) / 2;
+    m_painter.setFont(m_screenFont);
+    m_painter.setPen(colorOf(color));
+    m_painter.drawText(baseline, text);
+}
+
+QSize PainterContext::textExtent(const QString& text, const Font& font) const
+{
+    const QFontMetrics& metrics = metricsOf(font);
+    return {metrics.horizontalAdvance(text), metrics.ascent() + metrics.descent()};
+}
+
+int PainterContext::textAscent(const Font& font) const
+{
+    return metricsOf(font).ascent();
+}
+
+void PainterContext::fillRectangle(const QRect& rectangle, ColorValue color)
+{
+    flush();
+    m_painter.fillRect(rectangle.translated(m_origin), colorOf(color));
+}
+
+void PainterContext::setClip(const QRect& rectangle)
+{
+    flush();
+    m_painter.setClipRect(rectangle);
+}
+
+void PainterContext::clearClip()
+{
+    flush();
+    m_painter.setClipping(false);
+}
+
+void PainterContext::setOrigin(QPoint origin)
+{
+    m_origin = origin;
+}
+
+const QFontMetrics& PainterContext::metricsOf(const Font& font) const
+{
+    if (!(font == m_font)) {
+        m_font = font;
+        m_screenFont = screenFont(font);
+        m_metrics = QFontMetrics(m_screenFont);
+    }
+    return m_metrics;
+}
+
+} // namespace tarsil

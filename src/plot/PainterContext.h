@@ -1,0 +1,56 @@
+#pragma once
+
+#include "plot/DeviceContext.h"
+
+#include <QFont>
+#include <QFontMetrics>
+#include <QPolygonF>
+
+class QPainter;
+
+namespace tarsil {
+
+/// The font that Qt draws and measures with: pixel size, full hinting and no kerning, so that every
+/// advance is a whole pixel, the same on screen and in files.
+QFont screenFont(const Font& font);
+
+/// Draws with a QPainter: on an image, a printer page or an SVG. Lines run through pixel centres.
+/// Connected solid lines of one pen are drawn as one polyline, which must not outlive this object:
+/// the painter is complete after `flush` or the destructor.
+class PainterContext : public DeviceContext
+{
+public:
+    explicit PainterContext(QPainter& painter);
+    ~PainterContext() override;
+
+    void drawLine(QPoint from, QPoint to, const Pen& pen) override;
+    void drawText(QPoint reference, const QString& text, const Font& font, ColorValue color,
+                  TextAlignment alignment) override;
+    QSize textExtent(const QString& text, const Font& font) const override;
+    int textAscent(const Font& font) const override;
+    void fillRectangle(const QRect& rectangle, ColorValue color) override;
+    void setClip(const QRect& rectangle) override;
+    void clearClip() override;
+    void setOrigin(QPoint origin) override;
+
+    /// Draws what has been gathered so far.
+    void flush();
+
+private:
+    void drawPolyline();
+    void drawNarrowLines();
+    void drawThinLines();
+    const QFontMetrics& metricsOf(const Font& font) const;
+
+    QPainter& m_painter;
+    QPoint m_origin;
+    Pen m_pen; ///< of the lines gathered
+    QPolygonF m_points; ///< connected lines that have not been drawn yet
+    mutable Font m_font;
+    mutable QFont m_screenFont;
+    mutable QFontMetrics m_metrics;
+    double m_narrowWidth; ///< up to this width lines are drawn without round joints
+    bool m_thinLinesByPixels; ///< lines of one pixel width go through the engine's fast way
+};
+
+} // namespace tarsil

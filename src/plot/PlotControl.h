@@ -1,0 +1,66 @@
+#pragma once
+
+#include "plot/DeviceContext.h"
+
+#include <QImage>
+#include <QMargins>
+
+namespace tarsil {
+
+/// A control that draws itself the same way on every surface: on its own one, which the plot shows
+/// on the screen, or into a caller's context at the control's place in its container. Positions and
+/// sizes are pixels of the container at 96 per inch.
+class PlotControl
+{
+public:
+    PlotControl() = default;
+    virtual ~PlotControl();
+    PlotControl(const PlotControl&) = delete;
+    PlotControl& operator=(const PlotControl&) = delete;
+
+    const QRect& geometry() const { return m_geometry; }
+    int Left() const { return m_geometry.left(); }
+    int Top() const { return m_geometry.top(); }
+    int Width() const { return m_geometry.width(); }
+    int Height() const { return m_geometry.height(); }
+
+    /// Moves the control; a new size empties its own surface.
+    void setGeometry(const QRect& geometry);
+
+    /// Physical pixels of the screen for each pixel; a new ratio empties the own surface.
+    void setDevicePixelRatio(double ratio);
+
+    /// Draws into `context` at the control's place; null means the control's own surface.
+    void Draw(DeviceContext* context);
+
+    /// Empties the own surface.
+    void Cls();
+
+    /// The own surface, transparent where nothing is drawn, and where in the container it belongs:
+    /// it can be larger than the control by what hangs over its edges.
+    const QImage& surface() const { return m_surface; }
+    QPoint surfacePosition() const;
+
+protected:
+    /// Draws relative to the control's upper left corner.
+    virtual void paint(DeviceContext& context) const = 0;
+
+    /// Whether drawing ends at the control's edges.
+    virtual bool isClipped() const { return false; }
+
+    /// How far drawing may hang over the edges of a control that is not clipped.
+    virtual QMargins overhang() const { return {}; }
+
+    /// Whether drawing on the own surface begins with an empty one.
+    virtual bool erasesBeforeDrawing() const { return true; }
+
+private:
+    void drawInto(DeviceContext& context) const;
+    void drawOnSurface();
+
+    QRect m_geometry;
+    double m_ratio = 1;
+    QImage m_surface;
+};
+
+} // namespace tarsil

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "model/Session.h"
+
+#include <QString>
+
+#include <cstdint>
+
+namespace tarsil {
+
+/// One straight reference line of a canvas, in the canvas' data units (speed, and g or f).
+struct RefLine
+{
+    std::int16_t LineWidth = 0; ///< pixels; 0 is a line of one pixel
+    std::int32_t LineStyle = 0; ///< pen style number
+    ColorValue ColorIndex = 0; ///< the colour itself
+    QString Caption; ///< written near the second end
+    float Y2 = 0;
+    float X2 = 0;
+    float Y1 = 0;
+    float X1 = 0;
+};
+
+} // namespace tarsil

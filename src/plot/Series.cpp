@@ -1,0 +1,10 @@
+#include "plot/Series.h"
+
+namespace tarsil {
+
+Series Series::Clone() const
+{
+    return *this;
+}
+
+} // namespace tarsil

@@ -1,0 +1,219 @@
+#include "plot/UcPlot.h"
+
+#include "plot/PixelMath.h"
+#include "runtime/Numbers.h"
+#include "runtime/RunTimeError.h"
+
+#include <limits>
+#include <string>
+
+namespace tarsil {
+
+namespace {
+
+constexpr int captionShift = 30;
+constexpr double captionLinePoints = 12;
+constexpr double defaultMarkerPoints = 8;
+constexpr ColorValue black = 0;
+
+QString markerText(const Series& series, const Point& point)
+{
+    if (series.MarkerStyle == markerstyle::modeNumber)
+        return QString::number(series.Mode->Id);
+    if (series.MarkerStyle == markerstyle::tag)
+        return series.MarkerTag;
+    if (series.MarkerStyle != markerstyle::participationFactor)
+        return {};
+    const std::int32_t index = series.IthMpf;
+    if (index < 1 || static_cast<std::size_t>(index) > point.mpf.size())
+        return QStringLiteral("?");
+    return QString::fromStdString(shortestText(point.mpf[static_cast<std::size_t>(index - 1)]));
+}
+
+void drawMarker(DeviceContext& context, const Series& series, const Point& point, QPoint pixel)
+{
+    const QString text = markerText(series, point);
+    if (text.isEmpty())
+        return;
+    const double points = series.MarkerSize > 0 ? series.MarkerSize : defaultMarkerPoints;
+    const QPoint top(pixel.x(), roundToPixel(pixel.y() - pixelsOfPoints(points) / 2));
+    Font font;
+    font.points = points;
+    context.drawText(top, text, font, series.MarkerForegroundColor, TextAlignment::TopCenter);
+}
+
+/// The points of a series' mode; a canvas counts them in 16 bits.
+const std::vector<Point>& pointsOf(const Series& series)
+{
+    if (series.Mode == nullptr)
+        throw RunTimeError(ErrorNumber::ObjectVariableNotSet, "ucPlot", "a series without a mode");
+    const std::vector<Point>& points = series.Mode->Points;
+    if (points.size() > std::numeric_limits<std::int16_t>::max())
+        throw RunTimeError(ErrorNumber::Overflow, "ucPlot",
+                           "mode " + std::to_string(series.Mode->Id) + " has "
+                               + std::to_string(points.size()) + " points");
+    return points;
+}
+
+} // namespace
+
+PlotContainer::~PlotContainer() = default;
+
+ucPlot::ucPlot(const PlotContainer& container) : m_container(container) { }
+
+void ucPlot::SetScale(double x1, double y1, double x2, double y2)
+{
+    if (y1 - y2 == 0)
+        return;
+    m_scaleLeft = x1;
+    m_scaleTop = y1;
+    m_scaleWidth = x2 - x1;
+    m_scaleHeight = y2 - y1;
+}
+
+double ucPlot::columnsPerUnit() const
+{
+    if (m_scaleWidth == 0)
+        throw RunTimeError(ErrorNumber::DivisionByZero, "ucPlot",
+                           "the bounds of the horizontal scale are equal: "
+                               + shortestText(m_scaleLeft));
+    return Width() / m_scaleWidth;
+}
+
+double ucPlot::rowsPerUnit() const
+{
+    return Height() / m_scaleHeight;
+}
+
+QPoint ucPlot::pixelOf(double x, double y) const
+{
+    // A length in user units becomes a single-precision number of pixels, like the edge it is
+    // measured from.
+    const double columns = columnsPerUnit();
+    const double rows = rowsPerUnit();
+    const auto pixels = [](double length) {
+        return static_cast<double>(static_cast<float>(length));
+    };
+    return {roundToPixel(pixels(x * columns) - pixels(m_scaleLeft * columns)),
+            roundToPixel(pixels(y * rows) - pixels(m_scaleTop * rows))};
+}
+
+RefLine& ucPlot::AddLine(float X1, float Y1, float X2, float Y2, const QString& Caption,
+                         ColorValue ColorIndex, std::int32_t LineStyle)
+{
+    RefLine& line = m_lines.emplace_back();
+    line.X1 = X1;
+    line.Y1 = Y1;
+    line.X2 = X2;
+    line.Y2 = Y2;
+    line.Caption = Caption;
+    line.ColorIndex = ColorIndex;
+    line.LineStyle = LineStyle;
+    return line;
+}
+
+void ucPlot::RemoveLines()
+{
+    Cls();
+    m_lines.clear();
+}
+
+void ucPlot::Refresh()
+{
+    Cls();
+    Draw(nullptr);
+}
+
+ucPlot::DataPoint ucPlot::dataOf(const Point& point) const
+{
+    if (m_plotType == plottype::frequencyOverSpeed)
+        return {point.speed, point.f};
+    if (m_plotType == plottype::dampingOverSpeed)
+        return {point.speed, point.G};
+    return {point.re, point.im};
+}
+
+void ucPlot::paint(DeviceContext& context) const
+{
+    if (m_plotType < plottype::frequencyOverSpeed || m_plotType > plottype::rootLocus)
+        return;
+    for (const Series& series : m_container.SeriesCollection())
+        drawSeries(context, series);
+    for (const RefLine& line : m_lines)
+        drawLine(context, line);
+}
+
+void ucPlot::drawSeries(DeviceContext& context, const Series& series) const
+{
+    const std::vector<Point>& points = pointsOf(series);
+    if (points.size() < 2)
+        return;
+    const Pen pen {series.LineStyle, series.LineWidth, series.ColorIndex};
+    const bool marked = series.MarkerSpacing != 0 && series.MarkerStyle != markerstyle::none;
+    const auto pixelOfPoint = [this](const Point& point) {
+        const DataPoint data = dataOf(point);
+        return pixelOf(data.x, data.y);
+    };
+    QPoint from = pixelOfPoint(points.front());
+    for (std::size_t i = 1; i < points.size(); ++i) {
+        const QPoint to = pixelOfPoint(points[i]);
+        context.drawLine(from, to, pen);
+        // The first point never carries a marker: a marker belongs to the end of a line.
+        if (marked && static_cast<std::int32_t>(i + 1) % series.MarkerSpacing == 0)
+            drawMarker(context, series, points[i], to);
+        from = to;
+    }
+}
+
+void ucPlot::drawLine(DeviceContext& context, const RefLine& line) const
+{
+    const QPoint from = pixelOf(line.X1, line.Y1);
+    const QPoint to = pixelOf(line.X2, line.Y2);
+    context.drawLine(from, to, {line.LineStyle, line.LineWidth, line.ColorIndex});
+    if (line.Caption.isEmpty())
+        return;
+    const QPoint top(to.x() - captionShift,
+                     roundToPixel(to.y() - pixelsOfPoints(captionLinePoints)));
+    context.drawText(top, line.Caption, Font(), black, TextAlignment::TopCenter);
+}
+
+void ucPlot::setModeColor(const QVariant& value)
+{
+    m_modeColor = value;
+    m_changed.mark(QStringLiteral("ModeColor"));
+}
+
+void ucPlot::setPlotType(std::int32_t type)
+{
+    m_plotType = type;
+    m_changed.mark(QStringLiteral("PlotType"));
+}
+
+void ucPlot::setAutoScale(bool on)
+{
+    m_autoScale = on;
+    m_changed.mark(QStringLiteral("AutoScale"));
+}
+
+void ucPlot::sethFont(std::int32_t /*handle*/)
+{
+    throw RunTimeError(ErrorNumber::SetNotSupportedAtRunTime, "ucPlot", "hFont");
+}
+
+void ucPlot::ReadProperties(const PropertyBag& bag)
+{
+    m_modeColor = bag.value(QStringLiteral("ModeColor"), 0);
+    m_plotType = readProperty<std::int32_t>(bag, QStringLiteral("PlotType"), 0);
+    m_hFont = readProperty<std::int32_t>(bag, QStringLiteral("hFont"), 0);
+    m_autoScale = readProperty(bag, QStringLiteral("AutoScale"), false);
+}
+
+PropertyBag ucPlot::WriteProperties() const
+{
+    return {{QStringLiteral("ModeColor"), m_modeColor},
+            {QStringLiteral("PlotType"), m_plotType},
+            {QStringLiteral("hFont"), m_hFont},
+            {QStringLiteral("AutoScale"), m_autoScale}};
+}
+
+} // namespace tarsil

@@ -1,0 +1,109 @@
+#pragma once
+
+#include "plot/PlotControl.h"
+#include "plot/PropertyBag.h"
+#include "plot/RefLine.h"
+#include "plot/Series.h"
+
+#include <QVariant>
+
+#include <cstdint>
+#include <vector>
+
+namespace tarsil {
+
+/// What a canvas needs from the plot that contains it.
+class PlotContainer
+{
+public:
+    virtual ~PlotContainer();
+
+    /// The series to draw, in drawing order.
+    virtual const SeriesList& SeriesCollection() const = 0;
+};
+
+/// Which two values of a point a canvas draws.
+namespace plottype {
+constexpr std::int32_t frequencyOverSpeed = 0;
+constexpr std::int32_t dampingOverSpeed = 1;
+constexpr std::int32_t rootLocus = 2; ///< abscissa `re`, ordinate `im`
+} // namespace plottype
+
+/// The drawing surface of one plot: every series of its container as a line with text markers, then
+/// its own reference lines, in user coordinates set by `SetScale`.
+class ucPlot : public PlotControl
+{
+public:
+    /// `container` must outlive the canvas.
+    explicit ucPlot(const PlotContainer& container);
+
+    /// (x1, y1) becomes the upper left corner and (x2, y2) the lower right one, so an ordinate that
+    /// grows upwards has its upper bound as y1. Equal y1 and y2 change nothing. Drawing with equal
+    /// x1 and x2 raises error 11 "Division by zero".
+    void SetScale(double x1, double y1, double x2, double y2);
+
+    /// The pixel of a data point, relative to the canvas.
+    QPoint pixelOf(double x, double y) const;
+
+    /// Appends a reference line of one pixel width and returns it; nothing is drawn. The reference
+    /// is good until the next call that adds or removes lines.
+    RefLine& AddLine(float X1, float Y1, float X2, float Y2, const QString& Caption,
+                     ColorValue ColorIndex, std::int32_t LineStyle);
+
+    /// Empties the own surface and removes every reference line.
+    void RemoveLines();
+    const std::vector<RefLine>& lines() const { return m_lines; }
+
+    /// Draws again on the own surface.
+    void Refresh();
+
+    const QVariant& ModeColor() const { return m_modeColor; }
+    void setModeColor(const QVariant& value);
+    std::int32_t PlotType() const { return m_plotType; }
+    void setPlotType(std::int32_t type);
+    bool AutoScale() const { return m_autoScale; }
+    void setAutoScale(bool on);
+
+    /// The font handle; it cannot be set: error 382 "Set not supported at run time", always.
+    std::int32_t hFont() const { return m_hFont; }
+    void sethFont(std::int32_t handle);
+
+    /// Keys "ModeColor" 0, "PlotType" 0, "hFont" 0, "AutoScale" false.
+    void ReadProperties(const PropertyBag& bag);
+    PropertyBag WriteProperties() const;
+    const ChangedProperties& changedProperties() const { return m_changed; }
+
+protected:
+    /// Errors: 6 for a mode of more than 32,767 points, 91 for a series without mode, 11 for a
+    /// scale without width.
+    void paint(DeviceContext& context) const override;
+    bool isClipped() const override { return true; }
+    bool erasesBeforeDrawing() const override { return false; }
+
+private:
+    struct DataPoint
+    {
+        double x;
+        double y;
+    };
+
+    DataPoint dataOf(const Point& point) const;
+    double columnsPerUnit() const;
+    double rowsPerUnit() const;
+    void drawSeries(DeviceContext& context, const Series& series) const;
+    void drawLine(DeviceContext& context, const RefLine& line) const;
+
+    const PlotContainer& m_container;
+    QVariant m_modeColor = 0;
+    std::int32_t m_plotType = 0;
+    std::int32_t m_hFont = 0;
+    bool m_autoScale = false;
+    double m_scaleLeft = 0;
+    double m_scaleTop = 0;
+    double m_scaleWidth = 1;
+    double m_scaleHeight = 1;
+    std::vector<RefLine> m_lines;
+    ChangedProperties m_changed;
+};
+
+} // namespace tarsil

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "analysis/ModeBuilder.h"
+#include "plot/ErrorNumberOf.h"
+#include "plot/UcPlot.h"
+#include "support/RecordingContext.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace tarsil::test {
+
+/// A canvas of 100 x 100 pixels at (10, 20) of its container, with a scale of one pixel for each
+/// unit and the ordinate growing upwards: the data point (x, y) is pixel (x, 100 - y).
+class Canvas : public ::testing::Test, public PlotContainer
+{
+protected:
+    Canvas() : canvas(*this)
+    {
+        canvas.setGeometry({10, 20, 100, 100});
+        canvas.SetScale(0, 100, 100, 0);
+    }
+
+    const SeriesList& SeriesCollection() const override { return series; }
+
+    /// A series of a new mode with these points.
+    Series& addCurve(std::initializer_list<DrawnPoint> points)
+    {
+        return addSeries(addMode(evolution, 7, points));
+    }
+
+    /// A series of a new mode with `count` points (1, 50), (2, 50), ... of frequency 50.
+    Series& addLevelCurve(int count)
+    {
+        AeMode& mode = addMode(evolution, 7, {});
+        for (int i = 1; i <= count; ++i) {
+            Point& point = mode.Points.emplace_back();
+            point.speed = static_cast<float>(i);
+            point.f = 50;
+        }
+        return addSeries(mode);
+    }
+
+    Series& addSeries(AeMode& mode)
+    {
+        Series& added = series.emplace_back();
+        added.Mode = &mode;
+        return added;
+    }
+
+    /// What the canvas draws: lines and texts, relative to the canvas.
+    std::vector<std::string> drawing()
+    {
+        RecordingContext context;
+        canvas.Draw(&context);
+        return context.drawingCalls();
+    }
+
+    /// The texts alone.
+    std::vector<std::string> texts()
+    {
+        std::vector<std::string> result;
+        for (const std::string& call : drawing()) {
+            if (call.starts_with("text "))
+                result.push_back(call);
+        }
+        return result;
+    }
+
+    EVM evolution;
+    SeriesList series;
+    ucPlot canvas;
+};
+
+} // namespace tarsil::test

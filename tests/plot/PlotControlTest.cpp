@@ -1,0 +1,125 @@
+#include "plot/PlotControl.h"
+
+#include "support/RecordingContext.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+using namespace tarsil;
+using test::RecordingContext;
+
+namespace {
+
+/// A control with a black pixel at its corner, a wish for 3 pixels on its left and 2 above, and
+/// perhaps a failure.
+class Dot : public PlotControl
+{
+public:
+    bool fails = false;
+    bool erases = true;
+    QPoint place;
+
+protected:
+    void paint(DeviceContext& context) const override
+    {
+        context.fillRectangle({place, QSize(1, 1)}, 0);
+        if (fails)
+            throw std::runtime_error("no more");
+    }
+    QMargins overhang() const override { return {3, 2, 0, 0}; }
+    bool erasesBeforeDrawing() const override { return erases; }
+};
+
+bool isBlack(const QImage& image, int column, int row)
+{
+    return image.pixelColor(column, row) == QColor(Qt::black);
+}
+
+} // namespace
+
+TEST(PlotControl, hasASurfaceThatIncludesWhatHangsOver)
+{
+    Dot dot;
+    dot.setGeometry({100, 50, 20, 10});
+    dot.Draw(nullptr);
+    EXPECT_EQ(dot.surface().size(), QSize(23, 12));
+    EXPECT_EQ(dot.surfacePosition(), QPoint(97, 48));
+    EXPECT_TRUE(isBlack(dot.surface(), 3, 2));
+}
+
+TEST(PlotControl, erasesWhatWasDrawnBefore)
+{
+    Dot dot;
+    dot.setGeometry({0, 0, 20, 10});
+    dot.Draw(nullptr);
+    dot.place = {5, 5};
+    dot.Draw(nullptr);
+    EXPECT_FALSE(isBlack(dot.surface(), 3, 2));
+    EXPECT_TRUE(isBlack(dot.surface(), 8, 7));
+}
+
+TEST(PlotControl, keepsWhatWasDrawnBeforeWhenItDoesNotErase)
+{
+    Dot dot;
+    dot.erases = false;
+    dot.setGeometry({0, 0, 20, 10});
+    dot.Draw(nullptr);
+    dot.place = {5, 5};
+    dot.Draw(nullptr);
+    EXPECT_TRUE(isBlack(dot.surface(), 3, 2));
+    EXPECT_TRUE(isBlack(dot.surface(), 8, 7));
+}
+
+TEST(PlotControl, keepsItsSurfaceWhenItMovesAndLosesItWithANewSize)
+{
+    Dot dot;
+    dot.setGeometry({0, 0, 20, 10});
+    dot.Draw(nullptr);
+    dot.setGeometry({5, 5, 20, 10});
+    EXPECT_TRUE(isBlack(dot.surface(), 3, 2));
+    dot.setGeometry({5, 5, 21, 10});
+    EXPECT_TRUE(dot.surface().isNull());
+}
+
+TEST(PlotControl, drawsNothingOnASurfaceWithoutPixels)
+{
+    Dot dot;
+    dot.Draw(nullptr);
+    dot.Cls();
+    EXPECT_TRUE(dot.surface().isNull());
+}
+
+TEST(PlotControl, drawsAllPixelsOfAFinerScreen)
+{
+    Dot dot;
+    dot.setGeometry({0, 0, 20, 10});
+    dot.setDevicePixelRatio(2);
+    dot.Draw(nullptr);
+    EXPECT_EQ(dot.surface().size(), QSize(46, 24));
+    for (const QPoint pixel : {QPoint(6, 4), QPoint(7, 5)})
+        EXPECT_TRUE(isBlack(dot.surface(), pixel.x(), pixel.y()));
+    EXPECT_FALSE(isBlack(dot.surface(), 8, 4));
+}
+
+TEST(PlotControl, coversEveryPixelOfItsSurfaceOnAScreenOfAnyRatio)
+{
+    Dot dot;
+    dot.setGeometry({0, 0, 21, 11});
+    dot.setDevicePixelRatio(1.5);
+    dot.Draw(nullptr);
+    // (21 + 3) * 1.5 = 36 and (11 + 2) * 1.5 = 19.5
+    EXPECT_EQ(dot.surface().width(), 36);
+    EXPECT_GE(dot.surface().height(), 19);
+}
+
+TEST(PlotControl, setsTheOriginBackAfterAFailureInAnotherContext)
+{
+    Dot dot;
+    dot.fails = true;
+    dot.setGeometry({7, 8, 20, 10});
+    RecordingContext context;
+    EXPECT_THROW(dot.Draw(&context), std::runtime_error);
+    EXPECT_EQ(context.calls().front(), "origin 7,8");
+    EXPECT_EQ(context.calls().back(), "origin 0,0");
+}
