@@ -1,0 +1,123 @@
+#include "batch/Batch.h"
+
+#include "batch/BatchRun.h"
+#include "batch/Commands.h"
+#include "runtime/RunTimeError.h"
+
+#include <algorithm>
+#include <array>
+#include <new>
+#include <ostream>
+#include <span>
+
+namespace tarsil::batch {
+
+namespace {
+
+constexpr std::array<const Command*, 6> commands = {
+    &infoCommand, &checkCommand, &reportCommand, &pictureCommand, &convertCommand, &mixCommand};
+
+std::string programHelp()
+{
+    std::string text = "Usage: tarsil-batch COMMAND [OPTION]... FILE...\n\n"
+                       "Does without a window what tarsil does with one. Each FILE is a modal\n"
+                       "evolution (.evm or .ev2).\n\n"
+                       "Commands:\n";
+    constexpr std::size_t width = 9;
+    for (const Command* command : commands) {
+        const std::string_view name = command->description.name;
+        text.append("  ").append(name).append(width - name.size(), ' ');
+        text.append(command->description.summary).append("\n");
+    }
+    return text
+        + "\n"
+          "  --help     shows this text; behind a command, that of the command\n"
+          "  --version  shows the version\n\n"
+          "A LIST of modes is written like 1,3-5: positions in the file, counted from 1.\n"
+          "Speeds are knots equivalent airspeed (KEAS), frequencies Hz, altitudes ft; damping\n"
+          "is the dimensionless g, negative for a stable mode.\n\n"
+          "An output is written whole or not at all. Exit status: 0 done, 1 failed, 2 wrong\n"
+          "usage.\n";
+}
+
+/// The arguments before "--", where options can stand.
+bool asksFor(std::span<const std::string> arguments, std::string_view option)
+{
+    const auto end = std::find(arguments.begin(), arguments.end(), "--");
+    return std::find(arguments.begin(), end, option) != end;
+}
+
+const Command& commandNamed(const std::string& name)
+{
+    const auto command = std::find_if(commands.begin(), commands.end(), [&name](const auto* known) {
+        return known->description.name == name;
+    });
+    if (command == commands.end())
+        throw UsageError((name.starts_with('-') ? "unknown option " : "unknown command ") + name);
+    return **command;
+}
+
+int runCommand(const std::vector<std::string>& arguments, BatchRun& run)
+{
+    if (arguments.empty())
+        throw UsageError("no command is given");
+    if (arguments[0] == "--help" || arguments[0] == "--version") {
+        run.out() << (arguments[0] == "--help" ? programHelp()
+                                               : "tarsil-batch " TARSIL_VERSION "\n");
+        return done;
+    }
+    const Command& command = commandNamed(arguments[0]);
+    const auto rest = std::span(arguments).subspan(1);
+    if (asksFor(rest, "--help")) {
+        run.out() << helpText(command.description);
+        return done;
+    }
+    return command.run(CommandLine(command.description, rest), run);
+}
+
+std::string hint(const std::vector<std::string>& arguments)
+{
+    const bool hasCommand = !arguments.empty()
+        && std::any_of(commands.begin(), commands.end(), [&arguments](const auto* known) {
+               return known->description.name == arguments[0];
+           });
+    return "\"tarsil-batch " + (hasCommand ? arguments[0] + " " : "")
+        + "--help\" tells how it is used.";
+}
+
+int runGuarded(const std::vector<std::string>& arguments, BatchRun& run)
+{
+    try {
+        return runCommand(arguments, run);
+    } catch (const UsageError& error) {
+        run.complain(error.what());
+        run.complain(hint(arguments));
+        return wrongUsage;
+    } catch (const std::bad_alloc&) {
+        run.complain("out of memory");
+    } catch (const std::exception& error) {
+        run.complain(run.readable(error.what()));
+    }
+    return failed;
+}
+
+} // namespace
+
+int runBatch(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err)
+{
+    BatchRun run(out, err);
+    const int status = runGuarded(arguments, run);
+    if (status == done && !out.flush()) {
+        run.complain("standard output cannot be written");
+        return failed;
+    }
+    return status;
+}
+
+bool drawsPicture(const std::vector<std::string>& arguments)
+{
+    return !arguments.empty() && arguments[0] == pictureCommand.description.name
+        && !asksFor(arguments, "--help");
+}
+
+} // namespace tarsil::batch

@@ -1,0 +1,58 @@
+#include "batch/BatchRun.h"
+
+#include "runtime/PathNames.h"
+#include "runtime/RunTimeError.h"
+
+#include <cerrno>
+#include <filesystem>
+#include <ostream>
+#include <system_error>
+
+namespace tarsil::batch {
+
+void BatchRun::complain(std::string_view message)
+{
+    m_err << "tarsil-batch: " << message << '\n';
+}
+
+EVM& BatchRun::open(const std::string& path)
+{
+    const FilePath file = resolvePath(path);
+    m_names.emplace_back(shownPath(joinPath(file.folder, file.name)), path);
+    const bool tellsFormat =
+        file.name.find(".evm") != std::string::npos || file.name.find(".ev2") != std::string::npos;
+    if (!tellsFormat && !fileExists(path))
+        throw fileError(ENOENT, "tarsil-batch", path);
+    if (!tellsFormat)
+        throw Failure(path + ": a modal evolution has .evm or .ev2 in its name");
+    return m_session.open(path);
+}
+
+std::string BatchRun::readable(std::string message) const
+{
+    for (const auto& [stored, given] : m_names) {
+        std::size_t place = message.find(stored);
+        while (place != std::string::npos) {
+            message.replace(place, stored.size(), given);
+            place = message.find(stored, place + given.size());
+        }
+    }
+    return message;
+}
+
+void refuseOutputOverInput(const std::string& output, const std::string& input)
+{
+    std::error_code ignored;
+    if (std::filesystem::equivalent(nativePath(output), nativePath(input), ignored))
+        throw Failure(output + " is one of the files to read; choose another output");
+}
+
+std::string caseTextOf(const EVM& evolution)
+{
+    std::string text;
+    for (const KeyedTexts::Entry& legend : evolution.Param.legends)
+        text.append(text.empty() ? "" : "; ").append(legend.text);
+    return text.empty() ? evolution.FileName : text;
+}
+
+} // namespace tarsil::batch

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "model/Session.h"
+
+#include <iosfwd>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace tarsil::batch {
+
+/// Something that cannot be done; the program says so and ends with status 1.
+class Failure : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// One run of the program: where it writes, and the files it has opened.
+class BatchRun
+{
+public:
+    BatchRun(std::ostream& out, std::ostream& err) : m_out(out), m_err(err) { }
+
+    std::ostream& out() { return m_out; }
+
+    /// Prints "tarsil-batch: " and the message on standard error.
+    void complain(std::string_view message);
+
+    /// Reads a modal evolution. Errors: those of `EVM::Contruct`; Failure for a name that tells no
+    /// format.
+    EVM& open(const std::string& path);
+
+    /// A message in which the files opened have the names that the user gave them.
+    std::string readable(std::string message) const;
+
+private:
+    std::ostream& m_out;
+    std::ostream& m_err;
+    Session m_session;
+    std::vector<std::pair<std::string, std::string>> m_names; ///< stored path, name as given
+};
+
+/// Failure when the output is one of the files that are read, by whatever name.
+void refuseOutputOverInput(const std::string& output, const std::string& input);
+
+/// The legends of an evolution in one line, or its file name when it has none.
+std::string caseTextOf(const EVM& evolution);
+
+} // namespace tarsil::batch

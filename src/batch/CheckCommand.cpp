@@ -1,0 +1,51 @@
+#include "batch/BatchRun.h"
+#include "batch/Commands.h"
+#include "model/EvolutionChecker.h"
+#include "runtime/RunTimeError.h"
+
+#include <ostream>
+
+namespace tarsil::batch {
+
+namespace {
+
+/// Prints the findings of one file; whether there were none.
+bool check(const std::string& path, BatchRun& run)
+{
+    try {
+        const std::vector<Finding> findings = checkEvolution(path);
+        for (const Finding& finding : findings)
+            run.out() << path << ':' << finding.line << ": " << finding.text << '\n';
+        return findings.empty();
+    } catch (const RunTimeError& error) {
+        run.complain(error.description());
+        return false;
+    }
+}
+
+int runCheck(const CommandLine& line, BatchRun& run)
+{
+    bool isClean = true;
+    for (const std::string& path : line.operands())
+        isClean = check(path, run) && isClean;
+    return isClean ? done : failed;
+}
+
+} // namespace
+
+constinit const Command checkCommand {
+    {"check",
+     "FILE...",
+     anyNumber,
+     "prints what is wrong in files",
+     "Prints what is wrong in the files, each finding on one line as\n"
+     "\n"
+     "  FILE:LINE: text\n"
+     "\n"
+     "and ends with status 1 when there is any: counts that disagree with\n"
+     "what follows, a mode cut short, speeds that do not increase, a\n"
+     "repeated mode number, text behind a number, and the like.",
+     {}},
+    runCheck};
+
+} // namespace tarsil::batch

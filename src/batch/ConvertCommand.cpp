@@ -1,0 +1,34 @@
+#include "batch/BatchRun.h"
+#include "batch/Commands.h"
+
+#include <array>
+
+namespace tarsil::batch {
+
+namespace {
+
+constexpr std::array<std::string_view, 1> extensions = {".evm"};
+
+int runConvert(const CommandLine& line, BatchRun& run)
+{
+    const std::string output = outputOf(line, extensions);
+    const std::string& input = line.operands().front();
+    refuseOutputOverInput(output, input);
+    run.open(input).PrintEVM(output);
+    return done;
+}
+
+constexpr std::array<OptionDescription, 1> options = {
+    {{"--output", "OUTPUT", "the file to write, which ends in .evm", true}}};
+
+} // namespace
+
+constinit const Command convertCommand {
+    {"convert", "FILE", 1, "writes an evolution in fixed columns",
+     "Writes an evolution in fixed columns, as the programs that take such files\n"
+     "expect them: the counts stand left of where this program looks for them, and\n"
+     "the damping keeps its sign. The file is not meant to be opened here again.",
+     options},
+    runConvert};
+
+} // namespace tarsil::batch

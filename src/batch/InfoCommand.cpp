@@ -1,0 +1,225 @@
+#include "batch/BatchRun.h"
+#include "batch/Commands.h"
+#include "batch/JsonWriter.h"
+#include "runtime/Numbers.h"
+
+#include <algorithm>
+#include <array>
+#include <ostream>
+
+namespace tarsil::batch {
+
+namespace {
+
+void writeTexts(JsonWriter& json, std::string_view name, const KeyedTexts& texts)
+{
+    json.key(name);
+    json.beginArray();
+    for (const KeyedTexts::Entry& entry : texts) {
+        json.beginObject();
+        json.text("key", entry.key);
+        json.text("text", entry.text);
+        json.endObject();
+    }
+    json.endArray();
+}
+
+void writePoint(JsonWriter& json, const Point& point)
+{
+    json.beginObject();
+    json.number("speed", point.speed);
+    json.number("g", point.G);
+    json.number("f", point.f);
+    json.number("kfreq", point.kfreq);
+    json.number("re", point.re);
+    json.number("im", point.im);
+    json.key("mpf");
+    json.beginArray();
+    for (const float factor : point.mpf)
+        json.number(shortestText(factor));
+    json.endArray();
+    json.endObject();
+}
+
+void writeModes(JsonWriter& json, const EVM& evolution, bool withPoints)
+{
+    json.key("modes");
+    json.beginArray();
+    for (const auto& mode : evolution.Modes) {
+        json.beginObject();
+        json.number("id", std::to_string(mode->Id));
+        json.key("points");
+        if (withPoints) {
+            json.beginArray();
+            for (const Point& point : mode->Points)
+                writePoint(json, point);
+            json.endArray();
+        } else {
+            json.number(std::to_string(mode->Points.size()));
+        }
+        json.endObject();
+    }
+    json.endArray();
+}
+
+void writeEvolution(JsonWriter& json, const EVM& evolution, bool withPoints)
+{
+    json.beginObject();
+    json.text("file", evolution.FileName);
+    json.text("folder", evolution.Folder);
+    json.text("format", evolution.isNewFormat ? "ev2" : "evm");
+    json.text("airplane", evolution.Param.Airplane);
+    json.text("mass", evolution.Param.Mass);
+    json.number("mach", evolution.Param.Mach);
+    json.text("analysis_type", evolution.Param.AnalysisType);
+    json.text("script", evolution.Param.Script);
+    json.text("method", evolution.flutterMethod);
+    json.text("solver_version", evolution.solverVersion);
+    json.text("program_version", evolution.programVersion);
+    json.text("ev2_version", evolution.ev2Version);
+    json.text("running_date", evolution.runningDate);
+    json.number("struct_modes", std::to_string(evolution.numberOfStructuralModes));
+    json.number("aeroel_modes", std::to_string(evolution.na));
+    json.number("speeds", std::to_string(evolution.numberOfSpeeds));
+    json.boolean("participation_factors", evolution.hasParticipationFactors);
+    writeTexts(json, "modifications", evolution.Param.modifications);
+    writeTexts(json, "legends", evolution.Param.legends);
+    writeModes(json, evolution, withPoints);
+    json.endObject();
+}
+
+void printJson(const std::vector<const EVM*>& evolutions, bool withPoints, std::ostream& out)
+{
+    JsonWriter json(out);
+    json.beginObject();
+    json.key("files");
+    json.beginArray();
+    for (const EVM* evolution : evolutions)
+        writeEvolution(json, *evolution, withPoints);
+    json.endArray();
+    json.endObject();
+    out << '\n';
+}
+
+std::string rightAligned(const std::string& text, std::size_t width)
+{
+    return std::string(width - std::min(width, text.size()), ' ') + text;
+}
+
+void printLine(std::ostream& out, std::string_view name, const std::string& text)
+{
+    constexpr std::size_t width = 23;
+    if (!text.empty())
+        out << "  " << name << std::string(width - std::min(width, name.size()), ' ') << text
+            << '\n';
+}
+
+void printHeader(const EVM& evolution, std::ostream& out)
+{
+    printLine(out, "folder", evolution.Folder);
+    printLine(out, "format", evolution.isNewFormat ? "sections (.ev2)" : "fixed columns (.evm)");
+    printLine(out, "airplane", evolution.Param.Airplane);
+    printLine(out, "mass configuration", evolution.Param.Mass);
+    printLine(out, "Mach number",
+              evolution.Param.Mach > 0 ? shortestText(evolution.Param.Mach) : "not given");
+    printLine(out, "analysis type", evolution.Param.AnalysisType);
+    printLine(out, "script", evolution.Param.Script);
+    printLine(out, "flutter method", evolution.flutterMethod);
+    printLine(out, "solver version", evolution.solverVersion);
+    printLine(out, "program version", evolution.programVersion);
+    printLine(out, "EV2 version", evolution.ev2Version);
+    printLine(out, "running date", evolution.runningDate);
+    if (evolution.isNewFormat)
+        printLine(out, "structural modes", std::to_string(evolution.numberOfStructuralModes));
+    printLine(out, "modes declared", std::to_string(evolution.na));
+    printLine(out, "speeds declared", std::to_string(evolution.numberOfSpeeds));
+    printLine(out, "participation factors", evolution.hasParticipationFactors ? "yes" : "no");
+    for (const KeyedTexts::Entry& entry : evolution.Param.modifications)
+        printLine(out, "modification " + entry.key, entry.text);
+    for (const KeyedTexts::Entry& entry : evolution.Param.legends)
+        printLine(out, "legend " + entry.key, entry.text);
+}
+
+constexpr std::size_t narrowColumn = 8;
+constexpr std::size_t wideColumn = 15;
+
+void printRow(std::ostream& out, std::size_t width, const std::vector<std::string>& cells)
+{
+    for (const std::string& cell : cells)
+        out << rightAligned(cell, width);
+    out << '\n';
+}
+
+void printPoints(const AeMode& mode, bool hasFactors, std::ostream& out)
+{
+    std::vector<std::string> headings = {"speed (KEAS)",  "g",         "f (Hz)",
+                                         "reduced freq.", "real part", "imag. part"};
+    if (hasFactors)
+        headings.insert(headings.end(), {"MPF(1)", "MPF(2)", "MPF(3)", "MPF(4)", "MPF(5)"});
+    printRow(out, wideColumn, headings);
+    for (const Point& point : mode.Points) {
+        std::vector<std::string> cells;
+        for (const float value : {point.speed, point.G, point.f, point.kfreq, point.re, point.im})
+            cells.push_back(shortestText(value));
+        for (const float factor : point.mpf)
+            cells.push_back(shortestText(factor));
+        printRow(out, wideColumn, cells);
+    }
+}
+
+/// The modes as a table, or each one with the table of its points.
+void printModes(const EVM& evolution, bool withPoints, std::ostream& out)
+{
+    const std::vector<std::string> headings = {"position", "number", "points"};
+    if (!withPoints)
+        printRow(out, narrowColumn + 2, headings);
+    std::size_t position = 0;
+    for (const auto& mode : evolution.Modes) {
+        const std::string number = std::to_string(mode->Id);
+        const std::string count = std::to_string(mode->Points.size());
+        if (!withPoints) {
+            printRow(out, narrowColumn + 2, {std::to_string(++position), number, count});
+            continue;
+        }
+        out << "\n  position " << ++position << ", mode " << number << ", " << count
+            << (count == "1" ? " point\n" : " points\n");
+        printPoints(*mode, evolution.hasParticipationFactors, out);
+    }
+}
+
+void printTexts(const std::vector<const EVM*>& evolutions, bool withPoints, std::ostream& out)
+{
+    bool isFirst = true;
+    for (const EVM* evolution : evolutions) {
+        out << (isFirst ? "" : "\n") << evolution->FileName << '\n';
+        isFirst = false;
+        printHeader(*evolution, out);
+        printModes(*evolution, withPoints, out);
+    }
+}
+
+int runInfo(const CommandLine& line, BatchRun& run)
+{
+    // All files are read before anything is printed: an error prints no half of an answer.
+    std::vector<const EVM*> evolutions;
+    for (const std::string& path : line.operands())
+        evolutions.push_back(&run.open(path));
+    const auto print = line.has("--json") ? printJson : printTexts;
+    print(evolutions, line.has("--points"), run.out());
+    return done;
+}
+
+constexpr std::array<OptionDescription, 2> options = {
+    {{"--json", "", "as JSON, for other programs"},
+     {"--points", "", "with every point of every mode"}}};
+
+} // namespace
+
+constinit const Command infoCommand {
+    {"info", "FILE...", anyNumber, "tells what files hold",
+     "Tells what the files hold: airplane, mass configuration, Mach number,\n"
+     "method, legends, and the modes with their numbers of points.",
+     options},
+    runInfo};
+
+} // namespace tarsil::batch

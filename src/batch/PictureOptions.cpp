@@ -1,0 +1,153 @@
+#include "batch/PictureOptions.h"
+
+#include "batch/CommandLine.h"
+#include "runtime/Numbers.h"
+
+namespace tarsil::batch {
+
+namespace {
+
+constexpr std::array<std::string_view, 3> extensions = {".png", ".svg", ".pdf"};
+constexpr int largestSide = 20000;
+constexpr int mostTicks = 1000;
+constexpr int largestMarkerNumber = 1000;
+
+UsageError wrongValue(std::string_view option, std::string_view text, std::string_view expected)
+{
+    return UsageError(std::string(option) + ": \"" + std::string(text) + "\" is not "
+                      + std::string(expected));
+}
+
+/// A whole number from 1 to `most`.
+std::int16_t countOf(std::string_view text, int most, std::string_view option)
+{
+    std::int16_t count = 0;
+    const bool hasDigitsOnly = text.find_first_not_of("0123456789") == std::string_view::npos;
+    if (!hasDigitsOnly || parseInteger16(text, count) != NumberStatus::Ok || count < 1
+        || count > most)
+        throw wrongValue(option, text, "a whole number from 1 to " + std::to_string(most));
+    return count;
+}
+
+/// A text of the command line, in which "\n" means a line break.
+QString textOf(const CommandLine& line, std::string_view option)
+{
+    return QString::fromStdString(line.value(option).value_or(""))
+        .replace(QStringLiteral("\\n"), QStringLiteral("\n"));
+}
+
+std::optional<EvmPlot::Scale> scaleOf(const CommandLine& line)
+{
+    const auto text = line.value("--scale");
+    if (!text)
+        return std::nullopt;
+    const std::vector<float> ends = singlesOf(*text, 6, "--scale");
+    if (ends[0] == ends[1] || ends[2] == ends[3] || ends[4] == ends[5])
+        throw UsageError("--scale: the two ends of an axis are the same");
+    return EvmPlot::Scale {ends[0], ends[1], ends[2], ends[3], ends[4], ends[5]};
+}
+
+std::optional<EvmPlot::Thicks> ticksOf(const CommandLine& line)
+{
+    const auto text = line.value("--ticks");
+    if (!text)
+        return std::nullopt;
+    const auto pieces = split(*text, ',');
+    if (pieces.size() != 3)
+        throw wrongValue("--ticks", *text, "three numbers separated by commas");
+    EvmPlot::Thicks ticks;
+    ticks.v = countOf(pieces[0], mostTicks, "--ticks");
+    ticks.g = countOf(pieces[1], mostTicks, "--ticks");
+    ticks.f = countOf(pieces[2], mostTicks, "--ticks");
+    return ticks;
+}
+
+QSize sizeOf(const CommandLine& line, QSize otherwise)
+{
+    const auto text = line.value("--size");
+    if (!text)
+        return otherwise;
+    const auto pieces = split(*text, 'x');
+    if (pieces.size() != 2)
+        throw wrongValue("--size", *text, "a size such as 1000x750");
+    return {countOf(pieces[0], largestSide, "--size"), countOf(pieces[1], largestSide, "--size")};
+}
+
+/// Each value of an option "VALUE=CAPTION"; the caption may be missing.
+std::vector<CaptionedValue> captionedValuesOf(const CommandLine& line, std::string_view option)
+{
+    std::vector<CaptionedValue> values;
+    for (const std::string& text : line.values(option)) {
+        const std::size_t equal = text.find('=');
+        const std::string caption = equal == std::string::npos ? "" : text.substr(equal + 1);
+        values.push_back(
+            {singlesOf(text.substr(0, equal), 1, option).front(), QString::fromStdString(caption)});
+    }
+    return values;
+}
+
+void readMarkers(const CommandLine& line, PictureOptions& options)
+{
+    constexpr std::string_view factorPrefix = "mpf:";
+    if (const auto marker = line.value("--marker")) {
+        if (*marker == "none") {
+            options.markerStyle = markerstyle::none;
+        } else if (*marker == "id") {
+            options.markerStyle = markerstyle::modeNumber;
+        } else if (*marker == "tag") {
+            options.markerStyle = markerstyle::tag;
+        } else if (marker->starts_with(factorPrefix)) {
+            options.markerStyle = markerstyle::participationFactor;
+            options.factor = countOf(marker->substr(factorPrefix.size()),
+                                     ParticipationFactors::capacity, "--marker mpf");
+        } else {
+            throw wrongValue("--marker", *marker, "none, id, tag or mpf:I");
+        }
+    }
+    if (const auto spacing = line.value("--marker-spacing"))
+        options.markerSpacing = countOf(*spacing, largestMarkerNumber, "--marker-spacing");
+    if (const auto size = line.value("--marker-size"))
+        options.markerSize = countOf(*size, largestMarkerNumber, "--marker-size");
+}
+
+} // namespace
+
+constinit const std::array<OptionDescription, 13> pictureOptionDescriptions = {
+    {{"--modes", "LIST", "modes to draw; all of them without this option"},
+     {"--scale", "VMIN,VMAX,FMIN,FMAX,GMIN,GMAX",
+      "ends of the axes of speed, frequency and damping;\nGMIN is the damping at the speed axis, "
+      "GMAX the one\nat the lower end; without it the axes fit the data"},
+     {"--ticks", "V,G,F", "numbers of ticks of the three axes"},
+     {"--size", "WxH", "size of the picture in pixels; 1000x750 without it"},
+     {"--header", "TEXT", "text above the plot; \\n begins a new line in all texts"},
+     {"--legend", "TEXT", "text of the legend"},
+     {"--subtitle", "TEXT", "text of the flutter mechanism"},
+     {"--reference-speed", "V=CAPTION", "mark at a speed; may be given again", false, true},
+     {"--damping-line", "G=CAPTION", "horizontal line at a damping; may be given again", false,
+      true},
+     {"--marker", "MARKER",
+      "what marks the points: none, id (the mode number),\ntag (the number of the curve) or mpf:I "
+      "(participation\nfactor I); id without this option"},
+     {"--marker-spacing", "N", "points from one marker to the next; 5 without it"},
+     {"--marker-size", "N", "size of the markers in points; 8 without it"},
+     {"--output", "OUTPUT", "the file to write, which ends in .png, .svg or .pdf", true}}};
+
+PictureOptions pictureOptionsOf(const CommandLine& line)
+{
+    PictureOptions options;
+    options.output = outputOf(line, extensions);
+    options.size = sizeOf(line, options.size);
+    if (const auto list = line.value("--modes"))
+        options.modes = modeListOf(*list);
+    options.scale = scaleOf(line);
+    options.ticks = ticksOf(line);
+    options.header = textOf(line, "--header");
+    options.legend = textOf(line, "--legend");
+    options.subtitle = textOf(line, "--subtitle");
+    options.referenceSpeeds = captionedValuesOf(line, "--reference-speed");
+    options.dampingLines = captionedValuesOf(line, "--damping-line");
+    readMarkers(line, options);
+    return options;
+}
+
+} // namespace tarsil::batch

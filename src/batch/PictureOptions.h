@@ -1,0 +1,50 @@
+#pragma once
+
+#include "batch/ModeList.h"
+#include "vgf/EvmPlot.h"
+
+#include <QSize>
+#include <QString>
+
+#include <array>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tarsil::batch {
+
+class CommandLine;
+struct OptionDescription;
+
+/// A value on an axis with a text: a reference speed (KEAS) or a damping line.
+struct CaptionedValue
+{
+    float value;
+    QString caption;
+};
+
+/// What the command "picture" was asked to draw.
+struct PictureOptions
+{
+    std::string output;
+    QSize size {1000, 750}; ///< pixels at 96 per inch
+    std::optional<ModeList> modes;
+    std::optional<EvmPlot::Scale> scale; ///< fitted to the data when missing
+    std::optional<EvmPlot::Thicks> ticks;
+    QString header;
+    QString legend;
+    QString subtitle;
+    std::vector<CaptionedValue> referenceSpeeds;
+    std::vector<CaptionedValue> dampingLines;
+    std::int32_t markerStyle = markerstyle::modeNumber;
+    std::int32_t factor = 0; ///< counted from 1, for markers that show a participation factor
+    std::int32_t markerSpacing = 5;
+    std::int32_t markerSize = 8; ///< points
+};
+
+extern const std::array<OptionDescription, 13> pictureOptionDescriptions;
+
+/// Reads them from the command line; UsageError for what makes no sense.
+PictureOptions pictureOptionsOf(const CommandLine& line);
+
+} // namespace tarsil::batch

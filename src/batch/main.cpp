@@ -1,0 +1,32 @@
+#include "batch/Batch.h"
+
+#include <QGuiApplication>
+
+#include <iostream>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace {
+
+/// The toolkit's remarks on its surroundings are no concern of whoever draws a picture.
+void keepQuiet(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message)
+{
+    if (type == QtCriticalMsg || type == QtFatalMsg)
+        std::cerr << "tarsil-batch: " << message.toStdString() << '\n';
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const std::vector<std::string> arguments(argv + 1, argv + argc);
+    // Only pictures need fonts, and so the toolkit; they need no display in any case.
+    std::unique_ptr<QGuiApplication> application;
+    if (tarsil::batch::drawsPicture(arguments)) {
+        qInstallMessageHandler(keepQuiet);
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        application = std::make_unique<QGuiApplication>(argc, argv);
+    }
+    return tarsil::batch::runBatch(arguments, std::cout, std::cerr);
+}

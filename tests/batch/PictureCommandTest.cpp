@@ -1,0 +1,209 @@
+#include "batch/BatchFixture.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QSvgRenderer>
+#include <QXmlStreamReader>
+
+#include <gmock/gmock.h>
+
+using namespace tarsil;
+using test::fileBytes;
+using test::runBatch;
+using ::testing::HasSubstr;
+
+namespace {
+
+class PictureCommand : public test::BatchFixture
+{
+protected:
+    /// Draws into a file of this name, with more arguments, and returns its path.
+    std::string draw(std::string_view name, const std::vector<std::string>& more) const
+    {
+        const std::string output = file(name);
+        std::vector<std::string> all = {"picture", "--output", output};
+        all.insert(all.end(), more.begin(), more.end());
+        const auto result = runBatch(all);
+        EXPECT_EQ(result.status, 0) << result.err;
+        EXPECT_EQ(result.out + result.err, "");
+        return output;
+    }
+
+    /// All texts of an SVG, each followed by a bar.
+    static std::string textsOf(const std::string& path)
+    {
+        QXmlStreamReader xml(QByteArray::fromStdString(fileBytes(path)));
+        std::string texts;
+        while (!xml.atEnd()) {
+            if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == u"text")
+                texts += xml.readElementText().trimmed().toStdString() + "|";
+        }
+        EXPECT_FALSE(xml.hasError());
+        return texts;
+    }
+
+    static QImage imageOf(const std::string& path) { return QImage(QString::fromStdString(path)); }
+
+    /// Pixels of the picture that have more blue than red: those of a blue curve, smooth edges
+    /// included.
+    static std::size_t bluePixels(const QImage& image)
+    {
+        return count(image, [](QRgb color) { return qBlue(color) > qRed(color) + 60; });
+    }
+
+    static std::size_t inkedPixels(const QImage& image)
+    {
+        return count(image, [](QRgb color) { return color != qRgb(255, 255, 255); });
+    }
+
+private:
+    template <typename Condition>
+    static std::size_t count(const QImage& image, Condition condition)
+    {
+        std::size_t pixels = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x)
+                pixels += condition(image.pixel(x, y)) ? 1U : 0U;
+        }
+        return pixels;
+    }
+};
+
+} // namespace
+
+TEST_F(PictureCommand, drawsAPngOfTheSizeAskedFor)
+{
+    const QImage image = imageOf(draw("out.png", {"--size", "640x480", writeEv2()}));
+    EXPECT_EQ(image.size(), QSize(640, 480));
+    EXPECT_EQ(image.pixel(0, 0), qRgb(255, 255, 255));
+    // The second curve has the second base colour.
+    EXPECT_GT(bluePixels(image), 100U);
+    EXPECT_EQ(image.dotsPerMeterX(), 3780); // 96 per inch
+}
+
+TEST_F(PictureCommand, drawsAnSvgWithTheTexts)
+{
+    const std::string path =
+        draw("out.SVG",
+             {"--header", "first\\nsecond", "--legend", "Fl\xC3\xBCgel", "--subtitle",
+              "the mechanism", "--reference-speed", "350=VD", "--reference-speed", "300=VC",
+              "--damping-line", "-0.02=two percent", writeEv2()});
+    const std::string texts = textsOf(path);
+    for (const char* text :
+         {"first|second|", "Fl\xC3\xBCgel|", "the mechanism|", "VD|", "VC|", "two percent|"})
+        EXPECT_THAT(texts, HasSubstr(text));
+    EXPECT_TRUE(QSvgRenderer(QString::fromStdString(path)).isValid());
+}
+
+TEST_F(PictureCommand, keepsSvgCurvesWithinTheirCanvas)
+{
+    // With a damping axis that ends at 0.1 the curves, which reach from -1 to 1, leave the canvas.
+    const std::string path = draw("out.svg", {"--scale", "0,400,0,20,0,-0.1", writeEv2()});
+    QImage image(1000, 750, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    QSvgRenderer(QString::fromStdString(path)).render(&painter);
+    painter.end();
+    EXPECT_GT(bluePixels(image), 100U);
+    EXPECT_EQ(inkedPixels(image.copy(0, 0, 1000, 60)), 0U);
+}
+
+TEST_F(PictureCommand, drawsAPdf)
+{
+    const std::string bytes = fileBytes(draw("out.pdf", {"--size", "960x480", writeEv2()}));
+    EXPECT_TRUE(bytes.starts_with("%PDF-"));
+    EXPECT_TRUE(bytes.ends_with("%%EOF\n"));
+    // 960 x 480 pixels in points.
+    EXPECT_NE(bytes.find("/MediaBox [0 0 720.000000 360.000000]"), std::string::npos);
+}
+
+TEST_F(PictureCommand, takesScaleAndTicks)
+{
+    const std::string texts = textsOf(
+        draw("out.svg", {"--scale", "100,500,0,20,0,-0.5", "--ticks", "4,5,2", writeEv2()}));
+    // Every 100 knots, 10 Hz and 0.1.
+    for (const char* text : {"200|", "300|", "400|", "10.0|", "-0.10|", "-0.40|"})
+        EXPECT_THAT(texts, HasSubstr(text));
+    EXPECT_THAT(texts, ::testing::Not(HasSubstr("250|")));
+}
+
+TEST_F(PictureCommand, putsRoundTicksOnAScale)
+{
+    const std::string texts =
+        textsOf(draw("out.svg", {"--scale", "0,500,0,30,0,-0.2", writeEv2()}));
+    for (const char* text : {"50|", "450|", "5.0|"})
+        EXPECT_THAT(texts, HasSubstr(text));
+}
+
+TEST_F(PictureCommand, fitsTheAxesWithoutAScale)
+{
+    // Up to 400 knots, 14 Hz and a damping of 1, of which no more than 0.5 is shown.
+    const std::string texts = textsOf(draw("out.svg", {writeEv2()}));
+    for (const char* text : {"200|", "10.0|", "-0.45|"})
+        EXPECT_THAT(texts, HasSubstr(text));
+    EXPECT_THAT(texts, ::testing::Not(HasSubstr("-0.60|")));
+}
+
+TEST_F(PictureCommand, marksThePointsAsAskedFor)
+{
+    const std::string path = writeEv2();
+    const auto texts = [this, &path](std::vector<std::string> more) {
+        more.insert(more.end(), {"--marker-spacing", "1", "--scale", "0,1000,0,100,0,-2", path});
+        return "|" + textsOf(draw("out.svg", more));
+    };
+    EXPECT_THAT(texts({}), HasSubstr("|5|"));
+    EXPECT_THAT(texts({"--marker", "id"}), HasSubstr("|5|"));
+    EXPECT_THAT(texts({"--marker", "none"}), ::testing::Not(HasSubstr("|5|")));
+    EXPECT_THAT(texts({"--marker", "tag"}), HasSubstr("|1|"));
+    EXPECT_THAT(texts({"--marker", "mpf:3", "--marker-size", "6"}), HasSubstr("|0.3"));
+}
+
+TEST_F(PictureCommand, drawsTheModesListed)
+{
+    const QImage image = imageOf(draw("out.png", {"--modes", "2", writeEv2()}));
+    EXPECT_EQ(bluePixels(image), 0U) << "one curve only, in the first colour";
+}
+
+TEST_F(PictureCommand, drawsEmptyAxesForAFileWithoutModes)
+{
+    const std::string path =
+        folder().write("empty.evm", "\n\n\n" + std::string(60, ' ') + "   0       0\n");
+    EXPECT_GT(inkedPixels(imageOf(draw("out.png", {path}))), 100U);
+}
+
+TEST_F(PictureCommand, leavesNoPictureWhenAFileIsRefused)
+{
+    const std::string path = folder().write("bad.evm", "\n\n\n" + std::string(80, ' ') + "\n");
+    const auto result = runBatch({"picture", "--output", file("out.png"), writeEv2(), path});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.err, HasSubstr("bad.evm, line 4")); // blank counts are no numbers
+    EXPECT_EQ(fileCount(), 2U);
+}
+
+TEST_F(PictureCommand, refusesWrongUsage)
+{
+    const std::string path = writeEv2();
+    const std::vector<std::vector<std::string>> wrong = {
+        {"--output", file("out.emf")},
+        {"--output", file("out.png"), "--size", "0x10"},
+        {"--output", file("out.png"), "--size", "20001x10"},
+        {"--output", file("out.png"), "--size", "640"},
+        {"--output", file("out.png"), "--size", "-640x480"},
+        {"--output", file("out.png"), "--scale", "0,1,2"},
+        {"--output", file("out.png"), "--scale", "5,5,0,1,0,-1"},
+        {"--output", file("out.png"), "--ticks", "1,2"},
+        {"--output", file("out.png"), "--ticks", "0,2,3"},
+        {"--output", file("out.png"), "--marker", "star"},
+        {"--output", file("out.png"), "--marker", "mpf:6"},
+        {"--output", file("out.png"), "--marker", "mpf:"},
+        {"--output", file("out.png"), "--marker-size", "big"},
+        {"--output", file("out.png"), "--reference-speed", "VD"},
+        {"--output", file("out.png"), "--modes", "all"},
+    };
+    for (const auto& more : wrong) {
+        std::vector<std::string> all = {"picture", path};
+        all.insert(all.end(), more.begin(), more.end());
+        EXPECT_EQ(runBatch(all).status, 2) << ::testing::PrintToString(more);
+    }
+    EXPECT_EQ(fileCount(), 1U);
+}
