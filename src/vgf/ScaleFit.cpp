@@ -11,6 +11,7 @@ namespace {
 constexpr double mostDamping = 0.5;
 constexpr double leastDamping = 0.02;
 constexpr double mostSteps = 10;
+constexpr double frequencyHeadroom = 1.02; ///< keeps the highest curve clear of the axis title
 
 /// The smallest round step that is not below `least`.
 double roundStep(double least)
@@ -67,7 +68,7 @@ FittedAxes fitAxes(const SeriesList& series)
     if (!extent.hasPoints)
         return axes;
     const RoundRange speed = roundRange(0, extent.speed);
-    const RoundRange frequency = roundRange(0, extent.frequency);
+    const RoundRange frequency = roundRange(0, frequencyHeadroom * extent.frequency);
     const RoundRange damping = roundRange(0, std::clamp(extent.damping, leastDamping, mostDamping));
     axes.scale.vmax = static_cast<float>(speed.high);
     axes.scale.fmax = static_cast<float>(frequency.high);

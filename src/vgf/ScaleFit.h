@@ -21,8 +21,9 @@ struct RoundRange
 };
 RoundRange roundRange(double low, double high);
 
-/// The axes that show all speeds and frequencies of the series from 0 on, and their dampings to
-/// both sides of the speed axis up to 0.5 (a strongly damped mode must not squeeze the rest).
+/// The axes that show all speeds and frequencies of the series from 0 on, with a little room above
+/// the highest frequency, and their dampings to both sides of the speed axis up to 0.5 (a strongly
+/// damped mode must not squeeze the rest).
 /// Without any point, those of a new plot. The speed axis begins at 0 always: only there do
 /// reference-speed marks stand at their data position.
 FittedAxes fitAxes(const SeriesList& series);
