@@ -4,6 +4,8 @@
 #include "analysis/Isa.h"
 #include "model/EVM.h"
 #include "runtime/Numbers.h"
+#include "runtime/PathNames.h"
+#include "runtime/RunTimeError.h"
 
 #include <algorithm>
 #include <utility>
@@ -55,6 +57,17 @@ std::size_t findCrossings(const std::vector<ReportRow>& rows, double gOffset)
     return largest;
 }
 
+/// The altitude in feet where the equivalent airspeed belongs to the Mach number; an error says of
+/// which mode.
+double altitudeOf(const AeMode& mode, float speed, float mach)
+{
+    try {
+        return ISA::IsaAltitude(double {speed}, double {mach}, "knot");
+    } catch (const RunTimeError& error) {
+        throw error.at(shownPath(mode.Parent->path()) + ", mode " + std::to_string(mode.Id));
+    }
+}
+
 } // namespace
 
 FlutterReport::FlutterReport(double referenceDamping, double speedLimit, MachQuestion askMach)
@@ -104,8 +117,7 @@ void FlutterReport::writeCrossings(const AeMode& mode, std::size_t line, std::si
         sheet.setNumber(line, column, decimalValue(point.speed));
         sheet.setNumber(line, column + crossings, decimalValue(point.f));
         const float mach = machNumber(evolution, line, sheet);
-        sheet.setNumber(line, column + 2 * crossings,
-                        ISA::IsaAltitude(double {point.speed}, double {mach}, "knot"));
+        sheet.setNumber(line, column + 2 * crossings, altitudeOf(mode, point.speed, mach));
         if (evolution.hasParticipationFactors && !point.mpf.empty())
             sheet.setNumber(line, column + 3 * crossings, decimalValue(point.mpf[0]));
         ++column;

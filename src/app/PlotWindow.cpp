@@ -2,6 +2,7 @@
 
 #include "runtime/ErrorReport.h"
 #include "runtime/NumberFormat.h"
+#include "runtime/PathNames.h"
 #include "vgf/EvmPlotView.h"
 #include "vgf/ScaleFit.h"
 
@@ -81,7 +82,7 @@ void PlotWindow::open(const QStringList& files)
 {
     for (const QString& file : files) {
         try {
-            addModes(m_session.open(file.toStdString()));
+            addModes(openEvolution(file.toStdString()));
         } catch (const RunTimeError& error) {
             // The box waits for the event loop, so that the window is there first.
             QTimer::singleShot(0, this, [this, error] { report(error); });
@@ -94,6 +95,14 @@ void PlotWindow::open(const QStringList& files)
     m_plot.setFthicks(axes.thicks.f);
     fillTexts();
     drawPlot();
+}
+
+EVM& PlotWindow::openEvolution(const std::string& path)
+{
+    if (fileExists(path) && !layoutOf(resolvePath(path).name))
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall, "PlotWindow",
+                           shownPath(path) + " has neither .evm nor .ev2 in its name");
+    return m_session.open(path);
 }
 
 /// Every mode gets a curve, marked here and there with its number; each file has its line style.

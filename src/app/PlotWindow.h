@@ -27,6 +27,7 @@ public:
     EvmPlot& plot() { return m_plot; }
 
 private:
+    EVM& openEvolution(const std::string& path);
     void addModes(EVM& evolution);
     void fillTexts();
     void drawPlot();

@@ -1,6 +1,7 @@
 #include "app/PlotWindow.h"
 
 #include <QApplication>
+#include <QCommandLineParser>
 
 int main(int argc, char** argv)
 {
@@ -8,8 +9,17 @@ int main(int argc, char** argv)
     QApplication::setApplicationName(QStringLiteral("tarsil"));
     QApplication::setApplicationDisplayName(QStringLiteral("Tarsil"));
     QApplication::setDesktopFileName(QStringLiteral("tarsil"));
+    QApplication::setApplicationVersion(QStringLiteral(TARSIL_VERSION));
+    QCommandLineParser commandLine;
+    commandLine.setApplicationDescription(
+        QStringLiteral("Shows the V-g-f plot of modal evolutions (.evm and .ev2 files)."));
+    commandLine.addHelpOption();
+    commandLine.addVersionOption();
+    commandLine.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("A modal evolution."),
+                                      QStringLiteral("[FILE...]"));
+    commandLine.process(application);
     tarsil::PlotWindow window;
-    window.open(QApplication::arguments().mid(1));
+    window.open(commandLine.positionalArguments());
     window.show();
     return QApplication::exec();
 }

@@ -40,11 +40,16 @@ std::string programHelp()
           "usage.\n";
 }
 
-/// The arguments before "--", where options can stand.
-bool asksFor(std::span<const std::string> arguments, std::string_view option)
+/// Whether --help stands where an option can: not behind "--", and not as the value of an option.
+bool asksForHelp(const Command& command, std::span<const std::string> arguments)
 {
-    const auto end = std::find(arguments.begin(), arguments.end(), "--");
-    return std::find(arguments.begin(), end, option) != end;
+    for (std::size_t i = 0; i < arguments.size() && arguments[i] != "--"; ++i) {
+        if (arguments[i] == "--help")
+            return true;
+        if (takesNextArgument(command.description, arguments[i]))
+            ++i;
+    }
+    return false;
 }
 
 const Command& commandNamed(const std::string& name)
@@ -68,7 +73,7 @@ int runCommand(const std::vector<std::string>& arguments, BatchRun& run)
     }
     const Command& command = commandNamed(arguments[0]);
     const auto rest = std::span(arguments).subspan(1);
-    if (asksFor(rest, "--help")) {
+    if (asksForHelp(command, rest)) {
         run.out() << helpText(command.description);
         return done;
     }
@@ -117,7 +122,7 @@ int runBatch(const std::vector<std::string>& arguments, std::ostream& out, std::
 bool drawsPicture(const std::vector<std::string>& arguments)
 {
     return !arguments.empty() && arguments[0] == pictureCommand.description.name
-        && !asksFor(arguments, "--help");
+        && !asksForHelp(pictureCommand, std::span(arguments).subspan(1));
 }
 
 } // namespace tarsil::batch

@@ -19,11 +19,10 @@ EVM& BatchRun::open(const std::string& path)
 {
     const FilePath file = resolvePath(path);
     m_names.emplace_back(shownPath(joinPath(file.folder, file.name)), path);
-    const bool tellsFormat =
-        file.name.find(".evm") != std::string::npos || file.name.find(".ev2") != std::string::npos;
-    if (!tellsFormat && !fileExists(path))
+    const bool tellsLayout = layoutOf(file.name).has_value();
+    if (!tellsLayout && !fileExists(path))
         throw fileError(ENOENT, "tarsil-batch", path);
-    if (!tellsFormat)
+    if (!tellsLayout)
         throw Failure(path + ": a modal evolution has .evm or .ev2 in its name");
     return m_session.open(path);
 }

@@ -155,6 +155,13 @@ std::optional<double> CommandLine::number(std::string_view option) const
     return text ? std::optional(numberOf(*text, option)) : std::nullopt;
 }
 
+bool takesNextArgument(const CommandDescription& description, std::string_view argument)
+{
+    return std::any_of(
+        description.options.begin(), description.options.end(),
+        [argument](const auto& known) { return known.name == argument && !known.value.empty(); });
+}
+
 double numberOf(std::string_view text, std::string_view option)
 {
     double number = 0;

@@ -65,6 +65,9 @@ private:
     std::vector<std::string> m_operands;
 };
 
+/// Whether the argument is an option whose value is the next argument.
+bool takesNextArgument(const CommandDescription& description, std::string_view argument);
+
 /// A number written on the command line; UsageError, naming the option, for other text.
 double numberOf(std::string_view text, std::string_view option);
 

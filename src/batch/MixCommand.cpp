@@ -20,17 +20,19 @@ struct Ingredient
     std::optional<ModeList> modes;
 };
 
-/// FILE or FILE:LIST. A file that has the whole text as its name comes first, and what follows the
-/// last colon is no list when it goes on with a path ("C:\wing.ev2").
+/// FILE or FILE:LIST. A file that has the whole text as its name comes first. What follows the last
+/// colon is a list when it looks like one, or when a file stands before it ("C:\wing.ev2" is none).
 Ingredient ingredientOf(const std::string& operand)
 {
     const std::size_t colon = operand.rfind(':');
     if (colon == std::string::npos || fileExists(operand))
         return {operand, std::nullopt};
     const std::string list = operand.substr(colon + 1);
-    if (list.find_first_of("/\\") != std::string::npos)
+    const std::string path = operand.substr(0, colon);
+    const bool looksLikeList = list.find_first_not_of("0123456789,-") == std::string::npos;
+    if (!looksLikeList && !fileExists(path))
         return {operand, std::nullopt};
-    return {operand.substr(0, colon), modeListOf(list)};
+    return {path, modeListOf(list)};
 }
 
 void warnOfDifferentLengths(const std::vector<const AeMode*>& modes, BatchRun& run)

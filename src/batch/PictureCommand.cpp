@@ -58,7 +58,6 @@ void setTexts(EvmPlot& plot, const PictureOptions& options)
     plot.Header().setText(options.header);
     plot.Legend().setText(options.legend);
     plot.Mechanism().setText(options.subtitle);
-    plot.refresh();
     for (const CaptionedValue& reference : options.referenceSpeeds)
         plot.AddRef(reference.value, reference.caption);
     for (const CaptionedValue& damping : options.dampingLines)
@@ -69,14 +68,14 @@ int runPicture(const CommandLine& line, BatchRun& run)
 {
     const PictureOptions options = pictureOptionsOf(line);
     EvmPlot plot;
-    plot.resize(options.size);
     for (const std::string& path : line.operands()) {
+        refuseOutputOverInput(options.output, path);
         for (AeMode* mode : selectModes(run.open(path), options.modes, path))
             addSeries(plot, *mode, options);
     }
     setAxes(plot, options);
     setTexts(plot, options);
-    plot.plot();
+    plot.resize(options.size);
     const QByteArray bytes = pictureBytes(plot, options.output);
     writeFile(options.output, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
     return done;

@@ -16,10 +16,10 @@ constexpr std::array<std::string_view, 2> extensions = {".xlsx", ".csv"};
 /// The Mach number given for files that hold none, as text; no text when none is given.
 std::optional<std::string> machOf(const CommandLine& line)
 {
-    const auto mach = line.number("--mach");
-    if (mach && *mach <= 0)
+    const auto text = line.value("--mach");
+    if (text && singlesOf(*text, 1, "--mach").front() <= 0)
         throw UsageError("--mach must be greater than 0");
-    return line.value("--mach");
+    return text;
 }
 
 int runReport(const CommandLine& line, BatchRun& run)
@@ -33,6 +33,7 @@ int runReport(const CommandLine& line, BatchRun& run)
 
     std::vector<ReportRow> rows;
     for (const std::string& path : line.operands()) {
+        refuseOutputOverInput(output, path);
         const EVM& evolution = run.open(path);
         for (AeMode* mode : selectModes(evolution, list, path))
             rows.push_back({mode, caseTextOf(evolution)});

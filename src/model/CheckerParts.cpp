@@ -1,5 +1,7 @@
 #include "model/CheckerParts.h"
 
+#include "runtime/QuotedText.h"
+
 #include <algorithm>
 
 namespace tarsil {
@@ -53,12 +55,8 @@ std::string numberComplaint(NumberStatus status, std::string_view text)
 
 std::string quoted(std::string_view text)
 {
-    constexpr std::size_t longest = 60;
     text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
-    text = text.substr(0, text.find_last_not_of(" \t") + 1);
-    std::string result = "\"";
-    result.append(text.substr(0, longest));
-    return result + (text.size() > longest ? "...\"" : "\"");
+    return quotedText(text.substr(0, text.find_last_not_of(" \t") + 1));
 }
 
 ModeWatch::ModeWatch(FindingList& findings, ModeEnds ends) : m_findings(findings), m_ends(ends) { }

@@ -37,7 +37,7 @@ private:
 /// "is blank", "is not a number", ...: what is wrong with a number text, its status not being Ok.
 std::string numberComplaint(NumberStatus status, std::string_view text);
 
-/// The text in quotation marks, without surrounding blanks and cut after sixty bytes.
+/// `quotedText` without the blanks around the text.
 std::string quoted(std::string_view text);
 
 /// Follows the points of a file, mode by mode: finds modes of another length than declared, mode

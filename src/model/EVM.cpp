@@ -17,15 +17,24 @@ std::string EVM::path() const
     return joinPath(Folder, FileName);
 }
 
+std::optional<EvolutionLayout> layoutOf(std::string_view fileName)
+{
+    if (fileName.find(".evm") != std::string_view::npos)
+        return EvolutionLayout::FixedColumns;
+    if (fileName.find(".ev2") != std::string_view::npos)
+        return EvolutionLayout::Sections;
+    return std::nullopt;
+}
+
 void EVM::Contruct()
 {
-    const bool isOld = FileName.find(".evm") != std::string::npos;
-    if (!isOld && FileName.find(".ev2") == std::string::npos)
+    const std::optional<EvolutionLayout> layout = layoutOf(FileName);
+    if (!layout)
         return;
     const MappedFile file(path());
     TextStream stream(file.bytes(), shownPath(path()));
     EVM contents;
-    if (isOld)
+    if (layout == EvolutionLayout::FixedColumns)
         readEvm(stream, contents);
     else
         readEv2(stream, contents);

@@ -5,11 +5,22 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace tarsil {
+
+/// How the text of an evolution file is laid out.
+enum class EvolutionLayout {
+    FixedColumns, ///< the old format, ".evm"
+    Sections ///< the new format, ".ev2"
+};
+
+/// The layout that a file name tells: ".evm" anywhere in it is the old one, otherwise ".ev2" the
+/// new one (exact, case counts).
+std::optional<EvolutionLayout> layoutOf(std::string_view fileName);
 
 /// One modal evolution: the result of one flutter run, held by one file. `Folder` and `FileName`
 /// together identify it. It stays where it was made, since its modes refer to it.
@@ -42,9 +53,8 @@ public:
     /// The file's path in stored form: `Folder`, a backslash, `FileName`.
     std::string path() const;
 
-    /// Fills the evolution from its file; `Folder` and `FileName` must be set. A name that contains
-    /// ".evm" is read as the fixed-column layout, otherwise one that contains ".ev2" as the
-    /// sectioned layout (exact, case counts); with neither the evolution stays empty. Errors: those
+    /// Fills the evolution from its file; `Folder` and `FileName` must be set. The name tells the
+    /// layout (`layoutOf`); when it tells none the evolution stays empty. Errors: those
     /// of opening a file; 13 or 6 for a field that is no number, 9 for a row with too few fields,
     /// 62 for a file that ends before its results, 457 for a repeated key, each naming file, line
     /// and text. After an error the evolution is as it was before.

@@ -82,8 +82,12 @@ void Ev2Checker::check()
         while (readSectionLine(line)) { }
     }
     if (findHeader(ev2layout::modelHeader)) {
-        while (readSectionLine(line))
-            checkModelLine(ev2layout::splitAtFirstEqual(line));
+        while (readSectionLine(line)) {
+            if (line.find('=') == std::string_view::npos)
+                add("no \"=\" stands between a key and its value: " + quoted(line));
+            else
+                checkModelLine(ev2layout::splitAtFirstEqual(line));
+        }
     }
     if (findHeader(ev2layout::resultHeader))
         checkResults();

@@ -222,8 +222,9 @@ void EvmChecker::compareModeCount()
     const std::string declared = std::to_string(*m_declaredModes) + " aeroelastic modes";
     if (std::cmp_less(m_modes.wholeModeCount(), *m_declaredModes))
         m_findings.addSummary(countLine,
-                              declared + " are declared, but the file holds "
-                                  + std::to_string(m_modes.wholeModeCount()) + " whole ones");
+                              declared + " are declared, but only "
+                                  + std::to_string(m_modes.wholeModeCount())
+                                  + " in the file have the declared number of points");
     else if (takeHalf() && looksLikePoint(m_half))
         m_findings.addSummary(m_stream.lineNumber(),
                               "more points follow than the " + declared

@@ -1,6 +1,7 @@
 #include "model/EvolutionChecker.h"
 
 #include "model/CheckerParts.h"
+#include "model/EVM.h"
 #include "runtime/MappedFile.h"
 #include "runtime/PathNames.h"
 #include "runtime/RunTimeError.h"
@@ -16,8 +17,8 @@ std::vector<Finding> checkEvolution(std::string_view path)
 
 std::vector<Finding> checkEvolutionText(std::string_view text, std::string_view fileName)
 {
-    const bool isOld = fileName.find(".evm") != std::string_view::npos;
-    if (!isOld && fileName.find(".ev2") == std::string_view::npos)
+    const std::optional<EvolutionLayout> layout = layoutOf(fileName);
+    if (!layout)
         throw RunTimeError(ErrorNumber::InvalidProcedureCall, "EvolutionChecker",
                            "the name \"" + std::string(fileName)
                                + "\" holds neither \".evm\" nor \".ev2\"");
@@ -25,7 +26,7 @@ std::vector<Finding> checkEvolutionText(std::string_view text, std::string_view 
     TextStream stream(text, std::string(fileName));
     if (stream.atEndOfStream())
         findings.add(1, "the file is empty");
-    else if (isOld)
+    else if (layout == EvolutionLayout::FixedColumns)
         checkEvm(stream, findings);
     else
         checkEv2(stream, findings);

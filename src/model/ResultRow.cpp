@@ -1,6 +1,7 @@
 #include "model/ResultRow.h"
 
 #include "model/EVM.h"
+#include "runtime/QuotedText.h"
 #include "runtime/RunTimeError.h"
 #include "runtime/TextStream.h"
 
@@ -82,8 +83,7 @@ bool ResultTable::readRow()
     if (m_row.count() <= resultfield::frequency)
         throw RunTimeError(ErrorNumber::SubscriptOutOfRange, "EVM",
                            m_stream.place() + ": only " + std::to_string(m_row.count())
-                               + " of the fields of a result row: \""
-                               + std::string(line.substr(0, 60)) + "\"");
+                               + " of the fields of a result row: " + quotedText(line));
     const std::int16_t number = readModeNumber();
     if (!m_mode || m_mode->Id != number)
         startMode(number);

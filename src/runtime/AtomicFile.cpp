@@ -35,6 +35,8 @@ void checkTarget(const fs::path& target, std::string_view path)
         return;
     if (fs::is_directory(status))
         throw fileError(EISDIR, "AtomicFile", path);
+    if (!fs::is_regular_file(status)) // a device or a pipe would be replaced, not written to
+        throw fileError(EINVAL, "AtomicFile", path);
     constexpr auto anyWrite =
         fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
     if ((status.permissions() & anyWrite) == fs::perms::none)
@@ -63,11 +65,9 @@ fs::path temporaryName(const fs::path& target)
 {
     static std::atomic<unsigned> counter = 0;
     const auto stamp = std::chrono::steady_clock::now().time_since_epoch().count();
-    fs::path name = target;
-    std::string suffix(1, '.');
-    suffix.append(std::to_string(stamp)).append("-").append(std::to_string(counter++));
-    name += suffix.append(".tmp");
-    return name;
+    std::string name = ".tarsil-";
+    name.append(std::to_string(stamp)).append("-").append(std::to_string(counter++));
+    return target.parent_path() / name.append(".tmp");
 }
 
 AtomicFile::AtomicFile(std::string_view path)

@@ -11,7 +11,7 @@ namespace tarsil {
 /// A file that is written whole or not at all: the bytes go into a temporary file in the same
 /// folder, and `commit` puts it into the place of `path`. Without `commit`, or after an error, the
 /// old file is as it was. Errors of every operation: 61 disk full, 70 not permitted (a read-only
-/// file included), 75 a folder of that name, 76 folder missing, 57 broken medium.
+/// file included), 75 a folder, device or pipe of that name, 76 folder missing, 57 broken medium.
 class AtomicFile
 {
 public:
@@ -40,7 +40,7 @@ private:
 /// Writes all bytes in one go.
 void writeFile(std::string_view path, std::string_view bytes);
 
-/// A free name for a temporary file beside `target`.
+/// A free, short name for a temporary file in the folder of `target`.
 std::filesystem::path temporaryName(const std::filesystem::path& target);
 
 /// Puts a finished temporary file into the place of `path`; the temporary goes when that fails.

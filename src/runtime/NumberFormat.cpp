@@ -144,7 +144,9 @@ template <typename Number>
 std::string format(Number value, std::string_view text)
 {
     if (!std::isfinite(value))
-        throw RunTimeError(ErrorNumber::Overflow, "NumberFormat");
+        throw RunTimeError(ErrorNumber::Overflow, "NumberFormat",
+                           "a value beyond the range of numbers in the pattern \""
+                               + std::string(text) + "\"");
     const Pattern pattern = readPattern(text);
     Digits number = decompose(value);
     const int decimals = pattern.fixedDecimals + pattern.optionalDecimals;

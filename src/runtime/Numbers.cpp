@@ -1,5 +1,6 @@
 #include "runtime/Numbers.h"
 
+#include "runtime/QuotedText.h"
 #include "runtime/RunTimeError.h"
 #include "runtime/ShortNumber.h"
 
@@ -223,10 +224,8 @@ NumberStatus parseInteger16(std::string_view text, std::int16_t& value) noexcept
 void throwNumberError(NumberStatus status, std::string_view text, std::string_view source,
                       std::string_view where)
 {
-    constexpr std::size_t longest = 60;
     std::string details(where);
-    details.append(where.empty() ? "\"" : ": \"").append(text.substr(0, longest));
-    details.append(text.size() > longest ? "...\"" : "\"");
+    details.append(where.empty() ? "" : ": ").append(quotedText(text));
     const ErrorNumber number =
         status == NumberStatus::Overflow ? ErrorNumber::Overflow : ErrorNumber::TypeMismatch;
     throw RunTimeError(number, std::string(source), details);

@@ -33,6 +33,11 @@ ErrorNumber numberOf(int code, std::string_view path)
     }
 }
 
+bool stepsUp(const std::filesystem::path& path)
+{
+    return std::find(path.begin(), path.end(), "..") != path.end();
+}
+
 } // namespace
 
 std::string joinPath(std::string_view folder, std::string_view name)
@@ -64,7 +69,15 @@ FilePath resolvePath(std::string_view path)
     std::error_code failed;
     const std::filesystem::path native = nativePath(path);
     std::filesystem::path whole = std::filesystem::absolute(native, failed);
-    whole = (failed ? native : whole).lexically_normal();
+    if (failed)
+        whole = native;
+    if (stepsUp(whole)) {
+        // A step up leaves the folder that a symbolic link leads to, not the one that holds it.
+        const auto real = std::filesystem::weakly_canonical(whole.parent_path(), failed);
+        if (!failed)
+            whole = real / whole.filename();
+    }
+    whole = whole.lexically_normal();
     std::string folder = pathText(whole.parent_path());
     if (folder.ends_with('/'))
         folder.pop_back();

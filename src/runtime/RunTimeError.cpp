@@ -48,4 +48,11 @@ RunTimeError::RunTimeError(ErrorNumber number, std::string source, std::string_v
         m_description.append(": ").append(details);
 }
 
+RunTimeError RunTimeError::at(std::string_view place) const
+{
+    RunTimeError error = *this;
+    error.m_description.append(" (").append(place).append(")");
+    return error;
+}
+
 } // namespace tarsil

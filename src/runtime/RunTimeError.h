@@ -37,6 +37,9 @@ public:
     /// `details` says where and what (file, line, columns or field, text found); empty for none.
     RunTimeError(ErrorNumber number, std::string source, std::string_view details = {});
 
+    /// The same error, whose description also says where; for a caller that knows more.
+    RunTimeError at(std::string_view place) const;
+
     ErrorNumber number() const { return m_number; }
     const std::string& source() const { return m_source; }
     const std::string& description() const { return m_description; }

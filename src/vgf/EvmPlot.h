@@ -77,7 +77,7 @@ public:
     /// together. With no such point, or when the bounds still fall together, the scale stays.
     void fitFreq();
 
-    /// Empties both canvases and draws them, V-g first. Errors: those of `ucPlot`.
+    /// Empties both canvases and draws them, each on its own surface. Errors: those of `ucPlot`.
     void plot();
 
     /// Empties both canvases.

@@ -11,6 +11,7 @@ namespace {
 constexpr double mostDamping = 0.5;
 constexpr double leastDamping = 0.02;
 constexpr double mostSteps = 10;
+constexpr double largestEnd = 1e38; ///< a single still holds it when it is rounded up
 constexpr double frequencyHeadroom = 1.02; ///< keeps the highest curve clear of the axis title
 
 /// The smallest round step that is not below `least`.
@@ -67,8 +68,9 @@ FittedAxes fitAxes(const SeriesList& series)
     const Extent extent = extentOf(series);
     if (!extent.hasPoints)
         return axes;
-    const RoundRange speed = roundRange(0, extent.speed);
-    const RoundRange frequency = roundRange(0, frequencyHeadroom * extent.frequency);
+    const RoundRange speed = roundRange(0, std::min(extent.speed, largestEnd));
+    const RoundRange frequency =
+        roundRange(0, std::min(frequencyHeadroom * extent.frequency, largestEnd));
     const RoundRange damping = roundRange(0, std::clamp(extent.damping, leastDamping, mostDamping));
     axes.scale.vmax = static_cast<float>(speed.high);
     axes.scale.fmax = static_cast<float>(frequency.high);

@@ -5,6 +5,7 @@
 #include "runtime/Numbers.h"
 #include "runtime/RunTimeError.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 using namespace tarsil;
@@ -264,6 +265,7 @@ TEST(Report, keepsTheAnswerThatMakesTheAltitudeFail)
     const RunTimeError error =
         errorOf(FlutterReport(0, 1000, answer.asker()), {{&mode, ""}}, sheet);
     EXPECT_EQ(error.number(), ErrorNumber::DivisionByZero);
+    EXPECT_THAT(error.description(), ::testing::HasSubstr("mode 1)")) << "says of which mode";
     EXPECT_EQ(number(sheet, 2, 4), 0);
 }
 

@@ -200,6 +200,21 @@ TEST(PlotWindow, reportsAMissingFileInABoxAndDrawsTheOthers)
         << boxes.texts[0].toStdString();
 }
 
+TEST(PlotWindow, reportsAFileWhoseNameTellsNoLayout)
+{
+    const test::TemporaryFolder folder;
+    const QString notes = QString::fromStdString(folder.write("notes.txt", "text"));
+    BoxReader boxes;
+    PlotWindow window;
+    window.open({notes});
+    window.show();
+    boxes.readAll();
+    ASSERT_EQ(boxes.texts.size(), 1);
+    EXPECT_TRUE(boxes.texts[0].contains(QStringLiteral("notes.txt has neither .evm nor .ev2")))
+        << boxes.texts[0].toStdString();
+    EXPECT_TRUE(window.plot().SeriesCollection().empty());
+}
+
 TEST(PlotWindow, reportsAFailureOfDrawingInOneBox)
 {
     const test::TemporaryFolder folder;

@@ -69,6 +69,14 @@ TEST_F(MixCommand, takesAColonInAPathForNoList)
     EXPECT_THAT(result.err, HasSubstr("C:\\wing.ev2"));
 }
 
+TEST_F(MixCommand, namesAMissingFileWithAColonInItsName)
+{
+    const auto result = runBatch({"mix", "--output", file("out.mix"), "a:wing.ev2"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.err, HasSubstr("File not found: "));
+    EXPECT_THAT(result.err, HasSubstr("a:wing.ev2"));
+}
+
 TEST_F(MixCommand, refusesABadListAsWrongUsage)
 {
     const auto result = runBatch({"mix", "--output", file("out.mix"), writeEv2() + ":1-x"});

@@ -180,6 +180,24 @@ TEST_F(PictureCommand, leavesNoPictureWhenAFileIsRefused)
     EXPECT_EQ(fileCount(), 2U);
 }
 
+TEST_F(PictureCommand, doesNotWriteOverAnInput)
+{
+    const std::string path = writeEv2("wing.ev2.svg");
+    const std::string before = fileBytes(path);
+    const auto result = runBatch({"picture", "--output", path, path});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.err, HasSubstr("is one of the files to read"));
+    EXPECT_EQ(fileBytes(path), before);
+}
+
+TEST_F(PictureCommand, takesAnOptionsNameAsText)
+{
+    EXPECT_EQ(
+        runBatch({"picture", "--header", "--help", "--output", file("a.svg"), writeEv2()}).status,
+        0);
+    EXPECT_THAT(fileBytes(file("a.svg")), HasSubstr(">--help<"));
+}
+
 TEST_F(PictureCommand, refusesWrongUsage)
 {
     const std::string path = writeEv2();

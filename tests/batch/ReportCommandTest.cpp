@@ -132,6 +132,27 @@ TEST_F(ReportCommand, saysWhenTheOutputCannotBeWritten)
     EXPECT_THAT(result.err, HasSubstr("Path not found: " + file("none/out.xlsx")));
 }
 
+TEST_F(ReportCommand, doesNotWriteOverAnInput)
+{
+    const std::string path = writeEv2("wing.ev2.csv");
+    const std::string before = fileBytes(path);
+    const auto result = runBatch({"report", "--reference-damping", "0", "--speed-limit", "500",
+                                  "--output", path, writeEv2(), path});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.err, HasSubstr("is one of the files to read"));
+    EXPECT_EQ(fileBytes(path), before);
+}
+
+TEST_F(ReportCommand, refusesAMachNumberThatASingleDoesNotHold)
+{
+    for (const std::string mach : {"1e300", "1e-300", "0", "-0.5", "fast"}) {
+        const auto result = runBatch({"report", "--reference-damping", "0", "--speed-limit", "500",
+                                      "--mach", mach, "--output", file("out.csv"), writeEv2()});
+        EXPECT_EQ(result.status, 2) << mach;
+        EXPECT_THAT(result.err, HasSubstr("--mach")) << mach;
+    }
+}
+
 TEST_F(ReportCommand, refusesWrongUsage)
 {
     const std::string path = writeEv2();

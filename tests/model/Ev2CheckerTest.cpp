@@ -181,6 +181,12 @@ TEST(Ev2Checker, tellsRepeatedAndIncompleteKeys)
                             "9: the key \"Modif\" has no index in parentheses"));
 }
 
+TEST(Ev2Checker, tellsAModelLineWithoutAnEqualSign)
+{
+    EXPECT_THAT(check(ev2Header("Airplane WING\n")),
+                ElementsAre("5: no \"=\" stands between a key and its value: \"Airplane WING\""));
+}
+
 TEST(Ev2Checker, tellsCountsThatAreNoNumbers)
 {
     EXPECT_THAT(check(ev2Header("Struct_modes=\nAeroel_modes=two\nNo_of_speeds=99999\n") + rows),

@@ -99,9 +99,9 @@ TEST(EvmChecker, tellsCountsOfNothing)
 
 TEST(EvmChecker, tellsThatFewerModesAreThereThanDeclared)
 {
-    EXPECT_THAT(
-        check(evmHeader("3", "32767") + twoModesOfThree),
-        ElementsAre("4: 32767 aeroelastic modes are declared, but the file holds 2 whole ones"));
+    EXPECT_THAT(check(evmHeader("3", "32767") + twoModesOfThree),
+                ElementsAre("4: 32767 aeroelastic modes are declared, but only 2 in the file have "
+                            "the declared number of points"));
 }
 
 TEST(EvmChecker, tellsThatMoreModesAreThereThanDeclared)
@@ -115,7 +115,8 @@ TEST(EvmChecker, tellsThatMoreModesAreThereThanDeclared)
 TEST(EvmChecker, tellsAModeThatTheFileCutsShort)
 {
     EXPECT_THAT(check(evmHeader("3", "2") + twoModesOfThree.substr(0, 162)),
-                ElementsAre("4: 2 aeroelastic modes are declared, but the file holds 1 whole ones",
+                ElementsAre("4: 2 aeroelastic modes are declared, but only 1 in the file have the "
+                            "declared number of points",
                             "6: mode 5 is cut short: it has 1 point, but 3 speeds are declared"));
 }
 
@@ -123,7 +124,8 @@ TEST(EvmChecker, tellsAModeThatTheNextCutsShort)
 {
     EXPECT_THAT(check(evmHeader("3", "2") + twoModesOfThree.substr(0, 81) + "  5"
                       + twoModesOfThree.substr(84)),
-                ElementsAre("4: 2 aeroelastic modes are declared, but the file holds 1 whole ones",
+                ElementsAre("4: 2 aeroelastic modes are declared, but only 1 in the file have the "
+                            "declared number of points",
                             "5: mode 3 is cut short: it has 2 points, but 3 speeds are declared",
                             HasSubstr("6: mode 5, point 2: the speed falls from 37.717 to 35.81")));
 }

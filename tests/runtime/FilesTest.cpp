@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 #include <filesystem>
 #include <iterator>
 #include <string>
@@ -99,6 +101,26 @@ TEST(AtomicFile, refusesAFolderAsTarget)
     const TemporaryFolder folder;
     EXPECT_EQ(errorOf([&] { writeFile(folder.path().string(), "x"); }), 75);
     EXPECT_EQ(filesIn(folder), 0);
+}
+
+TEST(AtomicFile, refusesAPipeAndADeviceAsTarget)
+{
+    const TemporaryFolder folder;
+    const std::string pipe = folder.file("pipe");
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    EXPECT_EQ(errorOf([&] { writeFile(pipe, "x"); }), 75);
+    EXPECT_TRUE(fs::is_fifo(pipe));
+    EXPECT_EQ(errorOf([&] { writeFile("/dev/null", "x"); }), 75);
+    EXPECT_TRUE(fs::is_character_file("/dev/null"));
+}
+
+TEST(AtomicFile, takesTheLongestNameThatAFolderTakes)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.file(std::string(251, 'a') + ".txt");
+    writeFile(path, "text");
+    EXPECT_EQ(fileBytes(path), "text");
+    EXPECT_EQ(filesIn(folder), 1);
 }
 
 TEST(AtomicFile, refusesAMissingFolder)

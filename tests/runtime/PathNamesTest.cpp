@@ -38,6 +38,18 @@ TEST(PathNames, makesAPathAbsoluteAndPlain)
     EXPECT_EQ(resolvePath("/data/./x/../wing.evm").folder, "/data");
 }
 
+TEST(PathNames, stepsUpFromWhereASymbolicLinkLeads)
+{
+    const TemporaryFolder folder;
+    std::filesystem::create_directories(folder.path() / "far" / "inner");
+    std::filesystem::create_directory_symlink(folder.path() / "far" / "inner", folder.file("link"));
+    folder.write("far/wing.evm", "x");
+    const FilePath file = resolvePath(folder.file("link") + "/../wing.evm");
+    EXPECT_TRUE(fileExists(joinPath(file.folder, file.name)));
+    EXPECT_EQ(resolvePath(folder.file("link") + "/a.evm").folder, folder.file("link"))
+        << "otherwise the user's own name of the folder stays";
+}
+
 TEST(PathNames, comesBackFromItsTwoPieces)
 {
     const TemporaryFolder folder;

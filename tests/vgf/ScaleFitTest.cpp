@@ -153,3 +153,11 @@ TEST(FitAxes, hasARoundNumberAtEveryTick)
         expectRoundStep(-axes.scale.gmax / axes.thicks.g);
     }
 }
+
+TEST(FitAxes, holdsWhatASingleHolds)
+{
+    const FittedAxes axes = axesOf({{3.4e38F, 0.1F, 3.4e38F}});
+    EXPECT_TRUE(std::isfinite(axes.scale.vmax));
+    EXPECT_TRUE(std::isfinite(axes.scale.fmax));
+    EXPECT_GT(axes.scale.vmax, 1e37F);
+}
