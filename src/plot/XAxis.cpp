@@ -10,6 +10,15 @@ namespace tarsil {
 using axis::pixel;
 using axis::thick;
 
+namespace {
+
+constexpr std::int16_t defaultIntervals = 7;
+constexpr double defaultMax = 700;
+
+} // namespace
+
+xAxis::xAxis() : PlotAxis(defaultIntervals, defaultMax) { }
+
 void xAxis::MoveToOrigin(int x, int y)
 {
     setGeometry({QPoint(x, y - Height() / 2), geometry().size()});
@@ -29,15 +38,15 @@ void xAxis::paint(DeviceContext& context) const
 
 void xAxis::drawTicks(DeviceContext& context) const
 {
-    axis::requireIntervals(m_nThick, "xAxis");
+    axis::requireIntervals(nThick(), "xAxis");
     const double line = Height() / 2.0;
-    const double pixelStep = static_cast<double>(Width()) / m_nThick;
-    const double valueStep = (m_max - m_min) / m_nThick;
-    for (int k = 1; k < m_nThick; ++k) {
+    const double pixelStep = static_cast<double>(Width()) / nThick();
+    const double valueStep = (Max() - Min()) / nThick();
+    for (int k = 1; k < nThick(); ++k) {
         const double column = k * pixelStep;
         context.drawLine(pixel(column, line - thick / 2), pixel(column, line + thick / 2),
                          axis::pen);
-        const QString label = QString::fromStdString(formatNumber(m_min + k * valueStep, "0"));
+        const QString label = QString::fromStdString(formatNumber(Min() + k * valueStep, "0"));
         context.drawText(pixel(column, line + thick / 2), label, Font(), axis::textColor,
                          TextAlignment::TopCenter);
     }
@@ -45,10 +54,10 @@ void xAxis::drawTicks(DeviceContext& context) const
 
 void xAxis::drawMark(DeviceContext& context, const RefThick& mark) const
 {
-    const double range = m_max - m_min;
+    const double range = Max() - Min();
     if (range == 0)
         throw RunTimeError(ErrorNumber::DivisionByZero, "xAxis",
-                           "the bounds of the speed axis are equal: " + shortestText(m_min));
+                           "the bounds of the speed axis are equal: " + shortestText(Min()));
     const double line = Height() / 2.0;
     const double column = static_cast<double>(mark.Speed) * Width() / range;
     const QPoint top = pixel(column, line - 1.1 * thick);
@@ -73,36 +82,14 @@ void xAxis::RemoveRef()
     Draw(nullptr);
 }
 
-void xAxis::setNThick(std::int16_t count)
-{
-    m_nThick = count;
-    m_changed.mark(QStringLiteral("nThick"));
-}
-
-void xAxis::setMin(double value)
-{
-    m_min = value;
-    m_changed.mark(QStringLiteral("Min"));
-}
-
-void xAxis::setMax(double value)
-{
-    m_max = value;
-    m_changed.mark(QStringLiteral("Max"));
-}
-
 void xAxis::ReadProperties(const PropertyBag& bag)
 {
-    m_nThick = static_cast<std::int16_t>(readProperty(bag, QStringLiteral("nThick"), 7));
-    m_min = readProperty(bag, QStringLiteral("Min"), 0.0);
-    m_max = readProperty(bag, QStringLiteral("Max"), 700.0);
+    readRange(bag, defaultIntervals, defaultMax);
 }
 
 PropertyBag xAxis::WriteProperties() const
 {
-    return {{QStringLiteral("nThick"), m_nThick},
-            {QStringLiteral("Min"), m_min},
-            {QStringLiteral("Max"), m_max}};
+    return writtenRange();
 }
 
 } // namespace tarsil
