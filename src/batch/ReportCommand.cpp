@@ -16,7 +16,7 @@ constexpr std::array<std::string_view, 2> extensions = {".xlsx", ".csv"};
 /// The Mach number given for files that hold none, as text; no text when none is given.
 std::optional<std::string> machOf(const CommandLine& line)
 {
-    const auto text = line.value("--mach");
+    auto text = line.value("--mach");
     if (text && singlesOf(*text, 1, "--mach").front() <= 0)
         throw UsageError("--mach must be greater than 0");
     return text;
