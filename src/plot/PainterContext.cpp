@@ -1,13 +1,12 @@
 #include "plot/PainterContext.h"
 
-#include "plot/PixelMath.h"
+#include "plot/GuardBand.h"
 
 #include <QLineF>
 #include <QPaintEngine>
 #include <QPainter>
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace tarsil {
@@ -66,36 +65,6 @@ QPointF pixelCentre(QPoint pixel)
     return {pixel.x() + 0.5, pixel.y() + 0.5};
 }
 
-bool insideGuardBand(QPointF point)
-{
-    return std::abs(point.x()) <= guardBand && std::abs(point.y()) <= guardBand;
-}
-
-/// Cuts a line to the guard band (Liang and Barsky 1984); false when nothing is left.
-bool cutToGuardBand(QPointF& from, QPointF& to)
-{
-    const QPointF way = to - from;
-    const std::array<std::array<double, 2>, 4> borders = {{{-way.x(), from.x() + guardBand},
-                                                           {way.x(), guardBand - from.x()},
-                                                           {-way.y(), from.y() + guardBand},
-                                                           {way.y(), guardBand - from.y()}}};
-    double first = 0;
-    double last = 1;
-    for (const auto& [direction, distance] : borders) {
-        if (direction == 0 && distance < 0)
-            return false;
-        if (direction < 0)
-            first = std::max(first, distance / direction);
-        else if (direction > 0)
-            last = std::min(last, distance / direction);
-    }
-    if (first > last)
-        return false;
-    to = from + last * way;
-    from += first * way;
-    return true;
-}
-
 bool isRaster(const QPainter& painter)
 {
     return painter.paintEngine()->type() == QPaintEngine::Raster;
@@ -121,21 +90,8 @@ QLineF wholePixels(QPointF from, QPointF to, bool dashed)
 
 } // namespace
 
-QFont screenFont(const Font& font)
-{
-    QFont result(font.family);
-    result.setPixelSize(std::max(1, static_cast<int>(std::lround(pixelsOfPoints(font.points)))));
-    result.setBold(font.bold);
-    result.setItalic(font.italic);
-    result.setUnderline(font.underline);
-    result.setStrikeOut(font.strikeOut);
-    result.setHintingPreference(QFont::PreferFullHinting);
-    result.setKerning(false);
-    return result;
-}
-
 PainterContext::PainterContext(QPainter& painter)
-    : m_painter(painter), m_screenFont(screenFont(m_font)), m_metrics(m_screenFont),
+    : m_painter(painter),
       m_narrowWidth(isRaster(painter) ? narrowLine / painter.deviceTransform().m11() : 0),
       m_thinLinesByPixels(drawsThinLinesByPixels(painter))
 {
@@ -156,8 +112,7 @@ void PainterContext::drawLine(QPoint from, QPoint to, const Pen& pen)
         return;
     QPointF start = pixelCentre(from + m_origin);
     QPointF end = pixelCentre(to + m_origin);
-    const bool whole = insideGuardBand(start) && insideGuardBand(end);
-    if (!whole && !cutToGuardBand(start, end))
+    if (!cutToGuardBand(start, end, guardBand))
         return;
     const bool continues = !isDashed(pen) && !m_points.isEmpty() && pen == m_pen
         && m_points.constLast() == start && m_points.size() < longestPolyline;
@@ -217,30 +172,20 @@ void PainterContext::drawText(QPoint reference, const QString& text, const Font&
                               ColorValue color, TextAlignment alignment)
 {
     flush();
-    const QFontMetrics& metrics = metricsOf(font);
-    QPoint baseline = reference + m_origin;
-    if (alignment == TextAlignment::BottomCenter)
-        baseline.ry() -= metrics.descent();
-    else if (alignment != TextAlignment::BaselineLeft)
-        baseline.ry() += metrics.ascent();
-    if (alignment == TextAlignment::TopRight)
-        baseline.rx() -= metrics.horizontalAdvance(text);
-    else if (alignment == TextAlignment::TopCenter || alignment == TextAlignment::BottomCenter)
-        baseline.rx() -= metrics.horizontalAdvance(text) / 2;
-    m_painter.setFont(m_screenFont);
+    const QRect box = m_text.box(reference + m_origin, text, font, alignment);
+    m_painter.setFont(m_text.qtFont(font));
     m_painter.setPen(colorOf(color));
-    m_painter.drawText(baseline, text);
+    m_painter.drawText(box.topLeft() + QPoint(0, m_text.ascent(font)), text);
 }
 
 QSize PainterContext::textExtent(const QString& text, const Font& font) const
 {
-    const QFontMetrics& metrics = metricsOf(font);
-    return {metrics.horizontalAdvance(text), metrics.ascent() + metrics.descent()};
+    return m_text.extent(text, font);
 }
 
 int PainterContext::textAscent(const Font& font) const
 {
-    return metricsOf(font).ascent();
+    return m_text.ascent(font);
 }
 
 void PainterContext::fillRectangle(const QRect& rectangle, ColorValue color)
@@ -264,16 +209,6 @@ void PainterContext::clearClip()
 void PainterContext::setOrigin(QPoint origin)
 {
     m_origin = origin;
-}
-
-const QFontMetrics& PainterContext::metricsOf(const Font& font) const
-{
-    if (!(font == m_font)) {
-        m_font = font;
-        m_screenFont = screenFont(font);
-        m_metrics = QFontMetrics(m_screenFont);
-    }
-    return m_metrics;
 }
 
 } // namespace tarsil

@@ -1,18 +1,13 @@
 #pragma once
 
 #include "plot/DeviceContext.h"
+#include "plot/TextMetrics.h"
 
-#include <QFont>
-#include <QFontMetrics>
 #include <QPolygonF>
 
 class QPainter;
 
 namespace tarsil {
-
-/// The font that Qt draws and measures with: pixel size, full hinting and no kerning, so that every
-/// advance is a whole pixel, the same on screen and in files.
-QFont screenFont(const Font& font);
 
 /// Draws with a QPainter: on an image, a printer page or an SVG. Lines run through pixel centres.
 /// Connected solid lines of one pen are drawn as one polyline, which must not outlive this object:
@@ -40,15 +35,12 @@ private:
     void drawPolyline();
     void drawNarrowLines();
     void drawThinLines();
-    const QFontMetrics& metricsOf(const Font& font) const;
 
     QPainter& m_painter;
     QPoint m_origin;
     Pen m_pen; ///< of the lines gathered
     QPolygonF m_points; ///< connected lines that have not been drawn yet
-    mutable Font m_font;
-    mutable QFont m_screenFont;
-    mutable QFontMetrics m_metrics;
+    TextMetrics m_text;
     double m_narrowWidth; ///< up to this width lines are drawn without round joints
     bool m_thinLinesByPixels; ///< lines of one pixel width go through the engine's fast way
 };

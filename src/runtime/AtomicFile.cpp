@@ -95,6 +95,16 @@ void AtomicFile::write(std::string_view bytes)
         fail(errno);
 }
 
+void AtomicFile::patch(std::size_t offset, std::string_view bytes)
+{
+    errno = 0;
+    if (std::fseek(m_file.get(), static_cast<long>(offset), SEEK_SET) != 0)
+        fail(errno);
+    write(bytes);
+    if (std::fseek(m_file.get(), 0, SEEK_END) != 0)
+        fail(errno);
+}
+
 void AtomicFile::commit()
 {
     if (const int code = flushToDisk(m_file.get()); code != 0)

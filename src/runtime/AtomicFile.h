@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdio>
 #include <filesystem>
 #include <memory>
@@ -21,6 +22,11 @@ public:
     AtomicFile& operator=(const AtomicFile&) = delete;
 
     void write(std::string_view bytes);
+
+    /// Replaces bytes that are already written, from `offset` on; what is written next still goes
+    /// behind the last byte.
+    void patch(std::size_t offset, std::string_view bytes);
+
     void commit();
 
 private:

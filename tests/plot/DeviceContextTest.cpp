@@ -1,4 +1,5 @@
 #include "plot/DeviceContextContract.h"
+#include "plot/MetafileSurface.h"
 #include "plot/Picture.h"
 #include "support/RecordingContext.h"
 
@@ -18,6 +19,7 @@ private:
 
 } // namespace
 
+INSTANTIATE_TYPED_TEST_SUITE_P(Metafile, DeviceContextContract, MetafileSurface);
 INSTANTIATE_TYPED_TEST_SUITE_P(Painter, DeviceContextContract, Picture);
 INSTANTIATE_TYPED_TEST_SUITE_P(Recording, DeviceContextContract, Record);
 

@@ -49,6 +49,19 @@ TEST(AtomicFile, putsTheNewFileInPlaceOnCommit)
     EXPECT_EQ(filesIn(folder), 1);
 }
 
+TEST(AtomicFile, patchesWhatIsWrittenAndGoesOnBehindTheLastByte)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.file("a.txt");
+    AtomicFile file(path);
+    file.write("count ?, ");
+    file.write("first");
+    file.patch(6, "2");
+    file.write(", second");
+    file.commit();
+    EXPECT_EQ(fileBytes(path), "count 2, first, second");
+}
+
 TEST(AtomicFile, leavesTheOldFileWithoutCommit)
 {
     const TemporaryFolder folder;

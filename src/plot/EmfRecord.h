@@ -1,0 +1,87 @@
+#pragma once
+
+#include <QPoint>
+#include <QRect>
+#include <QVarLengthArray>
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+
+class QString;
+
+namespace tarsil {
+
+/// The records that a metafile here is made of, by their numbers in the file.
+enum class EmfType : std::uint32_t {
+    Header = 1,
+    Polyline = 4,
+    EndOfFile = 14,
+    SetBackgroundMode = 18,
+    SetTextAlign = 22,
+    SetTextColor = 24,
+    MoveTo = 27,
+    IntersectClipRectangle = 30,
+    SaveContext = 33,
+    RestoreContext = 34,
+    SelectObject = 37,
+    CreatePen = 38,
+    CreateBrush = 39,
+    DeleteObject = 40,
+    LineTo = 54,
+    SelectClipRegion = 75,
+    BitBlockTransfer = 76,
+    CreateFont = 82,
+    TextOut = 84,
+    Polyline16 = 87
+};
+
+/// The device that coordinates are pixels of: 96 per inch exactly, whatever the screen is, so that
+/// a picture has the same size in every program that shows it.
+namespace emfdevice {
+constexpr int widthInPixels = 1920;
+constexpr int heightInPixels = 1440;
+constexpr int widthInMillimetres = 508;
+constexpr int heightInMillimetres = 381;
+/// Hundredths of a millimetre for each pixel, across and down alike.
+constexpr double hundredthsPerPixel = 100.0 * widthInMillimetres / widthInPixels;
+} // namespace emfdevice
+
+/// One record of a metafile: its type, its size in bytes, and what is added to it. All of it is
+/// 32-bit words; smaller things share one, the first in the low bits, as little-endian files hold
+/// them.
+class EmfRecord
+{
+public:
+    explicit EmfRecord(EmfType type);
+
+    EmfRecord& add(std::uint32_t word);
+    EmfRecord& add(int value);
+    EmfRecord& add(float value);
+    EmfRecord& add(QPoint point);
+
+    /// Left, top, right and bottom, the last column and row included.
+    EmfRecord& add(const QRect& inclusive);
+
+    /// Two 16-bit values; what does not fit loses its high bits.
+    EmfRecord& addPair(int first, int second);
+
+    /// UTF-16, filled up with zeros to a whole word.
+    EmfRecord& addText(std::u16string_view text);
+
+    EmfRecord& addZeros(int count);
+
+    /// Replaces a word that was added; 0 is the first after the size.
+    void replace(qsizetype position, std::uint32_t word);
+
+    std::span<const std::uint32_t> words() const;
+
+private:
+    QVarLengthArray<std::uint32_t, 32> m_words;
+};
+
+/// The text as UTF-16 that every reader accepts: half a character of two becomes U+FFFD.
+std::u16string wellFormed(const QString& text);
+
+} // namespace tarsil
