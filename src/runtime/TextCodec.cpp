@@ -1,21 +1,16 @@
 #include "runtime/TextCodec.h"
 
+#include "runtime/CodePages.h"
+#include "runtime/Utf16.h"
+
 #include <algorithm>
 #include <array>
 #include <cstddef>
-#include <cstdint>
 #include <optional>
 
 namespace tarsil {
 
 namespace {
-
-/// Windows-1252 0x80 to 0x9F (Unicode Consortium mapping CP1252.TXT); unused bytes map to
-/// themselves.
-constexpr std::array<char16_t, 32> windows1252 = {
-    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
 unsigned byteAt(std::string_view bytes, std::size_t index)
 {
@@ -45,28 +40,18 @@ std::size_t sequence(std::string_view bytes, std::size_t start, char32_t& charac
     return character < smallest[length] || surrogate || character > 0x10FFFF ? 0 : length;
 }
 
-void appendUtf8(std::string& text, char16_t character)
+void appendUtf8(std::string& text, char32_t character)
 {
     if (character < 0x80) {
         text += static_cast<char>(character);
-    } else if (character < 0x800) {
-        text += static_cast<char>(0xC0 | (character >> 6));
-        text += static_cast<char>(0x80 | (character & 0x3F));
-    } else {
-        text += static_cast<char>(0xE0 | (character >> 12));
-        text += static_cast<char>(0x80 | ((character >> 6) & 0x3F));
-        text += static_cast<char>(0x80 | (character & 0x3F));
+        return;
     }
-}
-
-std::optional<char> windows1252Byte(char32_t character)
-{
-    if (character < 0x80 || (character >= 0xA0 && character <= 0xFF))
-        return static_cast<char>(character);
-    const auto* const place = std::find(windows1252.begin(), windows1252.end(), character);
-    if (place == windows1252.end())
-        return std::nullopt;
-    return static_cast<char>(0x80 + (place - windows1252.begin()));
+    const int following = character < 0x800 ? 1 : character < 0x10000 ? 2 : 3;
+    constexpr std::array<unsigned, 4> lead = {0, 0xC0, 0xE0, 0xF0};
+    text += static_cast<char>(lead[static_cast<std::size_t>(following)]
+                              | (character >> (6 * following)));
+    for (int shift = 6 * (following - 1); shift >= 0; shift -= 6)
+        text += static_cast<char>(0x80 | ((character >> shift) & 0x3F));
 }
 
 } // namespace
@@ -88,11 +73,8 @@ std::string decodeText(std::string_view bytes)
     if (isUtf8(bytes))
         return std::string(bytes);
     std::string text;
-    for (std::size_t i = 0; i < bytes.size(); ++i) {
-        const unsigned byte = byteAt(bytes, i);
-        const bool mapped = byte >= 0x80 && byte < 0xA0;
-        appendUtf8(text, mapped ? windows1252[byte - 0x80] : static_cast<char16_t>(byte));
-    }
+    for (const char byte : bytes)
+        appendUtf8(text, windows1252Character(static_cast<unsigned char>(byte)));
     return text;
 }
 
@@ -102,14 +84,43 @@ std::string encodeText(std::string_view utf8)
     char32_t character = 0;
     for (std::size_t i = 0; i < utf8.size();) {
         const std::size_t length = sequence(utf8, i, character);
-        const std::optional<char> byte = length == 0 ? std::nullopt : windows1252Byte(character);
+        const auto byte = length == 0 ? std::nullopt : windows1252Byte(character);
         if (!byte)
             return std::string(utf8);
-        bytes += *byte;
+        bytes += static_cast<char>(*byte);
         i += length;
     }
     // Bytes that would be taken for UTF-8 when read again stay UTF-8.
     return bytes != utf8 && isUtf8(bytes) ? std::string(utf8) : bytes;
+}
+
+std::u16string utf16FromUtf8(std::string_view utf8)
+{
+    std::u16string text;
+    for (std::size_t i = 0; i < utf8.size();) {
+        char32_t character = 0;
+        const std::size_t length = sequence(utf8, i, character);
+        appendUtf16(text, length == 0 ? replacementCharacter : character);
+        i += std::max<std::size_t>(length, 1);
+    }
+    return text;
+}
+
+std::string utf8FromUtf16(std::u16string_view utf16)
+{
+    std::string text;
+    for (std::size_t i = 0; i < utf16.size(); ++i) {
+        char32_t character = utf16[i];
+        const bool high = isHighSurrogate(utf16[i]);
+        if (high && i + 1 < utf16.size() && isLowSurrogate(utf16[i + 1])) {
+            character = joinSurrogates(utf16[i], utf16[i + 1]);
+            ++i;
+        } else if (high || isLowSurrogate(utf16[i])) {
+            character = replacementCharacter;
+        }
+        appendUtf8(text, character);
+    }
+    return text;
 }
 
 } // namespace tarsil

@@ -16,4 +16,8 @@ std::string decodeText(std::string_view bytes);
 /// otherwise the UTF-8 itself.
 std::string encodeText(std::string_view utf8);
 
+/// UTF-8 as UTF-16 and back. A malformed byte and an unpaired surrogate become U+FFFD.
+std::u16string utf16FromUtf8(std::string_view utf8);
+std::string utf8FromUtf16(std::u16string_view utf16);
+
 } // namespace tarsil

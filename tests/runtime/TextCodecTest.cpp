@@ -53,6 +53,22 @@ TEST(TextCodec, comesBackAsItWas)
         EXPECT_EQ(decodeText(encodeText(text)), text);
 }
 
+TEST(TextCodec, turnsUtf8IntoUtf16AndBack)
+{
+    const std::string utf8 = "A\xC3\xA9\xE2\x82\xAC\xF0\x9D\x94\xB8"; // U+1D538 at the end
+    EXPECT_EQ(utf16FromUtf8(utf8), u"A\u00E9\u20AC\U0001D538");
+    EXPECT_EQ(utf8FromUtf16(utf16FromUtf8(utf8)), utf8);
+}
+
+TEST(TextCodec, replacesMalformedBytesAndHalfCharacters)
+{
+    EXPECT_EQ(utf16FromUtf8("a\xFF\xC3(\xC3"), u"a\uFFFD\uFFFD(\uFFFD");
+    const std::u16string halves = {u'a', 0xD835, u'b', 0xDD38, 0xD835};
+    EXPECT_EQ(utf8FromUtf16(halves),
+              "a\xEF\xBF\xBD"
+              "b\xEF\xBF\xBD\xEF\xBF\xBD");
+}
+
 } // namespace
 
 } // namespace tarsil

@@ -1,0 +1,42 @@
+#include "plot/RtfReader.h"
+
+#include "plot/RtfParser.h"
+#include "runtime/TextCodec.h"
+
+namespace tarsil {
+
+namespace {
+
+using namespace std::string_view_literals;
+
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+
+RichText plainText(std::string_view bytes, const TextFormat& format)
+{
+    RichText text {{}, format};
+    std::u16string units;
+    char16_t before = 0;
+    for (const char16_t unit : utf16FromUtf8(decodeText(bytes))) {
+        const bool secondOfPair = before == u'\r' && unit == u'\n';
+        before = unit;
+        if (!secondOfPair)
+            units += unit == u'\r' ? u'\n' : unit == u'\0' ? u' ' : unit;
+    }
+    if (!units.empty())
+        text.runs.push_back({std::move(units), format});
+    return text;
+}
+
+} // namespace
+
+RichText readRtf(std::string_view bytes, const TextFormat& fallback, RtfScope scope)
+{
+    if (bytes.starts_with(byteOrderMark))
+        bytes.remove_prefix(byteOrderMark.size());
+    const std::size_t start = bytes.find_first_not_of(" \r\n\0"sv);
+    if (start == std::string_view::npos || bytes[start] != '{')
+        return plainText(bytes, fallback);
+    return RtfParser(bytes.substr(start), fallback, scope).read();
+}
+
+} // namespace tarsil
