@@ -1,9 +1,9 @@
 #include "batch/BatchRun.h"
 #include "batch/Commands.h"
 #include "batch/PictureOptions.h"
-#include "batch/PictureWriter.h"
 #include "runtime/AtomicFile.h"
 #include "vgf/EvmPlot.h"
+#include "vgf/PictureWriter.h"
 #include "vgf/ScaleFit.h"
 
 #include <algorithm>
@@ -53,15 +53,43 @@ void setAxes(EvmPlot& plot, const PictureOptions& options)
     plot.setGthicks(ticks.g);
 }
 
+/// Text in Rich Text Format keeps its fonts and colours; in other text "\n" is a line break.
+void setText(emfRichTextBox& box, const std::string& text)
+{
+    if (text.starts_with("{\\rtf"))
+        box.setTextRTF(text);
+    else
+        box.setText(
+            QString::fromStdString(text).replace(QStringLiteral("\\n"), QStringLiteral("\n")));
+}
+
 void setTexts(EvmPlot& plot, const PictureOptions& options)
 {
-    plot.Header().setText(options.header);
-    plot.Legend().setText(options.legend);
-    plot.Mechanism().setText(options.subtitle);
+    setText(plot.Header(), options.header);
+    setText(plot.Legend(), options.legend);
+    setText(plot.Mechanism(), options.subtitle);
     for (const CaptionedValue& reference : options.referenceSpeeds)
         plot.AddRef(reference.value, reference.caption);
     for (const CaptionedValue& damping : options.dampingLines)
         plot.AddDampLine(damping.value, damping.caption);
+}
+
+bool endsIn(std::string_view path, std::string_view extension)
+{
+    return hasExtension(path, {&extension, 1});
+}
+
+void writePicture(EvmPlot& plot, const std::string& path)
+{
+    if (endsIn(path, ".emf")) { // streamed, however large it is
+        plot.ExportPic(QString::fromStdString(path));
+        return;
+    }
+    const PictureFormat format = endsIn(path, ".svg") ? PictureFormat::Svg
+        : endsIn(path, ".pdf")                        ? PictureFormat::Pdf
+                                                      : PictureFormat::Png;
+    const QByteArray bytes = pictureBytes(plot, format);
+    writeFile(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 
 int runPicture(const CommandLine& line, BatchRun& run)
@@ -76,8 +104,7 @@ int runPicture(const CommandLine& line, BatchRun& run)
     setAxes(plot, options);
     setTexts(plot, options);
     plot.resize(options.size);
-    const QByteArray bytes = pictureBytes(plot, options.output);
-    writeFile(options.output, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+    writePicture(plot, options.output);
     return done;
 }
 

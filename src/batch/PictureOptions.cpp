@@ -7,7 +7,7 @@ namespace tarsil::batch {
 
 namespace {
 
-constexpr std::array<std::string_view, 3> extensions = {".png", ".svg", ".pdf"};
+constexpr std::array<std::string_view, 4> extensions = {".png", ".svg", ".pdf", ".emf"};
 constexpr int largestSide = 20000;
 constexpr int mostTicks = 1000;
 constexpr int largestMarkerNumber = 1000;
@@ -27,13 +27,6 @@ std::int16_t countOf(std::string_view text, int most, std::string_view option)
         || count > most)
         throw wrongValue(option, text, "a whole number from 1 to " + std::to_string(most));
     return count;
-}
-
-/// A text of the command line, in which "\n" means a line break.
-QString textOf(const CommandLine& line, std::string_view option)
-{
-    return QString::fromStdString(line.value(option).value_or(""))
-        .replace(QStringLiteral("\\n"), QStringLiteral("\n"));
 }
 
 std::optional<EvmPlot::Scale> scaleOf(const CommandLine& line)
@@ -119,7 +112,9 @@ constinit const std::array<OptionDescription, 13> pictureOptionDescriptions = {
       "GMAX the one\nat the lower end; without it the axes fit the data"},
      {"--ticks", "V,G,F", "numbers of ticks of the three axes"},
      {"--size", "WxH", "size of the picture in pixels; 1000x750 without it"},
-     {"--header", "TEXT", "text above the plot; \\n begins a new line in all texts"},
+     {"--header", "TEXT",
+      "text above the plot; \\n begins a new line in all texts,\nand Rich Text Format ({\\rtf...) "
+      "keeps its look"},
      {"--legend", "TEXT", "text of the legend"},
      {"--subtitle", "TEXT", "text of the flutter mechanism"},
      {"--reference-speed", "V=CAPTION", "mark at a speed; may be given again", false, true},
@@ -130,7 +125,7 @@ constinit const std::array<OptionDescription, 13> pictureOptionDescriptions = {
       "(participation\nfactor I); id without this option"},
      {"--marker-spacing", "N", "points from one marker to the next; 5 without it"},
      {"--marker-size", "N", "size of the markers in points; 8 without it"},
-     {"--output", "OUTPUT", "the file to write, which ends in .png, .svg or .pdf", true}}};
+     {"--output", "OUTPUT", "the file to write, which ends in .png, .svg, .pdf or\n.emf", true}}};
 
 PictureOptions pictureOptionsOf(const CommandLine& line)
 {
@@ -141,9 +136,9 @@ PictureOptions pictureOptionsOf(const CommandLine& line)
         options.modes = modeListOf(*list);
     options.scale = scaleOf(line);
     options.ticks = ticksOf(line);
-    options.header = textOf(line, "--header");
-    options.legend = textOf(line, "--legend");
-    options.subtitle = textOf(line, "--subtitle");
+    options.header = line.value("--header").value_or("");
+    options.legend = line.value("--legend").value_or("");
+    options.subtitle = line.value("--subtitle").value_or("");
     options.referenceSpeeds = captionedValuesOf(line, "--reference-speed");
     options.dampingLines = captionedValuesOf(line, "--damping-line");
     readMarkers(line, options);

@@ -31,9 +31,9 @@ struct PictureOptions
     std::optional<ModeList> modes;
     std::optional<EvmPlot::Scale> scale; ///< fitted to the data when missing
     std::optional<EvmPlot::Thicks> ticks;
-    QString header;
-    QString legend;
-    QString subtitle;
+    std::string header; ///< texts as given: Rich Text Format, or "\n" for a line break
+    std::string legend;
+    std::string subtitle;
     std::vector<CaptionedValue> referenceSpeeds;
     std::vector<CaptionedValue> dampingLines;
     std::int32_t markerStyle = markerstyle::modeNumber;

@@ -52,6 +52,9 @@ enum class TextAlignment {
     BaselineLeft = 24
 };
 
+/// The rectangle that a text of this extent covers, whose reference point stands at `reference`.
+QRect textRectangle(QPoint reference, QSize extent, int ascent, TextAlignment alignment);
+
 /// A surface to draw on: the screen's, a picture file's, or a test's. Coordinates are whole pixels
 /// at 96 per inch, rows downwards, relative to the origin; the style comes with each call, so there
 /// is no state to restore but origin and clip. The background of texts and of the gaps of dashed

@@ -121,25 +121,7 @@ std::vector<int> TextMetrics::advances(const QString& text, const Font& font) co
 QRect TextMetrics::box(QPoint reference, const QString& text, const Font& font,
                        TextAlignment alignment) const
 {
-    const QSize size = extent(text, font);
-    QPoint corner = reference;
-    switch (alignment) {
-    case TextAlignment::TopLeft:
-        break;
-    case TextAlignment::TopRight:
-        corner.rx() -= size.width();
-        break;
-    case TextAlignment::TopCenter:
-        corner.rx() -= size.width() / 2;
-        break;
-    case TextAlignment::BottomCenter:
-        corner -= QPoint(size.width() / 2, size.height());
-        break;
-    case TextAlignment::BaselineLeft:
-        corner.ry() -= ascent(font);
-        break;
-    }
-    return {corner, size};
+    return textRectangle(reference, extent(text, font), ascent(font), alignment);
 }
 
 const QFontMetrics& TextMetrics::metricsOf(const Font& font) const

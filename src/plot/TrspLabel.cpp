@@ -1,14 +1,16 @@
 #include "plot/TrspLabel.h"
 
-#include "plot/PainterContext.h"
-
-#include <QFontMetrics>
+#include "plot/TextMetrics.h"
+#include "runtime/RunTimeError.h"
 
 namespace tarsil {
+
+trspLabel::trspLabel(const QString& name) : m_name(name), m_caption(name) { }
 
 void trspLabel::setCaption(const QString& text)
 {
     m_caption = text;
+    m_changed.mark(QStringLiteral("Caption"));
     fitToText();
     Draw(nullptr);
 }
@@ -16,21 +18,39 @@ void trspLabel::setCaption(const QString& text)
 void trspLabel::setAutoSize(bool on)
 {
     m_autoSize = on;
+    m_changed.mark(QStringLiteral("AutoSize"));
     fitToText();
+}
+
+void trspLabel::sethFont(std::int32_t /*handle*/)
+{
+    throw RunTimeError(ErrorNumber::SetNotSupportedAtRunTime, "trspLabel", "hFont");
 }
 
 void trspLabel::fitToText()
 {
-    if (!m_autoSize)
-        return;
-    const QFontMetrics metrics(screenFont(m_font));
-    const QSize size(metrics.horizontalAdvance(m_caption), metrics.ascent() + metrics.descent());
-    setGeometry({geometry().topLeft(), size});
+    if (m_autoSize)
+        setGeometry({geometry().topLeft(), TextMetrics().extent(m_caption, Font())});
 }
 
 void trspLabel::paint(DeviceContext& context) const
 {
-    context.drawText({0, 0}, m_caption, m_font, 0, TextAlignment::TopLeft);
+    context.drawText({0, 0}, m_caption, Font(), 0, TextAlignment::TopLeft);
+}
+
+void trspLabel::ReadProperties(const PropertyBag& bag)
+{
+    m_caption = readProperty(bag, QStringLiteral("Caption"), m_name);
+    m_autoSize = readProperty(bag, QStringLiteral("AutoSize"), false);
+    m_hFont = readProperty<std::int32_t>(bag, QStringLiteral("hFont"), 0);
+    fitToText();
+}
+
+PropertyBag trspLabel::WriteProperties() const
+{
+    return {{QStringLiteral("Caption"), m_caption},
+            {QStringLiteral("AutoSize"), m_autoSize},
+            {QStringLiteral("hFont"), m_hFont}};
 }
 
 } // namespace tarsil

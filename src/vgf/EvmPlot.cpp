@@ -230,6 +230,12 @@ void EvmPlot::setVisible(bool visible)
     Q_EMIT changed();
 }
 
+void EvmPlot::setEditMode(bool on)
+{
+    m_editMode = on;
+    Q_EMIT changed();
+}
+
 void EvmPlot::AddRef(float speed, const QString& caption)
 {
     m_isComposed = false;

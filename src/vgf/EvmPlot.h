@@ -108,6 +108,10 @@ public:
     bool Visible() const { return m_visible; }
     void setVisible(bool visible);
 
+    /// In edit mode the text boxes are outlined on the screen, and a click edits one.
+    bool EditMode() const { return m_editMode; }
+    void setEditMode(bool on);
+
     /// Reference speeds on the speed axis.
     void AddRef(float speed, const QString& caption);
     void RemoveRef();
@@ -136,6 +140,7 @@ public:
 
     /// Sets the text of a box and lays the parts out again.
     void setBoxText(std::size_t index, const QString& text);
+    void setBoxContent(std::size_t index, RichText content);
     const emfRichTextBox& box(std::size_t index) const { return ertbTexts.at(index); }
     std::size_t boxCount() const { return ertbTexts.size(); }
 
@@ -145,6 +150,13 @@ public:
     /// The picture on the screen, opaque; parts that have changed are drawn first. Errors: those of
     /// the parts; what could be drawn is in the next picture.
     const QImage& Image();
+
+    /// Writes the picture as an Enhanced Metafile, whole or not at all. The file name is taken as
+    /// it stands. Errors: those of drawing and of writing a file.
+    void ExportPic(const QString& fileName);
+
+    /// The same metafile in memory.
+    QByteArray emfPicture();
 
     /// Draws the same picture into a caller's context: white ground, axes, titles, boxes, curves.
     void Draw(DeviceContext& context);
@@ -163,6 +175,7 @@ Q_SIGNALS:
     void changed();
 
 private:
+    void WriteEmfPicture(const QString& fileName);
     void layOut();
     void layOutCanvases();
     void layOutTitles();
@@ -177,9 +190,9 @@ private:
     xAxis m_velAxis;
     yAxis m_gAxis;
     yAxis m_freqAxis;
-    trspLabel m_velAxisLabel;
-    trspLabel m_gAxisLabel;
-    trspLabel m_freqAxislabel;
+    trspLabel m_velAxisLabel {QStringLiteral("velAxisLabel")};
+    trspLabel m_gAxisLabel {QStringLiteral("gAxisLabel")};
+    trspLabel m_freqAxislabel {QStringLiteral("freqAxislabel")};
     std::array<emfRichTextBox, 3> ertbTexts;
     std::array<bool, 3> m_boxWasPlaced {};
 
@@ -187,6 +200,7 @@ private:
     QString m_caption;
     int m_modeColor = 0;
     bool m_visible = true;
+    bool m_editMode = false;
     bool m_isPlotted = false; ///< the canvases show curves
     bool m_isStale = true; ///< parts have changed since they were drawn
     bool m_isComposed = false;

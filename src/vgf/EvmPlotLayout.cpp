@@ -80,7 +80,7 @@ void EvmPlot::layOutBoxes()
     const auto units = [](int pixels) { return pixels * unitsPerPixel; };
     const int headerLeft = m_freqAxislabel.Left() + m_freqAxislabel.Width();
     const int headerRight = roundToPixel((1 - headerRightGap) * m_size.width());
-    Header().setMinimumWidth(std::max(headerRight - headerLeft, 0));
+    Header().setUnitsSize(units(std::max(headerRight - headerLeft, 0)), 0);
     Header().Move(units(headerLeft), m_boxWasPlaced[0] ? Header().unitsTop() : units(headerTop));
     if (!m_boxWasPlaced[1]) { // right of the curves, as far left as its text needs
         const int column = std::min(roundToPixel(legendLeft * m_size.width()),
@@ -103,6 +103,12 @@ void EvmPlot::moveBox(std::size_t index, double left, double top)
 void EvmPlot::setBoxText(std::size_t index, const QString& text)
 {
     ertbTexts.at(index).setText(text);
+    refresh();
+}
+
+void EvmPlot::setBoxContent(std::size_t index, RichText content)
+{
+    ertbTexts.at(index).setContent(std::move(content));
     refresh();
 }
 

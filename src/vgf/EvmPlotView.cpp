@@ -1,13 +1,19 @@
 #include "vgf/EvmPlotView.h"
 
-#include "plot/PainterContext.h"
-#include "plot/PixelMath.h"
+#include "plot/RichTextLayout.h"
+#include "plot/TextMetrics.h"
+#include "vgf/PictureWriter.h"
+#include "vgf/RichTextEditor.h"
 
+#include <QAction>
 #include <QApplication>
-#include <QKeyEvent>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QMenu>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPlainTextEdit>
+#include <QTextEdit>
 
 #include <algorithm>
 
@@ -15,23 +21,43 @@ namespace tarsil {
 
 namespace {
 
-constexpr QSize leastEditorSize(260, 70);
+constexpr QSize leastEditorSize(420, 130);
 
 } // namespace
 
-EvmPlotView::EvmPlotView(EvmPlot& plot, QWidget* parent) : QWidget(parent), m_plot(plot)
+EvmPlotView::EvmPlotView(EvmPlot& plot, QWidget* parent)
+    : QWidget(parent), m_plot(plot), m_mover(plot), m_boxMenu(new QMenu(this)),
+      m_edit(m_boxMenu->addAction(tr("&Edit"))), m_move(m_boxMenu->addAction(tr("&Move")))
 {
     setObjectName(QStringLiteral("evpVgf"));
     setAccessibleName(tr("V-g-f plot"));
     setAttribute(Qt::WA_OpaquePaintEvent); // every pixel is painted, so nothing flickers
     setMinimumSize(240, 180);
     setFocusPolicy(Qt::StrongFocus);
+    makeActions();
     connect(&m_plot, &EvmPlot::changed, this, qOverload<>(&QWidget::update));
     connect(&m_plot, &EvmPlot::changed, this, &EvmPlotView::updateDescription);
     updateDescription();
 }
 
 EvmPlotView::~EvmPlotView() = default;
+
+void EvmPlotView::makeActions()
+{
+    m_boxMenu->setObjectName(QStringLiteral("mnuErtb"));
+    m_edit->setObjectName(QStringLiteral("mnuEdit"));
+    m_move->setObjectName(QStringLiteral("mnuMove"));
+    connect(m_edit, &QAction::triggered, this, [this] { startEditing(*m_mover.selected()); });
+    connect(m_move, &QAction::triggered, this, [this] {
+        m_mover.follow();
+        followMovement();
+    });
+    auto* const copy = new QAction(tr("&Copy picture"), this);
+    copy->setShortcut(QKeySequence::Copy);
+    copy->setShortcutContext(Qt::WidgetShortcut);
+    connect(copy, &QAction::triggered, this, &EvmPlotView::copyPicture);
+    addAction(copy);
+}
 
 QSize EvmPlotView::sizeHint() const
 {
@@ -67,6 +93,7 @@ void EvmPlotView::paintEvent(QPaintEvent* event)
     painter.setClipRegion(event->region());
     painter.drawImage(0, 0, m_plot.Image());
     paintPrompts(painter);
+    paintSelection(painter);
     painter.end();
     if (failure) // the report is a window of its own, so it waits until painting is over
         QMetaObject::invokeMethod(
@@ -78,106 +105,145 @@ void EvmPlotView::paintPrompts(QPainter& painter) const
     painter.setPen(Qt::gray);
     for (std::size_t i = 0; i < m_plot.boxCount(); ++i) {
         const emfRichTextBox& box = m_plot.box(i);
-        if (!box.Text().isEmpty() || (m_editor != nullptr && m_editedBox == i))
+        if (!box.isEmpty() || (m_editor != nullptr && m_editedBox == i))
             continue;
-        painter.setFont(screenFont(box.Font()));
+        painter.setFont(screenFont(fontOf(box.content().last)));
         painter.drawText(box.geometry(), Qt::AlignLeft | Qt::AlignTop, box.prompt());
     }
 }
 
-std::optional<std::size_t> EvmPlotView::boxAt(QPoint position) const
+/// Which box the arrow keys move, and in edit mode all boxes; on the screen only.
+void EvmPlotView::paintSelection(QPainter& painter) const
 {
+    painter.setPen(QPen(Qt::gray, 1, Qt::DashLine));
+    painter.setBrush(Qt::NoBrush);
     for (std::size_t i = 0; i < m_plot.boxCount(); ++i) {
-        if (m_plot.box(i).geometry().contains(position))
-            return i;
+        if (m_editor == nullptr && (m_plot.EditMode() || m_mover.selected() == i))
+            painter.drawRect(m_plot.box(i).geometry().adjusted(-3, -2, 2, 1));
     }
-    return std::nullopt;
 }
 
 void EvmPlotView::mousePressEvent(QMouseEvent* event)
 {
     finishEditing(true);
-    if (event->button() != Qt::LeftButton)
-        return;
-    m_draggedBox = boxAt(event->pos());
-    if (m_draggedBox)
-        m_grip = event->pos() - m_plot.box(*m_draggedBox).geometry().topLeft();
+    if (event->button() == Qt::LeftButton)
+        m_mover.press(event->pos());
+    followMovement();
 }
 
 void EvmPlotView::mouseMoveEvent(QMouseEvent* event)
 {
-    if (!m_draggedBox || !(event->buttons() & Qt::LeftButton))
-        return;
-    const QPoint start = m_plot.box(*m_draggedBox).geometry().topLeft() + m_grip;
-    if (!m_isDragging
-        && (event->pos() - start).manhattanLength() < QApplication::startDragDistance())
-        return;
-    m_isDragging = true;
-    setCursor(Qt::SizeAllCursor);
-    // The pointer stays in the plot, so the box stays within reach.
-    const QPoint pointer(std::clamp(event->pos().x(), 0, width() - 1),
-                         std::clamp(event->pos().y(), 0, height() - 1));
-    const QPoint place = pointer - m_grip;
-    m_plot.moveBox(*m_draggedBox, place.x() * unitsPerPixel, place.y() * unitsPerPixel);
+    m_mover.pointTo(event->pos(), event->buttons() & Qt::LeftButton);
+    followMovement();
 }
 
-void EvmPlotView::mouseReleaseEvent(QMouseEvent* /*event*/)
+void EvmPlotView::mouseReleaseEvent(QMouseEvent* event)
 {
-    m_draggedBox.reset();
-    m_isDragging = false;
-    unsetCursor();
+    const bool wasMoved = m_mover.isMoving();
+    if (event->button() == Qt::LeftButton)
+        m_mover.release();
+    followMovement();
+    const std::optional<std::size_t> box = m_mover.boxAt(event->pos());
+    if (m_plot.EditMode() && !wasMoved && box && box == m_mover.selected()
+        && event->button() == Qt::LeftButton)
+        startEditing(*box);
 }
 
 void EvmPlotView::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    const std::optional<std::size_t> box = boxAt(event->pos());
+    const std::optional<std::size_t> box = m_mover.boxAt(event->pos());
     if (box && event->button() == Qt::LeftButton)
         startEditing(*box);
+}
+
+void EvmPlotView::keyPressEvent(QKeyEvent* event)
+{
+    const bool edits = event->key() == Qt::Key_F2 || event->key() == Qt::Key_Return
+        || event->key() == Qt::Key_Enter;
+    if (m_mover.press(*event))
+        followMovement();
+    else if (edits && m_mover.selected())
+        startEditing(*m_mover.selected());
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void EvmPlotView::focusOutEvent(QFocusEvent* event)
+{
+    if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason)
+        m_mover.select(std::nullopt);
+    followMovement();
+    QWidget::focusOutEvent(event);
+}
+
+void EvmPlotView::contextMenuEvent(QContextMenuEvent* event)
+{
+    const bool isByKey = event->reason() == QContextMenuEvent::Keyboard;
+    const std::optional<std::size_t> box =
+        isByKey ? m_mover.selected() : m_mover.boxAt(event->pos());
+    if (!box) {
+        event->ignore(); // the menu of the plot belongs to whoever holds the view
+        return;
+    }
+    const QPoint place = isByKey ? m_plot.box(*box).geometry().bottomLeft() : event->pos();
+    showBoxMenu(*box, place);
+}
+
+void EvmPlotView::showBoxMenu(std::size_t index, QPoint position)
+{
+    finishEditing(true);
+    m_mover.select(index);
+    m_move->setEnabled(TextBoxMover::isMovable(index));
+    update();
+    m_boxMenu->popup(mapToGlobal(position));
+}
+
+/// The pointer and the outline tell what the mover is doing.
+void EvmPlotView::followMovement()
+{
+    setMouseTracking(m_mover.isMoving());
+    if (m_mover.isMoving())
+        setCursor(Qt::SizeAllCursor);
+    else
+        unsetCursor();
+    update();
+}
+
+void EvmPlotView::copyPicture()
+{
+    QGuiApplication::clipboard()->setMimeData(pictureMimeData(m_plot).release());
 }
 
 void EvmPlotView::startEditing(std::size_t index)
 {
     finishEditing(true);
+    m_mover.select(index);
+    followMovement();
     const emfRichTextBox& box = m_plot.box(index);
     m_editedBox = index;
-    m_editor = new QPlainTextEdit(QString(box.Text()).remove(u'\r'), this);
-    m_editor->setAccessibleName(box.prompt());
-    m_editor->setFont(screenFont(box.Font()));
-    QRect place(box.geometry().topLeft(), box.geometry().size().expandedTo(leastEditorSize));
+    m_editor = new RichTextEditor(box.content(), box.ForeColor(), this);
+    m_editor->edit()->setAccessibleName(box.prompt());
+    QRect place(box.geometry().topLeft(),
+                (box.geometry().size() + QSize(20, 60)).expandedTo(leastEditorSize));
+    place.setSize(place.size().boundedTo(size()));
     place.moveRight(std::min(place.right(), width() - 1));
     place.moveBottom(std::min(place.bottom(), height() - 1));
     m_editor->setGeometry(place);
-    m_editor->installEventFilter(this);
-    m_editor->selectAll();
+    connect(m_editor, &RichTextEditor::left, this, [this] { finishEditing(true); });
+    connect(m_editor, &RichTextEditor::cancelled, this, [this] { finishEditing(false); });
     m_editor->show();
     m_editor->setFocus();
 }
 
-/// The editor's text becomes the box's when the focus goes elsewhere; Escape leaves the box as it
-/// was.
-bool EvmPlotView::eventFilter(QObject* watched, QEvent* event)
-{
-    if (watched == m_editor && event->type() == QEvent::FocusOut) {
-        const auto reason = static_cast<QFocusEvent*>(event)->reason();
-        if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason)
-            finishEditing(true);
-    } else if (watched == m_editor && event->type() == QEvent::KeyPress
-               && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
-        finishEditing(false);
-        return true;
-    }
-    return QWidget::eventFilter(watched, event);
-}
-
+/// The editor's text becomes the box's, unless it was given up.
 void EvmPlotView::finishEditing(bool keep)
 {
     if (m_editor == nullptr)
         return;
-    QPlainTextEdit* const editor = m_editor;
+    RichTextEditor* const editor = m_editor;
     m_editor = nullptr;
-    if (keep)
-        m_plot.setBoxText(m_editedBox, editor->toPlainText());
-    editor->removeEventFilter(this);
+    if (RichText text = editor->text(); keep && text != m_plot.box(m_editedBox).content())
+        m_plot.setBoxContent(m_editedBox, std::move(text));
     editor->hide();
     editor->deleteLater();
     update();

@@ -2,17 +2,21 @@
 
 #include "runtime/RunTimeError.h"
 #include "vgf/EvmPlot.h"
+#include "vgf/TextBoxMover.h"
 
 #include <QWidget>
 
 #include <optional>
 
-class QPlainTextEdit;
+class QMenu;
 
 namespace tarsil {
 
-/// Shows one V-g-f plot and follows its changes. A text box is moved by dragging it and edited by a
-/// double click; an empty one shows its prompt, on the screen only.
+class RichTextEditor;
+
+/// Shows one V-g-f plot and follows its changes. A text box is selected by a click, moved by
+/// dragging it or with the arrow keys, and edited by a double click or F2; its context menu
+/// `mnuErtb` has the same commands. An empty box shows its prompt, on the screen only.
 class EvmPlotView : public QWidget
 {
     Q_OBJECT
@@ -23,6 +27,9 @@ public:
     ~EvmPlotView() override;
 
     QSize sizeHint() const override;
+
+    /// Puts the picture on the clipboard: as metafile, SVG and bitmap.
+    void copyPicture();
 
 Q_SIGNALS:
     /// Drawing failed; what could be drawn is shown. Emitted once for a failure, not at every
@@ -37,21 +44,27 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
 private:
     void fitPlot();
+    void makeActions();
     void paintPrompts(QPainter& painter) const;
-    std::optional<std::size_t> boxAt(QPoint position) const;
+    void paintSelection(QPainter& painter) const;
+    void showBoxMenu(std::size_t index, QPoint position);
     void startEditing(std::size_t index);
     void finishEditing(bool keep);
+    void followMovement();
     void updateDescription();
 
     EvmPlot& m_plot;
-    std::optional<std::size_t> m_draggedBox;
-    QPoint m_grip; ///< where in the dragged box the pointer holds it
-    bool m_isDragging = false;
-    QPlainTextEdit* m_editor = nullptr;
+    TextBoxMover m_mover;
+    QMenu* m_boxMenu;
+    QAction* m_edit;
+    QAction* m_move;
+    RichTextEditor* m_editor = nullptr;
     std::size_t m_editedBox = 0;
 };
 

@@ -202,7 +202,7 @@ TEST_F(PictureCommand, refusesWrongUsage)
 {
     const std::string path = writeEv2();
     const std::vector<std::vector<std::string>> wrong = {
-        {"--output", file("out.emf")},
+        {"--output", file("out.bmp")},
         {"--output", file("out.png"), "--size", "0x10"},
         {"--output", file("out.png"), "--size", "20001x10"},
         {"--output", file("out.png"), "--size", "640"},

@@ -1,5 +1,6 @@
 #include "plot/EmfRichTextBox.h"
 
+#include "plot/ErrorNumberOf.h"
 #include "plot/Picture.h"
 #include "support/RecordingContext.h"
 
@@ -88,14 +89,17 @@ TEST(EmfRichTextBox, isAsLargeAsItsText)
     EXPECT_EQ(box.geometry().size(), QSize(line.width(), 2 * line.height()));
 }
 
-TEST(EmfRichTextBox, isAtLeastAsWideAsItWasTold)
+TEST(EmfRichTextBox, isAtLeastAsLargeAsItWasTold)
 {
     emfRichTextBox box;
     box.setText(QStringLiteral("a"));
-    box.setMinimumWidth(500);
+    box.setUnitsSize(7500, 900); // 15 to a pixel
+    EXPECT_EQ(box.geometry().size(), QSize(500, 60));
+    EXPECT_EQ(box.unitsWidth(), 7500);
+    EXPECT_EQ(box.unitsHeight(), 900);
+    box.setText(QStringLiteral("b\n\n\n\n\n\n"));
     EXPECT_EQ(box.Width(), 500);
-    box.setText(QStringLiteral("b"));
-    EXPECT_EQ(box.Width(), 500);
+    EXPECT_GT(box.Height(), 60) << "the text needs more";
 }
 
 TEST(EmfRichTextBox, hasTheSizeOfItsPromptWhileItIsEmptyButDoesNotDrawIt)
@@ -126,4 +130,208 @@ TEST(EmfRichTextBox, clonesTextFontColourAndPosition)
     EXPECT_EQ(copy.geometry(), source.geometry());
     copy.setText(QStringLiteral("c"));
     EXPECT_EQ(source.Text(), QStringLiteral("a\r\nb"));
+}
+
+TEST(EmfRichTextBox, drawsEachCharacterInItsOwnFontAndColour)
+{
+    emfRichTextBox box;
+    box.setTextRTF("{\\rtf1{\\fonttbl{\\f0 Arial;}{\\f1 Courier New;}}"
+                   "{\\colortbl ;\\red255\\green0\\blue0;}"
+                   "\\f0\\fs20 ab\\cf1\\b c\\cf0\\b0\\f1\\fs40 d\\par}");
+    // Each character of the recording surface is 6 wide.
+    EXPECT_THAT(drawing(box),
+                ElementsAre("text BaselineLeft 0,8 Arial 10 #000000 ab",
+                            "text BaselineLeft 12,8 Arial 10 bold #ff0000 c",
+                            "text BaselineLeft 18,8 Courier New 20 #000000 d"));
+}
+
+TEST(EmfRichTextBox, advancesByTheHighestCharacterOfALine)
+{
+    test::Picture picture;
+    emfRichTextBox box;
+    box.setTextRTF("{\\rtf1{\\fonttbl{\\f0 Arial;}}\\f0\\fs20 a\\fs60 B\\fs20\\par c\\par}");
+    RecordingContext recording;
+    const auto heightOf = [&picture](double points) {
+        return picture.context().textExtent(QStringLiteral("x"), {QStringLiteral("Arial"), points});
+    };
+    const auto ascent = picture.context().textAscent({QStringLiteral("Arial"), 30});
+    const int descent =
+        heightOf(10).height() - picture.context().textAscent({QStringLiteral("Arial"), 10});
+    EXPECT_EQ(box.Height(), ascent + heightOf(30).height() + descent);
+}
+
+TEST(EmfRichTextBox, drawsATabAsAGap)
+{
+    emfRichTextBox box;
+    box.setText(QStringLiteral("a\tb"));
+    // To the next half inch: 48 pixels.
+    EXPECT_THAT(drawing(box),
+                ElementsAre("text BaselineLeft 0,8 Arial 10 #000000 a",
+                            "text BaselineLeft 48,8 Arial 10 #000000 b"));
+}
+
+TEST(EmfRichTextBox, showsAutomaticColourInItsOwn)
+{
+    emfRichTextBox box;
+    box.setTextRTF("{\\rtf1{\\colortbl ;\\red1\\green2\\blue3;}a\\cf1 b}");
+    box.setForeColor(rgb(9, 9, 9));
+    EXPECT_THAT(drawing(box),
+                ElementsAre("text BaselineLeft 0,8 Arial 10 #090909 a",
+                            "text BaselineLeft 6,8 Arial 10 #010203 b"));
+}
+
+TEST(EmfRichTextBox, givesTheWholeTextItsFontButLeavesTheColours)
+{
+    emfRichTextBox box;
+    box.setTextRTF("{\\rtf1{\\colortbl ;\\red1\\green2\\blue3;}\\fs40 a\\cf1\\b b}");
+    box.setFont({QStringLiteral("Courier New"), 12});
+    EXPECT_THAT(drawing(box),
+                ElementsAre("text BaselineLeft 0,8 Courier New 12 #000000 a",
+                            "text BaselineLeft 6,8 Courier New 12 #010203 b"));
+}
+
+TEST(EmfRichTextBox, keepsItsTextThroughRichTextFormat)
+{
+    emfRichTextBox box;
+    box.setText(QStringLiteral("a\n\xC4\u03A9\n"));
+    box.setSelStart(0);
+    box.setSelLength(1);
+    box.setSelColor(rgb(255, 0, 0));
+    emfRichTextBox copy;
+    copy.setTextRTF(box.TextRTF());
+    EXPECT_EQ(copy.Text(), box.Text());
+    EXPECT_EQ(copy.content(), box.content());
+}
+
+TEST(EmfRichTextBox, takesOtherTextForItselfWhereRichTextIsSet)
+{
+    emfRichTextBox box;
+    box.setTextRTF("header\r\nsecond");
+    EXPECT_EQ(box.Text(), QStringLiteral("header\r\nsecond"));
+}
+
+TEST(Selection, countsALineBreakAsTwo)
+{
+    emfRichTextBox box;
+    box.setText(QStringLiteral("ab\ncd"));
+    box.setSelStart(4);
+    box.setSelLength(2);
+    EXPECT_EQ(box.SelText(), QStringLiteral("cd"));
+    box.setSelStart(2);
+    box.setSelLength(2);
+    EXPECT_EQ(box.SelText(), QStringLiteral("\r\n"));
+    box.setSelLength(1);
+    EXPECT_EQ(box.SelText(), QStringLiteral("\r"));
+    EXPECT_EQ(box.SelStart(), 2);
+    EXPECT_EQ(box.SelLength(), 1);
+}
+
+TEST(Selection, countsACharacterOutsideTheBasicPlaneAsTwo)
+{
+    emfRichTextBox box;
+    box.setText(QStringLiteral("\U0001D6FAb\nc"));
+    box.setSelStart(2);
+    box.setSelLength(1);
+    EXPECT_EQ(box.SelText(), QStringLiteral("b"));
+    box.setSelColor(rgb(255, 0, 0));
+    EXPECT_EQ(drawing(box)[1], "text BaselineLeft 12,8 Arial 10 #ff0000 b");
+    // Half a character is the whole one where it is changed.
+    box.setSelStart(1);
+    box.setSelLength(1);
+    box.setSelText(QStringLiteral("x"));
+    EXPECT_EQ(box.Text(), QStringLiteral("xb\r\nc"));
+}
+
+TEST(Selection, endsWithTheText)
+{
+    emfRichTextBox box;
+    box.setText(QStringLiteral("abc"));
+    box.setSelStart(2);
+    box.setSelLength(100);
+    EXPECT_EQ(box.SelLength(), 1);
+    EXPECT_EQ(box.SelText(), QStringLiteral("c"));
+    box.setSelStart(100);
+    EXPECT_EQ(box.SelStart(), 3);
+    EXPECT_EQ(box.SelText(), QString());
+}
+
+TEST(Selection, refusesNegativePositions)
+{
+    emfRichTextBox box;
+    EXPECT_EQ(test::errorNumberOf([&] { box.setSelStart(-1); }), ErrorNumber::InvalidProcedureCall);
+    EXPECT_EQ(test::errorNumberOf([&] { box.setSelLength(-1); }), ErrorNumber::InvalidProcedureCall);
+}
+
+TEST(Selection, isReplacedByTextOfItsOwnLook)
+{
+    emfRichTextBox box;
+    box.setTextRTF("{\\rtf1{\\colortbl ;\\red255\\green0\\blue0;}a\\cf1 bc\\cf0 d}");
+    box.setSelStart(1);
+    box.setSelLength(2);
+    EXPECT_EQ(box.SelColor(), rgb(255, 0, 0));
+    box.setSelText(QStringLiteral("x\ny"));
+    EXPECT_EQ(box.Text(), QStringLiteral("ax\r\nyd"));
+    EXPECT_THAT(drawing(box),
+                ElementsAre("text BaselineLeft 0,8 Arial 10 #000000 a",
+                            "text BaselineLeft 6,8 Arial 10 #ff0000 x",
+                            "text BaselineLeft 0,18 Arial 10 #ff0000 y",
+                            "text BaselineLeft 6,18 Arial 10 #000000 d"));
+    EXPECT_EQ(box.SelStart(), 5) << "behind the new text";
+    EXPECT_EQ(box.SelLength(), 0);
+}
+
+TEST(Selection, replacesHalfALineBreakAsAWhole)
+{
+    emfRichTextBox box;
+    box.setText(QStringLiteral("a\nb"));
+    box.setSelStart(2); // the LF
+    box.setSelLength(1);
+    box.setSelText(QStringLiteral("-"));
+    EXPECT_EQ(box.Text(), QStringLiteral("a-b"));
+}
+
+TEST(Selection, insertsBeforeTheBreakThatItStandsIn)
+{
+    emfRichTextBox box;
+    box.setText(QStringLiteral("a\nb"));
+    box.setSelStart(2);
+    box.setSelText(QStringLiteral("-"));
+    EXPECT_EQ(box.Text(), QStringLiteral("a-\r\nb"));
+}
+
+TEST(EmfRichTextBox, keepsItsPropertiesInABag)
+{
+    emfRichTextBox box;
+    EXPECT_EQ(box.WriteProperties().keys(),
+              QStringList({QStringLiteral("Font"), QStringLiteral("ForeColor"),
+                           QStringLiteral("SelLength"), QStringLiteral("SelStart"),
+                           QStringLiteral("SelText"), QStringLiteral("Text")}));
+    box.setFont({QStringLiteral("Courier New"), 12, true});
+    box.setForeColor(rgb(1, 2, 3));
+    box.setText(QStringLiteral("ab\nc"));
+    box.setSelStart(1);
+    box.setSelLength(3);
+    emfRichTextBox copy;
+    copy.ReadProperties(box.WriteProperties());
+    EXPECT_EQ(copy.Font(), box.Font());
+    EXPECT_EQ(copy.ForeColor(), box.ForeColor());
+    EXPECT_EQ(copy.Text(), box.Text());
+    EXPECT_EQ(copy.SelText(), QStringLiteral("b\r\n"));
+    copy.ReadProperties({});
+    EXPECT_EQ(copy.Font(), (Font {QStringLiteral("Arial"), 10}));
+    EXPECT_EQ(copy.Text(), QString());
+}
+
+TEST(EmfRichTextBox, marksWhatWasSet)
+{
+    emfRichTextBox box;
+    EXPECT_TRUE(box.changedProperties().isEmpty());
+    box.setText(QStringLiteral("a"));
+    box.setFont({QStringLiteral("Arial"), 12});
+    box.setForeColor(1);
+    box.setSelStart(0);
+    box.setSelLength(1);
+    box.setSelText(QStringLiteral("b"));
+    for (const char* key : {"Text", "Font", "ForeColor", "SelStart", "SelLength", "SelText"})
+        EXPECT_TRUE(box.changedProperties().contains(QString::fromLatin1(key))) << key;
 }

@@ -1,5 +1,6 @@
 #include "plot/TrspLabel.h"
 
+#include "plot/ErrorNumberOf.h"
 #include "plot/Picture.h"
 #include "support/RecordingContext.h"
 
@@ -27,7 +28,7 @@ bool hasInk(const QImage& image)
 
 TEST(TrspLabel, writesItsCaptionAtItsPlace)
 {
-    trspLabel label;
+    trspLabel label(QStringLiteral("velAxisLabel"));
     label.setGeometry({5, 6, 100, 20});
     label.setCaption(QStringLiteral("V(keas)"));
     RecordingContext context;
@@ -39,7 +40,7 @@ TEST(TrspLabel, writesItsCaptionAtItsPlace)
 
 TEST(TrspLabel, drawsAgainOnItsOwnSurfaceWhenTheCaptionIsSet)
 {
-    trspLabel label;
+    trspLabel label(QStringLiteral("velAxisLabel"));
     label.setGeometry({0, 0, 100, 20});
     label.setCaption(QStringLiteral("g"));
     EXPECT_TRUE(hasInk(label.surface()));
@@ -49,7 +50,7 @@ TEST(TrspLabel, drawsAgainOnItsOwnSurfaceWhenTheCaptionIsSet)
 
 TEST(TrspLabel, doesNotFailWithoutACaption)
 {
-    trspLabel label;
+    trspLabel label(QStringLiteral("velAxisLabel"));
     label.setAutoSize(true);
     label.setCaption({});
     label.Draw(nullptr);
@@ -60,7 +61,7 @@ TEST(TrspLabel, doesNotFailWithoutACaption)
 
 TEST(TrspLabel, keepsItsSizeUnlessToldOtherwise)
 {
-    trspLabel label;
+    trspLabel label(QStringLiteral("velAxisLabel"));
     EXPECT_FALSE(label.AutoSize());
     label.setGeometry({5, 6, 100, 20});
     label.setCaption(QStringLiteral("a caption that is longer than the label"));
@@ -70,12 +71,44 @@ TEST(TrspLabel, keepsItsSizeUnlessToldOtherwise)
 TEST(TrspLabel, isAsLargeAsItsTextWithAutoSize)
 {
     test::Picture picture;
-    trspLabel label;
+    trspLabel label(QStringLiteral("velAxisLabel"));
     label.setGeometry({5, 6, 100, 20});
     label.setCaption(QStringLiteral("f(Hz)"));
     label.setAutoSize(true);
     EXPECT_EQ(label.geometry(),
-              QRect(QPoint(5, 6), picture.context().textExtent(label.Caption(), label.font())));
+              QRect(QPoint(5, 6), picture.context().textExtent(label.Caption(), Font())));
     label.setCaption(QStringLiteral("frequency (Hz)"));
-    EXPECT_EQ(label.geometry().size(), picture.context().textExtent(label.Caption(), label.font()));
+    EXPECT_EQ(label.geometry().size(), picture.context().textExtent(label.Caption(), Font()));
+}
+
+TEST(TrspLabel, beginsWithItsOwnNameAsCaption)
+{
+    const trspLabel label(QStringLiteral("velAxisLabel"));
+    EXPECT_EQ(label.Caption(), QStringLiteral("velAxisLabel"));
+}
+
+TEST(TrspLabel, keepsItsPropertiesInABag)
+{
+    trspLabel label(QStringLiteral("gAxisLabel"));
+    label.setCaption(QStringLiteral("g"));
+    label.setAutoSize(true);
+    trspLabel copy(QStringLiteral("other"));
+    copy.ReadProperties(label.WriteProperties());
+    EXPECT_EQ(copy.Caption(), QStringLiteral("g"));
+    EXPECT_TRUE(copy.AutoSize());
+    EXPECT_EQ(copy.hFont(), 0);
+    copy.ReadProperties({});
+    EXPECT_EQ(copy.Caption(), QStringLiteral("other"));
+    EXPECT_FALSE(copy.AutoSize());
+}
+
+TEST(TrspLabel, marksWhatWasSetAndRefusesAFont)
+{
+    trspLabel label(QStringLiteral("gAxisLabel"));
+    label.setCaption(QStringLiteral("g"));
+    EXPECT_TRUE(label.changedProperties().contains(QStringLiteral("Caption")));
+    EXPECT_FALSE(label.changedProperties().contains(QStringLiteral("AutoSize")));
+    label.setAutoSize(false);
+    EXPECT_TRUE(label.changedProperties().contains(QStringLiteral("AutoSize")));
+    EXPECT_EQ(test::errorNumberOf([&] { label.sethFont(1); }), ErrorNumber::SetNotSupportedAtRunTime);
 }

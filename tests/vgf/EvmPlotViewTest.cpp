@@ -1,14 +1,27 @@
 #include "vgf/EvmPlotView.h"
 
+#include <QAction>
 #include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QMenu>
+#include <QMimeData>
 #include <QMouseEvent>
-#include <QPlainTextEdit>
+#include <QTextEdit>
 
 #include <gtest/gtest.h>
 
 using namespace tarsil;
 
 namespace {
+
+TextFormat redAndBold()
+{
+    TextFormat format;
+    format.bold = true;
+    format.color = rgb(255, 0, 0);
+    return format;
+}
 
 class EvmPlotViewTest : public ::testing::Test
 {
@@ -17,6 +30,8 @@ protected:
     {
         view.resize(800, 600);
         view.show();
+        view.activateWindow();
+        view.setFocus();
         QApplication::processEvents();
     }
 
@@ -43,10 +58,10 @@ protected:
     }
 
     /// The editor that is open over the plot; null when there is none.
-    QPlainTextEdit* editor()
+    QTextEdit* editor()
     {
-        for (QPlainTextEdit* child : view.findChildren<QPlainTextEdit*>()) {
-            if (!child->isHidden())
+        for (QTextEdit* child : view.findChildren<QTextEdit*>()) {
+            if (child->isVisible())
                 return child;
         }
         return nullptr;
@@ -58,10 +73,26 @@ protected:
         QApplication::sendEvent(widget, &event);
     }
 
-    void takeFocusFrom(QWidget* widget, Qt::FocusReason reason)
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
-        QFocusEvent event(QEvent::FocusOut, reason);
-        QApplication::sendEvent(widget, &event);
+        QKeyEvent event(QEvent::KeyPress, key, modifiers);
+        QApplication::sendEvent(&view, &event);
+    }
+
+    QMenu* boxMenu() { return view.findChild<QMenu*>(QStringLiteral("mnuErtb")); }
+
+    /// Opens the menu of a place with the right button; whether the view took that.
+    bool openMenu(QPoint place)
+    {
+        QContextMenuEvent event(QContextMenuEvent::Mouse, place, view.mapToGlobal(place));
+        QApplication::sendEvent(&view, &event);
+        return event.isAccepted();
+    }
+
+    void choose(const char* action)
+    {
+        boxMenu()->hide();
+        boxMenu()->findChild<QAction*>(QString::fromLatin1(action))->trigger();
     }
 
     /// Whether any pixel of a rectangle is not white.
@@ -195,7 +226,7 @@ TEST_F(EvmPlotViewTest, takesTheEditedTextWhenTheFocusGoesElsewhere)
     doubleClick(legendCentre());
     ASSERT_NE(editor(), nullptr);
     editor()->setPlainText(QStringLiteral("a\nb"));
-    takeFocusFrom(editor(), Qt::MouseFocusReason);
+    view.setFocus();
     EXPECT_EQ(plot.Legend().Text(), QStringLiteral("a\r\nb"));
     EXPECT_EQ(editor(), nullptr);
 }
@@ -210,12 +241,11 @@ TEST_F(EvmPlotViewTest, takesTheEditedTextWhenThePlotIsClicked)
     EXPECT_EQ(editor(), nullptr);
 }
 
-TEST_F(EvmPlotViewTest, goesOnEditingWhileAMenuOrAnotherProgramHasTheFocus)
+TEST_F(EvmPlotViewTest, goesOnEditingWhileAnotherProgramHasTheFocus)
 {
     doubleClick(legendCentre());
     ASSERT_NE(editor(), nullptr);
-    takeFocusFrom(editor(), Qt::PopupFocusReason);
-    takeFocusFrom(editor(), Qt::ActiveWindowFocusReason);
+    Q_EMIT qApp->focusChanged(editor(), nullptr);
     EXPECT_NE(editor(), nullptr);
 }
 
@@ -239,9 +269,143 @@ TEST_F(EvmPlotViewTest, editsOneBoxAfterTheOther)
     ASSERT_NE(editor(), nullptr);
     EXPECT_EQ(editor()->toPlainText(), QString());
     editor()->setPlainText(QStringLiteral("header"));
-    takeFocusFrom(editor(), Qt::TabFocusReason);
+    view.setFocus();
     EXPECT_EQ(plot.Legend().Text(), QStringLiteral("legend"));
     EXPECT_EQ(plot.Header().Text(), QStringLiteral("header"));
+}
+
+TEST_F(EvmPlotViewTest, keepsFontsAndColoursOfATextThatIsEdited)
+{
+    plot.setBoxContent(1, {{{u"a", {}}, {u"b\n", redAndBold()}, {u"c", {}}}, {}});
+    const RichText before = plot.Legend().content();
+    doubleClick(legendCentre());
+    ASSERT_NE(editor(), nullptr);
+    editor()->moveCursor(QTextCursor::End);
+    editor()->insertPlainText(QStringLiteral("d"));
+    view.setFocus();
+    RichText expected = before;
+    expected.runs.back().text = u"cd";
+    EXPECT_EQ(plot.Legend().content(), expected);
+}
+
+TEST_F(EvmPlotViewTest, leavesATextAloneThatWasOnlyLookedAt)
+{
+    plot.setBoxText(1, QStringLiteral("text"));
+    plot.Legend().setSelStart(2);
+    doubleClick(legendCentre());
+    view.setFocus();
+    EXPECT_EQ(plot.Legend().SelStart(), 2) << "nothing was set";
+}
+
+TEST_F(EvmPlotViewTest, selectsABoxByAClickAndMovesItByArrowKeys)
+{
+    mouse(QEvent::MouseButtonPress, legendCentre());
+    mouse(QEvent::MouseButtonRelease, legendCentre());
+    const QPoint before = plot.Legend().geometry().topLeft();
+    press(Qt::Key_Left);
+    press(Qt::Key_Down);
+    press(Qt::Key_Down);
+    EXPECT_EQ(plot.Legend().geometry().topLeft(), before + QPoint(-1, 2));
+    press(Qt::Key_Up, Qt::ShiftModifier);
+    press(Qt::Key_Left, Qt::ShiftModifier);
+    EXPECT_EQ(plot.Legend().geometry().topLeft(), before + QPoint(-11, -8));
+    press(Qt::Key_Escape);
+    press(Qt::Key_Right);
+    EXPECT_EQ(plot.Legend().geometry().topLeft(), before + QPoint(-11, -8)) << "no longer selected";
+}
+
+TEST_F(EvmPlotViewTest, outlinesTheSelectedBoxOnTheScreenOnly)
+{
+    plot.setBoxText(1, QStringLiteral("text"));
+    const QRect outline = plot.Legend().geometry().adjusted(-3, -2, 2, 1);
+    const QRect upperEdge(outline.topLeft(), QSize(outline.width(), 1));
+    EXPECT_FALSE(isInked(view.grab().toImage(), upperEdge));
+    mouse(QEvent::MouseButtonPress, legendCentre());
+    mouse(QEvent::MouseButtonRelease, legendCentre());
+    EXPECT_TRUE(isInked(view.grab().toImage(), upperEdge));
+    EXPECT_FALSE(isInked(plot.Image(), upperEdge));
+}
+
+TEST_F(EvmPlotViewTest, editsTheSelectedBoxByAKey)
+{
+    mouse(QEvent::MouseButtonPress, legendCentre());
+    mouse(QEvent::MouseButtonRelease, legendCentre());
+    press(Qt::Key_F2);
+    EXPECT_NE(editor(), nullptr);
+}
+
+TEST_F(EvmPlotViewTest, editsABoxByOneClickInEditMode)
+{
+    plot.setBoxText(1, QStringLiteral("text"));
+    const QRect outline = plot.Legend().geometry().adjusted(-3, -2, 2, 1);
+    const QRect upperEdge(outline.topLeft(), QSize(outline.width(), 1));
+    plot.setEditMode(true);
+    EXPECT_TRUE(isInked(view.grab().toImage(), upperEdge));
+    mouse(QEvent::MouseButtonPress, legendCentre());
+    mouse(QEvent::MouseButtonRelease, legendCentre());
+    EXPECT_NE(editor(), nullptr);
+    press(editor(), Qt::Key_Escape);
+    drag(legendCentre(), legendCentre() + QPoint(-100, 50));
+    EXPECT_EQ(editor(), nullptr) << "a movement is no click";
+    plot.setEditMode(false);
+    mouse(QEvent::MouseButtonPress, legendCentre());
+    mouse(QEvent::MouseButtonRelease, legendCentre());
+    EXPECT_EQ(editor(), nullptr);
+}
+
+TEST_F(EvmPlotViewTest, offersEditAndMoveInTheMenuOfABox)
+{
+    EXPECT_TRUE(openMenu(legendCentre()));
+    EXPECT_TRUE(boxMenu()->isVisible());
+    choose("mnuEdit");
+    EXPECT_NE(editor(), nullptr);
+}
+
+TEST_F(EvmPlotViewTest, leavesTheMenuOfThePlotToItsWindow)
+{
+    EXPECT_FALSE(openMenu({400, 500}));
+    EXPECT_FALSE(boxMenu()->isVisible());
+}
+
+TEST_F(EvmPlotViewTest, letsABoxFollowThePointerUntilAClick)
+{
+    openMenu(legendCentre());
+    choose("mnuMove");
+    mouse(QEvent::MouseMove, {400, 450}, Qt::NoButton);
+    EXPECT_EQ(legendCentre(), QPoint(400, 450));
+    mouse(QEvent::MouseButtonPress, {400, 450});
+    mouse(QEvent::MouseButtonRelease, {400, 450});
+    mouse(QEvent::MouseMove, {100, 100}, Qt::NoButton);
+    EXPECT_EQ(legendCentre(), QPoint(400, 450));
+}
+
+TEST_F(EvmPlotViewTest, takesAMovementBackOnEscape)
+{
+    const QPoint before = plot.Legend().geometry().topLeft();
+    openMenu(legendCentre());
+    choose("mnuMove");
+    mouse(QEvent::MouseMove, {400, 450}, Qt::NoButton);
+    press(Qt::Key_Escape);
+    EXPECT_EQ(plot.Legend().geometry().topLeft(), before);
+    mouse(QEvent::MouseMove, {100, 100}, Qt::NoButton);
+    EXPECT_EQ(plot.Legend().geometry().topLeft(), before);
+}
+
+TEST_F(EvmPlotViewTest, doesNotOfferToMoveTheHeader)
+{
+    openMenu(plot.Header().geometry().center());
+    EXPECT_FALSE(boxMenu()->findChild<QAction*>(QStringLiteral("mnuMove"))->isEnabled());
+}
+
+TEST_F(EvmPlotViewTest, copiesThePictureInEveryFormThatReportProgramsKnow)
+{
+    view.copyPicture();
+    const QMimeData* const data = QGuiApplication::clipboard()->mimeData();
+    ASSERT_NE(data, nullptr);
+    EXPECT_EQ(data->data(QStringLiteral("image/x-emf")), plot.emfPicture());
+    EXPECT_TRUE(data->data(QStringLiteral("image/svg+xml")).contains("<svg"));
+    // Twice as fine as the screen, so that it is sharp in print.
+    EXPECT_EQ(qvariant_cast<QImage>(data->imageData()).size(), QSize(1600, 1200));
 }
 
 TEST_F(EvmPlotViewTest, reportsAFailureOnceAndNotAtEveryRepaint)

@@ -4,7 +4,7 @@
 
 #include <optional>
 
-namespace tarsil::batch {
+namespace tarsil {
 
 /// Keeps drawing within the clip for a surface that knows no clip, as SVG does here: lines and
 /// rectangles are cut at its border, and a text that lies outside is left out. A text across the
@@ -31,4 +31,4 @@ private:
     std::optional<QRect> m_clip; ///< in pixels of the whole surface
 };
 
-} // namespace tarsil::batch
+} // namespace tarsil

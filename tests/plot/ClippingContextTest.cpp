@@ -1,11 +1,10 @@
-#include "batch/ClippingContext.h"
+#include "plot/ClippingContext.h"
 
 #include <gtest/gtest.h>
 
 #include <vector>
 
 using namespace tarsil;
-using batch::ClippingContext;
 
 namespace {
 

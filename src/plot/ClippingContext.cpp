@@ -1,9 +1,9 @@
-#include "batch/ClippingContext.h"
+#include "plot/ClippingContext.h"
 
 #include <algorithm>
 #include <array>
 
-namespace tarsil::batch {
+namespace tarsil {
 
 namespace {
 
@@ -43,29 +43,6 @@ std::optional<Segment> partWithin(const QRect& rectangle, const Segment& line)
         return line.from + QPoint(qRound(parameter * across), qRound(parameter * down));
     };
     return Segment {at(begin), at(end)};
-}
-
-/// The rectangle that a text covers.
-QRect textRectangle(QPoint reference, QSize extent, int ascent, TextAlignment alignment)
-{
-    QPoint corner = reference;
-    switch (alignment) {
-    case TextAlignment::TopLeft:
-        break;
-    case TextAlignment::TopRight:
-        corner.rx() -= extent.width();
-        break;
-    case TextAlignment::TopCenter:
-        corner.rx() -= extent.width() / 2;
-        break;
-    case TextAlignment::BottomCenter:
-        corner -= QPoint(extent.width() / 2, extent.height());
-        break;
-    case TextAlignment::BaselineLeft:
-        corner.ry() -= ascent;
-        break;
-    }
-    return {corner, extent};
 }
 
 } // namespace
@@ -112,4 +89,4 @@ void ClippingContext::setOrigin(QPoint origin)
     m_surface.setOrigin(origin);
 }
 
-} // namespace tarsil::batch
+} // namespace tarsil

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QPoint>
+#include <QSize>
+
+#include <cstddef>
+#include <optional>
+
+class QKeyEvent;
+
+namespace tarsil {
+
+class EvmPlot;
+
+/// Which text box of a plot is selected, and how the pointer and the arrow keys move it. A box is
+/// dragged, or it follows the pointer, after "Move", until a click or a key ends that.
+class TextBoxMover
+{
+public:
+    /// `plot` must outlive this object.
+    explicit TextBoxMover(EvmPlot& plot) : m_plot(plot) { }
+
+    std::optional<std::size_t> boxAt(QPoint position) const;
+    std::optional<std::size_t> selected() const { return m_selected; }
+    void select(std::optional<std::size_t> box);
+
+    /// Whether a box of this index goes where it is moved; the header keeps its row.
+    static bool isMovable(std::size_t box) { return box != 0; }
+
+    /// The left button goes down: selects the box there, and holds it.
+    void press(QPoint position);
+
+    /// The pointer moves; `isHeld` says whether the left button is down.
+    void pointTo(QPoint position, bool isHeld);
+    void release();
+
+    /// The selected box follows the pointer, which holds it at its middle, from now on.
+    void follow();
+    bool isMoving() const { return m_isDragging || m_isFollowing; }
+
+    /// Arrow keys move the selected box by a pixel, with Shift by ten; Return ends a movement and
+    /// Escape takes it back, or ends the selection. False for every other key.
+    bool press(const QKeyEvent& key);
+
+private:
+    void moveTo(QPoint corner);
+    void takeBack();
+
+    EvmPlot& m_plot;
+    std::optional<std::size_t> m_selected;
+    QPoint m_grip; ///< where in the box the pointer holds it
+    QPoint m_start; ///< the corner of the box before it was moved
+    bool m_isHeld = false;
+    bool m_isDragging = false;
+    bool m_isFollowing = false;
+};
+
+} // namespace tarsil

@@ -1,0 +1,92 @@
+#include "support/Ink.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace tarsil::test {
+
+namespace {
+
+/// How much of red, green and blue is missing from white.
+struct InkColor
+{
+    int red;
+    int green;
+    int blue;
+
+    int strength() const { return std::max({red, green, blue}); }
+};
+
+InkColor inkAt(const QImage& image, int column, int row)
+{
+    const QRgb pixel = image.pixel(column, row);
+    return {255 - qRed(pixel), 255 - qGreen(pixel), 255 - qBlue(pixel)};
+}
+
+/// Whether one could be a paler shade of the other: the directions agree.
+bool isSameHue(const InkColor& a, const InkColor& b)
+{
+    const auto product = [](const InkColor& x, const InkColor& y) {
+        return double(x.red) * y.red + double(x.green) * y.green + double(x.blue) * y.blue;
+    };
+    return product(a, b) > 0.8 * std::sqrt(product(a, a) * product(b, b));
+}
+
+constexpr int strongInk = 110; ///< what must be found again
+constexpr int anyInk = 24; ///< what counts as found
+
+bool hasInkNear(const QImage& image, QPoint place, int distance, const InkColor& wanted)
+{
+    const QRect around(place - QPoint(distance, distance), place + QPoint(distance, distance));
+    const QRect rectangle = around & image.rect();
+    for (int row = rectangle.top(); row <= rectangle.bottom(); ++row) {
+        for (int column = rectangle.left(); column <= rectangle.right(); ++column) {
+            const InkColor ink = inkAt(image, column, row);
+            if (ink.strength() >= anyInk && isSameHue(ink, wanted))
+                return true;
+        }
+    }
+    return false;
+}
+
+/// The share of the strong ink of one picture that another one has too.
+double shareFound(const QImage& image, const QImage& other, int distance)
+{
+    int inked = 0;
+    int found = 0;
+    for (int row = 0; row < image.height(); ++row) {
+        for (int column = 0; column < image.width(); ++column) {
+            const InkColor ink = inkAt(image, column, row);
+            if (ink.strength() < strongInk)
+                continue;
+            ++inked;
+            found += hasInkNear(other, {column, row}, distance, ink) ? 1 : 0;
+        }
+    }
+    return inked == 0 ? 0 : double(found) / inked;
+}
+
+} // namespace
+
+QRect inkBounds(const QImage& image)
+{
+    QRect bounds;
+    for (int row = 0; row < image.height(); ++row) {
+        for (int column = 0; column < image.width(); ++column) {
+            if (inkAt(image, column, row).strength() >= strongInk)
+                bounds |= QRect(column, row, 1, 1);
+        }
+    }
+    return bounds;
+}
+
+void expectSameInk(const QImage& a, const QImage& b, int distance, double share)
+{
+    ASSERT_EQ(a.size(), b.size());
+    EXPECT_GE(shareFound(a, b, distance), share) << "of the first picture in the second";
+    EXPECT_GE(shareFound(b, a, distance), share) << "of the second picture in the first";
+}
+
+} // namespace tarsil::test

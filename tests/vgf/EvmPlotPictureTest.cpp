@@ -1,0 +1,153 @@
+// The picture of a V-g-f plot as an Enhanced Metafile.
+
+#include "analysis/ModeBuilder.h"
+#include "plot/EmfListing.h"
+#include "plot/ErrorNumberOf.h"
+#include "plot/MetafileSurface.h"
+#include "support/Ink.h"
+#include "support/TestFiles.h"
+#include "vgf/EvmPlot.h"
+#include "vgf/PictureWriter.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+
+using namespace tarsil;
+using test::addMode;
+
+namespace {
+
+/// A plot with two curves, every kind of text, a reference speed and a damping line.
+class EvmPlotPicture : public ::testing::Test
+{
+protected:
+    EvmPlotPicture()
+    {
+        plot.resize({800, 600});
+        plot.addSeries(addMode(evolution, 1, {{0, -0.02F, 10}, {350, -0.1F, 20}, {700, 0.05F, 25}}))
+            .ColorIndex = rgb(0, 0, 255);
+        Series& dashed = plot.addSeries(addMode(evolution, 2, {{0, -0.2F, 45}, {700, -0.1F, 30}}));
+        dashed.ColorIndex = rgb(255, 0, 0);
+        dashed.LineStyle = penstyle::dash;
+        plot.Header().setTextRTF(
+            "{\\rtf1{\\colortbl ;\\red0\\green128\\blue0;}\\fs28 header \\cf1\\b "
+            "green\\par}");
+        plot.setBoxText(1, QStringLiteral("legend"));
+        plot.setBoxText(2, QStringLiteral("subtitle"));
+        plot.AddRef(352.1F, QStringLiteral("Vd"));
+        plot.AddDampLine(-0.02F, QStringLiteral("g = 2.00 %"));
+    }
+
+    test::EmfContents contents() { return test::readMetafile(plot.emfPicture().toStdString()); }
+
+    EVM evolution;
+    EvmPlot plot;
+};
+
+/// The texts of a metafile in their order.
+QStringList textsOf(const test::EmfContents& contents)
+{
+    QStringList texts;
+    for (const test::EmfItem& record : contents.records) {
+        if (record.type() == test::emf::extTextOutW)
+            texts.append(record.shownText());
+    }
+    return texts;
+}
+
+qsizetype placeOf(const QStringList& texts, const char* text)
+{
+    const qsizetype place = texts.indexOf(QString::fromLatin1(text));
+    EXPECT_GE(place, 0) << text;
+    return place;
+}
+
+} // namespace
+
+TEST_F(EvmPlotPicture, looksLikeTheScreen)
+{
+    // The player of the tests draws lines without smooth edges: they agree to a pixel.
+    test::expectSameInk(test::playMetafile(contents(), plot.size()), plot.Image(), 1, 1.0);
+}
+
+TEST_F(EvmPlotPicture, beginsWithAWhiteGroundOverTheWholeControl)
+{
+    const std::vector<std::string> lines = test::listingOf(contents());
+    const auto fill = std::find_if(lines.begin(), lines.end(), [](const std::string& line) {
+        return line.starts_with("fill ");
+    });
+    ASSERT_NE(fill, lines.end());
+    EXPECT_EQ(*fill, "fill 0,0 800x600");
+    EXPECT_TRUE(std::none_of(lines.begin(), fill, [](const std::string& line) {
+        return line.starts_with("text ") || line.starts_with("poly");
+    }));
+    EXPECT_NE(std::find(lines.begin(), fill, "brush 1 #ffffff"), fill);
+}
+
+TEST_F(EvmPlotPicture, drawsItsPartsInTheirOrder)
+{
+    const QStringList texts = textsOf(contents());
+    const std::vector<const char*> order = {"100",   "Vd", "V(keas)", "40.0",   "f(Hz)",
+                                            "-0.05", "g",  "header ", "legend", "subtitle"};
+    for (std::size_t i = 1; i < order.size(); ++i)
+        EXPECT_LT(placeOf(texts, order[i - 1]), placeOf(texts, order[i])) << order[i];
+    // The curves come last: frequency, then damping with its lines.
+    EXPECT_GT(placeOf(texts, "g = 2.00 %"), placeOf(texts, "subtitle"));
+}
+
+TEST_F(EvmPlotPicture, isDescribedInTheFixedWords)
+{
+    EXPECT_EQ(contents().description,
+              QStringLiteral("Tarsil\\0Created by Kestrin\\0\\0") + QString(2, QChar(u'\0')));
+}
+
+TEST_F(EvmPlotPicture, drawsEmptyBoxesLikeTheOthers)
+{
+    for (std::size_t i = 0; i < plot.boxCount(); ++i)
+        plot.setBoxText(i, {});
+    EXPECT_FALSE(textsOf(contents()).contains(QStringLiteral("Insert Header")));
+    test::expectSameInk(test::playMetafile(contents(), plot.size()), plot.Image(), 1, 1.0);
+}
+
+TEST_F(EvmPlotPicture, isWrittenUnderTheVeryNameGiven)
+{
+    const test::TemporaryFolder folder;
+    plot.ExportPic(QString::fromStdString(folder.file("Plot1")));
+    EXPECT_EQ(test::fileBytes(folder.file("Plot1")), plot.emfPicture().toStdString());
+}
+
+TEST_F(EvmPlotPicture, leavesTheOldFileWhenItCannotBeWritten)
+{
+    const test::TemporaryFolder folder;
+    const QString missing = QString::fromStdString(folder.file("missing") + "/a.emf");
+    EXPECT_EQ(test::errorNumberOf([&] { plot.ExportPic(missing); }), ErrorNumber::PathNotFound);
+    const std::string old = folder.write("old.emf", "old");
+    std::filesystem::permissions(old, std::filesystem::perms::owner_read);
+    EXPECT_EQ(test::errorNumberOf([&] { plot.ExportPic(QString::fromStdString(old)); }),
+              ErrorNumber::PermissionDenied);
+    EXPECT_EQ(test::fileBytes(old), "old");
+}
+
+TEST_F(EvmPlotPicture, leavesTheOldFileWhenDrawingFails)
+{
+    const test::TemporaryFolder folder;
+    const std::string old = folder.write("old.emf", "old");
+    plot.setVthicks(0);
+    EXPECT_EQ(test::errorNumberOf([&] { plot.ExportPic(QString::fromStdString(old)); }),
+              ErrorNumber::DivisionByZero);
+    EXPECT_EQ(test::fileBytes(old), "old");
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), 1);
+}
+
+TEST_F(EvmPlotPicture, hasTheSameBoxesInEveryFormat)
+{
+    const QByteArray svg = pictureBytes(plot, PictureFormat::Svg);
+    EXPECT_TRUE(svg.contains(">green<"));
+    EXPECT_TRUE(svg.contains(">legend<"));
+    const QImage png = QImage::fromData(pictureBytes(plot, PictureFormat::Png));
+    EXPECT_EQ(png.convertToFormat(QImage::Format_RGB32), plot.Image());
+    EXPECT_TRUE(pictureBytes(plot, PictureFormat::Pdf).startsWith("%PDF-"));
+    EXPECT_EQ(pictureBytes(plot, PictureFormat::Emf), plot.emfPicture());
+}
