@@ -259,7 +259,8 @@ TEST(Selection, refusesNegativePositions)
 {
     emfRichTextBox box;
     EXPECT_EQ(test::errorNumberOf([&] { box.setSelStart(-1); }), ErrorNumber::InvalidProcedureCall);
-    EXPECT_EQ(test::errorNumberOf([&] { box.setSelLength(-1); }), ErrorNumber::InvalidProcedureCall);
+    EXPECT_EQ(test::errorNumberOf([&] { box.setSelLength(-1); }),
+              ErrorNumber::InvalidProcedureCall);
 }
 
 TEST(Selection, isReplacedByTextOfItsOwnLook)
