@@ -1,0 +1,7 @@
+#include "runtime/UserInterface.h"
+
+namespace tarsil {
+
+UserInterface::~UserInterface() = default;
+
+} // namespace tarsil

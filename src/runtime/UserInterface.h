@@ -1,0 +1,57 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarsil {
+
+enum class MessageIcon { None, Exclamation, Critical };
+
+/// What a file dialog offers.
+struct FileQuestion
+{
+    std::string filter; ///< pairs "text|pattern|", one after the other
+    std::size_t filterIndex = 1; ///< the entry shown first, counted from 1
+    bool takesSeveral = false;
+    std::string fileName; ///< the name that stands there at first
+};
+
+/// What the program asks of its user or tells him; whoever needs that does not know the windows.
+/// Texts are UTF-8. The windows implement it with the platform's dialogs, the tests with a script.
+class UserInterface
+{
+public:
+    UserInterface() = default;
+    virtual ~UserInterface();
+    UserInterface(const UserInterface&) = delete;
+    UserInterface& operator=(const UserInterface&) = delete;
+
+    /// A box with an OK button. The text's lines are separated by "\n" or "\r".
+    virtual void showMessage(const std::string& text, const std::string& title,
+                             MessageIcon icon) = 0;
+
+    /// A question with Yes and No; true for Yes.
+    virtual bool confirm(const std::string& question, const std::string& title) = 0;
+
+    /// One line of text; none when the user cancels.
+    virtual std::optional<std::string> askText(const std::string& prompt,
+                                               const std::string& initial) = 0;
+
+    /// Files to open, with their folders; none when the user cancels.
+    virtual std::vector<std::string> askOpenFiles(const FileQuestion& question) = 0;
+
+    /// The file to save to; it asks before a file is replaced. None when the user cancels.
+    virtual std::optional<std::string> askSaveFile(const FileQuestion& question) = 0;
+
+    /// The first panel of the status bar.
+    virtual void showStatus(std::string_view text) = 0;
+
+    /// How far a long operation is; the windows are painted meanwhile, but take no input. `done`
+    /// equal to `total` ends it.
+    virtual void showProgress(std::size_t done, std::size_t total) = 0;
+};
+
+} // namespace tarsil

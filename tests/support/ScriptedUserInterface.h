@@ -1,0 +1,80 @@
+#pragma once
+
+#include "runtime/UserInterface.h"
+
+#include <deque>
+
+namespace tarsil::test {
+
+/// Answers from lists and writes down what it is told. A question without an answer is cancelled.
+class ScriptedUserInterface : public UserInterface
+{
+public:
+    struct Message
+    {
+        std::string text;
+        std::string title;
+        MessageIcon icon;
+
+        bool operator==(const Message&) const = default;
+    };
+
+    void showMessage(const std::string& text, const std::string& title, MessageIcon icon) override
+    {
+        messages.push_back({text, title, icon});
+    }
+    bool confirm(const std::string& question, const std::string& /*title*/) override
+    {
+        questions.push_back(question);
+        return take(confirmations).value_or(false);
+    }
+    std::optional<std::string> askText(const std::string& prompt,
+                                       const std::string& initial) override
+    {
+        questions.push_back(prompt);
+        initials.push_back(initial);
+        return take(texts);
+    }
+    std::vector<std::string> askOpenFiles(const FileQuestion& question) override
+    {
+        fileQuestions.push_back(question);
+        return take(openFiles).value_or(std::vector<std::string>());
+    }
+    std::optional<std::string> askSaveFile(const FileQuestion& question) override
+    {
+        fileQuestions.push_back(question);
+        return take(saveFiles);
+    }
+    void showStatus(std::string_view text) override { statuses.emplace_back(text); }
+    void showProgress(std::size_t done, std::size_t total) override
+    {
+        progress.emplace_back(done, total);
+    }
+
+    // Answers, used up one after the other.
+    std::deque<bool> confirmations;
+    std::deque<std::string> texts;
+    std::deque<std::vector<std::string>> openFiles;
+    std::deque<std::string> saveFiles;
+
+    // What was asked and told.
+    std::vector<Message> messages;
+    std::vector<std::string> questions;
+    std::vector<std::string> initials;
+    std::vector<FileQuestion> fileQuestions;
+    std::vector<std::string> statuses;
+    std::vector<std::pair<std::size_t, std::size_t>> progress;
+
+private:
+    template <typename Answer>
+    static std::optional<Answer> take(std::deque<Answer>& answers)
+    {
+        if (answers.empty())
+            return std::nullopt;
+        Answer answer = std::move(answers.front());
+        answers.pop_front();
+        return answer;
+    }
+};
+
+} // namespace tarsil::test
