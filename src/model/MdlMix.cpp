@@ -1,8 +1,13 @@
 #include "model/MdlMix.h"
 
+#include "runtime/BusyStatus.h"
+#include "runtime/ErrorGuard.h"
 #include "runtime/Numbers.h"
+#include "runtime/RunTimeError.h"
 
 #include <algorithm>
+#include <optional>
+#include <string>
 
 namespace tarsil::mdlMix {
 
@@ -11,6 +16,9 @@ std::unique_ptr<EVM> gather(const std::vector<const AeMode*>& modes)
     auto mixed = std::make_unique<EVM>();
     std::size_t points = 0;
     for (const AeMode* mode : modes) {
+        if (mode == nullptr)
+            throw RunTimeError(ErrorNumber::ObjectVariableNotSet, "mdlMix",
+                               "mode " + std::to_string(mixed->Modes.size() + 1) + " of the mix");
         mixed->appendMode().copyFrom(*mode);
         points = std::max(points, mode->Points.size());
     }
@@ -18,6 +26,20 @@ std::unique_ptr<EVM> gather(const std::vector<const AeMode*>& modes)
     mixed->numberOfSpeeds =
         roundToInteger16(static_cast<double>(points), "mdlMix", "number of speeds");
     return mixed;
+}
+
+void exportMixed(const std::vector<const AeMode*>& modes, UserInterface& userInterface)
+{
+    guarded(userInterface, "mdlMix", [&] {
+        const std::unique_ptr<EVM> mixed = gather(modes);
+        FileQuestion question;
+        question.filter = mixedFilter;
+        const std::optional<std::string> path = userInterface.askSaveFile(question);
+        if (!path)
+            return;
+        const BusyStatus status(userInterface, exportingStatus);
+        mixed->PrintEVM(*path);
+    });
 }
 
 } // namespace tarsil::mdlMix

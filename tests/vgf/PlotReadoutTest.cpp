@@ -8,7 +8,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QMouseEvent>
-#include <QPlainTextEdit>
+#include <QTextEdit>
 
 #include <gtest/gtest.h>
 
@@ -230,7 +230,7 @@ TEST_F(PlotReadoutTest, showsNothingOverAnEditor)
 {
     plot.moveBox(1, 15 * 300, 15 * 200); // the legend into the canvas, 15 units to a pixel
     openLegendEditor();
-    QPlainTextEdit* const editor = view.findChild<QPlainTextEdit*>();
+    QTextEdit* const editor = view.findChild<QTextEdit*>();
     ASSERT_NE(editor, nullptr);
     moveTo(editor->geometry().center());
     EXPECT_FALSE(isShown());
@@ -255,7 +255,7 @@ TEST_F(PlotReadoutTest, showsNothingElsewhereWhileAnEditorHasTheKeyboard)
     view.activateWindow();
     openLegendEditor();
     QApplication::processEvents();
-    ASSERT_NE(qobject_cast<QPlainTextEdit*>(QApplication::focusWidget()), nullptr);
+    ASSERT_NE(qobject_cast<QTextEdit*>(QApplication::focusWidget()), nullptr);
     moveTo(inCanvas);
     EXPECT_FALSE(isShown());
     press(inCanvas, Qt::LeftButton); // ends the editing

@@ -5,7 +5,7 @@
 #include <QContextMenuEvent>
 #include <QLabel>
 #include <QMouseEvent>
-#include <QPlainTextEdit>
+#include <QTextEdit>
 
 #include <gmock/gmock.h>
 
@@ -98,7 +98,7 @@ TEST_F(WndEvolPlotInput, givesTheKeyboardToTheActivePlot)
 TEST_F(WndEvolPlotInput, takesTheKeyboardFromNobodyElse)
 {
     QWidget frame;
-    QPlainTextEdit other(&frame);
+    QTextEdit other(&frame);
     window.setParent(&frame);
     frame.resize(900, 700);
     frame.show();
@@ -122,7 +122,7 @@ TEST_F(WndEvolPlotInput, keepsATextThatIsBeingEditedWhenAnotherPlotBecomesActive
     QMouseEvent twice(QEvent::MouseButtonDblClick, place, view.mapToGlobal(place), Qt::LeftButton,
                       Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&view, &twice);
-    auto* const editor = view.findChild<QPlainTextEdit*>();
+    auto* const editor = view.findChild<QTextEdit*>();
     ASSERT_NE(editor, nullptr);
     ASSERT_TRUE(editor->hasFocus());
     editor->setPlainText(QStringLiteral("typed"));

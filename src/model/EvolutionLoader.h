@@ -1,0 +1,35 @@
+#pragma once
+
+#include "model/Session.h"
+#include "runtime/UserInterface.h"
+
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarsil::mdlMain {
+
+/// What the dialog offers that opens modal evolutions.
+constexpr std::string_view evolutionFilter =
+    "Modal Evolution Files (*.evm)|*.evm|New Modal Evolution Files (*.ev2)|*.ev2|"
+    "All Files (*.*)|*.*|";
+
+constexpr std::string_view openingStatus = "Open Modal Evolutions. Please Wait ...";
+
+/// Asks for files to open, with their folders; empty when the user cancels. `filterIndex` counts
+/// the entries of the filter from 1; `several` lets the user choose more than one file.
+std::vector<std::string> OpenFileDialog(UserInterface& userInterface, std::string_view filter,
+                                        std::size_t filterIndex, bool several = false);
+
+/// Reads modal evolutions and appends them to those of the session, in the order of `paths`. A file
+/// that is missing, or open already (also by way of another path), is skipped with a message; one
+/// that cannot be read is reported and leaves nothing behind; the others still load.
+/// `refreshExplorer` is called once at the end when there are new evolutions, which are returned
+/// and stay the session's.
+std::vector<EVM*> loadEvolutions(Session& session, const std::vector<std::string>& paths,
+                                 UserInterface& userInterface,
+                                 const std::function<void()>& refreshExplorer);
+
+} // namespace tarsil::mdlMain
