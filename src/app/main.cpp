@@ -1,7 +1,32 @@
-#include "app/PlotWindow.h"
+#include "app/QtUserInterface.h"
+#include "app/WndMain.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDesktopServices>
+#include <QIcon>
+#include <QUrl>
+
+namespace {
+
+std::vector<std::string> filesOf(const QApplication& application)
+{
+    QCommandLineParser commandLine;
+    commandLine.setApplicationDescription(
+        QStringLiteral("Shows the V-g-f plots of modal evolutions (.evm and .ev2 files) and finds "
+                       "their flutter speeds."));
+    commandLine.addHelpOption();
+    commandLine.addVersionOption();
+    commandLine.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("A modal evolution."),
+                                      QStringLiteral("[FILE...]"));
+    commandLine.process(application);
+    std::vector<std::string> files;
+    for (const QString& file : commandLine.positionalArguments())
+        files.push_back(file.toStdString());
+    return files;
+}
+
+} // namespace
 
 int main(int argc, char** argv)
 {
@@ -10,16 +35,15 @@ int main(int argc, char** argv)
     QApplication::setApplicationDisplayName(QStringLiteral("Tarsil"));
     QApplication::setDesktopFileName(QStringLiteral("tarsil"));
     QApplication::setApplicationVersion(QStringLiteral(TARSIL_VERSION));
-    QCommandLineParser commandLine;
-    commandLine.setApplicationDescription(
-        QStringLiteral("Shows the V-g-f plot of modal evolutions (.evm and .ev2 files)."));
-    commandLine.addHelpOption();
-    commandLine.addVersionOption();
-    commandLine.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("A modal evolution."),
-                                      QStringLiteral("[FILE...]"));
-    commandLine.process(application);
-    tarsil::PlotWindow window;
-    window.open(commandLine.positionalArguments());
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/tarsil.svg")));
+    const std::vector<std::string> files = filesOf(application);
+    tarsil::QtUserInterface userInterface;
+    tarsil::wndMain window(userInterface, [](const QString& path) {
+        return QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+    });
+    userInterface.attach(&window, &window.stBar());
+    window.resize(1280, 800);
     window.show();
+    window.MDIForm_Load(files);
     return QApplication::exec();
 }

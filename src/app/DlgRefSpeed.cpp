@@ -1,0 +1,34 @@
+#include "app/DlgRefSpeed.h"
+
+#include "ui_DlgRefSpeed.h"
+
+#include "vgf/EvmPlot.h"
+
+#include <utility>
+
+namespace tarsil {
+
+dlgRefSpeed::dlgRefSpeed(ActivePlot activePlot, UserInterface& userInterface, QWidget* parent)
+    : MarkDialog(std::move(activePlot), userInterface, parent),
+      m_ui(std::make_unique<Ui::dlgRefSpeed>())
+{
+    m_ui->setupUi(this);
+    dlgRefSpeed::fillDefaults();
+    connect(m_ui->AddRefBtn, &QPushButton::clicked, this, &dlgRefSpeed::AddRefBtn_Click);
+}
+
+dlgRefSpeed::~dlgRefSpeed() = default;
+
+void dlgRefSpeed::fillDefaults()
+{
+    m_ui->posInp->setText(QStringLiteral("352.1"));
+    m_ui->capInp->setText(QStringLiteral("Vd"));
+}
+
+void dlgRefSpeed::AddRefBtn_Click()
+{
+    addMark(*m_ui->posInp, "dlgRefSpeed",
+            [this](EvmPlot& plot, float speed) { plot.AddRef(speed, m_ui->capInp->text()); });
+}
+
+} // namespace tarsil

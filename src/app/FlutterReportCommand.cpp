@@ -1,0 +1,93 @@
+#include "app/FlutterReportCommand.h"
+
+#include "analysis/FlutterReport.h"
+#include "analysis/SheetWriter.h"
+#include "model/EVM.h"
+#include "runtime/BusyStatus.h"
+#include "runtime/ErrorGuard.h"
+#include "runtime/Numbers.h"
+#include "vgf/EvmPlot.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
+
+#include <optional>
+
+namespace tarsil {
+
+namespace {
+
+constexpr std::string_view module = "wndMain";
+
+/// A name in the folder that no file has yet.
+QString freeName(const QString& folder)
+{
+    const QString stem = QStringLiteral("Flutter report ")
+        + QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd hh.mm.ss"));
+    QString name = stem;
+    for (int i = 2; QFileInfo::exists(QDir(folder).filePath(name + QStringLiteral(".xlsx"))); ++i)
+        name = stem + QStringLiteral(" (%1)").arg(i);
+    return QDir(folder).filePath(name + QStringLiteral(".xlsx"));
+}
+
+std::vector<ReportRow> rowsOf(const EvmPlot& plot)
+{
+    std::vector<ReportRow> rows;
+    for (const Series& series : plot.SeriesCollection()) {
+        if (series.Mode != nullptr)
+            rows.push_back({series.Mode, series.LegendText.toStdString()});
+    }
+    return rows;
+}
+
+} // namespace
+
+void FlutterReportCommand::run(const EvmPlot& plot, const QString& folder)
+{
+    guarded(m_userInterface, module, [&] {
+        const auto damping =
+            m_userInterface.askText(std::string(FlutterReport::dampingPrompt), std::string());
+        if (!damping || damping->empty())
+            return;
+        const auto limit =
+            m_userInterface.askText(std::string(FlutterReport::speedLimitPrompt), std::string());
+        if (!limit || limit->empty())
+            return;
+        write(plot, toDouble(*damping, module, "reference damping"),
+              toDouble(*limit, module, "speed limit"), folder);
+    });
+}
+
+void FlutterReportCommand::write(const EvmPlot& plot, double damping, double speedLimit,
+                                 const QString& folder)
+{
+    Sheet sheet;
+    guarded(m_userInterface, module, [&] {
+        const auto ask = [this](const EVM& evolution, std::string_view prompt) {
+            return askMach(evolution, prompt);
+        };
+        FlutterReport(damping, speedLimit, ask).write(rowsOf(plot), sheet);
+    });
+    QDir().mkpath(folder);
+    const QString path = freeName(folder);
+    writeSheet(sheet, path.toStdString());
+    if (!m_opener(path))
+        m_userInterface.showMessage("The flutter report is in the file\n" + path.toStdString()
+                                        + "\nNo program to open it was found.",
+                                    "Tarsil", MessageIcon::None);
+}
+
+/// Offers the answer last given for the same evolution, which the status bar names.
+std::optional<std::string> FlutterReportCommand::askMach(const EVM& evolution,
+                                                         std::string_view prompt)
+{
+    const BusyStatus status(m_userInterface, evolution.FileName);
+    std::string& last = m_machAnswers[evolution.path()];
+    const auto answer = m_userInterface.askText(std::string(prompt), last);
+    if (answer)
+        last = *answer;
+    return answer;
+}
+
+} // namespace tarsil

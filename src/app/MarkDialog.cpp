@@ -1,0 +1,58 @@
+#include "app/MarkDialog.h"
+
+#include "runtime/ErrorGuard.h"
+#include "runtime/Numbers.h"
+#include "runtime/UserInterface.h"
+#include "vgf/EvmPlot.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+
+#include <utility>
+
+namespace tarsil {
+
+MarkDialog::MarkDialog(ActivePlot activePlot, UserInterface& userInterface, QWidget* parent)
+    : QDialog(parent), m_activePlot(std::move(activePlot)), m_userInterface(userInterface)
+{ }
+
+void MarkDialog::done(int result)
+{
+    fillDefaults(); // first: whoever hears that the dialog is closed may delete it
+    QDialog::done(result);
+}
+
+void MarkDialog::addMark(const QLineEdit& input, std::string_view module,
+                         const std::function<void(EvmPlot&, float)>& add)
+{
+    guarded(m_userInterface, module, [&] {
+        const std::string text = input.text().toStdString();
+        float value = 0;
+        const NumberStatus status = parseSingle(text, value);
+        if (status == NumberStatus::NotANumber)
+            return askForNumber();
+        if (status != NumberStatus::Ok)
+            throwNumberError(status, text, module, "Value");
+        EvmPlot* const plot = m_activePlot();
+        if (plot == nullptr)
+            m_userInterface.showMessage("Please select activate a plot.", "Tarsil",
+                                        MessageIcon::Exclamation);
+        else
+            add(*plot, value);
+    });
+}
+
+void MarkDialog::askForNumber()
+{
+    m_userInterface.showMessage("Please enter a numeric value.", "Tarsil", MessageIcon::None);
+}
+
+/// Enter presses the default button; held down, it adds one mark and not a row of them.
+void MarkDialog::keyPressEvent(QKeyEvent* event)
+{
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!isEnter || !event->isAutoRepeat())
+        QDialog::keyPressEvent(event);
+}
+
+} // namespace tarsil

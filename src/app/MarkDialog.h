@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QDialog>
+
+#include <functional>
+#include <string_view>
+
+class QLineEdit;
+
+namespace tarsil {
+
+class EvmPlot;
+class UserInterface;
+
+/// What the small dialogs have in common that add a mark to the active plot, one after the other:
+/// they leave the plot window usable, stay open, and keep nothing once they are closed.
+class MarkDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// The plot that the marks go to, or null.
+    using ActivePlot = std::function<EvmPlot*()>;
+
+    void done(int result) override;
+
+protected:
+    /// `userInterface` must outlive the dialog.
+    MarkDialog(ActivePlot activePlot, UserInterface& userInterface, QWidget* parent);
+
+    /// Gives every input its first text.
+    virtual void fillDefaults() = 0;
+
+    /// Hands the number in an input and the active plot on to `add`. Without a number or a plot the
+    /// user gets a message instead; an error is reported as one of `module`.
+    void addMark(const QLineEdit& input, std::string_view module,
+                 const std::function<void(EvmPlot&, float)>& add);
+
+    void askForNumber();
+    UserInterface& userInterface() { return m_userInterface; }
+
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    ActivePlot m_activePlot;
+    UserInterface& m_userInterface;
+};
+
+} // namespace tarsil

@@ -1,0 +1,102 @@
+#include "app/StatusPanels.h"
+
+#include <QEvent>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QProgressBar>
+#include <QToolButton>
+
+namespace tarsil {
+
+namespace {
+
+QToolButton* togglePanel(const QString& caption, const QString& name, QWidget* parent)
+{
+    auto* const panel = new QToolButton(parent);
+    panel->setObjectName(name);
+    panel->setText(caption);
+    panel->setAccessibleName(caption);
+    panel->setAutoRaise(true);
+    panel->setCheckable(true);
+    panel->setFocusPolicy(Qt::TabFocus);
+    return panel;
+}
+
+/// On or off: the caption is black or grey, and a screen reader hears it as checked or not.
+void showState(QToolButton* panel, bool on)
+{
+    panel->setChecked(on);
+    QPalette palette;
+    if (!on)
+        palette.setColor(QPalette::ButtonText,
+                         palette.color(QPalette::Disabled, QPalette::ButtonText));
+    panel->setPalette(palette);
+}
+
+} // namespace
+
+StatusPanels::StatusPanels(QWidget* parent)
+    : QStatusBar(parent), m_text(new QLabel(QStringLiteral("Ready"), this)),
+      m_progress(new QProgressBar(this)),
+      m_autoPlot(togglePanel(QStringLiteral("AutoPlot"), QStringLiteral("stBar_AutoPlot"), this)),
+      m_editMode(togglePanel(QStringLiteral("Edit Mode"), QStringLiteral("stBar_EditMode"), this))
+{
+    setObjectName(QStringLiteral("stBar"));
+    m_text->setObjectName(QStringLiteral("stBar_Status"));
+    m_text->setAccessibleName(tr("Status"));
+    m_progress->setAccessibleName(tr("Progress"));
+    m_progress->setMaximumWidth(200);
+    m_progress->hide();
+    addWidget(m_text, 1);
+    addWidget(m_progress);
+    addPermanentWidget(m_autoPlot);
+    addPermanentWidget(m_editMode);
+    m_text->installEventFilter(this);
+    // Clicking a panel toggles nothing by itself: whoever hears of the click decides.
+    connect(m_autoPlot, &QToolButton::clicked, this, [this](bool on) {
+        m_autoPlot->setChecked(!on);
+        Q_EMIT panelClicked(2);
+    });
+    connect(m_editMode, &QToolButton::clicked, this, [this](bool on) {
+        m_editMode->setChecked(!on);
+        Q_EMIT panelClicked(3);
+    });
+    setAutoPlot(true);
+    setEditMode(false);
+}
+
+void StatusPanels::setText(const QString& text)
+{
+    m_text->setText(text);
+}
+
+QString StatusPanels::text() const
+{
+    return m_text->text();
+}
+
+void StatusPanels::setAutoPlot(bool on)
+{
+    showState(m_autoPlot, on);
+}
+
+void StatusPanels::setEditMode(bool on)
+{
+    showState(m_editMode, on);
+}
+
+void StatusPanels::setProgress(std::size_t done, std::size_t total)
+{
+    m_progress->setMaximum(static_cast<int>(total));
+    m_progress->setValue(static_cast<int>(done));
+    m_progress->setVisible(done < total);
+}
+
+bool StatusPanels::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_text && event->type() == QEvent::MouseButtonRelease)
+        Q_EMIT panelClicked(1);
+    return QStatusBar::eventFilter(watched, event);
+}
+
+} // namespace tarsil

@@ -1,0 +1,249 @@
+#include "app/WndMain.h"
+
+#include "app/DlgDampLine.h"
+#include "app/DlgRefSpeed.h"
+#include "app/EvolutionPlotter.h"
+#include "app/StatusPanels.h"
+#include "model/EvolutionLoader.h"
+#include "model/MdlMix.h"
+#include "runtime/ErrorGuard.h"
+#include "runtime/ErrorReport.h"
+#include "runtime/RunTimeError.h"
+#include "vgf/DlgPlotProp.h"
+#include "vgf/WndEvolPlot.h"
+
+#include <QCloseEvent>
+#include <QMdiArea>
+#include <QMenu>
+#include <QStandardPaths>
+
+#include <algorithm>
+
+namespace tarsil {
+
+namespace {
+
+/// A child window whose contents belong to the work to come.
+QWidget* emptyWindow(const char* name, const char* title)
+{
+    auto* const window = new QWidget;
+    window->setObjectName(QString::fromLatin1(name));
+    window->setWindowTitle(QString::fromLatin1(title));
+    return window;
+}
+
+bool isMentioned(const std::vector<std::string>& arguments, std::string_view extension)
+{
+    return std::any_of(arguments.begin(), arguments.end(), [extension](const auto& argument) {
+        return argument.find(extension) != std::string::npos;
+    });
+}
+
+} // namespace
+
+wndMain::wndMain(UserInterface& userInterface, FlutterReportCommand::FileOpener opener)
+    : m_userInterface(userInterface), m_report(userInterface, std::move(opener)),
+      m_reportFolder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)),
+      m_area(new QMdiArea(this)), m_statusPanels(new StatusPanels(this))
+{
+    setObjectName(QStringLiteral("wndMain"));
+    setWindowTitle(QStringLiteral("Tarsil 4.0"));
+    setAccessibleName(windowTitle());
+    setCentralWidget(m_area);
+    setStatusBar(m_statusPanels);
+    connect(m_statusPanels, &StatusPanels::panelClicked, this, &wndMain::stBar_PanelClick);
+    makeChildWindows();
+    makeMenuBar();
+    makePopups();
+    makeHelpKey();
+}
+
+/// The child windows go before the evolutions that their plots refer to.
+wndMain::~wndMain()
+{
+    m_refSpeed.reset();
+    m_dampLine.reset();
+    delete m_area;
+}
+
+void wndMain::makeChildWindows()
+{
+    m_evolPlot = new wndEvolPlot(m_userInterface);
+    const auto frameOf = [this](QWidget* content) {
+        auto* const frame = new ChildFrame(content);
+        m_area->addSubWindow(frame);
+        return frame;
+    };
+    m_frames.data = frameOf(emptyWindow("wndData", "Data Control"));
+    m_frames.explorer = frameOf(emptyWindow("wndEvolExplorer", "Modal Evolutions Explorer"));
+    m_frames.plot = frameOf(m_evolPlot);
+    connect(m_evolPlot, &wndEvolPlot::failed, this, [this](const RunTimeError& error) {
+        m_userInterface.showMessage(errorReport(error, "wndEvolPlot"), "Error",
+                                    MessageIcon::Critical);
+    });
+    connect(m_evolPlot, &wndEvolPlot::activePlotChanged, this,
+            [this](EvmPlot* /*before*/, EvmPlot* now) {
+                m_statusPanels->setEditMode(now != nullptr && now->EditMode());
+            });
+    connect(m_evolPlot, &wndEvolPlot::plotMenuRequested, this,
+            [this](QPoint position) { m_plotMenu->popup(position); });
+}
+
+void wndMain::MDIForm_Load(const std::vector<std::string>& arguments)
+{
+    guarded(m_userInterface, "wndMain", [&] {
+        for (ChildFrame* frame : {m_frames.data, m_frames.explorer, m_frames.plot})
+            frame->bringBack();
+        wndDefLayout();
+        m_evolPlot->ActivatePlot(m_evolPlot->plots().front());
+        if (isMentioned(arguments, ".tsw"))
+            m_userInterface.showMessage("This version opens no workspaces yet.", "Tarsil",
+                                        MessageIcon::Exclamation);
+        else if (isMentioned(arguments, ".evm") || isMentioned(arguments, ".ev2"))
+            load(arguments);
+    });
+}
+
+void wndMain::run(Handler handler)
+{
+    guarded(m_userInterface, "wndMain", [this, handler] { (this->*handler)(); });
+}
+
+void wndMain::wndDefLayout()
+{
+    arrangeByDefault(m_frames, innerSize());
+}
+
+QSize wndMain::innerSize() const
+{
+    return m_area->viewport()->size();
+}
+
+std::vector<ChildFrame*> wndMain::frames() const
+{
+    return {m_frames.explorer, m_frames.data, m_frames.plot};
+}
+
+EvmPlot& wndMain::activePlot() const
+{
+    if (m_evolPlot->ActivePlot() == nullptr)
+        throw RunTimeError(ErrorNumber::ObjectVariableNotSet, "wndMain", "no plot is active");
+    return *m_evolPlot->ActivePlot();
+}
+
+void wndMain::load(const std::vector<std::string>& paths)
+{
+    const std::vector<EVM*> loaded =
+        mdlMain::loadEvolutions(m_session, paths, m_userInterface, [] {});
+    plotEvolutions(activePlot(), loaded);
+}
+
+void wndMain::AddMenu_Click()
+{
+    load(mdlMain::OpenFileDialog(m_userInterface, mdlMain::evolutionFilter, 1, true));
+}
+
+void wndMain::ExportMenu_Click()
+{
+    std::vector<const AeMode*> modes;
+    for (const Series& series : activePlot().SeriesCollection())
+        modes.push_back(series.Mode);
+    mdlMix::exportMixed(modes, m_userInterface);
+}
+
+void wndMain::QuitMenu_Click()
+{
+    close();
+}
+
+void wndMain::mnuDataControl_Click()
+{
+    m_frames.data->bringBack();
+}
+
+void wndMain::mnuModalEvolExplorer_Click()
+{
+    m_frames.explorer->bringBack();
+}
+
+void wndMain::mnuVgfPlot_Click()
+{
+    m_frames.plot->bringBack();
+}
+
+void wndMain::mnuSetScale_Click()
+{
+    dlgPlotProp(activePlot(), m_userInterface, this).exec();
+}
+
+void wndMain::mnuAddRef_Click()
+{
+    if (!m_refSpeed)
+        m_refSpeed = std::make_unique<dlgRefSpeed>([this] { return m_evolPlot->ActivePlot(); },
+                                                   m_userInterface, this);
+    m_refSpeed->show();
+    m_refSpeed->raise();
+    m_refSpeed->activateWindow();
+}
+
+void wndMain::mnuClearRef_Click()
+{
+    activePlot().RemoveRef();
+}
+
+void wndMain::mnuAddDamp_Click()
+{
+    if (!m_dampLine)
+        m_dampLine = std::make_unique<dlgDampLine>([this] { return m_evolPlot->ActivePlot(); },
+                                                   m_userInterface, this);
+    m_dampLine->show();
+    m_dampLine->raise();
+    m_dampLine->activateWindow();
+}
+
+void wndMain::mnuClearDamp_Click()
+{
+    activePlot().RemoveDampLine();
+}
+
+void wndMain::mnuFlutCalc_Click()
+{
+    m_report.run(activePlot(), m_reportFolder);
+}
+
+void wndMain::mnuDefLayout_Click()
+{
+    wndDefLayout();
+}
+
+void wndMain::TileVertMenu_Click()
+{
+    tileVertically(frames(), innerSize());
+}
+
+void wndMain::TileHorizMenu_Click()
+{
+    tileHorizontally(frames(), innerSize());
+}
+
+/// Only "Edit Mode", the third panel, acts.
+void wndMain::stBar_PanelClick(int panel)
+{
+    constexpr int editMode = 3;
+    if (panel != editMode)
+        return;
+    guarded(m_userInterface, "wndMain", [this] {
+        EvmPlot& plot = activePlot();
+        plot.setEditMode(!plot.EditMode());
+        m_statusPanels->setEditMode(plot.EditMode());
+    });
+}
+
+void wndMain::closeEvent(QCloseEvent* event)
+{
+    m_refSpeed.reset();
+    m_dampLine.reset();
+    event->accept();
+}
+
+} // namespace tarsil

@@ -1,0 +1,107 @@
+#include "app/EvolutionPlotter.h"
+
+#include "analysis/ModeBuilder.h"
+#include "vgf/EvmPlot.h"
+
+#include <gtest/gtest.h>
+
+using namespace tarsil;
+using test::addMode;
+
+namespace {
+
+/// An evolution of `modes` modes, level at 10, 20, ... Hz from 100 to 600 knots.
+std::unique_ptr<EVM> evolutionOf(const std::string& name, std::int16_t modes, float mach = 0)
+{
+    auto evolution = std::make_unique<EVM>();
+    evolution->FileName = name;
+    evolution->Param.Airplane = "GOLAND WING";
+    evolution->Param.Mass = "CLEAN";
+    evolution->Param.Mach = mach;
+    evolution->flutterMethod = "PK";
+    for (std::int16_t i = 1; i <= modes; ++i) {
+        const float frequency = 10.0F * static_cast<float>(i);
+        addMode(*evolution, i, {{100, -0.125F, frequency}, {600, 0.125F, frequency}});
+    }
+    return evolution;
+}
+
+class EvolutionPlotter : public ::testing::Test
+{
+protected:
+    EvolutionPlotter() : one(evolutionOf("one.evm", 3, 0.5F)), two(evolutionOf("two.evm", 2, 0.8F))
+    { }
+
+    std::unique_ptr<EVM> one;
+    std::unique_ptr<EVM> two;
+    EvmPlot plot;
+};
+
+} // namespace
+
+TEST_F(EvolutionPlotter, drawsOneCurveForEachMode)
+{
+    plotEvolutions(plot, {one.get(), two.get()});
+    const SeriesList& series = plot.SeriesCollection();
+    ASSERT_EQ(series.size(), 5U);
+    EXPECT_EQ(series[0].Mode->Id, 1);
+    EXPECT_EQ(series[2].Mode->Id, 3);
+    EXPECT_EQ(series[3].Mode->Id, 1);
+    EXPECT_EQ(series[0].LegendText, QStringLiteral("one.evm"));
+    EXPECT_EQ(series[4].LegendText, QStringLiteral("two.evm"));
+}
+
+TEST_F(EvolutionPlotter, fitsTheAxesOfAnEmptyPlotOnly)
+{
+    plotEvolutions(plot, {one.get()});
+    const EvmPlot::Scale fitted = plot.GetScale();
+    EXPECT_GE(fitted.vmax, 600.0F);
+    EXPECT_GE(fitted.fmax, 30.0F);
+    EXPECT_LE(fitted.gmax, -0.125F);
+    EvmPlot::Scale own = fitted;
+    own.vmax = 123;
+    plot.SetScale(own);
+    plotEvolutions(plot, {two.get()});
+    EXPECT_EQ(plot.GetScale(), own) << "the user's scale stays";
+}
+
+TEST_F(EvolutionPlotter, headsThePlotWithItsCase)
+{
+    plotEvolutions(plot, {one.get()});
+    EXPECT_EQ(plot.Header().Text().toStdString(),
+              "GOLAND WING - CLEAN\r\nPK Method - Mach No. 0.50");
+    EXPECT_EQ(plot.Mechanism().Text().toStdString(), "one.evm");
+}
+
+TEST_F(EvolutionPlotter, headsThePlotWithWhatAllFilesHaveInCommon)
+{
+    plotEvolutions(plot, {one.get(), two.get()});
+    EXPECT_EQ(plot.Header().Text().toStdString(), "GOLAND WING - CLEAN\r\nPK Method");
+    EXPECT_EQ(plot.Mechanism().Text().toStdString(), "one.evm, two.evm");
+}
+
+TEST_F(EvolutionPlotter, leavesTextsOfTheUserAlone)
+{
+    plot.setBoxText(0, QStringLiteral("my header"));
+    plotEvolutions(plot, {one.get()});
+    EXPECT_EQ(plot.Header().Text(), QStringLiteral("my header"));
+}
+
+TEST_F(EvolutionPlotter, givesEachFileALineStyleOfItsOwnAlsoWhenItComesLater)
+{
+    plotEvolutions(plot, {one.get()});
+    plotEvolutions(plot, {two.get()});
+    const SeriesList& series = plot.SeriesCollection();
+    ASSERT_EQ(series.size(), 5U);
+    EXPECT_EQ(series[0].LineStyle, penstyle::solid);
+    EXPECT_EQ(series[2].LineStyle, penstyle::solid);
+    EXPECT_NE(series[3].LineStyle, penstyle::solid);
+    EXPECT_EQ(series[4].LineStyle, series[3].LineStyle);
+}
+
+TEST_F(EvolutionPlotter, doesNothingWithoutEvolutions)
+{
+    plotEvolutions(plot, {});
+    EXPECT_TRUE(plot.SeriesCollection().empty());
+    EXPECT_EQ(plot.GetScale(), EvmPlot::Scale());
+}
