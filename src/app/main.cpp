@@ -5,6 +5,7 @@
 #include <QCommandLineParser>
 #include <QDesktopServices>
 #include <QIcon>
+#include <QScreen>
 #include <QUrl>
 
 namespace {
@@ -42,7 +43,7 @@ int main(int argc, char** argv)
         return QDesktopServices::openUrl(QUrl::fromLocalFile(path));
     });
     userInterface.attach(&window, &window.stBar());
-    window.resize(1280, 800);
+    window.resize(QSize(1280, 800).boundedTo(window.screen()->availableSize()));
     window.show();
     window.MDIForm_Load(files);
     return QApplication::exec();

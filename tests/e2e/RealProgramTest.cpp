@@ -1,8 +1,9 @@
-#include "VirtualDisplay.h"
+#include "Hands.h"
+#include "Program.h"
 
-#include <QProcess>
-#include <QProcessEnvironment>
-#include <QSet>
+#include "analysis/XlsxReader.h"
+
+#include <QDir>
 
 #include <gtest/gtest.h>
 
@@ -10,55 +11,21 @@ namespace tarsil::test {
 
 namespace {
 
-/// The program on a display; it is asked to end with the object.
-class Program
+const QString mainWindow = QStringLiteral("^Tarsil 4.0");
+
+QStringList keys(const char* names)
 {
-public:
-    Program(const VirtualDisplay& display, const QStringList& arguments)
-    {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("DISPLAY"), display.name());
-        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
-        m_process.setProcessEnvironment(environment);
-        m_process.setProcessChannelMode(QProcess::ForwardedChannels);
-        m_process.start(QStringLiteral(TARSIL_PROGRAM), arguments);
-    }
-
-    ~Program()
-    {
-        m_process.terminate();
-        if (!m_process.waitForFinished())
-            m_process.kill();
-    }
-
-    Program(const Program&) = delete;
-    Program& operator=(const Program&) = delete;
-
-    bool isRunning()
-    {
-        return !m_process.waitForFinished(0) && m_process.state() != QProcess::NotRunning;
-    }
-
-private:
-    QProcess m_process;
-};
-
-QSet<QRgb> colorsOf(const QImage& picture)
-{
-    QSet<QRgb> colors;
-    for (int row = 0; row < picture.height(); ++row) {
-        for (int column = 0; column < picture.width(); ++column)
-            colors.insert(picture.pixel(column, row) | 0xFF000000U);
-    }
-    return colors;
+    return QString::fromLatin1(names).split(u' ');
 }
 
-/// The full colours of the first three curves: a line along the pixels shows them unmixed.
-bool showsCurves(const QImage& screen)
+/// The workbooks in the user's documents.
+QStringList workbooks(const Program& program)
 {
-    const QSet<QRgb> colors = colorsOf(screen);
-    return colors.contains(qRgb(128, 128, 128)) && colors.contains(qRgb(0, 0, 255))
-        && colors.contains(qRgb(0, 128, 0));
+    const QDir documents(QString::fromStdString(program.home().file("Documents")));
+    QStringList paths;
+    for (const QString& name : documents.entryList({QStringLiteral("*.xlsx")}))
+        paths.append(documents.filePath(name));
+    return paths;
 }
 
 } // namespace
@@ -73,15 +40,71 @@ TEST(RealProgram, showsTheCurvesOfAFileOnTheScreen)
     EXPECT_TRUE(program.isRunning());
 }
 
-TEST(RealProgram, drawsTheOtherFilesWhenOneIsMissing)
+TEST(RealProgram, saysThatAFileIsMissingAndDrawsTheOthers)
 {
     const VirtualDisplay display;
     ASSERT_FALSE(display.name().isEmpty()) << "Xvfb did not start";
     Program program(display,
                     {QStringLiteral("no-such-file.ev2"),
                      QString::fromStdString(sample("goland_clean_m040.ev2"))});
+    Hands hands(display.name());
+    ASSERT_TRUE(hands.focusNew(QStringLiteral("^Error$")));
+    hands.press(keys("Return"));
     EXPECT_TRUE(display.waitForScreen(showsCurves));
     EXPECT_TRUE(program.isRunning());
+}
+
+TEST(RealProgram, addsMarksWritesTheReportAndExportsByTheKeyboard)
+{
+    const VirtualDisplay display;
+    ASSERT_FALSE(display.name().isEmpty()) << "Xvfb did not start";
+    Program program(display, {QString::fromStdString(sample("goland_clean_m040.ev2"))});
+    ASSERT_TRUE(display.waitForScreen(showsCurves));
+    Hands hands(display.name());
+    ASSERT_TRUE(hands.focusNew(mainWindow));
+
+    // Both dialogs, from the Tools menu; Return adds a mark and Escape closes.
+    for (const auto& [menuKeys, title] :
+         {std::pair("alt+t Return", "Add Reference Speed"),
+          std::pair("alt+t Down Down Return", "Add Damping Line")}) {
+        const QImage before = display.screen();
+        hands.press(keys(menuKeys));
+        ASSERT_TRUE(hands.focusNew(QString::fromLatin1(title))) << title;
+        hands.press(keys("Return Escape"));
+        EXPECT_TRUE(waitUntil([&] { return !hands.isShown(QString::fromLatin1(title)); }));
+        EXPECT_TRUE(display.waitForScreen([&before](const QImage& now) { return now != before; }))
+            << title << " left its mark";
+        ASSERT_TRUE(hands.focus(mainWindow));
+    }
+
+    // The report: two questions, and where it is, since nothing opens it here.
+    hands.press(keys("alt+t Down Down Down Down Return"));
+    for (const char* answer : {"0", "450"}) {
+        ASSERT_TRUE(hands.focusNew(QStringLiteral("^Tarsil$"))) << answer;
+        hands.type(QString::fromLatin1(answer));
+        hands.press(keys("Return"));
+    }
+    ASSERT_TRUE(hands.focusNew(QStringLiteral("^Tarsil$")));
+    hands.press(keys("Return"));
+    ASSERT_EQ(workbooks(program).size(), 1);
+    const Sheet sheet = readXlsx(workbooks(program).first().toStdString());
+    EXPECT_EQ(Sheet::textOf(sheet.cell(1, 1)), "Modal Evolution");
+    EXPECT_EQ(Sheet::textOf(sheet.cell(2, 1)), "goland_clean_m040.ev2");
+
+    // The mixed file.
+    ASSERT_TRUE(hands.focus(mainWindow));
+    hands.press(keys("alt+f e"));
+    ASSERT_TRUE(hands.focusNew(QStringLiteral("Save")));
+    const std::string mixed = program.home().file("all.mix");
+    hands.press(keys("ctrl+a"));
+    hands.type(QString::fromStdString(mixed));
+    hands.press(keys("Return"));
+    EXPECT_TRUE(waitUntil([&mixed] { return QFile::exists(QString::fromStdString(mixed)); }));
+
+    ASSERT_TRUE(waitUntil([&hands] { return !hands.isShown(QStringLiteral("Save")); }));
+    ASSERT_TRUE(hands.focus(mainWindow));
+    hands.press(keys("ctrl+q"));
+    EXPECT_EQ(program.exitStatus(), 0);
 }
 
 } // namespace tarsil::test

@@ -1,0 +1,81 @@
+#include "Hands.h"
+
+#include <QDeadlineTimer>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QThread>
+
+namespace tarsil::test {
+
+bool waitUntil(const std::function<bool()>& condition)
+{
+    constexpr int patience = 30000; // milliseconds; only a program that hangs takes so long
+    const QDeadlineTimer deadline(patience);
+    while (!condition()) {
+        if (deadline.hasExpired())
+            return false;
+        QThread::msleep(20);
+    }
+    return true;
+}
+
+QString Hands::run(const QStringList& arguments) const
+{
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("DISPLAY"), m_display);
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral("xdotool"), arguments);
+    process.waitForFinished();
+    return QString::fromLatin1(process.readAllStandardOutput());
+}
+
+QStringList Hands::windows(const QString& title) const
+{
+    return run({QStringLiteral("search"), QStringLiteral("--onlyvisible"), QStringLiteral("--name"),
+                title})
+        .split(u'\n', Qt::SkipEmptyParts);
+}
+
+bool Hands::isShown(const QString& title) const
+{
+    return !windows(title).isEmpty();
+}
+
+bool Hands::focusNew(const QString& title)
+{
+    QString found;
+    const bool isThere = waitUntil([&] {
+        for (const QString& window : windows(title)) {
+            if (!m_known.contains(window))
+                found = window;
+        }
+        return !found.isEmpty();
+    });
+    if (isThere) {
+        m_known.append(found);
+        run({QStringLiteral("windowfocus"), QStringLiteral("--sync"), found});
+    }
+    return isThere;
+}
+
+bool Hands::focus(const QString& title)
+{
+    const QStringList found = windows(title);
+    if (found.isEmpty())
+        return false;
+    run({QStringLiteral("windowfocus"), QStringLiteral("--sync"), found.first()});
+    return true;
+}
+
+void Hands::press(const QStringList& keys) const
+{
+    run(QStringList({QStringLiteral("key")}) + keys);
+}
+
+void Hands::type(const QString& text) const
+{
+    run({QStringLiteral("type"), text});
+}
+
+} // namespace tarsil::test

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+
+namespace tarsil::test {
+
+/// Looks until `condition` holds; false when it does not within half a minute.
+bool waitUntil(const std::function<bool()>& condition);
+
+/// The keyboard of a person before a display: real key events to the window that has the focus.
+/// There is no window manager, so a window gets the focus by being told.
+class Hands
+{
+public:
+    explicit Hands(QString display) : m_display(std::move(display)) { }
+
+    /// Waits for a window whose title matches the regular expression, other than the one of this
+    /// name that was focused before, and gives it the keyboard; false when none comes.
+    bool focusNew(const QString& title);
+
+    /// Gives the keyboard back to a window that has been there before.
+    bool focus(const QString& title);
+
+    /// Keys by their names, such as "alt+t" or "Return".
+    void press(const QStringList& keys) const;
+    void type(const QString& text) const;
+
+    /// Whether a window of this title is on the screen.
+    bool isShown(const QString& title) const;
+
+private:
+    QStringList windows(const QString& title) const;
+    QString run(const QStringList& arguments) const;
+
+    QString m_display;
+    QStringList m_known; ///< windows that have had the focus
+};
+
+} // namespace tarsil::test
