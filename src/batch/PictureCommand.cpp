@@ -1,6 +1,7 @@
 #include "batch/BatchRun.h"
 #include "batch/Commands.h"
 #include "batch/PictureOptions.h"
+#include "plot/RtfReader.h"
 #include "runtime/AtomicFile.h"
 #include "vgf/EvmPlot.h"
 #include "vgf/PictureWriter.h"
@@ -56,7 +57,7 @@ void setAxes(EvmPlot& plot, const PictureOptions& options)
 /// Text in Rich Text Format keeps its fonts and colours; in other text "\n" is a line break.
 void setText(emfRichTextBox& box, const std::string& text)
 {
-    if (text.starts_with("{\\rtf"))
+    if (looksLikeRtf(text))
         box.setTextRTF(text);
     else
         box.setText(

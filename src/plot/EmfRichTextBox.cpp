@@ -14,12 +14,24 @@ namespace tarsil {
 
 namespace {
 
-/// The characters of a text whose lines end in CR LF, CR or LF, with one u'\n' for each break.
+bool isBreak(char16_t unit)
+{
+    return unit == u'\r' || unit == u'\n' || unit == u'\u2028' || unit == u'\u2029';
+}
+
+/// The characters of a text whose lines end in CR LF, CR, LF or a separator, with one u'\n' for
+/// each break and without control characters, which a text file would not keep either.
 std::u16string plainLines(QString text)
 {
     text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    text.replace(u'\r', u'\n');
-    return text.toStdU16String();
+    std::u16string plain;
+    for (const char16_t unit : text.toStdU16String()) {
+        if (isBreak(unit))
+            plain += u'\n';
+        else if (unit >= u' ' || unit == u'\t')
+            plain += unit;
+    }
+    return plain;
 }
 
 void requireNotNegative(int value, const char* what)
@@ -82,7 +94,7 @@ void emfRichTextBox::setTextRTF(std::string_view rtf)
 void emfRichTextBox::setContent(RichText content)
 {
     m_content = std::move(content);
-    m_selection = {0, 0};
+    select({0, 0});
     m_changed.mark(QStringLiteral("Text"));
     fitToText();
 }
@@ -100,10 +112,16 @@ int emfRichTextBox::SelStart() const
     return selection().start;
 }
 
+void emfRichTextBox::select(Selection selection)
+{
+    m_selection = selection;
+    m_insertion.reset();
+}
+
 void emfRichTextBox::setSelStart(int start)
 {
     requireNotNegative(start, "SelStart");
-    m_selection = {start, 0};
+    select({start, 0});
     m_changed.mark(QStringLiteral("SelStart"));
 }
 
@@ -115,7 +133,7 @@ int emfRichTextBox::SelLength() const
 void emfRichTextBox::setSelLength(int length)
 {
     requireNotNegative(length, "SelLength");
-    m_selection = {SelStart(), length};
+    select({SelStart(), length});
     m_changed.mark(QStringLiteral("SelLength"));
 }
 
@@ -125,38 +143,46 @@ QString emfRichTextBox::SelText() const
     return Text().mid(selected.start, selected.length);
 }
 
-void emfRichTextBox::setSelText(const QString& text)
+TextRange emfRichTextBox::selectedRange() const
 {
     const Selection selected = selection();
-    const std::u16string plain = plainText(m_content);
-    const TextRange range = plainRange(plain, static_cast<std::size_t>(selected.start),
-                                       static_cast<std::size_t>(selected.length));
-    const bool isAfterText = range.length == 0 && range.position > 0;
-    const TextFormat format =
-        formatAt(m_content, isAfterText ? range.position - 1 : range.position);
+    return plainRange(plainText(m_content), static_cast<std::size_t>(selected.start),
+                      static_cast<std::size_t>(selected.length));
+}
+
+/// Text that takes the place of other text looks like it; inserted text like what stands before it.
+TextFormat emfRichTextBox::insertionFormat() const
+{
+    if (m_insertion)
+        return *m_insertion;
+    const TextRange range = selectedRange();
+    const bool isInserted = range.length == 0 && range.position > 0;
+    return formatAt(m_content, isInserted ? range.position - 1 : range.position);
+}
+
+void emfRichTextBox::setSelText(const QString& text)
+{
+    const TextRange range = selectedRange();
     const std::u16string characters = plainLines(text);
-    replaceText(m_content, range.position, range.length, characters, format);
+    replaceText(m_content, range.position, range.length, characters, insertionFormat());
     const std::size_t end = shownPosition(plainText(m_content), range.position + characters.size());
-    m_selection = {static_cast<int>(end), 0};
+    select({static_cast<int>(end), 0});
     m_changed.mark(QStringLiteral("SelText"));
     fitToText();
 }
 
 ColorValue emfRichTextBox::SelColor() const
 {
-    const Selection selected = selection();
-    const TextRange range =
-        plainRange(plainText(m_content), static_cast<std::size_t>(selected.start),
-                   static_cast<std::size_t>(selected.length));
-    return formatAt(m_content, range.position).color.value_or(m_foreColor);
+    return insertionFormat().color.value_or(m_foreColor);
 }
 
 void emfRichTextBox::setSelColor(ColorValue color)
 {
-    const Selection selected = selection();
-    const TextRange range =
-        plainRange(plainText(m_content), static_cast<std::size_t>(selected.start),
-                   static_cast<std::size_t>(selected.length));
+    const TextRange range = selectedRange();
+    if (range.length == 0) {
+        m_insertion = insertionFormat();
+        m_insertion->color = color;
+    }
     changeFormat(m_content, range.position, range.length,
                  [color](TextFormat& format) { format.color = color; });
     m_changed.mark(QStringLiteral("SelColor"));
@@ -172,13 +198,39 @@ double emfRichTextBox::unitsHeight() const
     return Height() * unitsPerPixel;
 }
 
-void emfRichTextBox::setUnitsSize(double width, double height)
+void emfRichTextBox::setUnitsWidth(double width)
 {
-    m_leastSize = {roundToPixel(width / unitsPerPixel), roundToPixel(height / unitsPerPixel)};
+    m_leastSize.setWidth(roundToPixel(width / unitsPerPixel));
+    m_changed.mark(QStringLiteral("Width"));
     fitToText();
 }
 
+void emfRichTextBox::setUnitsHeight(double height)
+{
+    m_leastSize.setHeight(roundToPixel(height / unitsPerPixel));
+    m_changed.mark(QStringLiteral("Height"));
+    fitToText();
+}
+
+void emfRichTextBox::setUnitsLeft(double left)
+{
+    Move(left, m_top);
+}
+
+void emfRichTextBox::setUnitsTop(double top)
+{
+    Move(m_left, top);
+}
+
 void emfRichTextBox::Move(double left, double top)
+{
+    m_wasMoved = true;
+    m_changed.mark(QStringLiteral("Left"));
+    m_changed.mark(QStringLiteral("Top"));
+    place(left, top);
+}
+
+void emfRichTextBox::place(double left, double top)
 {
     m_left = left;
     m_top = top;
@@ -198,7 +250,8 @@ void emfRichTextBox::Clone(const emfRichTextBox& source)
     m_leastSize = source.m_leastSize;
     setContent(source.m_content);
     m_selection = source.m_selection;
-    Move(source.m_left, source.m_top);
+    m_wasMoved = source.m_wasMoved;
+    place(source.m_left, source.m_top);
 }
 
 TextFormat emfRichTextBox::defaultFormat() const
@@ -223,9 +276,18 @@ void emfRichTextBox::fitToText()
     QSize size = layOutRichText(m_content, m_foreColor, measure).size;
     if (isEmpty())
         size = metrics.extent(m_prompt, fontOf(m_content.last));
+    m_overhang = 0;
+    for (const TextRun& run : m_content.runs)
+        m_overhang = std::max(m_overhang, TextMetrics::leaning(fontOf(run.format)));
     const QPoint position(roundToPixel(m_left / unitsPerPixel),
                           roundToPixel(m_top / unitsPerPixel));
     setGeometry({position, size.expandedTo(m_leastSize)});
+}
+
+/// Slanted letters lean out of their box.
+QMargins emfRichTextBox::overhang() const
+{
+    return {m_overhang, m_overhang, m_overhang, m_overhang};
 }
 
 void emfRichTextBox::paint(DeviceContext& context) const

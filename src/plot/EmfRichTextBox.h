@@ -3,9 +3,11 @@
 #include "plot/PlotControl.h"
 #include "plot/PropertyBag.h"
 #include "plot/RichText.h"
+#include "plot/RichTextEdit.h"
 
 #include <QVariant>
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -52,18 +54,26 @@ public:
     QString SelText() const;
     void setSelText(const QString& text);
 
-    /// The colour of the first selected character, or of the one behind the insertion point.
+    /// The colour of the first selected character; with nothing selected, that of text inserted
+    /// there, which setting it changes until the selection moves.
     ColorValue SelColor() const;
     void setSelColor(ColorValue color);
 
     /// Position and size in the container, twentieths of a point. The size that is set is the least
     /// one; the text can need more.
     double unitsLeft() const { return m_left; }
+    void setUnitsLeft(double left);
     double unitsTop() const { return m_top; }
+    void setUnitsTop(double top);
     double unitsWidth() const;
+    void setUnitsWidth(double width);
     double unitsHeight() const;
-    void setUnitsSize(double width, double height);
+    void setUnitsHeight(double height);
     void Move(double left, double top);
+
+    /// Whether somebody gave the box its position; until then its container places it.
+    bool wasMoved() const { return m_wasMoved; }
+    void place(double left, double top);
 
     /// What stands on the screen in the place of an empty text; never part of text or picture.
     const QString& prompt() const { return m_prompt; }
@@ -88,6 +98,7 @@ public:
 
 protected:
     void paint(DeviceContext& context) const override;
+    QMargins overhang() const override;
 
 private:
     void fitToText();
@@ -98,14 +109,21 @@ private:
         int length;
     };
     Selection selection() const;
+    void select(Selection selection);
+    TextRange selectedRange() const;
+    TextFormat insertionFormat() const;
 
     RichText m_content;
     QString m_prompt;
     tarsil::Font m_font {QStringLiteral("Arial"), 10};
     ColorValue m_foreColor = 0;
     Selection m_selection {0, 0}; ///< as set; the text can have become shorter since
+    std::optional<TextFormat>
+        m_insertion; ///< look of text inserted at the selection, if it was set
     double m_left = 0;
     double m_top = 0;
+    bool m_wasMoved = false;
+    int m_overhang = 0;
     QSize m_leastSize; ///< pixels
     ChangedProperties m_changed;
 };

@@ -1,8 +1,8 @@
 #include "plot/EmfText.h"
 
-#include <QString>
+#include "plot/TextMetrics.h"
 
-#include <algorithm>
+#include <QString>
 
 namespace tarsil {
 
@@ -12,26 +12,12 @@ constexpr int compatibleMode = 1; // coordinates are not transformed
 constexpr auto scale = static_cast<float>(emfdevice::hundredthsPerPixel);
 constexpr std::uint32_t fixedBytes = 76;
 
-bool isControl(char16_t unit)
-{
-    const QChar character(unit);
-    return character.category() == QChar::Other_Control || character == QChar::LineSeparator
-        || character == QChar::ParagraphSeparator;
-}
-
-std::u16string visibleText(const QString& text)
-{
-    std::u16string units = wellFormed(text);
-    std::replace_if(units.begin(), units.end(), isControl, u' ');
-    return units;
-}
-
 } // namespace
 
 EmfRecord textRecord(QPoint reference, const QString& text, const std::vector<int>& advances,
                      const QRect& bounds)
 {
-    const std::u16string units = visibleText(text);
+    const std::u16string units = drawableText(text).toStdU16String();
     const auto count = static_cast<std::uint32_t>(units.size());
     const std::uint32_t textBytes = (count + 1) / 2 * 4;
     EmfRecord record(EmfType::TextOut);

@@ -79,8 +79,8 @@ QRect grown(const QRect& box, const Pen& pen)
 /// Letters reach out of the box of a text, slanted ones by up to a tenth of their height.
 QRect grown(const QRect& box, const Font& font)
 {
-    const int overhang = 1 + pixelSize(font) / 8;
-    return box.adjusted(-overhang, -overhang, overhang, overhang);
+    const int leaning = TextMetrics::leaning(font);
+    return box.adjusted(-leaning, -leaning, leaning, leaning);
 }
 
 QRect boxOf(std::span<const QPoint> points)
@@ -171,8 +171,9 @@ void MetafileContext::drawText(QPoint reference, const QString& text, const Font
                                ColorValue color, TextAlignment alignment)
 {
     const QPoint point = placed(reference, m_origin);
+    const bool isTooFar = QPointF(point) != QPointF(reference) + QPointF(m_origin);
     const QRect box = m_text.box(point, text, font, alignment);
-    if (drawsNothing() || box.isEmpty())
+    if (isTooFar || drawsNothing() || box.isEmpty())
         return;
     writeLines();
     m_state.prepare(m_clip);

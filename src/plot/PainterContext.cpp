@@ -175,7 +175,7 @@ void PainterContext::drawText(QPoint reference, const QString& text, const Font&
     const QRect box = m_text.box(reference + m_origin, text, font, alignment);
     m_painter.setFont(m_text.qtFont(font));
     m_painter.setPen(colorOf(color));
-    m_painter.drawText(box.topLeft() + QPoint(0, m_text.ascent(font)), text);
+    m_painter.drawText(box.topLeft() + QPoint(0, m_text.ascent(font)), drawableText(text));
 }
 
 QSize PainterContext::textExtent(const QString& text, const Font& font) const

@@ -31,9 +31,17 @@ PlotControl::~PlotControl() = default;
 
 void PlotControl::setGeometry(const QRect& geometry)
 {
-    if (geometry.size() != m_geometry.size())
-        m_surface = {};
+    const auto place = [this] { return surfaceRectangle().translated(-m_geometry.topLeft()); };
+    const QRect before = place();
     m_geometry = geometry;
+    if (place() != before)
+        m_surface = {};
+}
+
+void PlotControl::setContainer(const QRect& area)
+{
+    m_container = area;
+    m_surface = {};
 }
 
 void PlotControl::setDevicePixelRatio(double ratio)
@@ -43,9 +51,11 @@ void PlotControl::setDevicePixelRatio(double ratio)
     m_ratio = ratio;
 }
 
-QPoint PlotControl::surfacePosition() const
+/// Where in the container the own surface lies.
+QRect PlotControl::surfaceRectangle() const
 {
-    return m_geometry.topLeft() - QPoint(overhang().left(), overhang().top());
+    const QRect whole = m_geometry.marginsAdded(overhang());
+    return m_container.isNull() ? whole : whole & m_container;
 }
 
 void PlotControl::Draw(DeviceContext* context)
@@ -67,24 +77,28 @@ void PlotControl::drawInto(DeviceContext& context) const
     const PlacedDrawing placed(context);
     context.setOrigin(m_geometry.topLeft());
     if (isClipped())
-        context.setClip(m_geometry);
+        context.setClip(m_container.isNull() ? m_geometry : m_geometry & m_container);
+    else if (!m_container.isNull())
+        context.setClip(m_container);
     paint(context);
 }
 
 void PlotControl::drawOnSurface()
 {
-    const QSize size = m_geometry.size().grownBy(overhang());
-    if (m_geometry.isEmpty())
+    const QRect area = surfaceRectangle();
+    if (m_geometry.isEmpty() || area.isEmpty())
         return;
     if (m_surface.isNull()) {
-        m_surface = QImage(size * m_ratio, QImage::Format_ARGB32_Premultiplied);
+        m_surface = QImage(area.size() * m_ratio, QImage::Format_ARGB32_Premultiplied);
+        if (m_surface.isNull())
+            return; // no memory for it
         m_surface.setDevicePixelRatio(m_ratio);
         m_surface.fill(Qt::transparent);
     } else if (erasesBeforeDrawing()) {
         Cls();
     }
     QPainter painter(&m_surface);
-    painter.translate(overhang().left(), overhang().top());
+    painter.translate(m_geometry.topLeft() - area.topLeft());
     PainterContext context(painter);
     paint(context);
 }

@@ -27,6 +27,10 @@ public:
     /// Moves the control; a new size empties its own surface.
     void setGeometry(const QRect& geometry);
 
+    /// What of the plot can be seen: drawing of every kind ends at its edges. No limit while it is
+    /// null.
+    void setContainer(const QRect& area);
+
     /// Physical pixels of the screen for each pixel; a new ratio empties the own surface.
     void setDevicePixelRatio(double ratio);
 
@@ -39,7 +43,7 @@ public:
     /// The own surface, transparent where nothing is drawn, and where in the container it belongs:
     /// it can be larger than the control by what hangs over its edges.
     const QImage& surface() const { return m_surface; }
-    QPoint surfacePosition() const;
+    QPoint surfacePosition() const { return surfaceRectangle().topLeft(); }
 
 protected:
     /// Draws relative to the control's upper left corner.
@@ -55,10 +59,12 @@ protected:
     virtual bool erasesBeforeDrawing() const { return true; }
 
 private:
+    QRect surfaceRectangle() const;
     void drawInto(DeviceContext& context) const;
     void drawOnSurface();
 
     QRect m_geometry;
+    QRect m_container;
     double m_ratio = 1;
     QImage m_surface;
 };

@@ -1,5 +1,7 @@
 #include "plot/RichTextLayout.h"
 
+#include "plot/SymbolFont.h"
+
 #include <algorithm>
 
 namespace tarsil {
@@ -17,9 +19,13 @@ public:
 
     void add(const TextRun& run)
     {
-        const Font font = fontOf(run.format);
+        const bool isSymbols = isSymbolFace(run.format.family);
+        Font font = fontOf(run.format);
+        if (isSymbols) // few machines have the face, and any other has its signs
+            font.family = Font().family;
         const ColorValue color = run.format.color.value_or(m_automaticColor);
-        std::u16string_view rest = run.text;
+        const std::u16string characters = isSymbols ? ordinarySigns(run.text) : run.text;
+        std::u16string_view rest = characters;
         while (!rest.empty()) {
             const std::size_t end = std::min(rest.find_first_of(u"\n\t"), rest.size());
             addPiece(rest.substr(0, end), font, color);

@@ -3,6 +3,8 @@
 #include "plot/RtfParser.h"
 #include "runtime/TextCodec.h"
 
+#include <algorithm>
+
 namespace tarsil {
 
 namespace {
@@ -27,16 +29,30 @@ RichText plainText(std::string_view bytes, const TextFormat& format)
     return text;
 }
 
+std::string_view fromFirstCharacter(std::string_view bytes)
+{
+    return bytes.substr(std::min(bytes.find_first_not_of(" \r\n\0"sv), bytes.size()));
+}
+
 } // namespace
 
 RichText readRtf(std::string_view bytes, const TextFormat& fallback, RtfScope scope)
 {
     if (bytes.starts_with(byteOrderMark))
         bytes.remove_prefix(byteOrderMark.size());
-    const std::size_t start = bytes.find_first_not_of(" \r\n\0"sv);
-    if (start == std::string_view::npos || bytes[start] != '{')
+    const std::string_view source = fromFirstCharacter(bytes);
+    if (!source.starts_with('{'))
         return plainText(bytes, fallback);
-    return RtfParser(bytes.substr(start), fallback, scope).read();
+    return RtfParser(source, fallback, scope).read();
+}
+
+bool looksLikeRtf(std::string_view text)
+{
+    if (text.starts_with(byteOrderMark))
+        text.remove_prefix(byteOrderMark.size());
+    const std::string_view source = fromFirstCharacter(text);
+    return source.starts_with("{\\rtf") || source.starts_with("{\\urtf")
+        || source.starts_with("{{\\rtf");
 }
 
 } // namespace tarsil

@@ -20,4 +20,9 @@ enum class RtfScope {
 RichText readRtf(std::string_view bytes, const TextFormat& fallback,
                  RtfScope scope = RtfScope::Document);
 
+/// Whether a text means to be Rich Text Format: it begins with a brace and the word of the format,
+/// after blanks, line ends or a byte order mark. (`readRtf` takes any text that begins with a
+/// brace.)
+bool looksLikeRtf(std::string_view text);
+
 } // namespace tarsil

@@ -11,8 +11,6 @@ namespace tarsil {
 
 namespace {
 
-/// Distance of Qt's tab stops in pixels, where nothing else is asked for.
-constexpr int tabStop = 80;
 /// Letters larger than any picture, and a text longer than any: so sums of positions stay in range.
 constexpr double largestLetters = 10000;
 constexpr int longestText = 1 << 26;
@@ -22,25 +20,17 @@ int widthOf(const QString& text, const QFontMetrics& metrics)
     return std::clamp(metrics.horizontalAdvance(text), 0, longestText);
 }
 
-bool endsALine(QChar character)
+bool isNothing(QChar unit)
 {
-    return character == u'\r' || character == u'\n' || character == QChar::LineSeparator
-        || character == QChar::ParagraphSeparator;
+    return unit.category() == QChar::Other_Control || unit == QChar::LineSeparator
+        || unit == QChar::ParagraphSeparator || unit.isNonCharacter();
 }
 
-/// The advance of the character that begins at `index`, from the position reached before it.
-int advanceAt(const QString& text, qsizetype index, std::int64_t position,
-              const QFontMetrics& metrics)
+int advanceAt(const QString& text, qsizetype index, const QFontMetrics& metrics)
 {
-    const QChar character = text[index];
-    if (endsALine(character))
-        return 0;
-    if (character == u'\t')
-        return static_cast<int>(tabStop - position % tabStop);
-    const bool isPair =
-        character.isHighSurrogate() && index + 1 < text.size() && text[index + 1].isLowSurrogate();
+    const bool isPair = text[index].isHighSurrogate();
     return isPair ? metrics.horizontalAdvance(text.mid(index, 2))
-                  : metrics.horizontalAdvance(character);
+                  : metrics.horizontalAdvance(text[index]);
 }
 
 /// Shares `width` out in the proportion that the advances have.
@@ -63,6 +53,28 @@ void stretch(std::vector<int>& advances, int width)
 }
 
 } // namespace
+
+QString drawableText(const QString& text)
+{
+    QString result = text;
+    for (qsizetype i = 0; i < result.size(); ++i) {
+        const QChar unit = result[i];
+        const bool isPair =
+            unit.isHighSurrogate() && i + 1 < result.size() && result[i + 1].isLowSurrogate();
+        if (isPair)
+            ++i;
+        else if (unit.isSurrogate())
+            result[i] = QChar::ReplacementCharacter;
+        else if (isNothing(unit))
+            result[i] = u' ';
+    }
+    return result;
+}
+
+int TextMetrics::leaning(const Font& font)
+{
+    return 1 + pixelSize(font) / 8;
+}
 
 int pixelSize(const Font& font)
 {
@@ -94,7 +106,7 @@ const QFont& TextMetrics::qtFont(const Font& font) const
 QSize TextMetrics::extent(const QString& text, const Font& font) const
 {
     const QFontMetrics& metrics = metricsOf(font);
-    return {widthOf(text, metrics), metrics.ascent() + metrics.descent()};
+    return {widthOf(drawableText(text), metrics), metrics.ascent() + metrics.descent()};
 }
 
 int TextMetrics::ascent(const Font& font) const
@@ -102,18 +114,14 @@ int TextMetrics::ascent(const Font& font) const
     return metricsOf(font).ascent();
 }
 
-std::vector<int> TextMetrics::advances(const QString& text, const Font& font) const
+std::vector<int> TextMetrics::advances(const QString& given, const Font& font) const
 {
     const QFontMetrics& metrics = metricsOf(font);
+    const QString text = drawableText(given);
     std::vector<int> result;
     result.reserve(static_cast<std::size_t>(text.size()));
-    std::int64_t position = 0;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const bool isSecondUnit =
-            i > 0 && text[i].isLowSurrogate() && text[i - 1].isHighSurrogate();
-        result.push_back(isSecondUnit ? 0 : advanceAt(text, i, position, metrics));
-        position += result.back();
-    }
+    for (qsizetype i = 0; i < text.size(); ++i)
+        result.push_back(text[i].isLowSurrogate() ? 0 : advanceAt(text, i, metrics));
     stretch(result, widthOf(text, metrics));
     return result;
 }

@@ -16,6 +16,11 @@ int pixelSize(const Font& font);
 /// advance is a whole pixel, the same on screen and in files.
 QFont screenFont(const Font& font);
 
+/// A text as it is drawn and measured: a blank for each character that shows nothing, or that
+/// picture files cannot hold (controls, tabs and line ends among them), and the replacement
+/// character for half of a character of two units.
+QString drawableText(const QString& text);
+
 /// Measures texts in whole pixels, for every surface the same. It remembers the font last asked
 /// for, as texts of one font mostly follow each other.
 class TextMetrics
@@ -32,10 +37,12 @@ public:
     /// Distance from the top of a text to its baseline.
     int ascent(const Font& font) const;
 
-    /// How far each UTF-16 unit moves on; the second unit of a character of two does not. A tab
-    /// goes to the next tab stop, and line breaks stay where they are. Letters that join (Arabic
-    /// ones do) are together narrower than each by itself: all of them give way.
+    /// How far each UTF-16 unit moves on; the second unit of a character of two does not. Letters
+    /// that join (Arabic ones do) are together narrower than each by itself: all of them give way.
     std::vector<int> advances(const QString& text, const Font& font) const;
+
+    /// How far letters, slanted ones above all, can reach out of the rectangle of their text.
+    static int leaning(const Font& font);
 
     /// The rectangle of a text whose reference point stands at `reference`.
     QRect box(QPoint reference, const QString& text, const Font& font,

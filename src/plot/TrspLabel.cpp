@@ -38,11 +38,18 @@ void trspLabel::paint(DeviceContext& context) const
     context.drawText({0, 0}, m_caption, Font(), 0, TextAlignment::TopLeft);
 }
 
+QMargins trspLabel::overhang() const
+{
+    const int leaning = TextMetrics::leaning(Font());
+    return {leaning, leaning, leaning, leaning};
+}
+
 void trspLabel::ReadProperties(const PropertyBag& bag)
 {
     m_caption = readProperty(bag, QStringLiteral("Caption"), m_name);
     m_autoSize = readProperty(bag, QStringLiteral("AutoSize"), false);
     m_hFont = readProperty<std::int32_t>(bag, QStringLiteral("hFont"), 0);
+    m_changed.clear();
     fitToText();
 }
 

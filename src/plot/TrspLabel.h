@@ -35,6 +35,7 @@ public:
 
 protected:
     void paint(DeviceContext& context) const override;
+    QMargins overhang() const override;
 
 private:
     void fitToText();

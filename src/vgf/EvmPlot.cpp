@@ -267,7 +267,6 @@ void EvmPlot::Clone(const EvmPlot& source)
 {
     for (std::size_t i = 0; i < ertbTexts.size(); ++i)
         ertbTexts[i].Clone(source.ertbTexts[i]);
-    m_boxWasPlaced = source.m_boxWasPlaced;
     ReadProperties(source.WriteProperties());
     SetScale(source.GetScale());
 }
@@ -376,6 +375,7 @@ void EvmPlot::compose()
 
 void EvmPlot::Draw(DeviceContext& context)
 {
+    Q_EMIT pictureWanted();
     context.fillRectangle({QPoint(0, 0), m_size}, white);
     for (PlotControl* part : partsInDrawingOrder())
         part->Draw(&context);

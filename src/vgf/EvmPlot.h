@@ -174,6 +174,9 @@ Q_SIGNALS:
     /// The picture on the screen is no longer true.
     void changed();
 
+    /// A picture is about to be drawn into somebody's context: what is being edited belongs to it.
+    void pictureWanted();
+
 private:
     void WriteEmfPicture(const QString& fileName);
     void layOut();
@@ -194,7 +197,6 @@ private:
     trspLabel m_gAxisLabel {QStringLiteral("gAxisLabel")};
     trspLabel m_freqAxislabel {QStringLiteral("freqAxislabel")};
     std::array<emfRichTextBox, 3> ertbTexts;
-    std::array<bool, 3> m_boxWasPlaced {};
 
     SeriesList m_series;
     QString m_caption;

@@ -29,8 +29,10 @@ void EvmPlot::resize(QSize size, double ratio)
 {
     m_size = size.expandedTo(QSize(1, 1));
     m_ratio = ratio;
-    for (PlotControl* part : partsInDrawingOrder())
+    for (PlotControl* part : partsInDrawingOrder()) {
         part->setDevicePixelRatio(ratio);
+        part->setContainer({QPoint(0, 0), m_size});
+    }
     refresh();
 }
 
@@ -80,23 +82,21 @@ void EvmPlot::layOutBoxes()
     const auto units = [](int pixels) { return pixels * unitsPerPixel; };
     const int headerLeft = m_freqAxislabel.Left() + m_freqAxislabel.Width();
     const int headerRight = roundToPixel((1 - headerRightGap) * m_size.width());
-    Header().setUnitsSize(units(std::max(headerRight - headerLeft, 0)), 0);
-    Header().Move(units(headerLeft), m_boxWasPlaced[0] ? Header().unitsTop() : units(headerTop));
-    if (!m_boxWasPlaced[1]) { // right of the curves, as far left as its text needs
+    Header().setUnitsWidth(units(std::max(headerRight - headerLeft, 0)));
+    Header().place(units(headerLeft), units(headerTop));
+    if (!Legend().wasMoved()) { // right of the curves, as far left as its text needs
         const int column = std::min(roundToPixel(legendLeft * m_size.width()),
                                     m_size.width() - Legend().Width() - edge);
-        Legend().Move(units(std::max(column, 0)), units(m_vfPlot.Top()));
+        Legend().place(units(std::max(column, 0)), units(m_vfPlot.Top()));
     }
-    if (!m_boxWasPlaced[2])
-        Mechanism().Move(units(headerLeft), units(Header().Top() + Header().Height()));
+    if (!Mechanism().wasMoved())
+        Mechanism().place(units(headerLeft), units(Header().Top() + Header().Height()));
 }
 
 void EvmPlot::moveBox(std::size_t index, double left, double top)
 {
-    if (index > 0) { // the header keeps its row
+    if (index > 0) // the header keeps its row
         ertbTexts.at(index).Move(left, top);
-        m_boxWasPlaced.at(index) = true;
-    }
     refresh();
 }
 

@@ -37,6 +37,7 @@ EvmPlotView::EvmPlotView(EvmPlot& plot, QWidget* parent)
     makeActions();
     connect(&m_plot, &EvmPlot::changed, this, qOverload<>(&QWidget::update));
     connect(&m_plot, &EvmPlot::changed, this, &EvmPlotView::updateDescription);
+    connect(&m_plot, &EvmPlot::pictureWanted, this, [this] { finishEditing(true); });
     updateDescription();
 }
 
@@ -211,7 +212,11 @@ void EvmPlotView::followMovement()
 
 void EvmPlotView::copyPicture()
 {
-    QGuiApplication::clipboard()->setMimeData(pictureMimeData(m_plot).release());
+    try {
+        QGuiApplication::clipboard()->setMimeData(pictureMimeData(m_plot).release());
+    } catch (const RunTimeError& error) {
+        Q_EMIT failed(error);
+    }
 }
 
 void EvmPlotView::startEditing(std::size_t index)

@@ -35,9 +35,9 @@ std::optional<QPoint> stepOf(const QKeyEvent& key)
 
 std::optional<std::size_t> TextBoxMover::boxAt(QPoint position) const
 {
-    for (std::size_t i = 0; i < m_plot.boxCount(); ++i) {
-        if (m_plot.box(i).geometry().contains(position))
-            return i;
+    for (std::size_t i = m_plot.boxCount(); i > 0; --i) { // the last one lies on top
+        if (m_plot.box(i - 1).geometry().contains(position))
+            return i - 1;
     }
     return std::nullopt;
 }

@@ -180,6 +180,42 @@ TEST_F(PictureCommand, leavesNoPictureWhenAFileIsRefused)
     EXPECT_EQ(fileCount(), 2U);
 }
 
+TEST_F(PictureCommand, writesAnEnhancedMetafile)
+{
+    EXPECT_EQ(runBatch({"picture", "--output", file("a.EMF"), writeEv2()}).status, 0);
+    const std::string bytes = fileBytes(file("a.EMF"));
+    EXPECT_EQ(bytes.substr(0, 4), std::string("\1\0\0\0", 4)) << "the header record";
+    EXPECT_EQ(bytes.substr(40, 4), " EMF");
+    const auto failed = runBatch({"picture", "--output", file("none/a.emf"), writeEv2()});
+    EXPECT_EQ(failed.status, 1);
+    EXPECT_THAT(failed.err, HasSubstr("Path not found"));
+}
+
+TEST_F(PictureCommand, keepsTheLookOfRichText)
+{
+    const std::string rtf = "\n{\\rtf1{\\colortbl ;\\red255\\green0\\blue0;}plain \\cf1 red\\par}";
+    EXPECT_EQ(runBatch({"picture", "--header", rtf, "--legend", "{no format}", "--output",
+                        file("a.svg"), writeEv2()})
+                  .status,
+              0);
+    const std::string svg = fileBytes(file("a.svg"));
+    EXPECT_THAT(svg, HasSubstr(">plain <"));
+    EXPECT_THAT(svg, HasSubstr(">red<"));
+    EXPECT_THAT(svg, HasSubstr("#ff0000"));
+    EXPECT_THAT(svg, HasSubstr(">{no format}<"));
+}
+
+TEST_F(PictureCommand, writesNoCharacterThatAFileCannotHold)
+{
+    EXPECT_EQ(runBatch({"picture", "--reference-speed", "200=V\x02 D", "--header",
+                        "{\\rtf1 a\\u-1?b}", "--output", file("a.svg"), writeEv2()})
+                  .status,
+              0);
+    const std::string svg = fileBytes(file("a.svg"));
+    EXPECT_EQ(svg.find('\x02'), std::string::npos);
+    EXPECT_EQ(svg.find("\xEF\xBF\xBF"), std::string::npos) << "U+FFFF";
+}
+
 TEST_F(PictureCommand, doesNotWriteOverAnInput)
 {
     const std::string path = writeEv2("wing.ev2.svg");

@@ -93,7 +93,8 @@ TEST(EmfRichTextBox, isAtLeastAsLargeAsItWasTold)
 {
     emfRichTextBox box;
     box.setText(QStringLiteral("a"));
-    box.setUnitsSize(7500, 900); // 15 to a pixel
+    box.setUnitsWidth(7500); // 15 to a pixel
+    box.setUnitsHeight(900);
     EXPECT_EQ(box.geometry().size(), QSize(500, 60));
     EXPECT_EQ(box.unitsWidth(), 7500);
     EXPECT_EQ(box.unitsHeight(), 900);
@@ -335,4 +336,95 @@ TEST(EmfRichTextBox, marksWhatWasSet)
     box.setSelText(QStringLiteral("b"));
     for (const char* key : {"Text", "Font", "ForeColor", "SelStart", "SelLength", "SelText"})
         EXPECT_TRUE(box.changedProperties().contains(QString::fromLatin1(key))) << key;
+}
+
+TEST(EmfRichTextBox, tellsAPositionThatWasGivenFromOneThatItsContainerChose)
+{
+    emfRichTextBox box;
+    box.place(150, 300);
+    EXPECT_FALSE(box.wasMoved());
+    EXPECT_EQ(box.geometry().topLeft(), QPoint(10, 20));
+    box.setUnitsLeft(300);
+    EXPECT_TRUE(box.wasMoved());
+    box.setUnitsTop(450);
+    EXPECT_EQ(box.geometry().topLeft(), QPoint(20, 30));
+    box.setUnitsWidth(15);
+    box.setUnitsHeight(15);
+    for (const char* key : {"Left", "Top", "Width", "Height"})
+        EXPECT_TRUE(box.changedProperties().contains(QString::fromLatin1(key))) << key;
+}
+
+TEST(EmfRichTextBox, takesNoMemoryForWhatCannotBeSeen)
+{
+    emfRichTextBox box;
+    box.setContainer({0, 0, 400, 300});
+    // 900 wide letters of 1638 points: two million columns.
+    box.setTextRTF("{\\rtf\\fs3276 " + std::string(900, 'W') + "}");
+    box.Draw(nullptr);
+    EXPECT_LE(box.surface().width(), 400);
+    EXPECT_LE(box.surface().height(), 300);
+    EXPECT_FALSE(box.surface().isNull());
+    box.Move(15 * 5000, 0);
+    box.Draw(nullptr);
+    EXPECT_TRUE(box.surface().isNull()) << "outside of the plot";
+}
+
+TEST(EmfRichTextBox, endsAtTheEdgesOfThePlotInFilesToo)
+{
+    emfRichTextBox box;
+    box.setContainer({0, 0, 400, 300});
+    box.setText(QStringLiteral("text"));
+    RecordingContext context;
+    box.drawEMF(context);
+    EXPECT_THAT(context.calls(), ::testing::Contains("clip 0,0 400x300"));
+}
+
+TEST(EmfRichTextBox, showsSlantedLettersWhole)
+{
+    emfRichTextBox box;
+    box.setTextRTF("{\\rtf\\i\\fs96 jf}");
+    box.Move(15 * 100, 15 * 100);
+    box.Draw(nullptr);
+    test::Picture picture;
+    box.Draw(&picture.context());
+    const QRect surface(box.surfacePosition(), box.surface().size());
+    EXPECT_TRUE(surface.contains(picture.ink()));
+}
+
+TEST(EmfRichTextBox, drawsTheSignsOfTheSymbolFaceInItsOwnFace)
+{
+    emfRichTextBox box;
+    box.setTextRTF("{\\rtf{\\fonttbl{\\f0\\fcharset2 Symbol;}}\\f0\\fs20 ab}");
+    EXPECT_THAT(drawing(box),
+                ElementsAre("text BaselineLeft 0,8 Arial 10 #000000 \xCE\xB1\xCE\xB2"));
+    EXPECT_EQ(box.Text(), QStringLiteral("\uF061\uF062")) << "the text itself stays";
+}
+
+TEST(EmfRichTextBox, keepsNoControlCharacters)
+{
+    emfRichTextBox box;
+    box.setText(QStringLiteral("a\u0001b\u2028c\u2029d"));
+    EXPECT_EQ(box.Text(), QStringLiteral("ab\r\nc\r\nd"));
+}
+
+TEST(Selection, keepsAColourForTextThatIsInserted)
+{
+    emfRichTextBox box;
+    box.setSelColor(rgb(255, 0, 0));
+    EXPECT_EQ(box.SelColor(), rgb(255, 0, 0));
+    box.setSelText(QStringLiteral("abc"));
+    EXPECT_THAT(drawing(box), ElementsAre("text BaselineLeft 0,8 Arial 10 #ff0000 abc"));
+    box.setSelColor(rgb(0, 0, 255));
+    box.setSelStart(3);
+    EXPECT_EQ(box.SelColor(), rgb(255, 0, 0)) << "the selection has moved";
+}
+
+TEST(Selection, tellsTheColourThatInsertedTextWillHave)
+{
+    emfRichTextBox box;
+    box.setTextRTF("{\\rtf1{\\colortbl ;\\red255\\green0\\blue0;}a\\cf1 b}");
+    box.setSelStart(1);
+    EXPECT_EQ(box.SelColor(), rgb(0, 0, 0));
+    box.setSelText(QStringLiteral("x"));
+    EXPECT_EQ(drawing(box)[0], "text BaselineLeft 0,8 Arial 10 #000000 ax");
 }

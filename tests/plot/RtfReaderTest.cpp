@@ -44,6 +44,15 @@ std::vector<std::string> looks(std::string_view text)
 
 // What a source is.
 
+TEST(RichTextFormat, isKnownByItsFirstWord)
+{
+    for (const char* source :
+         {"{\\rtf1 a}", "\n {\\rtf1 a}", "\xEF\xBB\xBF{\\rtf", "{\\urtf1 a}", "{{\\rtf1 a}}"})
+        EXPECT_TRUE(looksLikeRtf(source)) << source;
+    for (const char* text : {"", "text", "{text}", "a{\\rtf1}"})
+        EXPECT_FALSE(looksLikeRtf(text)) << text;
+}
+
 TEST(RtfReader, passesOverWhatStandsBeforeTheFirstBrace)
 {
     EXPECT_EQ(shown("\xEF\xBB\xBF \r\n\0 {\\rtf1 lead}"s), "lead");

@@ -21,7 +21,7 @@ int sumOf(const std::vector<int>& advances)
 /// The width that Qt gives the text that it draws.
 int drawnWidth(const QString& text)
 {
-    return QFontMetrics(screenFont(arial)).horizontalAdvance(text);
+    return QFontMetrics(screenFont(arial)).horizontalAdvance(drawableText(text));
 }
 
 } // namespace
@@ -42,12 +42,14 @@ TEST(TextMetrics, addsTheAdvancesUpToTheWidthThatIsDrawn)
     }
 }
 
-TEST(TextMetrics, goesToTheNextTabStop)
+TEST(DrawableText, hasABlankForWhatShowsNothing)
 {
-    const TextMetrics metrics;
-    const int letter = drawnWidth(QStringLiteral("H"));
-    EXPECT_THAT(metrics.advances(QStringLiteral("H\t\tH"), arial),
-                ElementsAre(letter, 80 - letter, 80, letter));
+    EXPECT_EQ(drawableText(QStringLiteral("a\tb\r\nc\u0001d\u0085e\u2028f\uFFFFg")),
+              QStringLiteral("a b  c d e f g"));
+    EXPECT_EQ(drawableText(QStringLiteral("\U0001D6FC \u03b1")),
+              QStringLiteral("\U0001D6FC \u03b1"));
+    const QString halves = QString(QChar(0xD835)) + QStringLiteral("b") + QChar(0xDEFC);
+    EXPECT_EQ(drawableText(halves), QStringLiteral("\uFFFDb\uFFFD"));
 }
 
 TEST(TextMetrics, leavesAnAccentWhereItsLetterIs)

@@ -110,5 +110,6 @@ TEST(TrspLabel, marksWhatWasSetAndRefusesAFont)
     EXPECT_FALSE(label.changedProperties().contains(QStringLiteral("AutoSize")));
     label.setAutoSize(false);
     EXPECT_TRUE(label.changedProperties().contains(QStringLiteral("AutoSize")));
-    EXPECT_EQ(test::errorNumberOf([&] { label.sethFont(1); }), ErrorNumber::SetNotSupportedAtRunTime);
+    EXPECT_EQ(test::errorNumberOf([&] { label.sethFont(1); }),
+              ErrorNumber::SetNotSupportedAtRunTime);
 }

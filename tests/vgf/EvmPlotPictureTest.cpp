@@ -111,6 +111,22 @@ TEST_F(EvmPlotPicture, drawsEmptyBoxesLikeTheOthers)
     test::expectSameInk(test::playMetafile(contents(), plot.size()), plot.Image(), 1, 1.0);
 }
 
+TEST_F(EvmPlotPicture, endsAtThePlotWhateverItsTextsHold)
+{
+    plot.Header().setText(QString(900, u'W'));
+    plot.moveBox(1, 15 * 780, 15 * 590);
+    plot.refresh();
+    EXPECT_EQ(contents().bounds, QRect(0, 0, 800, 600));
+    test::expectSameInk(test::playMetafile(contents(), plot.size()), plot.Image(), 1, 1.0);
+}
+
+TEST_F(EvmPlotPicture, showsSlantedLettersAsTheScreenDoes)
+{
+    plot.Legend().setTextRTF("{\\rtf\\i\\fs96 jf\\par}");
+    plot.moveBox(1, 15 * 300, 15 * 250);
+    EXPECT_EQ(pictureImage(plot, 1), plot.Image());
+}
+
 TEST_F(EvmPlotPicture, isWrittenUnderTheVeryNameGiven)
 {
     const test::TemporaryFolder folder;

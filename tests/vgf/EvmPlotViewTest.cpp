@@ -408,6 +408,44 @@ TEST_F(EvmPlotViewTest, copiesThePictureInEveryFormThatReportProgramsKnow)
     EXPECT_EQ(qvariant_cast<QImage>(data->imageData()).size(), QSize(1600, 1200));
 }
 
+TEST_F(EvmPlotViewTest, copiesByTheUsualKey)
+{
+    QGuiApplication::clipboard()->clear();
+    ASSERT_EQ(view.actions().size(), 1);
+    EXPECT_EQ(view.actions().first()->shortcut(), QKeySequence(QKeySequence::Copy));
+    view.actions().first()->trigger();
+    EXPECT_TRUE(QGuiApplication::clipboard()->mimeData()->hasImage());
+}
+
+TEST_F(EvmPlotViewTest, reportsAPictureThatCannotBeCopied)
+{
+    std::vector<ErrorNumber> numbers;
+    QObject::connect(&view, &EvmPlotView::failed, &view,
+                     [&](const RunTimeError& error) { numbers.push_back(error.number()); });
+    plot.setGthicks(0);
+    view.copyPicture();
+    ASSERT_FALSE(numbers.empty());
+    EXPECT_EQ(numbers.front(), ErrorNumber::DivisionByZero);
+}
+
+TEST_F(EvmPlotViewTest, takesWhatIsBeingEditedIntoAPicture)
+{
+    doubleClick(legendCentre());
+    ASSERT_NE(editor(), nullptr);
+    editor()->setPlainText(QStringLiteral("typed"));
+    plot.emfPicture();
+    EXPECT_EQ(plot.Legend().Text(), QStringLiteral("typed"));
+    EXPECT_EQ(editor(), nullptr);
+}
+
+TEST_F(EvmPlotViewTest, takesTheUppermostOfTwoBoxesAtAPlace)
+{
+    plot.setBoxText(1, QStringLiteral("legend"));
+    plot.moveBox(1, 15 * 400, 15 * 4); // in the header's row
+    drag(legendCentre(), legendCentre() + QPoint(-50, 200));
+    EXPECT_EQ(plot.Legend().geometry().topLeft(), QPoint(350, 204));
+}
+
 TEST_F(EvmPlotViewTest, reportsAFailureOnceAndNotAtEveryRepaint)
 {
     std::vector<ErrorNumber> numbers;
