@@ -2,8 +2,10 @@
 // empty window with three sub-windows. The program calls itself as either of them.
 
 #include "RatioTable.h"
-#include "app/PlotWindow.h"
+#include "app/QtUserInterface.h"
+#include "app/WndMain.h"
 #include "vgf/EvmPlotView.h"
+#include "vgf/WndEvolPlot.h"
 
 #include <QApplication>
 #include <QMainWindow>
@@ -50,11 +52,12 @@ int showEmptyWindow()
 
 int showProgram(const QString& file)
 {
-    PlotWindow window;
-    const FirstFrame frame(window.centralWidget());
-    window.open({file});
+    QtUserInterface user;
+    wndMain window(user, [](const QString&) { return false; });
+    const FirstFrame frame(window.evolPlot().viewOf(*window.evolPlot().plots().front()));
     window.resize(960, 720);
     window.show();
+    window.MDIForm_Load({file.toStdString()});
     return QApplication::exec();
 }
 

@@ -14,6 +14,7 @@ namespace tarsil {
 namespace {
 
 constexpr std::size_t markersPerCurve = 4;
+constexpr std::size_t mostCurves = 500; ///< more make no picture, and take long to draw
 constexpr qsizetype mostNames = 6; ///< more do not fit into a line
 
 /// In the order in which files take them: a long dash comes last, since dashes begin anew with
@@ -76,10 +77,9 @@ std::size_t fileCount(const SeriesList& series)
     return files.size();
 }
 
-void addCurves(EvmPlot& plot, EVM& evolution)
+void addCurves(EvmPlot& plot, EVM& evolution, std::size_t file)
 {
-    const std::int32_t lineStyle =
-        lineStyles[fileCount(plot.SeriesCollection()) % lineStyles.size()];
+    const std::int32_t lineStyle = lineStyles[file % lineStyles.size()];
     for (const auto& mode : evolution.Modes) {
         Series& series = plot.addSeries(*mode);
         series.LineStyle = lineStyle;
@@ -116,18 +116,24 @@ void fillTexts(EvmPlot& plot, const Evolutions& evolutions)
 
 } // namespace
 
-void plotEvolutions(EvmPlot& plot, const std::vector<EVM*>& evolutions)
+std::size_t plotEvolutions(EvmPlot& plot, const std::vector<EVM*>& evolutions)
 {
-    if (evolutions.empty())
-        return;
-    const bool wasEmpty = plot.SeriesCollection().empty();
-    for (EVM* evolution : evolutions)
-        addCurves(plot, *evolution);
-    if (wasEmpty) {
-        fitScales(plot);
-        fillTexts(plot, evolutions);
+    const bool isNew = plot.SeriesCollection().empty() && plot.GetScale() == EvmPlot::Scale();
+    std::size_t file = fileCount(plot.SeriesCollection());
+    Evolutions drawn;
+    for (EVM* evolution : evolutions) {
+        if (plot.SeriesCollection().size() + evolution->Modes.size() > mostCurves)
+            break;
+        addCurves(plot, *evolution, file++);
+        drawn.push_back(evolution);
     }
+    if (drawn.empty())
+        return 0;
+    if (isNew)
+        fitScales(plot);
+    fillTexts(plot, drawn);
     plot.plot();
+    return drawn.size();
 }
 
 } // namespace tarsil

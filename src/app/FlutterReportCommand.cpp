@@ -19,6 +19,7 @@ namespace tarsil {
 namespace {
 
 constexpr std::string_view module = "wndMain";
+constexpr std::string_view busy = "Calculate Flutter Speeds. Please Wait ...";
 
 /// A name in the folder that no file has yet.
 QString freeName(const QString& folder)
@@ -62,6 +63,7 @@ void FlutterReportCommand::run(const EvmPlot& plot, const QString& folder)
 void FlutterReportCommand::write(const EvmPlot& plot, double damping, double speedLimit,
                                  const QString& folder)
 {
+    const BusyStatus status(m_userInterface, busy);
     Sheet sheet;
     guarded(m_userInterface, module, [&] {
         const auto ask = [this](const EVM& evolution, std::string_view prompt) {
@@ -78,14 +80,16 @@ void FlutterReportCommand::write(const EvmPlot& plot, double damping, double spe
                                     "Tarsil", MessageIcon::None);
 }
 
-/// Offers the answer last given for the same evolution, which the status bar names.
+/// Offers the number last given for the same evolution, which the status bar names.
 std::optional<std::string> FlutterReportCommand::askMach(const EVM& evolution,
                                                          std::string_view prompt)
 {
-    const BusyStatus status(m_userInterface, evolution.FileName);
+    m_userInterface.showStatus(evolution.FileName);
     std::string& last = m_machAnswers[evolution.path()];
     const auto answer = m_userInterface.askText(std::string(prompt), last);
-    if (answer)
+    m_userInterface.showStatus(busy);
+    float mach = 0;
+    if (answer && parseSingle(*answer, mach) == NumberStatus::Ok)
         last = *answer;
     return answer;
 }

@@ -87,9 +87,9 @@ std::optional<std::string> QtUserInterface::askText(const std::string& prompt,
                                                     const std::string& initial)
 {
     bool isAnswered = false;
-    const QString text = QInputDialog::getText(m_window, QApplication::applicationDisplayName(),
-                                               QString::fromStdString(prompt), QLineEdit::Normal,
-                                               QString::fromStdString(initial), &isAnswered);
+    const QString text =
+        QInputDialog::getText(m_window, QStringLiteral("Tarsil"), QString::fromStdString(prompt),
+                              QLineEdit::Normal, QString::fromStdString(initial), &isAnswered);
     return isAnswered ? std::optional(text.toStdString()) : std::nullopt;
 }
 

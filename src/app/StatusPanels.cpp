@@ -43,7 +43,7 @@ StatusPanels::StatusPanels(QWidget* parent)
 {
     setObjectName(QStringLiteral("stBar"));
     m_text->setObjectName(QStringLiteral("stBar_Status"));
-    m_text->setAccessibleName(tr("Status"));
+    m_text->setAccessibleDescription(tr("Status"));
     m_progress->setAccessibleName(tr("Progress"));
     m_progress->setMaximumWidth(200);
     m_progress->hide();

@@ -135,7 +135,13 @@ void wndMain::load(const std::vector<std::string>& paths)
 {
     const std::vector<EVM*> loaded =
         mdlMain::loadEvolutions(m_session, paths, m_userInterface, [] {});
-    plotEvolutions(activePlot(), loaded);
+    const std::size_t drawn = plotEvolutions(activePlot(), loaded);
+    if (drawn < loaded.size())
+        m_userInterface.showMessage(
+            std::to_string(loaded.size()) + " modal evolutions are loaded. "
+                + (drawn == 0 ? "None of them is" : "The first " + std::to_string(drawn) + " are")
+                + " drawn: a plot takes no more curves at once.",
+            "Tarsil", MessageIcon::None);
 }
 
 void wndMain::AddMenu_Click()

@@ -8,7 +8,6 @@
 #include <QMainWindow>
 
 #include <memory>
-#include <span>
 #include <string>
 #include <vector>
 
@@ -56,21 +55,34 @@ protected:
 private:
     using Handler = void (wndMain::*)();
 
-    /// One item of a menu: its name, its caption, the command behind it (none yet when it is null),
-    /// and its key.
-    struct MenuItem
+    /// One command of the menu bar: the name of its item and, if it has one, of the item's twin in
+    /// the pop-up of the plot; their caption; what it does (nothing yet when it is null); its key.
+    struct Command
     {
         const char* name;
+        const char* twin;
         const char* caption;
         Handler handler = nullptr;
         const char* key = "";
     };
 
+    /// A menu of the menu bar and, if it has one, its twin in the pop-up of the plot.
+    struct CommandMenu
+    {
+        const char* name;
+        const char* caption;
+        const char* twin;
+        const char* twinCaption;
+        std::vector<Command> commands;
+    };
+
+    static std::vector<CommandMenu> commandTable();
+
     void makeChildWindows();
     void makeMenuBar();
     void makePopups();
     void makeHelpKey();
-    void fillMenu(QMenu& menu, std::span<const MenuItem> items);
+    void addCommand(QMenu& menu, const Command& command, const char* name);
     void run(Handler handler);
 
     void AddMenu_Click();

@@ -5,91 +5,95 @@
 #include <QMenu>
 #include <QMenuBar>
 
-#include <array>
-
 namespace tarsil {
+
+std::vector<wndMain::CommandMenu> wndMain::commandTable()
+{
+    return {
+        {"FileMenu",
+         "&File",
+         nullptr,
+         nullptr,
+         {{"mnuNewWorkspace", nullptr, "&New Workspace", nullptr, "Ctrl+N"},
+          {"OpenMenu", nullptr, "&Open Workspace ...", nullptr, "Ctrl+O"},
+          {"mnuSaveWorkspace", nullptr, "&Save Worspace", nullptr, "Ctrl+S"},
+          {"AddMenu", nullptr, "&Add Modal Evolution ...", &wndMain::AddMenu_Click, "Ctrl+Shift+O"},
+          {"ExportMenu", nullptr, "&Export Mix File ...", &wndMain::ExportMenu_Click},
+          {"QuitMenu", nullptr, "Quit", &wndMain::QuitMenu_Click, "Ctrl+Q"}}},
+        {"mnuView",
+         "&View",
+         nullptr,
+         nullptr,
+         {{"mnuDataControl", nullptr, "Data Control", &wndMain::mnuDataControl_Click},
+          {"mnuModalEvolExplorer", nullptr, "Modal Evolution Explorer",
+           &wndMain::mnuModalEvolExplorer_Click},
+          {"mnuVgfPlot", nullptr, "V-g-f Plot", &wndMain::mnuVgfPlot_Click}}},
+        {"mnuFormat",
+         "&Format",
+         "popFormat",
+         "Format",
+         {{"mnuSetScale", "popSetScale", "Set Scale", &wndMain::mnuSetScale_Click}}},
+        {"mnuTools",
+         "&Tools",
+         "popTools",
+         "Tools",
+         {{"mnuAddRef", "popAddRef", "Add Reference Speed ...", &wndMain::mnuAddRef_Click},
+          {"mnuClearRef", "popClearRef", "Clear Reference Speeds", &wndMain::mnuClearRef_Click},
+          {"mnuAddDamp", "popAddDamp", "Add Damping Line ...", &wndMain::mnuAddDamp_Click},
+          {"mnuClearDamp", "popClearDamp", "Clear Damping Lines", &wndMain::mnuClearDamp_Click},
+          {"mnuFlutCalc", "popFlutCalc", "Calculate Flutter Speeds", &wndMain::mnuFlutCalc_Click},
+          {"mnuOptions", nullptr, "Options ..."}}},
+        {"WindowsMenu",
+         "&Window",
+         nullptr,
+         nullptr,
+         {{"mnuDefLayout", nullptr, "Defalut Layout", &wndMain::mnuDefLayout_Click},
+          {"TileVertMenu", nullptr, "Tile Vertically", &wndMain::TileVertMenu_Click},
+          {"TileHorizMenu", nullptr, "Tile Horizontally", &wndMain::TileHorizMenu_Click}}},
+    };
+}
 
 void wndMain::makeMenuBar()
 {
-    struct Menu
-    {
-        const char* name;
-        const char* caption;
-        std::vector<MenuItem> items;
-    };
-    const std::array<Menu, 5> menus = {{
-        {"FileMenu",
-         "&File",
-         {{"mnuNewWorkspace", "&New Workspace", nullptr, "Ctrl+N"},
-          {"OpenMenu", "&Open Workspace ...", nullptr, "Ctrl+O"},
-          {"mnuSaveWorkspace", "&Save Worspace", nullptr, "Ctrl+S"},
-          {"AddMenu", "&Add Modal Evolution ...", &wndMain::AddMenu_Click, "Ctrl+Shift+O"},
-          {"ExportMenu", "&Export Mix File ...", &wndMain::ExportMenu_Click},
-          {"QuitMenu", "Quit", &wndMain::QuitMenu_Click, "Ctrl+Q"}}},
-        {"mnuView",
-         "&View",
-         {{"mnuDataControl", "Data Control", &wndMain::mnuDataControl_Click},
-          {"mnuModalEvolExplorer", "Modal Evolution Explorer",
-           &wndMain::mnuModalEvolExplorer_Click},
-          {"mnuVgfPlot", "V-g-f Plot", &wndMain::mnuVgfPlot_Click}}},
-        {"mnuFormat", "&Format", {{"mnuSetScale", "Set Scale", &wndMain::mnuSetScale_Click}}},
-        {"mnuTools",
-         "&Tools",
-         {{"mnuAddRef", "Add Reference Speed ...", &wndMain::mnuAddRef_Click},
-          {"mnuClearRef", "Clear Reference Speeds", &wndMain::mnuClearRef_Click},
-          {"mnuAddDamp", "Add Damping Line ...", &wndMain::mnuAddDamp_Click},
-          {"mnuClearDamp", "Clear Damping Lines", &wndMain::mnuClearDamp_Click},
-          {"mnuFlutCalc", "Calculate Flutter Speeds", &wndMain::mnuFlutCalc_Click},
-          {"mnuOptions", "Options ..."}}},
-        {"WindowsMenu",
-         "&Window",
-         {{"mnuDefLayout", "Defalut Layout", &wndMain::mnuDefLayout_Click},
-          {"TileVertMenu", "Tile Vertically", &wndMain::TileVertMenu_Click},
-          {"TileHorizMenu", "Tile Horizontally", &wndMain::TileHorizMenu_Click}}},
-    }};
-    for (const Menu& entry : menus) {
+    for (const CommandMenu& entry : commandTable()) {
         QMenu* const menu = menuBar()->addMenu(QString::fromLatin1(entry.caption));
         menu->setObjectName(QString::fromLatin1(entry.name));
-        fillMenu(*menu, entry.items);
+        for (const Command& command : entry.commands)
+            addCommand(*menu, command, command.name);
     }
 }
 
 void wndMain::makePopups()
 {
-    const auto popup = [this](QMenu* parent, const char* name, const char* caption,
-                              const std::vector<MenuItem>& items) {
-        QMenu* const menu = parent == nullptr ? new QMenu(QString::fromLatin1(caption), this)
-                                              : parent->addMenu(QString::fromLatin1(caption));
-        menu->setObjectName(QString::fromLatin1(name));
-        fillMenu(*menu, items);
-        return menu;
-    };
-    m_plotMenu = popup(nullptr, "popEvmPlot", "EvmPlot", {});
-    popup(m_plotMenu, "popFormat", "Format",
-          {{"popSetScale", "Set Scale", &wndMain::mnuSetScale_Click}});
-    popup(m_plotMenu, "popTools", "Tools",
-          {{"popAddRef", "Add Reference Speed ...", &wndMain::mnuAddRef_Click},
-           {"popClearRef", "Clear Reference Speeds", &wndMain::mnuClearRef_Click},
-           {"popAddDamp", "Add Damping Line ...", &wndMain::mnuAddDamp_Click},
-           {"popClearDamp", "Clear Damping Lines", &wndMain::mnuClearDamp_Click},
-           {"popFlutCalc", "Calculate Flutter Speeds", &wndMain::mnuFlutCalc_Click}});
-    m_explorerMenu = popup(
-        nullptr, "popEvolExplorer", "EvolExplorer",
-        {{"popSetRefEvol", "Set as reference"}, {"popSelMultModes", "Select multiple modes"}});
+    m_plotMenu = new QMenu(QStringLiteral("EvmPlot"), this);
+    m_plotMenu->setObjectName(QStringLiteral("popEvmPlot"));
+    for (const CommandMenu& entry : commandTable()) {
+        if (entry.twin == nullptr)
+            continue;
+        QMenu* const menu = m_plotMenu->addMenu(QString::fromLatin1(entry.twinCaption));
+        menu->setObjectName(QString::fromLatin1(entry.twin));
+        for (const Command& command : entry.commands) {
+            if (command.twin != nullptr)
+                addCommand(*menu, {command.name, nullptr, command.caption, command.handler},
+                           command.twin);
+        }
+    }
+    m_explorerMenu = new QMenu(QStringLiteral("EvolExplorer"), this);
+    m_explorerMenu->setObjectName(QStringLiteral("popEvolExplorer"));
+    addCommand(*m_explorerMenu, {"", nullptr, "Set as reference"}, "popSetRefEvol");
+    addCommand(*m_explorerMenu, {"", nullptr, "Select multiple modes"}, "popSelMultModes");
 }
 
 /// An item without a command is there, and grey.
-void wndMain::fillMenu(QMenu& menu, std::span<const MenuItem> items)
+void wndMain::addCommand(QMenu& menu, const Command& command, const char* name)
 {
-    for (const MenuItem& item : items) {
-        QAction* const action = menu.addAction(QString::fromLatin1(item.caption));
-        action->setObjectName(QString::fromLatin1(item.name));
-        action->setShortcut(QKeySequence(QString::fromLatin1(item.key)));
-        action->setEnabled(item.handler != nullptr);
-        if (item.handler != nullptr)
-            connect(action, &QAction::triggered, this,
-                    [this, handler = item.handler] { run(handler); });
-    }
+    QAction* const action = menu.addAction(QString::fromLatin1(command.caption));
+    action->setObjectName(QString::fromLatin1(name));
+    action->setShortcut(QKeySequence(QString::fromLatin1(command.key)));
+    action->setEnabled(command.handler != nullptr);
+    if (command.handler != nullptr)
+        connect(action, &QAction::triggered, this,
+                [this, handler = command.handler] { run(handler); });
 }
 
 void wndMain::makeHelpKey()

@@ -1,12 +1,11 @@
+#include "app/FileOpener.h"
+#include "app/GuardedApplication.h"
 #include "app/QtUserInterface.h"
 #include "app/WndMain.h"
 
-#include <QApplication>
 #include <QCommandLineParser>
-#include <QDesktopServices>
 #include <QIcon>
 #include <QScreen>
-#include <QUrl>
 
 namespace {
 
@@ -31,17 +30,14 @@ std::vector<std::string> filesOf(const QApplication& application)
 
 int main(int argc, char** argv)
 {
-    QApplication application(argc, argv);
+    tarsil::QtUserInterface userInterface;
+    const tarsil::GuardedApplication application(argc, argv, userInterface);
     QApplication::setApplicationName(QStringLiteral("tarsil"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Tarsil"));
     QApplication::setDesktopFileName(QStringLiteral("tarsil"));
     QApplication::setApplicationVersion(QStringLiteral(TARSIL_VERSION));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/tarsil.svg")));
     const std::vector<std::string> files = filesOf(application);
-    tarsil::QtUserInterface userInterface;
-    tarsil::wndMain window(userInterface, [](const QString& path) {
-        return QDesktopServices::openUrl(QUrl::fromLocalFile(path));
-    });
+    tarsil::wndMain window(userInterface, tarsil::openSpreadsheet);
     userInterface.attach(&window, &window.stBar());
     window.resize(QSize(1280, 800).boundedTo(window.screen()->availableSize()));
     window.show();

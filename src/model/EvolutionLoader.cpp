@@ -55,7 +55,11 @@ EVM* load(Session& session, const std::string& path, UserInterface& userInterfac
 std::vector<std::string> OpenFileDialog(UserInterface& userInterface, std::string_view filter,
                                         std::size_t filterIndex, bool several)
 {
-    return userInterface.askOpenFiles({std::string(filter), filterIndex, several, {}});
+    std::vector<std::string> files;
+    guarded(userInterface, moduleName, [&] {
+        files = userInterface.askOpenFiles({std::string(filter), filterIndex, several, {}});
+    });
+    return files;
 }
 
 std::vector<EVM*> loadEvolutions(Session& session, const std::vector<std::string>& paths,

@@ -18,7 +18,8 @@ constexpr std::string_view evolutionFilter =
 
 constexpr std::string_view openingStatus = "Open Modal Evolutions. Please Wait ...";
 
-/// Asks for files to open, with their folders; empty when the user cancels. `filterIndex` counts
+/// Asks for files to open, with their folders; empty when the user cancels, or after a failure,
+/// which is reported. `filterIndex` counts
 /// the entries of the filter from 1; `several` lets the user choose more than one file.
 std::vector<std::string> OpenFileDialog(UserInterface& userInterface, std::string_view filter,
                                         std::size_t filterIndex, bool several = false);

@@ -181,6 +181,9 @@ void MetafileContext::drawText(QPoint reference, const QString& text, const Font
     m_state.setTextColor(color);
     m_state.setTextAlignment(alignment);
     const QRect bounds = grown(box, font);
+    // Players that join texts which follow each other into paragraphs (Inkscape), with line
+    // distances of their own, keep apart what another record divides.
+    m_stream.write(EmfRecord(EmfType::MoveTo).add(point));
     m_stream.write(textRecord(point, text, m_text.advances(text, font), bounds));
     addBounds(bounds, m_clip);
 }

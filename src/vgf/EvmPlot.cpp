@@ -222,6 +222,7 @@ void EvmPlot::setCaption(const QString& caption)
 {
     m_caption = caption;
     m_changed.mark(QStringLiteral("Caption"));
+    Q_EMIT changed();
 }
 
 void EvmPlot::setVisible(bool visible)

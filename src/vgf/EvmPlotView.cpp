@@ -30,7 +30,6 @@ EvmPlotView::EvmPlotView(EvmPlot& plot, QWidget* parent)
       m_edit(m_boxMenu->addAction(tr("&Edit"))), m_move(m_boxMenu->addAction(tr("&Move")))
 {
     setObjectName(QStringLiteral("evpVgf"));
-    setAccessibleName(tr("V-g-f plot"));
     setAttribute(Qt::WA_OpaquePaintEvent); // every pixel is painted, so nothing flickers
     setMinimumSize(240, 180);
     setFocusPolicy(Qt::StrongFocus);
@@ -257,15 +256,20 @@ void EvmPlotView::finishEditing(bool keep)
 void EvmPlotView::updateDescription()
 {
     const EvmPlot::Scale scale = m_plot.GetScale();
-    setAccessibleDescription(tr("%1 curves; speed %2 to %3 KEAS, frequency %4 to %5 Hz, "
-                                "damping %6 to %7")
+    setAccessibleName(tr("V-g-f plot %1").arg(m_plot.Caption()));
+    setAccessibleDescription(tr("%1 curves; speed axis %2 from %3 to %4, frequency axis %5 from %6 "
+                                "to %7, damping axis %8 "
+                                "from %9")
                                  .arg(m_plot.SeriesCollection().size())
+                                 .arg(m_plot.vLabel())
                                  .arg(scale.vmin)
                                  .arg(scale.vmax)
+                                 .arg(m_plot.fLabel())
                                  .arg(scale.fmin)
                                  .arg(scale.fmax)
+                                 .arg(m_plot.gLabel())
                                  .arg(scale.gmin)
-                                 .arg(scale.gmax));
+                             + tr(" to %1").arg(scale.gmax));
 }
 
 } // namespace tarsil

@@ -34,7 +34,7 @@ PlotReadout::PlotReadout(EvmPlot& plot, EvmPlotView& view)
     : QObject(&view), m_plot(plot), m_view(view), m_box(new QLabel(&view))
 {
     m_box->setObjectName(QStringLiteral("plotReadout"));
-    m_box->setAccessibleName(tr("Values at the pointer"));
+    m_box->setAccessibleDescription(tr("Values at the pointer"));
     m_box->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_box->setTextFormat(Qt::PlainText); // file names are no mark-up
     m_box->setFont(QToolTip::font());

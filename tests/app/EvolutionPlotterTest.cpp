@@ -65,6 +65,28 @@ TEST_F(EvolutionPlotter, fitsTheAxesOfAnEmptyPlotOnly)
     EXPECT_EQ(plot.GetScale(), own) << "the user's scale stays";
 }
 
+TEST_F(EvolutionPlotter, leavesAScaleAloneThatTheUserSetBefore)
+{
+    EvmPlot::Scale own;
+    own.vmax = 123;
+    plot.SetScale(own);
+    plotEvolutions(plot, {one.get()});
+    EXPECT_EQ(plot.GetScale(), own);
+}
+
+TEST_F(EvolutionPlotter, drawsTheFirstOnesOfTooMany)
+{
+    std::vector<std::unique_ptr<EVM>> many;
+    std::vector<EVM*> evolutions;
+    for (int i = 0; i < 60; ++i) {
+        many.push_back(evolutionOf("many.evm", 10));
+        evolutions.push_back(many.back().get());
+    }
+    EXPECT_EQ(plotEvolutions(plot, evolutions), 50U) << "500 curves";
+    EXPECT_EQ(plot.SeriesCollection().size(), 500U);
+    EXPECT_EQ(plotEvolutions(plot, {one.get()}), 0U);
+}
+
 TEST_F(EvolutionPlotter, headsThePlotWithItsCase)
 {
     plotEvolutions(plot, {one.get()});

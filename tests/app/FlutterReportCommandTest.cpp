@@ -75,6 +75,26 @@ TEST_F(FlutterReportCommandTest, asksWritesAndOpensTheWorkbook)
     EXPECT_EQ(workbooks().size(), 1);
 }
 
+TEST_F(FlutterReportCommandTest, offersNoAnswerThatWasNoNumber)
+{
+    FlutterReportCommand command(user, [](const QString&) { return true; });
+    user.texts = {"0", "1000", "0.5", "fast"};
+    command.run(plot, documents());
+    user.texts = {"0", "1000", "", ""};
+    command.run(plot, documents());
+    EXPECT_EQ(user.initials.back(), "0.5");
+}
+
+TEST_F(FlutterReportCommandTest, saysThatItTakesTimeAndWhoseMachNumberIsAsked)
+{
+    user.texts = {"0", "1000", "0.5", "0.5"};
+    run();
+    EXPECT_THAT(user.statuses,
+                ElementsAre("Calculate Flutter Speeds. Please Wait ...", "wing.evm",
+                            "Calculate Flutter Speeds. Please Wait ...", "wing.evm",
+                            "Calculate Flutter Speeds. Please Wait ...", "Ready"));
+}
+
 TEST_F(FlutterReportCommandTest, endsWithoutAnAnswer)
 {
     run();

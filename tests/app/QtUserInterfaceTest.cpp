@@ -4,6 +4,7 @@
 #include "model/EvolutionLoader.h"
 #include "model/MdlMix.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QFileDialog>
 #include <QInputDialog>
@@ -127,6 +128,15 @@ TEST_F(QtUserInterfaceTest, showsStatusAndProgress)
     EXPECT_EQ(bar->value(), 3);
     user.showProgress(10, 10);
     EXPECT_FALSE(bar->isVisible());
+}
+
+TEST_F(QtUserInterfaceTest, letsAScreenReaderHearTheStatus)
+{
+    user.showStatus("Please Wait ...");
+    QAccessibleInterface* const heard = QAccessible::queryAccessibleInterface(
+        panels.findChild<QLabel*>(QStringLiteral("stBar_Status")));
+    ASSERT_NE(heard, nullptr);
+    EXPECT_EQ(heard->text(QAccessible::Name), QStringLiteral("Please Wait ..."));
 }
 
 TEST_F(QtUserInterfaceTest, announcesClicksOnThePanelsAndTogglesNothingByItself)

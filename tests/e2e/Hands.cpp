@@ -78,4 +78,10 @@ void Hands::type(const QString& text) const
     run({QStringLiteral("type"), text});
 }
 
+void Hands::click(QPoint place, int button) const
+{
+    run({QStringLiteral("mousemove"), QString::number(place.x()), QString::number(place.y()),
+         QStringLiteral("click"), QString::number(button)});
+}
+
 } // namespace tarsil::test

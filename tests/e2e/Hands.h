@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPoint>
 #include <QString>
 #include <QStringList>
 
@@ -10,7 +11,7 @@ namespace tarsil::test {
 /// Looks until `condition` holds; false when it does not within half a minute.
 bool waitUntil(const std::function<bool()>& condition);
 
-/// The keyboard of a person before a display: real key events to the window that has the focus.
+/// A person before a display: real key events to the window that has the focus, and a mouse.
 /// There is no window manager, so a window gets the focus by being told.
 class Hands
 {
@@ -27,6 +28,9 @@ public:
     /// Keys by their names, such as "alt+t" or "Return".
     void press(const QStringList& keys) const;
     void type(const QString& text) const;
+
+    /// A click of a button (1 left, 3 right) at a place of the screen.
+    void click(QPoint place, int button = 1) const;
 
     /// Whether a window of this title is on the screen.
     bool isShown(const QString& title) const;

@@ -53,7 +53,8 @@ TEST(MetafileClip, makesAllOtherStateBeWrittenAgain)
     EXPECT_THAT(after,
                 ElementsAre("restore -1", "save", "clip region 20,10 25,60",
                             "clip intersect 20,10 25,60", "background transparent", "select 1",
-                            "polyline16 1,2 3,4", "select 2", "color #ff0000", "align 14"));
+                            "polyline16 1,2 3,4", "select 2", "color #ff0000", "align 14",
+                            "move 5,5"));
 }
 
 TEST(MetafileClip, goesBackToTheWholeSurfaceWhenItIsCleared)

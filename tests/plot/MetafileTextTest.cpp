@@ -62,6 +62,7 @@ TEST(MetafileText, selectsFontColourAndAlignmentOnChange)
         draw(bold, rgb(0, 0, 255), TextAlignment::TopLeft);
         draw(arial, rgb(0, 0, 255), TextAlignment::BaselineLeft);
     });
+    std::erase(lines, "move 1,2");
     for (std::string& line : lines)
         line = line.starts_with("text") ? "text" : line;
     EXPECT_THAT(lines,
@@ -69,6 +70,17 @@ TEST(MetafileText, selectsFontColourAndAlignmentOnChange)
                             "color #000000", "align 0", "text", "text",
                             "font 2 -16 700 charset 1 Arial", "select 2", "text", "color #0000ff",
                             "text", "select 1", "align 24", "text"));
+}
+
+TEST(MetafileText, isDividedFromTheTextBeforeIt)
+{
+    const std::vector<std::string> lines = drawnRecords([&](DeviceContext& context) {
+        context.drawText({1, 2}, QStringLiteral(" "), arial, 0, TextAlignment::TopLeft);
+        context.drawText({1, 18}, QStringLiteral(" "), arial, 0, TextAlignment::TopLeft);
+    });
+    ASSERT_GE(lines.size(), 4U);
+    EXPECT_EQ(lines[lines.size() - 4], "move 1,2");
+    EXPECT_EQ(lines[lines.size() - 2], "move 1,18");
 }
 
 TEST(MetafileText, isWrittenWithTheAdvanceOfEachCharacter)

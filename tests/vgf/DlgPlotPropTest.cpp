@@ -195,6 +195,15 @@ TEST_F(DlgPlotProp, takesEnterForOkOnTheForm)
     EXPECT_EQ(plot.GetScale(), typedScale);
 }
 
+TEST_F(DlgPlotProp, takesEnterForOkOnTheCancelButtonToo)
+{
+    typeAll();
+    auto& cancel = partOf<QPushButton>(dialog, "CancelButton");
+    cancel.setFocus();
+    test::press(cancel, Qt::Key_Return);
+    EXPECT_EQ(plot.GetScale(), typedScale);
+}
+
 TEST_F(DlgPlotProp, reportsAnInputOnceForOneEnter)
 {
     type("inpVmin", "fast");

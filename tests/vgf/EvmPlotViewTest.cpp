@@ -464,8 +464,13 @@ TEST_F(EvmPlotViewTest, describesItselfToAScreenReader)
     EVM evolution;
     plot.addSeries(evolution.appendMode());
     plot.SetScale(0, 650, 5, 45, 0, -0.5F);
-    EXPECT_EQ(view.accessibleName(), QStringLiteral("V-g-f plot"));
-    EXPECT_EQ(view.accessibleDescription(),
-              QStringLiteral("1 curves; speed 0 to 650 KEAS, frequency 5 to 45 Hz, "
-                             "damping 0 to -0.5"));
+    EXPECT_EQ(view.accessibleName(), QStringLiteral("V-g-f plot Plot1"));
+    EXPECT_EQ(
+        view.accessibleDescription(),
+        QStringLiteral("1 curves; speed axis V(keas) from 0 to 650, frequency axis f(Hz) from 5 "
+                       "to 45, damping axis g from 0 to -0.5"));
+    plot.setCaption(QStringLiteral("Clean"));
+    plot.setVLabel(QStringLiteral("V (m/s)"));
+    EXPECT_EQ(view.accessibleName(), QStringLiteral("V-g-f plot Clean"));
+    EXPECT_TRUE(view.accessibleDescription().contains(QStringLiteral("speed axis V (m/s) from")));
 }

@@ -1,0 +1,35 @@
+#include "app/FileOpener.h"
+
+#include <QDesktopServices>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QUrl>
+
+namespace tarsil {
+
+namespace {
+
+/// Whether the desktop knows a program for spreadsheets. Where that cannot be asked, it may.
+bool mayHaveProgram()
+{
+    constexpr int patience = 3000; // milliseconds
+    const QString asker = QStandardPaths::findExecutable(QStringLiteral("xdg-mime"));
+    if (asker.isEmpty())
+        return true;
+    QProcess process;
+    process.start(asker,
+                  {QStringLiteral("query"), QStringLiteral("default"),
+                   QStringLiteral("application/"
+                                  "vnd.openxmlformats-officedocument.spreadsheetml.sheet")});
+    return !process.waitForFinished(patience)
+        || !process.readAllStandardOutput().trimmed().isEmpty();
+}
+
+} // namespace
+
+bool openSpreadsheet(const QString& path)
+{
+    return mayHaveProgram() && QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+}
+
+} // namespace tarsil

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "runtime/ErrorGuard.h"
+#include "runtime/UserInterface.h"
+
+#include <QApplication>
+
+namespace tarsil {
+
+/// The last guard: what an event's handler lets through becomes the one report, and the program
+/// goes on.
+class GuardedApplication : public QApplication
+{
+public:
+    /// `userInterface` must outlive the application's last event.
+    GuardedApplication(int& argc, char** argv, UserInterface& userInterface)
+        : QApplication(argc, argv), m_userInterface(userInterface)
+    { }
+
+    bool notify(QObject* receiver, QEvent* event) override
+    {
+        bool result = false;
+        guarded(m_userInterface, "tarsil", [&] { result = QApplication::notify(receiver, event); });
+        return result;
+    }
+
+private:
+    UserInterface& m_userInterface;
+};
+
+} // namespace tarsil
