@@ -51,23 +51,6 @@ bool hasInkNear(const QImage& image, QPoint place, int distance, const InkColor&
     return false;
 }
 
-/// The share of the strong ink of one picture that another one has too.
-double shareFound(const QImage& image, const QImage& other, int distance)
-{
-    int inked = 0;
-    int found = 0;
-    for (int row = 0; row < image.height(); ++row) {
-        for (int column = 0; column < image.width(); ++column) {
-            const InkColor ink = inkAt(image, column, row);
-            if (ink.strength() < strongInk)
-                continue;
-            ++inked;
-            found += hasInkNear(other, {column, row}, distance, ink) ? 1 : 0;
-        }
-    }
-    return inked == 0 ? 0 : double(found) / inked;
-}
-
 } // namespace
 
 QRect inkBounds(const QImage& image)
@@ -82,11 +65,28 @@ QRect inkBounds(const QImage& image)
     return bounds;
 }
 
+double inkShare(const QImage& image, const QRect& area, const QImage& other, int distance)
+{
+    const QRect rectangle = area & image.rect();
+    int inked = 0;
+    int found = 0;
+    for (int row = rectangle.top(); row <= rectangle.bottom(); ++row) {
+        for (int column = rectangle.left(); column <= rectangle.right(); ++column) {
+            const InkColor ink = inkAt(image, column, row);
+            if (ink.strength() < strongInk)
+                continue;
+            ++inked;
+            found += hasInkNear(other, {column, row}, distance, ink) ? 1 : 0;
+        }
+    }
+    return inked == 0 ? 0 : double(found) / inked;
+}
+
 void expectSameInk(const QImage& a, const QImage& b, int distance, double share)
 {
     ASSERT_EQ(a.size(), b.size());
-    EXPECT_GE(shareFound(a, b, distance), share) << "of the first picture in the second";
-    EXPECT_GE(shareFound(b, a, distance), share) << "of the second picture in the first";
+    EXPECT_GE(inkShare(a, a.rect(), b, distance), share) << "of the first picture in the second";
+    EXPECT_GE(inkShare(b, b.rect(), a, distance), share) << "of the second picture in the first";
 }
 
 } // namespace tarsil::test
