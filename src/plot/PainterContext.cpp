@@ -1,6 +1,7 @@
 #include "plot/PainterContext.h"
 
 #include "plot/GuardBand.h"
+#include "plot/QtColor.h"
 
 #include <QLineF>
 #include <QPaintEngine>
@@ -19,11 +20,6 @@ constexpr qsizetype longestPolyline = 4096;
 constexpr double narrowLine = 4;
 /// Painters are exact only so far from the surface; a line that goes farther is cut there.
 constexpr double guardBand = 16000;
-
-QColor colorOf(ColorValue color)
-{
-    return {color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF};
-}
 
 /// Lengths of dashes and gaps in pixels, measured on the platform's own pens.
 QList<qreal> dashPattern(int style)
@@ -50,7 +46,7 @@ bool isDashed(const Pen& pen)
 QPen painterPen(const Pen& pen)
 {
     const int width = std::max(pen.width, 1);
-    QPen result(colorOf(pen.color), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+    QPen result(qtColor(pen.color), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
     if (width == 1) { // caps and joins of so thin a line are not seen, but cost time
         result.setCapStyle(isDashed(pen) ? Qt::FlatCap : Qt::SquareCap);
         result.setJoinStyle(Qt::BevelJoin);
@@ -174,7 +170,7 @@ void PainterContext::drawText(QPoint reference, const QString& text, const Font&
     flush();
     const QRect box = m_text.box(reference + m_origin, text, font, alignment);
     m_painter.setFont(m_text.qtFont(font));
-    m_painter.setPen(colorOf(color));
+    m_painter.setPen(qtColor(color));
     m_painter.drawText(box.topLeft() + QPoint(0, m_text.ascent(font)), drawableText(text));
 }
 
@@ -191,7 +187,7 @@ int PainterContext::textAscent(const Font& font) const
 void PainterContext::fillRectangle(const QRect& rectangle, ColorValue color)
 {
     flush();
-    m_painter.fillRect(rectangle.translated(m_origin), colorOf(color));
+    m_painter.fillRect(rectangle.translated(m_origin), qtColor(color));
 }
 
 void PainterContext::setClip(const QRect& rectangle)

@@ -1,6 +1,7 @@
 #include "vgf/RichTextDocument.h"
 
 #include "plot/PixelMath.h"
+#include "plot/QtColor.h"
 #include "plot/RichTextEdit.h"
 
 #include <QTextBlock>
@@ -12,11 +13,6 @@ namespace tarsil {
 namespace {
 
 constexpr double pointsPerPixel = 72.0 / 96;
-
-QColor colorOf(ColorValue color)
-{
-    return {color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF};
-}
 
 double pointsOf(const QTextCharFormat& format, double otherwise)
 {
@@ -52,7 +48,7 @@ QTextCharFormat charFormatOf(const TextFormat& format)
     result.setFontUnderline(format.underline);
     result.setFontStrikeOut(format.strikeOut);
     if (format.color)
-        result.setForeground(colorOf(*format.color));
+        result.setForeground(qtColor(*format.color));
     return result;
 }
 

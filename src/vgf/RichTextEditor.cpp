@@ -1,5 +1,6 @@
 #include "vgf/RichTextEditor.h"
 
+#include "plot/QtColor.h"
 #include "vgf/RichTextDocument.h"
 
 #include <QAction>
@@ -17,11 +18,6 @@ namespace tarsil {
 namespace {
 
 constexpr int swatchSide = 14;
-
-QColor colorOf(ColorValue color)
-{
-    return {color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF};
-}
 
 QIcon swatch(const QColor& color)
 {
@@ -57,7 +53,7 @@ RichTextEditor::RichTextEditor(const RichText& text, ColorValue automaticColor, 
     layout->addWidget(m_edit);
     QPalette palette = m_edit->palette();
     palette.setColor(QPalette::Base, Qt::white); // as the plot behind it
-    palette.setColor(QPalette::Text, colorOf(automaticColor));
+    palette.setColor(QPalette::Text, qtColor(automaticColor));
     m_edit->setPalette(palette);
     m_edit->setAccessibleName(tr("Text"));
     fillDocument(*m_edit->document(), text);
@@ -157,7 +153,7 @@ void RichTextEditor::addColorButton(QToolBar& bar)
 void RichTextEditor::chooseColor()
 {
     const QBrush brush = m_edit->currentCharFormat().foreground();
-    const QColor present = brush.style() == Qt::NoBrush ? colorOf(m_automaticColor) : brush.color();
+    const QColor present = brush.style() == Qt::NoBrush ? qtColor(m_automaticColor) : brush.color();
     const QColor chosen = QColorDialog::getColor(present, this, tr("Text Colour"));
     if (!chosen.isValid())
         return;
@@ -185,7 +181,7 @@ void RichTextEditor::showFormat(const QTextCharFormat& format)
     m_italic->setChecked(look.italic);
     m_underline->setChecked(look.underline);
     m_strikeOut->setChecked(look.strikeOut);
-    m_color->setIcon(swatch(colorOf(look.color.value_or(m_automaticColor))));
+    m_color->setIcon(swatch(qtColor(look.color.value_or(m_automaticColor))));
 }
 
 /// While another program has the focus, editing waits.
