@@ -1,0 +1,44 @@
+#pragma once
+
+#include "aircraft/AirplaneInfo.h"
+#include "aircraft/AirplaneInfoReader.h"
+#include "runtime/RunTimeError.h"
+#include "runtime/TextStream.h"
+
+#include <optional>
+#include <string_view>
+
+namespace tarsil::test {
+
+/// What the reader makes of a text; "wing.inp" is its name in messages.
+inline AirplaneInfo readText(std::string_view text)
+{
+    AirplaneInfo info;
+    TextStream stream(text, "wing.inp");
+    readAirplaneInfo(stream, info);
+    return info;
+}
+
+/// The error that stops the reader, with what was read before it; no error when there is none.
+struct StoppedReading
+{
+    AirplaneInfo info;
+    std::optional<RunTimeError> error;
+
+    int number() const { return error ? static_cast<int>(error->number()) : 0; }
+    std::string description() const { return error ? error->description() : "no error"; }
+};
+
+inline StoppedReading readUntilError(std::string_view text)
+{
+    StoppedReading result;
+    TextStream stream(text, "wing.inp");
+    try {
+        readAirplaneInfo(stream, result.info);
+    } catch (const RunTimeError& error) {
+        result.error = error;
+    }
+    return result;
+}
+
+} // namespace tarsil::test
