@@ -66,6 +66,13 @@ RichTextEditor::RichTextEditor(const RichText& text, ColorValue automaticColor, 
     showFormat(m_edit->currentCharFormat());
 }
 
+/// While its parts end, the focus still changes: that is no news for an editor that is gone.
+RichTextEditor::~RichTextEditor()
+{
+    qApp->disconnect(this);
+    m_edit->disconnect(this);
+}
+
 RichText RichTextEditor::text() const
 {
     return richTextOf(*m_edit->document(), m_format);

@@ -22,6 +22,7 @@ class RichTextEditor : public QFrame
 public:
     /// `automaticColor` shows text that has no colour of its own.
     RichTextEditor(const RichText& text, ColorValue automaticColor, QWidget* parent);
+    ~RichTextEditor() override;
 
     RichText text() const;
     QTextEdit* edit() const { return m_edit; }
