@@ -2,8 +2,8 @@
 
 #include "plot/RtfOutput.h"
 #include "plot/RtfReader.h"
-#include "plot/RtfStoredValue.h"
 #include "plot/RtfWriter.h"
+#include "runtime/RtfStoredValue.h"
 
 #include <algorithm>
 #include <string>

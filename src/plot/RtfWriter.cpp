@@ -2,6 +2,7 @@
 
 #include "plot/RtfBody.h"
 #include "plot/RtfOutput.h"
+#include "runtime/RtfStoredValue.h"
 
 #include <string_view>
 
@@ -49,6 +50,14 @@ std::string writeRtf(const RichText& text, RtfForm form)
     rtf += colorTable(body);
     rtf += form == RtfForm::Full ? "\\viewkind4\\uc1\\pard" : "\\pard";
     return rtf + body.text() + "\\par\r\n}\r\n";
+}
+
+std::string rtfToStore(const RichText& text)
+{
+    std::string full = writeRtf(text, RtfForm::Full);
+    if (storedValueFromRtf(full).size() <= mostStoredBytes)
+        return full;
+    return writeRtf(text, RtfForm::Short);
 }
 
 } // namespace tarsil

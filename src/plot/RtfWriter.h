@@ -18,4 +18,8 @@ enum class RtfForm {
 /// text's `last` says is written where it is seen: in an empty text and in an empty last line.
 std::string writeRtf(const RichText& text, RtfForm form = RtfForm::Full);
 
+/// The source of a text that a workspace is to keep: the full form where its stored value keeps the
+/// limit, else the short one, which may exceed it too.
+std::string rtfToStore(const RichText& text);
+
 } // namespace tarsil

@@ -1,6 +1,6 @@
 #include "plot/RtfReader.h"
-#include "plot/RtfStoredValue.h"
 #include "plot/RtfWriter.h"
+#include "runtime/RtfStoredValue.h"
 
 #include "plot/RichTextLook.h"
 #include "support/TestFiles.h"

@@ -1,7 +1,7 @@
 #include "plot/RtfWriter.h"
 
 #include "plot/RtfReader.h"
-#include "plot/RtfStoredValue.h"
+#include "runtime/RtfStoredValue.h"
 
 #include <gtest/gtest.h>
 

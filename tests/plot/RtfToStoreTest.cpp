@@ -1,14 +1,12 @@
-#include "plot/RtfStoredValue.h"
-
 #include "plot/RtfReader.h"
 #include "plot/RtfWriter.h"
+#include "runtime/RtfStoredValue.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 
 using namespace tarsil;
-using namespace std::string_literals;
 
 namespace {
 
@@ -27,23 +25,7 @@ std::size_t storedSize(const std::string& rtf)
 
 } // namespace
 
-TEST(RtfStoredValue, keepsEveryLineEndAsANul)
-{
-    const std::string rtf = "{\\rtf1 a\\par\r\n\\par\r\n}\r\n";
-    const std::string value = "{\\rtf1 a\\par\0\\par\0}\0"s;
-    EXPECT_EQ(storedValueFromRtf(rtf), value);
-    EXPECT_EQ(rtfFromStoredValue(value), rtf);
-    EXPECT_EQ(storedValueFromRtf(""), "");
-    EXPECT_EQ(rtfFromStoredValue("\0\0"s), "\r\n\r\n");
-}
-
-TEST(RtfStoredValue, leavesLoneLineEndsAloneAndTakesANulOfTheSourceForABlank)
-{
-    EXPECT_EQ(storedValueFromRtf("a\rb\nc\r\r\nd\n\r"), "a\rb\nc\r\0d\n\r"s);
-    EXPECT_EQ(storedValueFromRtf("a\0b"s), "a b");
-}
-
-TEST(RtfStoredValue, comesBackFromItsValue)
+TEST(RtfToStore, comesBackFromItsValue)
 {
     RichText text = lineOf(3);
     text.runs.push_back({u"\n\n\u03A9", {.family = "Symbol", .bold = true}});
@@ -51,7 +33,7 @@ TEST(RtfStoredValue, comesBackFromItsValue)
     EXPECT_EQ(rtfFromStoredValue(storedValueFromRtf(rtf)), rtf);
 }
 
-TEST(RtfStoredValue, storesTheFullFormAsLongAsItFits)
+TEST(RtfToStore, storesTheFullFormAsLongAsItFits)
 {
     const std::size_t rest = mostStoredBytes - storedSize(writeRtf(lineOf(1)));
     const RichText longest = lineOf(1 + rest);
@@ -64,13 +46,13 @@ TEST(RtfStoredValue, storesTheFullFormAsLongAsItFits)
     EXPECT_EQ(storedSize(rtfToStore(longer)), mostStoredBytes + 1 - 19);
 }
 
-TEST(RtfStoredValue, storesTheShortFormWhereEvenThatIsTooLong)
+TEST(RtfToStore, storesTheShortFormWhereEvenThatIsTooLong)
 {
     const RichText text = lineOf(2000);
     EXPECT_EQ(rtfToStore(text), writeRtf(text, RtfForm::Short));
 }
 
-TEST(RtfStoredValue, losesOnlyItsEndWhereItIsCut)
+TEST(RtfToStore, losesOnlyItsEndWhereItIsCut)
 {
     const std::string value =
         storedValueFromRtf(rtfToStore(lineOf(2000))).substr(0, mostStoredBytes);

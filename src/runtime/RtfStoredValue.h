@@ -1,7 +1,5 @@
 #pragma once
 
-#include "plot/RichText.h"
-
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -19,9 +17,5 @@ std::string rtfFromStoredValue(std::string_view value);
 
 /// The value of a source. A NUL of the source itself, which is a blank there, becomes one here.
 std::string storedValueFromRtf(std::string_view rtf);
-
-/// The source to store for a text: the full form where its value keeps the limit, else the short
-/// one, which may exceed it too.
-std::string rtfToStore(const RichText& text);
 
 } // namespace tarsil

@@ -1,6 +1,4 @@
-#include "plot/RtfStoredValue.h"
-
-#include "plot/RtfWriter.h"
+#include "runtime/RtfStoredValue.h"
 
 namespace tarsil {
 
@@ -34,14 +32,6 @@ std::string storedValueFromRtf(std::string_view rtf)
         }
     }
     return value;
-}
-
-std::string rtfToStore(const RichText& text)
-{
-    std::string full = writeRtf(text, RtfForm::Full);
-    if (storedValueFromRtf(full).size() <= mostStoredBytes)
-        return full;
-    return writeRtf(text, RtfForm::Short);
 }
 
 } // namespace tarsil

@@ -1,0 +1,65 @@
+#include "FuzzTarget.h"
+
+#include "runtime/RunTimeError.h"
+#include "workspace/WorkspaceReader.h"
+#include "workspace/WorkspaceWriter.h"
+
+#include <string>
+#include <vector>
+
+namespace {
+
+using namespace tarsil;
+
+/// Whatever a file counts, its record must not take more memory than its bytes are worth.
+void requireProportion(const WorkspaceRecord& record, std::size_t bytes)
+{
+    fuzz::require(record.files.capacity() <= bytes, "files in proportion to the file");
+    fuzz::require(record.plots.capacity() <= bytes + 1, "plots in proportion to the file");
+    for (const PlotRecord& plot : record.plots)
+        fuzz::require(plot.series.capacity() <= bytes, "series in proportion to the file");
+}
+
+/// All but the texts, in which line breaks may have become blanks.
+void requireSameCurves(std::vector<SeriesRecord> series, const std::vector<SeriesRecord>& others)
+{
+    fuzz::require(series.size() == others.size(), "series come back");
+    for (std::size_t i = 0; i < series.size(); ++i) {
+        series[i].markerTag = others[i].markerTag;
+        series[i].legendText = others[i].legendText;
+    }
+    fuzz::require(series == others, "numbers of series come back");
+}
+
+/// What is written can be read, says the same, and is written in the same bytes again.
+void requireFixedPoint(const WorkspaceRecord& record)
+{
+    const WrittenWorkspace first = writeWorkspace(record, "fuzz");
+    // A value of Windows-1252 can become longer than its limit in UTF-8, and is then cut.
+    if (!first.longValues.empty())
+        return;
+    WorkspaceRecord again;
+    readWorkspace(first.bytes, "again", again);
+    const WrittenWorkspace second = writeWorkspace(again, "fuzz");
+    fuzz::require(second.bytes == first.bytes, "what is read again is written as it was");
+    fuzz::require(again.files.size() == record.files.size(), "files come back");
+    fuzz::require(again.plots.size() == record.plots.size(), "plots come back");
+    for (std::size_t j = 0; j < record.plots.size(); ++j)
+        requireSameCurves(again.plots[j].series, record.plots[j].series);
+}
+
+} // namespace
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    const std::string_view bytes = fuzz::textOf(data, size);
+    WorkspaceRecord record;
+    try {
+        readWorkspace(bytes, "fuzz", record);
+    } catch (const RunTimeError& error) {
+        fuzz::require(!error.description().empty(), "an error says what is wrong");
+    }
+    requireProportion(record, size);
+    requireFixedPoint(record);
+    return 0;
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+namespace tarsil {
+
+/// A text of bracketed section lines and lines "key=value", read by section and key in any order.
+///
+/// Names compare without case. The first of two equal keys of a section wins, and a section that
+/// comes again goes on where it ended. Blanks around a name and a value do not belong to it, nor
+/// does one pair of double quotes around the whole value. A NUL is a character like any other.
+/// Lines that are neither section nor key are passed over, and so is what nobody asks for.
+class IniText
+{
+public:
+    /// The bytes must outlive the object. Its size is in proportion to them.
+    explicit IniText(std::string_view bytes);
+
+    /// The first `mostStoredBytes` of a value; nothing when the key is absent.
+    std::optional<std::string_view> bytes(std::string_view section, std::string_view key) const;
+
+    /// The same decoded: UTF-8 when the bytes of the value are UTF-8, else Windows-1252. No
+    /// character of a UTF-8 value is cut in two.
+    std::optional<std::string> text(std::string_view section, std::string_view key) const;
+
+private:
+    using Section = std::unordered_map<std::string, std::string_view>;
+
+    void addLine(std::string_view line, Section*& current);
+    std::optional<std::string_view> wholeValue(std::string_view section,
+                                               std::string_view key) const;
+
+    std::unordered_map<std::string, Section> m_sections; ///< by names in small letters
+};
+
+} // namespace tarsil

@@ -1,0 +1,72 @@
+#include "workspace/ValueFields.h"
+
+#include "runtime/Numbers.h"
+#include "runtime/QuotedText.h"
+#include "runtime/RunTimeError.h"
+
+#include <cmath>
+#include <limits>
+
+namespace tarsil {
+
+namespace {
+
+std::vector<std::string> fieldsOf(std::string_view value)
+{
+    std::vector<std::string> fields;
+    for (;;) {
+        const std::size_t end = value.find('\0');
+        fields.emplace_back(value.substr(0, end));
+        if (end == std::string_view::npos)
+            return fields;
+        value.remove_prefix(end + 1);
+    }
+}
+
+} // namespace
+
+ValueFields::ValueFields(std::string_view value, std::size_t least, std::string place)
+    : m_fields(fieldsOf(value)), m_place(std::move(place))
+{
+    if (m_fields.size() >= least)
+        return;
+    throw RunTimeError(ErrorNumber::SubscriptOutOfRange, std::string(workspaceModule),
+                       m_place + " needs " + std::to_string(least) + " fields and has "
+                           + std::to_string(m_fields.size()) + ": " + quotedText(value));
+}
+
+std::int16_t ValueFields::integer16(std::size_t index, std::string_view content) const
+{
+    std::int16_t value = 0;
+    const NumberStatus status = parseInteger16(text(index), value);
+    if (status != NumberStatus::Ok)
+        throwNumberError(status, text(index), workspaceModule, where(index, content));
+    return value;
+}
+
+std::int32_t ValueFields::integer32(std::size_t index, std::string_view content) const
+{
+    const double rounded = std::nearbyint(number(index, content));
+    if (rounded < std::numeric_limits<std::int32_t>::min()
+        || rounded > std::numeric_limits<std::int32_t>::max())
+        throwNumberError(NumberStatus::Overflow, text(index), workspaceModule,
+                         where(index, content));
+    return static_cast<std::int32_t>(rounded);
+}
+
+float ValueFields::single(std::size_t index, std::string_view content) const
+{
+    return toSingle(text(index), workspaceModule, where(index, content));
+}
+
+double ValueFields::number(std::size_t index, std::string_view content) const
+{
+    return toDouble(text(index), workspaceModule, where(index, content));
+}
+
+std::string ValueFields::where(std::size_t index, std::string_view content) const
+{
+    return m_place + ", field " + std::to_string(index) + " (" + std::string(content) + ")";
+}
+
+} // namespace tarsil

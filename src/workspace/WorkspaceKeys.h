@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+/// The names of the sections and keys of a workspace, as reader and writer share them.
+namespace tarsil::workspacekeys {
+
+inline constexpr std::string_view general = "GENERAL INFORMATION";
+inline constexpr std::string_view userName = "Username";
+inline constexpr std::string_view version = "tsw_Version";
+inline constexpr std::string_view description = "Analysis_Description";
+inline constexpr std::string_view dateCreated = "Date_Created";
+inline constexpr std::string_view dateModified = "Date_Modified";
+
+inline constexpr std::string_view evolutionFiles = "MODAL EVOLUTION FILES";
+inline constexpr std::string_view fileCount = "NoOfFiles";
+inline constexpr std::string_view file = "File";
+
+inline constexpr std::string_view plots = "PLOTS";
+inline constexpr std::string_view plotCount = "NoOfPlots";
+
+inline constexpr std::string_view caption = "Caption";
+inline constexpr std::string_view header = "Header";
+inline constexpr std::string_view headerPosition = "HeadPos";
+inline constexpr std::string_view mechanism = "Mechanism";
+inline constexpr std::string_view mechanismPosition = "MechPos";
+inline constexpr std::string_view legend = "Legend";
+inline constexpr std::string_view legendPosition = "LegPos";
+inline constexpr std::string_view velAxis = "velAxis";
+inline constexpr std::string_view freqAxis = "freqAxis";
+inline constexpr std::string_view gAxis = "gAxis";
+inline constexpr std::string_view seriesCount = "NoOfSeries";
+inline constexpr std::string_view series = "Serie";
+
+inline constexpr std::string_view endOfFile = "END OF FILE";
+
+/// What stands for a value of a plot that is not there.
+inline constexpr std::string_view absent = "Empty";
+
+/// "PLOT1" and so on.
+std::string plotSection(std::size_t number);
+
+/// The key of one of several values, counted from 1: "File(1)".
+std::string numbered(std::string_view key, std::size_t number);
+
+} // namespace tarsil::workspacekeys

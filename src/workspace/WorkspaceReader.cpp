@@ -1,0 +1,162 @@
+#include "workspace/WorkspaceReader.h"
+
+#include "runtime/RtfStoredValue.h"
+#include "runtime/RunTimeError.h"
+#include "workspace/IniText.h"
+#include "workspace/ValueFields.h"
+#include "workspace/WorkspaceKeys.h"
+
+#include <cstddef>
+#include <optional>
+#include <utility>
+
+namespace tarsil {
+
+namespace {
+
+namespace keys = workspacekeys;
+
+/// What stands for a general value or a count that is not there.
+constexpr std::string_view threeBlanks = "   ";
+
+/// Reads one file into one record.
+class WorkspaceReader
+{
+public:
+    WorkspaceReader(std::string_view bytes, const std::string& name, WorkspaceRecord& record)
+        : m_ini(bytes), m_name(name), m_record(record)
+    { }
+
+    void read();
+
+private:
+    std::string place(std::string_view section, std::string_view key) const;
+    std::string text(std::string_view section, std::string_view key,
+                     std::string_view otherwise) const;
+    int count(std::string_view section, std::string_view key) const;
+
+    void readFiles();
+    void readPlot(const std::string& section, PlotRecord& plot) const;
+    TextRecord box(std::string_view section, std::string_view textKey,
+                   std::string_view positionKey) const;
+    AxisRecord axis(std::string_view section, std::string_view key) const;
+    SeriesRecord series(std::string_view section, std::string_view key) const;
+
+    IniText m_ini;
+    const std::string& m_name;
+    WorkspaceRecord& m_record;
+};
+
+void WorkspaceReader::read()
+{
+    m_record.description = text(keys::general, keys::description, threeBlanks);
+    m_record.dateCreated = text(keys::general, keys::dateCreated, threeBlanks);
+    m_record.dateModified = text(keys::general, keys::dateModified, threeBlanks);
+    readFiles();
+    const int plots = count(keys::plots, keys::plotCount);
+    for (int j = 1; j <= plots; ++j) {
+        PlotRecord& plot = m_record.plots.emplace_back();
+        readPlot(keys::plotSection(static_cast<std::size_t>(j)), plot);
+    }
+}
+
+std::string WorkspaceReader::place(std::string_view section, std::string_view key) const
+{
+    return m_name + ", [" + std::string(section) + "], " + std::string(key);
+}
+
+/// A text in one piece, in which NUL stands for a line break just as in rich texts.
+std::string WorkspaceReader::text(std::string_view section, std::string_view key,
+                                  std::string_view otherwise) const
+{
+    return rtfFromStoredValue(m_ini.text(section, key).value_or(std::string(otherwise)));
+}
+
+int WorkspaceReader::count(std::string_view section, std::string_view key) const
+{
+    const std::string_view value = m_ini.bytes(section, key).value_or(threeBlanks);
+    return ValueFields(value, 1, place(section, key)).integer16(0, "count");
+}
+
+void WorkspaceReader::readFiles()
+{
+    const int files = count(keys::evolutionFiles, keys::fileCount);
+    for (int i = 1; i <= files; ++i) {
+        const std::string key = keys::numbered(keys::file, static_cast<std::size_t>(i));
+        if (!m_ini.bytes(keys::evolutionFiles, key)) {
+            throw RunTimeError(ErrorNumber::SubscriptOutOfRange, std::string(workspaceModule),
+                               place(keys::evolutionFiles, key) + " is missing, but "
+                                   + std::string(keys::fileCount) + " is " + std::to_string(files));
+        }
+        m_record.files.push_back(text(keys::evolutionFiles, key, {}));
+    }
+}
+
+void WorkspaceReader::readPlot(const std::string& section, PlotRecord& plot) const
+{
+    plot.caption = text(section, keys::caption, keys::absent);
+    plot.header = box(section, keys::header, keys::headerPosition);
+    plot.mechanism = box(section, keys::mechanism, keys::mechanismPosition);
+    plot.legend = box(section, keys::legend, keys::legendPosition);
+    // The three ranges belong together: none is taken when one is damaged.
+    AxisRecord velAxis = axis(section, keys::velAxis);
+    AxisRecord freqAxis = axis(section, keys::freqAxis);
+    plot.gAxis = axis(section, keys::gAxis);
+    plot.velAxis = std::move(velAxis);
+    plot.freqAxis = std::move(freqAxis);
+    const int seriesCount = count(section, keys::seriesCount);
+    for (int i = 1; i <= seriesCount; ++i) {
+        const std::string key = keys::numbered(keys::series, static_cast<std::size_t>(i));
+        plot.series.push_back(series(section, key));
+    }
+}
+
+TextRecord WorkspaceReader::box(std::string_view section, std::string_view textKey,
+                                std::string_view positionKey) const
+{
+    TextRecord record;
+    const std::string_view rtf = m_ini.bytes(section, textKey).value_or(keys::absent);
+    if (rtf != keys::absent)
+        record.rtf = rtfFromStoredValue(rtf);
+    const std::string_view position = m_ini.bytes(section, positionKey).value_or(keys::absent);
+    if (position != keys::absent) {
+        const ValueFields fields(position, 2, place(section, positionKey));
+        record.position = {fields.number(0, "left"), fields.number(1, "top")};
+    }
+    return record;
+}
+
+AxisRecord WorkspaceReader::axis(std::string_view section, std::string_view key) const
+{
+    const std::string value = m_ini.text(section, key).value_or(std::string(keys::absent));
+    const ValueFields fields(value, 4, place(section, key));
+    return {fields.text(0), fields.single(1, "minimum"), fields.single(2, "maximum"),
+            fields.integer16(3, "tick count")};
+}
+
+SeriesRecord WorkspaceReader::series(std::string_view section, std::string_view key) const
+{
+    const std::string value = m_ini.text(section, key).value_or(std::string(keys::absent));
+    const ValueFields fields(value, 9, place(section, key));
+    SeriesRecord record;
+    record.evolution = fields.integer16(0, "evolution");
+    record.mode = fields.integer16(1, "mode");
+    record.markerTag = fields.text(2);
+    record.markerSize = fields.integer32(3, "marker size");
+    record.markerSpacing = fields.integer32(4, "marker spacing");
+    record.markerStyle = fields.integer32(5, "marker style");
+    record.legendText = fields.text(6);
+    record.colorIndex = fields.integer32(7, "colour");
+    record.markerForegroundColor = fields.integer32(8, "marker colour");
+    return record;
+}
+
+} // namespace
+
+void readWorkspace(std::string_view bytes, const std::string& name, WorkspaceRecord& record)
+{
+    record = {};
+    WorkspaceReader(bytes, name, record).read();
+}
+
+} // namespace tarsil

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "workspace/WorkspaceRecord.h"
+
+#include <string>
+#include <string_view>
+
+namespace tarsil {
+
+/// Turns the bytes of a workspace file into a record; `name` is what errors call the file. Values
+/// are found by section and key alone, whatever the order; the user and the version are not read.
+///
+/// An error (a count or number that is none, a list shorter than its count, an axis or series with
+/// too few fields) names file, section, key and the text found. `record` then holds what stood
+/// before it: the last plot lacks what had not been read yet. A count never says how much memory is
+/// taken. That a series names an evolution or mode that does not exist is for the caller to find.
+void readWorkspace(std::string_view bytes, const std::string& name, WorkspaceRecord& record);
+
+} // namespace tarsil

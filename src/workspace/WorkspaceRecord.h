@@ -1,0 +1,84 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tarsil {
+
+// What a workspace file holds, as plain values: the record is filled by `readWorkspace`, written by
+// `writeWorkspace`, and knows nothing of the plots and evolutions that it speaks of. Texts are
+// UTF-8, with CR LF for a line break; colours are 32-bit RGB, red in the low byte.
+
+/// Where a text box stands in its plot, in twentieths of a point.
+struct BoxPosition
+{
+    double left = 0;
+    double top = 0;
+
+    bool operator==(const BoxPosition&) const = default;
+};
+
+/// A text box of a plot. What is absent leaves the box as it is.
+struct TextRecord
+{
+    std::optional<std::string> rtf; ///< the source: bytes, with its CR LF
+    std::optional<BoxPosition> position;
+
+    bool operator==(const TextRecord&) const = default;
+};
+
+struct AxisRecord
+{
+    std::string label;
+    float min = 0; ///< knots, Hz or no dimension
+    float max = 0;
+    std::int16_t ticks = 0;
+
+    bool operator==(const AxisRecord&) const = default;
+};
+
+/// A curve of a plot. It names its mode by two numbers, which may name nothing that is there.
+struct SeriesRecord
+{
+    std::int16_t evolution = 0; ///< from 1: the place in the list of files as it was saved
+    std::int16_t mode = 0; ///< from 1: the mode in that evolution
+    std::string markerTag;
+    std::int32_t markerSize = 0; ///< points
+    std::int32_t markerSpacing = 0;
+    std::int32_t markerStyle = 0;
+    std::string legendText;
+    std::int32_t colorIndex = 0; ///< the colour of the curve itself
+    std::int32_t markerForegroundColor = 0;
+
+    bool operator==(const SeriesRecord&) const = default;
+};
+
+/// A plot; until something is read it has the axes of a new one.
+struct PlotRecord
+{
+    std::string caption;
+    TextRecord header;
+    TextRecord mechanism;
+    TextRecord legend;
+    AxisRecord velAxis {"V(keas)", 0, 700, 7};
+    AxisRecord freqAxis {"f(Hz)", 0, 50, 5};
+    AxisRecord gAxis {"g", 0, -0.25F, 5};
+    std::vector<SeriesRecord> series;
+
+    bool operator==(const PlotRecord&) const = default;
+};
+
+struct WorkspaceRecord
+{
+    std::string description;
+    std::string dateCreated; ///< as it stands in the file
+    std::string dateModified;
+    std::vector<std::string> files; ///< full paths, in the order of the list of evolutions
+    std::vector<PlotRecord> plots;
+
+    bool operator==(const WorkspaceRecord&) const = default;
+};
+
+} // namespace tarsil

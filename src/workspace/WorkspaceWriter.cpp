@@ -1,0 +1,232 @@
+#include "workspace/WorkspaceWriter.h"
+
+#include "runtime/Numbers.h"
+#include "runtime/RtfStoredValue.h"
+#include "runtime/RunTimeError.h"
+#include "runtime/TextCodec.h"
+#include "workspace/ValueFields.h"
+#include "workspace/WorkspaceKeys.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <initializer_list>
+#include <limits>
+#include <utility>
+
+namespace tarsil {
+
+namespace {
+
+namespace keys = workspacekeys;
+
+enum class Encoding { Windows1252, Utf8 };
+
+/// Every break alike, so that a value stays one line: the stored form of CR LF, and its single
+/// characters, which mean nothing else.
+std::string oneLine(std::string_view text)
+{
+    std::string value = storedValueFromRtf(text);
+    std::replace_if(
+        value.begin(), value.end(), [](char c) { return c == '\r' || c == '\n'; }, '\0');
+    return value;
+}
+
+bool isBlank(char c)
+{
+    return c == ' ' || c == '\t';
+}
+
+/// Whether a reader would take something off the ends.
+bool needsQuotes(std::string_view value)
+{
+    if (value.empty())
+        return false;
+    const bool isQuoted = value.size() >= 2 && value.front() == '"' && value.back() == '"';
+    return isQuoted || isBlank(value.front()) || isBlank(value.back());
+}
+
+bool isAscii(std::string_view text)
+{
+    return std::all_of(text.begin(), text.end(),
+                       [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+/// The fields of a value, one after the other.
+std::string joined(std::initializer_list<std::string> fields)
+{
+    std::string value;
+    for (const std::string& field : fields) {
+        if (&field != fields.begin())
+            value += '\0';
+        value += field;
+    }
+    return value;
+}
+
+/// Writes one record once, in the given encoding.
+class WorkspaceWriter
+{
+public:
+    explicit WorkspaceWriter(Encoding encoding) : m_encoding(encoding) { }
+
+    void write(const WorkspaceRecord& record, std::string_view userName);
+
+    /// Whether a text has come that could not be Windows-1252.
+    bool needsUtf8() const { return m_needsUtf8; }
+    WrittenWorkspace result() { return std::move(m_result); }
+
+private:
+    void begin(std::string_view section);
+    void add(std::string_view key, std::string_view value);
+    void addText(std::string_view key, std::string_view text) { add(key, encoded(oneLine(text))); }
+    void addCount(std::string_view key, std::size_t count);
+    void addPlot(const PlotRecord& plot);
+    void addRichText(std::string_view key, const TextRecord& box);
+    void addPosition(std::string_view key, const TextRecord& box);
+    void addAxis(std::string_view key, const AxisRecord& axis);
+    void addSeries(std::string_view key, const SeriesRecord& series);
+
+    std::string encoded(const std::string& text);
+    std::string field(std::string_view text);
+    template <typename Number>
+    std::string number(std::string_view key, Number value) const;
+
+    Encoding m_encoding;
+    bool m_needsUtf8 = false;
+    std::string m_section;
+    WrittenWorkspace m_result;
+};
+
+void WorkspaceWriter::write(const WorkspaceRecord& record, std::string_view userName)
+{
+    begin(keys::general);
+    addText(keys::userName, userName.substr(0, userName.find('\0')));
+    add(keys::version, "1.1.0");
+    addText(keys::description, record.description);
+    addText(keys::dateCreated, record.dateCreated);
+    addText(keys::dateModified, record.dateModified);
+    begin(keys::evolutionFiles);
+    addCount(keys::fileCount, record.files.size());
+    for (std::size_t i = 0; i < record.files.size(); ++i)
+        addText(keys::numbered(keys::file, i + 1), record.files[i]);
+    begin(keys::plots);
+    addCount(keys::plotCount, record.plots.size());
+    for (std::size_t j = 0; j < record.plots.size(); ++j) {
+        begin(keys::plotSection(j + 1));
+        addPlot(record.plots[j]);
+    }
+    begin(keys::endOfFile);
+}
+
+void WorkspaceWriter::begin(std::string_view section)
+{
+    m_section = section;
+    m_result.bytes.append("[").append(section).append("]\r\n");
+}
+
+void WorkspaceWriter::add(std::string_view key, std::string_view value)
+{
+    if (value.size() > mostStoredBytes)
+        m_result.longValues.push_back({m_section, std::string(key), value.size()});
+    const std::string_view quote = needsQuotes(value) ? "\"" : "";
+    m_result.bytes.append(key).append("=");
+    m_result.bytes.append(quote).append(value).append(quote).append("\r\n");
+}
+
+void WorkspaceWriter::addCount(std::string_view key, std::size_t count)
+{
+    if (std::cmp_greater(count, std::numeric_limits<std::int16_t>::max()))
+        throwNumberError(NumberStatus::Overflow, std::to_string(count), workspaceModule,
+                         "[" + m_section + "], " + std::string(key));
+    add(key, std::to_string(count));
+}
+
+void WorkspaceWriter::addPlot(const PlotRecord& plot)
+{
+    addText(keys::caption, plot.caption);
+    addRichText(keys::header, plot.header);
+    addPosition(keys::headerPosition, plot.header);
+    addRichText(keys::mechanism, plot.mechanism);
+    addPosition(keys::mechanismPosition, plot.mechanism);
+    addRichText(keys::legend, plot.legend);
+    addPosition(keys::legendPosition, plot.legend);
+    addAxis(keys::velAxis, plot.velAxis);
+    addAxis(keys::freqAxis, plot.freqAxis);
+    addAxis(keys::gAxis, plot.gAxis);
+    addCount(keys::seriesCount, plot.series.size());
+    for (std::size_t i = 0; i < plot.series.size(); ++i)
+        addSeries(keys::numbered(keys::series, i + 1), plot.series[i]);
+}
+
+void WorkspaceWriter::addRichText(std::string_view key, const TextRecord& box)
+{
+    add(key, box.rtf ? oneLine(*box.rtf) : std::string(keys::absent));
+}
+
+void WorkspaceWriter::addPosition(std::string_view key, const TextRecord& box)
+{
+    if (box.position)
+        add(key, joined({number(key, box.position->left), number(key, box.position->top)}));
+    else
+        add(key, keys::absent);
+}
+
+void WorkspaceWriter::addAxis(std::string_view key, const AxisRecord& axis)
+{
+    add(key,
+        joined({field(axis.label), number(key, axis.min), number(key, axis.max),
+                std::to_string(axis.ticks)}));
+}
+
+void WorkspaceWriter::addSeries(std::string_view key, const SeriesRecord& series)
+{
+    add(key,
+        joined({std::to_string(series.evolution), std::to_string(series.mode),
+                field(series.markerTag), std::to_string(series.markerSize),
+                std::to_string(series.markerSpacing), std::to_string(series.markerStyle),
+                field(series.legendText), std::to_string(series.colorIndex),
+                std::to_string(series.markerForegroundColor)}));
+}
+
+std::string WorkspaceWriter::encoded(const std::string& text)
+{
+    if (m_encoding == Encoding::Utf8 || isAscii(text))
+        return text;
+    std::string bytes = encodeText(text);
+    m_needsUtf8 = m_needsUtf8 || bytes == text;
+    return bytes;
+}
+
+/// A text that is one field of several.
+std::string WorkspaceWriter::field(std::string_view text)
+{
+    std::string value = oneLine(text);
+    std::replace(value.begin(), value.end(), '\0', ' ');
+    return encoded(value);
+}
+
+template <typename Number>
+std::string WorkspaceWriter::number(std::string_view key, Number value) const
+{
+    if (!std::isfinite(value))
+        throwNumberError(NumberStatus::Overflow, shortestText(value), workspaceModule,
+                         "[" + m_section + "], " + std::string(key));
+    return shortestText(value);
+}
+
+} // namespace
+
+WrittenWorkspace writeWorkspace(const WorkspaceRecord& record, std::string_view userName)
+{
+    WorkspaceWriter writer(Encoding::Windows1252);
+    writer.write(record, userName);
+    if (!writer.needsUtf8())
+        return writer.result();
+    // Texts of two encodings in one file would confuse whoever looks at it.
+    WorkspaceWriter unicode(Encoding::Utf8);
+    unicode.write(record, userName);
+    return unicode.result();
+}
+
+} // namespace tarsil

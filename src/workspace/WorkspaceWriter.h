@@ -1,0 +1,39 @@
+#pragma once
+
+#include "workspace/WorkspaceRecord.h"
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarsil {
+
+/// A value that is written whole, but is too long to be read whole.
+struct LongValue
+{
+    std::string section;
+    std::string key;
+    std::size_t bytes = 0;
+
+    bool operator==(const LongValue&) const = default;
+};
+
+struct WrittenWorkspace
+{
+    std::string bytes;
+    std::vector<LongValue> longValues; ///< in the order of the file
+};
+
+/// Turns a record into the bytes of a workspace file saved by that user (his name ends at its first
+/// NUL). The texts are Windows-1252 when all of them fit there, else all UTF-8; rich texts are the
+/// bytes that they are.
+///
+/// A line break within a value is a NUL, whatever its kind; the texts of an axis and a series,
+/// whose fields NULs separate, have a blank there. A value that would lose blanks or quotes at its
+/// ends when it is read stands in quotes. What is absent is written "Empty".
+///
+/// Error 6 "Overflow" for a number that is not finite or more than 32767 files, plots or series.
+WrittenWorkspace writeWorkspace(const WorkspaceRecord& record, std::string_view userName);
+
+} // namespace tarsil
