@@ -86,7 +86,7 @@ std::optional<std::string> FlutterReportCommand::askMach(const EVM& evolution,
 {
     m_userInterface.showStatus(evolution.FileName);
     std::string& last = m_machAnswers[evolution.path()];
-    const auto answer = m_userInterface.askText(std::string(prompt), last);
+    auto answer = m_userInterface.askText(std::string(prompt), last);
     m_userInterface.showStatus(busy);
     float mach = 0;
     if (answer && parseSingle(*answer, mach) == NumberStatus::Ok)

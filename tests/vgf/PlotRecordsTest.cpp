@@ -1,0 +1,126 @@
+#include "vgf/PlotRecords.h"
+
+#include "analysis/ModeBuilder.h"
+#include "plot/ErrorNumberOf.h"
+#include "vgf/EvmPlot.h"
+#include "workspace/WorkspaceReader.h"
+#include "workspace/WorkspaceWriter.h"
+
+#include <gtest/gtest.h>
+
+using namespace tarsil;
+using test::addMode;
+
+namespace {
+
+class PlotRecords : public ::testing::Test
+{
+protected:
+    PlotRecords()
+    {
+        for (EVM* evolution : {&one, &two}) {
+            addMode(*evolution, 11, {{100, -1, 1}, {200, 1, 2}});
+            addMode(*evolution, 12, {{100, -1, 3}, {200, 1, 4}});
+        }
+        plot.setCaption(QStringLiteral("Clean"));
+        plot.Header().setTextRTF(
+            "{\\rtf1{\\colortbl ;\\red255\\green0\\blue0;}first\\par\\cf1\\b second\\par}");
+        plot.setBoxText(1, QStringLiteral("legend"));
+        plot.moveBox(1, 1500, 3000.5);
+        plot.moveBox(2, -15, 4500);
+        plot.setVLabel(QStringLiteral("V"));
+        plot.setFLabel(QStringLiteral("f"));
+        plot.setGLabel(QStringLiteral("damping"));
+        plot.SetScale(10, 450, 1, 30, 0.1F, -0.5F);
+        plot.setVthicks(9);
+        plot.setFthicks(6);
+        plot.setGthicks(4);
+        Series& series = plot.addSeries(*two.Modes[1]);
+        series.MarkerTag = QStringLiteral("7b");
+        series.MarkerSize = 9;
+        series.MarkerSpacing = 3;
+        series.MarkerStyle = markerstyle::tag;
+        series.LegendText = QStringLiteral("the second");
+        series.ColorIndex = rgb(1, 2, 3);
+        series.MarkerForegroundColor = rgb(4, 5, 6);
+        plot.addSeries(*one.Modes[0]);
+    }
+
+    std::vector<const EVM*> evolutions() const { return {&one, &two}; }
+
+    EVM one;
+    EVM two;
+    EvmPlot plot;
+};
+
+} // namespace
+
+TEST_F(PlotRecords, holdWhatAPlotShows)
+{
+    const PlotRecord record = recordOf(plot, evolutions());
+    EXPECT_EQ(record.caption, "Clean");
+    EXPECT_EQ(record.legend.position, (BoxPosition {1500, 3000.5}));
+    EXPECT_EQ(record.mechanism.position, (BoxPosition {-15, 4500}));
+    EXPECT_EQ(record.velAxis, (AxisRecord {"V", 10, 450, 9}));
+    EXPECT_EQ(record.freqAxis, (AxisRecord {"f", 1, 30, 6}));
+    EXPECT_EQ(record.gAxis, (AxisRecord {"damping", 0.1F, -0.5F, 4}));
+    ASSERT_EQ(record.series.size(), 2U);
+    EXPECT_EQ(record.series[0],
+              (SeriesRecord {2, 2, "7b", 9, 3, 2, "the second", rgb(1, 2, 3), rgb(4, 5, 6)}));
+    EXPECT_EQ(record.series[1].evolution, 1);
+    EXPECT_EQ(record.series[1].mode, 1);
+}
+
+TEST_F(PlotRecords, makeTheSamePlotAgainThroughTheBytesOfAFile)
+{
+    WorkspaceRecord saved;
+    saved.files = {"/a\\one.evm", "/a\\two.evm"};
+    saved.plots = {recordOf(plot, evolutions())};
+    WorkspaceRecord read;
+    readWorkspace(writeWorkspace(saved, "user").bytes, "test.tsw", read);
+    EvmPlot other;
+    applyRecord(read.plots[0], {&one, &two}, other);
+    EXPECT_EQ(recordOf(other, evolutions()).series, saved.plots[0].series);
+    EXPECT_EQ(other.Header().content(), plot.Header().content());
+    EXPECT_EQ(other.Header().Text(), QStringLiteral("first\r\nsecond"));
+    EXPECT_EQ(other.Legend().unitsLeft(), 1500);
+    EXPECT_EQ(other.GetScale(), plot.GetScale());
+    EXPECT_EQ(other.vthicks(), 9);
+    EXPECT_EQ(other.fthicks(), 6);
+    EXPECT_EQ(other.gthicks(), 4);
+    EXPECT_EQ(other.gLabel(), QStringLiteral("damping"));
+    EXPECT_EQ(other.SeriesCollection()[0].IthMpf, 1) << "not in the file";
+}
+
+TEST_F(PlotRecords, keepPointingAtTheRightModesWhenAFileIsMissing)
+{
+    const PlotRecord record = recordOf(plot, evolutions());
+    EvmPlot other;
+    applyRecord(record, {nullptr, &two}, other);
+    ASSERT_EQ(other.SeriesCollection().size(), 1U);
+    EXPECT_EQ(other.SeriesCollection()[0].Mode, two.Modes[1].get());
+}
+
+TEST_F(PlotRecords, refuseASeriesThatNamesNothing)
+{
+    const PlotRecord record = recordOf(plot, evolutions());
+    EvmPlot other;
+    EXPECT_EQ(test::errorNumberOf([&] { applyRecord(record, {&one}, other); }),
+              ErrorNumber::SubscriptOutOfRange);
+    two.Modes.pop_back();
+    EXPECT_EQ(test::errorNumberOf([&] {
+                  applyRecord(record, {&one, &two}, other);
+              }),
+              ErrorNumber::SubscriptOutOfRange);
+}
+
+TEST_F(PlotRecords, leaveABoxAloneOfWhichTheyKnowNothing)
+{
+    PlotRecord record = recordOf(plot, evolutions());
+    record.legend = {};
+    EvmPlot other;
+    other.setBoxText(1, QStringLiteral("own"));
+    applyRecord(record, {&one, &two}, other);
+    EXPECT_EQ(other.Legend().Text(), QStringLiteral("own"));
+    EXPECT_FALSE(other.Legend().wasMoved());
+}
