@@ -108,6 +108,7 @@ std::optional<std::string> QtUserInterface::askSaveFile(const FileQuestion& ques
     QFileDialog dialog(m_window);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite, !question.confirmsReplacing);
     prepare(dialog, question);
     const std::vector<std::string> files = chosenFiles(dialog);
     return files.empty() ? std::nullopt : std::optional(files.front());

@@ -4,6 +4,8 @@
 #include "app/DlgRefSpeed.h"
 #include "app/EvolutionPlotter.h"
 #include "app/StatusPanels.h"
+#include "explorer/WndEvolExplorer.h"
+#include "explorer/WndSelModes.h"
 #include "model/EvolutionLoader.h"
 #include "model/MdlMix.h"
 #include "runtime/ErrorGuard.h"
@@ -30,6 +32,18 @@ QWidget* emptyWindow(const char* name, const char* title)
     window->setObjectName(QString::fromLatin1(name));
     window->setWindowTitle(QString::fromLatin1(title));
     return window;
+}
+
+/// The command line's workspace: a path that was given in one piece, or the whole text.
+std::string workspaceOf(const std::vector<std::string>& arguments)
+{
+    std::string whole;
+    for (const std::string& argument : arguments) {
+        if (argument.find(".tsw") != std::string::npos)
+            return argument;
+        whole += argument;
+    }
+    return whole;
 }
 
 bool isMentioned(const std::vector<std::string>& arguments, std::string_view extension)
@@ -63,6 +77,7 @@ wndMain::~wndMain()
 {
     m_refSpeed.reset();
     m_dampLine.reset();
+    m_workspace.reset();
     delete m_area;
 }
 
@@ -75,7 +90,8 @@ void wndMain::makeChildWindows()
         return frame;
     };
     m_frames.data = frameOf(emptyWindow("wndData", "Data Control"));
-    m_frames.explorer = frameOf(emptyWindow("wndEvolExplorer", "Modal Evolutions Explorer"));
+    m_explorer = new wndEvolExplorer(m_session, *m_evolPlot, m_userInterface);
+    m_frames.explorer = frameOf(m_explorer);
     m_frames.plot = frameOf(m_evolPlot);
     connect(m_evolPlot, &wndEvolPlot::failed, this, [this](const RunTimeError& error) {
         m_userInterface.showMessage(errorReport(error, "wndEvolPlot"), "Error",
@@ -87,6 +103,21 @@ void wndMain::makeChildWindows()
             });
     connect(m_evolPlot, &wndEvolPlot::plotMenuRequested, this,
             [this](QPoint position) { m_plotMenu->popup(position); });
+    connectExplorer();
+    m_workspace =
+        std::make_unique<WorkspaceCommands>(m_session, *m_evolPlot, *m_explorer, m_userInterface);
+}
+
+/// The buttons of the explorer are the commands of the File menu.
+void wndMain::connectExplorer()
+{
+    const auto runs = [this](Handler handler) { return [this, handler] { run(handler); }; };
+    connect(m_explorer, &wndEvolExplorer::newWanted, this, runs(&wndMain::mnuNewWorkspace_Click));
+    connect(m_explorer, &wndEvolExplorer::openWanted, this, runs(&wndMain::OpenMenu_Click));
+    connect(m_explorer, &wndEvolExplorer::saveWanted, this, runs(&wndMain::mnuSaveWorkspace_Click));
+    connect(m_explorer, &wndEvolExplorer::addWanted, this, runs(&wndMain::AddMenu_Click));
+    connect(m_explorer, &wndEvolExplorer::menuRequested, this,
+            [this](QPoint position) { m_explorerMenu->popup(position); });
 }
 
 void wndMain::MDIForm_Load(const std::vector<std::string>& arguments)
@@ -97,8 +128,7 @@ void wndMain::MDIForm_Load(const std::vector<std::string>& arguments)
         wndDefLayout();
         m_evolPlot->ActivatePlot(m_evolPlot->plots().front());
         if (isMentioned(arguments, ".tsw"))
-            m_userInterface.showMessage("This version opens no workspaces yet.", "Tarsil",
-                                        MessageIcon::Exclamation);
+            m_workspace->OpenWorkSpace(workspaceOf(arguments));
         else if (isMentioned(arguments, ".evm") || isMentioned(arguments, ".ev2"))
             load(arguments);
     });
@@ -133,8 +163,8 @@ EvmPlot& wndMain::activePlot() const
 
 void wndMain::load(const std::vector<std::string>& paths)
 {
-    const std::vector<EVM*> loaded =
-        mdlMain::loadEvolutions(m_session, paths, m_userInterface, [] {});
+    const std::vector<EVM*> loaded = mdlMain::loadEvolutions(
+        m_session, paths, m_userInterface, [this] { m_explorer->FillEvolsNode(); });
     const std::size_t drawn = plotEvolutions(activePlot(), loaded);
     if (drawn < loaded.size())
         m_userInterface.showMessage(
@@ -142,6 +172,31 @@ void wndMain::load(const std::vector<std::string>& paths)
                 + (drawn == 0 ? "None of them is" : "The first " + std::to_string(drawn) + " are")
                 + " drawn: a plot takes no more curves at once.",
             "Tarsil", MessageIcon::None);
+}
+
+void wndMain::mnuNewWorkspace_Click()
+{
+    m_workspace->New();
+}
+
+void wndMain::OpenMenu_Click()
+{
+    m_workspace->OpenWorkSpace();
+}
+
+void wndMain::mnuSaveWorkspace_Click()
+{
+    m_workspace->SaveWorkSpace();
+}
+
+void wndMain::popSetRefEvol_Click()
+{
+    m_explorer->SetAsRef();
+}
+
+void wndMain::popSelMultModes_Click()
+{
+    wndSelModes(*m_explorer, *m_evolPlot, m_userInterface, this).exec();
 }
 
 void wndMain::AddMenu_Click()
@@ -247,6 +302,10 @@ void wndMain::stBar_PanelClick(int panel)
 
 void wndMain::closeEvent(QCloseEvent* event)
 {
+    if (!m_workspace->mayDiscard()) {
+        event->ignore();
+        return;
+    }
     m_refSpeed.reset();
     m_dampLine.reset();
     event->accept();

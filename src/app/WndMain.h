@@ -2,6 +2,7 @@
 
 #include "app/ChildFrame.h"
 #include "app/FlutterReportCommand.h"
+#include "app/WorkspaceCommands.h"
 #include "model/Session.h"
 #include "runtime/UserInterface.h"
 
@@ -19,6 +20,7 @@ namespace tarsil {
 class StatusPanels;
 class dlgDampLine;
 class dlgRefSpeed;
+class wndEvolExplorer;
 class wndEvolPlot;
 
 /// The main window: menus, pop-up menus, status bar, and the three child windows. It owns what
@@ -43,6 +45,7 @@ public:
 
     StatusPanels& stBar() { return *m_statusPanels; }
     wndEvolPlot& evolPlot() { return *m_evolPlot; }
+    wndEvolExplorer& explorer() { return *m_explorer; }
     Session& session() { return m_session; }
     QMenu* popEvmPlot() { return m_plotMenu; }
 
@@ -79,12 +82,16 @@ private:
     static std::vector<CommandMenu> commandTable();
 
     void makeChildWindows();
+    void connectExplorer();
     void makeMenuBar();
     void makePopups();
     void makeHelpKey();
     void addCommand(QMenu& menu, const Command& command, const char* name);
     void run(Handler handler);
 
+    void mnuNewWorkspace_Click();
+    void OpenMenu_Click();
+    void mnuSaveWorkspace_Click();
     void AddMenu_Click();
     void ExportMenu_Click();
     void QuitMenu_Click();
@@ -100,6 +107,8 @@ private:
     void mnuDefLayout_Click();
     void TileVertMenu_Click();
     void TileHorizMenu_Click();
+    void popSetRefEvol_Click();
+    void popSelMultModes_Click();
     void showHelp();
     void stBar_PanelClick(int panel);
 
@@ -115,6 +124,8 @@ private:
     QMdiArea* m_area;
     StatusPanels* m_statusPanels;
     wndEvolPlot* m_evolPlot = nullptr;
+    wndEvolExplorer* m_explorer = nullptr;
+    std::unique_ptr<WorkspaceCommands> m_workspace;
     ChildFrames m_frames {};
     QMenu* m_plotMenu = nullptr;
     QMenu* m_explorerMenu = nullptr;

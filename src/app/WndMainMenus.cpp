@@ -14,9 +14,10 @@ std::vector<wndMain::CommandMenu> wndMain::commandTable()
          "&File",
          nullptr,
          nullptr,
-         {{"mnuNewWorkspace", nullptr, "&New Workspace", nullptr, "Ctrl+N"},
-          {"OpenMenu", nullptr, "&Open Workspace ...", nullptr, "Ctrl+O"},
-          {"mnuSaveWorkspace", nullptr, "&Save Worspace", nullptr, "Ctrl+S"},
+         {{"mnuNewWorkspace", nullptr, "&New Workspace", &wndMain::mnuNewWorkspace_Click, "Ctrl+N"},
+          {"OpenMenu", nullptr, "&Open Workspace ...", &wndMain::OpenMenu_Click, "Ctrl+O"},
+          {"mnuSaveWorkspace", nullptr, "&Save Worspace", &wndMain::mnuSaveWorkspace_Click,
+           "Ctrl+S"},
           {"AddMenu", nullptr, "&Add Modal Evolution ...", &wndMain::AddMenu_Click, "Ctrl+Shift+O"},
           {"ExportMenu", nullptr, "&Export Mix File ...", &wndMain::ExportMenu_Click},
           {"QuitMenu", nullptr, "Quit", &wndMain::QuitMenu_Click, "Ctrl+Q"}}},
@@ -80,8 +81,11 @@ void wndMain::makePopups()
     }
     m_explorerMenu = new QMenu(QStringLiteral("EvolExplorer"), this);
     m_explorerMenu->setObjectName(QStringLiteral("popEvolExplorer"));
-    addCommand(*m_explorerMenu, {"", nullptr, "Set as reference"}, "popSetRefEvol");
-    addCommand(*m_explorerMenu, {"", nullptr, "Select multiple modes"}, "popSelMultModes");
+    addCommand(*m_explorerMenu, {"", nullptr, "Set as reference", &wndMain::popSetRefEvol_Click},
+               "popSetRefEvol");
+    addCommand(*m_explorerMenu,
+               {"", nullptr, "Select multiple modes", &wndMain::popSelMultModes_Click},
+               "popSelMultModes");
 }
 
 /// An item without a command is there, and grey.
@@ -108,6 +112,7 @@ void wndMain::makeHelpKey()
 void wndMain::showHelp()
 {
     m_userInterface.showMessage(
+        "Ctrl+N, Ctrl+O, Ctrl+S  begin, open and save a workspace\n"
         "Ctrl+Shift+O  adds modal evolutions\n"
         "Ctrl+C  on a plot copies its picture\n"
         "Ctrl+Q  ends the program\n\n"

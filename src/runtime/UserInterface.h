@@ -17,6 +17,7 @@ struct FileQuestion
     std::size_t filterIndex = 1; ///< the entry shown first, counted from 1
     bool takesSeveral = false;
     std::string fileName; ///< the name that stands there at first
+    bool confirmsReplacing = true; ///< whether a dialog that saves asks before a file is replaced
 };
 
 /// What the program asks of its user or tells him; whoever needs that does not know the windows.
@@ -43,7 +44,7 @@ public:
     /// Files to open, with their folders; none when the user cancels.
     virtual std::vector<std::string> askOpenFiles(const FileQuestion& question) = 0;
 
-    /// The file to save to; it asks before a file is replaced. None when the user cancels.
+    /// The file to save to. None when the user cancels.
     virtual std::optional<std::string> askSaveFile(const FileQuestion& question) = 0;
 
     /// The first panel of the status bar.

@@ -141,6 +141,8 @@ TEST(RealProgram, addsMarksWritesTheReportAndExportsByTheKeyboard)
     ASSERT_TRUE(waitUntil([&hands] { return !hands.isShown(QStringLiteral("Save")); }));
     ASSERT_TRUE(hands.focus(mainWindow));
     hands.press(keys("ctrl+q"));
+    ASSERT_TRUE(hands.focusNew(QStringLiteral("^Tarsil$"))) << "the workspace was not saved";
+    hands.press(keys("alt+y"));
     EXPECT_EQ(program.exitStatus(), 0);
 }
 

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "runtime/UserInterface.h"
+#include "workspace/WorkspaceRecord.h"
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarsil {
+
+class EVM;
+class Session;
+class wndEvolExplorer;
+class wndEvolPlot;
+
+namespace mdlWorkSpace {
+constexpr std::string_view filter = "Tarsil Workspace (*.tsw)|*.tsw|";
+constexpr std::string_view module = "mdlWorkSpace";
+} // namespace mdlWorkSpace
+
+/// New, Open and Save: the workspace as a file, and what is on the screen. A failure is reported in
+/// module "mdlWorkSpace"; what was opened before it stays.
+class WorkspaceCommands
+{
+public:
+    /// All must outlive this object.
+    WorkspaceCommands(Session& session, wndEvolPlot& plots, wndEvolExplorer& explorer,
+                      UserInterface& userInterface);
+
+    /// A new, untitled workspace.
+    void New();
+
+    /// Asks for a file and opens it in the place of what is there.
+    void OpenWorkSpace();
+
+    /// Opens the workspace of the command line: a path, with or without double quotes.
+    void OpenWorkSpace(const std::string& path);
+
+    /// Asks for a file and writes it, whole or not at all.
+    void SaveWorkSpace();
+
+    /// Asks the user whether changes since the last save may be lost; true also when there are
+    /// none.
+    bool mayDiscard();
+
+private:
+    WorkspaceRecord gather() const;
+    WorkspaceRecord state() const;
+    void remember();
+    void open(const std::string& path);
+    std::vector<EVM*> loadFiles(const WorkspaceRecord& record, const std::string& path);
+    void addPlots(const WorkspaceRecord& record, const std::vector<EVM*>& evolutions);
+    void write(const std::string& path);
+
+    Session& m_session;
+    wndEvolPlot& m_plots;
+    wndEvolExplorer& m_explorer;
+    UserInterface& m_userInterface;
+    WorkspaceRecord m_saved; ///< the state when it was last saved or opened
+};
+
+/// The file that a workspace names: where it says, or else the first one of that name in the folder
+/// of the workspace or below it. The stored path when there is none.
+std::string foundFile(const std::string& stored, const std::string& workspacePath);
+
+} // namespace tarsil

@@ -1,0 +1,18 @@
+#include "explorer/CurveAdder.h"
+
+#include "vgf/WndEvolPlot.h"
+
+namespace tarsil {
+
+void addCurves(wndEvolPlot& plots, const std::vector<AeMode*>& modes)
+{
+    for (AeMode* mode : modes) {
+        plots.AddSerie(*mode);
+        if (plots.ActivePlot() == nullptr)
+            return; // told once is enough
+    }
+    if (!modes.empty())
+        plots.ActivePlot()->plot();
+}
+
+} // namespace tarsil

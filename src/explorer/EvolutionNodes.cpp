@@ -1,0 +1,148 @@
+#include "explorer/EvolutionNodes.h"
+
+#include "explorer/ExplorerNode.h"
+#include "model/EVM.h"
+#include "model/Session.h"
+#include "runtime/Numbers.h"
+#include "runtime/PathNames.h"
+
+#include <QList>
+
+namespace tarsil {
+
+namespace {
+
+constexpr QLatin1String airplaneSuffix("_airplane");
+constexpr QLatin1String massSuffix("_mass");
+constexpr QLatin1String machSuffix("_mach");
+constexpr QLatin1String methodSuffix("_method");
+constexpr QLatin1String legendSuffix("_legend");
+
+QTreeWidgetItem* addGroup(QTreeWidgetItem& node, const QString& key, const char* text)
+{
+    return append(node, makeNode(key, QString::fromLatin1(text)));
+}
+
+void addValue(QTreeWidgetItem& group, const QString& text, bool isEditable)
+{
+    append(group, makeValueNode(text, isEditable));
+}
+
+} // namespace
+
+QString machText(float mach)
+{
+    return QString::fromStdString(shortestText(mach));
+}
+
+EvolutionNodes::EvolutionNodes(QTreeWidgetItem& folder, ExplorerImages& images)
+    : m_folder(folder), m_images(images)
+{ }
+
+std::vector<EVM*> EvolutionNodes::fill(const Session& session)
+{
+    std::vector<EVM*> added;
+    QList<QTreeWidgetItem*> nodes;
+    for (const auto& evolution : session.evolutions) {
+        if (m_nodes.contains(evolution.get()))
+            continue;
+        nodes.append(makeEvolution(*evolution));
+        added.push_back(evolution.get());
+    }
+    m_folder.addChildren(nodes); // at once: the tree is laid out once
+    return added;
+}
+
+void EvolutionNodes::remove(EVM& evolution)
+{
+    const Node node(m_nodes.take(&evolution)); // leaves the tree as it ends
+    if (node != nullptr)
+        m_keys.remove(keyOf(*node));
+}
+
+void EvolutionNodes::clear()
+{
+    m_nodes.clear();
+    m_keys.clear();
+    qDeleteAll(m_folder.takeChildren());
+}
+
+QTreeWidgetItem* EvolutionNodes::nodeOf(const EVM* evolution) const
+{
+    return m_nodes.value(evolution);
+}
+
+std::vector<EVM*> EvolutionNodes::ticked() const
+{
+    std::vector<EVM*> result;
+    for (int i = 0; i < m_folder.childCount(); ++i) {
+        const QTreeWidgetItem* const node = m_folder.child(i);
+        if (node->checkState(0) == Qt::Checked)
+            result.push_back(taggedEvolution(node));
+    }
+    return result;
+}
+
+EVM* EvolutionNodes::evolutionAt(const QTreeWidgetItem* node) const
+{
+    while (node != nullptr && node->parent() != &m_folder)
+        node = node->parent();
+    return taggedEvolution(node);
+}
+
+EvolutionValue EvolutionNodes::valueAt(const QTreeWidgetItem& node) const
+{
+    const QTreeWidgetItem* const group = node.parent();
+    if (group == nullptr || group->parent() == nullptr || group->parent()->parent() != &m_folder)
+        return EvolutionValue::None;
+    const QString suffix = keyOf(*group).mid(keyOf(*group->parent()).size());
+    if (suffix == airplaneSuffix)
+        return EvolutionValue::Airplane;
+    if (suffix == massSuffix)
+        return EvolutionValue::Mass;
+    return suffix == machSuffix ? EvolutionValue::Mach : EvolutionValue::None;
+}
+
+QTreeWidgetItem* EvolutionNodes::makeEvolution(EVM& evolution)
+{
+    const QString key = newKey(evolution);
+    Node node = makeNode(key, QString::fromStdString(evolution.FileName));
+    node->setFlags(node->flags() | Qt::ItemIsUserCheckable);
+    node->setCheckState(0, Qt::Unchecked);
+    setPlainToolTip(*node, QString::fromStdString(shownPath(evolution.path())));
+    setImage(*node, m_images, QStringLiteral("evolution"));
+    setTag(*node, &evolution);
+    addGroups(*node, evolution, key);
+    m_nodes.insert(&evolution, node.get());
+    m_keys.insert(key, &evolution);
+    return node.release();
+}
+
+void EvolutionNodes::addGroups(QTreeWidgetItem& node, const EVM& evolution, const QString& key)
+{
+    const Param& param = evolution.Param;
+    addValue(*addGroup(node, key + airplaneSuffix, "Airplane"),
+             QString::fromStdString(param.Airplane), true);
+    QTreeWidgetItem* const mass = addGroup(node, key + massSuffix, "Mass Conf.");
+    setImage(*mass, m_images, QStringLiteral("mass"));
+    addValue(*mass, QString::fromStdString(param.Mass), true);
+    addValue(*addGroup(node, key + machSuffix, "Mach No."), machText(param.Mach), true);
+    addValue(*addGroup(node, key + methodSuffix, "Method"),
+             QString::fromStdString(param.AnalysisType), false);
+    QTreeWidgetItem* const legend = addGroup(node, key + legendSuffix, "Legend");
+    for (const auto& mode : evolution.Modes)
+        addValue(*legend, QStringLiteral("Mode %1").arg(mode->Id), false);
+}
+
+/// The evolution's path. Who adds evolutions keeps paths apart; should two be the same all the
+/// same, the later one gets a number, counted over all of them so that finding it takes no search.
+QString EvolutionNodes::newKey(const EVM& evolution)
+{
+    const QString path = QString::fromStdString(evolution.path());
+    QString key = path;
+    while (m_keys.contains(key))
+        key = path + u'|' + QString::number(++m_sameKeys);
+    return key;
+}
+
+} // namespace tarsil

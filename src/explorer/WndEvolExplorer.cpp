@@ -1,0 +1,160 @@
+#include "explorer/WndEvolExplorer.h"
+
+#include "explorer/ExplorerNode.h"
+#include "explorer/LabelDelegate.h"
+#include "explorer/PlotNodes.h"
+#include "model/EVM.h"
+#include "model/Session.h"
+#include "runtime/ErrorGuard.h"
+#include "runtime/UserInterface.h"
+#include "vgf/WndEvolPlot.h"
+
+#include <QToolBar>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+namespace tarsil {
+
+wndEvolExplorer::wndEvolExplorer(Session& session, wndEvolPlot& plots, UserInterface& user,
+                                 QWidget* parent)
+    : QWidget(parent), m_session(session), m_plotWindow(plots), m_user(user),
+      m_toolBar(new QToolBar(this)), m_tree(new QTreeWidget(this)), m_workspace(*m_tree, m_images),
+      m_evolutions(m_workspace.evolutions(), m_images),
+      m_plots(new PlotNodes(m_workspace.plots(), plots, m_images, this))
+{
+    setObjectName(QStringLiteral("wndEvolExplorer"));
+    setWindowTitle(QStringLiteral("Modal Evolutions Explorer"));
+    setAccessibleName(windowTitle());
+    makeToolbar();
+    makeTree();
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_toolBar);
+    layout->addWidget(m_tree);
+    setFocusProxy(m_tree);
+    connect(&m_marks, &EvolutionMarks::found, this, [this](EVM* evolution, const QString& text) {
+        QTreeWidgetItem* const node = m_evolutions.nodeOf(evolution);
+        setImage(*node, m_images, QStringLiteral("warning"));
+        setPlainToolTip(*node, text);
+    });
+    FillEvolsNode();
+}
+
+/// The nodes end first, while what they refer to is still there.
+wndEvolExplorer::~wndEvolExplorer()
+{
+    delete m_plots;
+}
+
+QSize wndEvolExplorer::sizeHint() const
+{
+    return {320, 420};
+}
+
+void wndEvolExplorer::makeTree()
+{
+    m_tree->setObjectName(QStringLiteral("tvwEvolExplorer"));
+    m_tree->setAccessibleName(windowTitle());
+    m_tree->setHeaderHidden(true);
+    m_tree->setIconSize({16, 16});
+    m_tree->setUniformRowHeights(true); // a thousand evolutions need not be measured one by one
+    m_tree->setExpandsOnDoubleClick(true);
+    m_tree->setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::SelectedClicked);
+    auto* const delegate = new LabelDelegate(m_tree);
+    m_tree->setItemDelegate(delegate);
+    connect(delegate, &LabelDelegate::renamed, this,
+            [this](const QModelIndex& index, const QString& text) {
+                run([&] { rename(*m_tree->itemFromIndex(index), text); });
+            });
+    connect(m_tree, &QTreeWidget::itemActivated, this, &wndEvolExplorer::nodeActivated);
+    m_tree->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_tree, &QWidget::customContextMenuRequested, this,
+            [this](QPoint place) { Q_EMIT menuRequested(m_tree->viewport()->mapToGlobal(place)); });
+}
+
+void wndEvolExplorer::run(const std::function<void()>& action)
+{
+    guarded(m_user, "wndEvolExplorer", action);
+}
+
+void wndEvolExplorer::FillEvolsNode()
+{
+    for (EVM* const evolution : m_evolutions.fill(m_session))
+        m_marks.add(*evolution);
+}
+
+void wndEvolExplorer::SetAsRef()
+{
+    EVM* const evolution = selectedEvolution();
+    if (evolution != nullptr)
+        setReference(evolution);
+    else
+        m_user.showMessage("Please select a modal evolution.", "Tarsil", MessageIcon::Exclamation);
+}
+
+void wndEvolExplorer::setReference(EVM* evolution)
+{
+    if (evolution == m_reference)
+        return;
+    if (QTreeWidgetItem* const node = m_evolutions.nodeOf(m_reference))
+        undistinguish(*node);
+    m_reference = evolution;
+    if (QTreeWidgetItem* const node = m_evolutions.nodeOf(evolution))
+        distinguish(*node, QStringLiteral("reference evolution"));
+    Q_EMIT referenceChanged(evolution);
+}
+
+EVM* wndEvolExplorer::selectedEvolution() const
+{
+    const QList<QTreeWidgetItem*> selected = m_tree->selectedItems();
+    return selected.isEmpty() ? nullptr : m_evolutions.evolutionAt(selected.front());
+}
+
+EVM* wndEvolExplorer::evolutionOfSelectedNode() const
+{
+    const QList<QTreeWidgetItem*> selected = m_tree->selectedItems();
+    return selected.isEmpty() ? nullptr : taggedEvolution(selected.front());
+}
+
+QString wndEvolExplorer::workspaceName() const
+{
+    return m_workspace.root().text(0);
+}
+
+void wndEvolExplorer::setWorkspaceName(const QString& name)
+{
+    m_workspace.root().setText(0, name);
+}
+
+QString wndEvolExplorer::description() const
+{
+    return m_workspace.description().text(0);
+}
+
+void wndEvolExplorer::setDescription(const QString& text)
+{
+    m_workspace.description().setText(0, text);
+}
+
+QString wndEvolExplorer::dateCreated() const
+{
+    return m_workspace.dateCreated().text(0);
+}
+
+void wndEvolExplorer::setDateCreated(const QString& text)
+{
+    m_workspace.dateCreated().setText(0, text);
+}
+
+QString wndEvolExplorer::dateModified() const
+{
+    return m_workspace.dateModified().text(0);
+}
+
+void wndEvolExplorer::setDateModified(const QString& text)
+{
+    m_workspace.dateModified().setText(0, text);
+}
+
+} // namespace tarsil

@@ -1,0 +1,93 @@
+// Editing the labels of the explorer's tree.
+
+#include "explorer/ExplorerNode.h"
+#include "explorer/PlotNodes.h"
+#include "explorer/WndEvolExplorer.h"
+#include "model/EVM.h"
+#include "runtime/Numbers.h"
+#include "runtime/UserInterface.h"
+#include "vgf/WndEvolPlot.h"
+
+#include <QTreeWidget>
+
+namespace tarsil {
+
+/// Double click or Enter: shows a plot, edits a value.
+void wndEvolExplorer::nodeActivated(QTreeWidgetItem* node)
+{
+    if (EvmPlot* const plot = taggedPlot(node))
+        run([this, plot] { m_plotWindow.ActivatePlot(plot); });
+    else if (node->flags().testFlag(Qt::ItemIsEditable))
+        m_tree->editItem(node);
+}
+
+void wndEvolExplorer::rename(QTreeWidgetItem& node, const QString& text)
+{
+    if (EvmPlot* const plot = taggedPlot(&node)) {
+        renamePlot(*plot, text);
+    } else if (text == node.text(0)) {
+        return;
+    } else if (EVM* const evolution = m_evolutions.evolutionAt(&node)) {
+        changeParameter(*evolution, m_evolutions.valueAt(node), node, text);
+    } else {
+        node.setText(0, text);
+        Q_EMIT workspaceChanged();
+    }
+}
+
+/// The node follows the plot's caption. A plot without a name could not be told from the others, so
+/// that an empty one is taken for a change of mind.
+void wndEvolExplorer::renamePlot(EvmPlot& plot, const QString& text)
+{
+    if (m_plots->isTaken(text, plot)) {
+        m_user.showMessage("This name already exist. Please, select another one.", "Tarsil",
+                           MessageIcon::Exclamation);
+        return;
+    }
+    if (!text.trimmed().isEmpty())
+        plot.setCaption(text);
+    m_plotWindow.ActivatePlot(&plot);
+    Q_EMIT workspaceChanged();
+}
+
+void wndEvolExplorer::changeParameter(EVM& evolution, EvolutionValue value, QTreeWidgetItem& node,
+                                      const QString& text)
+{
+    QString shown = text;
+    switch (value) {
+    case EvolutionValue::Airplane:
+        evolution.Param.Airplane = text.toStdString();
+        break;
+    case EvolutionValue::Mass:
+        evolution.Param.Mass = text.toStdString();
+        break;
+    case EvolutionValue::Mach:
+        if (!changeMach(evolution, text))
+            return;
+        shown = machText(evolution.Param.Mach);
+        break;
+    case EvolutionValue::None:
+        return;
+    }
+    node.setText(0, shown);
+    Q_EMIT parametersChanged(&evolution);
+}
+
+/// Whether the text is a number; the user is told when it is not. Error 6 "Overflow" for one
+/// outside the range of a single.
+bool wndEvolExplorer::changeMach(EVM& evolution, const QString& text)
+{
+    const std::string number = text.toStdString();
+    float mach = 0;
+    const NumberStatus status = parseSingle(number, mach);
+    if (status == NumberStatus::Overflow)
+        throwNumberError(status, number, "wndEvolExplorer", "Mach No.");
+    if (status != NumberStatus::Ok) {
+        m_user.showMessage("Please enter a numeric value.", "Tarsil", MessageIcon::None);
+        return false;
+    }
+    evolution.Param.Mach = mach;
+    return true;
+}
+
+} // namespace tarsil

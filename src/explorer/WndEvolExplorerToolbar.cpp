@@ -1,0 +1,165 @@
+// The toolbar of the explorer, and how evolutions and plots come and go.
+
+#include "explorer/CurveAdder.h"
+#include "explorer/ExplorerNode.h"
+#include "explorer/WndEvolExplorer.h"
+#include "model/EVM.h"
+#include "model/Session.h"
+#include "runtime/RunTimeError.h"
+#include "runtime/UserInterface.h"
+#include "vgf/WndEvolPlot.h"
+
+#include <QAction>
+#include <QToolBar>
+
+namespace tarsil {
+
+std::vector<wndEvolExplorer::Button> wndEvolExplorer::buttonTable()
+{
+    return {{"New", "New Workspace", &wndEvolExplorer::newWanted},
+            {"Open", "Open Workspace", &wndEvolExplorer::openWanted},
+            {"Save", "Save Workspace", &wndEvolExplorer::saveWanted, true},
+            {"Add", "Add Modal Evolution", &wndEvolExplorer::addWanted},
+            {"Remove", "Remove Modal Evolution", &wndEvolExplorer::remove_Click},
+            {"Select", "Select Modal Evolution", &wndEvolExplorer::select_Click, true},
+            {"AddPlot", "Insert New Plot", &wndEvolExplorer::addPlot_Click},
+            {"CopyPlot", "Copy Active Plot", &wndEvolExplorer::copyPlot_Click},
+            {"RemovePlot", "Remove Active Plot", &wndEvolExplorer::removePlot_Click}};
+}
+
+void wndEvolExplorer::makeToolbar()
+{
+    m_toolBar->setObjectName(QStringLiteral("tbrEvolExp"));
+    m_toolBar->setAccessibleName(QStringLiteral("Workspace"));
+    m_toolBar->setIconSize({20, 20});
+    for (const Button& button : buttonTable()) {
+        const QString key = QString::fromLatin1(button.key);
+        const QString toolTip = QString::fromLatin1(button.toolTip);
+        QAction* const action = m_toolBar->addAction(m_images.image(key), toolTip);
+        action->setObjectName(key);
+        action->setToolTip(toolTip);
+        connect(action, &QAction::triggered, this,
+                [this, handler = button.handler] { run([this, handler] { (this->*handler)(); }); });
+        if (button.endsGroup)
+            m_toolBar->addSeparator();
+    }
+}
+
+void wndEvolExplorer::remove_Click()
+{
+    EVM* const evolution = selectedEvolution();
+    if (evolution == nullptr) {
+        m_user.showMessage("Please select a modal evolution.", "Tarsil", MessageIcon::Exclamation);
+        return;
+    }
+    const std::vector<EvmPlot*> changed = forget(*evolution);
+    std::erase_if(m_session.evolutions, [=](const auto& one) { return one.get() == evolution; });
+    drawAgain(changed);
+}
+
+/// Everything is looked at before the first series is added, so that an error changes nothing.
+void wndEvolExplorer::select_Click()
+{
+    std::vector<AeMode*> modes;
+    for (const EVM* const evolution : evolutionsToSelect()) {
+        if (evolution->Modes.empty())
+            throw RunTimeError(ErrorNumber::SubscriptOutOfRange, "wndEvolExplorer",
+                               "mode 1 of \"" + evolution->FileName + "\", which has no modes");
+        modes.push_back(evolution->Modes.front().get());
+    }
+    addCurves(m_plotWindow, modes);
+}
+
+/// Those that are ticked; the selected one when none is.
+std::vector<EVM*> wndEvolExplorer::evolutionsToSelect() const
+{
+    std::vector<EVM*> evolutions = m_evolutions.ticked();
+    if (evolutions.empty() && evolutionOfSelectedNode() != nullptr)
+        evolutions.push_back(evolutionOfSelectedNode());
+    return evolutions;
+}
+
+void wndEvolExplorer::addPlot_Click()
+{
+    m_plotWindow.AddPlot(QString());
+}
+
+void wndEvolExplorer::copyPlot_Click()
+{
+    m_plotWindow.CopyPlot(QString());
+}
+
+void wndEvolExplorer::removePlot_Click()
+{
+    m_plotWindow.RemovePlot(m_plotWindow.ActivePlot());
+}
+
+void wndEvolExplorer::evolutionRemoved(EVM& evolution)
+{
+    drawAgain(forget(evolution));
+}
+
+/// Takes everything away that refers to an evolution; returns the plots that had series of it, not
+/// yet drawn again.
+std::vector<EvmPlot*> wndEvolExplorer::forget(EVM& evolution)
+{
+    std::vector<EvmPlot*> changed = takeSeries(&evolution);
+    if (m_reference == &evolution)
+        setReference(nullptr);
+    m_marks.forget(evolution);
+    Q_EMIT evolutionAboutToBeRemoved(&evolution);
+    m_evolutions.remove(evolution);
+    return changed;
+}
+
+std::vector<EvmPlot*> wndEvolExplorer::takeSeries(const EVM* evolution)
+{
+    std::vector<EvmPlot*> changed;
+    for (EvmPlot* const plot : m_plotWindow.plots()) {
+        const auto count = std::erase_if(plot->SeriesCollection(), [=](const Series& series) {
+            return series.Mode != nullptr && series.Mode->Parent == evolution;
+        });
+        if (count > 0)
+            changed.push_back(plot);
+    }
+    return changed;
+}
+
+/// A plot that cannot be drawn is reported and does not keep the others from it.
+void wndEvolExplorer::drawAgain(const std::vector<EvmPlot*>& plots)
+{
+    for (EvmPlot* const plot : plots)
+        run([plot] { plot->plot(); });
+}
+
+/// The series go first, unseen: whoever called may have ended their evolutions already.
+void wndEvolExplorer::startNew()
+{
+    emptyPlots();
+    setReference(nullptr);
+    m_marks.clear();
+    for (const auto& evolution : m_session.evolutions)
+        Q_EMIT evolutionAboutToBeRemoved(evolution.get());
+    m_evolutions.clear();
+    m_session.evolutions.clear();
+    m_workspace.startNew();
+}
+
+/// Leaves the plot that is always there, as a new one.
+void wndEvolExplorer::emptyPlots()
+{
+    const std::vector<EvmPlot*> plots = m_plotWindow.plots();
+    for (EvmPlot* const plot : plots)
+        plot->SeriesCollection().clear();
+    EvmPlot& first = *plots.front();
+    for (std::size_t i = plots.size(); i-- > 1;)
+        m_plotWindow.RemovePlot(plots[i]);
+    EvmPlot fresh;
+    fresh.setCaption(QStringLiteral("Plot1"));
+    first.Clone(fresh);
+    first.RemoveRef();
+    run([&first] { first.RemoveDampLine(); }); // draws as well
+    m_plotWindow.ActivatePlot(&first);
+}
+
+} // namespace tarsil

@@ -1,0 +1,208 @@
+// New, Open and Save of the File menu.
+
+#include "app/WndMainFixture.h"
+
+#include "app/WorkspaceCommands.h"
+#include "explorer/WndEvolExplorer.h"
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+
+using namespace tarsil;
+using test::sample;
+using test::WndMainTest;
+using ::testing::HasSubstr;
+using ::testing::StartsWith;
+
+namespace {
+
+class WorkspaceCommandsTest : public WndMainTest
+{
+protected:
+    /// Two evolutions beside the workspace, drawn in a plot with texts of its own.
+    void work()
+    {
+        for (const char* name : {"one.ev2", "two.ev2"})
+            folder.write(name, test::fileBytes(sample("goland_clean_m040.ev2")));
+        load({folder.file("one.ev2"), folder.file("two.ev2")});
+        plot().setBoxText(0, QStringLiteral("header\nsecond line"));
+        plot().SerieMove(1, 9);
+        window.explorer().setDescription(QStringLiteral("an afternoon"));
+        EvmPlot& second = window.evolPlot().AddPlot(QStringLiteral("Second"));
+        second.SetScale(0, 100, 0, 10, 0, -1);
+    }
+
+    void save(const std::string& name = "case.tsw")
+    {
+        user.saveFiles.push_back(folder.file(name));
+        choose("mnuSaveWorkspace");
+    }
+
+    void open(const std::string& path)
+    {
+        user.openFiles.push_back({path});
+        choose("OpenMenu");
+    }
+
+    std::string bytes(const std::string& name = "case.tsw")
+    {
+        std::string text = test::fileBytes(folder.file(name));
+        const std::size_t date = text.find("Date_Modified=");
+        return text.erase(date, text.find('\r', date) - date);
+    }
+};
+
+} // namespace
+
+TEST_F(WorkspaceCommandsTest, openWhatWasSavedAsItWas)
+{
+    work();
+    save();
+    const std::string saved = bytes();
+    EXPECT_THAT(saved, StartsWith("[GENERAL INFORMATION]\r\nUsername="));
+    EXPECT_EQ(window.explorer().workspaceName(), QStringLiteral("case"));
+    choose("mnuNewWorkspace");
+    EXPECT_TRUE(window.session().evolutions.empty());
+    open(folder.file("case.tsw"));
+    EXPECT_TRUE(user.messages.empty());
+    EXPECT_TRUE(user.questions.empty()) << "nothing was changed, so nothing was asked";
+    EXPECT_EQ(window.session().evolutions.size(), 2U);
+    ASSERT_EQ(window.evolPlot().plots().size(), 2U);
+    EXPECT_EQ(plot().Header().Text(), QStringLiteral("header\r\nsecond line"));
+    EXPECT_EQ(plot().SeriesCollection().size(), 14U);
+    EXPECT_EQ(window.evolPlot().plots()[1]->Caption(), QStringLiteral("Second"));
+    EXPECT_EQ(window.evolPlot().plots()[1]->GetScale().vmax, 100.0F);
+    EXPECT_EQ(window.explorer().description(), QStringLiteral("an afternoon"));
+    save("again.tsw");
+    EXPECT_EQ(bytes("again.tsw"), saved);
+}
+
+TEST_F(WorkspaceCommandsTest, askBeforeTheyReplaceAFile)
+{
+    work();
+    save();
+    folder.write("case.tsw", "old");
+    save();
+    ASSERT_EQ(user.questions.size(), 1U);
+    EXPECT_EQ(user.questions[0], "The file 'case.tsw' already exists. Do you want to replace it?");
+    EXPECT_EQ(test::fileBytes(folder.file("case.tsw")), "old");
+    EXPECT_FALSE(user.fileQuestions.back().confirmsReplacing) << "the dialog does not ask too";
+    user.confirmations = {true};
+    save();
+    EXPECT_THAT(bytes(), StartsWith("[GENERAL INFORMATION]"));
+}
+
+TEST_F(WorkspaceCommandsTest, keepTheDateOfCreation)
+{
+    work();
+    window.explorer().setDateCreated(QStringLiteral("07-Mar-2024 14:05:31"));
+    save("case");
+    EXPECT_THAT(test::fileBytes(folder.file("case.tsw")),
+                HasSubstr("Date_Created=07-Mar-2024 14:05:31\r\n"));
+    EXPECT_FALSE(window.explorer().dateModified().trimmed().isEmpty());
+}
+
+TEST_F(WorkspaceCommandsTest, askBeforeChangesAreLost)
+{
+    work();
+    for (const char* command : {"mnuNewWorkspace", "OpenMenu", "QuitMenu"}) {
+        user.questions.clear();
+        choose(command);
+        ASSERT_EQ(user.questions.size(), 1U) << command;
+        EXPECT_THAT(user.questions[0], HasSubstr("has changed since it was last saved"));
+        EXPECT_EQ(window.session().evolutions.size(), 2U) << command;
+        EXPECT_TRUE(window.isVisible()) << command;
+    }
+    save();
+    user.questions.clear();
+    window.resize(900, 600);
+    choose("mnuDefLayout");
+    choose("QuitMenu");
+    EXPECT_TRUE(user.questions.empty()) << "another size of the window is no change";
+    EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(WorkspaceCommandsTest, doNothingWhenADialogIsCancelled)
+{
+    work();
+    choose("mnuSaveWorkspace");
+    EXPECT_FALSE(std::filesystem::exists(folder.file("case.tsw")));
+    user.confirmations = {true};
+    choose("OpenMenu");
+    EXPECT_EQ(window.session().evolutions.size(), 2U);
+    EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(WorkspaceCommandsTest, findMovedFilesBesideTheWorkspaceAndBelow)
+{
+    work();
+    save();
+    choose("mnuNewWorkspace");
+    const test::TemporaryFolder elsewhere;
+    std::filesystem::create_directories(elsewhere.path() / "deep" / "down");
+    elsewhere.write("case.tsw", test::fileBytes(folder.file("case.tsw")));
+    std::filesystem::rename(folder.file("one.ev2"), elsewhere.file("one.ev2"));
+    std::filesystem::rename(folder.file("two.ev2"), elsewhere.file("deep/down/two.ev2"));
+    open(elsewhere.file("case.tsw"));
+    EXPECT_TRUE(user.messages.empty());
+    EXPECT_EQ(window.session().evolutions.size(), 2U);
+    EXPECT_EQ(plot().SeriesCollection().size(), 14U);
+}
+
+TEST_F(WorkspaceCommandsTest, keepTheOtherFilesWhenOneIsMissing)
+{
+    work();
+    const std::int16_t mode = plot().SeriesCollection().front().Mode->Id;
+    save();
+    choose("mnuNewWorkspace");
+    std::filesystem::remove(folder.file("one.ev2"));
+    open(folder.file("case.tsw"));
+    ASSERT_EQ(user.messages.size(), 1U);
+    EXPECT_THAT(user.messages[0].text, StartsWith("Modal evolution file not found:\n"));
+    ASSERT_EQ(plot().SeriesCollection().size(), 7U);
+    for (const Series& series : plot().SeriesCollection())
+        EXPECT_EQ(series.Mode->Parent->FileName, "two.ev2");
+    EXPECT_GT(mode, 0);
+}
+
+TEST_F(WorkspaceCommandsTest, reportADamagedFileAndGoOn)
+{
+    load();
+    open(folder.write("bad.tsw", std::string("\x01\xFF\0[PLOTS]\r\nNoOfPlots=many\r\n", 29)));
+    ASSERT_EQ(user.messages.size(), 1U);
+    EXPECT_THAT(user.messages[0].text, StartsWith("Error # 13 was generated by "));
+    EXPECT_THAT(user.messages[0].text, HasSubstr(" in Module mdlWorkSpace\r"));
+    open(folder.file("missing.tsw"));
+    EXPECT_THAT(user.messages.back().text, StartsWith("Error # 53 "));
+    ASSERT_NE(window.evolPlot().ActivePlot(), nullptr);
+    EXPECT_EQ(window.evolPlot().plots().size(), 1U);
+}
+
+TEST_F(WorkspaceCommandsTest, leaveTheOldFileWhenItCannotBeWritten)
+{
+    work();
+    const QString before = window.explorer().dateModified();
+    save("missing/case.tsw");
+    ASSERT_EQ(user.messages.size(), 1U);
+    EXPECT_THAT(user.messages[0].text, StartsWith("Error # 76 "));
+    EXPECT_EQ(window.explorer().dateModified(), before);
+}
+
+TEST_F(WorkspaceCommandsTest, sayWhichTextWillBeCut)
+{
+    work();
+    plot().setBoxText(1, QString(1200, u'x'));
+    save();
+    EXPECT_THAT(user.statuses.back(), HasSubstr("Legend of [PLOT1] is longer than 1023"));
+}
+
+TEST_F(WorkspaceCommandsTest, openTheWorkspaceOfTheCommandLineInItsQuotes)
+{
+    work();
+    save();
+    choose("mnuNewWorkspace");
+    load({"\"" + folder.file("case.tsw") + "\"", folder.file("one.ev2")});
+    EXPECT_EQ(window.session().evolutions.size(), 2U);
+    EXPECT_TRUE(user.messages.empty());
+}

@@ -1,0 +1,154 @@
+// What is doubtful in the files of evolutions, and how the explorer marks it.
+
+#include "explorer/EvolutionMarks.h"
+
+#include "explorer/WndEvolExplorerFixture.h"
+#include "model/EvolutionChecker.h"
+#include "support/TestFiles.h"
+
+#include <gmock/gmock.h>
+
+using namespace tarsil;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+namespace {
+
+const std::string emptyFileText = "line 1: the file is empty";
+
+class EvolutionMarksTest : public test::WndEvolExplorerTest
+{
+protected:
+    /// An evolution that names a file of these bytes.
+    EVM& loadFile(const std::string& name, const std::string& bytes)
+    {
+        folder.write(name, bytes);
+        EVM& evolution = load(name);
+        evolution.Folder = folder.path().string();
+        return evolution;
+    }
+    std::string toolTip(const EVM& evolution)
+    {
+        return evolutionNode(evolution).toolTip(0).toStdString();
+    }
+
+    /// Lets the event loop go round, more often than there are files.
+    static void settle()
+    {
+        for (int i = 0; i < 20; ++i)
+            QApplication::processEvents();
+    }
+
+    test::TemporaryFolder folder;
+};
+
+/// A sample with `count` more rows that repeat the speed of the row before.
+std::string repeatedRows(int count)
+{
+    std::string text = test::fileBytes(test::sample("goland_clean_m040.ev2"));
+    const std::size_t row = text.find("   1|    1|");
+    const std::string copy = text.substr(row, text.find('\n', row) + 1 - row);
+    for (int i = 0; i < count; ++i)
+        text.insert(row, copy);
+    return text;
+}
+
+} // namespace
+
+TEST_F(EvolutionMarksTest, marksADoubtfulFileOnlyWhenNobodyWaits)
+{
+    EVM& evolution = loadFile("a.evm", "");
+    explorer.FillEvolsNode();
+    EXPECT_EQ(image(evolutionNode(evolution)), "evolution");
+    settle();
+    EXPECT_EQ(image(evolutionNode(evolution)), "warning");
+    EXPECT_EQ(toolTip(evolution), emptyFileText);
+    EXPECT_EQ(text(evolutionNode(evolution)), "a.evm");
+}
+
+TEST_F(EvolutionMarksTest, leavesACleanFileUnmarked)
+{
+    EVM& evolution = loadFile("a.ev2", test::fileBytes(test::sample("goland_clean_m040.ev2")));
+    explorer.FillEvolsNode();
+    settle();
+    EXPECT_EQ(image(evolutionNode(evolution)), "evolution");
+    EXPECT_EQ(toolTip(evolution), folder.file("a.ev2"));
+}
+
+TEST_F(EvolutionMarksTest, looksThroughOneFileAtATimeInTheirOrder)
+{
+    EvolutionMarks marks;
+    test::Texts found;
+    QObject::connect(&marks, &EvolutionMarks::found, [&](EVM* one, const QString& findings) {
+        found.push_back(one->FileName);
+        EXPECT_EQ(findings.toStdString(), emptyFileText);
+    });
+    for (const char* const name : {"a.evm", "b.evm", "c.evm"})
+        marks.add(loadFile(name, ""));
+    EXPECT_THAT(found, IsEmpty());
+    for (int i = 0; i < 20; ++i) {
+        const std::size_t before = found.size();
+        QApplication::processEvents();
+        EXPECT_LE(found.size(), before + 1);
+    }
+    EXPECT_THAT(found, ElementsAre("a.evm", "b.evm", "c.evm"));
+    marks.add(*session.evolutions[0]);
+    settle();
+    EXPECT_EQ(found.size(), 4U) << "begins again after a rest";
+}
+
+TEST_F(EvolutionMarksTest, doesNotLookAtAnEvolutionThatHasGone)
+{
+    EVM& a = loadFile("a.evm", "");
+    EVM& b = loadFile("b.evm", "");
+    explorer.FillEvolsNode();
+    select(evolutionNode(a));
+    choose("Remove");
+    settle();
+    EXPECT_EQ(image(evolutionNode(b)), "warning");
+    loadFile("c.evm", "");
+    explorer.FillEvolsNode();
+    explorer.startNew();
+    settle();
+    EXPECT_EQ(node("Evols").childCount(), 0);
+}
+
+TEST_F(EvolutionMarksTest, marksAnEvolutionWhoseFileHasGone)
+{
+    EVM& evolution = fill("gone.evm");
+    settle();
+    EXPECT_EQ(image(evolutionNode(evolution)), "warning");
+    EXPECT_TRUE(toolTip(evolution).find("not found") != std::string::npos) << toolTip(evolution);
+}
+
+TEST_F(EvolutionMarksTest, tellsAllOfTwentyFindings)
+{
+    int rows = 0;
+    std::size_t count = 0;
+    while (count < 20)
+        count = checkEvolutionText(repeatedRows(++rows), "a.ev2").size();
+    ASSERT_EQ(count, 20U);
+    const QString text = findingsText(loadFile("a.ev2", repeatedRows(rows)));
+    EXPECT_EQ(text.split(u'\n').size(), 20);
+    EXPECT_TRUE(text.split(u'\n').back().startsWith(QStringLiteral("line ")));
+}
+
+TEST_F(EvolutionMarksTest, tellsHowManyFindingsThereAreBeyondTwentyLines)
+{
+    const std::string bytes = repeatedRows(50);
+    const std::size_t count = checkEvolutionText(bytes, "a.ev2").size();
+    ASSERT_GT(count, 50U);
+    const QStringList lines = findingsText(loadFile("a.ev2", bytes)).split(u'\n');
+    ASSERT_EQ(lines.size(), 20);
+    EXPECT_TRUE(lines.front().startsWith(QStringLiteral("line ")));
+    EXPECT_EQ(lines.back().toStdString(), "and " + std::to_string(count - 19) + " more");
+}
+
+TEST(NodeToolTip, showsTextThatLooksLikeHtmlAsItStands)
+{
+    QTreeWidgetItem node;
+    setPlainToolTip(node, QStringLiteral("<b>x</b>"));
+    EXPECT_TRUE(node.toolTip(0).contains(QStringLiteral("&lt;b&gt;x")));
+    setPlainToolTip(node, QStringLiteral("1 < 2"));
+    EXPECT_EQ(node.toolTip(0).toStdString(), "1 < 2");
+}

@@ -1,0 +1,82 @@
+// The nodes of the plots, and the buttons that add and remove plots.
+
+#include "explorer/WndEvolExplorerFixture.h"
+
+#include <gmock/gmock.h>
+
+using namespace tarsil;
+using test::WndEvolExplorerTest;
+using ::testing::ElementsAre;
+
+TEST_F(WndEvolExplorerTest, listsThePlotsAndShowsTheActiveOneBold)
+{
+    EXPECT_THAT(childTexts(node("Plots")), ElementsAre("Plot1"));
+    EXPECT_EQ(image(node("Plot1")), "plot");
+    EXPECT_EQ(taggedPlot(&node("Plot1")), &plotAt(0));
+    EXPECT_EQ(taggedEvolution(&node("Plot1")), nullptr);
+    EXPECT_TRUE(isBold(node("Plot1")));
+    choose("AddPlot");
+    EXPECT_THAT(childTexts(node("Plots")), ElementsAre("Plot1", "Plot2"));
+    EXPECT_EQ(plots.ActivePlot(), &plotAt(0)) << "a new plot is not active";
+    EXPECT_FALSE(isBold(node("Plot2")));
+    plots.ActivatePlot(&plotAt(1));
+    EXPECT_FALSE(isBold(node("Plot1")));
+    EXPECT_TRUE(isBold(node("Plot2")));
+    plots.ActivatePlot(nullptr);
+    EXPECT_FALSE(isBold(node("Plot2")));
+}
+
+TEST_F(WndEvolExplorerTest, copiesTheActivePlot)
+{
+    plotAt(0).setVthicks(3);
+    choose("CopyPlot");
+    EXPECT_THAT(childTexts(node("Plots")), ElementsAre("Plot1", "Plot1(2)"));
+    EXPECT_EQ(plotAt(1).vthicks(), 3);
+    plots.ActivatePlot(nullptr);
+    choose("CopyPlot");
+    EXPECT_EQ(node("Plots").childCount(), 2);
+    ASSERT_EQ(user.messages.size(), 1U);
+    EXPECT_EQ(user.messages[0].text, "Please select activate a plot.");
+}
+
+TEST_F(WndEvolExplorerTest, removesTheActivePlotButNotTheFirst)
+{
+    choose("AddPlot");
+    plots.ActivatePlot(&plotAt(1));
+    choose("RemovePlot");
+    EXPECT_THAT(childTexts(node("Plots")), ElementsAre("Plot1"));
+    EXPECT_TRUE(isBold(node("Plot1")));
+    choose("RemovePlot");
+    EXPECT_THAT(childTexts(node("Plots")), ElementsAre("Plot1"));
+    EXPECT_EQ(plots.plots().size(), 1U);
+    plots.ActivatePlot(nullptr);
+    choose("RemovePlot");
+    EXPECT_THAT(childTexts(node("Plots")), ElementsAre("Plot1"));
+    EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(WndEvolExplorerTest, givesAPlotACaptionOfItsOwn)
+{
+    plotAt(0).setCaption(QStringLiteral("Plot2"));
+    choose("AddPlot"); // would be Plot2 as well
+    EXPECT_THAT(childTexts(node("Plots")), ElementsAre("Plot2", "Plot2(2)"));
+    EXPECT_EQ(plotAt(1).Caption().toStdString(), "Plot2(2)");
+    plots.AddPlot(QStringLiteral("Plot2"));
+    EXPECT_EQ(plotAt(2).Caption().toStdString(), "Plot2(3)");
+    plots.AddPlot(QStringLiteral("free"));
+    EXPECT_EQ(plotAt(3).Caption().toStdString(), "free");
+}
+
+TEST_F(WndEvolExplorerTest, followsTheCaptionsOfThePlots)
+{
+    plotAt(0).setCaption(QStringLiteral("first"));
+    EXPECT_THAT(childTexts(node("Plots")), ElementsAre("first"));
+    EXPECT_EQ(taggedPlot(&node("first")), &plotAt(0));
+}
+
+TEST_F(WndEvolExplorerTest, makesTheActivatedPlotTheActiveOne)
+{
+    choose("AddPlot");
+    Q_EMIT tree().itemActivated(&node("Plot2"), 0); // a double click, or Enter
+    EXPECT_EQ(plots.ActivePlot(), &plotAt(1));
+}

@@ -1,0 +1,127 @@
+#pragma once
+
+#include "analysis/ModeBuilder.h"
+#include "explorer/ExplorerNode.h"
+#include "explorer/WndEvolExplorer.h"
+#include "model/Session.h"
+#include "support/FormParts.h"
+#include "support/ScriptedUserInterface.h"
+#include "vgf/WndEvolPlot.h"
+
+#include <QAction>
+#include <QTreeWidget>
+#include <QTreeWidgetItemIterator>
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace tarsil::test {
+
+using Texts = std::vector<std::string>;
+
+const ScriptedUserInterface::Message noEvolution {"Please select a modal evolution.", "Tarsil",
+                                                  MessageIcon::Exclamation};
+
+/// The explorer over a session and a plot window, whose first plot is active.
+class WndEvolExplorerTest : public ::testing::Test
+{
+protected:
+    WndEvolExplorerTest() : plots(user), explorer(session, plots, user)
+    {
+        plots.resize(400, 300);
+        plots.ActivatePlot(plots.plots().front());
+    }
+
+    /// Appends an evolution with modes of these numbers, each of two points.
+    EVM& load(const std::string& name, const std::vector<std::int16_t>& modes = {1})
+    {
+        EVM& evolution = *session.evolutions.emplace_back(std::make_unique<EVM>());
+        evolution.Folder = "/runs";
+        evolution.FileName = name;
+        evolution.Param.Airplane = "WING";
+        evolution.Param.Mass = "CLEAN";
+        evolution.Param.Mach = 0.78F;
+        evolution.Param.AnalysisType = "PK";
+        for (const std::int16_t mode : modes)
+            addMode(evolution, mode, {{100, -0.02F, 5}, {200, 0.01F, 6}});
+        return evolution;
+    }
+
+    EVM& fill(const std::string& name, const std::vector<std::int16_t>& modes = {1})
+    {
+        EVM& evolution = load(name, modes);
+        explorer.FillEvolsNode();
+        return evolution;
+    }
+
+    QTreeWidget& tree() { return partOf<QTreeWidget>(explorer, "tvwEvolExplorer"); }
+
+    /// The node with a key; a tree without it fails the test.
+    QTreeWidgetItem& node(const std::string& key)
+    {
+        for (QTreeWidgetItemIterator it(&tree()); *it != nullptr; ++it) {
+            if (keyOf(**it).toStdString() == key)
+                return **it;
+        }
+        throw std::runtime_error("no node " + key);
+    }
+    QTreeWidgetItem& valueOf(const std::string& key) { return *node(key).child(0); }
+    QTreeWidgetItem& evolutionNode(const EVM& evolution) { return node(evolution.path()); }
+
+    static std::string text(const QTreeWidgetItem& item) { return item.text(0).toStdString(); }
+    static std::string image(const QTreeWidgetItem& item)
+    {
+        return item.data(0, ImageRole).toString().toStdString();
+    }
+    static bool isBold(const QTreeWidgetItem& item) { return item.font(0).bold(); }
+    static Texts childTexts(const QTreeWidgetItem& item)
+    {
+        Texts texts;
+        for (int i = 0; i < item.childCount(); ++i)
+            texts.push_back(text(*item.child(i)));
+        return texts;
+    }
+
+    void select(QTreeWidgetItem& item) { tree().setCurrentItem(&item); }
+    static void tick(QTreeWidgetItem& item) { item.setCheckState(0, Qt::Checked); }
+    void choose(const char* key)
+    {
+        explorer.findChild<QAction*>(QString::fromLatin1(key))->trigger();
+    }
+
+    /// Types a text over a node's label and presses Enter; false when the label cannot be edited.
+    bool retype(QTreeWidgetItem& item, const std::string& newText)
+    {
+        for (QTreeWidgetItem* above = item.parent(); above != nullptr; above = above->parent())
+            above->setExpanded(true);
+        if (!item.flags().testFlag(Qt::ItemIsEditable))
+            return false;
+        tree().editItem(&item);
+        auto& editor = *tree().viewport()->findChild<QLineEdit*>();
+        editor.setText(QString::fromStdString(newText));
+        press(editor, Qt::Key_Return);
+        QApplication::processEvents();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return true;
+    }
+
+    /// The modes of a plot's series, as file and mode number: "a.evm 1".
+    static Texts curves(EvmPlot& plot)
+    {
+        Texts result;
+        for (const Series& series : plot.SeriesCollection())
+            result.push_back(series.Mode->Parent->FileName + " " + std::to_string(series.Mode->Id));
+        return result;
+    }
+    EvmPlot& plotAt(std::size_t place) { return *plots.plots().at(place); }
+
+    ScriptedUserInterface user;
+    Session session;
+    wndEvolPlot plots;
+    wndEvolExplorer explorer;
+};
+
+} // namespace tarsil::test
