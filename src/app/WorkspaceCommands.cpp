@@ -189,6 +189,7 @@ std::vector<EVM*> WorkspaceCommands::loadFiles(const WorkspaceRecord& record,
     mdlMain::loadEvolutions(m_session, paths, m_userInterface,
                             [this] { m_explorer.FillEvolsNode(); });
     std::vector<EVM*> evolutions;
+    evolutions.reserve(paths.size());
     for (const std::string& one : paths)
         evolutions.push_back(openEvolution(m_session, one));
     return evolutions;

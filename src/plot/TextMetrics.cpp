@@ -114,15 +114,15 @@ int TextMetrics::ascent(const Font& font) const
     return metricsOf(font).ascent();
 }
 
-std::vector<int> TextMetrics::advances(const QString& given, const Font& font) const
+std::vector<int> TextMetrics::advances(const QString& text, const Font& font) const
 {
     const QFontMetrics& metrics = metricsOf(font);
-    const QString text = drawableText(given);
+    const QString drawn = drawableText(text);
     std::vector<int> result;
-    result.reserve(static_cast<std::size_t>(text.size()));
-    for (qsizetype i = 0; i < text.size(); ++i)
-        result.push_back(text[i].isLowSurrogate() ? 0 : advanceAt(text, i, metrics));
-    stretch(result, widthOf(text, metrics));
+    result.reserve(static_cast<std::size_t>(drawn.size()));
+    for (qsizetype i = 0; i < drawn.size(); ++i)
+        result.push_back(drawn[i].isLowSurrogate() ? 0 : advanceAt(drawn, i, metrics));
+    stretch(result, widthOf(drawn, metrics));
     return result;
 }
 
