@@ -130,7 +130,7 @@ void wndMain::MDIForm_Load(const std::vector<std::string>& arguments)
         if (isMentioned(arguments, ".tsw"))
             m_workspace->OpenWorkSpace(workspaceOf(arguments));
         else if (isMentioned(arguments, ".evm") || isMentioned(arguments, ".ev2"))
-            load(arguments);
+            draw(load(arguments));
     });
 }
 
@@ -161,14 +161,19 @@ EvmPlot& wndMain::activePlot() const
     return *m_evolPlot->ActivePlot();
 }
 
-void wndMain::load(const std::vector<std::string>& paths)
+std::vector<EVM*> wndMain::load(const std::vector<std::string>& paths)
 {
-    const std::vector<EVM*> loaded = mdlMain::loadEvolutions(
-        m_session, paths, m_userInterface, [this] { m_explorer->FillEvolsNode(); });
-    const std::size_t drawn = plotEvolutions(activePlot(), loaded);
-    if (drawn < loaded.size())
+    return mdlMain::loadEvolutions(m_session, paths, m_userInterface,
+                                   [this] { m_explorer->FillEvolsNode(); });
+}
+
+/// Who starts the program with files wants to see them.
+void wndMain::draw(const std::vector<EVM*>& evolutions)
+{
+    const std::size_t drawn = plotEvolutions(activePlot(), evolutions);
+    if (drawn < evolutions.size())
         m_userInterface.showMessage(
-            std::to_string(loaded.size()) + " modal evolutions are loaded. "
+            std::to_string(evolutions.size()) + " modal evolutions are loaded. "
                 + (drawn == 0 ? "None of them is" : "The first " + std::to_string(drawn) + " are")
                 + " drawn: a plot takes no more curves at once.",
             "Tarsil", MessageIcon::None);

@@ -17,6 +17,7 @@ class QMenu;
 
 namespace tarsil {
 
+class EVM;
 class StatusPanels;
 class dlgDampLine;
 class dlgRefSpeed;
@@ -37,7 +38,8 @@ public:
 
     /// Shows the child windows in the default layout, makes the first plot active, and acts on the
     /// command line: one that holds ".tsw" anywhere names a workspace, otherwise one that holds
-    /// ".evm" or ".ev2" names evolutions to load. An error is reported, and the window stays.
+    /// ".evm" or ".ev2" names evolutions to load and to draw at once. An error is reported, and the
+    /// window stays.
     void MDIForm_Load(const std::vector<std::string>& arguments);
 
     /// The default layout of the child windows.
@@ -112,7 +114,8 @@ private:
     void showHelp();
     void stBar_PanelClick(int panel);
 
-    void load(const std::vector<std::string>& paths);
+    std::vector<EVM*> load(const std::vector<std::string>& paths);
+    void draw(const std::vector<EVM*>& evolutions);
     class EvmPlot& activePlot() const;
     QSize innerSize() const;
     std::vector<ChildFrame*> frames() const;

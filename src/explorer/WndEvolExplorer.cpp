@@ -80,8 +80,11 @@ void wndEvolExplorer::run(const std::function<void()>& action)
 
 void wndEvolExplorer::FillEvolsNode()
 {
-    for (EVM* const evolution : m_evolutions.fill(m_session))
+    const std::vector<EVM*> added = m_evolutions.fill(m_session);
+    for (EVM* const evolution : added)
         m_marks.add(*evolution);
+    if (!added.empty())
+        m_workspace.evolutions().setExpanded(true);
 }
 
 void wndEvolExplorer::SetAsRef()

@@ -42,7 +42,7 @@ private:
 
 } // namespace
 
-TEST_F(Commands, addModalEvolutions)
+TEST_F(Commands, addModalEvolutionsToTheExplorerAndDrawNone)
 {
     user.openFiles.push_back({sample("goland_clean_m050.ev2"), sample("goland_clean_m040.ev2"),
                               folder.file("gone.evm")});
@@ -51,7 +51,7 @@ TEST_F(Commands, addModalEvolutions)
     ASSERT_EQ(user.fileQuestions.size(), 1U);
     EXPECT_TRUE(user.fileQuestions[0].takesSeveral);
     EXPECT_EQ(window.session().evolutions.size(), 2U);
-    EXPECT_EQ(plot().SeriesCollection().size(), 2 * curves);
+    EXPECT_EQ(plot().SeriesCollection().size(), curves);
     ASSERT_EQ(user.messages.size(), 2U);
     EXPECT_EQ(user.messages[0].text, "Modal Evolution [goland_clean_m040.ev2] Already Loaded.");
     EXPECT_THAT(user.messages[1].text, StartsWith("Modal evolution file not found:\n"));
@@ -175,21 +175,6 @@ TEST_F(Commands, haveTwinsOfTheSameCaption)
           std::pair("mnuClearRef", "popClearRef"), std::pair("mnuAddDamp", "popAddDamp"),
           std::pair("mnuClearDamp", "popClearDamp"), std::pair("mnuFlutCalc", "popFlutCalc")})
         EXPECT_EQ(action(name).text(), action(twin).text());
-}
-
-TEST_F(Commands, tellThatAPlotTakesNoMoreCurves)
-{
-    std::vector<std::string> many;
-    const std::string text = test::fileBytes(sample("goland_clean_m040.ev2"));
-    for (int i = 0; i < 80; ++i) // of seven modes each
-        many.push_back(folder.write("many" + std::to_string(i) + ".ev2", text));
-    user.openFiles.push_back(many);
-    choose("AddMenu");
-    EXPECT_EQ(window.session().evolutions.size(), 81U);
-    ASSERT_EQ(user.messages.size(), 1U);
-    EXPECT_THAT(user.messages[0].text, StartsWith("80 modal evolutions are loaded. The first "));
-    ASSERT_FALSE(user.progress.empty());
-    EXPECT_EQ(user.progress.back(), std::pair(std::size_t {80}, std::size_t {80}));
 }
 
 TEST_F(Commands, reportADampingLineThatCannotBeDrawn)

@@ -134,6 +134,22 @@ TEST_F(WndMainTest, startsWithTheFirstPlotActive)
     EXPECT_EQ(plot().Caption(), QStringLiteral("Plot1"));
 }
 
+TEST_F(WndMainTest, tellsThatAPlotTakesNoMoreCurves)
+{
+    std::vector<std::string> many;
+    const std::string text = test::fileBytes(sample("goland_clean_m040.ev2"));
+    for (int i = 0; i < 80; ++i) // of seven modes each
+        many.push_back(folder.write("many" + std::to_string(i) + ".ev2", text));
+    load(many);
+    EXPECT_EQ(window.session().evolutions.size(), 80U);
+    ASSERT_EQ(user.messages.size(), 1U);
+    EXPECT_EQ(user.messages[0].text,
+              "80 modal evolutions are loaded. The first 71 are drawn: a plot takes no more curves "
+              "at once."); // 71 x 7 = 497 of 500
+    ASSERT_FALSE(user.progress.empty());
+    EXPECT_EQ(user.progress.back(), std::pair(std::size_t {80}, std::size_t {80}));
+}
+
 TEST_F(WndMainTest, loadsTheEvolutionsOfTheCommandLine)
 {
     load({sample("goland_clean_m040.ev2"), sample("goland_clean_m050.ev2")});
