@@ -4,6 +4,7 @@
 #include "app/DlgRefSpeed.h"
 #include "app/EvolutionPlotter.h"
 #include "app/StatusPanels.h"
+#include "control/WndData.h"
 #include "explorer/WndEvolExplorer.h"
 #include "explorer/WndSelModes.h"
 #include "model/EvolutionLoader.h"
@@ -24,15 +25,6 @@
 namespace tarsil {
 
 namespace {
-
-/// A child window whose contents belong to the work to come.
-QWidget* emptyWindow(const char* name, const char* title)
-{
-    auto* const window = new QWidget;
-    window->setObjectName(QString::fromLatin1(name));
-    window->setWindowTitle(QString::fromLatin1(title));
-    return window;
-}
 
 /// The command line's workspace: a path that was given in one piece, or the whole text.
 std::string workspaceOf(const std::vector<std::string>& arguments)
@@ -89,8 +81,11 @@ void wndMain::makeChildWindows()
         m_area->addSubWindow(frame);
         return frame;
     };
-    m_frames.data = frameOf(emptyWindow("wndData", "Data Control"));
     m_explorer = new wndEvolExplorer(m_session, *m_evolPlot, m_userInterface);
+    m_data = new wndData(
+        *m_evolPlot, m_airplane, [this] { return m_explorer->referenceEvolution(); },
+        m_userInterface);
+    m_frames.data = frameOf(m_data);
     m_frames.explorer = frameOf(m_explorer);
     m_frames.plot = frameOf(m_evolPlot);
     connect(m_evolPlot, &wndEvolPlot::failed, this, [this](const RunTimeError& error) {

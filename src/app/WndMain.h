@@ -1,5 +1,6 @@
 #pragma once
 
+#include "aircraft/AirplaneInfo.h"
 #include "app/ChildFrame.h"
 #include "app/FlutterReportCommand.h"
 #include "app/WorkspaceCommands.h"
@@ -21,6 +22,7 @@ class EVM;
 class StatusPanels;
 class dlgDampLine;
 class dlgRefSpeed;
+class wndData;
 class wndEvolExplorer;
 class wndEvolPlot;
 
@@ -122,12 +124,14 @@ private:
 
     UserInterface& m_userInterface;
     Session m_session;
+    AirplaneInfo m_airplane;
     FlutterReportCommand m_report;
     QString m_reportFolder;
     QMdiArea* m_area;
     StatusPanels* m_statusPanels;
     wndEvolPlot* m_evolPlot = nullptr;
     wndEvolExplorer* m_explorer = nullptr;
+    wndData* m_data = nullptr;
     std::unique_ptr<WorkspaceCommands> m_workspace;
     ChildFrames m_frames {};
     QMenu* m_plotMenu = nullptr;

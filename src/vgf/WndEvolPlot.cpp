@@ -105,8 +105,10 @@ void wndEvolPlot::RemovePlot(EvmPlot* plot)
 
 void wndEvolPlot::AddSerie(AeMode& mode)
 {
-    if (hasActivePlot())
-        m_activePlot->addSeries(mode);
+    if (!hasActivePlot())
+        return;
+    m_activePlot->addSeries(mode);
+    Q_EMIT seriesAdded(m_activePlot);
 }
 
 void wndEvolPlot::FitPlot(EvmPlot* plot)

@@ -71,6 +71,9 @@ Q_SIGNALS:
     /// A plot, which is not active any more, ends when all have heard of it.
     void plotAboutToBeRemoved(tarsil::EvmPlot* plot);
 
+    /// `AddSerie` has added a series, the last one of the plot; it is not drawn yet.
+    void seriesAdded(tarsil::EvmPlot* plot);
+
     /// The user wants the menu of the active plot, by the right button or by the keyboard.
     void plotMenuRequested(QPoint globalPosition);
 

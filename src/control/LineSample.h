@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QStyledItemDelegate>
+
+namespace tarsil {
+
+struct Series;
+
+/// Draws the line of a series, as the plot draws its curve, across the middle of a rectangle.
+void drawLineSample(QPainter& painter, const QRect& rectangle, const Series& series);
+
+/// Shows the lines of the series in a column of the grid.
+class LineSampleDelegate : public QStyledItemDelegate
+{
+    Q_OBJECT
+
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override;
+};
+
+} // namespace tarsil

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+
+namespace tarsil {
+
+class AirplaneInfo;
+class EVM;
+class EvmPlot;
+
+// The texts and marks that a plot gets from what is known about an evolution and its airplane.
+
+/// The header in three lines: airplane and mass configuration; method and Mach number; what the
+/// user says.
+QString headerText(const EVM& evolution, const QString& lastLine);
+
+/// Marks the speeds of the flutter envelope at the evolution's Mach number in the place of the
+/// reference speeds that the plot has: ceiling, dive speed, limit speed. Error 5 when the airplane
+/// has no envelope at that Mach number; the plot is unchanged then.
+void markEnvelope(EvmPlot& plot, const EVM& evolution, const AirplaneInfo& airplane);
+
+/// Gives a plot the subtitle and the axes of a flutter mechanism. Error 5 when the airplane has
+/// none of that name, 6 for a tick count beyond 16 bits; the plot is unchanged then.
+void showMechanism(EvmPlot& plot, const AirplaneInfo& airplane, const QString& shortName,
+                   bool withLongName);
+
+/// Writes the legend of a plot, in `points`: a line "[tag] text" in the curve's colour for each
+/// series that has a legend text.
+void writeLegend(EvmPlot& plot, double points);
+
+} // namespace tarsil

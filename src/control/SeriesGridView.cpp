@@ -1,0 +1,143 @@
+#include "control/SeriesGridView.h"
+
+#include "control/SeriesGridModel.h"
+
+#include <QDropEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <set>
+
+namespace tarsil {
+
+namespace {
+
+constexpr int indexColumn = static_cast<int>(SeriesColumn::Index);
+constexpr int modeColumn = static_cast<int>(SeriesColumn::Mode);
+constexpr int lineColumn = static_cast<int>(SeriesColumn::Line);
+
+} // namespace
+
+SeriesGridView::SeriesGridView(QWidget* parent) : QTableView(parent)
+{
+    setSelectionMode(QAbstractItemView::ExtendedSelection);
+    setSelectionBehavior(QAbstractItemView::SelectItems);
+    setDragDropMode(QAbstractItemView::InternalMove);
+    setDragDropOverwriteMode(false);
+    setDefaultDropAction(Qt::MoveAction);
+    setWordWrap(false);
+    setTabKeyNavigation(false); // Tab leaves the grid
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+    connect(this, &QTableView::doubleClicked, this, [this](const QModelIndex& index) {
+        if (index.column() == lineColumn)
+            Q_EMIT styleWanted();
+    });
+}
+
+std::vector<std::size_t> SeriesGridView::selectedRows() const
+{
+    std::set<std::size_t> rows;
+    for (const QItemSelectionRange& range : selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows.insert(static_cast<std::size_t>(row));
+    }
+    if (rows.empty() && currentIndex().isValid())
+        rows.insert(static_cast<std::size_t>(currentIndex().row()));
+    return {rows.begin(), rows.end()};
+}
+
+bool SeriesGridView::isSelectedOnlyIn(int column) const
+{
+    const QItemSelection selection = selectionModel()->selection();
+    return !selection.isEmpty()
+        && std::all_of(selection.begin(), selection.end(), [column](const auto& range) {
+               return range.left() == column && range.right() == column;
+           });
+}
+
+void SeriesGridView::selectRows(std::size_t first, std::size_t count, int column)
+{
+    if (count == 0)
+        return;
+    const QModelIndex top = model()->index(static_cast<int>(first), column);
+    const QModelIndex bottom = model()->index(static_cast<int>(first + count) - 1, column);
+    selectionModel()->setCurrentIndex(top, QItemSelectionModel::NoUpdate);
+    selectionModel()->select({top, bottom}, QItemSelectionModel::ClearAndSelect);
+    scrollTo(top);
+}
+
+void SeriesGridView::keyPressEvent(QKeyEvent* event)
+{
+    if (state() != EditingState && handleKey(*event))
+        return;
+    QTableView::keyPressEvent(event);
+}
+
+/// Whether the key is one of the grid's own.
+bool SeriesGridView::handleKey(const QKeyEvent& event)
+{
+    const bool isAlt = event.modifiers() == Qt::AltModifier;
+    const int column = currentIndex().column();
+    if (event.matches(QKeySequence::Delete))
+        Q_EMIT removeWanted();
+    else if (isAlt && event.key() == Qt::Key_Up)
+        Q_EMIT moveUpWanted();
+    else if (isAlt && event.key() == Qt::Key_Down)
+        Q_EMIT moveDownWanted();
+    else if (column == modeColumn && event.key() == Qt::Key_Plus)
+        Q_EMIT raiseWanted();
+    else if (column == modeColumn && event.key() == Qt::Key_Minus)
+        Q_EMIT lowerWanted();
+    else if (column == lineColumn
+             && (event.key() == Qt::Key_F2 || event.key() == Qt::Key_Return
+                 || event.key() == Qt::Key_Enter))
+        Q_EMIT styleWanted();
+    else
+        return false;
+    return true;
+}
+
+/// Only the first column is a handle: elsewhere dragging selects cells.
+void SeriesGridView::mousePressEvent(QMouseEvent* event)
+{
+    setDragEnabled(indexAt(event->position().toPoint()).column() == indexColumn);
+    QTableView::mousePressEvent(event);
+}
+
+int SeriesGridView::gapAt(QPoint place) const
+{
+    const QModelIndex index = indexAt(place);
+    if (!index.isValid())
+        return model()->rowCount();
+    const bool isLowerHalf = place.y() > visualRect(index).center().y();
+    return index.row() + (isLowerHalf ? 1 : 0);
+}
+
+/// Accepted as a copy, so that nobody removes the rows that were dragged: they are moved by whoever
+/// hears of it.
+void SeriesGridView::dropEvent(QDropEvent* event)
+{
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    setState(NoState);
+    viewport()->update();
+    Q_EMIT rowsDropped(gapAt(event->position().toPoint()));
+}
+
+void SeriesGridView::paintEvent(QPaintEvent* event)
+{
+    QTableView::paintEvent(event);
+    if (model()->rowCount() > 0)
+        return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    constexpr int margin = 12;
+    painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
+                     Qt::AlignCenter | Qt::TextWordWrap, m_placeholder);
+}
+
+} // namespace tarsil

@@ -1,0 +1,173 @@
+#include "control/WndData.h"
+
+#include "ui_WndData.h"
+
+#include "aircraft/AirplaneInfo.h"
+#include "control/LineSample.h"
+#include "runtime/ErrorGuard.h"
+#include "runtime/ErrorReport.h"
+#include "runtime/UserInterface.h"
+#include "vgf/WndEvolPlot.h"
+
+#include <QMenu>
+#include <QSignalBlocker>
+
+#include <utility>
+
+namespace tarsil {
+
+namespace {
+
+constexpr std::string_view module = "wndData";
+
+int columnNumber(SeriesColumn column)
+{
+    return static_cast<int>(column);
+}
+
+} // namespace
+
+wndData::wndData(wndEvolPlot& plots, const AirplaneInfo& airplane, ReferenceEvolution reference,
+                 UserInterface& user, QWidget* parent)
+    : QWidget(parent), m_ui(std::make_unique<Ui::wndData>()), m_plots(plots), m_airplane(airplane),
+      m_reference(std::move(reference)), m_user(user)
+{
+    m_ui->setupUi(this);
+    m_spacing = m_ui->mkspaceInp->text();
+    setFocusProxy(m_ui->flxSerieViewer);
+    connectGrid();
+    connectButtons();
+    connectOptions();
+    makeMoveMenu();
+    fillMechanisms();
+    connect(&m_plots, &wndEvolPlot::activePlotChanged, this,
+            [this](EvmPlot* /*before*/, EvmPlot* now) { m_model.setPlot(now); });
+    connect(&m_plots, &wndEvolPlot::plotAboutToBeRemoved, this,
+            [this](EvmPlot* plot) { m_model.forget(plot); });
+    connect(&m_plots, &wndEvolPlot::seriesAdded, this, &wndData::styleNewSeries);
+    m_model.setPlot(m_plots.ActivePlot());
+}
+
+wndData::~wndData() = default;
+
+QSize wndData::sizeHint() const
+{
+    return {620, 480};
+}
+
+void wndData::connectGrid()
+{
+    SeriesGridView& grid = *m_ui->flxSerieViewer;
+    grid.setModel(&m_model);
+    grid.setItemDelegateForColumn(columnNumber(SeriesColumn::Line), new LineSampleDelegate(&grid));
+    grid.setPlaceholder(tr("Tick modal evolutions in the explorer and press \"Select Modal "
+                           "Evolution\", or pick modes with the right button there."));
+    QHeaderView& header = *grid.horizontalHeader();
+    header.setHighlightSections(false);
+    header.setStretchLastSection(true);
+    constexpr std::array widths = {36, 170, 44, 44, 48};
+    for (int column = 0; column < static_cast<int>(widths.size()); ++column)
+        header.resizeSection(column, widths[static_cast<std::size_t>(column)]);
+    connect(&grid, &SeriesGridView::removeWanted, this, runs(&wndData::cmdRemove_Click));
+    connect(&grid, &SeriesGridView::raiseWanted, this, runs(&wndData::cmdIncMode_Click));
+    connect(&grid, &SeriesGridView::lowerWanted, this, runs(&wndData::cmdDecMode_Click));
+    connect(&grid, &SeriesGridView::moveUpWanted, this, runs(&wndData::moveUp));
+    connect(&grid, &SeriesGridView::moveDownWanted, this, runs(&wndData::moveDown));
+    connect(&grid, &SeriesGridView::styleWanted, this, runs(&wndData::chooseLine));
+    connect(&grid, &SeriesGridView::rowsDropped, this, [this](int target) {
+        run([=, this] { moveSelectedTo(static_cast<std::size_t>(target)); });
+    });
+    connect(&m_model, &SeriesGridModel::rowsReplaced, this, &wndData::showMarkers);
+    connect(&m_model, &SeriesGridModel::edited, this,
+            [this](SeriesColumn column) { run([=, this] { afterEdit(column); }); });
+    connect(&m_model, &SeriesGridModel::refused, this, [this](const RunTimeError& error) {
+        m_user.showMessage(errorReport(error, module), "Error", MessageIcon::Critical);
+    });
+}
+
+void wndData::connectButtons()
+{
+    const std::pair<QPushButton*, Handler> buttons[] = {
+        {m_ui->cmdDrawPlot, &wndData::cmdDrawPlot_Click},
+        {m_ui->btnFitFreq, &wndData::btnFitFreq_Click},
+        {m_ui->cmdIncMode, &wndData::cmdIncMode_Click},
+        {m_ui->cmdDecMode, &wndData::cmdDecMode_Click},
+        {m_ui->cmdRemove, &wndData::cmdRemove_Click},
+        {m_ui->btnResColor, &wndData::btnResColor_Click},
+        {m_ui->SavePic, &wndData::SavePic_Click},
+        {m_ui->btnAutoRef, &wndData::btnAutoRef_Click},
+        {m_ui->btnMakHead, &wndData::btnMakHead_Click},
+        {m_ui->btnFilltLeg, &wndData::btnFilltLeg_Click},
+        {m_ui->btnPlotLeg, &wndData::btnPlotLeg_Click}};
+    for (const auto& [button, handler] : buttons)
+        connect(button, &QPushButton::clicked, this, runs(handler));
+    connect(m_ui->btnSerieMove, &QToolButton::clicked, this, runs(&wndData::btnSerieMove_Click));
+}
+
+void wndData::connectOptions()
+{
+    connect(m_ui->cmbFlutMech, &QComboBox::activated, this, runs(&wndData::cmbFlutMech_Click));
+    for (QRadioButton* option : {m_ui->optFlutMecLong, m_ui->optFlutMecShort})
+        connect(option, &QRadioButton::clicked, this, runs(&wndData::cmbFlutMech_Click));
+    connect(m_ui->tagBtn, &QRadioButton::clicked, this, runs(&wndData::tagBtn_Click));
+    connect(m_ui->mkspaceInp, &QLineEdit::editingFinished, this,
+            runs(&wndData::mkspaceInp_LostFocus));
+}
+
+/// A click moves up; the menu has the other ways.
+void wndData::makeMoveMenu()
+{
+    auto* const menu = new QMenu(this);
+    const auto add = [&](const QString& text, const std::function<void()>& action) {
+        connect(menu->addAction(text), &QAction::triggered, this, [this, action] { run(action); });
+    };
+    add(tr("Up\tAlt+Up"), [this] { moveUp(); });
+    add(tr("Down\tAlt+Down"), [this] { moveDown(); });
+    add(tr("To the Top"), [this] { moveSelectedTo(0); });
+    add(tr("To the Bottom"),
+        [this] { moveSelectedTo(static_cast<std::size_t>(m_model.rowCount())); });
+    m_ui->btnSerieMove->setMenu(menu);
+}
+
+void wndData::run(const std::function<void()>& action)
+{
+    guarded(m_user, module, action);
+}
+
+std::function<void()> wndData::runs(Handler handler)
+{
+    return [this, handler] { run([this, handler] { (this->*handler)(); }); };
+}
+
+void wndData::warn(const std::string& text)
+{
+    m_user.showMessage(text, "Tarsil", MessageIcon::Exclamation);
+}
+
+/// Null, after a message, when no plot is active.
+EvmPlot* wndData::activePlot()
+{
+    if (m_plots.ActivePlot() == nullptr)
+        warn("Please select activate a plot.");
+    return m_plots.ActivePlot();
+}
+
+/// Null, after a message, when there is none.
+const EVM* wndData::reference()
+{
+    const EVM* const evolution = m_reference();
+    if (evolution == nullptr)
+        warn("Please select a reference modal evolution.");
+    return evolution;
+}
+
+void wndData::fillMechanisms()
+{
+    const QSignalBlocker quiet(m_ui->cmbFlutMech);
+    m_ui->cmbFlutMech->clear();
+    for (const FlutterMechanism& mechanism : m_airplane.FlutterMechs)
+        m_ui->cmbFlutMech->addItem(QString::fromStdString(mechanism.ShortName));
+    m_ui->cmbFlutMech->setCurrentIndex(-1);
+}
+
+} // namespace tarsil

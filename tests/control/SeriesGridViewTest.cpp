@@ -1,0 +1,124 @@
+// The grid of series under keys and mouse.
+
+#include "WndDataFixture.h"
+
+#include <QTest>
+
+#include <gmock/gmock.h>
+
+using namespace tarsil;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+namespace {
+
+class SeriesGridViewTest : public test::WndDataTest
+{
+protected:
+    SeriesGridViewTest()
+    {
+        EVM& evolution = load("a.ev2", 4);
+        for (std::size_t mode = 1; mode <= 4; ++mode)
+            add(evolution, mode);
+        data.resize(600, 500);
+        data.show();
+    }
+
+    QPoint cellCenter(int row, SeriesColumn column)
+    {
+        return grid().visualRect(model().index(row, static_cast<int>(column))).center();
+    }
+    void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::keyClick(&grid(), static_cast<Qt::Key>(key), modifiers);
+    }
+};
+
+} // namespace
+
+TEST_F(SeriesGridViewTest, tellsWhichRowsAreSelected)
+{
+    EXPECT_THAT(grid().selectedRows(), IsEmpty());
+    EXPECT_FALSE(grid().isSelectedOnlyIn(3));
+    select(1, 2, SeriesColumn::Mode);
+    EXPECT_THAT(grid().selectedRows(), ElementsAre(1, 2));
+    EXPECT_TRUE(grid().isSelectedOnlyIn(3));
+    grid().selectionModel()->select(model().index(0, 5), QItemSelectionModel::Select);
+    EXPECT_THAT(grid().selectedRows(), ElementsAre(0, 1, 2));
+    EXPECT_FALSE(grid().isSelectedOnlyIn(3));
+}
+
+TEST_F(SeriesGridViewTest, removesRowsWithDelete)
+{
+    select(1, 2, SeriesColumn::Tag);
+    press(Qt::Key_Delete);
+    EXPECT_THAT(drawnModes(), ElementsAre(1, 4));
+}
+
+TEST_F(SeriesGridViewTest, raisesAndLowersModesWithPlusAndMinus)
+{
+    select(0, 2, SeriesColumn::Mode);
+    press(Qt::Key_Plus);
+    EXPECT_THAT(drawnModes(), ElementsAre(2, 3, 3, 4));
+    press(Qt::Key_Minus);
+    EXPECT_THAT(drawnModes(), ElementsAre(1, 2, 3, 4));
+    select(0, 1, SeriesColumn::Legend);
+    press(Qt::Key_Plus);
+    EXPECT_THAT(drawnModes(), ElementsAre(1, 2, 3, 4)) << "elsewhere a plus is text";
+}
+
+TEST_F(SeriesGridViewTest, movesRowsWithAltAndTheArrows)
+{
+    select(1, 2, SeriesColumn::Tag);
+    press(Qt::Key_Up, Qt::AltModifier);
+    EXPECT_THAT(drawnModes(), ElementsAre(2, 3, 1, 4));
+    EXPECT_THAT(grid().selectedRows(), ElementsAre(0, 1)) << "they stay selected";
+    press(Qt::Key_Up, Qt::AltModifier);
+    EXPECT_THAT(drawnModes(), ElementsAre(2, 3, 1, 4)) << "already at the top";
+    for (int i = 0; i < 3; ++i)
+        press(Qt::Key_Down, Qt::AltModifier);
+    EXPECT_THAT(drawnModes(), ElementsAre(1, 4, 2, 3));
+}
+
+TEST_F(SeriesGridViewTest, movesRowsToTheGapWhereTheyAreDropped)
+{
+    select(3, 1, SeriesColumn::Index);
+    const auto drop = [this](QPoint place) { Q_EMIT grid().rowsDropped(grid().gapAt(place)); };
+    drop(cellCenter(0, SeriesColumn::Index) - QPoint(0, 4));
+    EXPECT_THAT(drawnModes(), ElementsAre(4, 1, 2, 3));
+    drop(cellCenter(1, SeriesColumn::Index) + QPoint(0, 4));
+    EXPECT_THAT(drawnModes(), ElementsAre(1, 4, 2, 3));
+    drop(QPoint(20, grid().viewport()->height() - 5)); // below the last row
+    EXPECT_THAT(drawnModes(), ElementsAre(1, 2, 3, 4));
+}
+
+TEST_F(SeriesGridViewTest, dragsRowsByTheirFirstColumnOnly)
+{
+    QTest::mouseClick(grid().viewport(), Qt::LeftButton, {}, cellCenter(1, SeriesColumn::Index));
+    EXPECT_TRUE(grid().dragEnabled());
+    QTest::mouseClick(grid().viewport(), Qt::LeftButton, {}, cellCenter(1, SeriesColumn::Mode));
+    EXPECT_FALSE(grid().dragEnabled());
+}
+
+TEST_F(SeriesGridViewTest, editsACellInPlace)
+{
+    select(2, 1, SeriesColumn::Legend);
+    press(Qt::Key_F2);
+    auto* const editor = grid().findChild<QLineEdit*>();
+    ASSERT_NE(editor, nullptr);
+    QTest::keyClicks(editor, QStringLiteral("third-+"));
+    QTest::keyClick(editor, Qt::Key_Return);
+    QApplication::processEvents();
+    EXPECT_EQ(series()[2].LegendText, QStringLiteral("third-+"));
+    EXPECT_THAT(drawnModes(), ElementsAre(1, 2, 3, 4));
+}
+
+TEST_F(SeriesGridViewTest, saysWhatToDoWhileItIsEmpty)
+{
+    const auto picture = [this] { return grid().viewport()->grab().toImage(); };
+    series().clear();
+    plot().plot();
+    const QImage withText = picture();
+    grid().setPlaceholder(QString());
+    EXPECT_NE(withText, picture());
+}
