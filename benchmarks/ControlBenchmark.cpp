@@ -1,0 +1,117 @@
+// What a click in the Data Control window costs with 500 rows, against drawing the plot alone.
+
+#include "RatioTable.h"
+#include "aircraft/AirplaneInfo.h"
+#include "control/SeriesGridView.h"
+#include "control/WndData.h"
+#include "model/EVM.h"
+#include "runtime/UserInterface.h"
+#include "vgf/WndEvolPlot.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include <cmath>
+#include <optional>
+
+namespace {
+
+using namespace tarsil;
+
+constexpr int rowCount = 500;
+constexpr int modeCount = 50;
+constexpr int pointCount = 50;
+constexpr int turns = 7;
+
+/// A user who has nothing to say.
+class SilentUser : public UserInterface
+{
+public:
+    void showMessage(const std::string& text, const std::string&, MessageIcon) override
+    {
+        std::fputs((text + "\n").c_str(), stderr);
+    }
+    bool confirm(const std::string&, const std::string&) override { return false; }
+    std::optional<std::string> askText(const std::string&, const std::string&) override
+    {
+        return std::nullopt;
+    }
+    std::vector<std::string> askOpenFiles(const FileQuestion&) override { return {}; }
+    std::optional<std::string> askSaveFile(const FileQuestion&) override { return std::nullopt; }
+    void showStatus(std::string_view) override { }
+    void showProgress(std::size_t, std::size_t) override { }
+};
+
+void fillEvolution(EVM& evolution)
+{
+    evolution.FileName = "case.ev2";
+    evolution.na = modeCount;
+    evolution.Param.legends.add("1", "a wing with its fuel");
+    for (int m = 0; m < modeCount; ++m) {
+        AeMode& mode = evolution.appendMode();
+        mode.Id = static_cast<std::int16_t>(m + 1);
+        for (int i = 0; i < pointCount; ++i) {
+            Point& point = mode.Points.emplace_back();
+            point.Parent = &mode;
+            point.speed = 14.0F * static_cast<float>(i);
+            point.f = 1.0F * static_cast<float>(m) + 0.01F * static_cast<float>(i);
+            point.G = -0.1F + 0.002F * static_cast<float>(m + i);
+        }
+    }
+}
+
+void click(QWidget& window, const char* name)
+{
+    window.findChild<QPushButton*>(QString::fromLatin1(name))->click();
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QApplication application(argc, argv);
+    EVM evolution;
+    fillEvolution(evolution);
+    const AirplaneInfo airplane;
+    SilentUser user;
+    wndEvolPlot plots(user);
+    plots.resize(640, 720);
+    plots.ActivatePlot(plots.plots().front());
+    wndData data(
+        plots, airplane, [] { return nullptr; }, user);
+    data.resize(640, 560);
+    for (int i = 0; i < rowCount; ++i)
+        plots.AddSerie(*evolution.Modes[static_cast<std::size_t>(i % (modeCount - 2))]);
+    EvmPlot& plot = *plots.ActivePlot();
+    plot.plot();
+    plots.show();
+    data.show();
+    auto* const grid = data.findChild<SeriesGridView*>();
+    grid->selectRows(0, rowCount, static_cast<int>(SeriesColumn::Mode));
+    const auto paint = [&] {
+        plots.grab();
+        data.grab();
+    };
+    const auto draw = [&] {
+        plot.plot();
+        plots.grab();
+    };
+    const char* const reference = "drawing and painting the plot";
+    const auto changeModes = [&] {
+        click(data, "cmdIncMode");
+        click(data, "cmdDecMode");
+        paint();
+    };
+    benchmarks::printRow("modes of 500 rows raised and lowered, plot and grid painted", reference,
+                         benchmarks::bestOfTurns(turns, changeModes, draw), "<= 3");
+    data.findChild<QLineEdit*>(QStringLiteral("txtLegIdx"))->setText(QStringLiteral("0"));
+    const auto writeLegend = [&] {
+        click(data, "btnFilltLeg");
+        click(data, "btnPlotLeg");
+        paint();
+    };
+    benchmarks::printRow("legends of 500 rows filled and written, plot and grid painted", reference,
+                         benchmarks::bestOfTurns(turns, writeLegend, draw), "<= 5");
+    return 0;
+}
