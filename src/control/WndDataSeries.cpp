@@ -213,12 +213,17 @@ void wndData::showMarkers()
         m_ui->ithmpfInp->setText(QString::number(series->IthMpf));
 }
 
-/// A curve that the user adds gets the markers that stand here, in its colour.
+/// A curve that the user adds gets the markers that stand here, in its colour. What is wrong in
+/// them is told by "Plot", and not once for each of many curves.
 void wndData::styleNewSeries(EvmPlot* plot)
 {
     Series& series = plot->SeriesCollection().back();
     series.MarkerForegroundColor = series.ColorIndex;
-    run([&] { mdlData::setMarkers(series, markerOptions()); });
+    try {
+        mdlData::setMarkers(series, markerOptions());
+    } catch (const RunTimeError&) {
+        mdlData::setMarkers(series, {});
+    }
 }
 
 /// The box is as before when the message comes: the message takes the focus once more.

@@ -77,6 +77,17 @@ TEST_F(WndDataSeries, givesAddedCurvesTheMarkersThatStandThere)
     EXPECT_EQ(series()[1].MarkerForegroundColor, BaseColors[1]);
 }
 
+TEST_F(WndDataSeries, givesAddedCurvesPlainMarkersWhileTheOptionsAreWrong)
+{
+    addRows();
+    test::type(data, "mksizeInp", "big");
+    add(load("c.ev2"));
+    EXPECT_EQ(series().back().MarkerStyle, markerstyle::modeNumber);
+    EXPECT_THAT(user.messages, IsEmpty());
+    click("cmdDrawPlot");
+    EXPECT_EQ(user.messages.size(), 1U);
+}
+
 TEST_F(WndDataSeries, raisesTheModesOfTheSelectedRowsUpToTheLast)
 {
     addRows();
