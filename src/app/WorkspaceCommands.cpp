@@ -11,6 +11,7 @@
 #include "runtime/RunTimeError.h"
 #include "vgf/PlotRecords.h"
 #include "vgf/WndEvolPlot.h"
+#include "workspace/FoundFiles.h"
 #include "workspace/WorkspaceReader.h"
 #include "workspace/WorkspaceWriter.h"
 
@@ -26,8 +27,6 @@ namespace tarsil {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr std::size_t mostFilesLookedAt = 20000; ///< below the folder of a workspace
 
 /// The path with the extension of a workspace, unless it has one.
 std::string withExtension(const std::string& path)
@@ -59,26 +58,6 @@ EVM* openEvolution(const Session& session, const std::string& path)
 }
 
 } // namespace
-
-std::string foundFile(const std::string& stored, const std::string& workspacePath)
-{
-    if (fileExists(stored))
-        return stored;
-    const fs::path name = nativePath(stored).filename();
-    std::error_code failed;
-    const fs::path folder = nativePath(resolvePath(workspacePath).folder + "\\");
-    if (fs::is_regular_file(folder / name, failed))
-        return pathText(folder / name);
-    fs::recursive_directory_iterator place(folder, fs::directory_options::skip_permission_denied,
-                                           failed);
-    std::size_t looked = 0;
-    for (; !failed && place != fs::recursive_directory_iterator() && looked < mostFilesLookedAt;
-         place.increment(failed), ++looked) {
-        if (place->path().filename() == name && place->is_regular_file(failed))
-            return pathText(place->path());
-    }
-    return stored;
-}
 
 WorkspaceCommands::WorkspaceCommands(Session& session, wndEvolPlot& plots,
                                      wndEvolExplorer& explorer, UserInterface& userInterface)
@@ -183,9 +162,7 @@ void WorkspaceCommands::open(const std::string& path)
 std::vector<EVM*> WorkspaceCommands::loadFiles(const WorkspaceRecord& record,
                                                const std::string& path)
 {
-    std::vector<std::string> paths;
-    for (const std::string& stored : record.files)
-        paths.push_back(foundFile(stored, path));
+    const std::vector<std::string> paths = foundFiles(record.files, path);
     mdlMain::loadEvolutions(m_session, paths, m_userInterface,
                             [this] { m_explorer.FillEvolsNode(); });
     std::vector<EVM*> evolutions;

@@ -61,8 +61,4 @@ private:
     WorkspaceRecord m_saved; ///< the state when it was last saved or opened
 };
 
-/// The file that a workspace names: where it says, or else the first one of that name in the folder
-/// of the workspace or below it. The stored path when there is none.
-std::string foundFile(const std::string& stored, const std::string& workspacePath);
-
 } // namespace tarsil

@@ -21,7 +21,7 @@ std::string programHelp()
 {
     std::string text = "Usage: tarsil-batch COMMAND [OPTION]... FILE...\n\n"
                        "Does without a window what tarsil does with one. Each FILE is a modal\n"
-                       "evolution (.evm or .ev2).\n\n"
+                       "evolution (.evm or .ev2) or a workspace (.tsw).\n\n"
                        "Commands:\n";
     constexpr std::size_t width = 9;
     for (const Command* command : commands) {

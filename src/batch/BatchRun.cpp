@@ -23,7 +23,9 @@ EVM& BatchRun::open(const std::string& path)
     if (!tellsLayout && !fileExists(path))
         throw fileError(ENOENT, "tarsil-batch", path);
     if (!tellsLayout)
-        throw Failure(path + ": a modal evolution has .evm or .ev2 in its name");
+        throw Failure(path
+                      + ": a modal evolution has .evm or .ev2 in its name, and a workspace .tsw "
+                        "at its end");
     return m_session.open(path);
 }
 

@@ -1,5 +1,7 @@
 #include "batch/BatchRun.h"
 #include "batch/Commands.h"
+#include "batch/WorkspaceChecker.h"
+#include "batch/WorkspaceInput.h"
 #include "model/EvolutionChecker.h"
 #include "runtime/RunTimeError.h"
 
@@ -13,7 +15,8 @@ namespace {
 bool check(const std::string& path, BatchRun& run)
 {
     try {
-        const std::vector<Finding> findings = checkEvolution(path);
+        const std::vector<Finding> findings =
+            isWorkspace(path) ? checkWorkspace(path, run) : checkEvolution(path);
         for (const Finding& finding : findings)
             run.out() << path << ':' << finding.line << ": " << finding.text << '\n';
         return findings.empty();
@@ -44,7 +47,12 @@ constinit const Command checkCommand {
      "\n"
      "and ends with status 1 when there is any: counts that disagree with\n"
      "what follows, a mode cut short, speeds that do not increase, a\n"
-     "repeated mode number, text behind a number, and the like.",
+     "repeated mode number, text behind a number, and the like.\n"
+     "\n"
+     "Of a workspace: files that are missing or elsewhere, series that name an\n"
+     "evolution or mode that is not there, counts that disagree with what\n"
+     "follows, values longer than what is read of them, and texts that were\n"
+     "cut. The evolutions that it lists are not checked themselves.",
      {}},
     runCheck};
 

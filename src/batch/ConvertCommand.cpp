@@ -1,5 +1,6 @@
 #include "batch/BatchRun.h"
 #include "batch/Commands.h"
+#include "batch/WorkspaceInput.h"
 
 #include <array>
 
@@ -13,6 +14,10 @@ int runConvert(const CommandLine& line, BatchRun& run)
 {
     const std::string output = outputOf(line, extensions);
     const std::string& input = line.operands().front();
+    if (isWorkspace(input))
+        throw UsageError(input
+                         + " is a workspace; a modal evolution is wanted. To gather the modes "
+                           "of its series use mix");
     refuseOutputOverInput(output, input);
     run.open(input).PrintEVM(output);
     return done;

@@ -1,9 +1,12 @@
 #include "batch/BatchRun.h"
 #include "batch/Commands.h"
+#include "batch/InfoText.h"
 #include "batch/JsonWriter.h"
+#include "batch/WorkspaceInfo.h"
+#include "batch/WorkspaceInput.h"
 #include "runtime/Numbers.h"
+#include "runtime/PathNames.h"
 
-#include <algorithm>
 #include <array>
 #include <ostream>
 
@@ -101,19 +104,6 @@ void printJson(const std::vector<const EVM*>& evolutions, bool withPoints, std::
     out << '\n';
 }
 
-std::string rightAligned(const std::string& text, std::size_t width)
-{
-    return std::string(width - std::min(width, text.size()), ' ') + text;
-}
-
-void printLine(std::ostream& out, std::string_view name, const std::string& text)
-{
-    constexpr std::size_t width = 23;
-    if (!text.empty())
-        out << "  " << name << std::string(width - std::min(width, name.size()), ' ') << text
-            << '\n';
-}
-
 void printHeader(const EVM& evolution, std::ostream& out)
 {
     printLine(out, "folder", evolution.Folder);
@@ -140,16 +130,6 @@ void printHeader(const EVM& evolution, std::ostream& out)
         printLine(out, "legend " + entry.key, entry.text);
 }
 
-constexpr std::size_t narrowColumn = 8;
-constexpr std::size_t wideColumn = 15;
-
-void printRow(std::ostream& out, std::size_t width, const std::vector<std::string>& cells)
-{
-    for (const std::string& cell : cells)
-        out << rightAligned(cell, width);
-    out << '\n';
-}
-
 void printPoints(const AeMode& mode, bool hasFactors, std::ostream& out)
 {
     std::vector<std::string> headings = {"speed (KEAS)",  "g",         "f (Hz)",
@@ -172,13 +152,13 @@ void printModes(const EVM& evolution, bool withPoints, std::ostream& out)
 {
     const std::vector<std::string> headings = {"position", "number", "points"};
     if (!withPoints)
-        printRow(out, narrowColumn + 2, headings);
+        printRow(out, narrowColumn, headings);
     std::size_t position = 0;
     for (const auto& mode : evolution.Modes) {
         const std::string number = std::to_string(mode->Id);
         const std::string count = std::to_string(mode->Points.size());
         if (!withPoints) {
-            printRow(out, narrowColumn + 2, {std::to_string(++position), number, count});
+            printRow(out, narrowColumn, {std::to_string(++position), number, count});
             continue;
         }
         out << "\n  position " << ++position << ", mode " << number << ", " << count
@@ -198,8 +178,27 @@ void printTexts(const std::vector<const EVM*>& evolutions, bool withPoints, std:
     }
 }
 
+/// Refuses what would need an answer of two kinds, or says nothing about a workspace.
+void refuseBesideWorkspace(const CommandLine& line)
+{
+    if (line.operands().size() > 1)
+        throw UsageError("a workspace is told about alone, without other files");
+    if (line.has("--points"))
+        throw UsageError("--points: a workspace holds no points");
+}
+
 int runInfo(const CommandLine& line, BatchRun& run)
 {
+    if (hasWorkspace(line.operands())) {
+        refuseBesideWorkspace(line);
+        const std::string& path = line.operands().front();
+        const WorkspaceRecord record = readWorkspaceFile(path);
+        if (line.has("--json"))
+            printWorkspaceJson(record, run.out());
+        else
+            printWorkspaceText(record, resolvePath(path).name, run.out());
+        return done;
+    }
     // All files are read before anything is printed: an error prints no half of an answer.
     std::vector<const EVM*> evolutions;
     for (const std::string& path : line.operands())
@@ -218,7 +217,11 @@ constexpr std::array<OptionDescription, 2> options = {
 constinit const Command infoCommand {
     {"info", "FILE...", anyNumber, "tells what files hold",
      "Tells what the files hold: airplane, mass configuration, Mach number,\n"
-     "method, legends, and the modes with their numbers of points.",
+     "method, legends, and the modes with their numbers of points.\n"
+     "\n"
+     "Of a workspace, which is the only FILE then: description, dates, files, and\n"
+     "the texts, axes and series of every plot. The evolutions that it lists need\n"
+     "not be there.",
      options},
     runInfo};
 

@@ -25,6 +25,7 @@ public:
     void text(std::string_view value);
     void number(std::string_view digits) { plain(digits); }
     void boolean(bool value) { plain(value ? "true" : "false"); }
+    void null() { plain("null"); }
 
     /// A key and its value.
     void text(std::string_view name, std::string_view value);

@@ -1,6 +1,7 @@
 #include "batch/BatchRun.h"
 #include "batch/Commands.h"
 #include "batch/ModeList.h"
+#include "batch/WorkspaceInput.h"
 #include "model/MdlMix.h"
 #include "runtime/PathNames.h"
 
@@ -51,14 +52,47 @@ void warnOfDifferentLengths(const std::vector<const AeMode*>& modes, BatchRun& r
                      + std::to_string(most) + " for all of them");
 }
 
+/// The files of the command line; UsageError for what a workspace among them does not go with.
+std::vector<Ingredient> ingredientsOf(const CommandLine& line)
+{
+    std::vector<Ingredient> ingredients;
+    std::vector<std::string> paths;
+    for (const std::string& operand : line.operands()) {
+        ingredients.push_back(ingredientOf(operand));
+        paths.push_back(ingredients.back().path);
+        if (ingredients.back().modes && isWorkspace(paths.back()))
+            throw UsageError(operand
+                             + ": a workspace takes no list of modes; --plot chooses one of "
+                               "its plots");
+    }
+    checkWorkspaceOptions(line, paths, {});
+    return ingredients;
+}
+
+/// Adds the mode of each series of a workspace; whether all of them are there.
+bool addSeriesOfWorkspace(const std::string& path, const CommandLine& line, BatchRun& run,
+                          std::vector<const AeMode*>& modes)
+{
+    const WorkspaceInput input = openWorkspace(path, line.value(plotOption.name), run);
+    for (const std::string& file : input.files)
+        refuseOutputOverInput(line.value("--output").value(), file);
+    for (const PlotRecord& plot : input.plots) {
+        for (const SeriesRecord& series : plot.series)
+            modes.push_back(&modeOf(series, input.evolutions));
+    }
+    return input.isWhole;
+}
+
 int runMix(const CommandLine& line, BatchRun& run)
 {
     const std::string output = outputOf(line, extensions);
-    std::vector<Ingredient> ingredients;
-    for (const std::string& operand : line.operands())
-        ingredients.push_back(ingredientOf(operand));
+    bool isWhole = true;
     std::vector<const AeMode*> modes;
-    for (const Ingredient& ingredient : ingredients) {
+    for (const Ingredient& ingredient : ingredientsOf(line)) {
+        if (isWorkspace(ingredient.path)) {
+            isWhole = addSeriesOfWorkspace(ingredient.path, line, run, modes) && isWhole;
+            continue;
+        }
         refuseOutputOverInput(output, ingredient.path);
         for (const AeMode* mode :
              selectModes(run.open(ingredient.path), ingredient.modes, ingredient.path))
@@ -66,11 +100,11 @@ int runMix(const CommandLine& line, BatchRun& run)
     }
     mdlMix::gather(modes)->PrintEVM(output);
     warnOfDifferentLengths(modes, run);
-    return done;
+    return isWhole ? done : failed;
 }
 
-constexpr std::array<OptionDescription, 1> options = {
-    {{"--output", "OUTPUT", "the file to write, which ends in .mix (or .mx2)", true}}};
+constexpr std::array<OptionDescription, 2> options = {
+    {plotOption, {"--output", "OUTPUT", "the file to write, which ends in .mix (or .mx2)", true}}};
 
 } // namespace
 
@@ -78,7 +112,11 @@ constinit const Command mixCommand {
     {"mix", "FILE[:LIST]...", anyNumber, "gathers modes of several files into one",
      "Gathers modes of several files into one evolution in fixed columns. A colon and\n"
      "a LIST behind a FILE choose its modes, such as wing.ev2:1,3-5; without a list\n"
-     "all of them are taken. See \"convert\" for the layout.",
+     "all of them are taken. See \"convert\" for the layout.\n"
+     "\n"
+     "Of a workspace the mode of each series is taken, in the order of its plots. A\n"
+     "series whose file or mode is missing is left out with a message; the rest is\n"
+     "written, and the exit status is 1.",
      options},
     runMix};
 

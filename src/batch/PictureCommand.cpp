@@ -1,14 +1,12 @@
 #include "batch/BatchRun.h"
 #include "batch/Commands.h"
 #include "batch/PictureOptions.h"
-#include "plot/RtfReader.h"
-#include "runtime/AtomicFile.h"
+#include "batch/PlotDrawing.h"
+#include "batch/WorkspaceInput.h"
+#include "runtime/RunTimeError.h"
 #include "vgf/EvmPlot.h"
-#include "vgf/PictureWriter.h"
+#include "vgf/PlotRecords.h"
 #include "vgf/ScaleFit.h"
-
-#include <algorithm>
-#include <cmath>
 
 namespace tarsil::batch {
 
@@ -25,88 +23,89 @@ void addSeries(EvmPlot& plot, AeMode& mode, const PictureOptions& options)
     series.MarkerForegroundColor = series.ColorIndex;
 }
 
-/// As many ticks as make them fall on round numbers between two ends, if there are such.
-std::int16_t roundTicks(float from, float to, std::int16_t otherwise)
+/// Axes that fit the data, for a plot that has none of its own.
+void fitScale(EvmPlot& plot)
 {
-    const double low = std::min(from, to);
-    const double high = std::max(from, to);
-    const RoundRange range = roundRange(low, high);
-    const double tolerance = 1e-5 * (high - low);
-    const bool fits =
-        std::fabs(range.low - low) < tolerance && std::fabs(range.high - high) < tolerance;
-    return fits ? static_cast<std::int16_t>(range.steps) : otherwise;
-}
-
-void setAxes(EvmPlot& plot, const PictureOptions& options)
-{
-    FittedAxes axes = fitAxes(plot.SeriesCollection());
-    if (options.scale) {
-        const EvmPlot::Thicks usual;
-        axes.scale = *options.scale;
-        axes.thicks.v = roundTicks(axes.scale.vmin, axes.scale.vmax, usual.v);
-        axes.thicks.f = roundTicks(axes.scale.fmin, axes.scale.fmax, usual.f);
-        axes.thicks.g = roundTicks(axes.scale.gmin, axes.scale.gmax, usual.g);
-    }
-    const EvmPlot::Thicks ticks = options.ticks.value_or(axes.thicks);
+    const FittedAxes axes = fitAxes(plot.SeriesCollection());
     plot.SetScale(axes.scale);
-    plot.setVthicks(ticks.v);
-    plot.setFthicks(ticks.f);
-    plot.setGthicks(ticks.g);
+    plot.setVthicks(axes.thicks.v);
+    plot.setFthicks(axes.thicks.f);
+    plot.setGthicks(axes.thicks.g);
 }
 
-/// Text in Rich Text Format keeps its fonts and colours; in other text "\n" is a line break.
-void setText(emfRichTextBox& box, const std::string& text)
+void finish(EvmPlot& plot, const PictureOptions& options, const std::string& output)
 {
-    if (looksLikeRtf(text))
-        box.setTextRTF(text);
-    else
-        box.setText(
-            QString::fromStdString(text).replace(QStringLiteral("\\n"), QStringLiteral("\n")));
+    setScale(plot, options);
+    setTexts(plot, options);
+    plot.resize(options.size);
+    writePicture(plot, output);
 }
 
-void setTexts(EvmPlot& plot, const PictureOptions& options)
+void drawEvolutions(const std::vector<std::string>& paths, const PictureOptions& options,
+                    BatchRun& run)
 {
-    setText(plot.Header(), options.header);
-    setText(plot.Legend(), options.legend);
-    setText(plot.Mechanism(), options.subtitle);
-    for (const CaptionedValue& reference : options.referenceSpeeds)
-        plot.AddRef(reference.value, reference.caption);
-    for (const CaptionedValue& damping : options.dampingLines)
-        plot.AddDampLine(damping.value, damping.caption);
-}
-
-bool endsIn(std::string_view path, std::string_view extension)
-{
-    return hasExtension(path, {&extension, 1});
-}
-
-void writePicture(EvmPlot& plot, const std::string& path)
-{
-    if (endsIn(path, ".emf")) { // streamed, however large it is
-        plot.ExportPic(QString::fromStdString(path));
-        return;
+    EvmPlot plot;
+    for (const std::string& path : paths) {
+        refuseOutputOverInput(options.output, path);
+        for (AeMode* mode : selectModes(run.open(path), options.modes, path))
+            addSeries(plot, *mode, options);
     }
-    const PictureFormat format = endsIn(path, ".svg") ? PictureFormat::Svg
-        : endsIn(path, ".pdf")                        ? PictureFormat::Pdf
-                                                      : PictureFormat::Png;
-    const QByteArray bytes = pictureBytes(plot, format);
-    writeFile(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+    fitScale(plot);
+    finish(plot, options, options.output);
+}
+
+/// The names of so many pictures: the one given, or with a number before its extension.
+std::vector<std::string> numberedOutputs(const std::string& output, std::size_t count)
+{
+    if (count == 1)
+        return {output};
+    const std::size_t dot = output.rfind('.');
+    std::vector<std::string> outputs;
+    for (std::size_t i = 1; i <= count; ++i)
+        outputs.push_back(output.substr(0, dot) + "-" + std::to_string(i) + output.substr(dot));
+    return outputs;
+}
+
+/// One picture of a plot of a workspace, as the window shows it.
+void drawPlot(const PlotRecord& record, const std::vector<EVM*>& evolutions,
+              const PictureOptions& options, const std::string& output)
+{
+    try {
+        EvmPlot plot;
+        plot.setCaption(QString::fromStdString(record.caption));
+        applyRecord(record, evolutions, plot);
+        finish(plot, options, output);
+    } catch (const RunTimeError& error) {
+        throw error.at("plot \"" + record.caption + "\"");
+    }
+}
+
+/// Whether no series had to be left out.
+bool drawWorkspace(const std::string& path, const PictureOptions& options, BatchRun& run)
+{
+    const WorkspaceInput input = openWorkspace(path, options.plot, run);
+    if (input.plots.empty())
+        throw Failure(path + " holds no plot");
+    const std::vector<std::string> outputs = numberedOutputs(options.output, input.plots.size());
+    for (const std::string& output : outputs) {
+        for (const std::string& file : input.files)
+            refuseOutputOverInput(output, file);
+    }
+    for (std::size_t i = 0; i < outputs.size(); ++i)
+        drawPlot(input.plots[i], input.evolutions, options, outputs[i]);
+    return input.isWhole;
 }
 
 int runPicture(const CommandLine& line, BatchRun& run)
 {
     const PictureOptions options = pictureOptionsOf(line);
-    EvmPlot plot;
-    for (const std::string& path : line.operands()) {
-        refuseOutputOverInput(options.output, path);
-        for (AeMode* mode : selectModes(run.open(path), options.modes, path))
-            addSeries(plot, *mode, options);
+    if (!hasWorkspace(line.operands())) {
+        drawEvolutions(line.operands(), options, run);
+        return done;
     }
-    setAxes(plot, options);
-    setTexts(plot, options);
-    plot.resize(options.size);
-    writePicture(plot, options.output);
-    return done;
+    if (line.operands().size() > 1)
+        throw UsageError("a workspace is drawn alone, without other files");
+    return drawWorkspace(line.operands().front(), options, run) ? done : failed;
 }
 
 } // namespace
@@ -114,7 +113,13 @@ int runPicture(const CommandLine& line, BatchRun& run)
 constinit const Command pictureCommand {
     {"picture", "FILE...", anyNumber, "draws the V-g-f plot",
      "Draws the V-g-f plot of the files: frequency in the upper half, damping in the\n"
-     "lower half, the speed axis between them.",
+     "lower half, the speed axis between them.\n"
+     "\n"
+     "Of a workspace, which is the only FILE then, every plot is drawn as it was saved,\n"
+     "each into a picture of its own: with several plots out.svg becomes out-1.svg,\n"
+     "out-2.svg and so on. Texts, scale and ticks that are given take the place of those\n"
+     "of the plot; modes and markers are what its series say. A series whose file or mode\n"
+     "is missing is left out with a message; the rest is drawn, and the exit status is 1.",
      pictureOptionDescriptions},
     runPicture};
 

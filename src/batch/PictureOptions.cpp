@@ -1,6 +1,7 @@
 #include "batch/PictureOptions.h"
 
 #include "batch/CommandLine.h"
+#include "batch/WorkspaceInput.h"
 #include "runtime/Numbers.h"
 
 namespace tarsil::batch {
@@ -105,11 +106,12 @@ void readMarkers(const CommandLine& line, PictureOptions& options)
 
 } // namespace
 
-constinit const std::array<OptionDescription, 13> pictureOptionDescriptions = {
+constinit const std::array<OptionDescription, 14> pictureOptionDescriptions = {
     {{"--modes", "LIST", "modes to draw; all of them without this option"},
+     plotOption,
      {"--scale", "VMIN,VMAX,FMIN,FMAX,GMIN,GMAX",
       "ends of the axes of speed, frequency and damping;\nGMIN is the damping at the speed axis, "
-      "GMAX the one\nat the lower end; without it the axes fit the data"},
+      "GMAX the one\nat the lower end; without it the axes fit the data,\nor are the workspace's"},
      {"--ticks", "V,G,F", "numbers of ticks of the three axes"},
      {"--size", "WxH", "size of the picture in pixels; 1000x750 without it"},
      {"--header", "TEXT",
@@ -136,12 +138,15 @@ PictureOptions pictureOptionsOf(const CommandLine& line)
         options.modes = modeListOf(*list);
     options.scale = scaleOf(line);
     options.ticks = ticksOf(line);
-    options.header = line.value("--header").value_or("");
-    options.legend = line.value("--legend").value_or("");
-    options.subtitle = line.value("--subtitle").value_or("");
+    options.header = line.value("--header");
+    options.legend = line.value("--legend");
+    options.subtitle = line.value("--subtitle");
     options.referenceSpeeds = captionedValuesOf(line, "--reference-speed");
     options.dampingLines = captionedValuesOf(line, "--damping-line");
     readMarkers(line, options);
+    options.plot = line.value(plotOption.name);
+    checkWorkspaceOptions(line, line.operands(),
+                          {"--modes", "--marker", "--marker-spacing", "--marker-size"});
     return options;
 }
 

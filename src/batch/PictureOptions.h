@@ -27,13 +27,15 @@ struct CaptionedValue
 struct PictureOptions
 {
     std::string output;
+    std::optional<std::string> plot; ///< of a workspace; all of them when missing
     QSize size {1000, 750}; ///< pixels at 96 per inch
     std::optional<ModeList> modes;
-    std::optional<EvmPlot::Scale> scale; ///< fitted to the data when missing
+    std::optional<EvmPlot::Scale> scale; ///< fitted to the data, or the workspace's, when missing
     std::optional<EvmPlot::Thicks> ticks;
-    std::string header; ///< texts as given: Rich Text Format, or "\n" for a line break
-    std::string legend;
-    std::string subtitle;
+    // Texts as given: Rich Text Format, or "\n" for a line break. A missing one leaves its box.
+    std::optional<std::string> header;
+    std::optional<std::string> legend;
+    std::optional<std::string> subtitle;
     std::vector<CaptionedValue> referenceSpeeds;
     std::vector<CaptionedValue> dampingLines;
     std::int32_t markerStyle = markerstyle::modeNumber;
@@ -42,7 +44,7 @@ struct PictureOptions
     std::int32_t markerSize = 8; ///< points
 };
 
-extern const std::array<OptionDescription, 13> pictureOptionDescriptions;
+extern const std::array<OptionDescription, 14> pictureOptionDescriptions;
 
 /// Reads them from the command line; UsageError for what makes no sense.
 PictureOptions pictureOptionsOf(const CommandLine& line);

@@ -3,6 +3,7 @@
 #include "batch/BatchRun.h"
 #include "batch/Commands.h"
 #include "batch/ModeList.h"
+#include "batch/WorkspaceInput.h"
 #include "runtime/PathNames.h"
 
 #include <array>
@@ -22,21 +23,54 @@ std::optional<std::string> machOf(const CommandLine& line)
     return text;
 }
 
+/// What the rows are made of, as far as the command line says it.
+struct RowSource
+{
+    std::string output;
+    std::optional<ModeList> modes;
+    std::optional<std::string> plot;
+};
+
+/// Adds a row for each series of a workspace; whether all of them are there.
+bool addSeriesOfWorkspace(const std::string& path, const RowSource& source, BatchRun& run,
+                          std::vector<ReportRow>& rows)
+{
+    const WorkspaceInput input = openWorkspace(path, source.plot, run);
+    for (const std::string& file : input.files)
+        refuseOutputOverInput(source.output, file);
+    for (const PlotRecord& plot : input.plots) {
+        for (const SeriesRecord& series : plot.series)
+            rows.push_back({&modeOf(series, input.evolutions), series.legendText});
+    }
+    return input.isWhole;
+}
+
+void addModesOfEvolution(const std::string& path, const RowSource& source, BatchRun& run,
+                         std::vector<ReportRow>& rows)
+{
+    refuseOutputOverInput(source.output, path);
+    const EVM& evolution = run.open(path);
+    for (AeMode* mode : selectModes(evolution, source.modes, path))
+        rows.push_back({mode, caseTextOf(evolution)});
+}
+
 int runReport(const CommandLine& line, BatchRun& run)
 {
-    const std::string output = outputOf(line, extensions);
+    RowSource source {outputOf(line, extensions), std::nullopt, line.value(plotOption.name)};
     const double damping = line.number("--reference-damping").value();
     const double speedLimit = line.number("--speed-limit").value();
     const auto mach = machOf(line);
-    const auto listText = line.value("--modes");
-    const auto list = listText ? std::optional(modeListOf(*listText)) : std::nullopt;
+    if (const auto list = line.value("--modes"))
+        source.modes = modeListOf(*list);
+    checkWorkspaceOptions(line, line.operands(), {"--modes"});
 
+    bool isWhole = true;
     std::vector<ReportRow> rows;
     for (const std::string& path : line.operands()) {
-        refuseOutputOverInput(output, path);
-        const EVM& evolution = run.open(path);
-        for (AeMode* mode : selectModes(evolution, list, path))
-            rows.push_back({mode, caseTextOf(evolution)});
+        if (isWorkspace(path))
+            isWhole = addSeriesOfWorkspace(path, source, run, rows) && isWhole;
+        else
+            addModesOfEvolution(path, source, run, rows);
     }
     const auto answerMach = [&mach](const EVM& evolution, std::string_view) {
         if (!mach)
@@ -46,16 +80,17 @@ int runReport(const CommandLine& line, BatchRun& run)
     };
     Sheet sheet;
     FlutterReport(damping, speedLimit, answerMach).write(rows, sheet);
-    writeSheet(sheet, output);
-    return done;
+    writeSheet(sheet, source.output);
+    return isWhole ? done : failed;
 }
 
-constexpr std::array<OptionDescription, 5> options = {
+constexpr std::array<OptionDescription, 6> options = {
     {{"--reference-damping", "G",
       "damping whose crossings are looked for;\n0 is the border of stability", true},
      {"--speed-limit", "V", "speed up to which the maximum damping is looked for", true},
      {"--mach", "M", "Mach number of the files that hold none"},
      {"--modes", "LIST", "modes to report; all of them without this option"},
+     plotOption,
      {"--output", "OUTPUT", "the file to write, which ends in .xlsx or .csv", true}}};
 
 } // namespace
@@ -64,7 +99,13 @@ constinit const Command reportCommand {
     {"report", "FILE...", anyNumber, "writes the flutter table",
      "Writes the flutter table: of each mode the maximum damping up to the speed\n"
      "limit, and every crossing of the reference damping with its speed, frequency,\n"
-     "altitude and first participation factor.",
+     "altitude and first participation factor.\n"
+     "\n"
+     "A workspace gives a row for each series of its plots, in their order, with the\n"
+     "legend text of the series as its case. The files that it lists are looked for\n"
+     "beside it and below its folder when they have moved. A series whose file or\n"
+     "mode is missing is left out with a message; the rest is written, and the exit\n"
+     "status is 1.",
      options},
     runReport};
 

@@ -1,9 +1,12 @@
 #include "plot/RtfReader.h"
 
 #include "plot/RtfParser.h"
+#include "plot/RtfTokens.h"
+#include "plot/RtfWords.h"
 #include "runtime/TextCodec.h"
 
 #include <algorithm>
+#include <cstddef>
 
 namespace tarsil {
 
@@ -34,12 +37,18 @@ std::string_view fromFirstCharacter(std::string_view bytes)
     return bytes.substr(std::min(bytes.find_first_not_of(" \r\n\0"sv), bytes.size()));
 }
 
+std::string_view withoutMark(std::string_view bytes)
+{
+    if (bytes.starts_with(byteOrderMark))
+        bytes.remove_prefix(byteOrderMark.size());
+    return bytes;
+}
+
 } // namespace
 
 RichText readRtf(std::string_view bytes, const TextFormat& fallback, RtfScope scope)
 {
-    if (bytes.starts_with(byteOrderMark))
-        bytes.remove_prefix(byteOrderMark.size());
+    bytes = withoutMark(bytes);
     const std::string_view source = fromFirstCharacter(bytes);
     if (!source.starts_with('{'))
         return plainText(bytes, fallback);
@@ -48,11 +57,26 @@ RichText readRtf(std::string_view bytes, const TextFormat& fallback, RtfScope sc
 
 bool looksLikeRtf(std::string_view text)
 {
-    if (text.starts_with(byteOrderMark))
-        text.remove_prefix(byteOrderMark.size());
-    const std::string_view source = fromFirstCharacter(text);
+    const std::string_view source = fromFirstCharacter(withoutMark(text));
     return source.starts_with("{\\rtf") || source.starts_with("{\\urtf")
         || source.starts_with("{{\\rtf");
+}
+
+bool isCutRtf(std::string_view text)
+{
+    if (!looksLikeRtf(text))
+        return false;
+    RtfTokens tokens(fromFirstCharacter(withoutMark(text)));
+    std::size_t depth = 0;
+    for (RtfToken token = tokens.next(); token.kind != RtfTokenKind::End; token = tokens.next()) {
+        if (token.kind == RtfTokenKind::GroupStart)
+            ++depth;
+        else if (token.kind == RtfTokenKind::GroupEnd && --depth == 0)
+            return false;
+        else if (token.kind == RtfTokenKind::Word && rtfMeaning(token.text).word == RtfWord::Binary)
+            tokens.skip(static_cast<std::size_t>(std::max(token.number.value_or(0), 0)));
+    }
+    return true;
 }
 
 } // namespace tarsil

@@ -25,4 +25,8 @@ RichText readRtf(std::string_view bytes, const TextFormat& fallback,
 /// brace.)
 bool looksLikeRtf(std::string_view text);
 
+/// Whether a source in Rich Text Format ends before its outermost group does. Other text never
+/// does.
+bool isCutRtf(std::string_view text);
+
 } // namespace tarsil

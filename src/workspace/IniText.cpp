@@ -61,48 +61,59 @@ IniText::IniText(std::string_view bytes)
 {
     TextStream stream(bytes, {});
     Section* current = nullptr;
-    while (!stream.atEndOfStream())
-        addLine(withoutBlanks(stream.readLine()), current);
+    while (!stream.atEndOfStream()) {
+        const std::string_view text = withoutBlanks(stream.readLine());
+        addLine(text, stream.lineNumber(), current);
+    }
 }
 
-void IniText::addLine(std::string_view line, Section*& current)
+void IniText::addLine(std::string_view text, std::size_t line, Section*& current)
 {
-    if (line.starts_with('[')) {
-        const std::size_t end = line.find(']');
-        if (end != std::string_view::npos)
-            current = &m_sections[comparable(withoutBlanks(line.substr(1, end - 1)))];
+    if (text.starts_with('[')) {
+        const std::size_t end = text.find(']');
+        if (end != std::string_view::npos) {
+            const std::string name = comparable(withoutBlanks(text.substr(1, end - 1)));
+            current = &m_sections.try_emplace(name, Section {line}).first->second;
+        }
         return;
     }
-    const std::size_t sign = line.find('=');
+    const std::size_t sign = text.find('=');
     if (current == nullptr || sign == std::string_view::npos)
         return;
     // Does nothing where the key is there already: the first one wins.
-    current->try_emplace(comparable(withoutBlanks(line.substr(0, sign))),
-                         withoutQuotes(withoutBlanks(line.substr(sign + 1))));
+    current->entries.try_emplace(
+        comparable(withoutBlanks(text.substr(0, sign))),
+        IniEntry {line, withoutQuotes(withoutBlanks(text.substr(sign + 1)))});
 }
 
-std::optional<std::string_view> IniText::wholeValue(std::string_view section,
-                                                    std::string_view key) const
+std::optional<IniEntry> IniText::entry(std::string_view section, std::string_view key) const
 {
-    const auto keys = m_sections.find(comparable(section));
-    if (keys == m_sections.end())
+    const auto found = m_sections.find(comparable(section));
+    if (found == m_sections.end())
         return std::nullopt;
-    const auto value = keys->second.find(comparable(key));
-    if (value == keys->second.end())
-        return std::nullopt;
-    return value->second;
+    const auto& entries = found->second.entries;
+    const auto value = entries.find(comparable(key));
+    return value == entries.end() ? std::nullopt : std::optional(value->second);
+}
+
+std::optional<std::size_t> IniText::lineOfSection(std::string_view section) const
+{
+    const auto found = m_sections.find(comparable(section));
+    return found == m_sections.end() ? std::nullopt : std::optional(found->second.line);
 }
 
 std::optional<std::string_view> IniText::bytes(std::string_view section, std::string_view key) const
 {
-    const auto value = wholeValue(section, key);
-    return value ? std::optional(value->substr(0, mostStoredBytes)) : std::nullopt;
+    const auto found = entry(section, key);
+    return found ? std::optional(found->value.substr(0, mostStoredBytes)) : std::nullopt;
 }
 
 std::optional<std::string> IniText::text(std::string_view section, std::string_view key) const
 {
-    const auto value = wholeValue(section, key);
-    return value ? std::optional(decodeText(value->substr(0, endOfText(*value)))) : std::nullopt;
+    const auto found = entry(section, key);
+    if (!found)
+        return std::nullopt;
+    return decodeText(found->value.substr(0, endOfText(found->value)));
 }
 
 } // namespace tarsil

@@ -1,11 +1,19 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 
 namespace tarsil {
+
+/// A value in its whole length, as it stands in the text.
+struct IniEntry
+{
+    std::size_t line; ///< counted from 1
+    std::string_view value; ///< without blanks and quotes around it; not decoded
+};
 
 /// A text of bracketed section lines and lines "key=value", read by section and key in any order.
 ///
@@ -26,12 +34,20 @@ public:
     /// character of a UTF-8 value is cut in two.
     std::optional<std::string> text(std::string_view section, std::string_view key) const;
 
-private:
-    using Section = std::unordered_map<std::string, std::string_view>;
+    /// The value that `bytes` may cut; nothing when the key is absent.
+    std::optional<IniEntry> entry(std::string_view section, std::string_view key) const;
 
-    void addLine(std::string_view line, Section*& current);
-    std::optional<std::string_view> wholeValue(std::string_view section,
-                                               std::string_view key) const;
+    /// The line on which a section begins first; nothing when there is no such section.
+    std::optional<std::size_t> lineOfSection(std::string_view section) const;
+
+private:
+    struct Section
+    {
+        std::size_t line;
+        std::unordered_map<std::string, IniEntry> entries {};
+    };
+
+    void addLine(std::string_view text, std::size_t line, Section*& current);
 
     std::unordered_map<std::string, Section> m_sections; ///< by names in small letters
 };

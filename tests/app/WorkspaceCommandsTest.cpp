@@ -206,3 +206,16 @@ TEST_F(WorkspaceCommandsTest, openTheWorkspaceOfTheCommandLineInItsQuotes)
     EXPECT_EQ(window.session().evolutions.size(), 2U);
     EXPECT_TRUE(user.messages.empty());
 }
+
+TEST_F(WorkspaceCommandsTest, openTheSampleWhoseFilesHaveMoved)
+{
+    open(sample("goland.tsw"));
+    EXPECT_TRUE(user.messages.empty());
+    EXPECT_EQ(window.session().evolutions.size(), 6U);
+    const auto plots = window.evolPlot().plots();
+    ASSERT_EQ(plots.size(), 2U);
+    EXPECT_EQ(plots[0]->Caption(), QStringLiteral("Clean wing"));
+    EXPECT_EQ(plots[0]->SeriesCollection().size(), 6U);
+    EXPECT_EQ(plots[1]->SeriesCollection().size(), 6U);
+    EXPECT_EQ(plots[1]->SeriesCollection()[5].Mode->Parent->FileName, "goland_tipstore_m060.ev2");
+}

@@ -2,6 +2,8 @@
 
 #include "batch/Batch.h"
 
+#include <QXmlStreamReader>
+
 #include <iterator>
 #include <sstream>
 
@@ -13,6 +15,18 @@ BatchResult runBatch(const std::vector<std::string>& arguments)
     std::ostringstream err;
     const int status = batch::runBatch(arguments, out, err);
     return {status, out.str(), err.str()};
+}
+
+std::string svgTexts(const std::string& path)
+{
+    QXmlStreamReader xml(QByteArray::fromStdString(fileBytes(path)));
+    std::string texts;
+    while (!xml.atEnd()) {
+        if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == u"text")
+            texts += xml.readElementText().trimmed().toStdString() + "|";
+    }
+    EXPECT_FALSE(xml.hasError());
+    return texts;
 }
 
 std::string BatchFixture::writeEv2(std::string_view name) const

@@ -20,6 +20,9 @@ struct BatchResult
 /// Runs the program within this process.
 BatchResult runBatch(const std::vector<std::string>& arguments);
 
+/// All texts of an SVG, each followed by a bar.
+std::string svgTexts(const std::string& path);
+
 /// Tests with a folder of their own for the files of the batch program.
 class BatchFixture : public ::testing::Test
 {

@@ -3,13 +3,13 @@
 #include <QImage>
 #include <QPainter>
 #include <QSvgRenderer>
-#include <QXmlStreamReader>
 
 #include <gmock/gmock.h>
 
 using namespace tarsil;
 using test::fileBytes;
 using test::runBatch;
+using test::svgTexts;
 using ::testing::HasSubstr;
 
 namespace {
@@ -27,19 +27,6 @@ protected:
         EXPECT_EQ(result.status, 0) << result.err;
         EXPECT_EQ(result.out + result.err, "");
         return output;
-    }
-
-    /// All texts of an SVG, each followed by a bar.
-    static std::string textsOf(const std::string& path)
-    {
-        QXmlStreamReader xml(QByteArray::fromStdString(fileBytes(path)));
-        std::string texts;
-        while (!xml.atEnd()) {
-            if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == u"text")
-                texts += xml.readElementText().trimmed().toStdString() + "|";
-        }
-        EXPECT_FALSE(xml.hasError());
-        return texts;
     }
 
     static QImage imageOf(const std::string& path) { return QImage(QString::fromStdString(path)); }
@@ -88,7 +75,7 @@ TEST_F(PictureCommand, drawsAnSvgWithTheTexts)
              {"--header", "first\\nsecond", "--legend", "Fl\xC3\xBCgel", "--subtitle",
               "the mechanism", "--reference-speed", "350=VD", "--reference-speed", "300=VC",
               "--damping-line", "-0.02=two percent", writeEv2()});
-    const std::string texts = textsOf(path);
+    const std::string texts = svgTexts(path);
     for (const char* text :
          {"first|second|", "Fl\xC3\xBCgel|", "the mechanism|", "VD|", "VC|", "two percent|"})
         EXPECT_THAT(texts, HasSubstr(text));
@@ -119,7 +106,7 @@ TEST_F(PictureCommand, drawsAPdf)
 
 TEST_F(PictureCommand, takesScaleAndTicks)
 {
-    const std::string texts = textsOf(
+    const std::string texts = svgTexts(
         draw("out.svg", {"--scale", "100,500,0,20,0,-0.5", "--ticks", "4,5,2", writeEv2()}));
     // Every 100 knots, 10 Hz and 0.1.
     for (const char* text : {"200|", "300|", "400|", "10.0|", "-0.10|", "-0.40|"})
@@ -130,7 +117,7 @@ TEST_F(PictureCommand, takesScaleAndTicks)
 TEST_F(PictureCommand, putsRoundTicksOnAScale)
 {
     const std::string texts =
-        textsOf(draw("out.svg", {"--scale", "0,500,0,30,0,-0.2", writeEv2()}));
+        svgTexts(draw("out.svg", {"--scale", "0,500,0,30,0,-0.2", writeEv2()}));
     for (const char* text : {"50|", "450|", "5.0|"})
         EXPECT_THAT(texts, HasSubstr(text));
 }
@@ -138,7 +125,7 @@ TEST_F(PictureCommand, putsRoundTicksOnAScale)
 TEST_F(PictureCommand, fitsTheAxesWithoutAScale)
 {
     // Up to 400 knots, 14 Hz and a damping of 1, of which no more than 0.5 is shown.
-    const std::string texts = textsOf(draw("out.svg", {writeEv2()}));
+    const std::string texts = svgTexts(draw("out.svg", {writeEv2()}));
     for (const char* text : {"200|", "10.0|", "-0.45|"})
         EXPECT_THAT(texts, HasSubstr(text));
     EXPECT_THAT(texts, ::testing::Not(HasSubstr("-0.60|")));
@@ -149,7 +136,7 @@ TEST_F(PictureCommand, marksThePointsAsAskedFor)
     const std::string path = writeEv2();
     const auto texts = [this, &path](std::vector<std::string> more) {
         more.insert(more.end(), {"--marker-spacing", "1", "--scale", "0,1000,0,100,0,-2", path});
-        return "|" + textsOf(draw("out.svg", more));
+        return "|" + svgTexts(draw("out.svg", more));
     };
     EXPECT_THAT(texts({}), HasSubstr("|5|"));
     EXPECT_THAT(texts({"--marker", "id"}), HasSubstr("|5|"));

@@ -250,3 +250,17 @@ TEST(RtfReader, keepsTheFormatOfAnEmptyLastLine)
     EXPECT_THAT(looksOf(text), ElementsAre("Tahoma 15: a\n"));
     EXPECT_EQ(lookOf(text.last), "Tahoma 20");
 }
+
+TEST(RtfReader, knowsASourceThatWasCut)
+{
+    const std::string whole = "{\\rtf1{\\fonttbl{\\f0 Arial;}}a\\{b\\par\r\n}";
+    for (std::size_t size = 6; size < whole.size(); ++size)
+        EXPECT_TRUE(isCutRtf(whole.substr(0, size))) << size;
+    EXPECT_FALSE(isCutRtf(whole));
+    EXPECT_FALSE(isCutRtf(whole + "\r\n")) << "what follows does not belong to it";
+    EXPECT_FALSE(isCutRtf(" " + whole + "{"));
+    EXPECT_TRUE(isCutRtf("{\\rtf1 \\bin3 }}}")) << "three bytes of a picture";
+    EXPECT_FALSE(isCutRtf("{\\rtf1 \\bin3 }}}}"));
+    for (const char* text : {"", "{", "{no format", "plain {\\rtf1"})
+        EXPECT_FALSE(isCutRtf(text)) << text;
+}

@@ -138,3 +138,24 @@ TEST(IniText, decodesAfterTheCut)
     EXPECT_EQ(valueOf("key=" + dashes), dashes.substr(0, 1023));
     EXPECT_EQ(valueOf("key=x" + dashes), "x" + dashes.substr(0, 1020));
 }
+
+TEST(IniText, tellsLineAndWholeLengthOfAValue)
+{
+    const std::string text = "[S]\r\n\r\nkey= \"" + std::string(2000, 'x') + "\"\r\nKEY=2\r\n";
+    const IniText ini(text);
+    const auto entry = ini.entry("s", "Key");
+    ASSERT_TRUE(entry);
+    EXPECT_EQ(entry->line, 3U);
+    EXPECT_EQ(entry->value, std::string(2000, 'x'));
+    EXPECT_FALSE(ini.entry("S", "other"));
+    EXPECT_FALSE(ini.entry("T", "key"));
+}
+
+TEST(IniText, tellsWhereASectionBeginsFirst)
+{
+    const IniText ini("; comment\r\n[A]\r\nx=1\r\n [ b ]\r\n[a]\r\ny=2\r\n");
+    EXPECT_EQ(ini.lineOfSection("a"), 2U);
+    EXPECT_EQ(ini.lineOfSection("B"), 4U);
+    EXPECT_EQ(ini.lineOfSection("c"), std::nullopt);
+    EXPECT_EQ(ini.entry("A", "y")->line, 6U);
+}

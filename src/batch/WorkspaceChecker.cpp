@@ -1,0 +1,173 @@
+#include "batch/WorkspaceChecker.h"
+
+#include "batch/WorkspaceInput.h"
+#include "model/CheckerParts.h"
+#include "plot/RtfReader.h"
+#include "runtime/MappedFile.h"
+#include "runtime/PathNames.h"
+#include "runtime/RtfStoredValue.h"
+#include "workspace/FoundFiles.h"
+#include "workspace/IniText.h"
+#include "workspace/WorkspaceKeys.h"
+#include "workspace/WorkspaceReader.h"
+
+#include <initializer_list>
+
+namespace tarsil::batch {
+
+namespace {
+
+namespace keys = workspacekeys;
+
+/// Checks the bytes of one workspace against the record that its reader makes of them.
+class WorkspaceChecker
+{
+public:
+    WorkspaceChecker(std::string_view bytes, const std::string& path) : m_ini(bytes), m_path(path)
+    {
+        readWorkspace(bytes, shownPath(path), m_record);
+    }
+
+    std::vector<Finding> check(BatchRun& run);
+
+private:
+    void add(std::string_view section, std::string_view key, const std::string& text);
+    void checkLengths();
+    void checkLengthsOfPlot(const std::string& section, std::size_t series);
+    void checkLength(std::string_view section, std::string_view key);
+    void checkRichTexts();
+    void checkCounts();
+    void checkCount(std::string_view section, std::string_view countKey, std::string_view key,
+                    std::size_t count);
+    void checkFiles();
+    void checkSeries(BatchRun& run);
+
+    IniText m_ini;
+    const std::string& m_path;
+    WorkspaceRecord m_record;
+    std::vector<std::string> m_files; ///< where they were found
+    FindingList m_findings;
+};
+
+std::vector<Finding> WorkspaceChecker::check(BatchRun& run)
+{
+    m_files = foundFiles(m_record.files, m_path);
+    checkLengths();
+    checkRichTexts();
+    checkCounts();
+    checkFiles();
+    checkSeries(run);
+    return m_findings.take();
+}
+
+void WorkspaceChecker::add(std::string_view section, std::string_view key, const std::string& text)
+{
+    const auto entry = m_ini.entry(section, key);
+    m_findings.add(entry ? entry->line : 1,
+                   "[" + std::string(section) + "], " + std::string(key) + ": " + text);
+}
+
+void WorkspaceChecker::checkLength(std::string_view section, std::string_view key)
+{
+    const auto entry = m_ini.entry(section, key);
+    if (entry && entry->value.size() > mostStoredBytes)
+        add(section, key,
+            "the value has " + std::to_string(entry->value.size()) + " bytes, of which "
+                + std::to_string(mostStoredBytes) + " are read");
+}
+
+void WorkspaceChecker::checkLengths()
+{
+    for (const std::string_view key : {keys::description, keys::dateCreated, keys::dateModified})
+        checkLength(keys::general, key);
+    for (std::size_t i = 1; i <= m_record.files.size(); ++i)
+        checkLength(keys::evolutionFiles, keys::numbered(keys::file, i));
+    for (std::size_t j = 1; j <= m_record.plots.size(); ++j)
+        checkLengthsOfPlot(keys::plotSection(j), m_record.plots[j - 1].series.size());
+}
+
+void WorkspaceChecker::checkLengthsOfPlot(const std::string& section, std::size_t series)
+{
+    for (const std::string_view key :
+         {keys::caption, keys::header, keys::headerPosition, keys::mechanism,
+          keys::mechanismPosition, keys::legend, keys::legendPosition, keys::velAxis,
+          keys::freqAxis, keys::gAxis})
+        checkLength(section, key);
+    for (std::size_t i = 1; i <= series; ++i)
+        checkLength(section, keys::numbered(keys::series, i));
+}
+
+/// The whole values: that a long one is cut when it is read is a finding of its own.
+void WorkspaceChecker::checkRichTexts()
+{
+    for (std::size_t j = 1; j <= m_record.plots.size(); ++j) {
+        const std::string section = keys::plotSection(j);
+        for (const std::string_view key : {keys::header, keys::mechanism, keys::legend}) {
+            const auto entry = m_ini.entry(section, key);
+            if (entry && isCutRtf(rtfFromStoredValue(entry->value)))
+                add(section, key, "the text ends before its last brace: it was cut");
+        }
+    }
+}
+
+/// A list that is shorter than its count is an error of reading; here it can only be longer.
+void WorkspaceChecker::checkCounts()
+{
+    const std::size_t plots = m_record.plots.size();
+    checkCount(keys::evolutionFiles, keys::fileCount, keys::file, m_record.files.size());
+    if (const auto line = m_ini.lineOfSection(keys::plotSection(plots + 1)))
+        m_findings.add(*line,
+                       "[" + keys::plotSection(plots + 1) + "] is passed over: "
+                           + std::string(keys::plotCount) + " is " + std::to_string(plots));
+    for (std::size_t j = 1; j <= plots; ++j)
+        checkCount(keys::plotSection(j), keys::seriesCount, keys::series,
+                   m_record.plots[j - 1].series.size());
+}
+
+void WorkspaceChecker::checkCount(std::string_view section, std::string_view countKey,
+                                  std::string_view key, std::size_t count)
+{
+    const std::string next = keys::numbered(key, count + 1);
+    if (m_ini.entry(section, next))
+        add(section, next,
+            "is passed over: " + std::string(countKey) + " is " + std::to_string(count));
+}
+
+void WorkspaceChecker::checkFiles()
+{
+    for (std::size_t i = 0; i < m_files.size(); ++i) {
+        const std::string key = keys::numbered(keys::file, i + 1);
+        const std::string& stored = m_record.files[i];
+        if (m_files[i] != stored)
+            add(keys::evolutionFiles, key, stored + " is not there; it was found at " + m_files[i]);
+        else if (!fileExists(stored))
+            add(keys::evolutionFiles, key, stored + " is missing");
+    }
+}
+
+void WorkspaceChecker::checkSeries(BatchRun& run)
+{
+    const auto report = [this](std::size_t place, const std::string& why) {
+        if (fileExists(m_files[place])) // the others are reported already
+            add(keys::evolutionFiles, keys::numbered(keys::file, place + 1), why);
+    };
+    const std::vector<EVM*> evolutions = openEvolutions(m_record.plots, m_files, run, report);
+    for (std::size_t j = 0; j < m_record.plots.size(); ++j) {
+        const std::vector<SeriesRecord>& series = m_record.plots[j].series;
+        for (std::size_t i = 0; i < series.size(); ++i) {
+            const std::string fault = faultOf(series[i], evolutions);
+            if (!fault.empty())
+                add(keys::plotSection(j + 1), keys::numbered(keys::series, i + 1), fault);
+        }
+    }
+}
+
+} // namespace
+
+std::vector<Finding> checkWorkspace(const std::string& path, BatchRun& run)
+{
+    const MappedFile file(path);
+    return WorkspaceChecker(file.bytes(), path).check(run);
+}
+
+} // namespace tarsil::batch

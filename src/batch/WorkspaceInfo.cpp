@@ -1,0 +1,213 @@
+#include "batch/WorkspaceInfo.h"
+
+#include "batch/InfoText.h"
+#include "batch/JsonWriter.h"
+#include "plot/RtfReader.h"
+#include "runtime/Numbers.h"
+#include "runtime/TextCodec.h"
+#include "workspace/WorkspaceRecord.h"
+
+#include <ostream>
+
+namespace tarsil::batch {
+
+namespace {
+
+/// The text with "\n" for each line break.
+std::string plainLines(const std::string& text)
+{
+    std::string lines;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool isFirstOfPair = text.compare(i, 2, "\r\n") == 0;
+        if (!isFirstOfPair)
+            lines += text[i];
+    }
+    return lines;
+}
+
+/// "#rrggbb" of a colour with red in its low byte.
+std::string colorText(ColorValue color)
+{
+    constexpr std::string_view digits = "0123456789abcdef";
+    const auto bits = static_cast<std::uint32_t>(color);
+    std::string text = "#";
+    for (const unsigned shift : {4U, 0U, 12U, 8U, 20U, 16U})
+        text += digits[(bits >> shift) & 0xFU];
+    return text;
+}
+
+/// The text of a box as the plot's box takes it: what names no font has the box's own.
+RichText richTextOf(const TextRecord& box)
+{
+    return box.rtf ? readRtf(*box.rtf, TextFormat {}) : RichText {};
+}
+
+std::string charactersOf(const RichText& text)
+{
+    std::u16string characters;
+    for (const TextRun& run : text.runs)
+        characters += run.text;
+    return utf8FromUtf16(characters);
+}
+
+void writeRun(JsonWriter& json, const TextRun& run)
+{
+    json.beginObject();
+    json.text("text", utf8FromUtf16(run.text));
+    json.text("font", run.format.family);
+    json.number("size", shortestText(run.format.points));
+    json.boolean("bold", run.format.bold);
+    json.boolean("italic", run.format.italic);
+    json.boolean("underline", run.format.underline);
+    json.boolean("strikeout", run.format.strikeOut);
+    json.key("color");
+    if (run.format.color)
+        json.text(colorText(*run.format.color));
+    else
+        json.null();
+    json.endObject();
+}
+
+void writeCoordinate(JsonWriter& json, std::string_view name, const TextRecord& box,
+                     double BoxPosition::*coordinate)
+{
+    json.key(name);
+    if (box.position)
+        json.number(shortestText((*box.position).*coordinate));
+    else
+        json.null();
+}
+
+void writeText(JsonWriter& json, std::string_view name, const TextRecord& box)
+{
+    const RichText text = richTextOf(box);
+    json.key(name);
+    json.beginObject();
+    json.text("text", charactersOf(text));
+    json.key("runs");
+    json.beginArray();
+    for (const TextRun& run : text.runs)
+        writeRun(json, run);
+    json.endArray();
+    writeCoordinate(json, "left", box, &BoxPosition::left);
+    writeCoordinate(json, "top", box, &BoxPosition::top);
+    json.endObject();
+}
+
+void writeAxis(JsonWriter& json, std::string_view name, const AxisRecord& axis)
+{
+    json.key(name);
+    json.beginObject();
+    json.text("label", axis.label);
+    json.number("min", axis.min);
+    json.number("max", axis.max);
+    json.number("ticks", std::to_string(axis.ticks));
+    json.endObject();
+}
+
+void writeSeries(JsonWriter& json, const SeriesRecord& series)
+{
+    json.beginObject();
+    json.number("evolution", std::to_string(series.evolution));
+    json.number("mode", std::to_string(series.mode));
+    json.text("tag", series.markerTag);
+    json.number("marker_size", std::to_string(series.markerSize));
+    json.number("marker_spacing", std::to_string(series.markerSpacing));
+    json.number("marker_style", std::to_string(series.markerStyle));
+    json.text("legend", series.legendText);
+    json.text("color", colorText(series.colorIndex));
+    json.text("marker_color", colorText(series.markerForegroundColor));
+    json.endObject();
+}
+
+void writePlot(JsonWriter& json, const PlotRecord& plot)
+{
+    json.beginObject();
+    json.text("caption", plainLines(plot.caption));
+    writeText(json, "header", plot.header);
+    writeText(json, "legend", plot.legend);
+    writeText(json, "mechanism", plot.mechanism);
+    writeAxis(json, "speed_axis", plot.velAxis);
+    writeAxis(json, "frequency_axis", plot.freqAxis);
+    writeAxis(json, "damping_axis", plot.gAxis);
+    json.key("series");
+    json.beginArray();
+    for (const SeriesRecord& series : plot.series)
+        writeSeries(json, series);
+    json.endArray();
+    json.endObject();
+}
+
+std::string axisText(const AxisRecord& axis)
+{
+    return axis.label + " from " + shortestText(axis.min) + " to " + shortestText(axis.max) + ", "
+        + std::to_string(axis.ticks) + (axis.ticks == 1 ? " tick" : " ticks");
+}
+
+void printSeries(const std::vector<SeriesRecord>& list, std::ostream& out)
+{
+    const auto print = [&out](const std::vector<std::string>& cells, const std::string& legend) {
+        for (const std::string& cell : cells)
+            out << rightAligned(cell, narrowColumn);
+        out << (legend.empty() ? "" : "  ") << legend << '\n';
+    };
+    if (!list.empty())
+        print({"evolution", "mode", "tag", "colour"}, "legend");
+    for (const SeriesRecord& series : list)
+        print({std::to_string(series.evolution), std::to_string(series.mode), series.markerTag,
+               colorText(series.colorIndex)},
+              series.legendText);
+}
+
+void printPlot(const PlotRecord& plot, std::size_t number, std::ostream& out)
+{
+    out << '\n';
+    printLine(out, "plot " + std::to_string(number), plainLines(plot.caption));
+    printLine(out, "header", charactersOf(richTextOf(plot.header)));
+    printLine(out, "legend", charactersOf(richTextOf(plot.legend)));
+    printLine(out, "mechanism", charactersOf(richTextOf(plot.mechanism)));
+    printLine(out, "speed axis", axisText(plot.velAxis));
+    printLine(out, "frequency axis", axisText(plot.freqAxis));
+    printLine(out, "damping axis", axisText(plot.gAxis));
+    printSeries(plot.series, out);
+}
+
+} // namespace
+
+void printWorkspaceJson(const WorkspaceRecord& record, std::ostream& out)
+{
+    JsonWriter json(out);
+    json.beginObject();
+    json.key("workspace");
+    json.beginObject();
+    json.text("description", plainLines(record.description));
+    json.text("created", plainLines(record.dateCreated));
+    json.text("modified", plainLines(record.dateModified));
+    json.key("files");
+    json.beginArray();
+    for (const std::string& file : record.files)
+        json.text(plainLines(file));
+    json.endArray();
+    json.key("plots");
+    json.beginArray();
+    for (const PlotRecord& plot : record.plots)
+        writePlot(json, plot);
+    json.endArray();
+    json.endObject();
+    json.endObject();
+    out << '\n';
+}
+
+void printWorkspaceText(const WorkspaceRecord& record, const std::string& name, std::ostream& out)
+{
+    out << name << '\n';
+    printLine(out, "description", plainLines(record.description));
+    printLine(out, "created", plainLines(record.dateCreated));
+    printLine(out, "modified", plainLines(record.dateModified));
+    for (std::size_t i = 0; i < record.files.size(); ++i)
+        printLine(out, "file " + std::to_string(i + 1), plainLines(record.files[i]));
+    for (std::size_t i = 0; i < record.plots.size(); ++i)
+        printPlot(record.plots[i], i + 1, out);
+}
+
+} // namespace tarsil::batch

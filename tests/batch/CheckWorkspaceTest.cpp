@@ -1,0 +1,192 @@
+#include "batch/WorkspaceFixture.h"
+#include "workspace/WorkspaceTexts.h"
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+
+using namespace tarsil;
+using test::runBatch;
+using test::with;
+using ::testing::HasSubstr;
+using ::testing::Not;
+
+namespace {
+
+class CheckOfAWorkspace : public test::WorkspaceFixture
+{
+protected:
+    /// The record with the paths where its files are.
+    WorkspaceRecord settled() const
+    {
+        WorkspaceRecord record = this->record();
+        record.files = {wing, old};
+        return record;
+    }
+
+    /// What is printed about a workspace that has findings, without the path in front of lines.
+    std::string findings(const std::string& path) const
+    {
+        const auto result = runBatch({"check", path});
+        EXPECT_EQ(result.status, 1);
+        EXPECT_EQ(result.err, "");
+        std::string text = result.out;
+        for (std::size_t at = text.find(path + ":"); at != std::string::npos;
+             at = text.find(path + ":"))
+            text.erase(at, path.size() + 1);
+        return text;
+    }
+
+    std::string findings(const WorkspaceRecord& record) const { return findings(write(record)); }
+
+    /// The same of bytes that are changed.
+    std::string findingsWith(std::string_view part, std::string_view replacement) const
+    {
+        const std::string bytes = test::fileBytes(write(settled()));
+        return findings(folder().write("case.tsw", with(bytes, part, replacement)));
+    }
+};
+
+} // namespace
+
+TEST_F(CheckOfAWorkspace, isSilentWhenAllIsWell)
+{
+    const auto result = runBatch({"check", write(settled()), write(settled(), "two.TSW"), old});
+    EXPECT_EQ(result.out + result.err, "");
+    EXPECT_EQ(result.status, 0);
+}
+
+TEST_F(CheckOfAWorkspace, findsFilesThatAreElsewhereOrMissing)
+{
+    std::filesystem::remove(old);
+    EXPECT_EQ(findings(record()),
+              "9: [MODAL EVOLUTION FILES], File(1): C:\\flutter\\wing.ev2 is not there; it was "
+              "found at "
+                  + wing
+                  + "\n"
+                    "10: [MODAL EVOLUTION FILES], File(2): C:\\flutter\\old.evm is missing\n");
+}
+
+TEST_F(CheckOfAWorkspace, findsAFileThatNoSeriesNeeds)
+{
+    WorkspaceRecord record = settled();
+    record.files.push_back("C:\\flutter\\gone.ev2");
+    EXPECT_EQ(findings(record),
+              "11: [MODAL EVOLUTION FILES], File(3): C:\\flutter\\gone.ev2 is missing\n");
+}
+
+TEST_F(CheckOfAWorkspace, findsAFileThatCannotBeRead)
+{
+    folder().write("old.evm", "\n\n\n" + std::string(80, ' ') + "\n");
+    EXPECT_THAT(
+        findings(settled()),
+        HasSubstr("10: [MODAL EVOLUTION FILES], File(2): Type mismatch: " + old + ", line 4"));
+}
+
+TEST_F(CheckOfAWorkspace, doesNotCheckTheEvolutionsThemselves)
+{
+    // Speeds that do not increase are a finding of the evolution alone.
+    folder().write("old.evm",
+                   "\n\n\n" + std::string(60, ' ')
+                       + "   2       1\n"
+                         "  7  0.100  100.000 5.00000E-01    4.000"
+                         "  7  0.200  100.000-5.00000E-01    8.000\n");
+    EXPECT_EQ(runBatch({"check", old}).status, 1);
+    EXPECT_EQ(runBatch({"check", write(settled())}).status, 0);
+}
+
+TEST_F(CheckOfAWorkspace, findsSeriesThatNameNothing)
+{
+    WorkspaceRecord record = settled();
+    record.plots[0].series[0].evolution = 3;
+    record.plots[0].series[1].mode = 2;
+    record.plots[1].series[0].mode = 0;
+    EXPECT_EQ(findings(record),
+              "25: [PLOT1], Serie(1): there is no modal evolution 3; the workspace lists 2\n"
+              "26: [PLOT1], Serie(2): old.evm has no mode at position 2; it holds 1\n"
+              "39: [PLOT2], Serie(1): wing.ev2 has no mode at position 0; it holds 2\n");
+}
+
+TEST_F(CheckOfAWorkspace, findsValuesThatAreTooLongToBeRead)
+{
+    WorkspaceRecord record = settled();
+    record.plots[0].caption = std::string(1023, 'x');
+    EXPECT_EQ(runBatch({"check", write(record)}).status, 0);
+    record.description = std::string(1024, 'x');
+    record.plots[1].caption = std::string(2000, ' ') + "x"; // in quotes, which do not count
+    record.plots[1].legend.rtf = test::rtfOf(std::string(5000, 'y'));
+    EXPECT_EQ(findings(record),
+              "4: [GENERAL INFORMATION], Analysis_Description: the value has 1024 bytes, of which "
+              "1023 are read\n"
+              "28: [PLOT2], Caption: the value has 2001 bytes, of which 1023 are read\n"
+              "33: [PLOT2], Legend: the value has 5014 bytes, of which 1023 are read\n");
+}
+
+TEST_F(CheckOfAWorkspace, findsATextThatWasCut)
+{
+    WorkspaceRecord record = settled();
+    record.plots[0].header.rtf = "{\\rtf1{\\fonttbl{\\f0 Arial;}}text";
+    record.plots[1].mechanism.rtf = "{no format";
+    EXPECT_EQ(findings(record),
+              "15: [PLOT1], Header: the text ends before its last brace: it was cut\n");
+}
+
+TEST_F(CheckOfAWorkspace, findsCountsThatDisagreeWithWhatFollows)
+{
+    EXPECT_THAT(
+        findingsWith("NoOfFiles=2", "NoOfFiles=1"),
+        HasSubstr("10: [MODAL EVOLUTION FILES], File(2): is passed over: NoOfFiles is 1\n"));
+    EXPECT_EQ(findingsWith("NoOfPlots=2", "NoOfPlots=1"),
+              "27: [PLOT2] is passed over: NoOfPlots is 1\n");
+    EXPECT_EQ(findingsWith("NoOfSeries=2", "NoOfSeries=-5"),
+              "25: [PLOT1], Serie(1): is passed over: NoOfSeries is 0\n");
+}
+
+TEST_F(CheckOfAWorkspace, listsFindingsInTheOrderOfTheirLines)
+{
+    // A section that comes again goes on; a key that comes again does not count.
+    const std::string bytes = test::fileBytes(write(settled()));
+    const std::string text =
+        findings(folder().write("case.tsw",
+                                "[PLOT2]\r\nMechanism={\\rtf1\r\nmechanism={\\rtf1 }\r\n"
+                                    + with(with(bytes, "NoOfSeries=1", "NoOfSeries=0"),
+                                           "Mechanism=", "Mechanism={\\rtf1")));
+    EXPECT_THAT(text, HasSubstr("2: [PLOT2], Mechanism: "));
+    EXPECT_THAT(text, HasSubstr("\n20: [PLOT1], Mechanism: "));
+    EXPECT_LT(text.find("2: [PLOT2], Mechanism"), text.find("20: [PLOT1], Mechanism"));
+    EXPECT_LT(text.find("20: [PLOT1], Mechanism"), text.find("[PLOT2], Serie(1): is passed over"));
+}
+
+TEST_F(CheckOfAWorkspace, listsOnlyTheFirstOfVeryManyFindings)
+{
+    WorkspaceRecord record = settled();
+    record.plots[0].series.assign(3000, {7, 1, "", 8, 1, 2, "", 0, 0});
+    const std::string text = findings(record);
+    EXPECT_THAT(text, HasSubstr("and 2000 more findings, which are not listed\n"));
+    EXPECT_THAT(text, Not(HasSubstr("Serie(1001)")));
+}
+
+TEST_F(CheckOfAWorkspace, complainsOfAnErrorOfReadingAndGoesOn)
+{
+    const std::string bad = folder().write("bad.tsw", "[MODAL EVOLUTION FILES]\r\nNoOfFiles=1\r\n");
+    WorkspaceRecord record = settled();
+    record.plots[0].series[0].evolution = 3;
+    const std::string path = write(record);
+    const auto result = runBatch({"check", bad, file("gone.tsw"), path});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.err,
+                HasSubstr("tarsil-batch: Subscript out of range: " + bad
+                          + ", [MODAL EVOLUTION FILES], File(1) is missing"));
+    EXPECT_THAT(result.err, HasSubstr("tarsil-batch: File not found: " + file("gone.tsw") + "\n"));
+    EXPECT_THAT(result.out, HasSubstr(path + ":25: "));
+}
+
+TEST_F(CheckOfAWorkspace, endsForEveryCutOfTheBytes)
+{
+    const std::string bytes = test::fileBytes(write(settled()));
+    for (std::size_t size = 0; size < bytes.size(); size += 7) {
+        const auto result = runBatch({"check", folder().write("cut.tsw", bytes.substr(0, size))});
+        ASSERT_LE(result.status, 1) << size;
+        ASSERT_EQ(result.status == 0, (result.out + result.err).empty()) << size;
+    }
+}

@@ -1,0 +1,190 @@
+#include "batch/WorkspaceFixture.h"
+
+#include <QImage>
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+
+using namespace tarsil;
+using test::fileBytes;
+using test::runBatch;
+using test::svgTexts;
+using ::testing::HasSubstr;
+using ::testing::Not;
+
+namespace {
+
+class PictureOfAWorkspace : public test::WorkspaceFixture
+{
+protected:
+    test::BatchResult draw(const std::vector<std::string>& more) const
+    {
+        std::vector<std::string> all = {"picture", "--output", file("out.svg")};
+        all.insert(all.end(), more.begin(), more.end());
+        return runBatch(all);
+    }
+
+    bool exists(std::string_view name) const { return std::filesystem::exists(file(name)); }
+
+    /// The texts of a picture, with a bar on either side of each.
+    std::string texts(std::string_view name) const { return "|" + svgTexts(file(name)); }
+};
+
+} // namespace
+
+TEST_F(PictureOfAWorkspace, isOneForEachPlot)
+{
+    const auto result = draw({write(record())});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.out + result.err, "");
+    EXPECT_FALSE(exists("out.svg"));
+    EXPECT_FALSE(exists("out-3.svg"));
+    EXPECT_THAT(texts("out-1.svg"), HasSubstr("|header of Wing|"));
+    EXPECT_THAT(texts("out-1.svg"), HasSubstr("|t|"));
+    EXPECT_THAT(texts("out-1.svg"), HasSubstr("|o|"));
+    EXPECT_THAT(texts("out-2.svg"), HasSubstr("|header of Store|"));
+    EXPECT_THAT(texts("out-2.svg"), HasSubstr("|b|"));
+    EXPECT_THAT(texts("out-2.svg"), Not(HasSubstr("|t|")));
+}
+
+TEST_F(PictureOfAWorkspace, keepsItsNameForASinglePlot)
+{
+    EXPECT_EQ(draw({"--plot", "Store", write(record())}).status, 0);
+    EXPECT_THAT(texts("out.svg"), HasSubstr("|header of Store|"));
+    WorkspaceRecord record = this->record();
+    record.plots.resize(1);
+    EXPECT_EQ(draw({write(record)}).status, 0);
+    EXPECT_THAT(texts("out.svg"), HasSubstr("|header of Wing|"));
+    EXPECT_FALSE(exists("out-1.svg"));
+}
+
+TEST_F(PictureOfAWorkspace, isNumberedBeforeItsLastExtension)
+{
+    const std::string path = write(record());
+    EXPECT_EQ(runBatch({"picture", "--output", file("a.b.PNG"), path}).status, 0);
+    EXPECT_TRUE(exists("a.b-1.PNG"));
+    EXPECT_TRUE(exists("a.b-2.PNG"));
+    EXPECT_EQ(runBatch({"picture", "--output", file(".emf"), path}).status, 0);
+    EXPECT_EQ(fileBytes(file("-2.emf")).substr(40, 4), " EMF");
+}
+
+TEST_F(PictureOfAWorkspace, hasTheAxesAndColoursOfThePlot)
+{
+    EXPECT_EQ(draw({write(record())}).status, 0);
+    // Every 50 knots, 5 Hz and 0.5.
+    for (const char* text : {"|400|", "|15.0|", "|-1.50|", "|V(keas)|"})
+        EXPECT_THAT(texts("out-1.svg"), HasSubstr(text));
+    EXPECT_THAT(fileBytes(file("out-1.svg")), HasSubstr("#0000ff"));
+    EXPECT_THAT(fileBytes(file("out-2.svg")), Not(HasSubstr("#0000ff")));
+}
+
+TEST_F(PictureOfAWorkspace, putsTheTextsWhereTheyStood)
+{
+    WorkspaceRecord record = this->record();
+    record.plots.resize(1);
+    record.plots[0].legend.rtf = test::rtfOf("XX");
+    record.plots[0].mechanism.rtf = test::rtfOf("YY");
+    record.plots[0].mechanism.position = {600 * 15, 400 * 15}; // 15 units are a pixel
+    EXPECT_EQ(runBatch({"picture", "--output", file("a.png"), write(record)}).status, 0);
+    record.plots[0].mechanism.rtf.reset();
+    EXPECT_EQ(runBatch({"picture", "--output", file("b.png"), write(record)}).status, 0);
+    const QImage with = QImage(QString::fromStdString(file("a.png"))).copy(600, 400, 40, 30);
+    const QImage without = QImage(QString::fromStdString(file("b.png"))).copy(600, 400, 40, 30);
+    EXPECT_FALSE(with.isNull());
+    EXPECT_NE(with, without);
+}
+
+TEST_F(PictureOfAWorkspace, takesTextsScaleAndSizeOfTheCommandLine)
+{
+    const auto result =
+        draw({"--plot=1", "--header", "mine", "--legend", "l", "--subtitle", "s", "--size",
+              "800x600", "--scale", "0,1000,0,30,0,-1", "--ticks", "2,2,3", "--reference-speed",
+              "350=VD", "--damping-line", "-0.5=half", write(record())});
+    EXPECT_EQ(result.status, 0) << result.err;
+    for (const char* text :
+         {"|mine|", "|l|", "|s|", "|500|", "|20.0|", "|-0.50|", "|VD|", "|half|"})
+        EXPECT_THAT(texts("out.svg"), HasSubstr(text));
+    EXPECT_THAT(texts("out.svg"), Not(HasSubstr("header of Wing")));
+    EXPECT_THAT(texts("out.svg"), Not(HasSubstr("|400|")));
+    EXPECT_THAT(fileBytes(file("out.svg")), HasSubstr("viewBox=\"0 0 800 600\""));
+}
+
+TEST_F(PictureOfAWorkspace, canTakeATextAway)
+{
+    EXPECT_EQ(draw({"--plot=1", "--header", "", write(record())}).status, 0);
+    EXPECT_THAT(texts("out.svg"), Not(HasSubstr("header of Wing")));
+}
+
+TEST_F(PictureOfAWorkspace, leavesOutWhatIsMissing)
+{
+    std::filesystem::remove(old);
+    WorkspaceRecord record = this->record();
+    record.plots[1].series.insert(record.plots[1].series.begin(), {1, 9, "?", 8, 1, 2, "", 0, 0});
+    const auto result = draw({write(record)});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.err, HasSubstr("File not found: C:\\flutter\\old.evm"));
+    EXPECT_THAT(result.err, HasSubstr("wing.ev2 has no mode at position 9; it holds 2"));
+    EXPECT_THAT(texts("out-1.svg"), HasSubstr("|t|"));
+    EXPECT_THAT(texts("out-1.svg"), Not(HasSubstr("|o|")));
+    EXPECT_THAT(texts("out-2.svg"), HasSubstr("|b|")) << "behind the series that names nothing";
+}
+
+TEST_F(PictureOfAWorkspace, namesThePlotThatCannotBeDrawn)
+{
+    WorkspaceRecord record = this->record();
+    record.plots[1].velAxis.ticks = 0;
+    const auto result = draw({write(record)});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.err, HasSubstr("plot \"Store\""));
+    EXPECT_TRUE(exists("out-1.svg"));
+    EXPECT_FALSE(exists("out-2.svg"));
+}
+
+TEST_F(PictureOfAWorkspace, needsAPlot)
+{
+    WorkspaceRecord record = this->record();
+    const auto unknown = draw({"--plot", "Tail", write(record)});
+    EXPECT_EQ(unknown.status, 1);
+    EXPECT_THAT(unknown.err, HasSubstr("there are 1 \"Wing\", 2 \"Store\""));
+    record.plots.clear();
+    const auto none = draw({write(record)});
+    EXPECT_EQ(none.status, 1);
+    EXPECT_THAT(none.err, HasSubstr("case.tsw holds no plot"));
+    EXPECT_EQ(fileCount(), 3U);
+}
+
+TEST_F(PictureOfAWorkspace, isNotWrittenOverWhatIsRead)
+{
+    const std::string path = write(record());
+    const std::vector<std::string> inputs = {path, wing, old};
+    for (const std::string& input : inputs) {
+        std::filesystem::create_hard_link(input, file("out-2.svg"));
+        const std::string before = fileBytes(input);
+        const auto result = draw({path});
+        EXPECT_EQ(result.status, 1) << input;
+        EXPECT_THAT(result.err, HasSubstr("out-2.svg is one of the files to read"));
+        EXPECT_EQ(fileBytes(input), before);
+        EXPECT_FALSE(exists("out-1.svg")) << "all names are looked at before anything is written";
+        std::filesystem::remove(file("out-2.svg"));
+    }
+}
+
+TEST_F(PictureOfAWorkspace, refusesWhatTheSeriesSay)
+{
+    const std::string path = write(record());
+    const std::vector<std::vector<std::string>> wrong = {{"--modes", "1", path},
+                                                         {"--marker", "id", path},
+                                                         {"--marker-spacing", "3", path},
+                                                         {"--marker-size=3", path},
+                                                         {path, wing},
+                                                         {wing, path},
+                                                         {path, path},
+                                                         {"--plot", "1", wing}};
+    for (const auto& more : wrong) {
+        const auto result = draw(more);
+        EXPECT_EQ(result.status, 2) << ::testing::PrintToString(more);
+        EXPECT_THAT(result.err, HasSubstr("workspace"));
+    }
+    EXPECT_EQ(fileCount(), 3U);
+}
