@@ -36,7 +36,8 @@ public:
     ~wndEvolExplorer() override;
 
     /// Adds nodes for the evolutions that were loaded since the last call, and opens their folder.
-    /// Their files are looked through later, when the user waits for nothing; what is doubtful then marks the node.
+    /// Their files are looked through later, when the user waits for nothing; what is doubtful then
+    /// marks the node.
     void FillEvolsNode();
 
     /// Makes the selected evolution the reference evolution; the user is told when there is none.
