@@ -12,6 +12,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QProcess>
+#include <QTemporaryDir>
 
 #include <cstdlib>
 
@@ -53,7 +54,10 @@ int showEmptyWindow()
 int showProgram(const QString& file)
 {
     QtUserInterface user;
-    wndMain window(user, [](const QString&) { return false; });
+    const QTemporaryDir folder; // of options that nobody has set
+    wndMain window(
+        user, [](const QString&) { return false; },
+        OptionsStore(folder.filePath(QStringLiteral("tarsil.ini")).toStdString()));
     const FirstFrame frame(window.evolPlot().viewOf(*window.evolPlot().plots().front()));
     window.resize(960, 720);
     window.show();

@@ -1,21 +1,24 @@
 # How the libraries, tests and their rules are made: warnings, header checks, and the refusal of
 # widgets below the windows.
 
-add_library(tarsil_options INTERFACE)
-target_include_directories(tarsil_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
-target_compile_options(tarsil_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
+add_library(tarsil_compile_options INTERFACE)
+target_include_directories(tarsil_compile_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
+target_compile_options(tarsil_compile_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
 target_compile_definitions(
-  tarsil_options INTERFACE QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII
-                           QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+  tarsil_compile_options
+  INTERFACE QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII
+            QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 if(TARSIL_SANITIZE)
-  target_compile_options(tarsil_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
-                                                  -fno-omit-frame-pointer)
-  target_link_options(tarsil_options INTERFACE -fsanitize=address,undefined)
+  target_compile_options(
+    tarsil_compile_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
+                                     -fno-omit-frame-pointer)
+  target_link_options(tarsil_compile_options INTERFACE -fsanitize=address,undefined)
 endif()
 if(TARSIL_FUZZ)
-  target_compile_options(tarsil_options INTERFACE -fsanitize=fuzzer-no-link,address,undefined
-                                                  -fno-sanitize-recover=all)
-  target_link_options(tarsil_options INTERFACE -fsanitize=address,undefined)
+  target_compile_options(
+    tarsil_compile_options INTERFACE -fsanitize=fuzzer-no-link,address,undefined
+                                     -fno-sanitize-recover=all)
+  target_link_options(tarsil_compile_options INTERFACE -fsanitize=address,undefined)
 endif()
 
 # tarsil_library(NAME [WINDOWS] HEADERS ... SOURCES ... LINK ...): the static library tarsil_NAME
@@ -29,7 +32,7 @@ function(tarsil_library name)
   target_sources(${target} PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR}/src FILES ${headers})
   target_link_libraries(
     ${target}
-    PUBLIC tarsil_options ${LIB_LINK}
+    PUBLIC tarsil_compile_options ${LIB_LINK}
     PRIVATE ${LIB_PRIVATE_LINK})
   set_target_properties(${target} PROPERTIES TARSIL_WINDOWS "${LIB_WINDOWS}" TARSIL_LINKS
                                                                             "${LIB_LINK};${LIB_PRIVATE_LINK}")

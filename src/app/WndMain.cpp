@@ -9,6 +9,7 @@
 #include "explorer/WndSelModes.h"
 #include "model/EvolutionLoader.h"
 #include "model/MdlMix.h"
+#include "options/DlgOptions.h"
 #include "runtime/ErrorGuard.h"
 #include "runtime/ErrorReport.h"
 #include "runtime/RunTimeError.h"
@@ -47,8 +48,10 @@ bool isMentioned(const std::vector<std::string>& arguments, std::string_view ext
 
 } // namespace
 
-wndMain::wndMain(UserInterface& userInterface, FlutterReportCommand::FileOpener opener)
-    : m_userInterface(userInterface), m_report(userInterface, std::move(opener)),
+wndMain::wndMain(UserInterface& userInterface, FlutterReportCommand::FileOpener opener,
+                 OptionsStore store)
+    : m_userInterface(userInterface), m_store(std::move(store)),
+      m_report(userInterface, std::move(opener)),
       m_reportFolder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)),
       m_area(new QMdiArea(this)), m_statusPanels(new StatusPanels(this))
 {
@@ -67,8 +70,7 @@ wndMain::wndMain(UserInterface& userInterface, FlutterReportCommand::FileOpener 
 /// The child windows go before the evolutions that their plots refer to.
 wndMain::~wndMain()
 {
-    m_refSpeed.reset();
-    m_dampLine.reset();
+    closeDialogs();
     m_workspace.reset();
     delete m_area;
 }
@@ -83,7 +85,7 @@ void wndMain::makeChildWindows()
     };
     m_explorer = new wndEvolExplorer(m_session, *m_evolPlot, m_userInterface);
     m_data = new wndData(
-        *m_evolPlot, m_airplane, [this] { return m_explorer->referenceEvolution(); },
+        *m_evolPlot, m_airplaneInfo, [this] { return m_explorer->referenceEvolution(); },
         m_userInterface);
     m_frames.data = frameOf(m_data);
     m_frames.explorer = frameOf(m_explorer);
@@ -118,6 +120,8 @@ void wndMain::connectExplorer()
 void wndMain::MDIForm_Load(const std::vector<std::string>& arguments)
 {
     guarded(m_userInterface, "wndMain", [&] {
+        options().GetOptReg();
+        m_workspace->remember(); // the axes of the options are no change of the user's
         for (ChildFrame* frame : {m_frames.data, m_frames.explorer, m_frames.plot})
             frame->bringBack();
         wndDefLayout();
@@ -272,6 +276,24 @@ void wndMain::mnuFlutCalc_Click()
     m_report.run(activePlot(), m_reportFolder);
 }
 
+dlgOptions& wndMain::options()
+{
+    if (!m_options) {
+        m_options = std::make_unique<dlgOptions>(m_airplaneInfo, *m_evolPlot, m_userInterface,
+                                                 m_store, this);
+        connect(m_options.get(), &dlgOptions::flutterMechanismsChanged, m_data,
+                &wndData::fillMechanisms);
+    }
+    return *m_options;
+}
+
+void wndMain::mnuOptions_Click()
+{
+    options().show();
+    options().raise();
+    options().activateWindow();
+}
+
 void wndMain::mnuDefLayout_Click()
 {
     wndDefLayout();
@@ -300,15 +322,24 @@ void wndMain::stBar_PanelClick(int panel)
     });
 }
 
+/// Options that cannot be written are reported, and keep nobody in the program.
 void wndMain::closeEvent(QCloseEvent* event)
 {
     if (!m_workspace->mayDiscard()) {
         event->ignore();
         return;
     }
+    if (m_options)
+        guarded(m_userInterface, "wndMain", [this] { m_options->SetOptReg(); });
+    closeDialogs();
+    event->accept();
+}
+
+void wndMain::closeDialogs()
+{
     m_refSpeed.reset();
     m_dampLine.reset();
-    event->accept();
+    m_options.reset();
 }
 
 } // namespace tarsil

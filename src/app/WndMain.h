@@ -5,6 +5,7 @@
 #include "app/FlutterReportCommand.h"
 #include "app/WorkspaceCommands.h"
 #include "model/Session.h"
+#include "options/OptionsStore.h"
 #include "runtime/UserInterface.h"
 
 #include <QMainWindow>
@@ -21,6 +22,7 @@ namespace tarsil {
 class EVM;
 class StatusPanels;
 class dlgDampLine;
+class dlgOptions;
 class dlgRefSpeed;
 class wndData;
 class wndEvolExplorer;
@@ -34,14 +36,15 @@ class wndMain : public QMainWindow
     Q_OBJECT
 
 public:
-    /// `userInterface` must outlive the window.
-    explicit wndMain(UserInterface& userInterface, FlutterReportCommand::FileOpener opener);
+    /// `userInterface` must outlive the window. `store` is where the options are kept.
+    wndMain(UserInterface& userInterface, FlutterReportCommand::FileOpener opener,
+            OptionsStore store);
     ~wndMain() override;
 
-    /// Shows the child windows in the default layout, makes the first plot active, and acts on the
-    /// command line: one that holds ".tsw" anywhere names a workspace, otherwise one that holds
-    /// ".evm" or ".ev2" names evolutions to load and to draw at once. An error is reported, and the
-    /// window stays.
+    /// Applies the options, shows the child windows in the default layout, makes the first plot
+    /// active, and acts on the command line: one that holds ".tsw" anywhere names a workspace,
+    /// otherwise one that holds ".evm" or ".ev2" names evolutions to load and to draw at once. An
+    /// error is reported, and the window stays.
     void MDIForm_Load(const std::vector<std::string>& arguments);
 
     /// The default layout of the child windows.
@@ -51,6 +54,7 @@ public:
     wndEvolPlot& evolPlot() { return *m_evolPlot; }
     wndEvolExplorer& explorer() { return *m_explorer; }
     Session& session() { return m_session; }
+    const AirplaneInfo& airplaneInfo() const { return m_airplaneInfo; }
     QMenu* popEvmPlot() { return m_plotMenu; }
 
     /// Where flutter reports go: the user's documents, unless told otherwise.
@@ -63,13 +67,13 @@ private:
     using Handler = void (wndMain::*)();
 
     /// One command of the menu bar: the name of its item and, if it has one, of the item's twin in
-    /// the pop-up of the plot; their caption; what it does (nothing yet when it is null); its key.
+    /// the pop-up of the plot; their caption; what it does; its key.
     struct Command
     {
         const char* name;
         const char* twin;
         const char* caption;
-        Handler handler = nullptr;
+        Handler handler;
         const char* key = "";
     };
 
@@ -90,6 +94,7 @@ private:
     void makeMenuBar();
     void makePopups();
     void makeHelpKey();
+    void closeDialogs();
     void addCommand(QMenu& menu, const Command& command, const char* name);
     void run(Handler handler);
 
@@ -108,6 +113,7 @@ private:
     void mnuAddDamp_Click();
     void mnuClearDamp_Click();
     void mnuFlutCalc_Click();
+    void mnuOptions_Click();
     void mnuDefLayout_Click();
     void TileVertMenu_Click();
     void TileHorizMenu_Click();
@@ -118,13 +124,15 @@ private:
 
     std::vector<EVM*> load(const std::vector<std::string>& paths);
     void draw(const std::vector<EVM*>& evolutions);
+    dlgOptions& options();
     class EvmPlot& activePlot() const;
     QSize innerSize() const;
     std::vector<ChildFrame*> frames() const;
 
     UserInterface& m_userInterface;
     Session m_session;
-    AirplaneInfo m_airplane;
+    AirplaneInfo m_airplaneInfo;
+    OptionsStore m_store;
     FlutterReportCommand m_report;
     QString m_reportFolder;
     QMdiArea* m_area;
@@ -138,6 +146,7 @@ private:
     QMenu* m_explorerMenu = nullptr;
     std::unique_ptr<dlgRefSpeed> m_refSpeed; ///< made when it is first wanted
     std::unique_ptr<dlgDampLine> m_dampLine;
+    std::unique_ptr<dlgOptions> m_options;
 };
 
 } // namespace tarsil

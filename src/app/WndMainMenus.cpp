@@ -43,7 +43,7 @@ std::vector<wndMain::CommandMenu> wndMain::commandTable()
           {"mnuAddDamp", "popAddDamp", "Add Damping Line ...", &wndMain::mnuAddDamp_Click},
           {"mnuClearDamp", "popClearDamp", "Clear Damping Lines", &wndMain::mnuClearDamp_Click},
           {"mnuFlutCalc", "popFlutCalc", "Calculate Flutter Speeds", &wndMain::mnuFlutCalc_Click},
-          {"mnuOptions", nullptr, "Options ..."}}},
+          {"mnuOptions", nullptr, "Options ...", &wndMain::mnuOptions_Click}}},
         {"WindowsMenu",
          "&Window",
          nullptr,
@@ -88,16 +88,12 @@ void wndMain::makePopups()
                "popSelMultModes");
 }
 
-/// An item without a command is there, and grey.
 void wndMain::addCommand(QMenu& menu, const Command& command, const char* name)
 {
     QAction* const action = menu.addAction(QString::fromLatin1(command.caption));
     action->setObjectName(QString::fromLatin1(name));
     action->setShortcut(QKeySequence(QString::fromLatin1(command.key)));
-    action->setEnabled(command.handler != nullptr);
-    if (command.handler != nullptr)
-        connect(action, &QAction::triggered, this,
-                [this, handler = command.handler] { run(handler); });
+    connect(action, &QAction::triggered, this, [this, handler = command.handler] { run(handler); });
 }
 
 void wndMain::makeHelpKey()

@@ -45,10 +45,12 @@ public:
     /// none.
     bool mayDiscard();
 
+    /// What is there now counts as saved.
+    void remember();
+
 private:
     WorkspaceRecord gather() const;
     WorkspaceRecord state() const;
-    void remember();
     void open(const std::string& path);
     std::vector<EVM*> loadFiles(const WorkspaceRecord& record, const std::string& path);
     void addPlots(const WorkspaceRecord& record, const std::vector<EVM*>& evolutions);

@@ -37,7 +37,8 @@ int main(int argc, char** argv)
     QApplication::setApplicationVersion(QStringLiteral(TARSIL_VERSION));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/tarsil.svg")));
     const std::vector<std::string> files = filesOf(application);
-    tarsil::wndMain window(userInterface, tarsil::openSpreadsheet);
+    tarsil::wndMain window(userInterface, tarsil::openSpreadsheet,
+                           tarsil::OptionsStore(tarsil::OptionsStore::defaultPath()));
     userInterface.attach(&window, &window.stBar());
     window.resize(QSize(1280, 800).boundedTo(window.screen()->availableSize()));
     window.show();

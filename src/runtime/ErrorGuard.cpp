@@ -1,6 +1,5 @@
 #include "runtime/ErrorGuard.h"
 
-#include "runtime/ErrorReport.h"
 #include "runtime/UserInterface.h"
 
 #include <exception>
@@ -8,11 +7,15 @@
 
 namespace tarsil {
 
-bool guarded(UserInterface& userInterface, std::string_view module,
-             const std::function<void()>& action)
+namespace {
+
+/// `Catcher` is the kind of thing that catches: a module's name, or a class.
+template <typename Catcher>
+bool runGuarded(UserInterface& userInterface, Catcher catcher, std::string_view name,
+                const std::function<void()>& action)
 {
     const auto report = [&](const RunTimeError& error) {
-        userInterface.showMessage(errorReport(error, module), "Error", MessageIcon::Critical);
+        userInterface.showMessage(errorReport(error, catcher), "Error", MessageIcon::Critical);
     };
     try {
         action();
@@ -20,9 +23,22 @@ bool guarded(UserInterface& userInterface, std::string_view module,
     } catch (const RunTimeError& error) {
         report(error);
     } catch (const std::exception& error) {
-        report({ErrorNumber::InvalidProcedureCall, std::string(module), error.what()});
+        report({ErrorNumber::InvalidProcedureCall, std::string(name), error.what()});
     }
     return false;
+}
+
+} // namespace
+
+bool guarded(UserInterface& userInterface, std::string_view module,
+             const std::function<void()>& action)
+{
+    return runGuarded(userInterface, module, module, action);
+}
+
+bool guarded(UserInterface& userInterface, ClassName className, const std::function<void()>& action)
+{
+    return runGuarded(userInterface, className, className.name, action);
 }
 
 } // namespace tarsil

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "runtime/ErrorReport.h"
+
 #include <functional>
 #include <string_view>
 
@@ -11,6 +13,10 @@ class UserInterface;
 /// names `module`. An exception that is no RunTimeError is reported as error 5 with its own text.
 /// Returns whether all went well.
 bool guarded(UserInterface& userInterface, std::string_view module,
+             const std::function<void()>& action);
+
+/// The same for a class that catches its own errors; the report names the class.
+bool guarded(UserInterface& userInterface, ClassName className,
              const std::function<void()>& action);
 
 } // namespace tarsil

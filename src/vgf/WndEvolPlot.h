@@ -7,11 +7,22 @@
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace tarsil {
 
 class EvmPlotView;
+
+/// The axes that a new plot begins with; what is absent is as `EvmPlot` makes it.
+struct NewPlotDefaults
+{
+    std::optional<EvmPlot::Scale> scale;
+    std::optional<EvmPlot::Thicks> thicks;
+
+    /// Gives a plot what is there.
+    void applyTo(EvmPlot& plot) const;
+};
 
 /// The window of the V-g-f plots. It owns them as an array that begins with element 0, "Plot1",
 /// which is always there. At most one plot is active: it is the only visible one, fills the window,
@@ -27,6 +38,10 @@ public:
 
     QSize sizeHint() const override;
 
+    /// For plots that are made anew from now on; those that are there, and copies, keep their own.
+    void setNewPlotDefaults(const NewPlotDefaults& defaults) { m_newPlotDefaults = defaults; }
+    const NewPlotDefaults& newPlotDefaults() const { return m_newPlotDefaults; }
+
     /// Null when no plot is active.
     EvmPlot* ActivePlot() const { return m_activePlot; }
 
@@ -34,9 +49,9 @@ public:
     /// keyboard focus; null leaves no plot active. Error 5 for a plot of another window.
     void ActivatePlot(EvmPlot* plot);
 
-    /// Appends a plot with the index after the highest one in use and does not activate it. An
-    /// empty caption becomes "Plot" and the plot's place, its index counted from 1: "Plot2". Error
-    /// 6 "Overflow" for an index above 32767.
+    /// Appends a plot with the index after the highest one in use and does not activate it. It has
+    /// the axes of `newPlotDefaults`. An empty caption becomes "Plot" and the plot's place, its
+    /// index counted from 1: "Plot2". Error 6 "Overflow" for an index above 32767.
     EvmPlot& AddPlot(const QString& caption);
 
     /// Appends a copy of the active plot (`EvmPlot::Clone`: without its series) as `AddPlot` does.
@@ -103,6 +118,7 @@ private:
     UserInterface& m_user;
     std::vector<Element> evpVgf; ///< by increasing index
     EvmPlot* m_activePlot = nullptr;
+    NewPlotDefaults m_newPlotDefaults;
 };
 
 } // namespace tarsil

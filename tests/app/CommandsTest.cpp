@@ -133,7 +133,8 @@ TEST_F(Commands, showTheKeysOnF1)
 TEST_F(Commands, turnEveryFailureIntoTheOneReportAndGoOn)
 {
     FailingUser failing;
-    wndMain other(failing, [](const QString&) { return true; });
+    wndMain other(
+        failing, [](const QString&) { return true; }, OptionsStore(folder.file("other.ini")));
     other.show();
     other.MDIForm_Load({sample("goland_clean_m040.ev2")});
     for (const auto& [name, module] :
@@ -152,7 +153,8 @@ TEST_F(Commands, turnEveryFailureIntoTheOneReportAndGoOn)
 
 TEST_F(Commands, reportThatNoPlotIsActive)
 {
-    wndMain other(user, [](const QString&) { return true; });
+    wndMain other(
+        user, [](const QString&) { return true; }, OptionsStore(folder.file("other.ini")));
     for (const char* name :
          {"ExportMenu", "mnuSetScale", "popSetScale", "mnuClearRef", "popClearRef", "mnuClearDamp",
           "popClearDamp", "mnuFlutCalc", "popFlutCalc"}) {

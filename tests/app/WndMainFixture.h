@@ -21,10 +21,13 @@ class WndMainTest : public ::testing::Test
 {
 protected:
     WndMainTest()
-        : window(user, [this](const QString& file) {
-              opened.append(file);
-              return canOpen;
-          })
+        : window(
+            user,
+            [this](const QString& file) {
+                opened.append(file);
+                return canOpen;
+            },
+            OptionsStore(folder.file("tarsil.ini")))
     {
         window.setReportFolder(QString::fromStdString(folder.file("documents")));
         window.resize(1000, 700);

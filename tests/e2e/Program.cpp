@@ -11,6 +11,7 @@ Program::Program(const VirtualDisplay& display, const QStringList& arguments)
     environment.insert(QStringLiteral("DISPLAY"), display.name());
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
     environment.insert(QStringLiteral("HOME"), QString::fromStdString(m_home.path().string()));
+    environment.remove(QStringLiteral("XDG_CONFIG_HOME")); // the settings of this run are at home
     // Without the system's programs none of them opens a workbook over the test.
     environment.insert(QStringLiteral("PATH"), QString());
     m_process.setProcessEnvironment(environment);

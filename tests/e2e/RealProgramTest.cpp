@@ -146,6 +146,28 @@ TEST(RealProgram, addsMarksWritesTheReportAndExportsByTheKeyboard)
     EXPECT_EQ(program.exitStatus(), 0);
 }
 
+TEST(RealProgram, keepsTheOptionsInTheSettingsOfTheUser)
+{
+    const VirtualDisplay display;
+    ASSERT_FALSE(display.name().isEmpty()) << "Xvfb did not start";
+    Program program(display, {});
+    Hands hands(display.name());
+    ASSERT_TRUE(hands.focusNew(mainWindow));
+    hands.press(keys("alt+t Up Return")); // the last item
+    ASSERT_TRUE(hands.focusNew(QStringLiteral("^Options$")));
+    hands.press(keys("alt+t"));
+    hands.type(QStringLiteral("4|5|2"));
+    hands.press(keys("Return"));
+    ASSERT_TRUE(waitUntil([&hands] { return !hands.isShown(QStringLiteral("^Options$")); }));
+    ASSERT_TRUE(hands.focus(mainWindow));
+    hands.press(keys("ctrl+q"));
+    ASSERT_TRUE(hands.focusNew(QStringLiteral("^Tarsil$"))) << "the axes of the plot have changed";
+    hands.press(keys("alt+y"));
+    EXPECT_EQ(program.exitStatus(), 0);
+    EXPECT_EQ(fileBytes(program.home().file(".config/tarsil/tarsil.ini")),
+              "[Options]\nAcInfoDataFile=\nvgfScale=\nvgfThicks=4|5|2\n");
+}
+
 TEST(RealProgram, followsTheMouse)
 {
     const VirtualDisplay display;

@@ -183,3 +183,13 @@ TEST_F(WndEvolExplorerTest, startsAnewWithTheTreeOfTheBeginning)
     EXPECT_EQ(plotAt(0).vthicks(), 7) << "as in a new plot";
     EXPECT_TRUE(user.questions.empty());
 }
+
+TEST_F(WndEvolExplorerTest, startsNewWithTheAxesThatNewPlotsHave)
+{
+    plots.setNewPlotDefaults({EvmPlot::Scale {0, 100, 0, 10, 0, -1}, EvmPlot::Thicks {4, 3, 2}});
+    explorer.startNew();
+    EXPECT_EQ(plotAt(0).GetScale(), (EvmPlot::Scale {0, 100, 0, 10, 0, -1}));
+    EXPECT_EQ(plotAt(0).vthicks(), 4);
+    EXPECT_EQ(plotAt(0).gthicks(), 3);
+    EXPECT_EQ(plotAt(0).fthicks(), 2);
+}

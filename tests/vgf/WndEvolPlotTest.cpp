@@ -283,3 +283,32 @@ TEST_F(WndEvolPlotTest, asksForAnActivePlotBeforeASeries)
     EXPECT_TRUE(plotAt(0)->SeriesCollection().empty());
     EXPECT_THAT(announced, IsEmpty());
 }
+
+TEST_F(WndEvolPlotTest, givesThePlotsThatItAddsTheAxesThatAreSet)
+{
+    activateFirst();
+    NewPlotDefaults defaults;
+    defaults.scale = EvmPlot::Scale {0, 100, 0, 10, 0, -1};
+    window.setNewPlotDefaults(defaults);
+    EXPECT_EQ(add()->GetScale(), *defaults.scale);
+    EXPECT_EQ(plotAt(1)->vthicks(), EvmPlot::Thicks().v);
+    window.setNewPlotDefaults({std::nullopt, EvmPlot::Thicks {4, 3, 2}});
+    EXPECT_EQ(add()->GetScale(), EvmPlot::Scale());
+    EXPECT_EQ(plotAt(2)->vthicks(), 4);
+    EXPECT_EQ(plotAt(2)->gthicks(), 3);
+    EXPECT_EQ(plotAt(2)->fthicks(), 2);
+    EXPECT_EQ(plotAt(0)->GetScale(), EvmPlot::Scale());
+    EXPECT_EQ(plotAt(0)->vthicks(), EvmPlot::Thicks().v);
+}
+
+TEST_F(WndEvolPlotTest, givesACopyTheAxesOfItsSource)
+{
+    activateFirst();
+    plotAt(0)->SetScale(0, 321, 0, 20, 0, -2);
+    plotAt(0)->setVthicks(9);
+    window.setNewPlotDefaults({EvmPlot::Scale {0, 100, 0, 10, 0, -1}, EvmPlot::Thicks {4, 3, 2}});
+    const EvmPlot& copy = *window.CopyPlot(QString());
+    EXPECT_EQ(copy.GetScale(), plotAt(0)->GetScale());
+    EXPECT_EQ(copy.vthicks(), 9);
+    EXPECT_EQ(copy.gthicks(), EvmPlot::Thicks().g);
+}

@@ -1,0 +1,165 @@
+#include "options/DlgOptions.h"
+
+#include "ui_DlgOptions.h"
+
+#include "aircraft/AirplaneInfo.h"
+#include "options/ListInput.h"
+#include "runtime/ErrorGuard.h"
+#include "runtime/Numbers.h"
+#include "runtime/PathNames.h"
+#include "runtime/UserInterface.h"
+#include "vgf/WndEvolPlot.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tarsil {
+
+namespace {
+
+constexpr std::string_view moduleName = "dlgOptions";
+constexpr std::string_view aircraftFilter =
+    "Aircraft information data file (*.inp)|*.inp|All Files (*.*)|*.*|";
+constexpr std::size_t firstThick = 6; ///< in the entries
+
+std::int16_t countOf(float number, std::string_view where = {})
+{
+    return roundToInteger16(static_cast<double>(number), moduleName, where);
+}
+
+} // namespace
+
+dlgOptions::dlgOptions(AirplaneInfo& airplaneInfo, wndEvolPlot& plots, UserInterface& user,
+                       OptionsStore store, QWidget* parent)
+    : QDialog(parent), m_ui(std::make_unique<Ui::dlgOptions>()), m_airplaneInfo(airplaneInfo),
+      m_plots(plots), m_user(user), m_store(std::move(store))
+{
+    m_ui->setupUi(this);
+    m_scaleInput = std::make_unique<ListInput>(*m_ui->txtVgfScale, 6, QStringLiteral("six"));
+    m_thicksInput = std::make_unique<ListInput>(*m_ui->txtVgfThicks, 3, QStringLiteral("three"));
+    connect(m_ui->btnAcInfo, &QPushButton::clicked, this, &dlgOptions::btnAcInfo_Click);
+    connect(m_ui->btnOK, &QPushButton::clicked, this, &dlgOptions::btnOK_Click);
+    connect(m_ui->btnApply, &QPushButton::clicked, this, &dlgOptions::btnApply_Click);
+    connect(m_ui->btnCancel, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+dlgOptions::~dlgOptions() = default;
+
+/// Lists that cannot be applied cost the user his options at most for this run: the path of the
+/// aircraft information file is kept, also when they stop the file from being read.
+void dlgOptions::GetOptReg()
+{
+    OptionTexts stored;
+    guarded(m_user, moduleName, [&] { stored = m_store.read(); });
+    m_ui->txtAcInfo->setText(stored.acInfoDataFile);
+    m_ui->txtVgfScale->setText(stored.vgfScale);
+    m_ui->txtVgfThicks->setText(stored.vgfThicks);
+    if (!ApplyOpt())
+        m_airplaneInfo.Filename = stored.acInfoDataFile.toStdString();
+}
+
+void dlgOptions::SetOptReg() const
+{
+    m_store.write({QString::fromStdString(m_airplaneInfo.Filename), m_ui->txtVgfScale->text(),
+                   m_ui->txtVgfThicks->text()});
+}
+
+void dlgOptions::UpDateOpt()
+{
+    const std::vector<float> scale = m_scaleInput->numbers(moduleName);
+    const std::vector<float> thicks = m_thicksInput->numbers(moduleName);
+    for (std::size_t i = 0; i < thicks.size(); ++i)
+        countOf(thicks[i],
+                m_thicksInput->nameOf(i)); // a count that no axis can take is refused here
+    std::copy(scale.begin(), scale.end(), m_entries.begin());
+    std::copy(thicks.begin(), thicks.end(), m_entries.begin() + firstThick);
+}
+
+bool dlgOptions::ApplyOpt()
+{
+    return guarded(m_user, moduleName, [this] {
+        UpDateOpt();
+        readAircraftFile();
+        applyAxes();
+    });
+}
+
+void dlgOptions::readAircraftFile()
+{
+    const std::string file = m_ui->txtAcInfo->text().toStdString();
+    if (file.empty())
+        return;
+    m_airplaneInfo.Filename = file;
+    if (fileExists(file))
+        guarded(m_user, ClassName {"AirplaneInfo"}, [this] { m_airplaneInfo.Create(); });
+    Q_EMIT flutterMechanismsChanged();
+}
+
+/// A plot that is shown is drawn at once. What is applied may be impossible to draw: that is
+/// reported, and the options are in force all the same.
+void dlgOptions::applyAxes()
+{
+    NewPlotDefaults given;
+    if (m_scaleInput->fits())
+        given.scale = scale();
+    if (m_thicksInput->fits())
+        given.thicks = thicks();
+    NewPlotDefaults defaults = m_plots.newPlotDefaults();
+    if (given.scale || m_scaleInput->isEmpty())
+        defaults.scale = given.scale;
+    if (given.thicks || m_thicksInput->isEmpty())
+        defaults.thicks = given.thicks;
+    m_plots.setNewPlotDefaults(defaults);
+    EvmPlot& plot = vgfPlot();
+    given.applyTo(plot);
+    if (plot.Visible() && (given.scale || given.thicks))
+        guarded(m_user, moduleName, [&plot] { plot.plot(); });
+}
+
+EvmPlot& dlgOptions::vgfPlot() const
+{
+    EvmPlot* const active = m_plots.ActivePlot();
+    return active != nullptr ? *active : *m_plots.plots().front();
+}
+
+EvmPlot::Scale dlgOptions::scale() const
+{
+    EvmPlot::Scale scale;
+    scale.vmin = m_entries[0];
+    scale.vmax = m_entries[1];
+    scale.gmin = m_entries[2];
+    scale.gmax = m_entries[3];
+    scale.fmin = m_entries[4];
+    scale.fmax = m_entries[5];
+    return scale;
+}
+
+EvmPlot::Thicks dlgOptions::thicks() const
+{
+    return {countOf(m_entries[firstThick]), countOf(m_entries[firstThick + 1]),
+            countOf(m_entries[firstThick + 2])};
+}
+
+void dlgOptions::btnAcInfo_Click()
+{
+    guarded(m_user, moduleName, [this] {
+        const std::vector<std::string> chosen =
+            m_user.askOpenFiles({std::string(aircraftFilter), 1, false, {}});
+        if (!chosen.empty())
+            m_ui->txtAcInfo->setText(QString::fromStdString(chosen.front()));
+    });
+}
+
+bool dlgOptions::btnApply_Click()
+{
+    return ApplyOpt();
+}
+
+/// The dialog stays where a list has to be put right.
+void dlgOptions::btnOK_Click()
+{
+    if (btnApply_Click())
+        accept();
+}
+
+} // namespace tarsil

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QString>
+
+#include <string>
+
+namespace tarsil {
+
+/// The options as they are kept from run to run: texts, empty where nothing is set.
+struct OptionTexts
+{
+    QString acInfoDataFile; ///< path of the aircraft information file
+    QString vgfScale; ///< vmin|vmax|gmin|gmax|fmin|fmax; KEAS, dimensionless, Hz
+    QString vgfThicks; ///< ticks of the speed, damping and frequency axis
+
+    bool operator==(const OptionTexts&) const = default;
+};
+
+/// The settings of one user, a text file with the section "Options".
+///
+///     [Options]
+///     AcInfoDataFile=/home/me/wing.inp
+///     vgfScale=0|700|0|-0.25|0|50
+///     vgfThicks=7|5|5
+class OptionsStore
+{
+public:
+    explicit OptionsStore(std::string path);
+
+    /// The file below the folder that the desktop has for the user's settings.
+    static std::string defaultPath();
+
+    const std::string& path() const { return m_path; }
+
+    /// What the file says; a file or key that is not there says nothing. Errors: 75 when the file
+    /// cannot be read, 13 when it is damaged.
+    OptionTexts read() const;
+
+    /// Writes the file, whole or not at all, in place of the one that is there, a damaged one
+    /// included. Makes its folder. Errors: 75 and those of `replaceFile`.
+    void write(const OptionTexts& texts) const;
+
+private:
+    std::string m_path;
+};
+
+} // namespace tarsil

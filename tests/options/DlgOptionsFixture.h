@@ -1,0 +1,70 @@
+#pragma once
+
+#include "aircraft/AirplaneInfo.h"
+#include "options/DlgOptions.h"
+#include "support/FormParts.h"
+#include "support/ScriptedUserInterface.h"
+#include "support/TestFiles.h"
+#include "vgf/WndEvolPlot.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace tarsil::test {
+
+/// The dialog over a plot window without an active plot, as at the start, and a store of its own.
+class DlgOptionsTest : public ::testing::Test
+{
+protected:
+    DlgOptionsTest() : plots(user), store(folder.file("tarsil.ini"))
+    {
+        dialog = std::make_unique<dlgOptions>(airplane, plots, user, store);
+        QObject::connect(dialog.get(), &dlgOptions::flutterMechanismsChanged, dialog.get(),
+                         [this] { ++mechanismsChanged; });
+    }
+
+    void keep(const std::string& file, const std::string& scale, const std::string& thicks) const
+    {
+        store.write({QString::fromStdString(file), QString::fromStdString(scale),
+                     QString::fromStdString(thicks)});
+    }
+
+    void typeAll(const std::string& file, const std::string& scale, const std::string& thicks) const
+    {
+        type(*dialog, "txtAcInfo", file);
+        type(*dialog, "txtVgfScale", scale);
+        type(*dialog, "txtVgfThicks", thicks);
+    }
+
+    void clickButton(const char* name) const { click(*dialog, name); }
+
+    EvmPlot& plot() { return *plots.plots().front(); }
+    void activate() { plots.ActivatePlot(&plot()); }
+
+    /// Tick counts of speed, damping and frequency axis.
+    static std::vector<int> thicksOf(const EvmPlot& plot)
+    {
+        return {plot.vthicks(), plot.gthicks(), plot.fthicks()};
+    }
+
+    std::vector<std::string> mechanisms() const
+    {
+        std::vector<std::string> names;
+        for (const FlutterMechanism& one : airplane.FlutterMechs)
+            names.push_back(one.ShortName);
+        return names;
+    }
+
+    TemporaryFolder folder;
+    ScriptedUserInterface user;
+    AirplaneInfo airplane;
+    wndEvolPlot plots;
+    OptionsStore store;
+    std::unique_ptr<dlgOptions> dialog;
+    int mechanismsChanged = 0;
+};
+
+} // namespace tarsil::test

@@ -1,0 +1,101 @@
+#include "options/ListInput.h"
+
+#include "runtime/RunTimeError.h"
+
+#include <QAction>
+#include <QLineEdit>
+
+#include <gmock/gmock.h>
+
+using namespace tarsil;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+namespace {
+
+class ListInputTest : public ::testing::Test
+{
+protected:
+    ListInputTest()
+    {
+        edit.setAccessibleName(QStringLiteral("Counts"));
+        edit.setAccessibleDescription(QStringLiteral("three counts"));
+        edit.setToolTip(QStringLiteral("for example 7|5|5"));
+        list.emplace(edit, 3, QStringLiteral("three"));
+    }
+
+    void type(const char* text) { edit.setText(QString::fromLatin1(text)); }
+    std::vector<float> numbers() const { return list->numbers("aModule"); }
+
+    /// Whether sign, tool tip and description, which must agree, say that the text is ignored.
+    bool isShownAsIgnored() const
+    {
+        const QAction* const warning = edit.actions().front();
+        const bool isShown = warning->isVisible();
+        const QString text =
+            QStringLiteral("Ignored: three numbers with | between them are needed");
+        EXPECT_EQ(warning->toolTip(), text);
+        EXPECT_EQ(edit.toolTip(), isShown ? text : QStringLiteral("for example 7|5|5"));
+        EXPECT_EQ(edit.accessibleDescription(), isShown ? text : QStringLiteral("three counts"));
+        return isShown;
+    }
+
+    /// The description of the error of the numbers.
+    std::string errorText() const
+    {
+        try {
+            numbers();
+        } catch (const RunTimeError& error) {
+            EXPECT_EQ(error.source(), "aModule");
+            return error.description();
+        }
+        return "no error";
+    }
+
+    QLineEdit edit;
+    std::optional<ListInput> list;
+};
+
+} // namespace
+
+TEST_F(ListInputTest, takesItsNumbersWithBlanksAndExponents)
+{
+    type(" 7 |5.5|-1E2");
+    EXPECT_TRUE(list->fits());
+    EXPECT_THAT(numbers(), ElementsAre(7.0F, 5.5F, -100.0F));
+    EXPECT_FALSE(isShownAsIgnored());
+}
+
+TEST_F(ListInputTest, ignoresAnotherCountOfPartsAndShowsItWhileTheUserTypes)
+{
+    for (const char* text : {"7", "7|5", "7|5|5|", "7|5|5|5", " ", "abc"}) {
+        type(text);
+        EXPECT_FALSE(list->fits()) << text;
+        EXPECT_THAT(numbers(), IsEmpty()) << text;
+        EXPECT_TRUE(isShownAsIgnored()) << text;
+        type("7|5|5");
+        EXPECT_FALSE(isShownAsIgnored());
+    }
+}
+
+TEST_F(ListInputTest, hasNothingToShowForAnEmptyText)
+{
+    type("7");
+    type("");
+    EXPECT_TRUE(list->isEmpty());
+    EXPECT_FALSE(list->fits());
+    EXPECT_THAT(numbers(), IsEmpty());
+    EXPECT_FALSE(isShownAsIgnored());
+}
+
+TEST_F(ListInputTest, namesThePartThatIsNoNumber)
+{
+    type("7|x|5");
+    EXPECT_EQ(errorText(), "Type mismatch: Counts, number 2: \"x\"");
+    type("7|5|");
+    EXPECT_EQ(errorText(), "Type mismatch: Counts, number 3: \"\"");
+    type("7,5|5|5");
+    EXPECT_EQ(errorText(), "Type mismatch: Counts, number 1: \"7,5\"");
+    type("7|5|1e39"); // a single ends at 3.4e38
+    EXPECT_EQ(errorText(), "Overflow: Counts, number 3: \"1e39\"");
+}

@@ -1,0 +1,182 @@
+#include "options/OptionsStore.h"
+
+#include "runtime/RunTimeError.h"
+#include "support/TestFiles.h"
+
+#include <gtest/gtest.h>
+
+#include <QByteArray>
+
+#include <functional>
+#include <optional>
+
+using namespace tarsil;
+
+namespace {
+
+class OptionsStoreTest : public ::testing::Test
+{
+protected:
+    /// A store over a file with this text.
+    OptionsStore storeOf(std::string_view text) const
+    {
+        return OptionsStore(folder.write("tarsil.ini", text));
+    }
+
+    test::TemporaryFolder folder;
+};
+
+OptionTexts texts(const char* file, const char* scale, const char* thicks)
+{
+    return {QString::fromUtf8(file), QString::fromUtf8(scale), QString::fromUtf8(thicks)};
+}
+
+std::optional<RunTimeError> errorOf(const std::function<void()>& action)
+{
+    try {
+        action();
+    } catch (const RunTimeError& error) {
+        return error;
+    }
+    return std::nullopt;
+}
+
+ErrorNumber errorNumberOf(const std::function<void()>& action)
+{
+    const auto error = errorOf(action);
+    if (!error)
+        throw std::logic_error("no error");
+    return error->number();
+}
+
+} // namespace
+
+TEST_F(OptionsStoreTest, saysNothingWithoutAFileAndMakesNone)
+{
+    const OptionsStore store(folder.file("none.ini"));
+    EXPECT_EQ(store.read(), OptionTexts());
+    EXPECT_FALSE(std::filesystem::exists(folder.file("none.ini")));
+}
+
+TEST_F(OptionsStoreTest, saysNothingForKeysThatAreNotThere)
+{
+    EXPECT_EQ(storeOf("").read(), OptionTexts());
+    EXPECT_EQ(storeOf("vgfScale=1\n\n[Other]\nvgfThicks=2\n[Options]\nvgfThicks=7|5|5\n").read(),
+              texts("", "", "7|5|5"));
+}
+
+TEST_F(OptionsStoreTest, writesPlainTextInItsSection)
+{
+    const OptionsStore store(folder.file("tarsil.ini"));
+    store.write(texts("/home/me/wing.inp", "0|700|0|-0.25|0|50", "7|5|5"));
+    EXPECT_EQ(test::fileBytes(store.path()),
+              "[Options]\n"
+              "AcInfoDataFile=/home/me/wing.inp\n"
+              "vgfScale=0|700|0|-0.25|0|50\n"
+              "vgfThicks=7|5|5\n");
+}
+
+TEST_F(OptionsStoreTest, readsBackWhateverWasTyped)
+{
+    const OptionsStore store(folder.file("tarsil.ini"));
+    for (const OptionTexts& one :
+         {texts("/a b, c/Flügel; x=1 \"q\".inp", " 1|2 ", "@Invalid()"),
+          texts("C:\\temp\\new\\wing.inp", "%|[Options]|#", "\t"), OptionTexts()}) {
+        store.write(one);
+        EXPECT_EQ(OptionsStore(store.path()).read(), one) << one.acInfoDataFile.toStdString();
+    }
+}
+
+TEST_F(OptionsStoreTest, readsWhatAPersonWroteWithCommasAndBlanks)
+{
+    EXPECT_EQ(
+        storeOf("; mine\n[Options]\n\nvgfScale = 0,5|700\nAcInfoDataFile= wing.inp \n").read(),
+        texts("wing.inp", "0,5|700", ""));
+}
+
+TEST_F(OptionsStoreTest, makesTheFolderOfItsFile)
+{
+    const OptionsStore store(folder.file("config/tarsil/tarsil.ini"));
+    store.write(texts("wing.inp", "", ""));
+    EXPECT_EQ(store.read(), texts("wing.inp", "", ""));
+}
+
+TEST_F(OptionsStoreTest, leavesNothingBesideItsFile)
+{
+    const OptionsStore store(folder.file("tarsil.ini"));
+    store.write(texts("wing.inp", "", ""));
+    store.write(texts("other.inp", "", ""));
+    const std::filesystem::directory_iterator files(folder.path());
+    EXPECT_EQ(std::distance(begin(files), end(files)), 1);
+}
+
+TEST_F(OptionsStoreTest, writesThroughASymbolicLink)
+{
+    folder.write("real.ini", "");
+    std::filesystem::create_symlink(folder.file("real.ini"), folder.file("tarsil.ini"));
+    OptionsStore(folder.file("tarsil.ini")).write(texts("wing.inp", "", ""));
+    EXPECT_TRUE(std::filesystem::is_symlink(folder.file("tarsil.ini")));
+    EXPECT_EQ(OptionsStore(folder.file("real.ini")).read(), texts("wing.inp", "", ""));
+}
+
+TEST_F(OptionsStoreTest, tellsThatAFileIsDamagedAndSaysNothingOfIt)
+{
+    const std::string zeros(100, '\0');
+    for (const std::string& text :
+         {std::string("[Options\nvgfScale=1|2\n"), std::string("[Options]\nvgfScale\n"), zeros,
+          std::string("[Options]\nvgfScale=@Rect(1 2 3 4)\n")}) {
+        const OptionsStore store = storeOf(text);
+        const auto error = errorOf([&store] { static_cast<void>(store.read()); });
+        ASSERT_TRUE(error) << text;
+        EXPECT_EQ(error->number(), ErrorNumber::TypeMismatch) << text;
+        EXPECT_EQ(error->description(), "Type mismatch: damaged settings in " + store.path());
+        EXPECT_EQ(error->source(), "OptionsStore");
+    }
+}
+
+TEST_F(OptionsStoreTest, putsAWholeFileInThePlaceOfADamagedOne)
+{
+    const OptionsStore store = storeOf("[Options\nvgfScale\n");
+    store.write(texts("wing.inp", "", "7|5|5"));
+    EXPECT_EQ(OptionsStore(store.path()).read(), texts("wing.inp", "", "7|5|5"));
+}
+
+TEST_F(OptionsStoreTest, canNeitherReadNorWriteAFolder)
+{
+    const OptionsStore store(folder.file("tarsil.ini"));
+    std::filesystem::create_directory(store.path());
+    EXPECT_EQ(errorNumberOf([&store] { static_cast<void>(store.read()); }),
+              ErrorNumber::PathFileAccess);
+    EXPECT_EQ(errorNumberOf([&store] { store.write(OptionTexts()); }), ErrorNumber::PathFileAccess);
+    EXPECT_TRUE(std::filesystem::is_empty(store.path()));
+    const std::filesystem::directory_iterator files(folder.path());
+    EXPECT_EQ(std::distance(begin(files), end(files)), 1);
+}
+
+TEST_F(OptionsStoreTest, cannotWriteBelowAFile)
+{
+    folder.write("file", "kept");
+    const OptionsStore store(folder.file("file/tarsil.ini"));
+    EXPECT_EQ(errorNumberOf([&store] { store.write(OptionTexts()); }), ErrorNumber::PathFileAccess);
+    EXPECT_EQ(test::fileBytes(folder.file("file")), "kept");
+}
+
+TEST_F(OptionsStoreTest, keepsAFileThatNobodyMayWrite)
+{
+    const OptionsStore store = storeOf("[Options]\nvgfThicks=7|5|5\n");
+    std::filesystem::permissions(store.path(), std::filesystem::perms::owner_read);
+    EXPECT_EQ(errorNumberOf([&store] { store.write(OptionTexts()); }),
+              ErrorNumber::PermissionDenied);
+    EXPECT_EQ(OptionsStore(store.path()).read(), texts("", "", "7|5|5"));
+}
+
+TEST_F(OptionsStoreTest, liesWhereTheDesktopKeepsTheSettingsOfAUser)
+{
+    const QByteArray before = qgetenv("XDG_CONFIG_HOME");
+    qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(folder.path().string()));
+    EXPECT_EQ(OptionsStore::defaultPath(), folder.file("tarsil/tarsil.ini"));
+    if (before.isNull())
+        qunsetenv("XDG_CONFIG_HOME");
+    else
+        qputenv("XDG_CONFIG_HOME", before);
+}
