@@ -114,6 +114,8 @@ void wndMain::showHelp()
         "Ctrl+Q  ends the program\n\n"
         "Text boxes of a plot: click and drag or use the arrow keys to move one (Shift for ten "
         "pixels), double click or F2 to edit it.\n"
+        "Grid of Data Control: + and - in the column \"Mode\" raise and lower modes, Alt+Up and "
+        "Alt+Down move rows, Del removes them.\n"
         "Right button on a plot: its scales, reference speeds, damping lines and flutter speeds.\n"
         "Rest the pointer on a plot to read the nearest curve.",
         "Tarsil", MessageIcon::None);
