@@ -19,8 +19,15 @@
 #include <QString>
 
 #include <algorithm>
+#include <exception>
 #include <filesystem>
+#include <functional>
 #include <system_error>
+
+#ifdef Q_OS_UNIX
+#include <pwd.h>
+#include <unistd.h>
+#endif
 
 namespace tarsil {
 
@@ -28,16 +35,23 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The path with the extension of a workspace, unless it has one.
+/// The path with the extension of a workspace, unless it has that. Any other belongs to the name
+/// ("wing m0.40"), and without its own no dialog would list the file.
 std::string withExtension(const std::string& path)
 {
-    return nativePath(path).has_extension() ? path : path + ".tsw";
+    const QString extension = QStringLiteral(".tsw");
+    return QString::fromStdString(path).endsWith(extension, Qt::CaseInsensitive) ? path
+                                                                                 : path + ".tsw";
 }
 
+/// Of the account, and not what the environment calls it.
 std::string userName()
 {
-    const QString name = qEnvironmentVariable("USER", qEnvironmentVariable("USERNAME"));
-    return name.toStdString();
+#ifdef Q_OS_UNIX
+    if (const passwd* const account = getpwuid(geteuid()))
+        return account->pw_name;
+#endif
+    return qEnvironmentVariable("USER", qEnvironmentVariable("USERNAME")).toStdString();
 }
 
 QString workspaceNameOf(const std::string& path)
@@ -46,15 +60,56 @@ QString workspaceNameOf(const std::string& path)
     return name.remove(QStringLiteral(".tsw"));
 }
 
-/// The evolution of the session that is read from a file; null when there is none.
+/// The evolution of the session that is read from a file; null when there is none. Only where no
+/// path is the same is the file system asked, which takes its time for each.
 EVM* openEvolution(const Session& session, const std::string& path)
 {
-    std::error_code unknown;
-    const auto found = std::find_if(
-        session.evolutions.begin(), session.evolutions.end(), [&](const auto& evolution) {
+    const FilePath file = resolvePath(path);
+    const auto& all = session.evolutions;
+    auto found = std::find_if(all.begin(), all.end(), [&file](const auto& evolution) {
+        return evolution->Folder == file.folder && evolution->FileName == file.name;
+    });
+    if (found == all.end()) {
+        std::error_code unknown;
+        found = std::find_if(all.begin(), all.end(), [&](const auto& evolution) {
             return fs::equivalent(nativePath(evolution->path()), nativePath(path), unknown);
         });
-    return found == session.evolutions.end() ? nullptr : found->get();
+    }
+    return found == all.end() ? nullptr : found->get();
+}
+
+/// All that a workspace which was read in part is worth is shown, and the user hears of the first
+/// thing that failed.
+class FirstFailure
+{
+public:
+    void run(const std::function<void()>& action)
+    {
+        try {
+            action();
+        } catch (...) {
+            if (m_failure == nullptr)
+                m_failure = std::current_exception();
+        }
+    }
+
+    void raise() const
+    {
+        if (m_failure != nullptr)
+            std::rethrow_exception(m_failure);
+    }
+
+private:
+    std::exception_ptr m_failure;
+};
+
+/// "Header of [PLOT1], Legend of [PLOT2]".
+std::string placesOf(const std::vector<LongValue>& values)
+{
+    std::string places;
+    for (const LongValue& value : values)
+        places += (places.empty() ? "" : ", ") + value.key + " of [" + value.section + "]";
+    return places;
 }
 
 } // namespace
@@ -64,6 +119,13 @@ WorkspaceCommands::WorkspaceCommands(Session& session, wndEvolPlot& plots,
     : m_session(session), m_plots(plots), m_explorer(explorer), m_userInterface(userInterface)
 {
     remember();
+}
+
+/// What is being typed into a text box belongs to its plot.
+void WorkspaceCommands::takeEditsAlong()
+{
+    for (EvmPlot* const plot : m_plots.plots())
+        Q_EMIT plot->pictureWanted();
 }
 
 WorkspaceRecord WorkspaceCommands::gather() const
@@ -105,6 +167,7 @@ void WorkspaceCommands::remember()
 
 bool WorkspaceCommands::mayDiscard()
 {
+    takeEditsAlong();
     return state() == m_saved
         || m_userInterface.confirm("The workspace has changed since it was last saved. Discard the "
                                    "changes?",
@@ -117,6 +180,7 @@ void WorkspaceCommands::New()
         if (!mayDiscard())
             return;
         m_explorer.startNew();
+        m_path.clear();
         remember();
     });
 }
@@ -142,20 +206,29 @@ void WorkspaceCommands::OpenWorkSpace(const std::string& path)
     });
 }
 
-/// What can be read is shown, also when an error ends the reading in the middle.
+/// What can be read is shown, also when an error ends the reading in the middle. That is reported
+/// once everything stands.
 void WorkspaceCommands::open(const std::string& path)
 {
     const MappedFile file(path);
     WorkspaceRecord record;
-    const auto read = [&] { readWorkspace(file.bytes(), shownPath(path), record); };
-    guarded(m_userInterface, mdlWorkSpace::module, read);
+    FirstFailure failure;
+    failure.run([&] { readWorkspace(file.bytes(), shownPath(path), record); });
     m_explorer.startNew();
+    m_path = shownPath(path);
     m_explorer.setWorkspaceName(workspaceNameOf(path));
     m_explorer.setDescription(QString::fromStdString(record.description));
     m_explorer.setDateCreated(QString::fromStdString(record.dateCreated));
     m_explorer.setDateModified(QString::fromStdString(record.dateModified));
-    addPlots(record, loadFiles(record, path));
+    const std::vector<EVM*> evolutions = loadFiles(record, path);
+    for (std::size_t i = 0; i < record.plots.size(); ++i) {
+        EvmPlot& plot = plotFor(i, QString::fromStdString(record.plots[i].caption));
+        failure.run([&] { applyRecord(record.plots[i], evolutions, plot); });
+        failure.run([&plot] { plot.plot(); });
+    }
+    m_plots.ActivatePlot(m_plots.plots().front());
     remember();
+    failure.raise();
 }
 
 /// The evolutions in the order of the list as it was saved, null for each that is not there.
@@ -172,24 +245,21 @@ std::vector<EVM*> WorkspaceCommands::loadFiles(const WorkspaceRecord& record,
     return evolutions;
 }
 
-/// The first plot, which is always there, becomes the first of the file.
-void WorkspaceCommands::addPlots(const WorkspaceRecord& record, const std::vector<EVM*>& evolutions)
+/// The first plot, which is always there, becomes the first of the file; the others are new, and
+/// the explorer keeps their captions apart.
+EvmPlot& WorkspaceCommands::plotFor(std::size_t index, const QString& caption)
 {
-    for (std::size_t i = 0; i < record.plots.size(); ++i) {
-        const QString caption = QString::fromStdString(record.plots[i].caption);
-        EvmPlot& plot = i == 0 ? *m_plots.plots().front() : m_plots.AddPlot(caption);
-        plot.setCaption(caption);
-        guarded(m_userInterface, mdlWorkSpace::module,
-                [&] { applyRecord(record.plots[i], evolutions, plot); });
-        guarded(m_userInterface, mdlWorkSpace::module, [&plot] { plot.plot(); });
-    }
-    m_plots.ActivatePlot(m_plots.plots().front());
+    if (index > 0)
+        return m_plots.AddPlot(caption);
+    EvmPlot& first = *m_plots.plots().front();
+    first.setCaption(caption);
+    return first;
 }
 
 void WorkspaceCommands::SaveWorkSpace()
 {
     guarded(m_userInterface, mdlWorkSpace::module, [this] {
-        const FileQuestion question {std::string(mdlWorkSpace::filter), 1, false, {}, false};
+        const FileQuestion question {std::string(mdlWorkSpace::filter), 1, false, m_path, false};
         const auto answer = m_userInterface.askSaveFile(question);
         if (!answer)
             return;
@@ -204,6 +274,11 @@ void WorkspaceCommands::SaveWorkSpace()
 
 void WorkspaceCommands::write(const std::string& path)
 {
+    takeEditsAlong();
+    // A plot that has never been on the screen has a size of its own; the places of its boxes are
+    // to be those of the window.
+    for (EvmPlot* const plot : m_plots.plots())
+        m_plots.FitPlot(plot);
     const QString name = m_explorer.workspaceName();
     const QString modified = m_explorer.dateModified();
     m_explorer.setDateModified(dateText(QDateTime::currentDateTime()));
@@ -211,12 +286,13 @@ void WorkspaceCommands::write(const std::string& path)
         const WrittenWorkspace written = writeWorkspace(gather(), userName());
         writeFile(path, written.bytes);
         m_explorer.setWorkspaceName(workspaceNameOf(path));
+        m_path = shownPath(path);
         remember();
-        if (!written.longValues.empty())
-            m_userInterface.showStatus(written.longValues.front().key + " of ["
-                                       + written.longValues.front().section
-                                       + "] is longer than 1023 characters: it is cut when the "
-                                         "workspace is opened.");
+        m_userInterface.showStatus(
+            written.longValues.empty()
+                ? std::string(readyStatus)
+                : placesOf(written.longValues) + (written.longValues.size() == 1 ? " is" : " are")
+                    + " longer than 1023 characters and will be cut when the workspace is opened.");
     } catch (...) {
         m_explorer.setDateModified(modified);
         throw;

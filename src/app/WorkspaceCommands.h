@@ -3,7 +3,9 @@
 #include "runtime/UserInterface.h"
 #include "workspace/WorkspaceRecord.h"
 
-#include <functional>
+#include <QString>
+
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,6 +13,7 @@
 namespace tarsil {
 
 class EVM;
+class EvmPlot;
 class Session;
 class wndEvolExplorer;
 class wndEvolPlot;
@@ -53,13 +56,15 @@ private:
     WorkspaceRecord state() const;
     void open(const std::string& path);
     std::vector<EVM*> loadFiles(const WorkspaceRecord& record, const std::string& path);
-    void addPlots(const WorkspaceRecord& record, const std::vector<EVM*>& evolutions);
+    EvmPlot& plotFor(std::size_t index, const QString& caption);
+    void takeEditsAlong();
     void write(const std::string& path);
 
     Session& m_session;
     wndEvolPlot& m_plots;
     wndEvolExplorer& m_explorer;
     UserInterface& m_userInterface;
+    std::string m_path; ///< what saving proposes; empty for an untitled workspace
     WorkspaceRecord m_saved; ///< the state when it was last saved or opened
 };
 

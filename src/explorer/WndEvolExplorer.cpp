@@ -38,6 +38,9 @@ wndEvolExplorer::wndEvolExplorer(Session& session, wndEvolPlot& plots, UserInter
         setImage(*node, m_images, QStringLiteral("warning"));
         setPlainToolTip(*node, text);
     });
+    // A new plot is not shown by itself, so that only its node tells of it.
+    connect(&plots, &wndEvolPlot::plotAdded, this,
+            [this] { m_workspace.plots().setExpanded(true); });
     FillEvolsNode();
 }
 

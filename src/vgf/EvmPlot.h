@@ -174,7 +174,8 @@ Q_SIGNALS:
     /// The picture on the screen is no longer true.
     void changed();
 
-    /// A picture is about to be drawn into somebody's context: what is being edited belongs to it.
+    /// The plot is about to be drawn into somebody's context, or saved: what is being edited
+    /// belongs to it.
     void pictureWanted();
 
 private:

@@ -4,6 +4,8 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <functional>
+#include <numeric>
 #include <optional>
 #include <set>
 #include <system_error>
@@ -28,16 +30,29 @@ std::string nameOf(const std::string& stored)
     return pathText(nativePath(stored).filename());
 }
 
-/// The file itself, or the one of its name beside the workspace; nothing when neither is there.
+/// Where a file is that moved together with a folder, with as many of its stored folders as there
+/// are: they tell namesakes apart. Without any of them it is beside the workspace. Empty when it is
+/// nowhere there.
+fs::path movedTogether(const fs::path& folder, const fs::path& stored)
+{
+    const fs::path names = stored.relative_path();
+    for (auto first = names.begin(); first != names.end(); ++first) {
+        const fs::path tail = std::accumulate(first, names.end(), fs::path(), std::divides<>());
+        std::error_code failed;
+        if (fs::is_regular_file(folder / tail, failed))
+            return folder / tail;
+    }
+    return {};
+}
+
+/// The file itself, or where it is when it moved together with the workspace; nothing when it is
+/// neither.
 std::optional<std::string> nearFile(const std::string& stored, const fs::path& folder)
 {
     if (fileExists(stored))
         return stored;
-    std::error_code failed;
-    const fs::path beside = folder / nativePath(stored).filename();
-    if (fs::is_regular_file(beside, failed))
-        return pathText(beside);
-    return std::nullopt;
+    const fs::path moved = movedTogether(folder, nativePath(stored));
+    return moved.empty() ? std::nullopt : std::optional(pathText(moved));
 }
 
 /// The first file of each of these names below a folder.

@@ -36,6 +36,9 @@ inline constexpr std::string_view series = "Serie";
 
 inline constexpr std::string_view endOfFile = "END OF FILE";
 
+/// What stands for a general text or a count that is not there.
+inline constexpr std::string_view noText = "   ";
+
 /// What stands for a value of a plot that is not there.
 inline constexpr std::string_view absent = "Empty";
 

@@ -16,9 +16,6 @@ namespace {
 
 namespace keys = workspacekeys;
 
-/// What stands for a general value or a count that is not there.
-constexpr std::string_view threeBlanks = "   ";
-
 /// Reads one file into one record.
 class WorkspaceReader
 {
@@ -49,9 +46,11 @@ private:
 
 void WorkspaceReader::read()
 {
-    m_record.description = text(keys::general, keys::description, threeBlanks);
-    m_record.dateCreated = text(keys::general, keys::dateCreated, threeBlanks);
-    m_record.dateModified = text(keys::general, keys::dateModified, threeBlanks);
+    m_record.description = text(keys::general, keys::description, keys::noText);
+    if (m_record.description.empty())
+        m_record.description = keys::noText; // whose blanks are not read
+    m_record.dateCreated = text(keys::general, keys::dateCreated, keys::noText);
+    m_record.dateModified = text(keys::general, keys::dateModified, keys::noText);
     readFiles();
     const int plots = count(keys::plots, keys::plotCount);
     for (int j = 1; j <= plots; ++j) {
@@ -74,7 +73,7 @@ std::string WorkspaceReader::text(std::string_view section, std::string_view key
 
 int WorkspaceReader::count(std::string_view section, std::string_view key) const
 {
-    const std::string_view value = m_ini.bytes(section, key).value_or(threeBlanks);
+    const std::string_view value = m_ini.bytes(section, key).value_or(keys::noText);
     return ValueFields(value, 1, place(section, key)).integer16(0, "count");
 }
 

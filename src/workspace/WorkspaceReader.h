@@ -9,6 +9,7 @@ namespace tarsil {
 
 /// Turns the bytes of a workspace file into a record; `name` is what errors call the file. Values
 /// are found by section and key alone, whatever the order; the user and the version are not read.
+/// An empty description is the three blanks of one that is absent.
 ///
 /// An error (a count or number that is none, a list shorter than its count, an axis or series with
 /// too few fields) names file, section, key and the text found. `record` then holds what stood

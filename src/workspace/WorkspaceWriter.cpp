@@ -80,6 +80,7 @@ private:
     void begin(std::string_view section);
     void add(std::string_view key, std::string_view value);
     void addText(std::string_view key, std::string_view text) { add(key, encoded(oneLine(text))); }
+    void addDescription(const std::string& text);
     void addCount(std::string_view key, std::size_t count);
     void addPlot(const PlotRecord& plot);
     void addRichText(std::string_view key, const TextRecord& box);
@@ -103,7 +104,7 @@ void WorkspaceWriter::write(const WorkspaceRecord& record, std::string_view user
     begin(keys::general);
     addText(keys::userName, userName.substr(0, userName.find('\0')));
     add(keys::version, "1.1.0");
-    addText(keys::description, record.description);
+    addDescription(record.description);
     addText(keys::dateCreated, record.dateCreated);
     addText(keys::dateModified, record.dateModified);
     begin(keys::evolutionFiles);
@@ -132,6 +133,16 @@ void WorkspaceWriter::add(std::string_view key, std::string_view value)
     const std::string_view quote = needsQuotes(value) ? "\"" : "";
     m_result.bytes.append(key).append("=");
     m_result.bytes.append(quote).append(value).append(quote).append("\r\n");
+}
+
+/// The blanks of a description that nobody gave stand as they are: what a reader takes off them, it
+/// takes for none as well.
+void WorkspaceWriter::addDescription(const std::string& text)
+{
+    if (text == keys::noText)
+        m_result.bytes.append(keys::description).append("=").append(text).append("\r\n");
+    else
+        addText(keys::description, text);
 }
 
 void WorkspaceWriter::addCount(std::string_view key, std::size_t count)

@@ -31,7 +31,8 @@ struct WrittenWorkspace
 ///
 /// A line break within a value is a NUL, whatever its kind; the texts of an axis and a series,
 /// whose fields NULs separate, have a blank there. A value that would lose blanks or quotes at its
-/// ends when it is read stands in quotes. What is absent is written "Empty".
+/// ends when it is read stands in quotes; only the three blanks of a description that nobody gave
+/// do not. What is absent is written "Empty".
 ///
 /// Error 6 "Overflow" for a number that is not finite or more than 32767 files, plots or series.
 WrittenWorkspace writeWorkspace(const WorkspaceRecord& record, std::string_view userName);

@@ -4,10 +4,18 @@
 
 #include "app/WorkspaceCommands.h"
 #include "explorer/WndEvolExplorer.h"
+#include "model/EVM.h"
+
+#include <QMouseEvent>
+#include <QTextEdit>
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <filesystem>
+
+#include <pwd.h>
+#include <unistd.h>
 
 using namespace tarsil;
 using test::sample;
@@ -45,6 +53,21 @@ protected:
         choose("OpenMenu");
     }
 
+    const EVM& evolution(std::size_t index) { return *window.session().evolutions.at(index); }
+
+    /// Double-clicks the header of the active plot and types.
+    void typeHeader(const QString& text)
+    {
+        EvmPlotView& view = *window.evolPlot().viewOf(plot());
+        const QPoint place = plot().Header().geometry().center();
+        QMouseEvent event(QEvent::MouseButtonDblClick, place, view.mapToGlobal(place),
+                          Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&view, &event);
+        const QList<QTextEdit*> editors = view.findChildren<QTextEdit*>();
+        ASSERT_FALSE(editors.isEmpty());
+        editors.back()->insertPlainText(text); // in the place of all, which is selected
+    }
+
     std::string bytes(const std::string& name = "case.tsw")
     {
         std::string text = test::fileBytes(folder.file(name));
@@ -52,6 +75,26 @@ protected:
         return text.erase(date, text.find('\r', date) - date);
     }
 };
+
+/// Two plots of one name, each with that many series.
+std::string twoPlots(const std::string& series)
+{
+    const std::string axis = "a" + std::string(1, '\0') + "0" + std::string(1, '\0') + "9"
+        + std::string(1, '\0') + "3\r\n";
+    const std::string plot = "Caption=wing\r\nvelAxis=" + axis + "freqAxis=" + axis
+        + "gAxis=" + axis + "NoOfSeries=" + series + "\r\n";
+    return "[MODAL EVOLUTION FILES]\r\nNoOfFiles=0\r\n[PLOTS]\r\nNoOfPlots=2\r\n[PLOT1]\r\n" + plot
+        + "[PLOT2]\r\n" + plot;
+}
+
+/// A series of mode 1 of evolution 1.
+std::string nineFields()
+{
+    std::string value = "1";
+    for (int field = 1; field < 9; ++field)
+        value += std::string(1, '\0') + "1";
+    return value;
+}
 
 } // namespace
 
@@ -74,6 +117,28 @@ TEST_F(WorkspaceCommandsTest, openWhatWasSavedAsItWas)
     EXPECT_EQ(window.evolPlot().plots()[1]->Caption(), QStringLiteral("Second"));
     EXPECT_EQ(window.evolPlot().plots()[1]->GetScale().vmax, 100.0F);
     EXPECT_EQ(window.explorer().description(), QStringLiteral("an afternoon"));
+    save("again.tsw");
+    EXPECT_EQ(bytes("again.tsw"), saved);
+}
+
+TEST_F(WorkspaceCommandsTest, nameTheUserWhateverTheEnvironmentSays)
+{
+    const passwd* const account = getpwuid(geteuid());
+    ASSERT_NE(account, nullptr);
+    qputenv("USER", "somebody");
+    save();
+    EXPECT_THAT(bytes(),
+                HasSubstr("\r\nUsername=" + std::string(account->pw_name) + "\r\ntsw_Version="));
+}
+
+TEST_F(WorkspaceCommandsTest, writeADescriptionThatNobodyGaveAsItStands)
+{
+    load();
+    save();
+    const std::string saved = bytes();
+    EXPECT_THAT(saved, HasSubstr("\r\nAnalysis_Description=   \r\n"));
+    open(folder.file("case.tsw"));
+    EXPECT_EQ(window.explorer().description(), QStringLiteral("   "));
     save("again.tsw");
     EXPECT_EQ(bytes("again.tsw"), saved);
 }
@@ -189,12 +254,146 @@ TEST_F(WorkspaceCommandsTest, leaveTheOldFileWhenItCannotBeWritten)
     EXPECT_EQ(window.explorer().dateModified(), before);
 }
 
-TEST_F(WorkspaceCommandsTest, sayWhichTextWillBeCut)
+TEST_F(WorkspaceCommandsTest, sayWhichTextsWillBeCut)
 {
     work();
     plot().setBoxText(1, QString(1200, u'x'));
     save();
-    EXPECT_THAT(user.statuses.back(), HasSubstr("Legend of [PLOT1] is longer than 1023"));
+    EXPECT_THAT(user.statuses.back(), StartsWith("Legend of [PLOT1] is longer than 1023 "));
+    window.evolPlot().plots()[1]->setBoxText(0, QString(1200, u'x'));
+    save("both.tsw");
+    EXPECT_THAT(user.statuses.back(),
+                StartsWith("Legend of [PLOT1], Header of [PLOT2] are longer than 1023 "));
+    for (EvmPlot* const one : window.evolPlot().plots()) {
+        one->setBoxText(0, QString());
+        one->setBoxText(1, QString());
+    }
+    save("neither.tsw");
+    EXPECT_EQ(user.statuses.back(), "Ready") << "what was said of another text is over";
+}
+
+TEST_F(WorkspaceCommandsTest, takeAlongWhatIsBeingTyped)
+{
+    work();
+    save();
+    typeHeader(QStringLiteral("typed"));
+    choose("QuitMenu");
+    EXPECT_EQ(user.questions.size(), 1U) << "it is a change like any other";
+    EXPECT_TRUE(window.isVisible());
+    typeHeader(QStringLiteral("again"));
+    save("typed.tsw");
+    choose("mnuNewWorkspace");
+    open(folder.file("typed.tsw"));
+    EXPECT_EQ(plot().Header().Text(), QStringLiteral("again"));
+}
+
+TEST_F(WorkspaceCommandsTest, giveEveryNameTheExtensionOfWorkspaces)
+{
+    work();
+    save("wing m0.40");
+    EXPECT_TRUE(std::filesystem::exists(folder.file("wing m0.40.tsw")));
+    EXPECT_EQ(window.explorer().workspaceName(), QStringLiteral("wing m0.40"));
+    save("upper.TSW");
+    EXPECT_TRUE(std::filesystem::exists(folder.file("upper.TSW")));
+}
+
+TEST_F(WorkspaceCommandsTest, proposeTheFileThatIsOpen)
+{
+    work();
+    save();
+    EXPECT_EQ(user.fileQuestions.back().fileName, "") << "there was none";
+    save("again.tsw");
+    EXPECT_EQ(user.fileQuestions.back().fileName, folder.file("case.tsw"));
+    open(folder.file("case.tsw"));
+    EXPECT_EQ(user.fileQuestions.back().fileName, "");
+    save("again.tsw");
+    EXPECT_EQ(user.fileQuestions.back().fileName, folder.file("case.tsw"));
+    choose("mnuNewWorkspace");
+    save("again.tsw");
+    EXPECT_EQ(user.fileQuestions.back().fileName, "");
+}
+
+TEST_F(WorkspaceCommandsTest, keepThePictureOfAPlotThatWasNeverShown)
+{
+    work();
+    EvmPlot& hidden = *window.evolPlot().plots()[1];
+    hidden.setBoxText(1, QStringLiteral("legend"));
+    hidden.setBoxText(2, QStringLiteral("subtitle"));
+    save();
+    window.evolPlot().ActivatePlot(&hidden);
+    const QByteArray shown = hidden.emfPicture();
+    choose("mnuNewWorkspace");
+    open(folder.file("case.tsw"));
+    EvmPlot& again = *window.evolPlot().plots()[1];
+    window.evolPlot().ActivatePlot(&again);
+    EXPECT_EQ(again.emfPicture(), shown);
+}
+
+TEST_F(WorkspaceCommandsTest, keepPlotsOfOneNameApart)
+{
+    load();
+    open(folder.write("same.tsw", twoPlots("0")));
+    EXPECT_TRUE(user.messages.empty());
+    const std::vector<EvmPlot*> plots = window.evolPlot().plots();
+    ASSERT_EQ(plots.size(), 2U);
+    EXPECT_EQ(plots[0]->Caption(), QStringLiteral("wing"));
+    EXPECT_EQ(plots[1]->Caption(), QStringLiteral("wing(2)"));
+}
+
+TEST_F(WorkspaceCommandsTest, reportOnceWhateverFails)
+{
+    load();
+    open(folder.write("bad.tsw", twoPlots("1\r\nSerie(1)=" + nineFields())));
+    ASSERT_EQ(user.messages.size(), 1U) << "neither plot has its evolution";
+    EXPECT_THAT(user.messages[0].text, HasSubstr("plot \"wing\": no evolution"));
+    EXPECT_EQ(window.evolPlot().plots().size(), 2U) << "the second one is there all the same";
+}
+
+TEST_F(WorkspaceCommandsTest, reportOnceWhereverTheFileIsCut)
+{
+    constexpr std::size_t step = 61; // bytes
+    work();
+    save();
+    const std::string whole = test::fileBytes(folder.file("case.tsw"));
+    for (std::size_t size = 0; size < whole.find("[END OF FILE]"); size += step) {
+        SCOPED_TRACE(size);
+        user.messages.clear();
+        open(folder.write("cut.tsw", whole.substr(0, size)));
+        EXPECT_EQ(
+            std::count_if(user.messages.begin(), user.messages.end(),
+                          [](const auto& message) { return message.text.starts_with("Error # "); }),
+            1);
+        ASSERT_NE(window.evolPlot().ActivePlot(), nullptr);
+    }
+    user.messages.clear();
+    open(folder.file("case.tsw"));
+    EXPECT_EQ(plot().SeriesCollection().size(), 14U) << "a whole one opens as ever";
+    EXPECT_TRUE(user.messages.empty());
+    EXPECT_TRUE(user.questions.empty()) << "what was opened is no change";
+}
+
+TEST_F(WorkspaceCommandsTest, tellNamesakesApartByTheirFolders)
+{
+    for (const char* name : {"clean", "store"}) {
+        std::filesystem::create_directories(folder.path() / "runs" / name);
+        folder.write("runs/" + std::string(name) + "/case.ev2",
+                     test::fileBytes(sample(std::string("goland_")
+                                            + (std::string(name) == "clean" ? "clean" : "tipstore")
+                                            + "_m040.ev2")));
+    }
+    load({folder.file("runs/store/case.ev2"), folder.file("runs/clean/case.ev2")});
+    const std::string masses[] = {evolution(0).Param.Mass, evolution(1).Param.Mass};
+    ASSERT_NE(masses[0], masses[1]);
+    save();
+    choose("mnuNewWorkspace");
+    std::filesystem::create_directories(folder.path() / "moved");
+    std::filesystem::rename(folder.path() / "runs", folder.path() / "moved" / "runs");
+    std::filesystem::rename(folder.file("case.tsw"), folder.file("moved/case.tsw"));
+    open(folder.file("moved/case.tsw"));
+    EXPECT_TRUE(user.messages.empty());
+    ASSERT_EQ(window.session().evolutions.size(), 2U);
+    EXPECT_EQ(evolution(0).Param.Mass, masses[0]);
+    EXPECT_EQ(evolution(1).Param.Mass, masses[1]);
 }
 
 TEST_F(WorkspaceCommandsTest, openTheWorkspaceOfTheCommandLineInItsQuotes)

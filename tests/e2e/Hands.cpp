@@ -19,7 +19,7 @@ bool waitUntil(const std::function<bool()>& condition)
     return true;
 }
 
-QString Hands::run(const QStringList& arguments) const
+QString Hands::run(const QStringList& arguments, QString* failure) const
 {
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -27,14 +27,23 @@ QString Hands::run(const QStringList& arguments) const
     process.setProcessEnvironment(environment);
     process.start(QStringLiteral("xdotool"), arguments);
     process.waitForFinished();
+    if (failure != nullptr)
+        *failure = QString::fromLatin1(process.readAllStandardError());
     return QString::fromLatin1(process.readAllStandardOutput());
 }
 
+/// A search fails when some window goes while it looks, and has found too little then.
 QStringList Hands::windows(const QString& title) const
 {
-    return run({QStringLiteral("search"), QStringLiteral("--onlyvisible"), QStringLiteral("--name"),
-                title})
-        .split(u'\n', Qt::SkipEmptyParts);
+    QString found;
+    waitUntil([&] {
+        QString failure;
+        found = run({QStringLiteral("search"), QStringLiteral("--onlyvisible"),
+                     QStringLiteral("--name"), title},
+                    &failure);
+        return !failure.contains(QStringLiteral("X Error"));
+    });
+    return found.split(u'\n', Qt::SkipEmptyParts);
 }
 
 bool Hands::isShown(const QString& title) const
@@ -82,6 +91,19 @@ void Hands::click(QPoint place, int button) const
 {
     run({QStringLiteral("mousemove"), QString::number(place.x()), QString::number(place.y()),
          QStringLiteral("click"), QString::number(button)});
+}
+
+/// Both clicks at once: however busy the machine is, they stay one double click.
+void Hands::doubleClick(QPoint place) const
+{
+    run({QStringLiteral("mousemove"), QString::number(place.x()), QString::number(place.y()),
+         QStringLiteral("click"), QStringLiteral("--repeat"), QStringLiteral("2"),
+         QStringLiteral("--delay"), QStringLiteral("1"), QStringLiteral("1")});
+}
+
+void Hands::point(QPoint place) const
+{
+    run({QStringLiteral("mousemove"), QString::number(place.x()), QString::number(place.y())});
 }
 
 } // namespace tarsil::test

@@ -32,12 +32,17 @@ public:
     /// A click of a button (1 left, 3 right) at a place of the screen.
     void click(QPoint place, int button = 1) const;
 
+    void doubleClick(QPoint place) const;
+
+    /// Moves the pointer to a place of the screen.
+    void point(QPoint place) const;
+
     /// Whether a window of this title is on the screen.
     bool isShown(const QString& title) const;
 
 private:
     QStringList windows(const QString& title) const;
-    QString run(const QStringList& arguments) const;
+    QString run(const QStringList& arguments, QString* failure = nullptr) const;
 
     QString m_display;
     QStringList m_known; ///< windows that have had the focus

@@ -29,13 +29,15 @@ quint32 dumpField(const std::string& dump, DumpField field)
 
 } // namespace
 
+/// Without "-noreset" the server begins anew when a program ends, and turns the next one away
+/// meanwhile.
 VirtualDisplay::VirtualDisplay()
 {
     m_server.start(QStringLiteral("Xvfb"),
                    {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
                     QStringLiteral("0"), QStringLiteral("1000x800x24"), QStringLiteral("-fbdir"),
-                    QString::fromStdString(m_folder.path().string()), QStringLiteral("-nolisten"),
-                    QStringLiteral("tcp")});
+                    QString::fromStdString(m_folder.path().string()), QStringLiteral("-noreset"),
+                    QStringLiteral("-nolisten"), QStringLiteral("tcp")});
     QByteArray number;
     while (!number.endsWith('\n') && m_server.waitForReadyRead(startTimeout))
         number += m_server.readAllStandardOutput();

@@ -26,6 +26,18 @@ TEST_F(WndEvolExplorerTest, listsThePlotsAndShowsTheActiveOneBold)
     EXPECT_FALSE(isBold(node("Plot2")));
 }
 
+TEST_F(WndEvolExplorerTest, opensTheFolderOfANewPlot)
+{
+    EXPECT_FALSE(node("Plots").isExpanded());
+    choose("AddPlot");
+    EXPECT_TRUE(node("Plots").isExpanded()) << "nothing else shows that there is one more";
+    node("Plots").setExpanded(false);
+    choose("CopyPlot");
+    EXPECT_TRUE(node("Plots").isExpanded());
+    explorer.startNew();
+    EXPECT_FALSE(node("Plots").isExpanded());
+}
+
 TEST_F(WndEvolExplorerTest, copiesTheActivePlot)
 {
     plotAt(0).setVthicks(3);

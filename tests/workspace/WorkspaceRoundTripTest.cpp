@@ -1,12 +1,10 @@
 #include "WorkspaceTexts.h"
+#include "support/RandomTexts.h"
 #include "workspace/WorkspaceWriter.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
-#include <bit>
-#include <cmath>
-#include <random>
 #include <string>
 
 using namespace tarsil;
@@ -15,40 +13,20 @@ using namespace std::string_literals;
 
 namespace {
 
-/// What texts are made of: what a reader could stumble over, and letters of three encodings.
-const std::array<std::string, 22> harmless = {"a", "B",  "7", " ", "\t", "=",  "[", "]",
-                                              ";", "\"", "'", "|", ",",  "\\", "ü", "\u0081",
-                                              "Ã", "¼",  "–", "α", "漢", "𝛼"};
-
 /// What cannot stand in the texts as it is.
 const std::array<std::string, 5> lost = {"\r", "\n", "\0"s, "\n\r", "\r\r\n"};
 
 enum class Kind { Clean, Wild };
 
-/// Generates the same records on every machine: the engine's sequence is fixed by the language, and
-/// nothing else of its library is used.
-class Generator
+/// Generates the records of a seed.
+class Generator : private RandomTexts
 {
 public:
-    Generator(unsigned seed, Kind kind) : m_engine(seed), m_isWild(kind == Kind::Wild)
-    {
-        // Half of the records can be written as Windows-1252.
-        m_pieces = below(2) == 0 ? harmless.size() : harmless.size() - 3;
-    }
+    Generator(unsigned seed, Kind kind) : RandomTexts(seed), m_isWild(kind == Kind::Wild) { }
 
     WorkspaceRecord record();
 
 private:
-    std::size_t below(std::size_t limit) { return m_engine() % limit; }
-
-    template <typename Integer>
-    Integer integer()
-    {
-        return std::bit_cast<Integer>(
-            static_cast<std::make_unsigned_t<Integer>>(m_engine() >> below(32)));
-    }
-
-    float single();
     std::string field();
     std::string text();
     TextRecord box();
@@ -56,27 +34,14 @@ private:
     SeriesRecord series();
     PlotRecord plot();
 
-    std::mt19937 m_engine;
     bool m_isWild;
-    std::size_t m_pieces = 0;
 };
-
-float Generator::single()
-{
-    for (;;) {
-        const auto value = std::bit_cast<float>(static_cast<std::uint32_t>(m_engine()));
-        if (std::isfinite(value))
-            return value;
-    }
-}
 
 std::string Generator::field()
 {
     std::string text;
-    for (std::size_t left = below(30); left > 0; --left) {
-        text +=
-            m_isWild && below(8) == 0 ? lost.at(below(lost.size())) : harmless.at(below(m_pieces));
-    }
+    for (std::size_t left = below(30); left > 0; --left)
+        text += m_isWild && below(8) == 0 ? lost.at(below(lost.size())) : piece();
     return text;
 }
 
@@ -124,7 +89,8 @@ PlotRecord Generator::plot()
 
 WorkspaceRecord Generator::record()
 {
-    WorkspaceRecord record {text(), text(), text(), {}, {}};
+    // An empty description would be read as one that nobody gave.
+    WorkspaceRecord record {"d" + text(), text(), text(), {}, {}};
     for (std::size_t left = below(6); left > 0; --left)
         record.files.push_back(text());
     for (std::size_t left = below(4); left > 0; --left)

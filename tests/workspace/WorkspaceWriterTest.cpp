@@ -135,7 +135,8 @@ TEST(WorkspaceWriter, keepsTheFieldsOfAValueApart)
 
 TEST(WorkspaceWriter, quotesOnlyWhatAReaderWouldShorten)
 {
-    EXPECT_EQ(writtenDescription("   "), "\"   \"");
+    EXPECT_EQ(writtenDescription("  "), "\"  \"");
+    EXPECT_EQ(writtenDescription("   "), "   ") << "nobody has given one";
     EXPECT_EQ(writtenDescription(" a"), "\" a\"");
     EXPECT_EQ(writtenDescription("a\t"), "\"a\t\"");
     EXPECT_EQ(writtenDescription("\"a\""), "\"\"a\"\"");

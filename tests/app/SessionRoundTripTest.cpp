@@ -1,0 +1,207 @@
+// Whole sessions, saved and opened again.
+
+#include "app/WndMainFixture.h"
+
+#include "explorer/WndEvolExplorer.h"
+#include "model/EVM.h"
+#include "runtime/TextCodec.h"
+#include "support/RandomTexts.h"
+
+#include <gmock/gmock.h>
+
+#include <array>
+
+using namespace tarsil;
+using test::RandomTexts;
+using test::sample;
+
+namespace {
+
+constexpr unsigned sessions = 20;
+
+/// A text without control characters, which a rich text does not keep.
+std::string printed(std::string text)
+{
+    const std::string control = "\u0081";
+    for (std::size_t place = text.find(control); place != std::string::npos;
+         place = text.find(control))
+        text.erase(place, control.size());
+    return text;
+}
+
+class SessionRoundTripTest : public test::WndMainTest
+{
+protected:
+    void openEvolutions();
+    void makeSession(unsigned seed);
+    void fill(EvmPlot& plot);
+    void addSeries(EvmPlot& plot);
+    RichText richText();
+    TextFormat look();
+    float bound(float least, float most);
+    ColorValue color() { return static_cast<ColorValue>(random.bits() & 0xFFFFFFU); }
+    QString line(std::size_t limit) { return QString::fromStdString(random.line(limit)); }
+
+    void save(const std::string& name)
+    {
+        user.saveFiles.push_back(folder.file(name));
+        choose("mnuSaveWorkspace");
+    }
+
+    void open(const std::string& name)
+    {
+        user.openFiles.push_back({folder.file(name)});
+        choose("OpenMenu");
+    }
+
+    /// What was saved, but for the date of saving.
+    std::string saved(const std::string& name)
+    {
+        std::string text = test::fileBytes(folder.file(name));
+        const std::size_t date = text.find("Date_Modified=");
+        return text.erase(date, text.find('\r', date) - date);
+    }
+
+    /// The picture of every plot, all of one size.
+    std::vector<QByteArray> pictures()
+    {
+        std::vector<QByteArray> result;
+        for (EvmPlot* const one : window.evolPlot().plots()) {
+            window.evolPlot().FitPlot(one);
+            result.push_back(one->emfPicture());
+        }
+        return result;
+    }
+
+    RandomTexts random {0};
+};
+
+/// Names with a blank, a semicolon, and letters that 7 bits do not have.
+void SessionRoundTripTest::openEvolutions()
+{
+    std::vector<std::string> paths;
+    for (const char* name : {"clean wing.ev2", "Flügel; roh.ev2", "α.evm"}) {
+        const std::string path(name);
+        const std::string origin = "goland_clean_m040" + path.substr(path.find_last_of('.'));
+        paths.push_back(folder.write(path, test::fileBytes(sample(origin))));
+    }
+    paths.resize(1 + random.below(paths.size()));
+    user.openFiles.push_back(paths);
+    choose("AddMenu");
+    ASSERT_EQ(window.session().evolutions.size(), paths.size());
+}
+
+void SessionRoundTripTest::makeSession(unsigned seed)
+{
+    random = RandomTexts(seed);
+    openEvolutions();
+    window.explorer().setDescription(line(20) + QStringLiteral("\r\n") + line(20));
+    plot().setCaption(QStringLiteral("first ") + line(10));
+    for (std::size_t left = random.below(4); left > 0; --left)
+        window.evolPlot().AddPlot(QStringLiteral("P") + line(10));
+    for (EvmPlot* const one : window.evolPlot().plots())
+        fill(*one);
+}
+
+void SessionRoundTripTest::fill(EvmPlot& one)
+{
+    window.evolPlot().FitPlot(&one);
+    addSeries(one);
+    for (std::size_t i = 0; i < one.boxCount(); ++i) {
+        if (random.below(4) != 0)
+            one.setBoxContent(i, richText());
+        if (random.below(2) == 0)
+            one.moveBox(i, bound(-100, 9000), bound(-100, 9000));
+    }
+    one.setVLabel(line(8));
+    one.setFLabel(line(8));
+    one.setGLabel(line(8));
+    one.setVthicks(static_cast<std::int16_t>(1 + random.below(20)));
+    one.setFthicks(static_cast<std::int16_t>(1 + random.below(20)));
+    one.setGthicks(static_cast<std::int16_t>(1 + random.below(20)));
+    one.SetScale(bound(0, 99), bound(100, 900), bound(0, 9), bound(10, 90), bound(-0.1F, 0.1F),
+                 bound(-1, -0.2F));
+    one.plot();
+}
+
+void SessionRoundTripTest::addSeries(EvmPlot& one)
+{
+    const auto& evolutions = window.session().evolutions;
+    for (std::size_t left = random.below(12); left > 0; --left) {
+        EVM& evolution = *evolutions[random.below(evolutions.size())];
+        Series& series = one.addSeries(*evolution.Modes[random.below(evolution.Modes.size())]);
+        series.MarkerTag = line(6);
+        series.MarkerSize = static_cast<std::int32_t>(random.below(30));
+        series.MarkerSpacing = static_cast<std::int32_t>(random.below(8)) - 1;
+        series.MarkerStyle = static_cast<std::int32_t>(random.below(5)); // 4: there is none
+        series.LegendText = line(random.below(4) == 0 ? 120 : 20);
+        series.ColorIndex = color();
+        series.MarkerForegroundColor = color();
+        series.IthMpf = 1; // the one that a workspace knows
+    }
+}
+
+RichText SessionRoundTripTest::richText()
+{
+    RichText text;
+    TextFormat before;
+    for (std::size_t left = random.below(4); left > 0; --left) {
+        std::string characters = "x" + printed(random.line(8));
+        if (random.below(2) == 0)
+            characters.insert(random.below(2), "\n");
+        TextFormat format = look();
+        format.strikeOut = !before.strikeOut; // neighbours of one look would be one run
+        text.runs.push_back({utf16FromUtf8(characters), format});
+        before = format;
+    }
+    text.last = text.runs.empty() ? TextFormat() : text.runs.back().format;
+    return text;
+}
+
+TextFormat SessionRoundTripTest::look()
+{
+    static const std::array<std::string, 3> families = {"Arial", "Courier New", "Größe"};
+    TextFormat format;
+    format.family = families.at(random.below(families.size()));
+    format.points = static_cast<double>(12 + random.below(60)) / 2; // halves, as RTF has them
+    format.bold = random.below(2) == 0;
+    format.italic = random.below(2) == 0;
+    format.underline = random.below(2) == 0;
+    if (random.below(2) == 0)
+        format.color = color();
+    return format;
+}
+
+float SessionRoundTripTest::bound(float least, float most)
+{
+    constexpr float steps = 65536;
+    return least + (most - least) * static_cast<float>(random.below(65536)) / steps;
+}
+
+} // namespace
+
+TEST_F(SessionRoundTripTest, givesTheSameBytesAndTheSamePictures)
+{
+    load();
+    for (unsigned seed = 0; seed < sessions; ++seed) {
+        SCOPED_TRACE(seed);
+        makeSession(seed);
+        save(std::to_string(seed) + "a.tsw");
+        const std::vector<QByteArray> drawn = pictures();
+        ASSERT_THAT(user.statuses,
+                    ::testing::Not(::testing::Contains(::testing::HasSubstr("longer than 1023"))))
+            << "a text of this test is too long";
+        choose("mnuNewWorkspace");
+        ASSERT_TRUE(window.session().evolutions.empty());
+        open(std::to_string(seed) + "a.tsw");
+        const std::vector<QByteArray> drawnAgain = pictures();
+        ASSERT_EQ(drawnAgain.size(), drawn.size());
+        for (std::size_t i = 0; i < drawn.size(); ++i)
+            ASSERT_TRUE(drawnAgain[i] == drawn[i]) << "plot " << i + 1;
+        save(std::to_string(seed) + "b.tsw");
+        ASSERT_EQ(saved(std::to_string(seed) + "b.tsw"), saved(std::to_string(seed) + "a.tsw"));
+        choose("mnuNewWorkspace");
+    }
+    EXPECT_TRUE(user.messages.empty()) << user.messages.front().text;
+    EXPECT_TRUE(user.questions.empty()) << "nothing was left unsaved, so nothing was asked";
+}
