@@ -93,6 +93,8 @@ public:
         }
     }
 
+    bool happened() const { return m_failure != nullptr; }
+
     void raise() const
     {
         if (m_failure != nullptr)
@@ -181,6 +183,7 @@ void WorkspaceCommands::New()
             return;
         m_explorer.startNew();
         m_path.clear();
+        m_isPartial = false;
         remember();
     });
 }
@@ -227,6 +230,8 @@ void WorkspaceCommands::open(const std::string& path)
         failure.run([&plot] { plot.plot(); });
     }
     m_plots.ActivatePlot(m_plots.plots().front());
+    m_isPartial = failure.happened()
+        || std::find(evolutions.begin(), evolutions.end(), nullptr) != evolutions.end();
     remember();
     failure.raise();
 }
@@ -264,12 +269,26 @@ void WorkspaceCommands::SaveWorkSpace()
         if (!answer)
             return;
         const std::string path = withExtension(*answer);
-        if (!fileExists(path)
-            || m_userInterface.confirm("The file '" + resolvePath(path).name
-                                           + "' already exists. Do you want to replace it?",
-                                       "Tarsil"))
+        if (!fileExists(path) || mayReplace(path))
             write(path);
     });
+}
+
+/// What could not be opened is still in its file, until that is replaced.
+bool WorkspaceCommands::mayReplace(const std::string& path) const
+{
+    std::error_code unknown;
+    const bool losesParts =
+        m_isPartial && fs::equivalent(nativePath(path), nativePath(m_path), unknown);
+    return m_userInterface.confirm("The file '" + resolvePath(path).name
+                                       + "' already exists. Do you want to replace it?",
+                                   "Tarsil")
+        && (!losesParts
+            || m_userInterface.confirm(
+                "Some of this workspace could not be opened: evolutions that "
+                "are not there, with their curves, or damaged parts. They "
+                "will be lost from the file. Replace it all the same?",
+                "Tarsil"));
 }
 
 void WorkspaceCommands::write(const std::string& path)
@@ -287,6 +306,7 @@ void WorkspaceCommands::write(const std::string& path)
         writeFile(path, written.bytes);
         m_explorer.setWorkspaceName(workspaceNameOf(path));
         m_path = shownPath(path);
+        m_isPartial = false;
         remember();
         m_userInterface.showStatus(
             written.longValues.empty()

@@ -58,6 +58,7 @@ private:
     std::vector<EVM*> loadFiles(const WorkspaceRecord& record, const std::string& path);
     EvmPlot& plotFor(std::size_t index, const QString& caption);
     void takeEditsAlong();
+    bool mayReplace(const std::string& path) const;
     void write(const std::string& path);
 
     Session& m_session;
@@ -65,6 +66,7 @@ private:
     wndEvolExplorer& m_explorer;
     UserInterface& m_userInterface;
     std::string m_path; ///< what saving proposes; empty for an untitled workspace
+    bool m_isPartial = false; ///< the file at `m_path` holds more than could be opened
     WorkspaceRecord m_saved; ///< the state when it was last saved or opened
 };
 

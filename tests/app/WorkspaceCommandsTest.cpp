@@ -231,6 +231,25 @@ TEST_F(WorkspaceCommandsTest, keepTheOtherFilesWhenOneIsMissing)
     EXPECT_GT(mode, 0);
 }
 
+TEST_F(WorkspaceCommandsTest, askTwiceBeforeWhatCouldNotBeOpenedIsLost)
+{
+    work();
+    save();
+    choose("mnuNewWorkspace");
+    std::filesystem::remove(folder.file("one.ev2"));
+    open(folder.file("case.tsw"));
+    const std::string whole = bytes();
+    user.questions.clear();
+    user.confirmations = {true, false};
+    save();
+    ASSERT_EQ(user.questions.size(), 2U);
+    EXPECT_EQ(user.questions[0], "The file 'case.tsw' already exists. Do you want to replace it?");
+    EXPECT_THAT(user.questions[1], StartsWith("Some of this workspace could not be opened"));
+    EXPECT_EQ(bytes(), whole);
+    save("copy.tsw");
+    EXPECT_EQ(user.questions.size(), 2U) << "the other file is whole";
+}
+
 TEST_F(WorkspaceCommandsTest, reportADamagedFileAndGoOn)
 {
     load();
