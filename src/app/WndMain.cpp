@@ -133,8 +133,15 @@ void wndMain::MDIForm_Load(const std::vector<std::string>& arguments)
     });
 }
 
+/// A command is about what the user sees, and that includes what is being typed.
+void wndMain::commitEdits()
+{
+    m_data->commitEdits();
+}
+
 void wndMain::run(Handler handler)
 {
+    commitEdits();
     guarded(m_userInterface, "wndMain", [this, handler] { (this->*handler)(); });
 }
 
@@ -325,6 +332,7 @@ void wndMain::stBar_PanelClick(int panel)
 /// Options that cannot be written are reported, and keep nobody in the program.
 void wndMain::closeEvent(QCloseEvent* event)
 {
+    commitEdits();
     if (!m_workspace->mayDiscard()) {
         event->ignore();
         return;

@@ -97,6 +97,7 @@ private:
     void closeDialogs();
     void addCommand(QMenu& menu, const Command& command, const char* name);
     void run(Handler handler);
+    void commitEdits();
 
     void mnuNewWorkspace_Click();
     void OpenMenu_Click();

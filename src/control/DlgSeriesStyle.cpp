@@ -1,16 +1,13 @@
 #include "control/DlgSeriesStyle.h"
 
+#include "ui_DlgSeriesStyle.h"
+
 #include "control/LineSample.h"
 #include "plot/DeviceContext.h"
 #include "plot/QtColor.h"
 
 #include <QColorDialog>
-#include <QComboBox>
-#include <QDialogButtonBox>
-#include <QFormLayout>
 #include <QPainter>
-#include <QPushButton>
-#include <QSpinBox>
 
 #include <algorithm>
 #include <array>
@@ -29,7 +26,6 @@ constexpr std::array<std::pair<int, const char*>, 6> lineStyles = {
      {penstyle::none, "No line"}}};
 
 constexpr QSize sampleSize {56, 14};
-constexpr int widest = 20;
 
 QIcon sampleIcon(int style)
 {
@@ -45,43 +41,26 @@ QIcon sampleIcon(int style)
 } // namespace
 
 dlgSeriesStyle::dlgSeriesStyle(const LineLook& look, QWidget* parent)
-    : QDialog(parent), m_colorButton(new QPushButton(this)), m_style(new QComboBox(this)),
-      m_width(new QSpinBox(this))
+    : QDialog(parent), m_ui(std::make_unique<Ui::dlgSeriesStyle>())
 {
-    setObjectName(QStringLiteral("dlgSeriesStyle"));
-    setWindowTitle(tr("Line"));
-    m_colorButton->setObjectName(QStringLiteral("btnColor"));
-    m_colorButton->setAccessibleName(tr("Colour"));
-    m_colorButton->setAutoDefault(false);
-    m_colorButton->setIconSize(sampleSize);
-    m_style->setObjectName(QStringLiteral("cmbStyle"));
-    m_style->setAccessibleName(tr("Style"));
-    m_style->setIconSize(sampleSize);
+    m_ui->setupUi(this);
+    m_ui->btnColor->setIconSize(sampleSize);
+    m_ui->cmbStyle->setIconSize(sampleSize);
     for (const auto& [number, name] : lineStyles)
-        m_style->addItem(sampleIcon(number), QString::fromLatin1(name), number);
-    m_style->setCurrentIndex(std::max(m_style->findData(look.style), 0));
-    m_width->setObjectName(QStringLiteral("inpWidth"));
-    m_width->setAccessibleName(tr("Width"));
-    m_width->setRange(1, std::max<int>(widest, look.width));
-    m_width->setSuffix(tr(" px"));
-    m_width->setValue(std::max<int>(look.width, 1));
-    m_width->setToolTip(tr("A line wider than one pixel is solid."));
-    auto* const buttons =
-        new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    auto* const layout = new QFormLayout(this);
-    layout->addRow(tr("Colour:"), m_colorButton);
-    layout->addRow(tr("Style:"), m_style);
-    layout->addRow(tr("Width:"), m_width);
-    layout->addRow(buttons);
-    connect(m_colorButton, &QPushButton::clicked, this, &dlgSeriesStyle::chooseColor);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+        m_ui->cmbStyle->addItem(sampleIcon(number), QString::fromLatin1(name), number);
+    m_ui->cmbStyle->setCurrentIndex(std::max(m_ui->cmbStyle->findData(look.style), 0));
+    m_ui->inpWidth->setMaximum(std::max<int>(m_ui->inpWidth->maximum(), look.width));
+    m_ui->inpWidth->setValue(look.width);
+    connect(m_ui->btnColor, &QPushButton::clicked, this, &dlgSeriesStyle::chooseColor);
     setColor(look.color);
 }
 
+dlgSeriesStyle::~dlgSeriesStyle() = default;
+
 LineLook dlgSeriesStyle::look() const
 {
-    return {m_color, m_style->currentData().toInt(), static_cast<std::int16_t>(m_width->value())};
+    return {m_color, m_ui->cmbStyle->currentData().toInt(),
+            static_cast<std::int16_t>(m_ui->inpWidth->value())};
 }
 
 void dlgSeriesStyle::setColor(ColorValue color)
@@ -89,8 +68,8 @@ void dlgSeriesStyle::setColor(ColorValue color)
     m_color = color;
     QPixmap swatch(sampleSize);
     swatch.fill(qtColor(color));
-    m_colorButton->setIcon(swatch);
-    m_colorButton->setText(qtColor(color).name());
+    m_ui->btnColor->setIcon(swatch);
+    m_ui->btnColor->setText(qtColor(color).name());
 }
 
 void dlgSeriesStyle::chooseColor()

@@ -4,11 +4,13 @@
 
 #include <QDialog>
 
-class QComboBox;
-class QPushButton;
-class QSpinBox;
+#include <memory>
 
 namespace tarsil {
+
+namespace Ui {
+class dlgSeriesStyle;
+}
 
 /// How a curve's line looks.
 struct LineLook
@@ -27,6 +29,7 @@ class dlgSeriesStyle : public QDialog
 
 public:
     explicit dlgSeriesStyle(const LineLook& look, QWidget* parent = nullptr);
+    ~dlgSeriesStyle() override;
 
     LineLook look() const;
 
@@ -36,10 +39,8 @@ public:
 private:
     void chooseColor();
 
+    std::unique_ptr<Ui::dlgSeriesStyle> m_ui;
     ColorValue m_color = 0;
-    QPushButton* m_colorButton;
-    QComboBox* m_style;
-    QSpinBox* m_width;
 };
 
 } // namespace tarsil

@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <numeric>
 
 namespace tarsil::mdlData {
 
@@ -20,6 +21,18 @@ std::int32_t placeOf(const AeMode* mode)
     const auto place = std::find_if(modes.begin(), modes.end(),
                                     [mode](const auto& one) { return one.get() == mode; });
     return place == modes.end() ? 0 : static_cast<std::int32_t>(place - modes.begin() + 1);
+}
+
+/// Moves one row with its series.
+void moveRow(EvmPlot& plot, std::vector<Row>& rows, std::size_t from, std::size_t to)
+{
+    plot.SerieMove(from + 1, to + 1);
+    const auto begin = rows.begin() + static_cast<std::ptrdiff_t>(std::min(from, to));
+    const auto end = rows.begin() + static_cast<std::ptrdiff_t>(std::max(from, to)) + 1;
+    if (from < to)
+        std::rotate(begin, begin + 1, end);
+    else
+        std::rotate(begin, end - 1, end);
 }
 
 } // namespace
@@ -98,26 +111,66 @@ void resetColors(SeriesList& series)
 
 /// From the last to the first when they go down and the other way when they go up, so that no move
 /// changes the place of one that is still to come.
-std::size_t moveRows(EvmPlot& plot, std::vector<Row>& rows, const std::vector<std::size_t>& moved,
-                     std::size_t target)
+Places moveRows(EvmPlot& plot, std::vector<Row>& rows, const Places& moved, std::size_t target)
 {
     const auto above = static_cast<std::size_t>(std::count_if(
         moved.begin(), moved.end(), [target](std::size_t place) { return place < target; }));
     const std::size_t first = target - above;
-    const auto move = [&](std::size_t from, std::size_t to) {
-        plot.SerieMove(from + 1, to + 1);
-        const auto begin = rows.begin() + static_cast<std::ptrdiff_t>(std::min(from, to));
-        const auto end = rows.begin() + static_cast<std::ptrdiff_t>(std::max(from, to)) + 1;
-        if (from < to)
-            std::rotate(begin, begin + 1, end);
-        else
-            std::rotate(begin, end - 1, end);
-    };
     for (std::size_t i = above; i-- > 0;)
-        move(moved[i], first + i);
+        moveRow(plot, rows, moved[i], first + i);
     for (std::size_t i = above; i < moved.size(); ++i)
-        move(moved[i], first + i);
-    return first;
+        moveRow(plot, rows, moved[i], first + i);
+    Places places(moved.size());
+    std::iota(places.begin(), places.end(), first);
+    return places;
+}
+
+Places moveRowsUp(EvmPlot& plot, std::vector<Row>& rows, const Places& moved)
+{
+    Places places = moved;
+    std::size_t top = 0; // the first place that is free to move to
+    for (std::size_t& place : places) {
+        if (place > top) {
+            moveRow(plot, rows, place, place - 1);
+            --place;
+        }
+        top = place + 1;
+    }
+    return places;
+}
+
+Places moveRowsDown(EvmPlot& plot, std::vector<Row>& rows, const Places& moved)
+{
+    Places places = moved;
+    std::size_t end = rows.size(); // behind the last place that is free to move to
+    for (auto place = places.rbegin(); place != places.rend(); ++place) {
+        if (*place + 1 < end) {
+            moveRow(plot, rows, *place, *place + 1);
+            ++*place;
+        }
+        end = *place;
+    }
+    return places;
+}
+
+std::int32_t raisedMode(const Series& series, std::int32_t number)
+{
+    const bool canGo = series.Mode != nullptr && series.Mode->Parent != nullptr
+        && number < series.Mode->Parent->na;
+    return canGo ? number + 1 : number;
+}
+
+std::int32_t loweredMode(std::int32_t number)
+{
+    return number != 0 ? number - 1 : number;
+}
+
+QString inOneLine(QString text)
+{
+    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+    while (text.endsWith(u'\n'))
+        text.chop(1);
+    return text.replace(u'\n', u' ');
 }
 
 bool fillLegend(Series& series, std::int32_t index)
@@ -137,6 +190,17 @@ bool fillLegend(Series& series, std::int32_t index)
         part = part.trimmed();
     series.LegendText = parts.join(QStringLiteral("; "));
     return true;
+}
+
+bool fillLegends(SeriesList& series, const Places& places, std::int32_t index)
+{
+    bool isThere = true;
+    const auto fill = [&](Series& one) { isThere &= fillLegend(one, index); };
+    if (places.empty())
+        std::for_each(series.begin(), series.end(), fill);
+    for (const std::size_t place : places)
+        fill(series.at(place));
+    return isThere;
 }
 
 } // namespace tarsil::mdlData

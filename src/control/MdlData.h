@@ -61,16 +61,37 @@ void setColor(Series& series, ColorValue color);
 /// The colours that series take in turn.
 void resetColors(SeriesList& series);
 
-/// Moves rows, given by their places from 0 in increasing order, and their series to the gap before
-/// the place `target` (the number of rows is the end); they stay in order and are together then.
-/// Returns the place of the first of them.
-std::size_t moveRows(EvmPlot& plot, std::vector<Row>& rows, const std::vector<std::size_t>& moved,
-                     std::size_t target);
+/// Where rows are by their places from 0, in increasing order.
+using Places = std::vector<std::size_t>;
+
+/// Moves rows with their series to the gap before the place `target` (the number of rows is the
+/// end); they stay in order and are together then. Returns their new places.
+Places moveRows(EvmPlot& plot, std::vector<Row>& rows, const Places& moved, std::size_t target);
+
+/// Moves rows with their series one place up or down; those that have no room stay. Returns their
+/// new places.
+Places moveRowsUp(EvmPlot& plot, std::vector<Row>& rows, const Places& moved);
+Places moveRowsDown(EvmPlot& plot, std::vector<Row>& rows, const Places& moved);
+
+/// The number above, up to the number of modes that the evolution of a series declares; else the
+/// number as it is.
+std::int32_t raisedMode(const Series& series, std::int32_t number);
+
+/// The number below, down to 0.
+std::int32_t loweredMode(std::int32_t number);
+
+/// A text with blanks in the place of line breaks, and without those at its end: what is copied
+/// from a sheet ends with one.
+QString inOneLine(QString text);
 
 /// The legend text of a row: the file name for index -1, else the entry of that index, counted from
 /// 0, of what the file says about itself, the parts of the entry (between bars) joined with "; ".
 /// False when there is no such entry; the series is unchanged then.
 bool fillLegend(Series& series, std::int32_t index);
+
+/// The same for the rows at these places, or for all when there are none. False when an entry is
+/// not there for one of them; the others are filled.
+bool fillLegends(SeriesList& series, const Places& places, std::int32_t index);
 
 } // namespace mdlData
 

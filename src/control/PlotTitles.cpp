@@ -1,6 +1,7 @@
 #include "control/PlotTitles.h"
 
 #include "aircraft/AirplaneInfo.h"
+#include "control/MdlData.h"
 #include "model/EVM.h"
 #include "runtime/NumberFormat.h"
 #include "runtime/Numbers.h"
@@ -86,7 +87,8 @@ void writeLegend(EvmPlot& plot, double points)
     for (const Series& series : plot.SeriesCollection()) {
         if (series.LegendText.isEmpty())
             continue;
-        lines.append(u'[' + series.MarkerTag + QStringLiteral("] ") + series.LegendText);
+        lines.append(
+            mdlData::inOneLine(u'[' + series.MarkerTag + QStringLiteral("] ") + series.LegendText));
         colors.push_back(series.ColorIndex);
     }
     emfRichTextBox& box = plot.Legend();
@@ -97,13 +99,13 @@ void writeLegend(EvmPlot& plot, double points)
     const QString text = box.Text();
     qsizetype from = 0;
     for (qsizetype i = 0; i < lines.size(); ++i) {
-        from = text.indexOf(lines[i], from);
-        if (from < 0)
-            break; // a legend text with a line break of its own kind
-        box.setSelStart(static_cast<int>(from));
+        const qsizetype place = text.indexOf(lines[i], from);
+        if (place < 0)
+            continue;
+        box.setSelStart(static_cast<int>(place));
         box.setSelLength(static_cast<int>(lines[i].size()));
         box.setSelColor(colors[static_cast<std::size_t>(i)]);
-        from += lines[i].size();
+        from = place + lines[i].size();
     }
     box.setSelStart(0);
     plot.refresh();

@@ -86,15 +86,27 @@ void SeriesGridModel::forget(const EvmPlot* plot)
 void SeriesGridModel::follow()
 {
     const SeriesList& series = m_plot->SeriesCollection();
-    const bool isSame =
-        std::equal(m_rows.begin(), m_rows.end(), series.begin(), series.end(),
-                   [](const auto& row, const Series& one) { return row.drawn == one.Mode; });
-    if (isSame)
+    const auto isDrawn = [](const auto& row, const Series& one) { return row.drawn == one.Mode; };
+    const bool areBegun = m_rows.size() <= series.size()
+        && std::equal(m_rows.begin(), m_rows.end(), series.begin(), isDrawn);
+    if (areBegun && m_rows.size() == series.size())
         return seriesChanged();
     const bool areNew = m_rows.empty();
-    replaceRows(mdlData::rowsOf(series, m_rows));
+    if (areBegun)
+        appendRows(mdlData::rowsOf(series, m_rows));
+    else
+        replaceRows(mdlData::rowsOf(series, m_rows));
     if (areNew)
         Q_EMIT rowsReplaced();
+}
+
+/// What is selected or being edited in the rows before stays so.
+void SeriesGridModel::appendRows(const Rows& rows)
+{
+    seriesChanged();
+    beginInsertRows({}, rowCount(), static_cast<int>(rows.size()) - 1);
+    m_rows = rows;
+    endInsertRows();
 }
 
 void SeriesGridModel::replaceRows(Rows rows)
@@ -238,7 +250,7 @@ bool SeriesGridModel::setData(const QModelIndex& index, const QVariant& value, i
             return false;
     } else {
         QString& cell = column == SeriesColumn::Tag ? one->MarkerTag : one->LegendText;
-        cell = value.toString();
+        cell = mdlData::inOneLine(value.toString());
         Q_EMIT dataChanged(index, index);
     }
     Q_EMIT edited(column);
@@ -294,12 +306,28 @@ void SeriesGridModel::removeSeries(const std::vector<std::size_t>& rows)
     endResetModel();
 }
 
-std::size_t SeriesGridModel::moveSeries(const std::vector<std::size_t>& rows, std::size_t target)
+mdlData::Places SeriesGridModel::moveSeries(const Places& rows, std::size_t target)
 {
     beginResetModel();
-    const std::size_t first = mdlData::moveRows(*m_plot, m_rows, rows, target);
+    Places places = mdlData::moveRows(*m_plot, m_rows, rows, target);
     endResetModel();
-    return first;
+    return places;
+}
+
+mdlData::Places SeriesGridModel::moveSeriesUp(const Places& rows)
+{
+    beginResetModel();
+    Places places = mdlData::moveRowsUp(*m_plot, m_rows, rows);
+    endResetModel();
+    return places;
+}
+
+mdlData::Places SeriesGridModel::moveSeriesDown(const Places& rows)
+{
+    beginResetModel();
+    Places places = mdlData::moveRowsDown(*m_plot, m_rows, rows);
+    endResetModel();
+    return places;
 }
 
 } // namespace tarsil

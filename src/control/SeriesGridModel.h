@@ -29,6 +29,7 @@ public:
 
     /// Shows the series of a plot, which must outlive that; null shows no rows.
     void setPlot(EvmPlot* plot);
+    EvmPlot* plot() const { return m_plot; }
 
     /// A plot ends: nothing about it is kept.
     void forget(const EvmPlot* plot);
@@ -50,11 +51,13 @@ public:
     /// Makes the rows the plot's series (`mdlData::buildSeries`); nothing is drawn.
     std::string build(const MarkerOptions& markers);
 
-    /// Removes rows with their series, given by their places in increasing order.
-    void removeSeries(const std::vector<std::size_t>& rows);
+    // Rows with their series, as `mdlData` does it. Selections do not follow.
 
-    /// Moves rows with their series (`mdlData::moveRows`). Selections do not follow.
-    std::size_t moveSeries(const std::vector<std::size_t>& rows, std::size_t target);
+    using Places = mdlData::Places;
+    void removeSeries(const Places& rows);
+    Places moveSeries(const Places& rows, std::size_t target);
+    Places moveSeriesUp(const Places& rows);
+    Places moveSeriesDown(const Places& rows);
 
     /// What the cells show has changed, but not which rows there are.
     void seriesChanged();
@@ -74,6 +77,7 @@ private:
 
     void follow();
     void replaceRows(Rows rows);
+    void appendRows(const Rows& rows);
     QVariant text(const Series& series, int row, SeriesColumn column) const;
     QVariant toolTip(const Series& series, int row, SeriesColumn column) const;
     bool isDrawn(int row) const;

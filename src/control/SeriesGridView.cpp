@@ -5,6 +5,7 @@
 #include <QDropEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QPainter>
 
 #include <algorithm>
@@ -45,9 +46,15 @@ std::vector<std::size_t> SeriesGridView::selectedRows() const
         for (int row = range.top(); row <= range.bottom(); ++row)
             rows.insert(static_cast<std::size_t>(row));
     }
-    if (rows.empty() && currentIndex().isValid())
-        rows.insert(static_cast<std::size_t>(currentIndex().row()));
     return {rows.begin(), rows.end()};
+}
+
+std::vector<std::size_t> SeriesGridView::selectedOrCurrentRows() const
+{
+    std::vector<std::size_t> rows = selectedRows();
+    if (rows.empty() && currentIndex().isValid())
+        rows.push_back(static_cast<std::size_t>(currentIndex().row()));
+    return rows;
 }
 
 bool SeriesGridView::isSelectedOnlyIn(int column) const
@@ -59,15 +66,52 @@ bool SeriesGridView::isSelectedOnlyIn(int column) const
            });
 }
 
-void SeriesGridView::selectRows(std::size_t first, std::size_t count, int column)
+void SeriesGridView::selectRows(const std::vector<std::size_t>& rows, int column)
 {
-    if (count == 0)
+    if (rows.empty())
         return;
-    const QModelIndex top = model()->index(static_cast<int>(first), column);
-    const QModelIndex bottom = model()->index(static_cast<int>(first + count) - 1, column);
-    selectionModel()->setCurrentIndex(top, QItemSelectionModel::NoUpdate);
-    selectionModel()->select({top, bottom}, QItemSelectionModel::ClearAndSelect);
-    scrollTo(top);
+    QItemSelection selection;
+    for (const std::size_t row : rows) {
+        const QModelIndex cell = model()->index(static_cast<int>(row), column);
+        selection.append(QItemSelectionRange(cell));
+    }
+    const QModelIndex first = model()->index(static_cast<int>(rows.front()), column);
+    selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    scrollTo(first);
+}
+
+void SeriesGridView::commitEditor()
+{
+    if (state() != EditingState)
+        return;
+    for (auto* const editor : viewport()->findChildren<QLineEdit*>(Qt::FindDirectChildrenOnly)) {
+        if (editor->isHidden())
+            continue; // one before, which goes soon
+        commitData(editor);
+        closeEditor(editor, QAbstractItemDelegate::NoHint);
+    }
+}
+
+/// What is being typed stays, whatever else in the grid is new.
+void SeriesGridView::dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
+                                 const QList<int>& roles)
+{
+    if (state() == EditingState)
+        viewport()->update();
+    else
+        QTableView::dataChanged(topLeft, bottomRight, roles);
+}
+
+/// A double click on one of several selected lines is for all of them.
+QItemSelectionModel::SelectionFlags SeriesGridView::selectionCommand(const QModelIndex& index,
+                                                                     const QEvent* event) const
+{
+    const auto* const input = dynamic_cast<const QMouseEvent*>(event);
+    if (input != nullptr && input->modifiers() == Qt::NoModifier && index.column() == lineColumn
+        && selectionModel()->isSelected(index))
+        return QItemSelectionModel::NoUpdate;
+    return QTableView::selectionCommand(index, event);
 }
 
 void SeriesGridView::keyPressEvent(QKeyEvent* event)

@@ -15,15 +15,20 @@ class SeriesGridView : public QTableView
 public:
     explicit SeriesGridView(QWidget* parent = nullptr);
 
-    /// The rows with a selected cell, from 0 in increasing order; the current row when nothing is
-    /// selected.
+    /// The rows with a selected cell, from 0 in increasing order.
     std::vector<std::size_t> selectedRows() const;
+
+    /// The same, or the current row when nothing is selected.
+    std::vector<std::size_t> selectedOrCurrentRows() const;
 
     /// Whether something is selected, and all of it in that column.
     bool isSelectedOnlyIn(int column) const;
 
-    /// Selects the cells of a column in rows that follow each other, and makes the first current.
-    void selectRows(std::size_t first, std::size_t count, int column);
+    /// Selects the cells of a column in these rows, and makes the first current.
+    void selectRows(const std::vector<std::size_t>& rows, int column);
+
+    /// Writes what is being typed into its cell, as Enter does.
+    void commitEditor();
 
     /// The gap between rows, counted by the row behind it, that is nearest to a place of the
     /// viewport.
@@ -31,6 +36,9 @@ public:
 
     /// What stands in the middle while there are no rows.
     void setPlaceholder(const QString& text) { m_placeholder = text; }
+
+    void dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
+                     const QList<int>& roles) override;
 
 Q_SIGNALS:
     void removeWanted();
@@ -46,6 +54,8 @@ Q_SIGNALS:
     void styleWanted();
 
 protected:
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* event) const override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void dropEvent(QDropEvent* event) override;

@@ -41,7 +41,10 @@ wndData::wndData(wndEvolPlot& plots, const AirplaneInfo& airplane, ReferenceEvol
     makeMoveMenu();
     fillMechanisms();
     connect(&m_plots, &wndEvolPlot::activePlotChanged, this,
-            [this](EvmPlot* /*before*/, EvmPlot* now) { m_model.setPlot(now); });
+            [this](EvmPlot* /*before*/, EvmPlot* now) {
+                commitEdits(); // belongs to the plot before
+                m_model.setPlot(now);
+            });
     connect(&m_plots, &wndEvolPlot::plotAboutToBeRemoved, this,
             [this](EvmPlot* plot) { m_model.forget(plot); });
     connect(&m_plots, &wndEvolPlot::seriesAdded, this, &wndData::styleNewSeries);
@@ -119,7 +122,10 @@ void wndData::makeMoveMenu()
 {
     auto* const menu = new QMenu(this);
     const auto add = [&](const QString& text, const std::function<void()>& action) {
-        connect(menu->addAction(text), &QAction::triggered, this, [this, action] { run(action); });
+        connect(menu->addAction(text), &QAction::triggered, this, [this, action] {
+            commitEdits();
+            run(action);
+        });
     };
     add(tr("Up\tAlt+Up"), [this] { moveUp(); });
     add(tr("Down\tAlt+Down"), [this] { moveDown(); });
@@ -136,7 +142,15 @@ void wndData::run(const std::function<void()>& action)
 
 std::function<void()> wndData::runs(Handler handler)
 {
-    return [this, handler] { run([this, handler] { (this->*handler)(); }); };
+    return [this, handler] {
+        commitEdits();
+        run([this, handler] { (this->*handler)(); });
+    };
+}
+
+void wndData::commitEdits()
+{
+    m_ui->flxSerieViewer->commitEditor();
 }
 
 void wndData::warn(const std::string& text)
@@ -144,12 +158,12 @@ void wndData::warn(const std::string& text)
     m_user.showMessage(text, "Tarsil", MessageIcon::Exclamation);
 }
 
-/// Null, after a message, when no plot is active.
+/// The plot whose rows the grid shows. Null, after a message, when no plot is active.
 EvmPlot* wndData::activePlot()
 {
-    if (m_plots.ActivePlot() == nullptr)
+    if (m_model.plot() == nullptr)
         warn("Please select activate a plot.");
-    return m_plots.ActivePlot();
+    return m_model.plot();
 }
 
 /// Null, after a message, when there is none.

@@ -42,6 +42,9 @@ public:
     /// Fills the list of flutter mechanisms from the airplane's; none is chosen then.
     void fillMechanisms();
 
+    /// Writes what is being typed in the grid into its cell, as Enter does.
+    void commitEdits();
+
     QSize sizeHint() const override;
 
 private:
@@ -77,10 +80,12 @@ private:
     void showMarkers();
     void styleNewSeries(EvmPlot* plot);
     bool isModeSelected(const char* refusal);
-    void changeModes(int step);
+    void changeModes(bool raise);
     void moveUp();
     void moveDown();
     void moveSelectedTo(std::size_t target);
+    void afterMove(const std::vector<std::size_t>& rows, int column);
+    int currentColumn() const;
     void chooseLine();
     void afterEdit(SeriesColumn column);
     std::string rebuild();

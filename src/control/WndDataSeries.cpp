@@ -10,7 +10,8 @@
 #include "runtime/UserInterface.h"
 #include "vgf/WndEvolPlot.h"
 
-#include <numeric>
+#include <algorithm>
+#include <cmath>
 
 namespace tarsil {
 
@@ -56,7 +57,7 @@ void wndData::afterEdit(SeriesColumn column)
     if (column == SeriesColumn::Mode)
         cmdDrawPlot_Click();
     else if (column == SeriesColumn::Tag)
-        m_plots.ActivePlot()->plot(); // the tag may be the marker
+        m_model.plot()->plot(); // the tag may be the marker
 }
 
 bool wndData::isModeSelected(const char* refusal)
@@ -70,49 +71,50 @@ bool wndData::isModeSelected(const char* refusal)
 void wndData::cmdIncMode_Click()
 {
     if (isModeSelected("Please select cells in \"Mode\" column."))
-        changeModes(1);
+        changeModes(true);
 }
 
 void wndData::cmdDecMode_Click()
 {
     if (isModeSelected("You must first select cells in mode column!"))
-        changeModes(-1);
+        changeModes(false);
 }
 
-/// Up to the number of modes that the evolution declares, and down to 0.
-void wndData::changeModes(int step)
+void wndData::changeModes(bool raise)
 {
     static_cast<void>(markerOptions()); // what is wrong there is reported before anything changes
     for (const std::size_t place : m_ui->flxSerieViewer->selectedRows()) {
         const int row = static_cast<int>(place);
         const std::int32_t number = m_model.modeNumber(row);
-        const Series& series = *m_model.series(row);
-        const bool canGo =
-            step > 0 ? series.Mode != nullptr && number < series.Mode->Parent->na : number != 0;
-        if (canGo)
-            m_model.setModeNumber(row, number + step);
+        m_model.setModeNumber(row,
+                              raise ? mdlData::raisedMode(*m_model.series(row), number)
+                                    : mdlData::loweredMode(number));
     }
     cmdDrawPlot_Click();
 }
 
-/// The selected rows, or the current one; the row behind them is the next current one.
+/// The selected rows, or the current one, or the only one; the row behind them is the next current
+/// one.
 void wndData::cmdRemove_Click()
 {
     SeriesGridView& grid = *m_ui->flxSerieViewer;
-    std::vector<std::size_t> rows = grid.selectedRows();
-    if (rows.empty() && grid.currentIndex().isValid())
-        rows = {static_cast<std::size_t>(grid.currentIndex().row())};
+    std::vector<std::size_t> rows = grid.selectedOrCurrentRows();
     if (m_model.rowCount() == 1)
         rows = {0};
     if (rows.empty())
         return;
     static_cast<void>(markerOptions());
-    const int column = grid.currentIndex().column();
+    const int column = currentColumn();
     m_model.removeSeries(rows);
-    const std::size_t next = rows.front();
     const auto count = static_cast<std::size_t>(m_model.rowCount());
-    grid.selectRows(next < count ? next : count - 1, count > 0 ? 1 : 0, column < 0 ? 0 : column);
+    if (count > 0)
+        grid.selectRows({std::min(rows.front(), count - 1)}, column);
     cmdDrawPlot_Click();
+}
+
+int wndData::currentColumn() const
+{
+    return std::max(m_ui->flxSerieViewer->currentIndex().column(), 0);
 }
 
 void wndData::btnSerieMove_Click()
@@ -122,30 +124,29 @@ void wndData::btnSerieMove_Click()
 
 void wndData::moveUp()
 {
-    const std::vector<std::size_t> rows = m_ui->flxSerieViewer->selectedRows();
-    if (!rows.empty())
-        moveSelectedTo(rows.front() > 0 ? rows.front() - 1 : 0);
+    const int column = currentColumn();
+    afterMove(m_model.moveSeriesUp(m_ui->flxSerieViewer->selectedOrCurrentRows()), column);
 }
 
 void wndData::moveDown()
 {
-    const std::vector<std::size_t> rows = m_ui->flxSerieViewer->selectedRows();
-    const auto end = static_cast<std::size_t>(m_model.rowCount());
-    if (!rows.empty())
-        moveSelectedTo(std::min(rows.back() + 2, end));
+    const int column = currentColumn();
+    afterMove(m_model.moveSeriesDown(m_ui->flxSerieViewer->selectedOrCurrentRows()), column);
 }
 
-/// The rows stay selected.
 void wndData::moveSelectedTo(std::size_t target)
 {
-    SeriesGridView& grid = *m_ui->flxSerieViewer;
-    const std::vector<std::size_t> rows = grid.selectedRows();
+    const int column = currentColumn();
+    afterMove(m_model.moveSeries(m_ui->flxSerieViewer->selectedOrCurrentRows(), target), column);
+}
+
+/// The rows stay selected at their new places.
+void wndData::afterMove(const std::vector<std::size_t>& rows, int column)
+{
     if (rows.empty())
         return;
-    const int column = grid.currentIndex().column();
-    const std::size_t first = m_model.moveSeries(rows, target);
-    grid.selectRows(first, rows.size(), column < 0 ? 0 : column);
-    m_plots.ActivePlot()->plot();
+    m_ui->flxSerieViewer->selectRows(rows, column);
+    m_model.plot()->plot();
 }
 
 void wndData::btnResColor_Click()
@@ -158,27 +159,30 @@ void wndData::btnResColor_Click()
 }
 
 /// The colour, style and width of the lines of the selected rows; the first one says what they are.
+/// What the user leaves as it is stays in the others, too.
 void wndData::chooseLine()
 {
-    const std::vector<std::size_t> rows = m_ui->flxSerieViewer->selectedRows();
+    const std::vector<std::size_t> rows = m_ui->flxSerieViewer->selectedOrCurrentRows();
     if (rows.empty())
         return;
-    const LineLook before = lookOf(*m_model.series(static_cast<int>(rows.front())));
-    dlgSeriesStyle dialog(before, this);
-    const LineLook shown = dialog.look();
-    if (dialog.exec() != QDialog::Accepted || dialog.look() == shown)
+    dlgSeriesStyle dialog(lookOf(*m_model.series(static_cast<int>(rows.front()))), this);
+    const LineLook before = dialog.look();
+    if (dialog.exec() != QDialog::Accepted || dialog.look() == before)
         return;
-    const LineLook look = dialog.look();
+    const LineLook now = dialog.look();
     for (const std::size_t row : rows) {
         Series& series = *m_model.series(static_cast<int>(row));
-        mdlData::setColor(series, look.color);
-        series.LineStyle = look.style;
-        series.LineWidth = look.width;
+        if (now.color != before.color)
+            mdlData::setColor(series, now.color);
+        if (now.style != before.style)
+            series.LineStyle = now.style;
+        if (now.width != before.width)
+            series.LineWidth = now.width;
     }
-    m_plots.ActivePlot()->plot();
+    m_model.plot()->plot();
 }
 
-/// The participation factor counts only where it is the marker.
+/// The index of the participation factor must be a number only where it is the marker.
 MarkerOptions wndData::markerOptions() const
 {
     MarkerOptions options;
@@ -188,8 +192,11 @@ MarkerOptions wndData::markerOptions() const
                                                  : markerstyle::none;
     options.size = integerIn(*m_ui->mksizeInp);
     options.spacing = integerIn(*m_ui->mkspaceInp);
+    std::int16_t factor = 0;
     if (options.style == markerstyle::participationFactor)
         options.ithMpf = integerIn(*m_ui->ithmpfInp);
+    else if (parseInteger16(m_ui->ithmpfInp->text().toStdString(), factor) == NumberStatus::Ok)
+        options.ithMpf = factor;
     return options;
 }
 
@@ -226,16 +233,17 @@ void wndData::styleNewSeries(EvmPlot* plot)
     }
 }
 
-/// The box is as before when the message comes: the message takes the focus once more.
+/// What is rounded to 0 is refused as well. The box is as before when the message comes: the
+/// message takes the focus once more.
 void wndData::mkspaceInp_LostFocus()
 {
-    float spacing = 0;
-    const bool isNumber =
-        parseSingle(m_ui->mkspaceInp->text().toStdString(), spacing) == NumberStatus::Ok;
-    if (isNumber && spacing <= 0) {
+    double spacing = 0;
+    if (parseDouble(m_ui->mkspaceInp->text().toStdString(), spacing) != NumberStatus::Ok)
+        return; // "Plot" says so
+    if (std::nearbyint(spacing) <= 0) {
         m_ui->mkspaceInp->setText(m_spacing);
         warn("The spacing must be greater then zero!");
-    } else if (isNumber) {
+    } else {
         m_spacing = m_ui->mkspaceInp->text();
     }
 }

@@ -14,8 +14,6 @@
 
 #include <QDir>
 
-#include <numeric>
-
 namespace tarsil {
 
 namespace {
@@ -89,21 +87,17 @@ void wndData::cmbFlutMech_Click()
     plot->plot();
 }
 
-/// The selected rows, or all when none is selected. The user hears once of entries that are not
-/// there.
+/// The user hears once of entries that are not there.
 void wndData::btnFilltLeg_Click()
 {
-    const std::int16_t index = legendIndexIn(*m_ui->txtLegIdx);
-    std::vector<std::size_t> rows = m_ui->flxSerieViewer->selectedRows();
-    if (rows.empty()) {
-        rows.resize(static_cast<std::size_t>(m_model.rowCount()));
-        std::iota(rows.begin(), rows.end(), std::size_t {0});
-    }
-    bool isMissing = false;
-    for (const std::size_t row : rows)
-        isMissing |= !mdlData::fillLegend(*m_model.series(static_cast<int>(row)), index);
+    EvmPlot* const plot = activePlot();
+    if (plot == nullptr)
+        return;
+    const std::int32_t index = legendIndexIn(*m_ui->txtLegIdx);
+    const bool areThere =
+        mdlData::fillLegends(plot->SeriesCollection(), m_ui->flxSerieViewer->selectedRows(), index);
     m_model.seriesChanged();
-    if (isMissing)
+    if (!areThere)
         warn("There is not " + std::to_string(index) + "\u00AA legend entry");
 }
 

@@ -138,3 +138,26 @@ TEST_F(DataControl, countsWhatIsTypedAsAChangeOfTheWorkspace)
     EXPECT_EQ(user.questions.size(), 1U);
     EXPECT_GT(rows().rowCount(), 0) << "the answer was no";
 }
+
+TEST_F(DataControl, takesWhatIsBeingTypedAlongBeforeItIsAskedAboutOrSaved)
+{
+    user.openFiles.push_back({sample("goland.tsw")});
+    choose("OpenMenu");
+    auto& grid = partOf<SeriesGridView>(data(), "flxSerieViewer");
+    const auto startTyping = [&](const QString& text) {
+        grid.setCurrentIndex(rows().index(0, static_cast<int>(SeriesColumn::Legend)));
+        grid.edit(grid.currentIndex());
+        test::openEditor(grid)->setText(text);
+    };
+    for (const char* command : {"mnuNewWorkspace", "OpenMenu", "QuitMenu"}) {
+        startTyping(QString::fromLatin1(command));
+        user.questions.clear();
+        choose(command);
+        EXPECT_EQ(user.questions.size(), 1U) << command;
+        EXPECT_TRUE(window.isVisible()) << "the answer was no";
+    }
+    startTyping(QStringLiteral("typed last"));
+    user.saveFiles.push_back(folder.file("case.tsw"));
+    choose("mnuSaveWorkspace");
+    EXPECT_THAT(test::fileBytes(folder.file("case.tsw")), ::testing::HasSubstr("typed last"));
+}

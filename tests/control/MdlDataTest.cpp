@@ -108,22 +108,52 @@ TEST_F(MdlData, movesRowsTogetherToAGap)
     {
         std::vector<std::size_t> moved;
         std::size_t target;
-        std::size_t first;
+        std::vector<std::size_t> places;
         std::vector<int> order;
     };
     for (const Case& one :
-         {Case {{0}, 2, 1, {12, 11, 13, 14, 15}}, Case {{4}, 0, 0, {15, 11, 12, 13, 14}},
-          Case {{1, 2}, 0, 0, {12, 13, 11, 14, 15}}, Case {{1, 2}, 5, 3, {11, 14, 15, 12, 13}},
-          Case {{0, 2, 4}, 3, 1, {12, 11, 13, 15, 14}}, Case {{1}, 1, 1, {11, 12, 13, 14, 15}},
-          Case {{1}, 2, 1, {11, 12, 13, 14, 15}}}) {
+         {Case {{0}, 2, {1}, {12, 11, 13, 14, 15}}, Case {{4}, 0, {0}, {15, 11, 12, 13, 14}},
+          Case {{1, 2}, 0, {0, 1}, {12, 13, 11, 14, 15}},
+          Case {{1, 2}, 5, {3, 4}, {11, 14, 15, 12, 13}},
+          Case {{0, 2, 4}, 3, {1, 2, 3}, {12, 11, 13, 15, 14}},
+          Case {{1}, 1, {1}, {11, 12, 13, 14, 15}}, Case {{1}, 2, {1}, {11, 12, 13, 14, 15}}}) {
         series().clear();
         for (const auto& mode : evolution.Modes)
             plot.addSeries(*mode);
         rows = mdlData::rowsOf(series(), {});
-        EXPECT_EQ(mdlData::moveRows(plot, rows, one.moved, one.target), one.first);
+        EXPECT_EQ(mdlData::moveRows(plot, rows, one.moved, one.target), one.places);
         EXPECT_EQ(order(), one.order);
         EXPECT_EQ(rows, mdlData::rowsOf(series(), {})) << "the rows went along";
     }
+}
+
+TEST_F(MdlData, movesRowsByOnePlaceAsFarAsThereIsRoom)
+{
+    rows[3].mode = 99;
+    EXPECT_THAT(mdlData::moveRowsUp(plot, rows, {0, 3}), ElementsAre(0, 2));
+    EXPECT_THAT(order(), ElementsAre(11, 12, 14, 13, 15));
+    EXPECT_THAT(numbers(), ElementsAre(1, 2, 99, 3, 5));
+    EXPECT_THAT(mdlData::moveRowsUp(plot, rows, {0, 1}), ElementsAre(0, 1)) << "no room";
+    EXPECT_THAT(order(), ElementsAre(11, 12, 14, 13, 15));
+    EXPECT_THAT(mdlData::moveRowsDown(plot, rows, {0, 2, 4}), ElementsAre(1, 3, 4));
+    EXPECT_THAT(order(), ElementsAre(12, 11, 13, 14, 15));
+    EXPECT_THAT(mdlData::moveRowsDown(plot, rows, {}), ::testing::IsEmpty());
+}
+
+TEST_F(MdlData, raisesModesToWhatTheEvolutionDeclaresAndLowersThemToNothing)
+{
+    evolution.na = 5;
+    EXPECT_EQ(mdlData::raisedMode(series()[0], 4), 5);
+    EXPECT_EQ(mdlData::raisedMode(series()[0], 5), 5);
+    EXPECT_EQ(mdlData::raisedMode(Series(), 1), 1);
+    EXPECT_EQ(mdlData::loweredMode(1), 0);
+    EXPECT_EQ(mdlData::loweredMode(0), 0);
+    EXPECT_EQ(mdlData::loweredMode(-3), -4);
+}
+
+TEST_F(MdlData, putsATextIntoOneLine)
+{
+    EXPECT_EQ(mdlData::inOneLine(QStringLiteral(" a\r\nb\rc\n\n")), QStringLiteral(" a b c"));
 }
 
 TEST_F(MdlData, fillsLegendsWithTheNameOrAnEntryOfTheFile)

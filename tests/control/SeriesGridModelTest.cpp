@@ -99,7 +99,7 @@ TEST_F(SeriesGridModelTest, followsSeriesThatOthersAddAndRemove)
 TEST_F(SeriesGridModelTest, writesTagAndLegendIntoTheSeries)
 {
     EXPECT_TRUE(type(0, SeriesColumn::Tag, "A"));
-    EXPECT_TRUE(type(0, SeriesColumn::Legend, "bending"));
+    EXPECT_TRUE(type(0, SeriesColumn::Legend, "bending\r\n")); // as copied from a sheet
     EXPECT_EQ(plot.SeriesCollection()[0].MarkerTag, QStringLiteral("A"));
     EXPECT_EQ(plot.SeriesCollection()[0].LegendText, QStringLiteral("bending"));
     EXPECT_FALSE(type(0, SeriesColumn::Index, "9"));
@@ -158,7 +158,7 @@ TEST_F(SeriesGridModelTest, removesAndMovesRowsWithTheirSeries)
     EXPECT_EQ(plot.SeriesCollection().front().Mode, evolution.Modes[1].get());
     plot.addSeries(*evolution.Modes[2]);
     plot.plot();
-    EXPECT_EQ(model.moveSeries({1}, 0), 0U);
+    EXPECT_THAT(model.moveSeries({1}, 0), ElementsAre(0));
     EXPECT_EQ(text(0, SeriesColumn::Mode), "3");
     EXPECT_EQ(plot.SeriesCollection().front().Mode, evolution.Modes[2].get());
 }

@@ -104,13 +104,47 @@ TEST_F(SeriesGridViewTest, editsACellInPlace)
 {
     select(2, 1, SeriesColumn::Legend);
     press(Qt::Key_F2);
-    auto* const editor = grid().findChild<QLineEdit*>();
+    auto* const editor = test::openEditor(grid());
     ASSERT_NE(editor, nullptr);
     QTest::keyClicks(editor, QStringLiteral("third-+"));
     QTest::keyClick(editor, Qt::Key_Return);
     QApplication::processEvents();
     EXPECT_EQ(series()[2].LegendText, QStringLiteral("third-+"));
     EXPECT_THAT(drawnModes(), ElementsAre(1, 2, 3, 4));
+}
+
+TEST_F(SeriesGridViewTest, keepsWhatIsBeingTypedWhenThePlotChanges)
+{
+    startTyping(1, SeriesColumn::Legend, "typed");
+    plot().RemoveRef(); // as by a command of a menu, which takes no focus
+    add(*evolutions.front(), 2);
+    auto* const editor = test::openEditor(grid());
+    ASSERT_NE(editor, nullptr);
+    EXPECT_EQ(editor->text(), QStringLiteral("typed"));
+    QTest::keyClick(editor, Qt::Key_Return);
+    QApplication::processEvents();
+    EXPECT_EQ(series()[1].LegendText, QStringLiteral("typed"));
+}
+
+TEST_F(SeriesGridViewTest, keepsTheSelectionWhenACurveIsAdded)
+{
+    select(1, 2, SeriesColumn::Mode);
+    add(*evolutions.front(), 2);
+    EXPECT_THAT(grid().selectedRows(), ElementsAre(1, 2));
+}
+
+TEST_F(SeriesGridViewTest, opensTheLineOfAllSelectedRowsByADoubleClickOnOne)
+{
+    std::vector<std::size_t> rows;
+    grid().disconnect(SIGNAL(styleWanted()));
+    QObject::connect(&grid(), &SeriesGridView::styleWanted, &grid(),
+                     [&] { rows = grid().selectedRows(); });
+    select(1, 2, SeriesColumn::Line);
+    QTest::mouseClick(grid().viewport(), Qt::LeftButton, {}, cellCenter(2, SeriesColumn::Line));
+    QTest::mouseDClick(grid().viewport(), Qt::LeftButton, {}, cellCenter(2, SeriesColumn::Line));
+    EXPECT_THAT(rows, ElementsAre(1, 2));
+    QTest::mouseClick(grid().viewport(), Qt::LeftButton, {}, cellCenter(3, SeriesColumn::Line));
+    EXPECT_THAT(grid().selectedRows(), ElementsAre(3)) << "elsewhere a click selects anew";
 }
 
 TEST_F(SeriesGridViewTest, saysWhatToDoWhileItIsEmpty)

@@ -14,6 +14,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <numeric>
 #include <string>
 #include <vector>
 
@@ -118,7 +119,18 @@ protected:
     }
     void select(std::size_t first, std::size_t count, SeriesColumn column)
     {
-        grid().selectRows(first, count, static_cast<int>(column));
+        std::vector<std::size_t> rows(count);
+        std::iota(rows.begin(), rows.end(), first);
+        grid().selectRows(rows, static_cast<int>(column));
+    }
+    /// Opens the editor of a cell and types over what stands there.
+    void startTyping(int row, SeriesColumn column, const std::string& text)
+    {
+        grid().setCurrentIndex(model().index(row, static_cast<int>(column)));
+        grid().edit(grid().currentIndex());
+        auto* const editor = openEditor(grid());
+        ASSERT_NE(editor, nullptr);
+        editor->setText(QString::fromStdString(text));
     }
     void click(const char* button) { test::click(data, button); }
 

@@ -183,6 +183,33 @@ TEST_F(WndDataSeries, movesTheSelectedRowsUpAndElsewhere)
     EXPECT_THAT(column(SeriesColumn::Tag), ElementsAre("0", "2", "3", "1"));
 }
 
+TEST_F(WndDataSeries, writesWhatIsBeingTypedBeforeACommand)
+{
+    addRows();
+    data.show();
+    startTyping(0, SeriesColumn::Legend, "typed");
+    partOf<QToolButton>(data, "btnSerieMove").click();
+    EXPECT_EQ(series()[0].LegendText, QStringLiteral("typed"));
+    startTyping(1, SeriesColumn::Mode, "3");
+    partOf<QToolButton>(data, "btnSerieMove").menu()->actions().at(3)->trigger();
+    EXPECT_THAT(drawnModes(), ElementsAre(1, 3, 1, 3)) << "the row is the last one now";
+    startTyping(0, SeriesColumn::Tag, "T");
+    data.commitEdits();
+    EXPECT_EQ(series()[0].MarkerTag, QStringLiteral("T"));
+}
+
+TEST_F(WndDataSeries, writesWhatIsBeingTypedIntoThePlotThatWasActive)
+{
+    addRows();
+    data.show();
+    EvmPlot& first = plot();
+    EvmPlot& second = plots.AddPlot({});
+    startTyping(0, SeriesColumn::Mode, "2");
+    plots.ActivatePlot(&second);
+    EXPECT_EQ(first.SeriesCollection().front().Mode->Id, 2);
+    EXPECT_TRUE(second.SeriesCollection().empty());
+}
+
 TEST_F(WndDataSeries, givesTheSeriesTheirColoursAgain)
 {
     addRows();
@@ -209,6 +236,10 @@ TEST_F(WndDataSeries, storesTheMarkerOptionsIntoEveryRow)
     choose("womkBtn");
     click("cmdDrawPlot");
     EXPECT_EQ(series().back().MarkerStyle, markerstyle::none);
+    EXPECT_EQ(series().back().IthMpf, 3) << "kept for the next time";
+    test::type(data, "ithmpfInp", "");
+    click("cmdDrawPlot");
+    EXPECT_THAT(user.messages, IsEmpty()) << "it is no marker now";
 }
 
 TEST_F(WndDataSeries, drawsThePlotAgainWhenTagsAreChosen)
@@ -236,7 +267,7 @@ TEST_F(WndDataSeries, reportsAMarkerOptionThatIsNoNumberAndChangesNothing)
 
 TEST_F(WndDataSeries, refusesASpacingThatIsNotPositive)
 {
-    for (const char* spacing : {"0", "-3"}) {
+    for (const char* spacing : {"0", "-3", "0.5", "-1e99"}) { // a half rounds to the even number
         test::type(data, "mkspaceInp", "7");
         Q_EMIT partOf<QLineEdit>(data, "mkspaceInp").editingFinished();
         test::type(data, "mkspaceInp", spacing);
@@ -285,6 +316,19 @@ TEST_F(WndDataSeries, changesTheLineOfTheSelectedRows)
         EXPECT_EQ(series()[row].LineWidth, 2);
     }
     EXPECT_EQ(series()[0].ColorIndex, BaseColors[0]);
+}
+
+TEST_F(WndDataSeries, changesOnlyWhatTheUserChangedInTheOtherRows)
+{
+    addRows();
+    series()[2].LineStyle = penstyle::dot;
+    series()[2].LineWidth = 3;
+    select(1, 2, SeriesColumn::Line);
+    inLineEditor([](dlgSeriesStyle& dialog) { dialog.setColor(7); }, QDialog::Accepted);
+    Q_EMIT grid().styleWanted();
+    EXPECT_EQ(series()[2].ColorIndex, 7);
+    EXPECT_EQ(series()[2].LineStyle, penstyle::dot);
+    EXPECT_EQ(series()[2].LineWidth, 3);
 }
 
 TEST_F(WndDataSeries, leavesTheLineAloneWhenTheEditorIsCancelledOrChangesNothing)

@@ -155,6 +155,16 @@ TEST_F(WndDataTexts, fillsTheLegendsOfAllRowsWithFileNames)
     EXPECT_THAT(column(SeriesColumn::Legend), ElementsAre("a.ev2", "b.ev2"));
 }
 
+TEST_F(WndDataTexts, fillsTheLegendsOfAllRowsWhenOneIsCurrentOnly)
+{
+    add(load("a.ev2"));
+    add(load("b.ev2"));
+    data.show();
+    grid().selectionModel()->setCurrentIndex(model().index(0, 0), QItemSelectionModel::NoUpdate);
+    click("btnFilltLeg");
+    EXPECT_THAT(column(SeriesColumn::Legend), ElementsAre("a.ev2", "b.ev2"));
+}
+
 TEST_F(WndDataTexts, fillsTheLegendsOfTheSelectedRows)
 {
     EVM& first = load("a.ev2");
@@ -201,6 +211,18 @@ TEST_F(WndDataTexts, writesTheLegendInTheColoursOfTheCurves)
     EXPECT_EQ(colorAt(7), BaseColors[0]);
     EXPECT_EQ(colorAt(10), BaseColors[2]) << "behind the line break";
     EXPECT_EQ(colorAt(17), BaseColors[2]);
+}
+
+TEST_F(WndDataTexts, writesALegendTextWithALineBreakAsOneLine)
+{
+    EVM& evolution = load("a.ev2");
+    add(evolution, 1);
+    add(evolution, 2);
+    series()[0].LegendText = QStringLiteral("one\r\ntwo"); // of a file
+    series()[1].LegendText = QStringLiteral("three");
+    click("btnPlotLeg");
+    EXPECT_EQ(legend(), "[0] one two\r\n[1] three");
+    EXPECT_EQ(colorAt(13), BaseColors[1]);
 }
 
 TEST_F(WndDataTexts, writesALegendWithoutLinesAsAnEmptyBox)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QApplication>
 #include <QKeyEvent>
@@ -34,6 +35,17 @@ inline void type(const QWidget& form, const std::string& input, const std::strin
 inline void click(const QWidget& form, const std::string& button)
 {
     partOf<QPushButton>(form, button).click();
+}
+
+/// The input that is open in a cell or label of a view; null when none is.
+inline QLineEdit* openEditor(const QAbstractItemView& view)
+{
+    for (auto* const editor :
+         view.viewport()->findChildren<QLineEdit*>(Qt::FindDirectChildrenOnly)) {
+        if (!editor->isHidden()) // otherwise it is one that goes soon
+            return editor;
+    }
+    return nullptr;
 }
 
 /// Presses and releases a key; `isHeld` for one that has been down for a while.
