@@ -34,6 +34,7 @@ wndData::wndData(wndEvolPlot& plots, const AirplaneInfo& airplane, ReferenceEvol
 {
     m_ui->setupUi(this);
     m_spacing = m_ui->mkspaceInp->text();
+    m_ui->txtLegIdx->home(false); // what it means stands at its beginning
     setFocusProxy(m_ui->flxSerieViewer);
     connectGrid();
     connectButtons();

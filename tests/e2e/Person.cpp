@@ -1,5 +1,7 @@
 #include "Person.h"
 
+#include <QThread>
+
 #include <gtest/gtest.h>
 
 namespace tarsil::test {
@@ -8,7 +10,7 @@ namespace {
 
 const QString mainWindow = QStringLiteral("^Tarsil 4\\.0$");
 constexpr QPoint onCanvas(700, 480);
-constexpr QPoint aside(250, 208); // where the pointer is in no picture: the title of a window
+constexpr QPoint aside(400, 787); // where the pointer is in no picture: the status bar
 
 /// How many pixels of a rectangle have a colour.
 int count(const QImage& screen, const QRect& rectangle, QRgb color)
@@ -154,6 +156,14 @@ bool Person::seesPlot(const QImage& picture) const
 bool Person::seesChange(const QRect& rectangle, const QImage& before) const
 {
     return waitFor(rectangle, [&before](const QImage& now) { return now != before; });
+}
+
+bool Person::standsStill(const QRect& rectangle) const
+{
+    constexpr unsigned long moment = 300; // milliseconds
+    const QImage before = look(rectangle);
+    QThread::msleep(moment);
+    return look(rectangle) == before;
 }
 
 bool Person::waitFor(const QRect& rectangle,

@@ -64,6 +64,9 @@ public:
     /// Whether a rectangle comes to look other than in a picture.
     bool seesChange(const QRect& rectangle, const QImage& before) const;
 
+    /// Whether a rectangle looks the same after a moment.
+    bool standsStill(const QRect& rectangle) const;
+
     /// A picture of a part of the screen.
     QImage look(const QRect& rectangle) const { return m_display.screen().copy(rectangle); }
 
