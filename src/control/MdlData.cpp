@@ -143,12 +143,12 @@ Places moveRowsDown(EvmPlot& plot, std::vector<Row>& rows, const Places& moved)
 {
     Places places = moved;
     std::size_t end = rows.size(); // behind the last place that is free to move to
-    for (auto place = places.rbegin(); place != places.rend(); ++place) {
-        if (*place + 1 < end) {
-            moveRow(plot, rows, *place, *place + 1);
-            ++*place;
+    for (std::size_t i = places.size(); i-- > 0;) {
+        if (places[i] + 1 < end) {
+            moveRow(plot, rows, places[i], places[i] + 1);
+            ++places[i];
         }
-        end = *place;
+        end = places[i];
     }
     return places;
 }

@@ -78,8 +78,8 @@ private:
     void follow();
     void replaceRows(Rows rows);
     void appendRows(const Rows& rows);
-    QVariant text(const Series& series, int row, SeriesColumn column) const;
-    QVariant toolTip(const Series& series, int row, SeriesColumn column) const;
+    QVariant text(const Series& one, int row, SeriesColumn column) const;
+    QVariant toolTip(const Series& one, int row, SeriesColumn column) const;
     bool isDrawn(int row) const;
     bool setModeText(int row, const QString& text);
 
