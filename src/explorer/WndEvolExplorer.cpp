@@ -18,7 +18,8 @@ namespace tarsil {
 wndEvolExplorer::wndEvolExplorer(Session& session, wndEvolPlot& plots, UserInterface& user,
                                  QWidget* parent)
     : QWidget(parent), m_session(session), m_plotWindow(plots), m_user(user),
-      m_toolBar(new QToolBar(this)), m_tree(new QTreeWidget(this)), m_workspace(*m_tree, m_images),
+      m_toolBar(new QToolBar(this)), m_tree(new QTreeWidget(this)),
+      m_labels(new LabelDelegate(m_tree)), m_workspace(*m_tree, m_images),
       m_evolutions(m_workspace.evolutions(), m_images),
       m_plots(new PlotNodes(m_workspace.plots(), plots, m_images, this))
 {
@@ -64,9 +65,8 @@ void wndEvolExplorer::makeTree()
     m_tree->setUniformRowHeights(true); // a thousand evolutions need not be measured one by one
     m_tree->setExpandsOnDoubleClick(true);
     m_tree->setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::SelectedClicked);
-    auto* const delegate = new LabelDelegate(m_tree);
-    m_tree->setItemDelegate(delegate);
-    connect(delegate, &LabelDelegate::renamed, this,
+    m_tree->setItemDelegate(m_labels);
+    connect(m_labels, &LabelDelegate::renamed, this,
             [this](const QModelIndex& index, const QString& text) {
                 run([&] { rename(*m_tree->itemFromIndex(index), text); });
             });

@@ -17,6 +17,7 @@ class QTreeWidget;
 namespace tarsil {
 
 class EvmPlot;
+class LabelDelegate;
 class PlotNodes;
 class Session;
 class UserInterface;
@@ -55,6 +56,9 @@ public:
     /// An evolution is about to leave the session by another way than the toolbar's: its series
     /// leave all plots, which are drawn again, and its node goes. To be called before it ends.
     void evolutionRemoved(EVM& evolution);
+
+    /// Takes the label that is being edited as it stands, as Enter does, and closes its editor.
+    void commitEdits();
 
     /// A new, untitled workspace: no evolutions (those of the session end), one empty plot, and the
     /// tree as it was in the beginning. Nothing is asked.
@@ -138,6 +142,7 @@ private:
     ExplorerImages m_images;
     QToolBar* m_toolBar;
     QTreeWidget* m_tree;
+    LabelDelegate* m_labels;
     WorkspaceNodes m_workspace;
     EvolutionNodes m_evolutions;
     EvolutionMarks m_marks;

@@ -1,6 +1,7 @@
 // Editing the labels of the explorer's tree.
 
 #include "explorer/ExplorerNode.h"
+#include "explorer/LabelDelegate.h"
 #include "explorer/PlotNodes.h"
 #include "explorer/WndEvolExplorer.h"
 #include "model/EVM.h"
@@ -8,7 +9,11 @@
 #include "runtime/UserInterface.h"
 #include "vgf/WndEvolPlot.h"
 
+#include <QLineEdit>
+#include <QPointer>
 #include <QTreeWidget>
+
+#include <algorithm>
 
 namespace tarsil {
 
@@ -19,6 +24,21 @@ void wndEvolExplorer::nodeActivated(QTreeWidgetItem* node)
         run([this, plot] { m_plotWindow.ActivatePlot(plot); });
     else if (node->flags().testFlag(Qt::ItemIsEditable))
         m_tree->editItem(node);
+}
+
+/// An editor that was closed is hidden, and ends a little later. What the user is told while a
+/// label is taken can close its editor too.
+void wndEvolExplorer::commitEdits()
+{
+    const QList<QLineEdit*> editors = m_tree->viewport()->findChildren<QLineEdit*>();
+    const auto open = std::find_if(editors.begin(), editors.end(),
+                                   [](const QLineEdit* editor) { return !editor->isHidden(); });
+    if (open == editors.end())
+        return;
+    const QPointer<QLineEdit> editor(*open);
+    Q_EMIT m_labels->commitData(editor);
+    if (editor != nullptr && !editor->isHidden())
+        Q_EMIT m_labels->closeEditor(editor);
 }
 
 void wndEvolExplorer::rename(QTreeWidgetItem& node, const QString& text)

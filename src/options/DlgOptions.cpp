@@ -150,16 +150,17 @@ void dlgOptions::btnAcInfo_Click()
     });
 }
 
-bool dlgOptions::btnApply_Click()
+void dlgOptions::btnApply_Click()
 {
-    return ApplyOpt();
+    ApplyOpt();
 }
 
-/// The dialog stays where a list has to be put right.
+/// A list that could not be applied was reported, and stands in its input to be put right when the
+/// dialog is shown again.
 void dlgOptions::btnOK_Click()
 {
-    if (btnApply_Click())
-        accept();
+    btnApply_Click();
+    accept();
 }
 
 } // namespace tarsil

@@ -63,7 +63,7 @@ Q_SIGNALS:
 
 private:
     void btnAcInfo_Click();
-    bool btnApply_Click();
+    void btnApply_Click();
     void btnOK_Click();
 
     void readAircraftFile();

@@ -33,11 +33,13 @@ public:
     const std::string& path() const { return m_path; }
 
     /// What the file says; a file or key that is not there says nothing. Errors: 75 when the file
-    /// cannot be read, 13 when it is damaged.
+    /// cannot be read, 13 when it is damaged; its description says under which name `write` will
+    /// keep it.
     OptionTexts read() const;
 
-    /// Writes the file, whole or not at all, in place of the one that is there, a damaged one
-    /// included. Makes its folder. Errors: 75 and those of `replaceFile`.
+    /// Writes the file, whole or not at all, in place of the one that is there. A damaged one is
+    /// kept beside it with ".damaged" after its name, in place of an older such file; when it
+    /// cannot be kept, nothing is written. Makes its folder. Errors: 75 and those of `AtomicFile`.
     void write(const OptionTexts& texts) const;
 
 private:

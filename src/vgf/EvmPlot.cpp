@@ -266,6 +266,7 @@ void EvmPlot::RemoveDampLine()
 
 void EvmPlot::Clone(const EvmPlot& source)
 {
+    Q_EMIT contentsReplaced();
     for (std::size_t i = 0; i < ertbTexts.size(); ++i)
         ertbTexts[i].Clone(source.ertbTexts[i]);
     ReadProperties(source.WriteProperties());

@@ -135,7 +135,9 @@ public:
     QSize size() const { return m_size; }
 
     /// Moves a text box (index as in `ertbTexts`) to a position in twentieths of a point; the
-    /// header goes back to its row.
+    /// header goes back to its row. The box keeps the position, but in a plot that is too small for
+    /// it to be seen there it is shown, and drawn, at the nearest edge (`shownPlace`); `geometry`
+    /// of the box says where.
     void moveBox(std::size_t index, double left, double top);
 
     /// Sets the text of a box and lays the parts out again.
@@ -174,9 +176,13 @@ Q_SIGNALS:
     /// The picture on the screen is no longer true.
     void changed();
 
-    /// The plot is about to be drawn into somebody's context, or saved: what is being edited
+    /// The plot is about to be drawn into somebody's context, saved or copied: what is being edited
     /// belongs to it.
     void pictureWanted();
+
+    /// The plot is about to get other contents: what is being edited, or moved, goes with the old
+    /// ones.
+    void contentsReplaced();
 
 private:
     void WriteEmfPicture(const QString& fileName);

@@ -1,6 +1,7 @@
 // Where the parts of a V-g-f plot stand. Fractions are of the plot's own width and height.
 
 #include "plot/PixelMath.h"
+#include "vgf/BoxReach.h"
 #include "vgf/EvmPlot.h"
 
 #include <algorithm>
@@ -22,6 +23,13 @@ constexpr int speedAxisHeight = 64;
 constexpr int verticalAxisWidth = 120;
 constexpr int headerTop = 4;
 constexpr int edge = 8; ///< between a text box and the plot's edge
+
+/// Its position stays what it is, and is shown again in a plot that is large enough.
+void showInReach(emfRichTextBox& box, QSize plot)
+{
+    box.place(box.unitsLeft(), box.unitsTop());
+    box.setGeometry(shownPlace(box.geometry(), plot));
+}
 
 } // namespace
 
@@ -91,6 +99,10 @@ void EvmPlot::layOutBoxes()
     }
     if (!Mechanism().wasMoved())
         Mechanism().place(units(headerLeft), units(Header().Top() + Header().Height()));
+    for (emfRichTextBox* box : {&Legend(), &Mechanism()}) {
+        if (box->wasMoved())
+            showInReach(*box, m_size);
+    }
 }
 
 void EvmPlot::moveBox(std::size_t index, double left, double top)

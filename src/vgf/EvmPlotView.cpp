@@ -37,6 +37,7 @@ EvmPlotView::EvmPlotView(EvmPlot& plot, QWidget* parent)
     connect(&m_plot, &EvmPlot::changed, this, qOverload<>(&QWidget::update));
     connect(&m_plot, &EvmPlot::changed, this, &EvmPlotView::updateDescription);
     connect(&m_plot, &EvmPlot::pictureWanted, this, [this] { finishEditing(true); });
+    connect(&m_plot, &EvmPlot::contentsReplaced, this, &EvmPlotView::letGo);
     updateDescription();
 }
 
@@ -251,6 +252,14 @@ void EvmPlotView::finishEditing(bool keep)
     editor->hide();
     editor->deleteLater();
     update();
+}
+
+/// Nothing of what the user was doing reaches the contents that come now.
+void EvmPlotView::letGo()
+{
+    finishEditing(false);
+    m_mover.select(std::nullopt);
+    followMovement();
 }
 
 void EvmPlotView::updateDescription()

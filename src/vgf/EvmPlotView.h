@@ -56,6 +56,7 @@ private:
     void showBoxMenu(std::size_t index, QPoint position);
     void startEditing(std::size_t index);
     void finishEditing(bool keep);
+    void letGo();
     void followMovement();
     void updateDescription();
 

@@ -118,6 +118,7 @@ PlotRecord recordOf(const EvmPlot& plot, const std::vector<const EVM*>& evolutio
 
 void applyRecord(const PlotRecord& record, const std::vector<EVM*>& evolutions, EvmPlot& plot)
 {
+    Q_EMIT plot.contentsReplaced();
     applyText(record.header, header, plot);
     applyText(record.mechanism, mechanism, plot);
     applyText(record.legend, legend, plot);

@@ -1,13 +1,12 @@
 #include "vgf/TextBoxMover.h"
 
 #include "plot/PixelMath.h"
+#include "vgf/BoxReach.h"
 #include "vgf/EvmPlot.h"
 
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QStyleHints>
-
-#include <algorithm>
 
 namespace tarsil {
 
@@ -48,8 +47,10 @@ void TextBoxMover::select(std::optional<std::size_t> box)
     m_isHeld = false;
     m_isDragging = false;
     m_isFollowing = false;
-    if (box)
-        m_start = m_plot.box(*box).geometry().topLeft();
+    if (!box)
+        return;
+    m_start = m_plot.box(*box).geometry().topLeft();
+    m_position = {m_plot.box(*box).unitsLeft(), m_plot.box(*box).unitsTop()};
 }
 
 void TextBoxMover::press(QPoint position)
@@ -114,20 +115,17 @@ bool TextBoxMover::press(const QKeyEvent& key)
     return false;
 }
 
-/// The corner of the box, or the point that it is held at, stays in the plot and so within reach.
+/// The box stays in reach, so that it is shown where it is put.
 void TextBoxMover::moveTo(QPoint corner)
 {
-    const QPoint grip = isMoving() ? m_grip : QPoint(0, 0);
-    const QPoint point = corner + grip;
-    const QPoint kept(std::clamp(point.x(), 0, m_plot.size().width() - 1),
-                      std::clamp(point.y(), 0, m_plot.size().height() - 1));
-    const QPoint place = kept - grip;
+    const QSize size = m_plot.box(*m_selected).geometry().size();
+    const QPoint place = nearestInReach(corner, size, m_plot.size());
     m_plot.moveBox(*m_selected, place.x() * unitsPerPixel, place.y() * unitsPerPixel);
 }
 
 void TextBoxMover::takeBack()
 {
-    m_plot.moveBox(*m_selected, m_start.x() * unitsPerPixel, m_start.y() * unitsPerPixel);
+    m_plot.moveBox(*m_selected, m_position.x(), m_position.y());
     select(m_selected);
 }
 

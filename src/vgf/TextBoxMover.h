@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPoint>
+#include <QPointF>
 #include <QSize>
 
 #include <cstddef>
@@ -12,7 +13,8 @@ namespace tarsil {
 
 class EvmPlot;
 
-/// Which text box of a plot is selected, and how the pointer and the arrow keys move it. A box is
+/// Which text box of a plot is selected, and how the pointer and the arrow keys move it, from where
+/// it is shown, within the plot and over its edges as far as `nearestInReach` lets it. A box is
 /// dragged, or it follows the pointer, after "Move", until a click or a key ends that.
 class TextBoxMover
 {
@@ -49,7 +51,8 @@ private:
     EvmPlot& m_plot;
     std::optional<std::size_t> m_selected;
     QPoint m_grip; ///< where in the box the pointer holds it
-    QPoint m_start; ///< the corner of the box before it was moved
+    QPoint m_start; ///< the corner where the box was shown before it was moved
+    QPointF m_position; ///< its position then, twentieths of a point
     bool m_isHeld = false;
     bool m_isDragging = false;
     bool m_isFollowing = false;

@@ -54,7 +54,8 @@ public:
     /// index counted from 1: "Plot2". Error 6 "Overflow" for an index above 32767.
     EvmPlot& AddPlot(const QString& caption);
 
-    /// Appends a copy of the active plot (`EvmPlot::Clone`: without its series) as `AddPlot` does.
+    /// Appends a copy of the active plot (`EvmPlot::Clone`: without its series; with the text that
+    /// is being edited) as `AddPlot` does.
     /// An empty caption becomes the active plot's with the copy's place: "Plot1(2)".
     /// Null, after a message to the user, when no plot is active. Errors as in `AddPlot`.
     EvmPlot* CopyPlot(const QString& caption);

@@ -56,6 +56,16 @@ TEST_F(Options, thatAreDamagedAreReportedAndTheProgramStarts)
     EXPECT_TRUE(frame("wndEvolPlot").isVisible());
 }
 
+TEST_F(Options, thatAreDamagedAreKeptBesideTheNewOnes)
+{
+    const std::string damaged = "[Options]\nvgfScale=0|100|0|-1|0|10\nvgfThicks\n";
+    folder.write("tarsil.ini", damaged);
+    load();
+    choose("QuitMenu");
+    EXPECT_EQ(test::fileBytes(folder.file("tarsil.ini.damaged")), damaged);
+    EXPECT_EQ(store.read(), OptionTexts());
+}
+
 TEST_F(Options, thatCannotBeDrawnAreReportedOnceAndTheProgramStarts)
 {
     keep("", "", "0|5|5");

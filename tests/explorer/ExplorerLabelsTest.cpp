@@ -150,3 +150,47 @@ TEST_F(WndEvolExplorerTest, editsAValueThatIsActivated)
     Q_EMIT tree().itemActivated(&value, 0); // a double click, or Enter
     EXPECT_NE(tree().viewport()->findChild<QLineEdit*>(), nullptr);
 }
+
+TEST_F(WndEvolExplorerTest, takesALabelThatIsBeingTypedWhenItIsAskedTo)
+{
+    openEditor(valueOf("AnaDesc")).setText(QStringLiteral("clean wing"));
+    explorer.commitEdits();
+    EXPECT_EQ(explorer.description().toStdString(), "clean wing");
+    EXPECT_FALSE(isEditing());
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(tree().viewport()->findChild<QLineEdit*>(), nullptr);
+}
+
+TEST_F(WndEvolExplorerTest, takesOneLabelAfterTheOther)
+{
+    choose("AddPlot");
+    openEditor(valueOf("AnaDesc")).setText(QStringLiteral("clean wing"));
+    explorer.commitEdits();
+    openEditor(node("Plot2")).setText(QStringLiteral("wing")); // the first editor has not ended yet
+    explorer.setDescription(QStringLiteral("another"));
+    explorer.commitEdits();
+    EXPECT_EQ(plotAt(1).Caption().toStdString(), "wing");
+    EXPECT_EQ(explorer.description().toStdString(), "another");
+    EXPECT_FALSE(isEditing());
+}
+
+TEST_F(WndEvolExplorerTest, refusesALabelThatIsBeingTypedAsAfterEnter)
+{
+    choose("AddPlot");
+    openEditor(node("Plot2")).setText(QStringLiteral("Plot1"));
+    explorer.commitEdits();
+    EXPECT_THAT(user.messages,
+                ElementsAre(Message {"This name already exist. Please, select another one.",
+                                     "Tarsil", MessageIcon::Exclamation}));
+    EXPECT_EQ(plotAt(1).Caption().toStdString(), "Plot2");
+    EXPECT_FALSE(isEditing());
+}
+
+TEST_F(WndEvolExplorerTest, changesNothingWhenNoLabelIsBeingTyped)
+{
+    explorer.commitEdits();
+    EXPECT_TRUE(retype(valueOf("AnaDesc"), "clean wing"));
+    explorer.setDescription(QStringLiteral("another"));
+    explorer.commitEdits();
+    EXPECT_EQ(explorer.description().toStdString(), "another");
+}

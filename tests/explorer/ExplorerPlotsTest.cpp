@@ -51,6 +51,22 @@ TEST_F(WndEvolExplorerTest, copiesTheActivePlot)
     EXPECT_EQ(user.messages[0].text, "Please select activate a plot.");
 }
 
+TEST_F(WndEvolExplorerTest, copiesTheTextThatIsBeingTypedIntoTheActivePlot)
+{
+    typeLegend("typed");
+    choose("CopyPlot");
+    EXPECT_EQ(plotAt(1).Legend().Text().toStdString(), "typed");
+}
+
+TEST_F(WndEvolExplorerTest, leavesNothingThatIsBeingTypedInANewWorkspace)
+{
+    QTextEdit& editor = typeLegend("typed");
+    explorer.startNew();
+    EXPECT_TRUE(editor.parentWidget()->isHidden());
+    plotAt(0).emfPicture(); // takes along what is being edited
+    EXPECT_EQ(plotAt(0).Legend().Text().toStdString(), "");
+}
+
 TEST_F(WndEvolExplorerTest, removesTheActivePlotButNotTheFirst)
 {
     choose("AddPlot");

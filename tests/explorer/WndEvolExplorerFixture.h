@@ -6,14 +6,18 @@
 #include "model/Session.h"
 #include "support/FormParts.h"
 #include "support/ScriptedUserInterface.h"
+#include "vgf/EvmPlotView.h"
 #include "vgf/WndEvolPlot.h"
 
 #include <QAction>
+#include <QMouseEvent>
+#include <QTextEdit>
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -92,20 +96,48 @@ protected:
         explorer.findChild<QAction*>(QString::fromLatin1(key))->trigger();
     }
 
-    /// Types a text over a node's label and presses Enter; false when the label cannot be edited.
-    bool retype(QTreeWidgetItem& item, const std::string& newText)
+    /// Begins to edit a node's label, which can be edited.
+    QLineEdit& openEditor(QTreeWidgetItem& item)
     {
         for (QTreeWidgetItem* above = item.parent(); above != nullptr; above = above->parent())
             above->setExpanded(true);
+        tree().editItem(&item);
+        return *tree().viewport()->findChildren<QLineEdit*>().last();
+    }
+
+    bool isEditing()
+    {
+        const QList<QLineEdit*> editors = tree().viewport()->findChildren<QLineEdit*>();
+        return std::any_of(editors.begin(), editors.end(),
+                           [](const QLineEdit* editor) { return !editor->isHidden(); });
+    }
+
+    /// Types a text over a node's label and presses Enter; false when the label cannot be edited.
+    bool retype(QTreeWidgetItem& item, const std::string& newText)
+    {
         if (!item.flags().testFlag(Qt::ItemIsEditable))
             return false;
-        tree().editItem(&item);
-        auto& editor = *tree().viewport()->findChild<QLineEdit*>();
+        QLineEdit& editor = openEditor(item);
         editor.setText(QString::fromStdString(newText));
         press(editor, Qt::Key_Return);
         QApplication::processEvents();
         QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         return true;
+    }
+
+    /// Opens the editor of the first plot's legend and types; the editor stays open.
+    QTextEdit& typeLegend(const std::string& newText)
+    {
+        EvmPlotView& view = *plots.viewOf(plotAt(0));
+        const QPoint place = plotAt(0).Legend().geometry().center();
+        QMouseEvent twice(QEvent::MouseButtonDblClick, place, view.mapToGlobal(place),
+                          Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&view, &twice);
+        auto* const editor = view.findChild<QTextEdit*>();
+        if (editor == nullptr)
+            throw std::runtime_error("no editor");
+        editor->setPlainText(QString::fromStdString(newText));
+        return *editor;
     }
 
     /// The modes of a plot's series, as file and mode number: "a.evm 1".

@@ -129,7 +129,9 @@ TEST_F(OptionsStoreTest, tellsThatAFileIsDamagedAndSaysNothingOfIt)
         const auto error = errorOf([&store] { static_cast<void>(store.read()); });
         ASSERT_TRUE(error) << text;
         EXPECT_EQ(error->number(), ErrorNumber::TypeMismatch) << text;
-        EXPECT_EQ(error->description(), "Type mismatch: damaged settings in " + store.path());
+        EXPECT_EQ(error->description(),
+                  "Type mismatch: damaged settings in " + store.path()
+                      + ", which will be kept as tarsil.ini.damaged");
         EXPECT_EQ(error->source(), "OptionsStore");
     }
 }
@@ -139,6 +141,32 @@ TEST_F(OptionsStoreTest, putsAWholeFileInThePlaceOfADamagedOne)
     const OptionsStore store = storeOf("[Options\nvgfScale\n");
     store.write(texts("wing.inp", "", "7|5|5"));
     EXPECT_EQ(OptionsStore(store.path()).read(), texts("wing.inp", "", "7|5|5"));
+}
+
+TEST_F(OptionsStoreTest, keepsADamagedFileBesideTheNewOne)
+{
+    const std::string kept = folder.write("tarsil.ini.damaged", "an older one");
+    for (const char* const damaged : {"[Options]\nvgfScale=0|100|0|-1|0|10\nvgfThicks\n",
+                                      "[Options]\nvgfScale=@Rect(1 2 3 4)\n"}) {
+        const OptionsStore store = storeOf(damaged);
+        EXPECT_EQ(errorNumberOf([&store] { static_cast<void>(store.read()); }),
+                  ErrorNumber::TypeMismatch); // as when the program starts
+        store.write(texts("wing.inp", "", ""));
+        EXPECT_EQ(test::fileBytes(kept), damaged);
+        EXPECT_EQ(store.read(), texts("wing.inp", "", ""));
+        store.write(OptionTexts());
+        EXPECT_EQ(test::fileBytes(kept), damaged) << "the file after it is whole";
+    }
+}
+
+TEST_F(OptionsStoreTest, changesNothingWhenTheDamagedFileCannotBeKept)
+{
+    const OptionsStore store = storeOf("[Options\nvgfScale\n");
+    std::filesystem::create_directory(folder.file("tarsil.ini.damaged"));
+    EXPECT_EQ(errorNumberOf([&store] { store.write(OptionTexts()); }), ErrorNumber::PathFileAccess);
+    EXPECT_EQ(test::fileBytes(store.path()), "[Options\nvgfScale\n");
+    const std::filesystem::directory_iterator files(folder.path());
+    EXPECT_EQ(std::distance(begin(files), end(files)), 2);
 }
 
 TEST_F(OptionsStoreTest, canNeitherReadNorWriteAFolder)

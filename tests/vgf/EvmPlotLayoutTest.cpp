@@ -173,6 +173,61 @@ TEST(EvmPlotBoxes, areInSightBeforeTheyAreMoved)
     }
 }
 
+TEST(EvmPlotBoxes, areShownAtTheNearestEdgeOfAPlotThatEndsBeforeTheirPlace)
+{
+    EvmPlot plot;
+    plot.resize({1600, 1000});
+    plot.setBoxText(1, QStringLiteral("legend"));
+    plot.setBoxText(2, QStringLiteral("subtitle"));
+    plot.moveBox(1, 15 * 1400, 15 * 300);
+    plot.moveBox(2, 15 * 200, 15 * 950.5);
+    const QSize legend = plot.Legend().geometry().size();
+    const QSize subtitle = plot.Mechanism().geometry().size();
+    for (int i = 0; i < 2; ++i) { // as often as one likes
+        plot.resize({800, 600});
+        EXPECT_EQ(plot.Legend().geometry(), QRect(QPoint(800 - legend.width(), 300), legend));
+        EXPECT_EQ(plot.Mechanism().geometry(),
+                  QRect(QPoint(200, 600 - subtitle.height()), subtitle));
+        EXPECT_EQ(plot.Legend().unitsLeft(), 15 * 1400) << "it is kept";
+        EXPECT_EQ(plot.Mechanism().unitsTop(), 15 * 950.5);
+        plot.resize({1600, 1000});
+        EXPECT_EQ(plot.Legend().geometry().topLeft(), QPoint(1400, 300));
+        EXPECT_EQ(plot.Mechanism().geometry().topLeft(), QPoint(200, 950)); // ties to even
+    }
+}
+
+TEST(EvmPlotBoxes, areShownWhereTheirBeginningCanBeReadWhenTheyDoNotFit)
+{
+    EvmPlot plot;
+    plot.setBoxText(1, QStringLiteral("many lines") + QString(60, u'\n'));
+    ASSERT_GT(plot.Legend().Height(), 600);
+    plot.moveBox(1, -15 * 4000, 15 * 1e9);
+    EXPECT_EQ(plot.Legend().geometry().topLeft(), QPoint(0, 0));
+}
+
+TEST(EvmPlotBoxes, stayPartlyOutsideWhileEnoughOfThemIsInSight)
+{
+    EvmPlot plot; // 800 x 600
+    plot.setBoxText(1, QStringLiteral("a legend"));
+    const int width = plot.Legend().Width();
+    const int height = plot.Legend().Height();
+    ASSERT_GT(width, 32);
+    ASSERT_LT(height, 32); // one line, of which half must be in sight
+    const int half = (height + 1) / 2;
+    const auto shownAt = [&plot](int left, int top) {
+        plot.moveBox(1, 15 * left, 15 * top);
+        return plot.Legend().geometry().topLeft();
+    };
+    EXPECT_EQ(shownAt(800 - 16, 100), QPoint(800 - 16, 100));
+    EXPECT_EQ(shownAt(800 - 15, 100), QPoint(800 - width, 100));
+    EXPECT_EQ(shownAt(16 - width, 100), QPoint(16 - width, 100));
+    EXPECT_EQ(shownAt(15 - width, 100), QPoint(0, 100));
+    EXPECT_EQ(shownAt(100, 600 - half), QPoint(100, 600 - half));
+    EXPECT_EQ(shownAt(100, 601 - half), QPoint(100, 600 - height));
+    EXPECT_EQ(shownAt(100, half - height), QPoint(100, half - height));
+    EXPECT_EQ(shownAt(-5, half - height - 1), QPoint(0, 0)) << "wholly inside, then";
+}
+
 TEST(EvmPlotBoxes, cannotBeMoreThanThree)
 {
     EvmPlot plot;

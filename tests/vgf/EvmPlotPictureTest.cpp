@@ -120,6 +120,19 @@ TEST_F(EvmPlotPicture, endsAtThePlotWhateverItsTextsHold)
     test::expectSameInk(test::playMetafile(contents(), plot.size()), plot.Image(), 1, 1.0);
 }
 
+TEST_F(EvmPlotPicture, showsABoxWhosePlaceLiesBeyondThePlotAsTheScreenDoes)
+{
+    plot.setBoxText(1, QStringLiteral("beyond"));
+    plot.moveBox(1, 15 * 1200, 15 * 100);
+    const QRect place = plot.Legend().geometry();
+    EXPECT_TRUE(plot.Image().rect().contains(place));
+    EXPECT_EQ(pictureImage(plot, 1), plot.Image());
+    test::expectSameInk(test::playMetafile(contents(), plot.size()), plot.Image(), 1, 1.0);
+    const QImage shown = plot.Image().copy(place);
+    plot.setBoxText(1, {});
+    EXPECT_NE(plot.Image().copy(place), shown);
+}
+
 TEST_F(EvmPlotPicture, showsSlantedLettersAsTheScreenDoes)
 {
     plot.Legend().setTextRTF("{\\rtf\\i\\fs96 jf\\par}");

@@ -1,5 +1,7 @@
 #include "vgf/EvmPlotView.h"
 
+#include "vgf/PlotRecords.h"
+
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -171,6 +173,44 @@ TEST_F(EvmPlotViewTest, keepsABoxWithinReachThatIsDraggedOutOfThePlot)
 {
     drag(legendCentre(), legendCentre() + QPoint(2000, -3000));
     EXPECT_TRUE(view.rect().intersects(plot.Legend().geometry()));
+}
+
+/// Where a box is dropped it stays: the pointer cannot take it to where it would be shown
+/// elsewhere.
+TEST_F(EvmPlotViewTest, showsADraggedBoxWhereItWasDropped)
+{
+    plot.setBoxText(1, QStringLiteral("a legend\nof three\nlines"));
+    plot.moveBox(1, 15 * 300, 15 * 300);
+    const QSize size = plot.Legend().geometry().size();
+    ASSERT_GE(size.height(), 32);
+    const QPoint grip(size.width() - 2, size.height() - 2);
+    const QPoint leftmost(16 - size.width(), 16 - size.height()); // 16 pixels are in sight
+    drag(QPoint(300, 300) + grip, QPoint(20, 20));
+    EXPECT_EQ(plot.Legend().geometry().topLeft(), QPoint(20, 20) - grip);
+    drag({5, 5}, {-400, -400});
+    EXPECT_EQ(plot.Legend().geometry().topLeft(), leftmost);
+    plot.resize({900, 700});
+    EXPECT_EQ(plot.Legend().geometry().topLeft(), leftmost);
+    drag({5, 5}, {1400, 1400});
+    EXPECT_EQ(plot.Legend().geometry().topLeft(), QPoint(900 - 16, 700 - 16));
+}
+
+TEST_F(EvmPlotViewTest, movesABoxFromThePlaceWhereItIsShown)
+{
+    plot.setBoxText(1, QStringLiteral("legend"));
+    plot.moveBox(1, 15 * 1200, 15 * 100.25); // right of the plot
+    const QPoint shown = plot.Legend().geometry().topLeft();
+    EXPECT_EQ(shown, QPoint(800 - plot.Legend().Width(), 100));
+    mouse(QEvent::MouseButtonPress, legendCentre());
+    mouse(QEvent::MouseMove, legendCentre() + QPoint(-50, 40));
+    EXPECT_EQ(plot.Legend().geometry().topLeft(), shown + QPoint(-50, 40));
+    press(Qt::Key_Escape);
+    EXPECT_EQ(plot.Legend().geometry().topLeft(), shown);
+    EXPECT_EQ(plot.Legend().unitsLeft(), 15 * 1200) << "taken back";
+    EXPECT_EQ(plot.Legend().unitsTop(), 15 * 100.25);
+    press(Qt::Key_Left);
+    EXPECT_EQ(plot.Legend().geometry().topLeft(), shown + QPoint(-1, 0));
+    EXPECT_EQ(plot.Legend().unitsLeft(), 15 * (shown.x() - 1));
 }
 
 TEST_F(EvmPlotViewTest, putsADraggedHeaderBackIntoItsRow)
@@ -436,6 +476,38 @@ TEST_F(EvmPlotViewTest, takesWhatIsBeingEditedIntoAPicture)
     plot.emfPicture();
     EXPECT_EQ(plot.Legend().Text(), QStringLiteral("typed"));
     EXPECT_EQ(editor(), nullptr);
+}
+
+TEST_F(EvmPlotViewTest, givesUpWhatIsBeingEditedWhenThePlotGetsOtherContents)
+{
+    EvmPlot other;
+    other.setBoxText(1, QStringLiteral("other"));
+    const PlotRecord record = recordOf(other, {});
+    for (const bool isCopied : {true, false}) {
+        plot.setBoxText(1, QStringLiteral("as it was"));
+        doubleClick(legendCentre());
+        ASSERT_NE(editor(), nullptr);
+        editor()->setPlainText(QStringLiteral("typed"));
+        if (isCopied)
+            plot.Clone(other);
+        else
+            applyRecord(record, {}, plot);
+        EXPECT_EQ(editor(), nullptr);
+        view.setFocus();
+        plot.emfPicture();
+        EXPECT_EQ(plot.Legend().Text(), QStringLiteral("other"));
+    }
+}
+
+TEST_F(EvmPlotViewTest, letsNoBoxFollowThePointerIntoOtherContents)
+{
+    openMenu(legendCentre());
+    choose("mnuMove");
+    plot.Clone(EvmPlot());
+    const QRect before = plot.Legend().geometry();
+    mouse(QEvent::MouseMove, {400, 450}, Qt::NoButton);
+    press(Qt::Key_Left);
+    EXPECT_EQ(plot.Legend().geometry(), before);
 }
 
 TEST_F(EvmPlotViewTest, takesTheUppermostOfTwoBoxesAtAPlace)

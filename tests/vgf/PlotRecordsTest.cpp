@@ -124,3 +124,20 @@ TEST_F(PlotRecords, leaveABoxAloneOfWhichTheyKnowNothing)
     EXPECT_EQ(other.Legend().Text(), QStringLiteral("own"));
     EXPECT_FALSE(other.Legend().wasMoved());
 }
+
+TEST_F(PlotRecords, keepPlacesThatLieBeyondASmallerPlot)
+{
+    plot.resize({1600, 1000});
+    plot.moveBox(1, 15 * 1400.25, 15 * 300);
+    plot.moveBox(2, 15 * 200, 15 * 950);
+    const PlotRecord record = recordOf(plot, evolutions());
+    EvmPlot smaller;
+    smaller.resize({640, 480});
+    applyRecord(record, {&one, &two}, smaller);
+    const QRect area(0, 0, 640, 480);
+    EXPECT_TRUE(area.contains(smaller.Legend().geometry()));
+    EXPECT_TRUE(area.contains(smaller.Mechanism().geometry()));
+    const PlotRecord again = recordOf(smaller, evolutions());
+    EXPECT_EQ(again.legend, record.legend);
+    EXPECT_EQ(again.mechanism, record.mechanism);
+}

@@ -23,6 +23,20 @@ protected:
         QContextMenuEvent event(reason, widget.mapFromGlobal(globalPosition), globalPosition);
         QApplication::sendEvent(&widget, &event);
     }
+
+    /// Double-clicks the legend of the first plot and types; the editor stays open.
+    void typeLegend(const QString& text)
+    {
+        EvmPlotView& view = *window.viewOf(*plotAt(0));
+        const QPoint place = plotAt(0)->Legend().geometry().center();
+        QMouseEvent twice(QEvent::MouseButtonDblClick, place, view.mapToGlobal(place),
+                          Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&view, &twice);
+        auto* const editor = view.findChild<QTextEdit*>();
+        ASSERT_NE(editor, nullptr);
+        ASSERT_TRUE(editor->hasFocus());
+        editor->setPlainText(text);
+    }
 };
 
 } // namespace
@@ -117,18 +131,19 @@ TEST_F(WndEvolPlotInput, keepsATextThatIsBeingEditedWhenAnotherPlotBecomesActive
     show();
     EvmPlot* const second = add();
     activateFirst();
-    EvmPlotView& view = *window.viewOf(*plotAt(0));
-    const QPoint place = plotAt(0)->Legend().geometry().center();
-    QMouseEvent twice(QEvent::MouseButtonDblClick, place, view.mapToGlobal(place), Qt::LeftButton,
-                      Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&view, &twice);
-    auto* const editor = view.findChild<QTextEdit*>();
-    ASSERT_NE(editor, nullptr);
-    ASSERT_TRUE(editor->hasFocus());
-    editor->setPlainText(QStringLiteral("typed"));
+    typeLegend(QStringLiteral("typed"));
     window.ActivatePlot(second);
     EXPECT_EQ(plotAt(0)->Legend().Text(), QStringLiteral("typed"));
     EXPECT_TRUE(window.viewOf(*second)->hasFocus());
+}
+
+TEST_F(WndEvolPlotInput, copiesAPlotWithTheTextThatIsBeingEdited)
+{
+    show();
+    activateFirst();
+    typeLegend(QStringLiteral("typed"));
+    EXPECT_EQ(window.CopyPlot(QString())->Legend().Text(), QStringLiteral("typed"));
+    EXPECT_EQ(plotAt(0)->Legend().Text(), QStringLiteral("typed"));
 }
 
 TEST_F(WndEvolPlotInput, asksForThePlotsMenuByTheMouseAndByTheKeyboard)
