@@ -137,6 +137,7 @@ void wndMain::MDIForm_Load(const std::vector<std::string>& arguments)
 void wndMain::commitEdits()
 {
     m_data->commitEdits();
+    m_explorer->commitEdits();
 }
 
 void wndMain::run(Handler handler)

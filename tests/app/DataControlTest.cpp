@@ -161,3 +161,16 @@ TEST_F(DataControl, takesWhatIsBeingTypedAlongBeforeItIsAskedAboutOrSaved)
     choose("mnuSaveWorkspace");
     EXPECT_THAT(test::fileBytes(folder.file("case.tsw")), ::testing::HasSubstr("typed last"));
 }
+
+TEST_F(DataControl, takesALabelThatIsBeingTypedAlongToo)
+{
+    auto& tree = partOf<QTreeWidget>(window.explorer(), "tvwEvolExplorer");
+    QTreeWidgetItem* const description = tree.topLevelItem(0)->child(0)->child(0)->child(0);
+    tree.expandAll();
+    tree.setCurrentItem(description);
+    tree.editItem(description);
+    test::openEditor(tree)->setText(QStringLiteral("an hour of typing"));
+    choose("mnuNewWorkspace");
+    EXPECT_EQ(user.questions.size(), 1U);
+    EXPECT_EQ(window.explorer().description(), QStringLiteral("an hour of typing"));
+}
