@@ -35,13 +35,12 @@ void requireSameCurves(std::vector<SeriesRecord> series, const std::vector<Serie
 void requireFixedPoint(const WorkspaceRecord& record)
 {
     const WrittenWorkspace first = writeWorkspace(record, "fuzz");
-    // A value of Windows-1252 can become longer than its limit in UTF-8, and is then cut.
-    if (!first.longValues.empty())
-        return;
     WorkspaceRecord again;
     readWorkspace(first.bytes, "again", again);
     const WrittenWorkspace second = writeWorkspace(again, "fuzz");
-    fuzz::require(second.bytes == first.bytes, "what is read again is written as it was");
+    // A text of Windows-1252 can become longer than its limit in UTF-8, and is then cut.
+    fuzz::require(!first.longValues.empty() || second.bytes == first.bytes,
+                  "what is read again is written as it was");
     fuzz::require(again.files.size() == record.files.size(), "files come back");
     fuzz::require(again.plots.size() == record.plots.size(), "plots come back");
     for (std::size_t j = 0; j < record.plots.size(); ++j)

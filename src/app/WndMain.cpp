@@ -27,23 +27,17 @@ namespace tarsil {
 
 namespace {
 
-/// The command line's workspace: a path that was given in one piece, or the whole text.
-std::string workspaceOf(const std::vector<std::string>& arguments)
+/// The first argument that mentions an extension; the end when none does.
+auto mentionOf(const std::vector<std::string>& arguments, std::string_view extension)
 {
-    std::string whole;
-    for (const std::string& argument : arguments) {
-        if (argument.find(".tsw") != std::string::npos)
-            return argument;
-        whole += argument;
-    }
-    return whole;
+    return std::find_if(arguments.begin(), arguments.end(), [extension](const auto& argument) {
+        return argument.find(extension) != std::string::npos;
+    });
 }
 
 bool isMentioned(const std::vector<std::string>& arguments, std::string_view extension)
 {
-    return std::any_of(arguments.begin(), arguments.end(), [extension](const auto& argument) {
-        return argument.find(extension) != std::string::npos;
-    });
+    return mentionOf(arguments, extension) != arguments.end();
 }
 
 } // namespace
@@ -126,8 +120,9 @@ void wndMain::MDIForm_Load(const std::vector<std::string>& arguments)
             frame->bringBack();
         wndDefLayout();
         m_evolPlot->ActivatePlot(m_evolPlot->plots().front());
-        if (isMentioned(arguments, ".tsw"))
-            m_workspace->OpenWorkSpace(workspaceOf(arguments));
+        const auto workspace = mentionOf(arguments, ".tsw");
+        if (workspace != arguments.end())
+            m_workspace->OpenWorkSpace(*workspace);
         else if (isMentioned(arguments, ".evm") || isMentioned(arguments, ".ev2"))
             draw(load(arguments));
     });

@@ -60,24 +60,6 @@ QString workspaceNameOf(const std::string& path)
     return name.remove(QStringLiteral(".tsw"));
 }
 
-/// The evolution of the session that is read from a file; null when there is none. Only where no
-/// path is the same is the file system asked, which takes its time for each.
-EVM* openEvolution(const Session& session, const std::string& path)
-{
-    const FilePath file = resolvePath(path);
-    const auto& all = session.evolutions;
-    auto found = std::find_if(all.begin(), all.end(), [&file](const auto& evolution) {
-        return evolution->Folder == file.folder && evolution->FileName == file.name;
-    });
-    if (found == all.end()) {
-        std::error_code unknown;
-        found = std::find_if(all.begin(), all.end(), [&](const auto& evolution) {
-            return fs::equivalent(nativePath(evolution->path()), nativePath(path), unknown);
-        });
-    }
-    return found == all.end() ? nullptr : found->get();
-}
-
 /// All that a workspace which was read in part is worth is shown, and the user hears of the first
 /// thing that failed.
 class FirstFailure
@@ -210,13 +192,16 @@ void WorkspaceCommands::OpenWorkSpace(const std::string& path)
 }
 
 /// What can be read is shown, also when an error ends the reading in the middle. That is reported
-/// once everything stands.
+/// once everything stands. A file of which nothing can be read is no workspace, and takes the place
+/// of none.
 void WorkspaceCommands::open(const std::string& path)
 {
     const MappedFile file(path);
     WorkspaceRecord record;
     FirstFailure failure;
     failure.run([&] { readWorkspace(file.bytes(), shownPath(path), record); });
+    if (record.files.empty() && record.plots.empty())
+        failure.raise();
     m_explorer.startNew();
     m_path = shownPath(path);
     m_explorer.setWorkspaceName(workspaceNameOf(path));
@@ -240,14 +225,8 @@ void WorkspaceCommands::open(const std::string& path)
 std::vector<EVM*> WorkspaceCommands::loadFiles(const WorkspaceRecord& record,
                                                const std::string& path)
 {
-    const std::vector<std::string> paths = foundFiles(record.files, path);
-    mdlMain::loadEvolutions(m_session, paths, m_userInterface,
-                            [this] { m_explorer.FillEvolsNode(); });
-    std::vector<EVM*> evolutions;
-    evolutions.reserve(paths.size());
-    for (const std::string& one : paths)
-        evolutions.push_back(openEvolution(m_session, one));
-    return evolutions;
+    return mdlMain::loadListedEvolutions(m_session, foundFiles(record.files, path), m_userInterface,
+                                         [this] { m_explorer.FillEvolsNode(); });
 }
 
 /// The first plot, which is always there, becomes the first of the file; the others are new, and
@@ -298,7 +277,6 @@ void WorkspaceCommands::write(const std::string& path)
     // to be those of the window.
     for (EvmPlot* const plot : m_plots.plots())
         m_plots.FitPlot(plot);
-    const QString name = m_explorer.workspaceName();
     const QString modified = m_explorer.dateModified();
     m_explorer.setDateModified(dateText(QDateTime::currentDateTime()));
     try {

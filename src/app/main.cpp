@@ -14,10 +14,11 @@ std::vector<std::string> filesOf(const QApplication& application)
     QCommandLineParser commandLine;
     commandLine.setApplicationDescription(
         QStringLiteral("Shows the V-g-f plots of modal evolutions (.evm and .ev2 files) and finds "
-                       "their flutter speeds."));
+                       "their flutter speeds. Opens workspaces (.tsw files), which keep plots."));
     commandLine.addHelpOption();
     commandLine.addVersionOption();
-    commandLine.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("A modal evolution."),
+    commandLine.addPositionalArgument(QStringLiteral("FILE"),
+                                      QStringLiteral("A modal evolution, or one workspace."),
                                       QStringLiteral("[FILE...]"));
     commandLine.process(application);
     std::vector<std::string> files;

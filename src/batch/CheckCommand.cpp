@@ -51,8 +51,9 @@ constinit const Command checkCommand {
      "\n"
      "Of a workspace: files that are missing or elsewhere, series that name an\n"
      "evolution or mode that is not there, counts that disagree with what\n"
-     "follows, values longer than what is read of them, and texts that were\n"
-     "cut. The evolutions that it lists are not checked themselves.",
+     "follows, values longer than what is read of them, texts that were cut,\n"
+     "a file that was cut, and where it cannot be read on. The evolutions that\n"
+     "it lists are not checked themselves.",
      {}},
     runCheck};
 

@@ -11,6 +11,7 @@
 #include "workspace/WorkspaceKeys.h"
 #include "workspace/WorkspaceReader.h"
 
+#include <algorithm>
 #include <initializer_list>
 
 namespace tarsil::batch {
@@ -23,18 +24,22 @@ namespace keys = workspacekeys;
 class WorkspaceChecker
 {
 public:
-    WorkspaceChecker(std::string_view bytes, const std::string& path) : m_ini(bytes), m_path(path)
-    {
-        readWorkspace(bytes, shownPath(path), m_record);
-    }
+    WorkspaceChecker(std::string_view bytes, const std::string& path)
+        : m_ini(bytes), m_path(path), m_reading(tryToReadWorkspace(bytes, resolvePath(path).name)),
+          m_record(m_reading.record)
+    { }
 
     std::vector<Finding> check(BatchRun& run);
 
 private:
     void add(std::string_view section, std::string_view key, const std::string& text);
+    void checkReading();
     void checkLengths();
     void checkLengthsOfPlot(const std::string& section, std::size_t series);
     void checkLength(std::string_view section, std::string_view key);
+    void checkLengthOfFields(std::string_view section, std::string_view key);
+    void addLength(std::string_view section, std::string_view key, const std::string& what,
+                   std::size_t bytes);
     void checkRichTexts();
     void checkCounts();
     void checkCount(std::string_view section, std::string_view countKey, std::string_view key,
@@ -44,7 +49,8 @@ private:
 
     IniText m_ini;
     const std::string& m_path;
-    WorkspaceRecord m_record;
+    WorkspaceReading m_reading;
+    const WorkspaceRecord& m_record; ///< what could be read
     std::vector<std::string> m_files; ///< where they were found
     FindingList m_findings;
 };
@@ -52,6 +58,7 @@ private:
 std::vector<Finding> WorkspaceChecker::check(BatchRun& run)
 {
     m_files = foundFiles(m_record.files, m_path);
+    checkReading();
     checkLengths();
     checkRichTexts();
     checkCounts();
@@ -67,13 +74,51 @@ void WorkspaceChecker::add(std::string_view section, std::string_view key, const
                    "[" + std::string(section) + "], " + std::string(key) + ": " + text);
 }
 
+/// Where reading ends, and whether the file does where it should. A value that is missing is looked
+/// for in its section, or else at the end of the file.
+void WorkspaceChecker::checkReading()
+{
+    const std::size_t end = std::max<std::size_t>(m_ini.lines(), 1);
+    if (m_reading.error) {
+        const auto entry = m_ini.entry(m_reading.section, m_reading.key);
+        const std::size_t line =
+            entry ? entry->line : m_ini.lineOfSection(m_reading.section).value_or(end);
+        m_findings.addSummary(line, "reading ends here: " + m_reading.error->description());
+    }
+    if (!m_ini.lineOfSection(keys::endOfFile))
+        m_findings.addSummary(end,
+                              "the file was cut: its last line, [" + std::string(keys::endOfFile)
+                                  + "], is missing");
+}
+
+void WorkspaceChecker::addLength(std::string_view section, std::string_view key,
+                                 const std::string& what, std::size_t bytes)
+{
+    if (bytes > mostStoredBytes)
+        add(section, key,
+            what + " has " + std::to_string(bytes) + " bytes, of which "
+                + std::to_string(mostStoredBytes) + " are read");
+}
+
 void WorkspaceChecker::checkLength(std::string_view section, std::string_view key)
 {
+    if (const auto entry = m_ini.entry(section, key))
+        addLength(section, key, "the value", entry->value.size());
+}
+
+void WorkspaceChecker::checkLengthOfFields(std::string_view section, std::string_view key)
+{
     const auto entry = m_ini.entry(section, key);
-    if (entry && entry->value.size() > mostStoredBytes)
-        add(section, key,
-            "the value has " + std::to_string(entry->value.size()) + " bytes, of which "
-                + std::to_string(mostStoredBytes) + " are read");
+    if (!entry)
+        return;
+    std::size_t number = 0;
+    for (std::string_view rest = entry->value;; ++number) {
+        const std::size_t end = std::min(rest.find('\0'), rest.size());
+        addLength(section, key, "field " + std::to_string(number), end);
+        if (end == rest.size())
+            return;
+        rest.remove_prefix(end + 1);
+    }
 }
 
 void WorkspaceChecker::checkLengths()
@@ -88,13 +133,14 @@ void WorkspaceChecker::checkLengths()
 
 void WorkspaceChecker::checkLengthsOfPlot(const std::string& section, std::size_t series)
 {
-    for (const std::string_view key :
-         {keys::caption, keys::header, keys::headerPosition, keys::mechanism,
-          keys::mechanismPosition, keys::legend, keys::legendPosition, keys::velAxis,
-          keys::freqAxis, keys::gAxis})
+    for (const std::string_view key : {keys::caption, keys::header, keys::mechanism, keys::legend})
         checkLength(section, key);
+    for (const std::string_view key :
+         {keys::headerPosition, keys::mechanismPosition, keys::legendPosition, keys::velAxis,
+          keys::freqAxis, keys::gAxis})
+        checkLengthOfFields(section, key);
     for (std::size_t i = 1; i <= series; ++i)
-        checkLength(section, keys::numbered(keys::series, i));
+        checkLengthOfFields(section, keys::numbered(keys::series, i));
 }
 
 /// The whole values: that a long one is cut when it is read is a finding of its own.
@@ -110,16 +156,21 @@ void WorkspaceChecker::checkRichTexts()
     }
 }
 
-/// A list that is shorter than its count is an error of reading; here it can only be longer.
+/// A list that is shorter than its count is an error of reading; here it can only be longer. The
+/// list that is being read when an error comes is not known to its end.
 void WorkspaceChecker::checkCounts()
 {
+    const bool isWhole = !m_reading.error;
     const std::size_t plots = m_record.plots.size();
-    checkCount(keys::evolutionFiles, keys::fileCount, keys::file, m_record.files.size());
-    if (const auto line = m_ini.lineOfSection(keys::plotSection(plots + 1)))
+    if (isWhole || m_reading.section != keys::evolutionFiles)
+        checkCount(keys::evolutionFiles, keys::fileCount, keys::file, m_record.files.size());
+    const auto line = m_ini.lineOfSection(keys::plotSection(plots + 1));
+    if (isWhole && line)
         m_findings.add(*line,
                        "[" + keys::plotSection(plots + 1) + "] is passed over: "
                            + std::string(keys::plotCount) + " is " + std::to_string(plots));
-    for (std::size_t j = 1; j <= plots; ++j)
+    const std::size_t wholePlots = isWhole || plots == 0 ? plots : plots - 1;
+    for (std::size_t j = 1; j <= wholePlots; ++j)
         checkCount(keys::plotSection(j), keys::seriesCount, keys::series,
                    m_record.plots[j - 1].series.size());
 }
@@ -138,9 +189,9 @@ void WorkspaceChecker::checkFiles()
     for (std::size_t i = 0; i < m_files.size(); ++i) {
         const std::string key = keys::numbered(keys::file, i + 1);
         const std::string& stored = m_record.files[i];
-        if (m_files[i] != stored)
+        if (m_files[i] != storedPlace(stored, m_path))
             add(keys::evolutionFiles, key, stored + " is not there; it was found at " + m_files[i]);
-        else if (!fileExists(stored))
+        else if (!fileExists(m_files[i]))
             add(keys::evolutionFiles, key, stored + " is missing");
     }
 }

@@ -108,7 +108,6 @@ void wndEvolExplorer::setReference(EVM* evolution)
     m_reference = evolution;
     if (QTreeWidgetItem* const node = m_evolutions.nodeOf(evolution))
         distinguish(*node, QStringLiteral("reference evolution"));
-    Q_EMIT referenceChanged(evolution);
 }
 
 EVM* wndEvolExplorer::selectedEvolution() const

@@ -53,10 +53,6 @@ public:
     /// The evolution that the selected node itself stands for; null otherwise.
     EVM* evolutionOfSelectedNode() const;
 
-    /// An evolution is about to leave the session by another way than the toolbar's: its series
-    /// leave all plots, which are drawn again, and its node goes. To be called before it ends.
-    void evolutionRemoved(EVM& evolution);
-
     /// Takes the label that is being edited as it stands, as Enter does, and closes its editor.
     void commitEdits();
 
@@ -85,18 +81,6 @@ Q_SIGNALS:
 
     /// The user wants the menu of the tree, by the right button or by the keyboard.
     void menuRequested(QPoint globalPosition);
-
-    /// Another evolution is the reference, or none (null).
-    void referenceChanged(tarsil::EVM* evolution);
-
-    /// An evolution ends when all have heard of it; no plot has a series of it any more.
-    void evolutionAboutToBeRemoved(tarsil::EVM* evolution);
-
-    /// The user has changed a parameter of an evolution in the tree.
-    void parametersChanged(tarsil::EVM* evolution);
-
-    /// The user has changed the description of the workspace, or a plot's caption.
-    void workspaceChanged();
 
 private:
     using Handler = void (wndEvolExplorer::*)();

@@ -51,7 +51,6 @@ void wndEvolExplorer::rename(QTreeWidgetItem& node, const QString& text)
         changeParameter(*evolution, m_evolutions.valueAt(node), node, text);
     } else {
         node.setText(0, text);
-        Q_EMIT workspaceChanged();
     }
 }
 
@@ -67,7 +66,6 @@ void wndEvolExplorer::renamePlot(EvmPlot& plot, const QString& text)
     if (!text.trimmed().isEmpty())
         plot.setCaption(text);
     m_plotWindow.ActivatePlot(&plot);
-    Q_EMIT workspaceChanged();
 }
 
 void wndEvolExplorer::changeParameter(EVM& evolution, EvolutionValue value, QTreeWidgetItem& node,
@@ -90,7 +88,6 @@ void wndEvolExplorer::changeParameter(EVM& evolution, EvolutionValue value, QTre
         return;
     }
     node.setText(0, shown);
-    Q_EMIT parametersChanged(&evolution);
 }
 
 /// Whether the text is a number; the user is told when it is not. Error 6 "Overflow" for one

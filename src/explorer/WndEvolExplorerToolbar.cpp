@@ -94,11 +94,6 @@ void wndEvolExplorer::removePlot_Click()
     m_plotWindow.RemovePlot(m_plotWindow.ActivePlot());
 }
 
-void wndEvolExplorer::evolutionRemoved(EVM& evolution)
-{
-    drawAgain(forget(evolution));
-}
-
 /// Takes everything away that refers to an evolution; returns the plots that had series of it, not
 /// yet drawn again.
 std::vector<EvmPlot*> wndEvolExplorer::forget(EVM& evolution)
@@ -107,7 +102,6 @@ std::vector<EvmPlot*> wndEvolExplorer::forget(EVM& evolution)
     if (m_reference == &evolution)
         setReference(nullptr);
     m_marks.forget(evolution);
-    Q_EMIT evolutionAboutToBeRemoved(&evolution);
     m_evolutions.remove(evolution);
     return changed;
 }
@@ -138,8 +132,6 @@ void wndEvolExplorer::startNew()
     emptyPlots();
     setReference(nullptr);
     m_marks.clear();
-    for (const auto& evolution : m_session.evolutions)
-        Q_EMIT evolutionAboutToBeRemoved(evolution.get());
     m_evolutions.clear();
     m_session.evolutions.clear();
     m_workspace.startNew();

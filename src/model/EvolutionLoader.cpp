@@ -4,8 +4,9 @@
 #include "runtime/ErrorGuard.h"
 #include "runtime/PathNames.h"
 
-#include <filesystem>
-#include <system_error>
+#include <algorithm>
+#include <unordered_map>
+#include <utility>
 
 namespace tarsil::mdlMain {
 
@@ -13,41 +14,119 @@ namespace {
 
 constexpr std::string_view moduleName = "mdlMain";
 
-/// Whether the file system knows that two paths lead to one file.
-bool leadToOneFile(const std::filesystem::path& one, const std::filesystem::path& other)
+/// The open evolutions by what leads to their files, so that one of thousands is found at once.
+class OpenFiles
 {
-    std::error_code unknown;
-    return std::filesystem::equivalent(one, other, unknown) && !unknown;
-}
-
-/// The open evolution of this file, which folder and name identify; null when there is none.
-const EVM* openedFrom(const Session& session, std::string_view path)
-{
-    const FilePath file = resolvePath(path);
-    const std::filesystem::path native = nativePath(path);
-    for (const auto& evolution : session.evolutions) {
-        if (evolution->Folder == file.folder && evolution->FileName == file.name)
-            return evolution.get();
-        if (leadToOneFile(nativePath(evolution->path()), native))
-            return evolution.get();
+public:
+    explicit OpenFiles(const Session& session)
+    {
+        for (const auto& evolution : session.evolutions)
+            add(*evolution);
     }
-    return nullptr;
+
+    void add(EVM& evolution)
+    {
+        const std::string path = evolution.path();
+        m_byPath.emplace(path, &evolution);
+        if (auto identity = fileIdentity(path))
+            m_byIdentity.emplace(std::move(*identity), &evolution);
+    }
+
+    /// The evolution of the file that a path leads to; null when it is not open.
+    EVM* find(std::string_view path) const
+    {
+        const FilePath file = resolvePath(path);
+        const auto same = m_byPath.find(joinPath(file.folder, file.name));
+        if (same != m_byPath.end())
+            return same->second;
+        const auto identity = fileIdentity(path);
+        const auto other = identity ? m_byIdentity.find(*identity) : m_byIdentity.end();
+        return other == m_byIdentity.end() ? nullptr : other->second;
+    }
+
+private:
+    std::unordered_map<std::string, EVM*> m_byPath; ///< in stored form
+    std::unordered_map<std::string, EVM*> m_byIdentity;
+};
+
+/// Loads files one after the other.
+class Loader
+{
+public:
+    Loader(Session& session, UserInterface& userInterface)
+        : m_session(session), m_userInterface(userInterface), m_open(session)
+    { }
+
+    /// Says of each file by itself that it is missing, or of all of them at the end.
+    enum class Missing { ToldOneByOne, ToldTogether };
+
+    /// The evolution of each path; null where a file is missing or cannot be read.
+    std::vector<EVM*> load(const std::vector<std::string>& paths, Missing missing,
+                           const std::function<void()>& refreshExplorer);
+
+    /// The evolutions that were not open before.
+    const std::vector<EVM*>& added() const { return m_added; }
+
+private:
+    EVM* loadOne(const std::string& path, Missing missing);
+    void tellMissing() const;
+
+    Session& m_session;
+    UserInterface& m_userInterface;
+    OpenFiles m_open;
+    std::vector<EVM*> m_added;
+    std::vector<std::string> m_missing; ///< not told yet
+};
+
+std::vector<EVM*> Loader::load(const std::vector<std::string>& paths, Missing missing,
+                               const std::function<void()>& refreshExplorer)
+{
+    const BusyStatus status(m_userInterface, openingStatus);
+    std::vector<EVM*> evolutions;
+    for (const std::string& path : paths) {
+        EVM* evolution = nullptr;
+        guarded(m_userInterface, moduleName, [&] { evolution = loadOne(path, missing); });
+        evolutions.push_back(evolution);
+        m_userInterface.showProgress(evolutions.size(), paths.size());
+    }
+    if (!m_missing.empty())
+        tellMissing();
+    if (!m_added.empty() && refreshExplorer)
+        guarded(m_userInterface, moduleName, refreshExplorer);
+    return evolutions;
 }
 
-/// The new evolution; null when the file is skipped, after a message that says why.
-EVM* load(Session& session, const std::string& path, UserInterface& userInterface)
+EVM* Loader::loadOne(const std::string& path, Missing missing)
 {
     if (!fileExists(path)) {
-        userInterface.showMessage("Modal evolution file not found:\n" + shownPath(path), "Error",
-                                  MessageIcon::Critical);
+        m_missing.push_back(path);
+        if (missing == Missing::ToldOneByOne) {
+            tellMissing();
+            m_missing.clear();
+        }
         return nullptr;
     }
-    if (const EVM* const open = openedFrom(session, path)) {
-        userInterface.showMessage("Modal Evolution [" + open->FileName + "] Already Loaded.",
-                                  "Tarsil", MessageIcon::Exclamation);
-        return nullptr;
+    if (EVM* const open = m_open.find(path)) {
+        m_userInterface.showMessage("Modal Evolution [" + open->FileName + "] Already Loaded.",
+                                    "Tarsil", MessageIcon::Exclamation);
+        return open;
     }
-    return &session.open(path);
+    EVM& evolution = m_session.open(path);
+    m_open.add(evolution);
+    m_added.push_back(&evolution);
+    return &evolution;
+}
+
+void Loader::tellMissing() const
+{
+    constexpr std::size_t mostLines = 20; // a message box has no end otherwise
+    const std::size_t shown = std::min(m_missing.size(), mostLines);
+    std::string text = "Modal evolution file not found:";
+    for (std::size_t i = 0; i < shown; ++i)
+        text.append("\n").append(shownPath(m_missing[i]));
+    if (shown < m_missing.size())
+        text.append("\nand " + std::to_string(m_missing.size() - shown) + " more");
+    m_userInterface.showMessage(text, "Error", MessageIcon::Critical);
 }
 
 } // namespace
@@ -66,19 +145,17 @@ std::vector<EVM*> loadEvolutions(Session& session, const std::vector<std::string
                                  UserInterface& userInterface,
                                  const std::function<void()>& refreshExplorer)
 {
-    const BusyStatus status(userInterface, openingStatus);
-    std::vector<EVM*> loaded;
-    std::size_t done = 0;
-    for (const std::string& path : paths) {
-        guarded(userInterface, moduleName, [&] {
-            if (EVM* const evolution = load(session, path, userInterface))
-                loaded.push_back(evolution);
-        });
-        userInterface.showProgress(++done, paths.size());
-    }
-    if (!loaded.empty() && refreshExplorer)
-        guarded(userInterface, moduleName, refreshExplorer);
-    return loaded;
+    Loader loader(session, userInterface);
+    loader.load(paths, Loader::Missing::ToldOneByOne, refreshExplorer);
+    return loader.added();
+}
+
+std::vector<EVM*> loadListedEvolutions(Session& session, const std::vector<std::string>& paths,
+                                       UserInterface& userInterface,
+                                       const std::function<void()>& refreshExplorer)
+{
+    return Loader(session, userInterface)
+        .load(paths, Loader::Missing::ToldTogether, refreshExplorer);
 }
 
 } // namespace tarsil::mdlMain

@@ -33,4 +33,11 @@ std::vector<EVM*> loadEvolutions(Session& session, const std::vector<std::string
                                  UserInterface& userInterface,
                                  const std::function<void()>& refreshExplorer);
 
+/// The same for the files that a workspace lists: missing ones are told of in one message, at most
+/// 20 by their paths. Returns the evolution of each path, also one that was open already, and null
+/// where there is none.
+std::vector<EVM*> loadListedEvolutions(Session& session, const std::vector<std::string>& paths,
+                                       UserInterface& userInterface,
+                                       const std::function<void()>& refreshExplorer);
+
 } // namespace tarsil::mdlMain

@@ -5,6 +5,10 @@
 #include <cstring>
 #include <system_error>
 
+#if __has_include(<sys/stat.h>) && __has_include(<sys/mman.h>)
+#include <sys/stat.h>
+#endif
+
 namespace tarsil {
 
 namespace {
@@ -89,6 +93,21 @@ bool fileExists(std::string_view path)
     std::error_code ignored;
     const auto status = std::filesystem::status(nativePath(path), ignored);
     return std::filesystem::exists(status) && !std::filesystem::is_directory(status);
+}
+
+std::optional<std::string> fileIdentity(std::string_view path)
+{
+#if __has_include(<sys/stat.h>) && __has_include(<sys/mman.h>)
+    struct stat status
+    { };
+    if (::stat(nativePath(path).c_str(), &status) != 0)
+        return std::nullopt;
+    return std::to_string(status.st_dev) + ":" + std::to_string(status.st_ino);
+#else
+    std::error_code failed;
+    const std::filesystem::path real = std::filesystem::canonical(nativePath(path), failed);
+    return failed ? std::nullopt : std::optional(pathText(real));
+#endif
 }
 
 RunTimeError fileError(int code, std::string source, std::string_view path)

@@ -3,6 +3,7 @@
 #include "runtime/RunTimeError.h"
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -32,6 +33,10 @@ std::string pathText(const std::filesystem::path& path);
 
 /// Whether the path names an existing file (a folder is none).
 bool fileExists(std::string_view path);
+
+/// A text that is the same for all paths to one file, by links of either kind too; nothing when the
+/// path leads nowhere.
+std::optional<std::string> fileIdentity(std::string_view path);
 
 /// The run-time error of a failed file operation: `code` is the platform's errno.
 RunTimeError fileError(int code, std::string source, std::string_view path);

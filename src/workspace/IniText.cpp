@@ -65,6 +65,7 @@ IniText::IniText(std::string_view bytes)
         const std::string_view text = withoutBlanks(stream.readLine());
         addLine(text, stream.lineNumber(), current);
     }
+    m_lines = stream.lineNumber();
 }
 
 void IniText::addLine(std::string_view text, std::size_t line, Section*& current)
@@ -114,6 +115,23 @@ std::optional<std::string> IniText::text(std::string_view section, std::string_v
     if (!found)
         return std::nullopt;
     return decodeText(found->value.substr(0, endOfText(found->value)));
+}
+
+std::optional<std::string> IniText::fields(std::string_view section, std::string_view key) const
+{
+    const auto found = entry(section, key);
+    if (!found)
+        return std::nullopt;
+    std::string cut;
+    for (std::string_view rest = found->value;;) {
+        const std::size_t end = rest.find('\0');
+        const std::string_view field = rest.substr(0, end);
+        cut.append(field.substr(0, endOfText(field)));
+        if (end == std::string_view::npos)
+            return decodeText(cut);
+        cut += '\0';
+        rest.remove_prefix(end + 1);
+    }
 }
 
 } // namespace tarsil

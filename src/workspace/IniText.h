@@ -34,8 +34,16 @@ public:
     /// character of a UTF-8 value is cut in two.
     std::optional<std::string> text(std::string_view section, std::string_view key) const;
 
+    /// A value of several fields with NUL between them, in its whole length: only a field that is
+    /// longer than `mostStoredBytes` is cut, so that those behind it are not lost. Decoded like a
+    /// text.
+    std::optional<std::string> fields(std::string_view section, std::string_view key) const;
+
     /// The value that `bytes` may cut; nothing when the key is absent.
     std::optional<IniEntry> entry(std::string_view section, std::string_view key) const;
+
+    /// How many lines there are.
+    std::size_t lines() const { return m_lines; }
 
     /// The line on which a section begins first; nothing when there is no such section.
     std::optional<std::size_t> lineOfSection(std::string_view section) const;
@@ -49,6 +57,7 @@ private:
 
     void addLine(std::string_view text, std::size_t line, Section*& current);
 
+    std::size_t m_lines = 0;
     std::unordered_map<std::string, Section> m_sections; ///< by names in small letters
 };
 

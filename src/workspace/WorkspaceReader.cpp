@@ -20,31 +20,44 @@ namespace keys = workspacekeys;
 class WorkspaceReader
 {
 public:
-    WorkspaceReader(std::string_view bytes, const std::string& name, WorkspaceRecord& record)
-        : m_ini(bytes), m_name(name), m_record(record)
+    WorkspaceReader(std::string_view bytes, const std::string& name, WorkspaceReading& reading)
+        : m_ini(bytes), m_name(name), m_reading(reading), m_record(reading.record)
     { }
 
+    /// Stops at the first error, which the reading has then.
     void read();
 
 private:
-    std::string place(std::string_view section, std::string_view key) const;
+    void readAll();
+    std::string place(std::string_view section, std::string_view key);
     std::string text(std::string_view section, std::string_view key,
                      std::string_view otherwise) const;
-    int count(std::string_view section, std::string_view key) const;
+    std::string fields(std::string_view section, std::string_view key) const;
+    int count(std::string_view section, std::string_view key);
 
     void readFiles();
-    void readPlot(const std::string& section, PlotRecord& plot) const;
+    void readPlot(const std::string& section, PlotRecord& plot);
     TextRecord box(std::string_view section, std::string_view textKey,
-                   std::string_view positionKey) const;
-    AxisRecord axis(std::string_view section, std::string_view key) const;
-    SeriesRecord series(std::string_view section, std::string_view key) const;
+                   std::string_view positionKey);
+    AxisRecord axis(std::string_view section, std::string_view key);
+    SeriesRecord series(std::string_view section, std::string_view key);
 
     IniText m_ini;
     const std::string& m_name;
+    WorkspaceReading& m_reading;
     WorkspaceRecord& m_record;
 };
 
 void WorkspaceReader::read()
+{
+    try {
+        readAll();
+    } catch (const RunTimeError& error) {
+        m_reading.error = error;
+    }
+}
+
+void WorkspaceReader::readAll()
 {
     m_record.description = text(keys::general, keys::description, keys::noText);
     if (m_record.description.empty())
@@ -59,8 +72,11 @@ void WorkspaceReader::read()
     }
 }
 
-std::string WorkspaceReader::place(std::string_view section, std::string_view key) const
+/// What errors call a value that is about to be read.
+std::string WorkspaceReader::place(std::string_view section, std::string_view key)
 {
+    m_reading.section = section;
+    m_reading.key = key;
     return m_name + ", [" + std::string(section) + "], " + std::string(key);
 }
 
@@ -71,7 +87,13 @@ std::string WorkspaceReader::text(std::string_view section, std::string_view key
     return rtfFromStoredValue(m_ini.text(section, key).value_or(std::string(otherwise)));
 }
 
-int WorkspaceReader::count(std::string_view section, std::string_view key) const
+/// A value of several fields.
+std::string WorkspaceReader::fields(std::string_view section, std::string_view key) const
+{
+    return m_ini.fields(section, key).value_or(std::string(keys::absent));
+}
+
+int WorkspaceReader::count(std::string_view section, std::string_view key)
 {
     const std::string_view value = m_ini.bytes(section, key).value_or(keys::noText);
     return ValueFields(value, 1, place(section, key)).integer16(0, "count");
@@ -91,7 +113,7 @@ void WorkspaceReader::readFiles()
     }
 }
 
-void WorkspaceReader::readPlot(const std::string& section, PlotRecord& plot) const
+void WorkspaceReader::readPlot(const std::string& section, PlotRecord& plot)
 {
     plot.caption = text(section, keys::caption, keys::absent);
     plot.header = box(section, keys::header, keys::headerPosition);
@@ -111,42 +133,40 @@ void WorkspaceReader::readPlot(const std::string& section, PlotRecord& plot) con
 }
 
 TextRecord WorkspaceReader::box(std::string_view section, std::string_view textKey,
-                                std::string_view positionKey) const
+                                std::string_view positionKey)
 {
     TextRecord record;
     const std::string_view rtf = m_ini.bytes(section, textKey).value_or(keys::absent);
     if (rtf != keys::absent)
         record.rtf = rtfFromStoredValue(rtf);
-    const std::string_view position = m_ini.bytes(section, positionKey).value_or(keys::absent);
+    const std::string position = fields(section, positionKey);
     if (position != keys::absent) {
-        const ValueFields fields(position, 2, place(section, positionKey));
-        record.position = {fields.number(0, "left"), fields.number(1, "top")};
+        const ValueFields values(position, 2, place(section, positionKey));
+        record.position = {values.number(0, "left"), values.number(1, "top")};
     }
     return record;
 }
 
-AxisRecord WorkspaceReader::axis(std::string_view section, std::string_view key) const
+AxisRecord WorkspaceReader::axis(std::string_view section, std::string_view key)
 {
-    const std::string value = m_ini.text(section, key).value_or(std::string(keys::absent));
-    const ValueFields fields(value, 4, place(section, key));
-    return {fields.text(0), fields.single(1, "minimum"), fields.single(2, "maximum"),
-            fields.integer16(3, "tick count")};
+    const ValueFields values(fields(section, key), 4, place(section, key));
+    return {values.text(0), values.single(1, "minimum"), values.single(2, "maximum"),
+            values.integer16(3, "tick count")};
 }
 
-SeriesRecord WorkspaceReader::series(std::string_view section, std::string_view key) const
+SeriesRecord WorkspaceReader::series(std::string_view section, std::string_view key)
 {
-    const std::string value = m_ini.text(section, key).value_or(std::string(keys::absent));
-    const ValueFields fields(value, 9, place(section, key));
+    const ValueFields values(fields(section, key), 9, place(section, key));
     SeriesRecord record;
-    record.evolution = fields.integer16(0, "evolution");
-    record.mode = fields.integer16(1, "mode");
-    record.markerTag = fields.text(2);
-    record.markerSize = fields.integer32(3, "marker size");
-    record.markerSpacing = fields.integer32(4, "marker spacing");
-    record.markerStyle = fields.integer32(5, "marker style");
-    record.legendText = fields.text(6);
-    record.colorIndex = fields.integer32(7, "colour");
-    record.markerForegroundColor = fields.integer32(8, "marker colour");
+    record.evolution = values.integer16(0, "evolution");
+    record.mode = values.integer16(1, "mode");
+    record.markerTag = values.text(2);
+    record.markerSize = values.integer32(3, "marker size");
+    record.markerSpacing = values.integer32(4, "marker spacing");
+    record.markerStyle = values.integer32(5, "marker style");
+    record.legendText = values.text(6);
+    record.colorIndex = values.integer32(7, "colour");
+    record.markerForegroundColor = values.integer32(8, "marker colour");
     return record;
 }
 
@@ -154,8 +174,17 @@ SeriesRecord WorkspaceReader::series(std::string_view section, std::string_view 
 
 void readWorkspace(std::string_view bytes, const std::string& name, WorkspaceRecord& record)
 {
-    record = {};
-    WorkspaceReader(bytes, name, record).read();
+    WorkspaceReading reading = tryToReadWorkspace(bytes, name);
+    record = std::move(reading.record);
+    if (reading.error)
+        throw RunTimeError(*reading.error);
+}
+
+WorkspaceReading tryToReadWorkspace(std::string_view bytes, const std::string& name)
+{
+    WorkspaceReading reading;
+    WorkspaceReader(bytes, name, reading).read();
+    return reading;
 }
 
 } // namespace tarsil

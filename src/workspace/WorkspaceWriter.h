@@ -9,12 +9,12 @@
 
 namespace tarsil {
 
-/// A value that is written whole, but is too long to be read whole.
+/// A value that is written whole, but is too long to be read whole, or has a field that is.
 struct LongValue
 {
     std::string section;
     std::string key;
-    std::size_t bytes = 0;
+    std::size_t bytes = 0; ///< of the value, or of its longest field
 
     bool operator==(const LongValue&) const = default;
 };

@@ -20,7 +20,9 @@
 using namespace tarsil;
 using test::sample;
 using test::WndMainTest;
+using ::testing::Each;
 using ::testing::HasSubstr;
+using ::testing::Not;
 using ::testing::StartsWith;
 
 namespace {
@@ -39,6 +41,25 @@ protected:
         window.explorer().setDescription(QStringLiteral("an afternoon"));
         EvmPlot& second = window.evolPlot().AddPlot(QStringLiteral("Second"));
         second.SetScale(0, 100, 0, 10, 0, -1);
+    }
+
+    /// Two evolutions of one name in two folders, drawn in one plot.
+    void openNamesakes()
+    {
+        for (const char* const name : {"clean", "store"})
+            std::filesystem::create_directories(folder.path() / "runs" / name);
+        folder.write("runs/clean/case.ev2", test::fileBytes(sample("goland_clean_m040.ev2")));
+        folder.write("runs/store/case.ev2", test::fileBytes(sample("goland_tipstore_m040.ev2")));
+        load({folder.file("runs/store/case.ev2"), folder.file("runs/clean/case.ev2")});
+    }
+
+    /// The mass configuration of the file of each curve.
+    std::vector<std::string> massesOfCurves()
+    {
+        std::vector<std::string> masses;
+        for (const Series& series : plot().SeriesCollection())
+            masses.push_back(series.Mode->Parent->Param.Mass);
+        return masses;
     }
 
     void save(const std::string& name = "case.tsw")
@@ -370,7 +391,7 @@ TEST_F(WorkspaceCommandsTest, reportOnceWhateverFails)
 
 TEST_F(WorkspaceCommandsTest, reportOnceWhereverTheFileIsCut)
 {
-    constexpr std::size_t step = 61; // bytes
+    constexpr std::size_t step = 7; // bytes
     work();
     save();
     const std::string whole = test::fileBytes(folder.file("case.tsw"));
@@ -393,14 +414,7 @@ TEST_F(WorkspaceCommandsTest, reportOnceWhereverTheFileIsCut)
 
 TEST_F(WorkspaceCommandsTest, tellNamesakesApartByTheirFolders)
 {
-    for (const char* name : {"clean", "store"}) {
-        std::filesystem::create_directories(folder.path() / "runs" / name);
-        folder.write("runs/" + std::string(name) + "/case.ev2",
-                     test::fileBytes(sample(std::string("goland_")
-                                            + (std::string(name) == "clean" ? "clean" : "tipstore")
-                                            + "_m040.ev2")));
-    }
-    load({folder.file("runs/store/case.ev2"), folder.file("runs/clean/case.ev2")});
+    openNamesakes();
     const std::string masses[] = {evolution(0).Param.Mass, evolution(1).Param.Mass};
     ASSERT_NE(masses[0], masses[1]);
     save();
@@ -413,6 +427,139 @@ TEST_F(WorkspaceCommandsTest, tellNamesakesApartByTheirFolders)
     ASSERT_EQ(window.session().evolutions.size(), 2U);
     EXPECT_EQ(evolution(0).Param.Mass, masses[0]);
     EXPECT_EQ(evolution(1).Param.Mass, masses[1]);
+}
+
+TEST_F(WorkspaceCommandsTest, bindCurvesToTheirOwnFilesWhereBothHaveMovedDeeper)
+{
+    openNamesakes();
+    const std::vector<std::string> masses = massesOfCurves();
+    save();
+    choose("mnuNewWorkspace");
+    std::filesystem::create_directories(folder.path() / "a" / "b");
+    std::filesystem::rename(folder.path() / "runs", folder.path() / "a" / "b" / "runs");
+    open(folder.file("case.tsw"));
+    EXPECT_TRUE(user.messages.empty());
+    EXPECT_EQ(massesOfCurves(), masses);
+}
+
+TEST_F(WorkspaceCommandsTest, bindNoCurveToTheNamesakeOfAFileThatIsMissing)
+{
+    openNamesakes();
+    const std::string mass = evolution(1).Param.Mass;
+    save();
+    choose("mnuNewWorkspace");
+    std::filesystem::remove(folder.file("runs/store/case.ev2"));
+    open(folder.file("case.tsw"));
+    ASSERT_EQ(user.messages.size(), 1U);
+    EXPECT_EQ(user.messages[0].text,
+              "Modal evolution file not found:\n" + folder.file("runs/store/case.ev2"));
+    ASSERT_EQ(window.session().evolutions.size(), 1U);
+    const std::vector<std::string> masses = massesOfCurves();
+    ASSERT_FALSE(masses.empty());
+    EXPECT_THAT(masses, Each(mass));
+}
+
+TEST_F(WorkspaceCommandsTest, tellOfAllMissingFilesAtOnce)
+{
+    work();
+    save();
+    choose("mnuNewWorkspace");
+    std::filesystem::remove(folder.file("one.ev2"));
+    std::filesystem::remove(folder.file("two.ev2"));
+    open(folder.file("case.tsw"));
+    ASSERT_EQ(user.messages.size(), 1U);
+    EXPECT_EQ(user.messages[0].text,
+              "Modal evolution file not found:\n" + folder.file("one.ev2") + "\n"
+                  + folder.file("two.ev2"));
+    EXPECT_EQ(user.messages[0].title, "Error");
+    EXPECT_EQ(user.messages[0].icon, MessageIcon::Critical);
+}
+
+TEST_F(WorkspaceCommandsTest, leaveTheSessionAsItIsWhereAFileIsNoWorkspace)
+{
+    work();
+    save();
+    window.explorer().setDescription(QStringLiteral("an evening"));
+    for (const char* const bytes : {"", "a letter", "[GENERAL INFORMATION]\r\nUsername=x\r\n"}) {
+        SCOPED_TRACE(bytes);
+        user.messages.clear();
+        user.confirmations = {true};
+        open(folder.write("letter.tsw", bytes));
+        ASSERT_EQ(user.messages.size(), 1U);
+        EXPECT_THAT(user.messages[0].text, StartsWith("Error # 13 was generated by "));
+        EXPECT_EQ(window.session().evolutions.size(), 2U);
+        EXPECT_EQ(window.evolPlot().plots().size(), 2U);
+        EXPECT_EQ(plot().SeriesCollection().size(), 14U);
+        EXPECT_EQ(window.explorer().description(), QStringLiteral("an evening"));
+        EXPECT_EQ(window.explorer().workspaceName(), QStringLiteral("case"));
+    }
+    user.questions.clear();
+    choose("QuitMenu");
+    EXPECT_EQ(user.questions.size(), 1U) << "the change is still not saved";
+}
+
+TEST_F(WorkspaceCommandsTest, keepEveryCurveHoweverLongItsLegendIs)
+{
+    work();
+    plot().SeriesCollection().front().LegendText = QString(3000, u'x');
+    plot().setVLabel(QString(3000, u'v'));
+    save();
+    EXPECT_THAT(user.statuses.back(),
+                StartsWith("velAxis of [PLOT1], Serie(1) of [PLOT1] are longer than 1023 "));
+    choose("mnuNewWorkspace");
+    open(folder.file("case.tsw"));
+    EXPECT_TRUE(user.messages.empty());
+    ASSERT_EQ(plot().SeriesCollection().size(), 14U);
+    EXPECT_EQ(plot().SeriesCollection().front().LegendText, QString(1023, u'x'));
+}
+
+TEST_F(WorkspaceCommandsTest, openTheFilesOfAWorkspaceWithoutPlots)
+{
+    folder.write("one.ev2", test::fileBytes(sample("goland_clean_m040.ev2")));
+    open(folder.write("none.tsw",
+                      "[MODAL EVOLUTION FILES]\r\nNoOfFiles=1\r\nFile(1)=" + folder.file("one.ev2")
+                          + "\r\n[PLOTS]\r\nNoOfPlots=0\r\n[END OF FILE]\r\n"));
+    EXPECT_TRUE(user.messages.empty());
+    EXPECT_EQ(window.session().evolutions.size(), 1U);
+    ASSERT_EQ(window.evolPlot().plots().size(), 1U) << "the one that is always there";
+    EXPECT_TRUE(plot().SeriesCollection().empty());
+}
+
+TEST_F(WorkspaceCommandsTest, renewTheDateOfSavingAlone)
+{
+    work();
+    save();
+    std::string bytes = test::fileBytes(folder.file("case.tsw"));
+    for (const char* const key : {"Date_Created=", "Date_Modified="}) {
+        const std::size_t date = bytes.find(key) + std::string_view(key).size();
+        bytes.replace(date, bytes.find('\r', date) - date, "07-Mar-2024 14:05:31");
+    }
+    open(folder.write("old.tsw", bytes));
+    for (const char* const name : {"again.tsw", "again.tsw"}) {
+        user.confirmations = {true}; // to replace it the second time
+        window.explorer().setDateModified(QStringLiteral("07-Mar-2024 14:05:31"));
+        save(name);
+        const std::string saved = test::fileBytes(folder.file(name));
+        EXPECT_THAT(saved, HasSubstr("\r\nDate_Created=07-Mar-2024 14:05:31\r\n"));
+        EXPECT_THAT(saved, Not(HasSubstr("Date_Modified=07-Mar-2024")));
+        EXPECT_THAT(saved,
+                    HasSubstr("\r\nDate_Modified=" + window.explorer().dateModified().toStdString()
+                              + "\r\n"));
+    }
+}
+
+TEST_F(WorkspaceCommandsTest, changeNothingWhenAFileIsNotToBeReplaced)
+{
+    work();
+    save();
+    window.explorer().setDateModified(QStringLiteral("07-Mar-2024 14:05:31"));
+    folder.write("other.tsw", "old");
+    user.questions.clear();
+    save("other.tsw");
+    EXPECT_EQ(user.questions.size(), 1U);
+    EXPECT_EQ(window.explorer().workspaceName(), QStringLiteral("case"));
+    EXPECT_EQ(window.explorer().dateModified(), QStringLiteral("07-Mar-2024 14:05:31"));
+    EXPECT_EQ(test::fileBytes(folder.file("other.tsw")), "old");
 }
 
 TEST_F(WorkspaceCommandsTest, openTheWorkspaceOfTheCommandLineInItsQuotes)

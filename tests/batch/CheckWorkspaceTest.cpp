@@ -166,7 +166,7 @@ TEST_F(CheckOfAWorkspace, listsOnlyTheFirstOfVeryManyFindings)
     EXPECT_THAT(text, Not(HasSubstr("Serie(1001)")));
 }
 
-TEST_F(CheckOfAWorkspace, complainsOfAnErrorOfReadingAndGoesOn)
+TEST_F(CheckOfAWorkspace, goesOnAfterAFileThatCannotBeOpenedOrRead)
 {
     const std::string bad = folder().write("bad.tsw", "[MODAL EVOLUTION FILES]\r\nNoOfFiles=1\r\n");
     WorkspaceRecord record = settled();
@@ -174,11 +174,65 @@ TEST_F(CheckOfAWorkspace, complainsOfAnErrorOfReadingAndGoesOn)
     const std::string path = write(record);
     const auto result = runBatch({"check", bad, file("gone.tsw"), path});
     EXPECT_EQ(result.status, 1);
-    EXPECT_THAT(result.err,
-                HasSubstr("tarsil-batch: Subscript out of range: " + bad
-                          + ", [MODAL EVOLUTION FILES], File(1) is missing"));
-    EXPECT_THAT(result.err, HasSubstr("tarsil-batch: File not found: " + file("gone.tsw") + "\n"));
+    EXPECT_EQ(result.err, "tarsil-batch: File not found: " + file("gone.tsw") + "\n");
+    EXPECT_THAT(result.out,
+                HasSubstr(bad
+                          + ":1: reading ends here: Subscript out of range: bad.tsw, [MODAL "
+                            "EVOLUTION FILES], File(1) is missing"));
     EXPECT_THAT(result.out, HasSubstr(path + ":25: "));
+}
+
+TEST_F(CheckOfAWorkspace, findsWhereReadingEndsBesidesWhatStandsBeforeIt)
+{
+    WorkspaceRecord record = settled();
+    record.files.push_back("C:\\flutter\\gone.ev2");
+    record.plots[0].series[0].mode = 9;
+    const std::string bytes = test::fileBytes(write(record));
+    // The axis of the first plot stands before its series, that of the second behind them.
+    EXPECT_EQ(findings(folder().write("case.tsw",
+                                      with(bytes, "[PLOT2]\r\n", "[PLOT2]\r\nNoOfSeries=x\r\n"))),
+              "11: [MODAL EVOLUTION FILES], File(3): C:\\flutter\\gone.ev2 is missing\n"
+              "26: [PLOT1], Serie(1): wing.ev2 has no mode at position 9; it holds 2\n"
+              "29: reading ends here: Type mismatch: case.tsw, [PLOT2], NoOfSeries, field 0 "
+              "(count): \"x\"\n");
+    EXPECT_EQ(findings(folder().write("case.tsw", with(bytes, "NoOfPlots=2\r\n", ""))),
+              "11: [MODAL EVOLUTION FILES], File(3): C:\\flutter\\gone.ev2 is missing\n"
+              "12: reading ends here: Type mismatch: case.tsw, [PLOTS], NoOfPlots, field 0 "
+              "(count): \"   \"\n");
+}
+
+TEST_F(CheckOfAWorkspace, findsThatTheFileWasCut)
+{
+    const std::string bytes = test::fileBytes(write(settled()));
+    const std::string cut = bytes.substr(0, bytes.find("[END OF FILE]"));
+    EXPECT_EQ(findings(folder().write("case.tsw", cut)),
+              "39: the file was cut: its last line, [END OF FILE], is missing\n");
+    EXPECT_EQ(findings(folder().write("case.tsw", cut.substr(0, cut.find("[PLOT2]")))),
+              "26: reading ends here: Subscript out of range: case.tsw, [PLOT2], velAxis needs 4 "
+              "fields and has 1: \"Empty\"\n"
+              "26: the file was cut: its last line, [END OF FILE], is missing\n");
+    EXPECT_THAT(findings(folder().write("case.tsw", "")),
+                HasSubstr("1: the file was cut: its last line, [END OF FILE], is missing\n"));
+}
+
+TEST_F(CheckOfAWorkspace, findsTheFieldsThatAreTooLongToBeRead)
+{
+    WorkspaceRecord record = settled();
+    record.plots[0].series[0].markerTag = std::string(1023, 't');
+    record.plots[0].series[0].legendText = std::string(1023, 'l');
+    EXPECT_EQ(runBatch({"check", write(record)}).status, 0) << "each field is read whole";
+    record.plots[0].series[0].legendText = std::string(1024, 'l');
+    record.plots[1].velAxis.label = std::string(2000, 'v');
+    EXPECT_EQ(findings(record),
+              "25: [PLOT1], Serie(1): field 6 has 1024 bytes, of which 1023 are read\n"
+              "35: [PLOT2], velAxis: field 0 has 2000 bytes, of which 1023 are read\n");
+}
+
+TEST_F(CheckOfAWorkspace, takesARelativePathFromTheFolderOfTheWorkspace)
+{
+    WorkspaceRecord record = settled();
+    record.files = {"wing.ev2", "old.evm"};
+    EXPECT_EQ(runBatch({"check", write(record)}).status, 0);
 }
 
 TEST_F(CheckOfAWorkspace, endsForEveryCutOfTheBytes)
@@ -186,7 +240,8 @@ TEST_F(CheckOfAWorkspace, endsForEveryCutOfTheBytes)
     const std::string bytes = test::fileBytes(write(settled()));
     for (std::size_t size = 0; size < bytes.size(); size += 7) {
         const auto result = runBatch({"check", folder().write("cut.tsw", bytes.substr(0, size))});
-        ASSERT_LE(result.status, 1) << size;
-        ASSERT_EQ(result.status == 0, (result.out + result.err).empty()) << size;
+        ASSERT_EQ(result.status, 1) << size;
+        ASSERT_THAT(result.out, HasSubstr("the file was cut")) << size;
+        ASSERT_EQ(result.err, "") << size;
     }
 }

@@ -109,6 +109,36 @@ TEST_F(ReportOfAWorkspace, leavesOutTheSeriesOfAMissingFile)
     EXPECT_EQ(rows(), "wing.ev2 torsion 5 250|wing.ev2 bending 3 350|");
 }
 
+TEST_F(ReportOfAWorkspace, takesNoFileForTheNamesakeThatIsMissing)
+{
+    WorkspaceRecord record = this->record();
+    record.files = {"C:\\clean\\wing.ev2", "C:\\store\\wing.ev2"};
+    const std::string path = write(record);
+    const auto result = report({path});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.err,
+              "tarsil-batch: " + path
+                  + ": the series of modal evolution 2 are left out: File not found: "
+                    "C:\\store\\wing.ev2\n");
+    EXPECT_EQ(rows(), "wing.ev2 torsion 5 250|wing.ev2 bending 3 350|");
+}
+
+TEST_F(ReportOfAWorkspace, tellsNamesakesApartByTheirFolders)
+{
+    std::filesystem::create_directories(folder().path() / "moved" / "clean");
+    std::filesystem::create_directories(folder().path() / "moved" / "store");
+    std::string bytes = fileBytes(old);
+    folder().write("moved/clean/wing.evm", bytes);
+    folder().write("moved/store/wing.evm", bytes.replace(bytes.find("200.000"), 3, "300"));
+    WorkspaceRecord record = this->record();
+    record.files = {"C:\\store\\wing.evm", "C:\\clean\\wing.evm"};
+    record.plots.pop_back();
+    record.plots[0].series[0].mode = 1;
+    EXPECT_EQ(report({write(record)}).err, "");
+    // Zeros half-way from 100 to 300 and from 100 to 200.
+    EXPECT_EQ(rows(), "wing.evm  7 200|wing.evm  7 150|");
+}
+
 TEST_F(ReportOfAWorkspace, needsOnlyTheFilesOfItsSeries)
 {
     std::filesystem::remove(old);

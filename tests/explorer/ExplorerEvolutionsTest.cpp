@@ -98,9 +98,6 @@ TEST_F(WndEvolExplorerTest, showsTheReferenceEvolutionBold)
 {
     EVM& a = load("a.evm");
     EVM& b = fill("b.evm");
-    std::vector<EVM*> references;
-    QObject::connect(&explorer, &wndEvolExplorer::referenceChanged,
-                     [&](EVM* one) { references.push_back(one); });
     select(evolutionNode(a));
     explorer.SetAsRef();
     explorer.SetAsRef(); // is already
@@ -112,7 +109,6 @@ TEST_F(WndEvolExplorerTest, showsTheReferenceEvolutionBold)
     EXPECT_EQ(explorer.referenceEvolution(), &b);
     EXPECT_FALSE(isBold(evolutionNode(a)));
     EXPECT_TRUE(isBold(evolutionNode(b)));
-    EXPECT_THAT(references, ElementsAre(&a, &b));
 }
 
 TEST_F(WndEvolExplorerTest, keepsTheReferenceEvolutionWhenNoneIsSelected)
@@ -124,18 +120,4 @@ TEST_F(WndEvolExplorerTest, keepsTheReferenceEvolutionWhenNoneIsSelected)
     explorer.SetAsRef();
     EXPECT_EQ(explorer.referenceEvolution(), &a);
     EXPECT_THAT(user.messages, ElementsAre(test::noEvolution));
-}
-
-TEST_F(WndEvolExplorerTest, forgetsAnEvolutionThatLeavesTheSessionOtherwise)
-{
-    EVM& a = load("a.evm");
-    EVM& b = fill("b.evm");
-    plots.AddSerie(*a.Modes[0]);
-    plots.AddSerie(*b.Modes[0]);
-    explorer.evolutionRemoved(a);
-    session.evolutions.erase(session.evolutions.begin());
-    EXPECT_THAT(childTexts(node("Evols")), ElementsAre("b.evm"));
-    EXPECT_THAT(curves(plotAt(0)), ElementsAre("b.evm 1"));
-    explorer.FillEvolsNode();
-    EXPECT_THAT(childTexts(node("Evols")), ElementsAre("b.evm"));
 }

@@ -56,6 +56,20 @@ protected:
         return names;
     }
 
+    std::vector<EVM*> loadListed(const Texts& paths)
+    {
+        return mdlMain::loadListedEvolutions(session, paths, user, [this] { ++refreshes; });
+    }
+
+    /// The paths of so many files that are not there.
+    Texts missingPaths(std::size_t count) const
+    {
+        Texts paths;
+        for (std::size_t i = 1; i <= count; ++i)
+            paths.push_back(folder.file(std::to_string(i) + ".evm"));
+        return paths;
+    }
+
     /// Loads the file by its own path and then by another one: it must be known already.
     void expectOneFile(const std::string& path, const std::string& other)
     {
@@ -188,6 +202,22 @@ TEST_F(EvolutionLoader, knowsAFileByASymbolicLinkAndNamesItAsItIsOpen)
     expectOneFile(wing, folder.file("link.evm"));
 }
 
+TEST_F(EvolutionLoader, knowsAFileByAHardLink)
+{
+    const std::string wing = writeEvolution("wing.evm");
+    std::filesystem::create_hard_link(wing, folder.path() / "link.evm");
+    expectOneFile(wing, folder.file("link.evm"));
+}
+
+TEST_F(EvolutionLoader, knowsALinkToAFileThatIsOpenFromBefore)
+{
+    const std::string wing = writeEvolution("wing.evm");
+    std::filesystem::create_symlink(wing, folder.path() / "link.evm");
+    load({wing});
+    EXPECT_TRUE(load({folder.file("link.evm")}).empty());
+    EXPECT_EQ(user.messages, std::vector<Message>({alreadyLoaded("wing.evm")}));
+}
+
 TEST_F(EvolutionLoader, knowsAFileInALinkedFolder)
 {
     const std::string wing = writeEvolution("wing.evm");
@@ -252,6 +282,46 @@ TEST_F(EvolutionLoader, loadsAFileWithBlanksInItsName)
 {
     load({writeEvolution("left wing clean.evm")});
     EXPECT_EQ(openNames(), Texts({"left wing clean.evm"}));
+}
+
+TEST_F(EvolutionLoader, givesTheEvolutionOfEachListedFile)
+{
+    const std::string wing = writeEvolution("wing.evm");
+    const std::string tail = writeEvolution("tail.evm");
+    const std::string stars = folder.write("stars.evm", test::evmHeader("1", "1") + dampingOfStars);
+    load({tail});
+    const auto listed = loadListed({wing, folder.file("gone.evm"), stars, tail, wing});
+    EXPECT_EQ(openNames(), Texts({"tail.evm", "wing.evm"}));
+    EVM* const first = session.evolutions[0].get();
+    EVM* const second = session.evolutions[1].get();
+    EXPECT_EQ(listed, std::vector<EVM*>({second, nullptr, nullptr, first, second}));
+    EXPECT_EQ(refreshes, 2);
+    EXPECT_EQ(user.progress.back(), std::pair(std::size_t {5}, std::size_t {5}));
+}
+
+TEST_F(EvolutionLoader, tellsOfOneMissingListedFileAsOfAnyOther)
+{
+    loadListed({folder.file("gone.evm"), writeEvolution("wing.evm")});
+    EXPECT_EQ(user.messages, std::vector<Message>({notFound(folder.file("gone.evm"))}));
+    EXPECT_EQ(openNames(), Texts({"wing.evm"}));
+}
+
+TEST_F(EvolutionLoader, tellsOfAllMissingListedFilesAtOnce)
+{
+    const Texts missing = missingPaths(20);
+    std::string all = missing.front();
+    for (std::size_t i = 1; i < missing.size(); ++i)
+        all += "\n" + missing[i];
+    loadListed(missing);
+    loadListed(missingPaths(23));
+    EXPECT_EQ(user.messages, std::vector<Message>({notFound(all), notFound(all + "\nand 3 more")}));
+}
+
+TEST_F(EvolutionLoader, tellsOfFilesThatTheUserChoseOneByOne)
+{
+    const Texts missing = missingPaths(2);
+    load(missing);
+    EXPECT_EQ(user.messages, std::vector<Message>({notFound(missing[0]), notFound(missing[1])}));
 }
 
 TEST(OpenFileDialog, offersTheThreeKindsOfFile)

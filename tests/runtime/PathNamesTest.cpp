@@ -74,6 +74,22 @@ TEST(PathNames, takesAFolderForNoFile)
     EXPECT_TRUE(fileExists(folder.file("there")));
 }
 
+TEST(PathNames, tellsAFileFromOthersWhateverThePath)
+{
+    const TemporaryFolder folder;
+    const std::string wing = folder.write("wing.evm", "x");
+    const std::string copy = folder.write("copy.evm", "x");
+    std::filesystem::create_symlink(wing, folder.file("soft.evm"));
+    std::filesystem::create_hard_link(wing, folder.file("hard.evm"));
+    const auto identity = fileIdentity(wing);
+    ASSERT_TRUE(identity);
+    EXPECT_EQ(fileIdentity(folder.file("soft.evm")), identity);
+    EXPECT_EQ(fileIdentity(folder.file("hard.evm")), identity);
+    EXPECT_EQ(fileIdentity(folder.path().string() + "\\wing.evm"), identity);
+    EXPECT_NE(fileIdentity(copy), identity);
+    EXPECT_EQ(fileIdentity(folder.file("missing")), std::nullopt);
+}
+
 TEST(PathNames, namesTheErrorOfAFailedFileOperation)
 {
     const TemporaryFolder folder;

@@ -7,9 +7,9 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
 
 using namespace tarsil;
-using ::testing::AnyOf;
 using ::testing::ElementsAre;
 
 namespace {
@@ -21,6 +21,15 @@ protected:
     std::string found(const std::string& stored) const
     {
         return shownPath(foundFiles({stored}, folder.file("case.tsw")).front());
+    }
+
+    /// The same of several.
+    std::vector<std::string> foundAll(const std::vector<std::string>& stored) const
+    {
+        std::vector<std::string> files = foundFiles(stored, folder.file("case.tsw"));
+        for (std::string& file : files)
+            file = shownPath(file);
+        return files;
     }
 
     std::string writeBelow(const std::string& subfolder, const std::string& name) const
@@ -55,8 +64,8 @@ TEST_F(FoundFiles, areBelowTheFolderOfTheWorkspace)
 {
     const std::string deep = writeBelow("a/b/c", "wing.ev2");
     EXPECT_EQ(found("C:\\flutter\\wing.ev2"), deep);
-    const std::string same = writeBelow("z", "wing.ev2");
-    EXPECT_THAT(found("C:\\flutter\\wing.ev2"), AnyOf(deep, same));
+    const std::string near = writeBelow("z", "wing.ev2");
+    EXPECT_EQ(found("C:\\flutter\\wing.ev2"), near);
 }
 
 TEST_F(FoundFiles, areNoFolders)
@@ -79,4 +88,97 @@ TEST_F(FoundFiles, keepTheirOrderAndTheStoredPathOfWhatIsNowhere)
                 ElementsAre(pathText(two), "D:\\gone.ev2", "one.ev2.bak", pathText(one),
                             pathText(two), ""));
     EXPECT_TRUE(foundFiles({}, folder.file("case.tsw")).empty());
+}
+
+TEST_F(FoundFiles, areThoseThatShareMostOfTheirLastFolders)
+{
+    const std::string near = folder.write("wing.ev2", "x");
+    const std::string clean = writeBelow("2024/runs/clean", "wing.ev2");
+    const std::string store = writeBelow("2024/runs/store", "wing.ev2");
+    EXPECT_THAT(foundAll({"D:\\runs\\store\\wing.ev2", "C:\\wing.ev2", "E:\\clean\\wing.ev2"}),
+                ElementsAre(store, near, clean));
+}
+
+TEST_F(FoundFiles, shareTheFoldersThatHoldTheWorkspaceToo)
+{
+    folder.write("wing.ev2", "x");
+    const std::string other = writeBelow("other", "wing.ev2");
+    const std::string own = folder.path().filename().string();
+    EXPECT_EQ(found("C:\\" + own + "\\wing.ev2"), folder.file("wing.ev2"));
+    EXPECT_EQ(found("C:\\other\\wing.ev2"), other);
+}
+
+TEST_F(FoundFiles, areTakenByOneStoredPathOnly)
+{
+    const std::string wing = folder.write("wing.ev2", "x");
+    EXPECT_THAT(foundAll({"C:\\a\\wing.ev2", "C:\\b\\wing.ev2"}),
+                ElementsAre(wing, "C:/b/wing.ev2"));
+    EXPECT_THAT(foundAll({"C:\\a\\wing.ev2", "C:\\b\\wing.ev2", "C:/a/wing.ev2"}),
+                ElementsAre(wing, "C:/b/wing.ev2", wing));
+}
+
+TEST_F(FoundFiles, areNotGuessedForASecondPathThatMeansThemAsWell)
+{
+    const std::string first = writeBelow("x", "wing.ev2");
+    writeBelow("y", "wing.ev2");
+    EXPECT_THAT(foundAll({"C:\\a\\wing.ev2", "C:\\b\\wing.ev2"}),
+                ElementsAre(first, "C:/b/wing.ev2"));
+}
+
+TEST_F(FoundFiles, belongToThePathThatMeansThemBest)
+{
+    const std::string wing = writeBelow("b", "wing.ev2");
+    EXPECT_THAT(foundAll({"C:\\a\\wing.ev2", "C:\\b\\wing.ev2"}),
+                ElementsAre("C:/a/wing.ev2", wing));
+}
+
+TEST_F(FoundFiles, areNotTakenFromThePathAtWhosePlaceTheyAre)
+{
+    const std::string wing = writeBelow("a", "wing.ev2");
+    EXPECT_THAT(foundAll({"C:\\a\\wing.ev2", wing}), ElementsAre("C:/a/wing.ev2", wing));
+    std::filesystem::create_symlink(wing, folder.path() / "wing.ev2");
+    EXPECT_THAT(foundAll({"C:\\a\\wing.ev2", wing}), ElementsAre("C:/a/wing.ev2", wing))
+        << "a link leads to the same file";
+}
+
+TEST_F(FoundFiles, areAtTheirRelativePlaceFromTheWorkspaceFirst)
+{
+    const test::TemporaryFolder current;
+    current.write("wing.ev2", "x");
+    current.write("tail.ev2", "x");
+    const std::string wing = folder.write("wing.ev2", "x");
+    const std::filesystem::path before = std::filesystem::current_path();
+    std::filesystem::current_path(current.path());
+    const auto files = foundAll({"wing.ev2", "tail.ev2"});
+    std::filesystem::current_path(before);
+    EXPECT_THAT(files, ElementsAre(wing, "tail.ev2"));
+}
+
+TEST_F(FoundFiles, areFoundWithoutCaseWhereNoNameIsTheSame)
+{
+    const std::string wing = writeBelow("Store", "wing_\u00fc.ev2");
+    writeBelow("other", "tail.ev2");
+    EXPECT_EQ(found("C:\\STORE\\WING_\u00dc.EV2"), wing);
+    const std::string exact = writeBelow("A", "TAIL.EV2");
+    EXPECT_EQ(found("C:\\x\\TAIL.EV2"), exact);
+    EXPECT_THAT(foundAll({"C:\\x\\tail.ev2", "C:\\x\\TAIL.EV2"}),
+                ElementsAre(folder.file("other/tail.ev2"), exact));
+}
+
+TEST_F(FoundFiles, areSharedByNoTwoPathsThatDifferInCase)
+{
+    const std::string wing = folder.write("wing.ev2", "x");
+    EXPECT_THAT(foundAll({"C:\\a\\WING.EV2", "C:\\a\\wing.ev2"}),
+                ElementsAre("C:/a/WING.EV2", wing));
+}
+
+TEST_F(FoundFiles, areFoundInAVastFolderWithTheirStoredFolders)
+{
+    constexpr int more = 20'500; // than the 20000 that are looked at
+    std::filesystem::create_directory(folder.path() / "many");
+    for (int i = 0; i < more; ++i)
+        std::ofstream(folder.path() / "many" / std::to_string(i)) << 'x';
+    const std::string deep = writeBelow("n/clean", "wing.ev2");
+    EXPECT_EQ(found("C:\\n\\clean\\wing.ev2"), deep);
+    EXPECT_EQ(found("C:\\store\\wing.ev2"), "C:/store/wing.ev2") << "that far nobody looks";
 }

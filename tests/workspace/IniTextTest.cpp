@@ -159,3 +159,31 @@ TEST(IniText, tellsWhereASectionBeginsFirst)
     EXPECT_EQ(ini.lineOfSection("c"), std::nullopt);
     EXPECT_EQ(ini.entry("A", "y")->line, 6U);
 }
+
+TEST(IniText, cutsOnlyTheFieldsOfAValueThatAreTooLong)
+{
+    const std::string longest(1023, 'x');
+    const std::string text = "[S]\r\nkey=" + longest + "y\0b\0"s + longest + "\0\r\n"s;
+    EXPECT_EQ(IniText(text).fields("S", "key"), longest + "\0b\0"s + longest + "\0"s);
+    EXPECT_EQ(IniText(text).fields("S", "other"), std::nullopt);
+    EXPECT_EQ(IniText("[S]\nkey=").fields("S", "key"), "");
+}
+
+TEST(IniText, cutsNoCharacterOfAFieldInTwo)
+{
+    std::string umlauts;
+    for (int i = 0; i < 600; ++i)
+        umlauts += "ü";
+    const std::string text = "[S]\r\nkey=" + umlauts + "\0ü\r\n"s;
+    EXPECT_EQ(IniText(text).fields("S", "key"), umlauts.substr(0, 1022) + "\0ü"s);
+    // Windows-1252: 1023 bytes are as many characters.
+    const std::string bytes = "[S]\r\nkey=" + std::string(1500, '\xE9') + "\0\xFC\r\n"s;
+    EXPECT_EQ(IniText(bytes).fields("S", "key")->size(), 2046U + 1 + 2);
+}
+
+TEST(IniText, countsItsLines)
+{
+    EXPECT_EQ(IniText("").lines(), 0U);
+    EXPECT_EQ(IniText("[S]\r\nkey=1\r\n").lines(), 2U);
+    EXPECT_EQ(IniText("[S]\r\nkey=1").lines(), 2U);
+}

@@ -186,3 +186,21 @@ TEST(WorkspaceReader, keepsNothingOfAnEarlierRecord)
     EXPECT_THROW(readWorkspace("", "test.tsw", record), RunTimeError);
     EXPECT_EQ(record, (WorkspaceRecord {"   ", "   ", "   ", {}, {}}));
 }
+
+TEST(WorkspaceReader, tellsTheValueAtWhichItEnds)
+{
+    const auto endOf = [](std::string_view part, std::string_view replacement) {
+        const WorkspaceReading reading =
+            tryToReadWorkspace(drawn(with(whole, part, replacement)), "test.tsw");
+        EXPECT_TRUE(reading.error) << part;
+        return reading.section + ", " + reading.key;
+    };
+    EXPECT_EQ(endOf("NoOfFiles=2", "NoOfFiles=two"), "MODAL EVOLUTION FILES, NoOfFiles");
+    EXPECT_EQ(endOf("File(2)", "File(9)"), "MODAL EVOLUTION FILES, File(2)");
+    EXPECT_EQ(endOf("[PLOTS]\n", ""), "PLOTS, NoOfPlots");
+    EXPECT_EQ(endOf("-30\n", "\n"), "PLOT1, MechPos");
+    EXPECT_EQ(endOf("=2|1|s", "=2|one|s"), "PLOT1, Serie(2)");
+    const WorkspaceReading reading = tryToReadWorkspace(drawn(whole), "test.tsw");
+    EXPECT_FALSE(reading.error);
+    EXPECT_EQ(reading.record, wholeRecord());
+}

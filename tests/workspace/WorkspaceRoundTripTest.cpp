@@ -1,4 +1,5 @@
 #include "WorkspaceTexts.h"
+#include "runtime/RtfStoredValue.h"
 #include "support/RandomTexts.h"
 #include "workspace/WorkspaceWriter.h"
 
@@ -128,6 +129,58 @@ TEST(WorkspaceRoundTrip, givesTheSameBytesWhateverTheTextsHold)
 TEST(WorkspaceRoundTrip, givesAWrittenWorkspaceAgain)
 {
     EXPECT_EQ(bytesOf(readDrawn(wholeWorkspace)), drawn(wholeWorkspace));
+}
+
+TEST(WorkspaceRoundTrip, losesNothingWhereOnlyAllFieldsTogetherAreLong)
+{
+    WorkspaceRecord record = readDrawn(wholeWorkspace);
+    record.plots[0].velAxis.label = std::string(mostStoredBytes, 'v');
+    record.plots[0].series[0].markerTag = std::string(mostStoredBytes, 't');
+    record.plots[0].series[0].legendText = std::string(mostStoredBytes, 'l');
+    EXPECT_EQ(readBytes(bytesOf(record)), record);
+}
+
+TEST(WorkspaceRoundTrip, losesOnlyTheEndOfAFieldThatIsTooLong)
+{
+    const std::string longest(mostStoredBytes, 'x');
+    WorkspaceRecord record = readDrawn(wholeWorkspace);
+    PlotRecord& plot = record.plots[0];
+    for (std::string* const text : {&plot.velAxis.label, &plot.freqAxis.label, &plot.gAxis.label,
+                                    &plot.series[0].markerTag, &plot.series[1].legendText})
+        *text = longest;
+    const WorkspaceRecord cut = record;
+    for (std::string* const text : {&plot.velAxis.label, &plot.freqAxis.label, &plot.gAxis.label,
+                                    &plot.series[0].markerTag, &plot.series[1].legendText})
+        *text += "beyond";
+    const WrittenWorkspace written = writeWorkspace(record, "rivera");
+    EXPECT_EQ(written.longValues,
+              (std::vector<LongValue> {{"PLOT1", "velAxis", 1029},
+                                       {"PLOT1", "freqAxis", 1029},
+                                       {"PLOT1", "gAxis", 1029},
+                                       {"PLOT1", "Serie(1)", 1029},
+                                       {"PLOT1", "Serie(2)", 1029}}));
+    EXPECT_EQ(readBytes(written.bytes), cut);
+}
+
+TEST(WorkspaceRoundTrip, keepsEveryNumberHoweverLongTheTextsAre)
+{
+    for (unsigned seed = 0; seed < records; ++seed) {
+        WorkspaceRecord record = Generator(seed, Kind::Clean).record();
+        for (PlotRecord& plot : record.plots) {
+            plot.gAxis.label.insert(0, seed * 7, 'g');
+            for (SeriesRecord& series : plot.series)
+                series.legendText.insert(0, seed * 7, 'l');
+        }
+        WorkspaceRecord again = readBytes(writeWorkspace(record, "rivera").bytes);
+        ASSERT_EQ(again.plots.size(), record.plots.size()) << seed;
+        for (std::size_t j = 0; j < record.plots.size(); ++j) {
+            again.plots[j].gAxis.label = record.plots[j].gAxis.label;
+            ASSERT_EQ(again.plots[j].series.size(), record.plots[j].series.size()) << seed;
+            for (std::size_t i = 0; i < record.plots[j].series.size(); ++i)
+                again.plots[j].series[i].legendText = record.plots[j].series[i].legendText;
+        }
+        ASSERT_EQ(again, record) << seed;
+    }
 }
 
 TEST(WorkspaceRoundTrip, keepsTheDateOfCreation)

@@ -1,0 +1,148 @@
+// Workspaces of many small files: opening one against reading its files alone, and the explorer's
+// nodes for them against those for a few.
+
+#include "GeneratedFiles.h"
+#include "RatioTable.h"
+#include "app/WorkspaceCommands.h"
+#include "explorer/WndEvolExplorer.h"
+#include "model/Session.h"
+#include "runtime/UserInterface.h"
+#include "vgf/WndEvolPlot.h"
+#include "workspace/WorkspaceWriter.h"
+
+#include <QApplication>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <cstdlib>
+#include <fstream>
+#include <iostream>
+#include <limits>
+
+namespace {
+
+using namespace tarsil;
+using namespace tarsil::benchmarks;
+
+constexpr std::size_t fileCount = 1000;
+constexpr int turns = 7;
+
+/// A user who is told nothing and agrees to nothing.
+class SilentUser : public UserInterface
+{
+public:
+    void showMessage(const std::string& text, const std::string& /*title*/,
+                     MessageIcon /*icon*/) override
+    {
+        std::cerr << text << '\n';
+        std::exit(EXIT_FAILURE);
+    }
+    bool confirm(const std::string& /*question*/, const std::string& /*title*/) override
+    {
+        return false;
+    }
+    std::optional<std::string> askText(const std::string& /*prompt*/,
+                                       const std::string& /*initial*/) override
+    {
+        return std::nullopt;
+    }
+    std::vector<std::string> askOpenFiles(const FileQuestion& /*question*/) override { return {}; }
+    std::optional<std::string> askSaveFile(const FileQuestion& /*question*/) override
+    {
+        return std::nullopt;
+    }
+    void showStatus(std::string_view /*text*/) override { }
+    void showProgress(std::size_t /*done*/, std::size_t /*total*/) override { }
+};
+
+/// A workspace of small files and no plot.
+struct ManyFiles
+{
+    QTemporaryDir folder;
+    std::vector<std::string> files;
+    std::string workspace;
+
+    ManyFiles()
+    {
+        for (std::size_t i = 0; i < fileCount; ++i) {
+            files.push_back(path(std::to_string(i) + ".evm"));
+            writeEvolution(files.back(), Layout::FixedColumns, 4, 10);
+        }
+        workspace = path("many.tsw");
+        WorkspaceRecord record;
+        record.files = files;
+        std::ofstream(workspace, std::ios::binary) << writeWorkspace(record, "benchmark").bytes;
+    }
+
+    std::string path(const std::string& name) const
+    {
+        return folder.filePath(QString::fromStdString(name)).toStdString();
+    }
+};
+
+void openAll(Session& session, const ManyFiles& many, std::size_t count)
+{
+    for (std::size_t i = 0; i < count; ++i)
+        session.open(many.files[i]);
+}
+
+/// What was opened before is released outside of the time.
+double openingTime(const ManyFiles& many)
+{
+    SilentUser user;
+    Session session;
+    wndEvolPlot plots(user);
+    wndEvolExplorer explorer(session, plots, user);
+    WorkspaceCommands commands(session, plots, explorer, user);
+    return seconds([&] { commands.OpenWorkSpace(many.workspace); });
+}
+
+double readingTime(const ManyFiles& many)
+{
+    Session session;
+    return seconds([&] { openAll(session, many, fileCount); });
+}
+
+void measureOpening(const ManyFiles& many)
+{
+    constexpr double never = std::numeric_limits<double>::max();
+    Pair times {never, never};
+    for (int turn = 0; turn < turns; ++turn) {
+        times.reference = std::min(times.reference, readingTime(many));
+        times.measured = std::min(times.measured, openingTime(many));
+    }
+    printRow("opening a workspace of 1000 small files", "reading the files alone", times, "<= 3");
+}
+
+/// Seconds for the nodes of one evolution of so many.
+double timePerNode(const ManyFiles& many, std::size_t count)
+{
+    SilentUser user;
+    Session session;
+    wndEvolPlot plots(user);
+    wndEvolExplorer explorer(session, plots, user);
+    openAll(session, many, count);
+    return seconds([&] { explorer.FillEvolsNode(); }) / static_cast<double>(count);
+}
+
+void measureNodes(const ManyFiles& many)
+{
+    constexpr double never = std::numeric_limits<double>::max();
+    Pair times {never, never};
+    for (int turn = 0; turn < turns; ++turn) {
+        times.reference = std::min(times.reference, timePerNode(many, 100));
+        times.measured = std::min(times.measured, timePerNode(many, fileCount));
+    }
+    printRow("nodes of one evolution of 1000 in the explorer", "one of 100", times, "near 1");
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QApplication application(argc, argv);
+    const ManyFiles many;
+    measureOpening(many);
+    measureNodes(many);
+    return EXIT_SUCCESS;
+}
