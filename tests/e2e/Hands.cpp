@@ -101,6 +101,21 @@ void Hands::doubleClick(QPoint place) const
          QStringLiteral("--delay"), QStringLiteral("1"), QStringLiteral("1")});
 }
 
+void Hands::drag(QPoint from, QPoint to) const
+{
+    constexpr int steps = 8;
+    const auto place = [](QPoint point) {
+        return QStringList {QStringLiteral("mousemove"), QString::number(point.x()),
+                            QString::number(point.y())};
+    };
+    QStringList script =
+        place(from) + QStringList {QStringLiteral("mousedown"), QStringLiteral("1")};
+    for (int step = 1; step <= steps; ++step)
+        script += place(from + (to - from) * step / steps)
+            + QStringList {QStringLiteral("sleep"), QStringLiteral("0.05")};
+    run(script + QStringList {QStringLiteral("mouseup"), QStringLiteral("1")});
+}
+
 void Hands::point(QPoint place) const
 {
     run({QStringLiteral("mousemove"), QString::number(place.x()), QString::number(place.y())});

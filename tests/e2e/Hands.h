@@ -34,6 +34,9 @@ public:
 
     void doubleClick(QPoint place) const;
 
+    /// Presses the left button at one place and releases it at another, with a few steps between.
+    void drag(QPoint from, QPoint to) const;
+
     /// Moves the pointer to a place of the screen.
     void point(QPoint place) const;
 

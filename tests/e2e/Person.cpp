@@ -128,6 +128,14 @@ void Person::pushButton(QPoint button, const QRect& rectangle)
     m_hands.point(aside);
 }
 
+void Person::drag(QPoint from, QPoint to, const QRect& rectangle)
+{
+    const QImage before = look(rectangle);
+    m_hands.drag(from, to);
+    m_hands.point(aside);
+    EXPECT_TRUE(seesChange(rectangle, before));
+}
+
 bool Person::waitForColor(QRgb color) const
 {
     return m_display.waitForScreen(

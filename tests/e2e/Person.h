@@ -54,6 +54,9 @@ public:
     /// A button of the explorer's toolbar; the rectangle shows that it did something.
     void pushButton(QPoint button, const QRect& rectangle);
 
+    /// Drags something of one rectangle, which shows that it did something.
+    void drag(QPoint from, QPoint to, const QRect& rectangle);
+
     /// Whether the plot comes to have curves of a colour.
     bool waitForColor(QRgb color) const;
 

@@ -82,4 +82,29 @@ TEST(RealSession, isThereAgainAfterARestart)
     }
 }
 
+TEST(RealSession, savesTheRowsInTheOrderInWhichTheyWereDragged)
+{
+    const VirtualDisplay display;
+    ASSERT_FALSE(display.name().isEmpty()) << "Xvfb did not start";
+    const TemporaryFolder folder;
+    const QString file = QString::fromStdString(folder.file("dragged.tsw"));
+    Program program(display, {QString::fromStdString(sample("goland_clean_m040.ev2"))});
+    Person person(display);
+    EXPECT_TRUE(person.waitForColor(cyan));
+    constexpr QPoint firstRow(30, 265); // in the column "Idx", which is its handle
+    constexpr QPoint belowTheThirdRow(30, 311);
+    person.drag(firstRow, belowTheThirdRow, dataArea);
+    EXPECT_TRUE(waitUntil([&person] { return person.standsStill(dataArea); }));
+    person.nameFile("ctrl+s", "^Save", file);
+    EXPECT_TRUE(waitUntil([&file] { return QFile::exists(file); }));
+    const std::string saved = fileBytes(file.toStdString());
+    int row = 0;
+    for (const char mode : {'2', '3', '1', '4', '5', '6', '7'}) {
+        const std::string serie =
+            "\r\nSerie(" + std::to_string(++row) + ")=1" + std::string(1, '\0') + mode;
+        EXPECT_NE(saved.find(serie), std::string::npos) << row;
+    }
+    quit(person, program);
+}
+
 } // namespace tarsil::test
