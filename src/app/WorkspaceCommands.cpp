@@ -197,9 +197,13 @@ void WorkspaceCommands::OpenWorkSpace(const std::string& path)
 void WorkspaceCommands::open(const std::string& path)
 {
     const MappedFile file(path);
-    WorkspaceRecord record;
+    const WorkspaceReading reading = tryToReadWorkspace(file.bytes(), shownPath(path));
+    const WorkspaceRecord& record = reading.record;
     FirstFailure failure;
-    failure.run([&] { readWorkspace(file.bytes(), shownPath(path), record); });
+    failure.run([&] {
+        if (reading.error)
+            throw RunTimeError(*reading.error);
+    });
     if (record.files.empty() && record.plots.empty())
         failure.raise();
     m_explorer.startNew();
@@ -208,6 +212,7 @@ void WorkspaceCommands::open(const std::string& path)
     m_explorer.setDescription(QString::fromStdString(record.description));
     m_explorer.setDateCreated(QString::fromStdString(record.dateCreated));
     m_explorer.setDateModified(QString::fromStdString(record.dateModified));
+    m_isPartial = failure.happened() || !reading.cutValues.empty();
     const std::vector<EVM*> evolutions = loadFiles(record, path);
     for (std::size_t i = 0; i < record.plots.size(); ++i) {
         EvmPlot& plot = plotFor(i, QString::fromStdString(record.plots[i].caption));
@@ -215,9 +220,12 @@ void WorkspaceCommands::open(const std::string& path)
         failure.run([&plot] { plot.plot(); });
     }
     m_plots.ActivatePlot(m_plots.plots().front());
-    m_isPartial = failure.happened()
-        || std::find(evolutions.begin(), evolutions.end(), nullptr) != evolutions.end();
+    m_isPartial |= failure.happened();
     remember();
+    if (!reading.cutValues.empty())
+        m_userInterface.showStatus(placesOf(reading.cutValues)
+                                   + (reading.cutValues.size() == 1 ? " is" : " are")
+                                   + " cut: the format takes 1023 characters of each.");
     failure.raise();
 }
 
@@ -225,8 +233,36 @@ void WorkspaceCommands::open(const std::string& path)
 std::vector<EVM*> WorkspaceCommands::loadFiles(const WorkspaceRecord& record,
                                                const std::string& path)
 {
-    return mdlMain::loadListedEvolutions(m_session, foundFiles(record.files, path), m_userInterface,
-                                         [this] { m_explorer.FillEvolsNode(); });
+    const std::vector<std::string> files = foundFiles(record.files, path);
+    std::vector<EVM*> evolutions = mdlMain::loadListedEvolutions(
+        m_session, files, m_userInterface, [this] { m_explorer.FillEvolsNode(); });
+    m_isPartial |= std::find(evolutions.begin(), evolutions.end(), nullptr) != evolutions.end();
+    tellOfNamesakes(record.files, files, path);
+    return evolutions;
+}
+
+/// A file that has nothing but the name of the one that is listed may be another run's, and its
+/// curves would be wrong.
+void WorkspaceCommands::tellOfNamesakes(const std::vector<std::string>& stored,
+                                        const std::vector<std::string>& files,
+                                        const std::string& path)
+{
+    constexpr std::size_t mostTold = 20;
+    std::vector<std::string> lines;
+    for (std::size_t i = 0; i < files.size(); ++i) {
+        if (isTakenByNameAlone(stored[i], files[i], path))
+            lines.push_back(shownPath(stored[i]) + ": " + shownPath(files[i]));
+    }
+    if (lines.empty())
+        return;
+    m_isPartial = true;
+    std::string text = "These modal evolutions are not where the workspace says. Files of their "
+                       "names were taken, which may be those of other runs:";
+    for (std::size_t i = 0; i < std::min(lines.size(), mostTold); ++i)
+        text += "\n" + lines[i];
+    if (lines.size() > mostTold)
+        text += "\nand " + std::to_string(lines.size() - mostTold) + " more";
+    m_userInterface.showMessage(text, "Tarsil", MessageIcon::Exclamation);
 }
 
 /// The first plot, which is always there, becomes the first of the file; the others are new, and
@@ -264,8 +300,8 @@ bool WorkspaceCommands::mayReplace(const std::string& path) const
                                    "Tarsil")
         && (!losesParts
             || m_userInterface.confirm(
-                "Some of this workspace could not be opened: evolutions that "
-                "are not there, with their curves, or damaged parts. They "
+                "Some of this workspace could not be opened as it is in the file: evolutions that "
+                "are not there, with their curves, texts that were cut, or damaged parts. They "
                 "will be lost from the file. Replace it all the same?",
                 "Tarsil"));
 }
@@ -286,11 +322,12 @@ void WorkspaceCommands::write(const std::string& path)
         m_path = shownPath(path);
         m_isPartial = false;
         remember();
-        m_userInterface.showStatus(
-            written.longValues.empty()
-                ? std::string(readyStatus)
-                : placesOf(written.longValues) + (written.longValues.size() == 1 ? " is" : " are")
-                    + " longer than 1023 characters and will be cut when the workspace is opened.");
+        m_userInterface.showStatus(written.longValues.empty() ? std::string(readyStatus)
+                                                              : placesOf(written.longValues)
+                                           + (written.longValues.size() == 1 ? " is" : " are")
+                                           + " longer than 1023 characters, all that the format "
+                                             "takes of each: the rest will "
+                                             "be cut when the workspace is opened.");
     } catch (...) {
         m_explorer.setDateModified(modified);
         throw;

@@ -56,6 +56,8 @@ private:
     WorkspaceRecord state() const;
     void open(const std::string& path);
     std::vector<EVM*> loadFiles(const WorkspaceRecord& record, const std::string& path);
+    void tellOfNamesakes(const std::vector<std::string>& stored,
+                         const std::vector<std::string>& files, const std::string& path);
     EvmPlot& plotFor(std::size_t index, const QString& caption);
     void takeEditsAlong();
     bool mayReplace(const std::string& path) const;
@@ -66,7 +68,7 @@ private:
     wndEvolExplorer& m_explorer;
     UserInterface& m_userInterface;
     std::string m_path; ///< what saving proposes; empty for an untitled workspace
-    bool m_isPartial = false; ///< the file at `m_path` holds more than could be opened
+    bool m_isPartial = false; ///< the file at `m_path` holds more than is here, or another thing
     WorkspaceRecord m_saved; ///< the state when it was last saved or opened
 };
 

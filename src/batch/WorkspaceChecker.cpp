@@ -37,9 +37,6 @@ private:
     void checkLengths();
     void checkLengthsOfPlot(const std::string& section, std::size_t series);
     void checkLength(std::string_view section, std::string_view key);
-    void checkLengthOfFields(std::string_view section, std::string_view key);
-    void addLength(std::string_view section, std::string_view key, const std::string& what,
-                   std::size_t bytes);
     void checkRichTexts();
     void checkCounts();
     void checkCount(std::string_view section, std::string_view countKey, std::string_view key,
@@ -91,34 +88,13 @@ void WorkspaceChecker::checkReading()
                                   + "], is missing");
 }
 
-void WorkspaceChecker::addLength(std::string_view section, std::string_view key,
-                                 const std::string& what, std::size_t bytes)
-{
-    if (bytes > mostStoredBytes)
-        add(section, key,
-            what + " has " + std::to_string(bytes) + " bytes, of which "
-                + std::to_string(mostStoredBytes) + " are read");
-}
-
 void WorkspaceChecker::checkLength(std::string_view section, std::string_view key)
 {
-    if (const auto entry = m_ini.entry(section, key))
-        addLength(section, key, "the value", entry->value.size());
-}
-
-void WorkspaceChecker::checkLengthOfFields(std::string_view section, std::string_view key)
-{
     const auto entry = m_ini.entry(section, key);
-    if (!entry)
-        return;
-    std::size_t number = 0;
-    for (std::string_view rest = entry->value;; ++number) {
-        const std::size_t end = std::min(rest.find('\0'), rest.size());
-        addLength(section, key, "field " + std::to_string(number), end);
-        if (end == rest.size())
-            return;
-        rest.remove_prefix(end + 1);
-    }
+    if (entry && entry->value.size() > mostStoredBytes)
+        add(section, key,
+            "the value has " + std::to_string(entry->value.size()) + " bytes; the format takes "
+                + std::to_string(mostStoredBytes));
 }
 
 void WorkspaceChecker::checkLengths()
@@ -138,9 +114,9 @@ void WorkspaceChecker::checkLengthsOfPlot(const std::string& section, std::size_
     for (const std::string_view key :
          {keys::headerPosition, keys::mechanismPosition, keys::legendPosition, keys::velAxis,
           keys::freqAxis, keys::gAxis})
-        checkLengthOfFields(section, key);
+        checkLength(section, key);
     for (std::size_t i = 1; i <= series; ++i)
-        checkLengthOfFields(section, keys::numbered(keys::series, i));
+        checkLength(section, keys::numbered(keys::series, i));
 }
 
 /// The whole values: that a long one is cut when it is read is a finding of its own.

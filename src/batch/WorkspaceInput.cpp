@@ -168,6 +168,12 @@ WorkspaceInput openWorkspace(const std::string& path, const std::optional<std::s
         run.complain(path + ": the series of modal evolution " + std::to_string(place + 1)
                      + " are left out: " + why);
     };
+    for (std::size_t i = 0; i < files.size(); ++i) {
+        if (isTakenByNameAlone(record.files[i], files[i], path))
+            run.complain(path + ": modal evolution " + std::to_string(i + 1) + ", "
+                         + shownPath(record.files[i]) + ", is not there; " + shownPath(files[i])
+                         + " is taken for its name alone");
+    }
     input.evolutions = openEvolutions(input.plots, files, run, complain);
     for (PlotRecord& one : input.plots)
         leaveOutFaults(one, path, input, run);

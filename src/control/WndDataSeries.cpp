@@ -7,11 +7,13 @@
 #include "control/DlgSeriesStyle.h"
 #include "model/EVM.h"
 #include "runtime/Numbers.h"
+#include "runtime/RunTimeError.h"
 #include "runtime/UserInterface.h"
 #include "vgf/WndEvolPlot.h"
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace tarsil {
 
@@ -19,12 +21,21 @@ namespace {
 
 constexpr std::string_view module = "wndData";
 constexpr int modeColumn = static_cast<int>(SeriesColumn::Mode);
+constexpr int factorCount = 5; ///< of a point
 
-/// What stands in an input, as a whole number; errors 13 and 6 name the input.
-std::int32_t integerIn(const QLineEdit& input)
+/// What stands in an input, as a whole number of at least 1; errors 13, 6 and 5 name the input.
+std::int32_t countIn(const QLineEdit& input, double most = std::numeric_limits<std::int32_t>::max())
 {
-    const std::string where = input.accessibleName().toStdString();
-    return roundToInteger16(toDouble(input.text().toStdString(), module, where), module, where);
+    QString name = input.accessibleName();
+    const std::string where = name.remove(u':').toStdString();
+    const std::string text = input.text().toStdString();
+    const double count = std::nearbyint(toDouble(text, module, where));
+    if (count > std::numeric_limits<std::int32_t>::max())
+        throwNumberError(NumberStatus::Overflow, text, module, where);
+    if (count < 1 || count > most)
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall, std::string(module),
+                           where + ": " + text);
+    return static_cast<std::int32_t>(count);
 }
 
 LineLook lookOf(const Series& series)
@@ -124,18 +135,24 @@ void wndData::btnSerieMove_Click()
 
 void wndData::moveUp()
 {
+    if (m_model.rowCount() == 0)
+        return;
     const int column = currentColumn();
     afterMove(m_model.moveSeriesUp(m_ui->flxSerieViewer->selectedOrCurrentRows()), column);
 }
 
 void wndData::moveDown()
 {
+    if (m_model.rowCount() == 0)
+        return;
     const int column = currentColumn();
     afterMove(m_model.moveSeriesDown(m_ui->flxSerieViewer->selectedOrCurrentRows()), column);
 }
 
 void wndData::moveSelectedTo(std::size_t target)
 {
+    if (m_model.rowCount() == 0)
+        return;
     const int column = currentColumn();
     afterMove(m_model.moveSeries(m_ui->flxSerieViewer->selectedOrCurrentRows(), target), column);
 }
@@ -190,11 +207,11 @@ MarkerOptions wndData::markerOptions() const
         : m_ui->tagBtn->isChecked()              ? markerstyle::tag
         : m_ui->ithmpfBtn->isChecked()           ? markerstyle::participationFactor
                                                  : markerstyle::none;
-    options.size = integerIn(*m_ui->mksizeInp);
-    options.spacing = integerIn(*m_ui->mkspaceInp);
+    options.size = countIn(*m_ui->mksizeInp);
+    options.spacing = countIn(*m_ui->mkspaceInp);
     std::int16_t factor = 0;
     if (options.style == markerstyle::participationFactor)
-        options.ithMpf = integerIn(*m_ui->ithmpfInp);
+        options.ithMpf = countIn(*m_ui->ithmpfInp, factorCount);
     else if (parseInteger16(m_ui->ithmpfInp->text().toStdString(), factor) == NumberStatus::Ok)
         options.ithMpf = factor;
     return options;

@@ -37,7 +37,7 @@ std::int16_t legendIndexIn(const QLineEdit& input)
 double fontSizeIn(const QLineEdit& input)
 {
     const std::string text = input.text().toStdString();
-    const double points = toDouble(text, module, input.accessibleName().toStdString());
+    const double points = toDouble(text, module, "Font Size");
     if (!(points >= 1 && points <= 400))
         throw RunTimeError(ErrorNumber::InvalidProcedureCall, std::string(module),
                            "a font of " + text + " points; it must be from 1 to 400");

@@ -47,14 +47,16 @@ std::string FileMatching::tail(const std::vector<std::string>& names, std::size_
     return text;
 }
 
-void FileMatching::take(const fs::path& file)
+void FileMatching::take(const std::string& key, const std::string& stored, const fs::path& file)
 {
+    m_listed.emplace(key, namesOf(nativePath(stored)));
     m_taken.insert(identityOf(file));
 }
 
-void FileMatching::addPath(const std::string& stored)
+void FileMatching::addPath(const std::string& key, const std::string& stored)
 {
-    m_wanted.push_back({stored, namesOf(nativePath(stored))});
+    m_listed.emplace(key, namesOf(nativePath(stored)));
+    m_wanted.push_back({key, namesOf(nativePath(stored))});
 }
 
 void FileMatching::addFile(const fs::path& file)
@@ -75,6 +77,15 @@ std::map<std::string, fs::path> FileMatching::match()
     return std::exchange(m_matches, {});
 }
 
+/// Whether no other path of the workspace has the same last names, so many.
+bool FileMatching::isTold(const Wanted& wanted, std::size_t length, NameList names) const
+{
+    const std::string text = tail(wanted.names.*names, length);
+    return std::none_of(m_listed.begin(), m_listed.end(), [&](const auto& other) {
+        return other.first != wanted.key && tail(other.second.*names, length) == text;
+    });
+}
+
 /// Gives files to the paths whose last names, so many, are those of a free file.
 void FileMatching::settle(std::size_t length, NameList names)
 {
@@ -84,29 +95,36 @@ void FileMatching::settle(std::size_t length, NameList names)
         if (!text.empty() && !m_taken.contains(candidate.identity))
             free[text].push_back(&candidate);
     }
-    std::set<std::string> claimed;
     for (Wanted& wanted : m_wanted) {
-        if (wanted.isSettled)
-            continue;
         const auto place = free.find(tail(wanted.names.*names, length));
-        if (place == free.end())
-            continue;
-        if (claimed.insert(place->first).second)
+        if (!wanted.isSettled && place != free.end() && isTold(wanted, length, names))
             give(wanted, place->second);
-        else
-            wanted.isSettled = true;
     }
 }
 
+/// A path that means several files gets none of them, nor one that it means less.
 void FileMatching::give(Wanted& wanted, const std::vector<const Candidate*>& candidates)
 {
-    for (const Candidate* const candidate : candidates) {
-        if (m_taken.insert(candidate->identity).second) {
-            m_matches.emplace(wanted.stored, candidate->file);
-            wanted.isSettled = true;
-            return;
-        }
-    }
+    wanted.isSettled = true;
+    const Candidate* const chosen = onlyOne(candidates);
+    if (chosen != nullptr && m_taken.insert(chosen->identity).second)
+        m_matches.emplace(wanted.key, chosen->file);
+}
+
+/// The file of them all, which may be there by several ways, or the one beside the workspace; null
+/// when they are several.
+const FileMatching::Candidate*
+FileMatching::onlyOne(const std::vector<const Candidate*>& candidates) const
+{
+    const auto beside =
+        std::find_if(candidates.begin(), candidates.end(),
+                     [this](const Candidate* one) { return one->file.parent_path() == m_folder; });
+    if (beside != candidates.end())
+        return *beside;
+    const bool isOne = std::all_of(candidates.begin(), candidates.end(), [&](const Candidate* one) {
+        return one->identity == candidates.front()->identity;
+    });
+    return isOne ? candidates.front() : nullptr;
 }
 
 } // namespace tarsil

@@ -21,13 +21,16 @@ namespace fs = std::filesystem;
 
 fs::path folderOf(const std::string& workspacePath)
 {
-    return nativePath(resolvePath(workspacePath).folder + "\\");
+    return nativePath(joinPath(resolvePath(workspacePath).folder, "x")).parent_path();
 }
 
-/// The spelling by which entries of one path know each other.
+/// The spelling by which entries of one path know each other. On the platform of drive letters case
+/// does not count.
 std::string keyOf(const std::string& stored)
 {
-    return pathText(nativePath(stored));
+    const std::string path = pathText(nativePath(stored));
+    const bool hasDrive = path.size() > 1 && path[1] == ':';
+    return hasDrive ? withoutCase(path) : path;
 }
 
 /// Adds the files that moved together with some of their stored folders, without looking for them.
@@ -43,16 +46,16 @@ void addNearFiles(const fs::path& folder, const std::string& stored, FileMatchin
 }
 
 /// The files of paths that are not at their stored places.
-std::map<std::string, fs::path> movedFiles(const std::set<std::string>& missing,
+std::map<std::string, fs::path> movedFiles(const std::map<std::string, std::string>& missing,
                                            const fs::path& folder, FileMatching& matching)
 {
     std::set<std::string> names;
-    for (const std::string& stored : missing)
+    for (const auto& [key, stored] : missing)
         names.insert(withoutCase(pathText(nativePath(stored).filename())));
     const FileSearch search = filesBelow(folder, names);
     for (const fs::path& file : search.files)
         matching.addFile(file);
-    for (const std::string& stored : missing) {
+    for (const auto& [key, stored] : missing) {
         if (!search.isComplete)
             addNearFiles(folder, stored, matching);
     }
@@ -72,14 +75,14 @@ std::vector<std::string> foundFiles(const std::vector<std::string>& stored,
                                     const std::string& workspacePath)
 {
     std::vector<std::string> files;
-    FileMatching matching;
-    std::set<std::string> missing;
+    FileMatching matching(folderOf(workspacePath));
+    std::map<std::string, std::string> missing; ///< stored paths by their keys
     for (const std::string& one : stored) {
         files.push_back(storedPlace(one, workspacePath));
         if (fileExists(files.back()))
-            matching.take(nativePath(files.back()));
-        else if (missing.insert(keyOf(one)).second)
-            matching.addPath(keyOf(one));
+            matching.take(keyOf(one), one, nativePath(files.back()));
+        else if (missing.emplace(keyOf(one), one).second)
+            matching.addPath(keyOf(one), one);
     }
     const auto moved = movedFiles(missing, folderOf(workspacePath), matching);
     for (std::size_t i = 0; i < files.size(); ++i) {
@@ -88,6 +91,18 @@ std::vector<std::string> foundFiles(const std::vector<std::string>& stored,
             files[i] = pathText(file->second);
     }
     return files;
+}
+
+bool isTakenByNameAlone(const std::string& stored, const std::string& found,
+                        const std::string& workspacePath)
+{
+    const auto folderName = [](const fs::path& path) {
+        return withoutCase(pathText(path.parent_path().filename()));
+    };
+    const fs::path file = nativePath(found);
+    const fs::path place = nativePath(storedPlace(stored, workspacePath));
+    return file != place && file.parent_path() != folderOf(workspacePath)
+        && folderName(file) != folderName(place);
 }
 
 } // namespace tarsil

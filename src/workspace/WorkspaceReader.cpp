@@ -6,6 +6,7 @@
 #include "workspace/ValueFields.h"
 #include "workspace/WorkspaceKeys.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <optional>
 #include <utility>
@@ -15,6 +16,18 @@ namespace tarsil {
 namespace {
 
 namespace keys = workspacekeys;
+
+/// The length of the longest field of a value.
+std::size_t longestField(std::string_view value)
+{
+    std::size_t longest = 0;
+    for (std::size_t begin = 0; begin <= value.size();) {
+        const std::size_t end = std::min(value.find('\0', begin), value.size());
+        longest = std::max(longest, end - begin);
+        begin = end + 1;
+    }
+    return longest;
+}
 
 /// Reads one file into one record.
 class WorkspaceReader
@@ -30,9 +43,9 @@ public:
 private:
     void readAll();
     std::string place(std::string_view section, std::string_view key);
-    std::string text(std::string_view section, std::string_view key,
-                     std::string_view otherwise) const;
-    std::string fields(std::string_view section, std::string_view key) const;
+    std::string text(std::string_view section, std::string_view key, std::string_view otherwise);
+    std::string fields(std::string_view section, std::string_view key);
+    void noteCut(std::string_view section, std::string_view key, std::size_t longest);
     int count(std::string_view section, std::string_view key);
 
     void readFiles();
@@ -80,16 +93,27 @@ std::string WorkspaceReader::place(std::string_view section, std::string_view ke
     return m_name + ", [" + std::string(section) + "], " + std::string(key);
 }
 
+/// Notes a value of which a part of `longest` bytes is more than is taken.
+void WorkspaceReader::noteCut(std::string_view section, std::string_view key, std::size_t longest)
+{
+    if (longest > mostStoredBytes)
+        m_reading.cutValues.push_back({std::string(section), std::string(key), longest});
+}
+
 /// A text in one piece, in which NUL stands for a line break just as in rich texts.
 std::string WorkspaceReader::text(std::string_view section, std::string_view key,
-                                  std::string_view otherwise) const
+                                  std::string_view otherwise)
 {
+    if (const auto entry = m_ini.entry(section, key))
+        noteCut(section, key, entry->value.size());
     return rtfFromStoredValue(m_ini.text(section, key).value_or(std::string(otherwise)));
 }
 
 /// A value of several fields.
-std::string WorkspaceReader::fields(std::string_view section, std::string_view key) const
+std::string WorkspaceReader::fields(std::string_view section, std::string_view key)
 {
+    if (const auto entry = m_ini.entry(section, key))
+        noteCut(section, key, longestField(entry->value));
     return m_ini.fields(section, key).value_or(std::string(keys::absent));
 }
 
@@ -137,8 +161,10 @@ TextRecord WorkspaceReader::box(std::string_view section, std::string_view textK
 {
     TextRecord record;
     const std::string_view rtf = m_ini.bytes(section, textKey).value_or(keys::absent);
-    if (rtf != keys::absent)
+    if (rtf != keys::absent) {
         record.rtf = rtfFromStoredValue(rtf);
+        noteCut(section, textKey, m_ini.entry(section, textKey)->value.size());
+    }
     const std::string position = fields(section, positionKey);
     if (position != keys::absent) {
         const ValueFields values(position, 2, place(section, positionKey));

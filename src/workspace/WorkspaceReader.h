@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tarsil {
 
@@ -29,6 +30,8 @@ struct WorkspaceReading
     // The value that raised it; it may be absent.
     std::string section;
     std::string key;
+
+    std::vector<LongValue> cutValues; ///< texts of which the file holds more than the record
 };
 
 /// The same for a caller that wants both; raises no such error.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -79,6 +80,16 @@ struct WorkspaceRecord
     std::vector<PlotRecord> plots;
 
     bool operator==(const WorkspaceRecord&) const = default;
+};
+
+/// A value of more bytes than the format reads (`mostStoredBytes`).
+struct LongValue
+{
+    std::string section;
+    std::string key;
+    std::size_t bytes = 0;
+
+    bool operator==(const LongValue&) const = default;
 };
 
 } // namespace tarsil

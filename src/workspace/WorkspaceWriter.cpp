@@ -79,7 +79,6 @@ public:
 private:
     void begin(std::string_view section);
     void add(std::string_view key, std::string_view value);
-    void addFields(std::string_view key, std::initializer_list<std::string> fields);
     void addLine(std::string_view key, std::string_view value);
     void addText(std::string_view key, std::string_view text) { add(key, encoded(oneLine(text))); }
     void addDescription(const std::string& text);
@@ -135,17 +134,6 @@ void WorkspaceWriter::add(std::string_view key, std::string_view value)
     addLine(key, value);
 }
 
-/// Values of several fields are cut field by field.
-void WorkspaceWriter::addFields(std::string_view key, std::initializer_list<std::string> fields)
-{
-    const auto longest = std::max_element(
-        fields.begin(), fields.end(),
-        [](const std::string& one, const std::string& other) { return one.size() < other.size(); });
-    if (longest->size() > mostStoredBytes)
-        m_result.longValues.push_back({m_section, std::string(key), longest->size()});
-    addLine(key, joined(fields));
-}
-
 void WorkspaceWriter::addLine(std::string_view key, std::string_view value)
 {
     const std::string_view quote = needsQuotes(value) ? "\"" : "";
@@ -196,26 +184,26 @@ void WorkspaceWriter::addRichText(std::string_view key, const TextRecord& box)
 void WorkspaceWriter::addPosition(std::string_view key, const TextRecord& box)
 {
     if (box.position)
-        addFields(key, {number(key, box.position->left), number(key, box.position->top)});
+        add(key, joined({number(key, box.position->left), number(key, box.position->top)}));
     else
         add(key, keys::absent);
 }
 
 void WorkspaceWriter::addAxis(std::string_view key, const AxisRecord& axis)
 {
-    addFields(key,
-              {field(axis.label), number(key, axis.min), number(key, axis.max),
-               std::to_string(axis.ticks)});
+    add(key,
+        joined({field(axis.label), number(key, axis.min), number(key, axis.max),
+                std::to_string(axis.ticks)}));
 }
 
 void WorkspaceWriter::addSeries(std::string_view key, const SeriesRecord& series)
 {
-    addFields(key,
-              {std::to_string(series.evolution), std::to_string(series.mode),
-               field(series.markerTag), std::to_string(series.markerSize),
-               std::to_string(series.markerSpacing), std::to_string(series.markerStyle),
-               field(series.legendText), std::to_string(series.colorIndex),
-               std::to_string(series.markerForegroundColor)});
+    add(key,
+        joined({std::to_string(series.evolution), std::to_string(series.mode),
+                field(series.markerTag), std::to_string(series.markerSize),
+                std::to_string(series.markerSpacing), std::to_string(series.markerStyle),
+                field(series.legendText), std::to_string(series.colorIndex),
+                std::to_string(series.markerForegroundColor)}));
 }
 
 std::string WorkspaceWriter::encoded(const std::string& text)

@@ -2,27 +2,16 @@
 
 #include "workspace/WorkspaceRecord.h"
 
-#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace tarsil {
 
-/// A value that is written whole, but is too long to be read whole, or has a field that is.
-struct LongValue
-{
-    std::string section;
-    std::string key;
-    std::size_t bytes = 0; ///< of the value, or of its longest field
-
-    bool operator==(const LongValue&) const = default;
-};
-
 struct WrittenWorkspace
 {
     std::string bytes;
-    std::vector<LongValue> longValues; ///< in the order of the file
+    std::vector<LongValue> longValues; ///< written whole, in the order of the file
 };
 
 /// Turns a record into the bytes of a workspace file saved by that user (his name ends at its first

@@ -231,7 +231,9 @@ TEST_F(WorkspaceCommandsTest, findMovedFilesBesideTheWorkspaceAndBelow)
     std::filesystem::rename(folder.file("one.ev2"), elsewhere.file("one.ev2"));
     std::filesystem::rename(folder.file("two.ev2"), elsewhere.file("deep/down/two.ev2"));
     open(elsewhere.file("case.tsw"));
-    EXPECT_TRUE(user.messages.empty());
+    ASSERT_EQ(user.messages.size(), 1U) << "of the file that has only its name";
+    EXPECT_THAT(user.messages[0].text, HasSubstr("deep/down/two.ev2"));
+    EXPECT_THAT(user.messages[0].text, Not(HasSubstr(elsewhere.file("one.ev2"))));
     EXPECT_EQ(window.session().evolutions.size(), 2U);
     EXPECT_EQ(plot().SeriesCollection().size(), 14U);
 }
@@ -265,10 +267,45 @@ TEST_F(WorkspaceCommandsTest, askTwiceBeforeWhatCouldNotBeOpenedIsLost)
     save();
     ASSERT_EQ(user.questions.size(), 2U);
     EXPECT_EQ(user.questions[0], "The file 'case.tsw' already exists. Do you want to replace it?");
-    EXPECT_THAT(user.questions[1], StartsWith("Some of this workspace could not be opened"));
+    EXPECT_THAT(user.questions[1], StartsWith("Some of this workspace could not be opened "));
     EXPECT_EQ(bytes(), whole);
     save("copy.tsw");
     EXPECT_EQ(user.questions.size(), 2U) << "the other file is whole";
+}
+
+TEST_F(WorkspaceCommandsTest, tellOfAFileThatIsTakenByItsNameAlone)
+{
+    work();
+    save();
+    choose("mnuNewWorkspace");
+    std::filesystem::create_directory(folder.file("other"));
+    std::filesystem::rename(folder.file("one.ev2"), folder.file("other/one.ev2"));
+    user.questions.clear();
+    open(folder.file("case.tsw"));
+    ASSERT_EQ(user.messages.size(), 1U);
+    EXPECT_THAT(user.messages[0].text,
+                StartsWith("These modal evolutions are not where the workspace says."));
+    EXPECT_THAT(user.messages[0].text,
+                HasSubstr("\n" + folder.file("one.ev2") + ": " + folder.file("other/one.ev2")));
+    user.confirmations = {true, false};
+    save();
+    EXPECT_EQ(user.questions.size(), 2U) << "the true place would be lost";
+}
+
+TEST_F(WorkspaceCommandsTest, tellOfTextsThatWereCutAndAskBeforeTheyAreLost)
+{
+    work();
+    plot().setBoxText(0, QString(3000, u'x'));
+    save();
+    const std::string whole = bytes();
+    choose("mnuNewWorkspace");
+    user.questions.clear();
+    open(folder.file("case.tsw"));
+    EXPECT_THAT(user.statuses.back(), StartsWith("Header of [PLOT1] is cut"));
+    user.confirmations = {true, false};
+    save();
+    EXPECT_EQ(user.questions.size(), 2U);
+    EXPECT_EQ(bytes(), whole);
 }
 
 TEST_F(WorkspaceCommandsTest, reportADamagedFileAndGoOn)

@@ -109,18 +109,27 @@ TEST_F(ReportOfAWorkspace, leavesOutTheSeriesOfAMissingFile)
     EXPECT_EQ(rows(), "wing.ev2 torsion 5 250|wing.ev2 bending 3 350|");
 }
 
-TEST_F(ReportOfAWorkspace, takesNoFileForTheNamesakeThatIsMissing)
+TEST_F(ReportOfAWorkspace, takesNoFileThatSeveralPathsMean)
 {
     WorkspaceRecord record = this->record();
     record.files = {"C:\\clean\\wing.ev2", "C:\\store\\wing.ev2"};
     const std::string path = write(record);
     const auto result = report({path});
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.err,
-              "tarsil-batch: " + path
-                  + ": the series of modal evolution 2 are left out: File not found: "
-                    "C:\\store\\wing.ev2\n");
-    EXPECT_EQ(rows(), "wing.ev2 torsion 5 250|wing.ev2 bending 3 350|");
+    for (const char* gone : {"C:\\clean\\wing.ev2\n", "C:\\store\\wing.ev2\n"})
+        EXPECT_THAT(result.err, HasSubstr("are left out: File not found: " + std::string(gone)));
+    EXPECT_EQ(rows(), "");
+}
+
+TEST_F(ReportOfAWorkspace, saysWhichFilesAreTakenForTheirNamesAlone)
+{
+    std::filesystem::create_directories(folder().path() / "other");
+    std::filesystem::rename(old, folder().path() / "other" / "old.evm");
+    const std::string path = write(record());
+    const auto result = report({path});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_THAT(result.err, HasSubstr("modal evolution 2, C:/flutter/old.evm, is not there; "));
+    EXPECT_THAT(result.err, HasSubstr("other/old.evm is taken for its name alone\n"));
 }
 
 TEST_F(ReportOfAWorkspace, tellsNamesakesApartByTheirFolders)

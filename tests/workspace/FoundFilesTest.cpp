@@ -64,8 +64,10 @@ TEST_F(FoundFiles, areBelowTheFolderOfTheWorkspace)
 {
     const std::string deep = writeBelow("a/b/c", "wing.ev2");
     EXPECT_EQ(found("C:\\flutter\\wing.ev2"), deep);
-    const std::string near = writeBelow("z", "wing.ev2");
-    EXPECT_EQ(found("C:\\flutter\\wing.ev2"), near);
+    writeBelow("z", "wing.ev2");
+    EXPECT_EQ(found("C:\\flutter\\wing.ev2"), "C:/flutter/wing.ev2") << "which one is unknown";
+    const std::string named = writeBelow("y/Flutter", "wing.ev2");
+    EXPECT_EQ(found("C:\\flutter\\wing.ev2"), named);
 }
 
 TEST_F(FoundFiles, areNoFolders)
@@ -92,11 +94,31 @@ TEST_F(FoundFiles, keepTheirOrderAndTheStoredPathOfWhatIsNowhere)
 
 TEST_F(FoundFiles, areThoseThatShareMostOfTheirLastFolders)
 {
-    const std::string near = folder.write("wing.ev2", "x");
+    folder.write("wing.ev2", "x");
     const std::string clean = writeBelow("2024/runs/clean", "wing.ev2");
     const std::string store = writeBelow("2024/runs/store", "wing.ev2");
     EXPECT_THAT(foundAll({"D:\\runs\\store\\wing.ev2", "C:\\wing.ev2", "E:\\clean\\wing.ev2"}),
-                ElementsAre(store, near, clean));
+                ElementsAre(store, "C:/wing.ev2", clean));
+}
+
+TEST_F(FoundFiles, areNotTakenByTheirNamesWhereSeveralPathsHaveThem)
+{
+    // The run of m060 is gone; that of m050 is not of this workspace.
+    const std::string listed = writeBelow("m040", "wing.ev2");
+    writeBelow("m050", "wing.ev2");
+    const std::string gone = folder.file("m060/wing.ev2");
+    EXPECT_THAT(foundAll({listed, gone}), ElementsAre(listed, gone));
+}
+
+TEST_F(FoundFiles, areKnownToBeTakenByTheirNamesAlone)
+{
+    const std::string workspace = folder.file("case.tsw");
+    const std::string stored = "C:\\store\\wing.ev2";
+    EXPECT_TRUE(isTakenByNameAlone(stored, folder.file("other/wing.ev2"), workspace));
+    EXPECT_FALSE(isTakenByNameAlone(stored, folder.file("wing.ev2"), workspace)) << "beside it";
+    EXPECT_FALSE(isTakenByNameAlone(stored, folder.file("a/STORE/wing.ev2"), workspace));
+    EXPECT_FALSE(isTakenByNameAlone(stored, stored, workspace)) << "not found at all";
+    EXPECT_FALSE(isTakenByNameAlone("runs/wing.ev2", writeBelow("runs", "wing.ev2"), workspace));
 }
 
 TEST_F(FoundFiles, shareTheFoldersThatHoldTheWorkspaceToo)
@@ -108,21 +130,15 @@ TEST_F(FoundFiles, shareTheFoldersThatHoldTheWorkspaceToo)
     EXPECT_EQ(found("C:\\other\\wing.ev2"), other);
 }
 
-TEST_F(FoundFiles, areTakenByOneStoredPathOnly)
+TEST_F(FoundFiles, areTakenByNoneOfSeveralPathsThatMeanThemEqually)
 {
-    const std::string wing = folder.write("wing.ev2", "x");
+    folder.write("wing.ev2", "x");
+    writeBelow("x", "wing.ev2");
     EXPECT_THAT(foundAll({"C:\\a\\wing.ev2", "C:\\b\\wing.ev2"}),
-                ElementsAre(wing, "C:/b/wing.ev2"));
-    EXPECT_THAT(foundAll({"C:\\a\\wing.ev2", "C:\\b\\wing.ev2", "C:/a/wing.ev2"}),
-                ElementsAre(wing, "C:/b/wing.ev2", wing));
-}
-
-TEST_F(FoundFiles, areNotGuessedForASecondPathThatMeansThemAsWell)
-{
-    const std::string first = writeBelow("x", "wing.ev2");
-    writeBelow("y", "wing.ev2");
-    EXPECT_THAT(foundAll({"C:\\a\\wing.ev2", "C:\\b\\wing.ev2"}),
-                ElementsAre(first, "C:/b/wing.ev2"));
+                ElementsAre("C:/a/wing.ev2", "C:/b/wing.ev2"));
+    EXPECT_THAT(foundAll({"C:\\a\\wing.ev2", "C:/a/wing.ev2"}),
+                ElementsAre(folder.file("wing.ev2"), folder.file("wing.ev2")))
+        << "one path in two spellings";
 }
 
 TEST_F(FoundFiles, belongToThePathThatMeansThemBest)
@@ -161,15 +177,21 @@ TEST_F(FoundFiles, areFoundWithoutCaseWhereNoNameIsTheSame)
     EXPECT_EQ(found("C:\\STORE\\WING_\u00dc.EV2"), wing);
     const std::string exact = writeBelow("A", "TAIL.EV2");
     EXPECT_EQ(found("C:\\x\\TAIL.EV2"), exact);
-    EXPECT_THAT(foundAll({"C:\\x\\tail.ev2", "C:\\x\\TAIL.EV2"}),
+    EXPECT_THAT(foundAll({"/x/tail.ev2", "/x/TAIL.EV2"}),
                 ElementsAre(folder.file("other/tail.ev2"), exact));
 }
 
-TEST_F(FoundFiles, areSharedByNoTwoPathsThatDifferInCase)
+TEST_F(FoundFiles, areOneWherePathsOfADriveDifferInCase)
+{
+    const std::string wing = writeBelow("m040", "wing.ev2");
+    writeBelow("m060", "wing.ev2");
+    EXPECT_THAT(foundAll({"C:\\m040\\wing.ev2", "C:\\M040\\WING.EV2"}), ElementsAre(wing, wing));
+}
+
+TEST_F(FoundFiles, areTwoWhereOtherPathsDifferInCase)
 {
     const std::string wing = folder.write("wing.ev2", "x");
-    EXPECT_THAT(foundAll({"C:\\a\\WING.EV2", "C:\\a\\wing.ev2"}),
-                ElementsAre("C:/a/WING.EV2", wing));
+    EXPECT_THAT(foundAll({"/a/WING.EV2", "/a/wing.ev2"}), ElementsAre("/a/WING.EV2", wing));
 }
 
 TEST_F(FoundFiles, areFoundInAVastFolderWithTheirStoredFolders)
