@@ -90,6 +90,8 @@ AtomicFile::~AtomicFile()
 
 void AtomicFile::write(std::string_view bytes)
 {
+    if (bytes.empty())
+        return; // whose data may be null, which the platform does not take
     errno = 0;
     if (std::fwrite(bytes.data(), 1, bytes.size(), m_file.get()) != bytes.size())
         fail(errno);

@@ -81,6 +81,13 @@ TEST(AtomicFile, makesAFileThatWasNotThere)
     EXPECT_EQ(fileBytes(folder.file("new file.txt")), "text");
 }
 
+TEST(AtomicFile, makesAnEmptyFile)
+{
+    const TemporaryFolder folder;
+    writeFile(folder.file("empty.txt"), {});
+    EXPECT_EQ(fileBytes(folder.file("empty.txt")), "");
+}
+
 TEST(AtomicFile, takesBackslashesInItsPath)
 {
     const TemporaryFolder folder;
