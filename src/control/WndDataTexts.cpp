@@ -8,6 +8,7 @@
 #include "control/PlotTitles.h"
 #include "model/EVM.h"
 #include "runtime/Numbers.h"
+#include "runtime/PathNames.h"
 #include "runtime/RunTimeError.h"
 #include "runtime/UserInterface.h"
 #include "vgf/WndEvolPlot.h"
@@ -115,7 +116,7 @@ void wndData::btnPlotLeg_Click()
 }
 
 /// A dialog that is cancelled leaves the plot's caption standing as the name, and that is written;
-/// the status bar says where.
+/// the status bar says where. It has not asked before a file of that name is replaced, then.
 void wndData::SavePic_Click()
 {
     EvmPlot* const plot = activePlot();
@@ -123,6 +124,10 @@ void wndData::SavePic_Click()
         return;
     const std::string caption = plot->Caption().toStdString();
     const auto answer = m_user.askSaveFile({std::string(pictureFilter), 1, false, caption, true});
+    if (!answer && fileExists(caption)
+        && !m_user.confirm("The file '" + caption + "' already exists. Do you want to replace it?",
+                           "Tarsil"))
+        return;
     const QString name = QString::fromStdString(answer.value_or(caption));
     plot->ExportPic(name);
     if (!answer)

@@ -284,9 +284,16 @@ TEST_F(WndDataTexts, savesThePictureUnderTheCaptionWhenTheDialogIsCancelled)
     const QString before = QDir::currentPath();
     QDir::setCurrent(QString::fromStdString(folder.path().string()));
     click("SavePic");
-    QDir::setCurrent(before);
-    EXPECT_GT(test::fileBytes(folder.file("Plot1")).size(), 44U);
+    const std::string picture = test::fileBytes(folder.file("Plot1"));
+    EXPECT_GT(picture.size(), 44U);
     EXPECT_THAT(user.statuses.back(), HasSubstr("/Plot1"));
+    EXPECT_THAT(user.questions, IsEmpty());
+    plot().setBoxText(0, QStringLiteral("another picture"));
+    click("SavePic");
+    EXPECT_THAT(user.questions,
+                ElementsAre("The file 'Plot1' already exists. Do you want to replace it?"));
+    EXPECT_EQ(test::fileBytes(folder.file("Plot1")), picture) << "the answer was no";
+    QDir::setCurrent(before);
 }
 
 TEST_F(WndDataTexts, reportsAPictureThatCannotBeWritten)
