@@ -52,7 +52,7 @@ protected:
             person.type(QStringLiteral("0|450|0|-0.25|0|20"));
             person.press("Tab");
             person.type(QStringLiteral("9|5|4"));
-            EXPECT_TRUE(waitUntil([this] { return person.standsStill(optionsDialog); }));
+            EXPECT_TRUE(person.standsStill(optionsDialog));
             keepForTheGuide("options.png", person.look(optionsDialog));
             person.press("shift+Tab shift+Tab shift+Tab ctrl+a");
             person.type(QString::fromStdString(sample("goland.inp")));

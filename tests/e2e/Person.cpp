@@ -1,7 +1,5 @@
 #include "Person.h"
 
-#include <QThread>
-
 #include <gtest/gtest.h>
 
 namespace tarsil::test {
@@ -9,6 +7,7 @@ namespace tarsil::test {
 namespace {
 
 const QString mainWindow = QStringLiteral("^Tarsil 4\\.0$");
+constexpr int enoughLooks = 5; // in a row that see the same
 constexpr QPoint onCanvas(700, 480);
 constexpr QPoint aside(400, 787); // where the pointer is in no picture: the status bar
 
@@ -144,14 +143,13 @@ bool Person::waitForColor(QRgb color) const
 
 QImage Person::plotWith(QRgb color, bool isThere) const
 {
-    constexpr int enough = 5; // looks in a row that see the same
     int looks = 0;
     QImage picture;
     EXPECT_TRUE(m_display.waitForScreen([&](const QImage& screen) {
         const QImage now = screen.copy(plotArea);
         looks = now == picture && (count(screen, plotArea, color) > 0) == isThere ? looks + 1 : 0;
         picture = now;
-        return looks == enough;
+        return looks == enoughLooks;
     }));
     return picture;
 }
@@ -168,10 +166,13 @@ bool Person::seesChange(const QRect& rectangle, const QImage& before) const
 
 bool Person::standsStill(const QRect& rectangle) const
 {
-    constexpr unsigned long moment = 300; // milliseconds
-    const QImage before = look(rectangle);
-    QThread::msleep(moment);
-    return look(rectangle) == before;
+    int looks = 0;
+    QImage picture;
+    return waitFor(rectangle, [&](const QImage& now) {
+        looks = now == picture ? looks + 1 : 0;
+        picture = now;
+        return looks == enoughLooks;
+    });
 }
 
 bool Person::waitFor(const QRect& rectangle,

@@ -67,7 +67,7 @@ public:
     /// Whether a rectangle comes to look other than in a picture.
     bool seesChange(const QRect& rectangle, const QImage& before) const;
 
-    /// Whether a rectangle looks the same after a moment.
+    /// Whether a rectangle comes to look the same several times in a row.
     bool standsStill(const QRect& rectangle) const;
 
     /// A picture of a part of the screen.

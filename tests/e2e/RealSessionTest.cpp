@@ -94,7 +94,7 @@ TEST(RealSession, savesTheRowsInTheOrderInWhichTheyWereDragged)
     constexpr QPoint firstRow(30, 265); // in the column "Idx", which is its handle
     constexpr QPoint belowTheThirdRow(30, 311);
     person.drag(firstRow, belowTheThirdRow, dataArea);
-    EXPECT_TRUE(waitUntil([&person] { return person.standsStill(dataArea); }));
+    EXPECT_TRUE(person.standsStill(dataArea));
     person.nameFile("ctrl+s", "^Save", file);
     EXPECT_TRUE(waitUntil([&file] { return QFile::exists(file); }));
     const std::string saved = fileBytes(file.toStdString());
