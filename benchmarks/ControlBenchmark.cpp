@@ -12,8 +12,10 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include <cmath>
+#include <cstdio>
+#include <numeric>
 #include <optional>
+#include <vector>
 
 namespace {
 
@@ -88,7 +90,9 @@ int main(int argc, char** argv)
     plots.show();
     data.show();
     auto* const grid = data.findChild<SeriesGridView*>();
-    grid->selectRows(0, rowCount, static_cast<int>(SeriesColumn::Mode));
+    std::vector<std::size_t> rows(rowCount);
+    std::iota(rows.begin(), rows.end(), std::size_t {0});
+    grid->selectRows(rows, static_cast<int>(SeriesColumn::Mode));
     const auto paint = [&] {
         plots.grab();
         data.grab();
