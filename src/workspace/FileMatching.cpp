@@ -77,13 +77,14 @@ std::map<std::string, fs::path> FileMatching::match()
     return std::exchange(m_matches, {});
 }
 
-/// Whether no other path of the workspace has the same last names, so many.
-bool FileMatching::isTold(const Wanted& wanted, std::size_t length, NameList names) const
+/// How many paths of the workspace have the same last names, so many.
+std::unordered_map<std::string, int> FileMatching::listedTails(std::size_t length,
+                                                               NameList names) const
 {
-    const std::string text = tail(wanted.names.*names, length);
-    return std::none_of(m_listed.begin(), m_listed.end(), [&](const auto& other) {
-        return other.first != wanted.key && tail(other.second.*names, length) == text;
-    });
+    std::unordered_map<std::string, int> tails;
+    for (const auto& [key, listed] : m_listed)
+        ++tails[tail(listed.*names, length)];
+    return tails;
 }
 
 /// Gives files to the paths whose last names, so many, are those of a free file.
@@ -95,9 +96,11 @@ void FileMatching::settle(std::size_t length, NameList names)
         if (!text.empty() && !m_taken.contains(candidate.identity))
             free[text].push_back(&candidate);
     }
+    const auto listed = listedTails(length, names);
     for (Wanted& wanted : m_wanted) {
-        const auto place = free.find(tail(wanted.names.*names, length));
-        if (!wanted.isSettled && place != free.end() && isTold(wanted, length, names))
+        const std::string text = tail(wanted.names.*names, length);
+        const auto place = free.find(text);
+        if (!wanted.isSettled && place != free.end() && listed.at(text) == 1)
             give(wanted, place->second);
     }
 }

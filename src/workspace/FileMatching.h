@@ -5,6 +5,7 @@
 #include <map>
 #include <set>
 #include <string>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -63,7 +64,7 @@ private:
 
     static Names namesOf(const std::filesystem::path& path);
     static std::string tail(const std::vector<std::string>& names, std::size_t length);
-    bool isTold(const Wanted& wanted, std::size_t length, NameList names) const;
+    std::unordered_map<std::string, int> listedTails(std::size_t length, NameList names) const;
     void settle(std::size_t length, NameList names);
     void give(Wanted& wanted, const std::vector<const Candidate*>& candidates);
     const Candidate* onlyOne(const std::vector<const Candidate*>& candidates) const;
