@@ -5,7 +5,10 @@
 #include "runtime/PathNames.h"
 #include "vgf/EvmPlot.h"
 
+#include <QApplication>
 #include <QColor>
+#include <QIcon>
+#include <QStyle>
 
 #include <algorithm>
 #include <array>
@@ -43,6 +46,11 @@ QString lineText(const Series& series)
         .arg(color & 0xFF)
         .arg((color >> 8) & 0xFF)
         .arg((color >> 16) & 0xFF);
+}
+
+QVariant warningIcon()
+{
+    return QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
 }
 
 /// Why the number of a row is red.
@@ -163,6 +171,12 @@ QVariant SeriesGridModel::data(const QModelIndex& index, int role) const
     case Qt::TextAlignmentRole:
         return column == SeriesColumn::Index || column == SeriesColumn::Mode
             ? QVariant(static_cast<int>(Qt::AlignRight | Qt::AlignVCenter))
+            : QVariant();
+    case Qt::DecorationRole: // seen in a selected cell, too, where the colour is that of selections
+        return column == SeriesColumn::Mode && !isDrawn(index.row()) ? warningIcon() : QVariant();
+    case Qt::AccessibleDescriptionRole:
+        return column == SeriesColumn::Mode && !isDrawn(index.row())
+            ? QVariant(notDrawnText(*one, modeNumber(index.row())))
             : QVariant();
     case Qt::ForegroundRole:
         return column == SeriesColumn::Mode && !isDrawn(index.row()) ? QColor(Qt::red) : QVariant();

@@ -69,7 +69,7 @@ void wndData::connectGrid()
     QHeaderView& header = *grid.horizontalHeader();
     header.setHighlightSections(false);
     header.setStretchLastSection(true);
-    constexpr std::array widths = {36, 170, 44, 44, 48};
+    constexpr std::array widths = {36, 170, 44, 52, 44};
     for (int column = 0; column < static_cast<int>(widths.size()); ++column)
         header.resizeSection(column, widths[static_cast<std::size_t>(column)]);
     connect(&grid, &SeriesGridView::removeWanted, this, runs(&wndData::cmdRemove_Click));

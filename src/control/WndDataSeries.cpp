@@ -34,7 +34,7 @@ std::int32_t countIn(const QLineEdit& input, double most = std::numeric_limits<s
         throwNumberError(NumberStatus::Overflow, text, module, where);
     if (count < 1 || count > most)
         throw RunTimeError(ErrorNumber::InvalidProcedureCall, std::string(module),
-                           where + ": " + text);
+                           where + ": " + text + " is not from 1 to " + shortestText(most));
     return static_cast<std::int32_t>(count);
 }
 

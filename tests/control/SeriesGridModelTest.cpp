@@ -7,6 +7,7 @@
 
 #include <QAbstractItemModelTester>
 #include <QColor>
+#include <QIcon>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -47,9 +48,14 @@ protected:
     {
         return model.setData(index(row, column), QString::fromLatin1(typed), Qt::EditRole);
     }
+    /// Whether a mode number is marked as not drawn, in its colour and by a sign beside it.
     bool isRed(int row)
     {
-        return model.data(index(row, SeriesColumn::Mode), Qt::ForegroundRole).value<QColor>()
+        const QModelIndex cell = index(row, SeriesColumn::Mode);
+        const bool hasSign = !model.data(cell, Qt::DecorationRole).value<QIcon>().isNull();
+        EXPECT_EQ(hasSign, !text(row, SeriesColumn::Mode, Qt::AccessibleDescriptionRole).empty());
+        return hasSign
+            && model.data(index(row, SeriesColumn::Mode), Qt::ForegroundRole).value<QColor>()
             == QColor(Qt::red);
     }
 

@@ -126,6 +126,19 @@ TEST_F(SeriesGridViewTest, keepsWhatIsBeingTypedWhenThePlotChanges)
     EXPECT_EQ(series()[1].LegendText, QStringLiteral("typed"));
 }
 
+TEST_F(SeriesGridViewTest, showsAModeThatIsNotDrawnInASelectedCellToo)
+{
+    select(0, 1, SeriesColumn::Mode);
+    const QRect cell = grid().visualRect(model().index(0, static_cast<int>(SeriesColumn::Mode)));
+    // The left half of the cell, where no digit stands.
+    const QRect beside(cell.topLeft(), QSize(cell.width() / 2, cell.height()));
+    const QImage before = grid().viewport()->grab(beside).toImage();
+    press(Qt::Key_Minus);
+    EXPECT_NE(grid().viewport()->grab(beside).toImage(), before);
+    press(Qt::Key_Plus);
+    EXPECT_EQ(grid().viewport()->grab(beside).toImage(), before);
+}
+
 TEST_F(SeriesGridViewTest, keepsTheSelectionWhenACurveIsAdded)
 {
     select(1, 2, SeriesColumn::Mode);
