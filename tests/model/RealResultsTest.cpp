@@ -19,7 +19,7 @@ namespace {
 
 void read(EVM& evolution, const std::string& name)
 {
-    const FilePath file = resolvePath(std::string(TARSIL_REAL_RESULTS) + "/" + name);
+    const FilePath file = resolvePath(test::realResults() + "/" + name);
     evolution.Folder = file.folder;
     evolution.FileName = file.name;
     evolution.Contruct();
@@ -30,7 +30,7 @@ class RealResults : public ::testing::TestWithParam<const char*>
 protected:
     void SetUp() override
     {
-        if (!std::filesystem::is_directory(TARSIL_REAL_RESULTS))
+        if (!std::filesystem::is_directory(test::realResults()))
             GTEST_SKIP() << "the real flutter results are not on this machine";
     }
 };
@@ -73,7 +73,7 @@ TEST_P(RealResults, haveTheSameFindingsInBothLayouts)
 {
     const auto textsOf = [](const std::string& extension) {
         std::vector<std::string> texts;
-        const std::string path = std::string(TARSIL_REAL_RESULTS) + "/" + GetParam() + extension;
+        const std::string path = test::realResults() + "/" + GetParam() + extension;
         for (const Finding& finding : checkEvolution(path))
             texts.push_back(finding.text.substr(0, finding.text.find(" the speed")));
         return texts;

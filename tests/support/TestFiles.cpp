@@ -44,4 +44,9 @@ std::string sample(std::string_view name)
     return std::string(TARSIL_SAMPLES) + "/" + std::string(name);
 }
 
+std::string realResults()
+{
+    return TARSIL_REAL_RESULTS;
+}
+
 } // namespace tarsil::test
