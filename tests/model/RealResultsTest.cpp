@@ -1,6 +1,7 @@
 #include "model/EVM.h"
 #include "model/EvolutionChecker.h"
 #include "runtime/PathNames.h"
+#include "support/TestFiles.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
