@@ -160,18 +160,43 @@ NumberStatus convertByLibrary(std::string_view text, const Decimal& scanned, Num
     return NumberStatus::Ok;
 }
 
+/// Whether digits are written without an exponent when the decimal point comes after so many of
+/// them, or so many zeros before them: up to sixteen digits with the zeros, and always where the
+/// exponent would save none or few.
+bool isPlain(int digits, int point)
+{
+    constexpr int most = 16;
+    constexpr int fewZeros = 4;
+    return point > 0 ? point <= most : -point <= fewZeros || 1 - point + digits <= most;
+}
+
 template <typename Number>
 [[nodiscard]] std::string shortest(Number value)
 {
     if (value == 0)
         return "0";
     std::array<char, 64> buffer {};
-    const double magnitude = std::fabs(static_cast<double>(value));
-    const bool plain = magnitude >= 1e-5 && magnitude < 1e9;
-    const auto result =
-        std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
-                      plain ? std::chars_format::fixed : std::chars_format::scientific);
-    return {buffer.data(), result.ptr};
+    const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                       std::chars_format::scientific);
+    const std::string text(buffer.data(), written.ptr);
+    const std::size_t mark = text.find('e');
+    if (mark == std::string::npos) // no finite number
+        return text;
+    const std::string sign = text.front() == '-' ? "-" : "";
+    std::string digits = text.substr(sign.size(), mark - sign.size());
+    std::erase(digits, '.');
+    int point = 0;
+    const std::size_t exponent = mark + (text[mark + 1] == '+' ? 2 : 1);
+    std::from_chars(text.data() + exponent, text.data() + text.size(), point);
+    ++point;
+    const int count = static_cast<int>(digits.size());
+    if (!isPlain(count, point))
+        return text;
+    if (point <= 0)
+        return sign + "0." + std::string(static_cast<std::size_t>(-point), '0') + digits;
+    if (point >= count)
+        return sign + digits + std::string(static_cast<std::size_t>(point - count), '0');
+    return sign + digits.insert(static_cast<std::size_t>(point), 1, '.');
 }
 
 } // namespace

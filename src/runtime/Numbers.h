@@ -35,7 +35,7 @@ double toDouble(std::string_view text, std::string_view source, std::string_view
 /// A number rounded to a 16-bit integer, ties to even; error 6 "Overflow" outside its range.
 std::int16_t roundToInteger16(double value, std::string_view source, std::string_view where);
 
-/// The shortest decimal text that reads back the same value.
+/// The shortest digits that read back the same value; no exponent up to sixteen of them.
 std::string shortestText(float value);
 std::string shortestText(double value);
 

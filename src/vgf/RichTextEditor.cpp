@@ -1,6 +1,7 @@
 #include "vgf/RichTextEditor.h"
 
 #include "plot/QtColor.h"
+#include "runtime/Numbers.h"
 #include "vgf/RichTextDocument.h"
 
 #include <QAction>
@@ -183,7 +184,7 @@ void RichTextEditor::showFormat(const QTextCharFormat& format)
     const TextFormat look = textFormatOf(format, m_format);
     m_families->setCurrentFont(QFont(QString::fromStdString(look.family)));
     m_families->setEditText(QString::fromStdString(look.family)); // also where it is not installed
-    m_sizes->setEditText(QString::number(look.points));
+    m_sizes->setEditText(QString::fromStdString(shortestText(look.points)));
     m_bold->setChecked(look.bold);
     m_italic->setChecked(look.italic);
     m_underline->setChecked(look.underline);

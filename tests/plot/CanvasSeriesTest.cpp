@@ -189,7 +189,7 @@ TEST_F(ParticipationMarkers, showTheFactorCountedFromOne)
 {
     EXPECT_EQ(marker(1), "0.5");
     EXPECT_EQ(marker(2), "0.25");
-    EXPECT_EQ(marker(3), "-1e-05");
+    EXPECT_EQ(marker(3), "-0.00001");
 }
 
 TEST_F(ParticipationMarkers, showAQuestionMarkForAFactorThatIsNotThere)

@@ -195,6 +195,44 @@ TEST(Numbers, writesTheShortestTextThatReadsBack)
         EXPECT_EQ(single(shortestText(value)), value);
 }
 
+TEST(Numbers, writesNoExponentUpToSixteenDigits)
+{
+    EXPECT_EQ(shortestText(1e9F), "1000000000");
+    EXPECT_EQ(shortestText(2147483647.0), "2147483647");
+    EXPECT_EQ(shortestText(-1e15), "-1000000000000000");
+    EXPECT_EQ(shortestText(9007199254740991.0), "9007199254740991"); // 2^53 - 1
+    EXPECT_EQ(shortestText(1e16), "1e+16");
+    EXPECT_EQ(shortestText(12345678901234568.0), "1.2345678901234568e+16");
+    EXPECT_EQ(shortestText(1e-6F), "0.000001");
+    EXPECT_EQ(shortestText(-9.9e-6), "-0.0000099");
+    EXPECT_EQ(shortestText(1e-15), "0.000000000000001");
+    EXPECT_EQ(shortestText(1e-16), "1e-16");
+    EXPECT_EQ(shortestText(1.2345678e-8), "0.000000012345678");
+    EXPECT_EQ(shortestText(1.2345678e-9), "1.2345678e-09");
+}
+
+TEST(Numbers, writesAllDigitsOfADoubleWhereAnExponentSavesNone)
+{
+    EXPECT_EQ(shortestText(0.1 + 0.2), "0.30000000000000004");
+    EXPECT_EQ(shortestText(12345.678901234567), "12345.678901234567");
+    EXPECT_EQ(shortestText(0.00012345678901234567), "0.00012345678901234567");
+}
+
+TEST(Numbers, writesTheDigitsOfALargeSingleThatTellItFromOthers)
+{
+    // The singles next to it are 2^28, or 268435456, away: its own
+    // binary value, 3000000028082176, says no more.
+    EXPECT_EQ(shortestText(3e15F), "3000000000000000");
+    EXPECT_EQ(decimalValue(3e15F), 3e15);
+    EXPECT_EQ(shortestText(266.23883F), "266.23883");
+}
+
+TEST(Numbers, writesWhatIsNoFiniteNumberAsSuch)
+{
+    EXPECT_EQ(shortestText(std::numeric_limits<double>::infinity()), "inf");
+    EXPECT_EQ(shortestText(-std::numeric_limits<float>::infinity()), "-inf");
+}
+
 TEST(Numbers, givesTheDecimalValueThatIsReadInASingle)
 {
     EXPECT_EQ(decimalValue(352.1F), 352.1);
