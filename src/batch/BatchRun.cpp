@@ -2,6 +2,7 @@
 
 #include "runtime/PathNames.h"
 #include "runtime/RunTimeError.h"
+#include "runtime/TextCodec.h"
 
 #include <cerrno>
 #include <filesystem>
@@ -12,7 +13,7 @@ namespace tarsil::batch {
 
 void BatchRun::complain(std::string_view message)
 {
-    m_err << "tarsil-batch: " << message << '\n';
+    m_err << "tarsil-batch: " << printableText(message) << '\n';
 }
 
 EVM& BatchRun::open(const std::string& path)

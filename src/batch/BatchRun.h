@@ -26,7 +26,7 @@ public:
 
     std::ostream& out() { return m_out; }
 
-    /// Prints "tarsil-batch: " and the message on standard error.
+    /// Prints "tarsil-batch: " and the message on standard error, as one line (`printableText`).
     void complain(std::string_view message);
 
     /// Reads a modal evolution. Errors: those of `EVM::Contruct`; Failure for a name that tells no

@@ -4,6 +4,7 @@
 #include "batch/WorkspaceInput.h"
 #include "model/EvolutionChecker.h"
 #include "runtime/RunTimeError.h"
+#include "runtime/TextCodec.h"
 
 #include <ostream>
 
@@ -18,7 +19,8 @@ bool check(const std::string& path, BatchRun& run)
         const std::vector<Finding> findings =
             isWorkspace(path) ? checkWorkspace(path, run) : checkEvolution(path);
         for (const Finding& finding : findings)
-            run.out() << path << ':' << finding.line << ": " << finding.text << '\n';
+            run.out() << printableText(path) << ':' << finding.line << ": "
+                      << printableText(finding.text) << '\n';
         return findings.empty();
     } catch (const RunTimeError& error) {
         run.complain(error.description());
@@ -47,7 +49,9 @@ constinit const Command checkCommand {
      "\n"
      "and ends with status 1 when there is any: counts that disagree with\n"
      "what follows, a mode cut short, speeds that do not increase, a\n"
-     "repeated mode number, text behind a number, and the like.\n"
+     "repeated mode number, rows of different widths, a file that ends within\n"
+     "a number, text behind a number, and the like. Control characters of\n"
+     "names and texts are shown as question marks.\n"
      "\n"
      "Of a workspace: files that are missing or elsewhere, series that name an\n"
      "evolution or mode that is not there, counts that disagree with what\n"

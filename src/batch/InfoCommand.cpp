@@ -6,6 +6,7 @@
 #include "batch/WorkspaceInput.h"
 #include "runtime/Numbers.h"
 #include "runtime/PathNames.h"
+#include "runtime/TextCodec.h"
 
 #include <array>
 #include <ostream>
@@ -171,7 +172,7 @@ void printTexts(const std::vector<const EVM*>& evolutions, bool withPoints, std:
 {
     bool isFirst = true;
     for (const EVM* evolution : evolutions) {
-        out << (isFirst ? "" : "\n") << evolution->FileName << '\n';
+        out << (isFirst ? "" : "\n") << printableText(evolution->FileName) << '\n';
         isFirst = false;
         printHeader(*evolution, out);
         printModes(*evolution, withPoints, out);

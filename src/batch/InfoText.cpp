@@ -1,6 +1,7 @@
 #include "batch/InfoText.h"
 
 #include "batch/CommandLine.h"
+#include "runtime/TextCodec.h"
 
 #include <algorithm>
 #include <ostream>
@@ -19,7 +20,8 @@ void printLine(std::ostream& out, std::string_view name, const std::string& text
         return;
     for (const std::string_view line : split(text, '\n')) {
         if (!name.empty() || !line.empty())
-            out << "  " << name << std::string(width - std::min(width, name.size()), ' ') << line;
+            out << "  " << name << std::string(width - std::min(width, name.size()), ' ')
+                << printableText(line);
         out << '\n';
         name = {};
     }

@@ -8,7 +8,8 @@
 
 namespace tarsil::batch {
 
-// How the command "info" lays out text for people.
+// How the command "info" lays out text for people. Control characters, which could change a
+// terminal, are shown as question marks.
 
 /// Prints a name and its text on one line, the texts below each other; nothing for an empty text.
 /// Further lines of a text ("\n") stand below its first.

@@ -3,33 +3,40 @@
 #include "runtime/Numbers.h"
 #include "runtime/TextCodec.h"
 
+#include <algorithm>
 #include <ostream>
 
 namespace tarsil::batch {
 
 namespace {
 
-std::string escaped(char c)
+std::string escaped(char16_t unit)
 {
-    constexpr std::string_view hexadecimal = "0123456789abcdef";
-    switch (c) {
-    case '"':
+    switch (unit) {
+    case u'"':
         return "\\\"";
-    case '\\':
+    case u'\\':
         return "\\\\";
-    case '\n':
+    case u'\n':
         return "\\n";
-    case '\r':
+    case u'\r':
         return "\\r";
-    case '\t':
+    case u'\t':
         return "\\t";
     default:
         break;
     }
-    const auto code = static_cast<unsigned char>(c);
-    if (code >= 0x20)
-        return {c};
-    return std::string("\\u00") + hexadecimal[code >> 4] + hexadecimal[code & 15];
+    constexpr std::string_view hexadecimal = "0123456789abcdef";
+    std::string text = "\\u";
+    for (const unsigned shift : {12U, 8U, 4U, 0U})
+        text += hexadecimal[(static_cast<unsigned>(unit) >> shift) & 0xFU];
+    return text;
+}
+
+/// What JSON needs escaped, and what could change the terminal that it is printed on.
+bool needsEscape(char16_t unit)
+{
+    return unit == u'"' || unit == u'\\' || isControlCharacter(unit);
 }
 
 } // namespace
@@ -45,8 +52,17 @@ void JsonWriter::text(std::string_view value)
 {
     separate();
     m_out << '"';
-    for (const char c : decodeText(value))
-        m_out << escaped(c);
+    const std::u16string units = utf16FromUtf8(decodeText(value));
+    for (std::u16string_view rest = units; !rest.empty();) {
+        const auto plainEnd = std::find_if(rest.begin(), rest.end(), needsEscape);
+        const auto plain = static_cast<std::size_t>(plainEnd - rest.begin());
+        m_out << utf8FromUtf16(rest.substr(0, plain));
+        rest.remove_prefix(plain);
+        if (!rest.empty()) {
+            m_out << escaped(rest.front());
+            rest.remove_prefix(1);
+        }
+    }
     m_out << '"';
 }
 

@@ -21,7 +21,8 @@ public:
 
     void key(std::string_view name);
 
-    /// 8-bit text as at `decodeText`, so that the output is UTF-8 in any case.
+    /// 8-bit text as at `decodeText`, so that the output is UTF-8 in any case. Control characters
+    /// are escaped, those beyond ASCII too.
     void text(std::string_view value);
     void number(std::string_view digits) { plain(digits); }
     void boolean(bool value) { plain(value ? "true" : "false"); }

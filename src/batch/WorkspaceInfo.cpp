@@ -148,8 +148,8 @@ void printSeries(const std::vector<SeriesRecord>& list, std::ostream& out)
 {
     const auto print = [&out](const std::vector<std::string>& cells, const std::string& legend) {
         for (const std::string& cell : cells)
-            out << rightAligned(cell, narrowColumn);
-        out << (legend.empty() ? "" : "  ") << legend << '\n';
+            out << rightAligned(printableText(cell), narrowColumn);
+        out << (legend.empty() ? "" : "  ") << printableText(legend) << '\n';
     };
     if (!list.empty())
         print({"evolution", "mode", "tag", "colour"}, "legend");
@@ -200,7 +200,7 @@ void printWorkspaceJson(const WorkspaceRecord& record, std::ostream& out)
 
 void printWorkspaceText(const WorkspaceRecord& record, const std::string& name, std::ostream& out)
 {
-    out << name << '\n';
+    out << printableText(name) << '\n';
     printLine(out, "description", plainLines(record.description));
     printLine(out, "created", plainLines(record.dateCreated));
     printLine(out, "modified", plainLines(record.dateModified));

@@ -1,4 +1,5 @@
 #include "batch/Batch.h"
+#include "runtime/TextCodec.h"
 
 #include <QGuiApplication>
 
@@ -13,7 +14,7 @@ namespace {
 void keepQuiet(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message)
 {
     if (type == QtCriticalMsg || type == QtFatalMsg)
-        std::cerr << "tarsil-batch: " << message.toStdString() << '\n';
+        std::cerr << "tarsil-batch: " << tarsil::printableText(message.toStdString()) << '\n';
 }
 
 } // namespace

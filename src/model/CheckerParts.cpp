@@ -1,6 +1,7 @@
 #include "model/CheckerParts.h"
 
 #include "runtime/QuotedText.h"
+#include "runtime/TextStream.h"
 
 #include <algorithm>
 
@@ -46,7 +47,7 @@ std::string numberComplaint(NumberStatus status, std::string_view text)
 {
     if (status == NumberStatus::Overflow)
         return quoted(text) + " is too large";
-    if (text.find_first_not_of(" \t") == std::string_view::npos)
+    if (isBlank(text))
         return "is blank, where a number should stand";
     if (text.find('*') != std::string_view::npos)
         return quoted(text) + " is not a number: the value did not fit when the file was written";
@@ -57,6 +58,16 @@ std::string quoted(std::string_view text)
 {
     text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
     return quotedText(text.substr(0, text.find_last_not_of(" \t") + 1));
+}
+
+bool isBlank(std::string_view text)
+{
+    return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
+}
+
+bool isCutOff(const TextStream& stream, std::string_view line)
+{
+    return stream.atEndOfStream() && line.data() + line.size() == stream.rest().data();
 }
 
 ModeWatch::ModeWatch(FindingList& findings, ModeEnds ends) : m_findings(findings), m_ends(ends) { }

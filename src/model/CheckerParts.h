@@ -40,6 +40,13 @@ std::string numberComplaint(NumberStatus status, std::string_view text);
 /// `quotedText` without the blanks around the text.
 std::string quoted(std::string_view text);
 
+/// Whether there is nothing but blanks in a text.
+bool isBlank(std::string_view text);
+
+/// Whether the stream has ended with this line, which was the last one read, without an end of line
+/// after it.
+bool isCutOff(const TextStream& stream, std::string_view line);
+
 /// Follows the points of a file, mode by mode: finds modes of another length than declared, mode
 /// numbers that come again, and speeds that do not increase.
 class ModeWatch

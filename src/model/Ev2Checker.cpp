@@ -1,5 +1,6 @@
 #include "model/CheckerParts.h"
 #include "model/Ev2Layout.h"
+#include "model/FieldCountWatch.h"
 #include "model/ResultRow.h"
 #include "runtime/TextStream.h"
 
@@ -40,7 +41,7 @@ class Ev2Checker
 public:
     Ev2Checker(TextStream& stream, FindingList& findings)
         : m_stream(stream), m_findings(findings),
-          m_modes(findings, ModeWatch::ModeEnds::WhenTheNumberChanges)
+          m_modes(findings, ModeWatch::ModeEnds::WhenTheNumberChanges), m_fieldCounts(findings)
     { }
 
     void check();
@@ -57,22 +58,20 @@ private:
     std::optional<float> single(std::size_t index);
     std::optional<std::int16_t> modeNumber();
     void complain(NumberStatus status, std::size_t index);
-    void closeFieldCountRun();
+    void checkLineEnd(std::string_view line);
     void compareModeCount();
     void add(std::string text) { m_findings.add(m_stream.lineNumber(), std::move(text)); }
 
     TextStream& m_stream;
     FindingList& m_findings;
     ModeWatch m_modes;
+    FieldCountWatch m_fieldCounts;
     ResultRow m_row;
     std::string_view m_pending; ///< a header met inside the section before it
     std::set<std::string_view> m_modifications;
     std::set<std::string_view> m_legends;
     std::optional<int> m_declaredModes;
     std::size_t m_declaredModesLine = 0;
-    std::size_t m_oddCount = 0; ///< field count of the rows without factors being followed; 0: none
-    std::size_t m_oddFirst = 0; ///< first line of these rows
-    std::size_t m_oddLast = 0;
 };
 
 void Ev2Checker::check()
@@ -190,10 +189,12 @@ void Ev2Checker::checkResults()
         m_stream.readLine();
     }
     std::string_view line;
-    while (readSectionLine(line))
+    while (readSectionLine(line)) {
         checkRow(line);
+        checkLineEnd(line);
+    }
     m_modes.finish();
-    closeFieldCountRun();
+    m_fieldCounts.finish();
     compareModeCount();
     while (!m_stream.atEndOfStream()) {
         m_row.split(m_stream.readLine(), '|');
@@ -222,19 +223,10 @@ void Ev2Checker::checkRow(std::string_view line)
     m_modes.addPoint(m_stream.lineNumber(), number, speed);
 }
 
-/// Rows of the same odd field count that follow each other make one finding.
 void Ev2Checker::checkFactors()
 {
-    const std::size_t count = m_row.count();
-    const std::size_t step = ev2layout::factorStep(count);
-    const bool odd = count > ev2layout::mostFieldsWithoutFactors && step == 0;
-    if (count != m_oddCount || !odd)
-        closeFieldCountRun();
-    if (odd && m_oddCount == 0) {
-        m_oddCount = count;
-        m_oddFirst = m_stream.lineNumber();
-    }
-    m_oddLast = m_stream.lineNumber();
+    m_fieldCounts.addRow(m_stream.lineNumber(), m_row.count());
+    const std::size_t step = ev2layout::factorStep(m_row.count());
     for (std::size_t i = 0; step > 0 && i < ParticipationFactors::capacity; ++i)
         single(resultfield::firstFactor + i * step);
 }
@@ -265,16 +257,13 @@ void Ev2Checker::complain(NumberStatus status, std::size_t index)
         + "): " + numberComplaint(status, m_row.field(index)));
 }
 
-void Ev2Checker::closeFieldCountRun()
+/// A row in which the file ends may have lost the end of its last field, too.
+void Ev2Checker::checkLineEnd(std::string_view line)
 {
-    if (m_oddCount > 0)
-        m_findings.add(
-            m_oddFirst,
-            std::to_string(m_oddCount) + " fields"
-                + (m_oddLast > m_oddFirst ? ", up to line " + std::to_string(m_oddLast) : "")
-                + ": no participation factors are read from them (rows of up to 11 "
-                  "fields have none, rows of 21 or 26 have five)");
-    m_oddCount = 0;
+    const std::string_view last = line.substr(line.rfind('|') + 1); // all of it without a "|"
+    if (isCutOff(m_stream, line) && !isBlank(last))
+        add("the file ends in this row without an end of line: its last field, " + quoted(last)
+            + ", may be cut");
 }
 
 void Ev2Checker::compareModeCount()

@@ -53,6 +53,7 @@ private:
     bool onlyBlanksLeft() const { return m_stream.rest().size() <= m_blankTail; }
     bool takeHalf();
     void checkPoint();
+    void checkLineEnd();
     void complainNoPoint();
     std::optional<float> single(const Columns& columns);
     std::optional<std::int16_t> modeNumber();
@@ -67,6 +68,7 @@ private:
     std::string_view m_half; ///< the half of the line that is looked at
     std::size_t m_offset = 0; ///< 0 or 40: where it begins
     bool m_hasLine = false;
+    bool m_isRightAligned = false; ///< a point had its last number at the end of its columns
     std::optional<int> m_declaredModes;
 };
 
@@ -169,12 +171,35 @@ void EvmChecker::checkPoint()
     single(evmlayout::damping);
     single(evmlayout::frequency);
     m_modes.addPoint(m_stream.lineNumber(), number, speed);
+    checkLineEnd();
+}
+
+/// A line that ends before the last column of a point may have lost the end of its last number.
+/// Numbers at the left of their columns end where they like, unless the file ends with them.
+void EvmChecker::checkLineEnd()
+{
+    const std::string_view last = evmlayout::frequency.of(m_half);
+    const bool endsInside =
+        m_half.size() < evmlayout::fieldWidth && !isBlank(m_half.substr(m_half.size() - 1));
+    const std::string column = std::to_string(m_line.size());
+    if (endsInside && isCutOff(m_stream, m_line))
+        m_findings.add(m_stream.lineNumber(),
+                       "the file ends in column " + column
+                           + " of this line without an end of line: its last number may be cut");
+    else if (endsInside && m_isRightAligned)
+        m_findings.add(m_stream.lineNumber(),
+                       "the line ends in column " + column + ", but the points before it in column "
+                           + std::to_string(m_offset + evmlayout::fieldWidth)
+                           + ": its last number may be cut");
+    if (last.size() == evmlayout::frequency.width && isBlank(last.substr(0, 1))
+        && !isBlank(last.substr(last.size() - 1)))
+        m_isRightAligned = true;
 }
 
 /// The last half of the file may be blank.
 void EvmChecker::complainNoPoint()
 {
-    const bool blank = m_half.find_first_not_of(blanks) == std::string_view::npos;
+    const bool blank = isBlank(m_half);
     if (blank && onlyBlanksLeft())
         return;
     m_findings.add(m_stream.lineNumber(),

@@ -16,7 +16,8 @@ struct Finding
 
 /// Everything doubtful in the file of the name given, in the order of its lines: counts that
 /// disagree with the rows, a mode cut short, speeds that do not increase, equal speeds, a repeated
-/// mode number, a field count that carries no factors, a text in a number field, a section that is
+/// mode number, rows of different widths, factors that do not count, a file that ends within a
+/// number, a field count that carries no factors, a text in a number field, a section that is
 /// missing. At most `mostFindings` are listed, then one that says so. Errors: those of opening a
 /// file; error 5 for a name with neither ".evm" nor ".ev2".
 std::vector<Finding> checkEvolution(std::string_view path);

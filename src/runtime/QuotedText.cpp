@@ -1,16 +1,12 @@
 #include "runtime/QuotedText.h"
 
+#include "runtime/TextCodec.h"
+
 namespace tarsil {
 
 namespace {
 
 constexpr std::size_t longest = 60;
-
-bool isControl(char c)
-{
-    const auto byte = static_cast<unsigned char>(c);
-    return byte < 0x20 || byte == 0x7F;
-}
 
 /// Whether a character of several bytes goes on here.
 bool continues(char c)
@@ -28,10 +24,7 @@ std::string quotedText(std::string_view text)
         while (end > longest - 4 && continues(text[end]))
             --end;
     }
-    std::string result = "\"";
-    for (const char c : text.substr(0, end))
-        result += isControl(c) ? '?' : c;
-    return result + (end < text.size() ? "...\"" : "\"");
+    return "\"" + printableText(text.substr(0, end)) + (end < text.size() ? "...\"" : "\"");
 }
 
 } // namespace tarsil

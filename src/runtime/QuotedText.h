@@ -5,8 +5,8 @@
 
 namespace tarsil {
 
-/// Foreign text in quotation marks, fit for a message: cut after sixty bytes, and with a question
-/// mark for each control character, which could change a terminal.
+/// Foreign text in quotation marks, fit for a message: cut after sixty bytes, then as at
+/// `printableText`.
 std::string quotedText(std::string_view text);
 
 } // namespace tarsil

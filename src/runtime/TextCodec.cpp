@@ -94,6 +94,31 @@ std::string encodeText(std::string_view utf8)
     return bytes != utf8 && isUtf8(bytes) ? std::string(utf8) : bytes;
 }
 
+bool isControlCharacter(char32_t character)
+{
+    const auto isBetween = [character](char32_t first, char32_t last) {
+        return character >= first && character <= last;
+    };
+    return character < 0x20 || isBetween(0x7F, 0x9F) || isBetween(0x2028, 0x202E)
+        || isBetween(0x2066, 0x2069);
+}
+
+std::string printableText(std::string_view text)
+{
+    std::string result;
+    for (std::size_t i = 0; i < text.size();) {
+        char32_t character = 0;
+        std::size_t length = sequence(text, i, character);
+        if (length == 0) {
+            character = byteAt(text, i); // what it is in an 8-bit text
+            length = 1;
+        }
+        result.append(isControlCharacter(character) ? "?" : text.substr(i, length));
+        i += length;
+    }
+    return result;
+}
+
 std::u16string utf16FromUtf8(std::string_view utf8)
 {
     std::u16string text;

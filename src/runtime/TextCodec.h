@@ -16,6 +16,14 @@ std::string decodeText(std::string_view bytes);
 /// otherwise the UTF-8 itself.
 std::string encodeText(std::string_view utf8);
 
+/// Whether a character has no picture but changes how a terminal shows the others: the controls C0,
+/// DEL and C1, line and paragraph separator, and the marks that turn the direction of writing.
+bool isControlCharacter(char32_t character);
+
+/// Foreign text fit for one line of a terminal: with a question mark for each control character,
+/// line breaks included, in UTF-8 as in an 8-bit text. All other bytes stay, malformed ones too.
+std::string printableText(std::string_view text);
+
 /// UTF-8 as UTF-16 and back. A malformed byte and an unpaired surrogate become U+FFFD.
 std::u16string utf16FromUtf8(std::string_view utf8);
 std::string utf8FromUtf16(std::u16string_view utf16);

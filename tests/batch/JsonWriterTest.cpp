@@ -43,6 +43,14 @@ TEST(Json, escapesWhatMustBeEscaped)
               "\"\\\"\\\\\\n\\r\\t\\u0001\\u001f/\xCE\xB1\"");
 }
 
+TEST(Json, escapesWhatCouldChangeATerminal)
+{
+    EXPECT_EQ(json([](JsonWriter& writer) {
+                  writer.text("\x7F \xC2\x9B \xE2\x80\xA8 \xE2\x80\xAE \xF0\x9D\x94\xB8");
+              }),
+              "\"\\u007f \\u009b \\u2028 \\u202e \xF0\x9D\x94\xB8\""); // U+1D538 at the end
+}
+
 TEST(Json, isAlwaysUtf8)
 {
     EXPECT_EQ(json([](JsonWriter& writer) { writer.text("Fl\xFCgel"); }), "\"Fl\xC3\xBCgel\"");

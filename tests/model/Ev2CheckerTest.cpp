@@ -138,9 +138,70 @@ TEST(Ev2Checker, tellsRowsOfTheSameOddFieldCountOnce)
 {
     const std::string other = "2|1|2|3|4|5|6|7\n";
     EXPECT_THAT(check(ev2Header("") + with(ev2Row(22), "|5|", "|1|") + ev2Row(22) + other),
-                ElementsAre(HasSubstr("11: 22 fields, up to line 12: no participation factors")));
+                ElementsAre(HasSubstr("11: 22 fields, up to line 12: no participation factors"),
+                            "13: 8 fields, but the first row has 22"));
     EXPECT_THAT(check(ev2Header("") + with(ev2Row(22), "|5|", "|1|") + ev2Row(23) + other),
-                ElementsAre(HasSubstr("11: 22 fields: no"), HasSubstr("12: 23 fields: no")));
+                ElementsAre(HasSubstr("11: 22 fields: no"),
+                            HasSubstr("12: 23 fields, but the first row has 22: no"),
+                            "13: 8 fields, but the first row has 22"));
+}
+
+TEST(Ev2Checker, tellsRowsOfAnotherWidthThanTheFirstOnce)
+{
+    const auto row = [](std::size_t fields, const std::string& speed) {
+        return with(ev2Row(fields), "|5|", "|" + speed + "|");
+    };
+    EXPECT_THAT(check(ev2Header("") + row(21, "1") + row(26, "2") + row(26, "3") + row(21, "4")),
+                ElementsAre("12: 26 fields, up to line 13, but the first row has 21"));
+    EXPECT_THAT(check(ev2Header("") + row(11, "1") + row(21, "2")),
+                ElementsAre("12: 21 fields, but the first row has 11"));
+}
+
+TEST(Ev2Checker, tellsFactorsThatDoNotCount)
+{
+    const std::string factors = ev2Row(21);
+    const std::string none = with(ev2Row(11), "|5|", "|6|");
+    const std::string other = "11 fields, but the first row has 21";
+    const std::string vanish = "from here on no row has participation factors: those of the rows "
+                               "before it do not count";
+    EXPECT_THAT(check(ev2Header("") + factors + none),
+                ElementsAre("12: " + other, "12: " + vanish));
+    EXPECT_THAT(check(ev2Header("") + factors + none + with(factors, "|5|", "|7|")),
+                ElementsAre("12: " + other));
+}
+
+TEST(Ev2Checker, tellsALastRowThatIsCut)
+{
+    const std::string whole = ev2Header("") + "1|1|2|3||20|0.1|62.4||"
+        + "|0.1||0.2||0.3||0.4||0.5||\n1|2|2|3||30|0.2|62.4|||0.1||0.2||0.3||0.4||0.5||\n";
+    EXPECT_THAT(check(whole), ElementsAre());
+    EXPECT_THAT(check(whole.substr(0, whole.size() - 1)), ElementsAre()) << "no number is cut";
+    // Read without a word, with a frequency of 6 Hz, and with no factors at all.
+    EXPECT_THAT(check(whole.substr(0, whole.rfind("62.4") + 1)),
+                ElementsAre("12: the file ends in this row without an end of line: its last field, "
+                            "\"6\", may be cut",
+                            "12: 8 fields, but the first row has 21",
+                            "12: from here on no row has participation factors: those of the rows "
+                            "before it do not count"));
+    EXPECT_THAT(check(whole.substr(0, whole.rfind("0.1") + 2) + "\r\n"),
+                ElementsAre(HasSubstr("12: 11 fields, but the first row has 21"),
+                            HasSubstr("12: from here on no row has participation factors")));
+}
+
+TEST(Ev2Checker, tellsAFileThatEndsInItsLastNumber)
+{
+    const std::string text = ev2Header(twoByTwo) + rows;
+    const std::string bare = text.substr(0, text.rfind("|0|0|"));
+    EXPECT_THAT(check(bare),
+                ElementsAre("16: the file ends in this row without an end of line: its last field, "
+                            "\"3.8\", may be cut",
+                            "16: 8 fields, but the first row has 11"));
+    const std::string narrow = ev2Header("") + "1|1|2|3|4|5|6|7\n1|2|2|3|4|6|6|7";
+    EXPECT_THAT(check(narrow),
+                ElementsAre("12: the file ends in this row without an end of line: its last field, "
+                            "\"7\", may be cut"));
+    EXPECT_THAT(check(narrow + "\n"), ElementsAre());
+    EXPECT_THAT(check(narrow + "\r"), ElementsAre()) << "the end of line itself is cut";
 }
 
 TEST(Ev2Checker, tellsARowOfTooFewFieldsAndGoesOn)

@@ -171,6 +171,40 @@ TEST(EvmChecker, tellsAModeNumberThatIsNone)
                 ElementsAre(HasSubstr("5: columns 1-3 (mode number): \"***\" is not a number")));
 }
 
+TEST(EvmChecker, tellsALastRowThatIsCut)
+{
+    // The last point has 5.2 Hz in the last of 80 columns: "    5.200".
+    const std::string whole = evmHeader("3", "2") + twoModesOfThree;
+    const auto without = [&whole](std::size_t bytes) {
+        return whole.substr(0, whole.size() - bytes);
+    };
+    EXPECT_THAT(check(without(1)), ElementsAre()) << "no number is cut";
+    EXPECT_THAT(check(without(3)),
+                ElementsAre("7: the file ends in column 78 of this line without an end of line: "
+                            "its last number may be cut"));
+    EXPECT_THAT(check(without(5)), ElementsAre(HasSubstr("7: the file ends in column 76 of")));
+    EXPECT_THAT(check(without(5) + "\n"),
+                ElementsAre("7: the line ends in column 76, but the points before it in column 80: "
+                            "its last number may be cut"));
+}
+
+TEST(EvmChecker, tellsAFirstHalfThatIsCut)
+{
+    const std::string one = evmHeader("1", "1") + twoModesOfThree.substr(0, 38);
+    EXPECT_THAT(check(one),
+                ElementsAre("5: the file ends in column 38 of this line without an end of line: "
+                            "its last number may be cut"));
+    EXPECT_THAT(check(one + "\n"), ElementsAre()) << "nothing tells how wide a number is";
+    EXPECT_THAT(check(one + " "), ElementsAre());
+}
+
+TEST(EvmChecker, letsNumbersStandAtTheLeftOfTheirColumns)
+{
+    EXPECT_THAT(check(evmHeader("2", "1") + "3  0.1    100      0.02        5.125\n"
+                      + "3  0.1    200      0.02        5.1\n"),
+                ElementsAre(HasSubstr("5: columns 41-80: blank, though more points follow")));
+}
+
 TEST(EvmChecker, tellsALineThatIsNoPoint)
 {
     EXPECT_THAT(

@@ -53,6 +53,28 @@ TEST(TextCodec, comesBackAsItWas)
         EXPECT_EQ(decodeText(encodeText(text)), text);
 }
 
+TEST(TextCodec, printsNoControlCharacter)
+{
+    EXPECT_EQ(printableText("Fl\xC3\xBCgel R&D <b>"), "Fl\xC3\xBCgel R&D <b>");
+    EXPECT_EQ(printableText(std::string_view("a\0b\x1B[31m\r\n\t\x7F", 12)), "a?b?[31m????");
+    EXPECT_EQ(printableText("a\xC2\x9B"
+                            "31m"),
+              "a?31m"); // U+009B begins a command as ESC [ does
+    EXPECT_EQ(printableText("a\xE2\x80\xA8"
+                            "b\xE2\x80\xAE"
+                            "c\xE2\x81\xA6"),
+              "a?b?c?"); // line separator, right-to-left override and isolate
+}
+
+TEST(TextCodec, printsTheBytesOfAnEightBitText)
+{
+    EXPECT_EQ(printableText("Fl\xFCgel \xC2"), "Fl\xFCgel \xC2");
+    EXPECT_EQ(printableText("\x9B"
+                            "31m \xC2\x41"),
+              "?31m \xC2\x41");
+    EXPECT_EQ(printableText("\xC3\x80"), "\xC3\x80"); // a letter, though its second byte is 0x80
+}
+
 TEST(TextCodec, turnsUtf8IntoUtf16AndBack)
 {
     const std::string utf8 = "A\xC3\xA9\xE2\x82\xAC\xF0\x9D\x94\xB8"; // U+1D538 at the end
