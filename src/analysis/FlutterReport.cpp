@@ -46,25 +46,44 @@ void writeBlockHeadings(std::size_t crossings, Sheet& sheet)
     sheet.setText(headingLine, FirstBlock + 3 * crossings, "MPF(1)");
 }
 
-/// Searches every mode; the largest number of crossings that one of them has.
-std::size_t findCrossings(const std::vector<ReportRow>& rows, double gOffset)
+/// Does a part of the report; whether it succeeded.
+template <typename Part>
+bool attempt(const FlutterReport::FailureReport& report, Part part)
+{
+    try {
+        part();
+    } catch (const RunTimeError& error) {
+        report(error);
+        return false;
+    }
+    return true;
+}
+
+/// Searches every mode; the largest number of crossings that one of them has. A mode that cannot be
+/// searched to its end has none: half of its flutter speeds would pass for all.
+std::size_t findCrossings(const std::vector<ReportRow>& rows, double gOffset,
+                          const FlutterReport::FailureReport& report)
 {
     std::size_t largest = 0;
     for (const ReportRow& row : rows) {
-        FlutterPtsCalc(*row.mode, gOffset);
+        if (!attempt(report, [&] { FlutterPtsCalc(*row.mode, gOffset); }))
+            row.mode->flutterPoints.clear();
         largest = std::max(largest, row.mode->flutterPoints.size());
     }
     return largest;
 }
 
-/// The altitude in feet where the equivalent airspeed belongs to the Mach number; an error says of
-/// which mode.
+/// The altitude in feet where the equivalent airspeed belongs to the Mach number. An error has both
+/// as a person knows them, and says of which mode they are.
 double altitudeOf(const AeMode& mode, float speed, float mach)
 {
     try {
         return ISA::IsaAltitude(double {speed}, double {mach}, "knot");
     } catch (const RunTimeError& error) {
-        throw error.at(shownPath(mode.Parent->path()) + ", mode " + std::to_string(mode.Id));
+        throw RunTimeError(error.number(), error.source(),
+                           shownPath(mode.Parent->path()) + ", mode " + std::to_string(mode.Id)
+                               + ": altitude of " + shortestText(speed) + " knots at Mach "
+                               + shortestText(mach));
     }
 }
 
@@ -76,16 +95,22 @@ FlutterReport::FlutterReport(double referenceDamping, double speedLimit, MachQue
 
 void FlutterReport::write(const std::vector<ReportRow>& rows, Sheet& sheet) const
 {
+    writeWhatCan(rows, sheet, [](const RunTimeError& error) { throw error; });
+}
+
+void FlutterReport::writeWhatCan(const std::vector<ReportRow>& rows, Sheet& sheet,
+                                 const FailureReport& report) const
+{
     writeHeadings(sheet);
-    const std::size_t crossings = findCrossings(rows, -m_referenceDamping);
+    const std::size_t crossings = findCrossings(rows, -m_referenceDamping, report);
     writeBlockHeadings(crossings, sheet);
     std::size_t line = headingLine;
     for (const ReportRow& row : rows)
-        writeRow(row, ++line, crossings, sheet);
+        writeRow(row, ++line, crossings, sheet, report);
 }
 
 void FlutterReport::writeRow(const ReportRow& row, std::size_t line, std::size_t crossings,
-                             Sheet& sheet) const
+                             Sheet& sheet, const FailureReport& report) const
 {
     const AeMode& mode = *row.mode;
     const EVM& evolution = *mode.Parent;
@@ -95,8 +120,8 @@ void FlutterReport::writeRow(const ReportRow& row, std::size_t line, std::size_t
     sheet.setText(line, Mass, evolution.Param.Mass);
     sheet.setNumber(line, Mach, decimalValue(evolution.Param.Mach));
     sheet.setNumber(line, ModeNumber, mode.Id);
-    writeMaximum(mode, line, sheet);
-    writeCrossings(mode, line, crossings, sheet);
+    attempt(report, [&] { writeMaximum(mode, line, sheet); });
+    writeCrossings(mode, line, crossings, sheet, report);
 }
 
 void FlutterReport::writeMaximum(const AeMode& mode, std::size_t line, Sheet& sheet) const
@@ -109,7 +134,7 @@ void FlutterReport::writeMaximum(const AeMode& mode, std::size_t line, Sheet& sh
 }
 
 void FlutterReport::writeCrossings(const AeMode& mode, std::size_t line, std::size_t crossings,
-                                   Sheet& sheet) const
+                                   Sheet& sheet, const FailureReport& report) const
 {
     const EVM& evolution = *mode.Parent;
     std::size_t column = FirstBlock;
@@ -117,7 +142,9 @@ void FlutterReport::writeCrossings(const AeMode& mode, std::size_t line, std::si
         sheet.setNumber(line, column, decimalValue(point.speed));
         sheet.setNumber(line, column + crossings, decimalValue(point.f));
         const float mach = machNumber(evolution, line, sheet);
-        sheet.setNumber(line, column + 2 * crossings, altitudeOf(mode, point.speed, mach));
+        attempt(report, [&] {
+            sheet.setNumber(line, column + 2 * crossings, altitudeOf(mode, point.speed, mach));
+        });
         if (evolution.hasParticipationFactors && !point.mpf.empty())
             sheet.setNumber(line, column + 3 * crossings, decimalValue(point.mpf[0]));
         ++column;

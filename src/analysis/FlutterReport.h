@@ -12,6 +12,7 @@ namespace tarsil {
 
 class AeMode;
 class EVM;
+class RunTimeError;
 
 /// One row of the flutter report: a mode, which must belong to an evolution, and the text that
 /// tells its case apart.
@@ -50,6 +51,9 @@ public:
     /// `referenceDamping` is dimensionless, negative for a stable mode; `speedLimit` is in KEAS.
     FlutterReport(double referenceDamping, double speedLimit, MachQuestion askMach);
 
+    /// Hears of what could not be computed.
+    using FailureReport = std::function<void(const RunTimeError&)>;
+
     /// Fills the sheet, row by row and cell by cell; after an error the cells written so far stay.
     /// The flutter points of the modes are those of this report afterwards. For an evolution
     /// without a Mach number the question is asked once per crossing; an answer that is no number
@@ -57,12 +61,19 @@ public:
     /// among them, and of the altitude.
     void write(const std::vector<ReportRow>& rows, Sheet& sheet) const;
 
+    /// The same, but a mode that cannot be searched (two points of one speed around a crossing,
+    /// say) costs no other its row: its cells for crossings stay empty, as does the cell of an
+    /// altitude, or of a maximum, that cannot be computed, and `report` hears of each such error.
+    /// Errors: 13 for a Mach number as above, and what `report` raises.
+    void writeWhatCan(const std::vector<ReportRow>& rows, Sheet& sheet,
+                      const FailureReport& report) const;
+
 private:
-    void writeRow(const ReportRow& row, std::size_t line, std::size_t crossings,
-                  Sheet& sheet) const;
+    void writeRow(const ReportRow& row, std::size_t line, std::size_t crossings, Sheet& sheet,
+                  const FailureReport& report) const;
     void writeMaximum(const AeMode& mode, std::size_t line, Sheet& sheet) const;
-    void writeCrossings(const AeMode& mode, std::size_t line, std::size_t crossings,
-                        Sheet& sheet) const;
+    void writeCrossings(const AeMode& mode, std::size_t line, std::size_t crossings, Sheet& sheet,
+                        const FailureReport& report) const;
     float machNumber(const EVM& evolution, std::size_t line, Sheet& sheet) const;
 
     double m_referenceDamping;

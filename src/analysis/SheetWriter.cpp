@@ -36,6 +36,22 @@ std::string quoted(const std::string& text)
     return result + '"';
 }
 
+/// The text with an apostrophe before it where a spreadsheet would take it for a formula, and run
+/// what a file wants it to run.
+std::string asText(const std::string& text)
+{
+    constexpr std::string_view beginningsOfFormulas = "=+-@\t\r";
+    const bool isFormula =
+        !text.empty() && beginningsOfFormulas.find(text.front()) != std::string_view::npos;
+    return isFormula ? "'" + text : text;
+}
+
+std::string csvCell(const Sheet::Cell& cell)
+{
+    const auto* const text = std::get_if<std::string>(&cell);
+    return text != nullptr ? quoted(asText(*text)) : Sheet::textOf(cell);
+}
+
 std::string csvText(const Sheet& sheet)
 {
     std::string text;
@@ -43,7 +59,7 @@ std::string csvText(const Sheet& sheet)
         for (std::size_t column = 1; column <= sheet.columnCount(); ++column) {
             if (column > 1)
                 text += ',';
-            text += quoted(Sheet::textOf(sheet.cell(row, column)));
+            text += csvCell(sheet.cell(row, column));
         }
         text += "\r\n";
     }

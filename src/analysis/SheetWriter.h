@@ -12,7 +12,9 @@ class Sheet;
 ///     .xlsx  one sheet; numbers as numbers, every text as text (also one that begins with "=");
 ///            the first row in bold and frozen; equal sheets give equal bytes
 ///     .csv   commas between the cells, CR LF behind each row, double quotes around a text that
-///            holds a comma, a quote or a line end; a decimal point whatever the locale; 8-bit text
+///            holds a comma, a quote or a line end; an apostrophe before a text that begins with
+///            = + - @, a tab or a carriage return, so that it is shown and not run; a decimal
+///            point whatever the locale; 8-bit text
 ///
 /// Errors: 5 for another extension, or a sheet or text beyond what a spreadsheet can hold; those of
 /// writing a file (57, 61, 70, 75, 76).

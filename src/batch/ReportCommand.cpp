@@ -5,8 +5,10 @@
 #include "batch/ModeList.h"
 #include "batch/WorkspaceInput.h"
 #include "runtime/PathNames.h"
+#include "runtime/RunTimeError.h"
 
 #include <array>
+#include <set>
 
 namespace tarsil::batch {
 
@@ -54,6 +56,26 @@ void addModesOfEvolution(const std::string& path, const RowSource& source, Batch
         rows.push_back({mode, caseTextOf(evolution)});
 }
 
+/// Complains of each error once: series that draw the same mode have the same.
+class Complaints
+{
+public:
+    explicit Complaints(BatchRun& run) : m_run(run) { }
+
+    void add(const RunTimeError& error)
+    {
+        if (m_errors.insert(error.description()).second)
+            m_run.complain(m_run.readable(error.description())
+                           + "; the cells that need it stay empty");
+    }
+
+    bool areNone() const { return m_errors.empty(); }
+
+private:
+    BatchRun& m_run;
+    std::set<std::string> m_errors;
+};
+
 int runReport(const CommandLine& line, BatchRun& run)
 {
     RowSource source {outputOf(line, extensions), std::nullopt, line.value(plotOption.name)};
@@ -79,9 +101,12 @@ int runReport(const CommandLine& line, BatchRun& run)
         return std::optional(*mach);
     };
     Sheet sheet;
-    FlutterReport(damping, speedLimit, answerMach).write(rows, sheet);
+    Complaints complaints(run);
+    FlutterReport(damping, speedLimit, answerMach)
+        .writeWhatCan(rows, sheet,
+                      [&complaints](const RunTimeError& error) { complaints.add(error); });
     writeSheet(sheet, source.output);
-    return isWhole ? done : failed;
+    return isWhole && complaints.areNone() ? done : failed;
 }
 
 constexpr std::array<OptionDescription, 6> options = {
@@ -100,6 +125,10 @@ constinit const Command reportCommand {
      "Writes the flutter table: of each mode the maximum damping up to the speed\n"
      "limit, and every crossing of the reference damping with its speed, frequency,\n"
      "altitude and first participation factor.\n"
+     "\n"
+     "What cannot be computed of a mode, such as a crossing between two points of the\n"
+     "same speed, leaves its cells empty with a message; the rest is written, and the\n"
+     "exit status is 1.\n"
      "\n"
      "A workspace gives a row for each series of its plots, in their order, with the\n"
      "legend text of the series as its case. The files that it lists are looked for\n"

@@ -259,13 +259,15 @@ TEST(Report, keepsTheAnswerThatMakesTheAltitudeFail)
 {
     EVM evolution;
     describe(evolution, false);
-    AeMode& mode = addMode(evolution, 1, {{200, -1, 1}, {300, 1, 1}});
+    AeMode& mode = addMode(evolution, 1, {{200, -1, 1}, {300, 0.5F, 1}});
     Answer answer {"0"};
     Sheet sheet;
     const RunTimeError error =
         errorOf(FlutterReport(0, 1000, answer.asker()), {{&mode, ""}}, sheet);
     EXPECT_EQ(error.number(), ErrorNumber::DivisionByZero);
-    EXPECT_THAT(error.description(), ::testing::HasSubstr("mode 1)")) << "says of which mode";
+    // Two thirds of the way, as a single: not 266.6666564941406, its value as a double.
+    EXPECT_THAT(error.description(),
+                ::testing::HasSubstr("mode 1: altitude of 266.66666 knots at Mach 0"));
     EXPECT_EQ(number(sheet, 2, 4), 0);
 }
 
@@ -294,4 +296,50 @@ TEST(Report, keepsTheRowsBeforeAModeWithoutPoints)
     EXPECT_EQ(number(sheet, 2, 6), -1);
     EXPECT_EQ(number(sheet, 3, 5), 2);
     EXPECT_TRUE(isEmpty(sheet, 3, 6));
+}
+
+TEST(Report, writesTheOtherRowsWhenASearchFails)
+{
+    EVM evolution;
+    describe(evolution, true);
+    // Crosses zero at 250 KEAS before it cannot be searched on: none of the two is written.
+    AeMode& jump = addMode(evolution, 1, {{200, -1, 1}, {300, 1, 1}, {300, -1, 1}});
+    AeMode& good = addMode(evolution, 2, {{300, -1, 4}, {400, 1, 6}});
+    Sheet sheet;
+    std::vector<std::string> errors;
+    FlutterReport(0, 1000, noQuestion)
+        .writeWhatCan({{&jump, ""}, {&good, ""}}, sheet, [&errors](const RunTimeError& error) {
+            errors.push_back(error.description());
+        });
+    EXPECT_THAT(errors,
+                ::testing::ElementsAre("Division by zero: /wing.ev2, mode 1, between the "
+                                       "speeds 300 and 300"));
+    EXPECT_EQ(sheet.columnCount(), 11U) << "one crossing at most";
+    EXPECT_EQ(number(sheet, 2, 5), 1);
+    EXPECT_EQ(number(sheet, 2, 6), 1) << "the largest damping needs no search";
+    for (std::size_t column = 8; column <= 11; ++column)
+        EXPECT_TRUE(isEmpty(sheet, 2, column)) << column;
+    EXPECT_EQ(number(sheet, 3, 8), 350);
+    EXPECT_EQ(number(sheet, 3, 9), 5);
+    EXPECT_TRUE(jump.flutterPoints.empty());
+}
+
+TEST(Report, writesTheOtherCellsWhenAMaximumOrAnAltitudeFails)
+{
+    EVM evolution;
+    describe(evolution, true);
+    AeMode& empty = addMode(evolution, 1, {});
+    // Crosses zero at standstill, where no altitude belongs to the Mach number, and at 150 KEAS.
+    AeMode& still = addMode(evolution, 2, {{-100, -1, 1}, {100, 1, 1}, {200, -1, 1}});
+    Sheet sheet;
+    int errors = 0;
+    FlutterReport(0, 1000, noQuestion)
+        .writeWhatCan({{&empty, ""}, {&still, ""}}, sheet,
+                      [&errors](const RunTimeError&) { ++errors; });
+    EXPECT_EQ(errors, 2);
+    EXPECT_TRUE(isEmpty(sheet, 2, 6));
+    EXPECT_EQ(number(sheet, 3, 8), 0);
+    EXPECT_EQ(number(sheet, 3, 9), 150);
+    EXPECT_TRUE(isEmpty(sheet, 3, 12));
+    EXPECT_EQ(number(sheet, 3, 13), ISA::IsaAltitude(150, double {0.78F}, "knot"));
 }

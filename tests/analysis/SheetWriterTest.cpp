@@ -80,8 +80,24 @@ TEST(SheetAsCsv, quotesWhereNeededAndEndsLinesWithCrLf)
     EXPECT_EQ(fileBytes(folder.file("a.csv")),
               "Modal Evolution,gmax value,,\r\n"
               "\"wing, \"\"full\"\".ev2\",-0.0131,,\r\n"
-              "=1+1,,,\r\n"
+              "'=1+1,,,\r\n"
               "Fl\xFCgel,,,352.1\r\n");
+}
+
+TEST(SheetAsCsv, letsASpreadsheetRunNoText)
+{
+    const TemporaryFolder folder;
+    Sheet sheet;
+    std::size_t row = 0;
+    for (const char* text : {"=1+1", "+1", "-1", "@A1", "\tx", "\rx", "=A1,\"B\"", "a=1", "'x", ""})
+        sheet.setText(++row, 1, text);
+    sheet.setNumber(++row, 1, -1);
+    sheet.setNumber(++row, 1, 1e9);
+    writeSheet(sheet, folder.file("a.csv"));
+    EXPECT_EQ(
+        fileBytes(folder.file("a.csv")),
+        "'=1+1\r\n'+1\r\n'-1\r\n'@A1\r\n'\tx\r\n\"'\rx\"\r\n\"'=A1,\"\"B\"\"\"\r\na=1\r\n'x\r\n"
+        "\r\n-1\r\n1000000000\r\n");
 }
 
 TEST(SheetAsCsv, isUtf8WhereTheEightBitTextHasNoPlace)

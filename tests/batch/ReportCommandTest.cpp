@@ -3,6 +3,8 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+
 using namespace tarsil;
 using test::fileBytes;
 using test::runBatch;
@@ -115,7 +117,26 @@ TEST_F(ReportCommand, namesTheFileOfAnErrorAsItWasGiven)
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.err,
               "tarsil-batch: Division by zero: " + path
-                  + ", mode 7, between the speeds 100 and 100\n");
+                  + ", mode 7, between the speeds 100 and 100; the cells that need it stay "
+                    "empty\n");
+}
+
+TEST_F(ReportCommand, writesTheOtherFilesWhenOneCannotBeSearched)
+{
+    const std::string twice = folder().write("twice.evm",
+                                             "\n\n\n" + std::string(60, ' ')
+                                                 + "   2       1\n"
+                                                   "  7  0.100  100.000 5.00000E-01    4.000"
+                                                   "  7  0.200  100.000-5.00000E-01    8.000\n");
+    const auto result =
+        runBatch(arguments(file("out.csv"), {"--mach", "0.5", twice, twice, writeEvm()}));
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.out, "");
+    EXPECT_EQ(std::count(result.err.begin(), result.err.end(), '\n'), 1) << result.err;
+    EXPECT_THAT(result.err, HasSubstr(twice + ", mode 7"));
+    const std::string text = fileBytes(file("out.csv"));
+    EXPECT_THAT(text, HasSubstr("\r\ntwice.evm,,,0,7,0.5,100,,,,\r\n"));
+    EXPECT_THAT(text, HasSubstr("\r\nold.evm,,,0.5,7,0.5,200,150,6,3780"));
 }
 
 TEST_F(ReportCommand, leavesAnOldOutputAsItWasWhenItFails)
