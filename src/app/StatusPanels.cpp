@@ -43,6 +43,7 @@ StatusPanels::StatusPanels(QWidget* parent)
 {
     setObjectName(QStringLiteral("stBar"));
     m_text->setObjectName(QStringLiteral("stBar_Status"));
+    m_text->setTextFormat(Qt::PlainText); // file names are no mark-up
     m_text->setAccessibleDescription(tr("Status"));
     m_progress->setAccessibleName(tr("Progress"));
     m_progress->setMaximumWidth(200);

@@ -4,6 +4,7 @@
 #include "runtime/Numbers.h"
 #include "runtime/PathNames.h"
 #include "vgf/EvmPlot.h"
+#include "vgf/ToolTipText.h"
 
 #include <QApplication>
 #include <QColor>
@@ -218,7 +219,7 @@ QVariant SeriesGridModel::toolTip(const Series& one, int row, SeriesColumn colum
         tip = notDrawnText(one, modeNumber(row));
     else if (column == SeriesColumn::Legend)
         tip = one.LegendText;
-    return tip.isEmpty() ? QVariant() : QVariant(tip.toHtmlEscaped()); // as it stands
+    return tip.isEmpty() ? QVariant() : QVariant(toolTipText(tip));
 }
 
 bool SeriesGridModel::isDrawn(int row) const

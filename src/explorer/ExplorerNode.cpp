@@ -3,9 +3,9 @@
 #include "explorer/ExplorerImages.h"
 #include "model/EVM.h"
 #include "vgf/EvmPlot.h"
+#include "vgf/ToolTipText.h"
 
 #include <QFont>
-#include <QTextDocument>
 #include <QTreeWidget>
 
 namespace tarsil {
@@ -50,7 +50,7 @@ void setImage(QTreeWidgetItem& node, ExplorerImages& images, const QString& name
 
 void setPlainToolTip(QTreeWidgetItem& node, const QString& text)
 {
-    node.setToolTip(0, Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text);
+    node.setToolTip(0, toolTipText(text));
 }
 
 EVM* taggedEvolution(const QTreeWidgetItem* node)

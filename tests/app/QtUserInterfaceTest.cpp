@@ -130,6 +130,16 @@ TEST_F(QtUserInterfaceTest, showsStatusAndProgress)
     EXPECT_FALSE(bar->isVisible());
 }
 
+TEST_F(QtUserInterfaceTest, showsAStatusThatLooksLikeMarkUpAsItStands)
+{
+    const auto* const label = panels.findChild<QLabel*>(QStringLiteral("stBar_Status"));
+    user.showStatus("R&D<br>D");
+    const int width = label->sizeHint().width();
+    user.showStatus("R&D<br>DD");
+    EXPECT_GT(label->sizeHint().width(), width) << "mark-up would make two lines";
+    EXPECT_EQ(label->textFormat(), Qt::PlainText);
+}
+
 TEST_F(QtUserInterfaceTest, letsAScreenReaderHearTheStatus)
 {
     user.showStatus("Please Wait ...");

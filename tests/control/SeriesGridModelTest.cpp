@@ -92,6 +92,16 @@ TEST_F(SeriesGridModelTest, showsARowForEachSeries)
     EXPECT_EQ(text(1, SeriesColumn::Evolution, Qt::ToolTipRole), "/runs/case.ev2");
 }
 
+TEST_F(SeriesGridModelTest, showsTextsOfFilesAsTheyStandInItsTips)
+{
+    plot.SeriesCollection()[1].LegendText = QStringLiteral("R&D");
+    EXPECT_EQ(text(1, SeriesColumn::Legend, Qt::ToolTipRole), "R&D");
+    plot.SeriesCollection()[1].LegendText = QStringLiteral("<b>x</b>");
+    EXPECT_NE(text(1, SeriesColumn::Legend, Qt::ToolTipRole).find("&lt;b&gt;x"), std::string::npos);
+    evolution.FileName = "R&D.ev2";
+    EXPECT_EQ(text(1, SeriesColumn::Evolution, Qt::ToolTipRole), "/runs/R&D.ev2");
+}
+
 TEST_F(SeriesGridModelTest, followsSeriesThatOthersAddAndRemove)
 {
     plot.addSeries(*evolution.Modes[0]);
