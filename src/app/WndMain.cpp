@@ -2,7 +2,6 @@
 
 #include "app/DlgDampLine.h"
 #include "app/DlgRefSpeed.h"
-#include "app/EvolutionPlotter.h"
 #include "app/StatusPanels.h"
 #include "control/WndData.h"
 #include "explorer/WndEvolExplorer.h"
@@ -14,6 +13,7 @@
 #include "runtime/ErrorReport.h"
 #include "runtime/RunTimeError.h"
 #include "vgf/DlgPlotProp.h"
+#include "vgf/EvolutionPlotter.h"
 #include "vgf/WndEvolPlot.h"
 
 #include <QCloseEvent>
@@ -172,7 +172,10 @@ std::vector<EVM*> wndMain::load(const std::vector<std::string>& paths)
 /// Who starts the program with files wants to see them.
 void wndMain::draw(const std::vector<EVM*>& evolutions)
 {
-    const std::size_t drawn = plotEvolutions(activePlot(), evolutions);
+    std::vector<EvolutionCurves> curves;
+    for (EVM* evolution : evolutions)
+        curves.push_back(allCurvesOf(*evolution));
+    const std::size_t drawn = plotCurves(activePlot(), curves);
     if (drawn < evolutions.size())
         m_userInterface.showMessage(
             std::to_string(evolutions.size()) + " modal evolutions are loaded. "

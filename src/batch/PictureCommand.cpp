@@ -5,33 +5,12 @@
 #include "batch/WorkspaceInput.h"
 #include "runtime/RunTimeError.h"
 #include "vgf/EvmPlot.h"
+#include "vgf/EvolutionPlotter.h"
 #include "vgf/PlotRecords.h"
-#include "vgf/ScaleFit.h"
 
 namespace tarsil::batch {
 
 namespace {
-
-void addSeries(EvmPlot& plot, AeMode& mode, const PictureOptions& options)
-{
-    Series& series = plot.addSeries(mode);
-    series.LegendText = QString::fromStdString(caseTextOf(*mode.Parent));
-    series.MarkerStyle = options.markerStyle;
-    series.IthMpf = options.factor;
-    series.MarkerSpacing = options.markerSpacing;
-    series.MarkerSize = options.markerSize;
-    series.MarkerForegroundColor = series.ColorIndex;
-}
-
-/// Axes that fit the data, for a plot that has none of its own.
-void fitScale(EvmPlot& plot)
-{
-    const FittedAxes axes = fitAxes(plot.SeriesCollection());
-    plot.SetScale(axes.scale);
-    plot.setVthicks(axes.thicks.v);
-    plot.setFthicks(axes.thicks.f);
-    plot.setGthicks(axes.thicks.g);
-}
 
 void finish(EvmPlot& plot, const PictureOptions& options, const std::string& output)
 {
@@ -41,17 +20,34 @@ void finish(EvmPlot& plot, const PictureOptions& options, const std::string& out
     writePicture(plot, output);
 }
 
-void drawEvolutions(const std::vector<std::string>& paths, const PictureOptions& options,
+/// Complains of the files that were not drawn, which are all but the first ones; whether there are
+/// none.
+bool tellLeftOut(const std::vector<std::string>& paths, std::size_t drawn, BatchRun& run)
+{
+    const std::string why =
+        " is left out: a plot takes " + std::to_string(mostCurves) + " curves; choose with --modes";
+    if (drawn == 0)
+        throw Failure(paths.front() + why);
+    for (std::size_t i = drawn; i < paths.size(); ++i)
+        run.complain(paths[i] + why);
+    return drawn == paths.size();
+}
+
+/// Whether no file had to be left out.
+bool drawEvolutions(const std::vector<std::string>& paths, const PictureOptions& options,
                     BatchRun& run)
 {
-    EvmPlot plot;
+    std::vector<EvolutionCurves> files;
     for (const std::string& path : paths) {
         refuseOutputOverInput(options.output, path);
-        for (AeMode* mode : selectModes(run.open(path), options.modes, path))
-            addSeries(plot, *mode, options);
+        EVM& evolution = run.open(path);
+        files.push_back({&evolution, selectModes(evolution, options.modes, path)});
     }
-    fitScale(plot);
+    EvmPlot plot;
+    const std::size_t drawn = plotCurves(plot, files, options.markers);
+    const bool isWhole = tellLeftOut(paths, drawn, run);
     finish(plot, options, options.output);
+    return isWhole;
 }
 
 /// The names of so many pictures: the one given, or with a number before its extension.
@@ -99,10 +95,8 @@ bool drawWorkspace(const std::string& path, const PictureOptions& options, Batch
 int runPicture(const CommandLine& line, BatchRun& run)
 {
     const PictureOptions options = pictureOptionsOf(line);
-    if (!hasWorkspace(line.operands())) {
-        drawEvolutions(line.operands(), options, run);
-        return done;
-    }
+    if (!hasWorkspace(line.operands()))
+        return drawEvolutions(line.operands(), options, run) ? done : failed;
     if (line.operands().size() > 1)
         throw UsageError("a workspace is drawn alone, without other files");
     return drawWorkspace(line.operands().front(), options, run) ? done : failed;
@@ -113,7 +107,10 @@ int runPicture(const CommandLine& line, BatchRun& run)
 constinit const Command pictureCommand {
     {"picture", "FILE...", anyNumber, "draws the V-g-f plot",
      "Draws the V-g-f plot of the files: frequency in the upper half, damping in the\n"
-     "lower half, the speed axis between them.\n"
+     "lower half, the speed axis between them. It is the plot that tarsil opens with\n"
+     "when it is started with these files: each file has a line style of its own, and\n"
+     "no more than 500 curves are drawn; a file that would exceed them is left out with\n"
+     "a message, and the exit status is 1.\n"
      "\n"
      "Of a workspace, which is the only FILE then, every plot is drawn as it was saved,\n"
      "each into a picture of its own: with several plots out.svg becomes out-1.svg,\n"

@@ -80,28 +80,30 @@ std::vector<CaptionedValue> captionedValuesOf(const CommandLine& line, std::stri
     return values;
 }
 
-void readMarkers(const CommandLine& line, PictureOptions& options)
+CurveMarkers markersOf(const CommandLine& line)
 {
     constexpr std::string_view factorPrefix = "mpf:";
+    CurveMarkers markers;
     if (const auto marker = line.value("--marker")) {
         if (*marker == "none") {
-            options.markerStyle = markerstyle::none;
+            markers.style = markerstyle::none;
         } else if (*marker == "id") {
-            options.markerStyle = markerstyle::modeNumber;
+            markers.style = markerstyle::modeNumber;
         } else if (*marker == "tag") {
-            options.markerStyle = markerstyle::tag;
+            markers.style = markerstyle::tag;
         } else if (marker->starts_with(factorPrefix)) {
-            options.markerStyle = markerstyle::participationFactor;
-            options.factor = countOf(marker->substr(factorPrefix.size()),
+            markers.style = markerstyle::participationFactor;
+            markers.factor = countOf(marker->substr(factorPrefix.size()),
                                      ParticipationFactors::capacity, "--marker mpf");
         } else {
             throw wrongValue("--marker", *marker, "none, id, tag or mpf:I");
         }
     }
     if (const auto spacing = line.value("--marker-spacing"))
-        options.markerSpacing = countOf(*spacing, largestMarkerNumber, "--marker-spacing");
+        markers.spacing = countOf(*spacing, largestMarkerNumber, "--marker-spacing");
     if (const auto size = line.value("--marker-size"))
-        options.markerSize = countOf(*size, largestMarkerNumber, "--marker-size");
+        markers.size = countOf(*size, largestMarkerNumber, "--marker-size");
+    return markers;
 }
 
 } // namespace
@@ -116,16 +118,19 @@ constinit const std::array<OptionDescription, 14> pictureOptionDescriptions = {
      {"--size", "WxH", "size of the picture in pixels; 1000x750 without it"},
      {"--header", "TEXT",
       "text above the plot; \\n begins a new line in all texts,\nand Rich Text Format ({\\rtf...) "
-      "keeps its look"},
+      "keeps its look.\nWithout it: what the files say alike of airplane,\nmass, method and Mach "
+      "number"},
      {"--legend", "TEXT", "text of the legend"},
-     {"--subtitle", "TEXT", "text of the flutter mechanism"},
+     {"--subtitle", "TEXT",
+      "text of the flutter mechanism; without it the names of\nup to six files"},
      {"--reference-speed", "V=CAPTION", "mark at a speed; may be given again", false, true},
      {"--damping-line", "G=CAPTION", "horizontal line at a damping; may be given again", false,
       true},
      {"--marker", "MARKER",
       "what marks the points: none, id (the mode number),\ntag (the number of the curve) or mpf:I "
       "(participation\nfactor I); id without this option"},
-     {"--marker-spacing", "N", "points from one marker to the next; 5 without it"},
+     {"--marker-spacing", "N",
+      "points from one marker to the next; without it each\ncurve has about four"},
      {"--marker-size", "N", "size of the markers in points; 8 without it"},
      {"--output", "OUTPUT", "the file to write, which ends in .png, .svg, .pdf or\n.emf", true}}};
 
@@ -143,7 +148,7 @@ PictureOptions pictureOptionsOf(const CommandLine& line)
     options.subtitle = line.value("--subtitle");
     options.referenceSpeeds = captionedValuesOf(line, "--reference-speed");
     options.dampingLines = captionedValuesOf(line, "--damping-line");
-    readMarkers(line, options);
+    options.markers = markersOf(line);
     options.plot = line.value(plotOption.name);
     checkWorkspaceOptions(line, line.operands(),
                           {"--modes", "--marker", "--marker-spacing", "--marker-size"});

@@ -2,6 +2,7 @@
 
 #include "batch/ModeList.h"
 #include "vgf/EvmPlot.h"
+#include "vgf/EvolutionPlotter.h"
 
 #include <QSize>
 #include <QString>
@@ -38,10 +39,7 @@ struct PictureOptions
     std::optional<std::string> subtitle;
     std::vector<CaptionedValue> referenceSpeeds;
     std::vector<CaptionedValue> dampingLines;
-    std::int32_t markerStyle = markerstyle::modeNumber;
-    std::int32_t factor = 0; ///< counted from 1, for markers that show a participation factor
-    std::int32_t markerSpacing = 5;
-    std::int32_t markerSize = 8; ///< points
+    CurveMarkers markers;
 };
 
 extern const std::array<OptionDescription, 14> pictureOptionDescriptions;

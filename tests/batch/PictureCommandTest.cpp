@@ -85,7 +85,9 @@ TEST_F(PictureCommand, drawsAnSvgWithTheTexts)
 TEST_F(PictureCommand, keepsSvgCurvesWithinTheirCanvas)
 {
     // With a damping axis that ends at 0.1 the curves, which reach from -1 to 1, leave the canvas.
-    const std::string path = draw("out.svg", {"--scale", "0,400,0,20,0,-0.1", writeEv2()});
+    const std::string path =
+        draw("out.svg",
+             {"--header", "", "--marker", "none", "--scale", "0,400,0,20,0,-0.1", writeEv2()});
     QImage image(1000, 750, QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
@@ -143,6 +145,46 @@ TEST_F(PictureCommand, marksThePointsAsAskedFor)
     EXPECT_THAT(texts({"--marker", "none"}), ::testing::Not(HasSubstr("|5|")));
     EXPECT_THAT(texts({"--marker", "tag"}), HasSubstr("|1|"));
     EXPECT_THAT(texts({"--marker", "mpf:3", "--marker-size", "6"}), HasSubstr("|0.3"));
+}
+
+TEST_F(PictureCommand, headsThePictureWithWhatTheFilesSay)
+{
+    const std::string path = writeEv2();
+    const std::string texts = svgTexts(draw("out.svg", {path}));
+    for (const char* text : {"QRX190 - FULL \"A\"|", "PK Method - Mach No. 0.78|", "wing.ev2|"})
+        EXPECT_THAT(texts, HasSubstr(text));
+    const std::string others =
+        svgTexts(draw("out.svg", {"--header", "mine", "--subtitle", "", path}));
+    EXPECT_THAT(others, HasSubstr("mine|"));
+    for (const char* text : {"QRX190", "wing.ev2"})
+        EXPECT_THAT(others, ::testing::Not(HasSubstr(text)));
+}
+
+TEST_F(PictureCommand, leavesOutTheFilesThatHaveTooManyCurves)
+{
+    // 499 modes of one point each, a mode in each half of a line.
+    std::string text = "\n\n\n" + std::string(60, ' ') + "   1     499\n";
+    for (int mode = 1; mode <= 499; ++mode) {
+        const std::string number = std::to_string(mode);
+        text += std::string(3 - number.size(), ' ') + number
+            + "  0.100  100.000 5.00000E-01    4.000" + (mode % 2 == 0 ? "\n" : "");
+    }
+    const std::string many = folder().write("many.evm", text + "\n");
+    const std::string few = writeEv2();
+    const std::string why = " is left out: a plot takes 500 curves; choose with --modes\n";
+    const auto result = runBatch({"picture", "--output", file("out.svg"), many, few});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.err, "tarsil-batch: " + few + why);
+    EXPECT_THAT(svgTexts(file("out.svg")), ::testing::Not(HasSubstr("wing.ev2")));
+    draw("some.svg", {"--modes", "1", many, few});
+    const std::string more = folder().write("more.evm",
+                                            text.replace(text.find(" 499\n"), 5, " 501\n")
+                                                + "  1  0.100  100.000 5.00000E-01    4.000"
+                                                  "  2  0.100  100.000 5.00000E-01    4.000\n"
+                                                  "  2  0.100  100.000 5.00000E-01    4.000\n");
+    const auto none = runBatch({"picture", "--output", file("none.svg"), more});
+    EXPECT_EQ(none.status, 1);
+    EXPECT_EQ(none.err, "tarsil-batch: " + more + why);
 }
 
 TEST_F(PictureCommand, drawsTheModesListed)

@@ -1,4 +1,4 @@
-#include "app/EvolutionPlotter.h"
+#include "vgf/EvolutionPlotter.h"
 
 #include "analysis/ModeBuilder.h"
 #include "vgf/EvmPlot.h"
@@ -32,6 +32,15 @@ protected:
     EvolutionPlotter() : one(evolutionOf("one.evm", 3, 0.5F)), two(evolutionOf("two.evm", 2, 0.8F))
     { }
 
+    /// Draws every mode of these.
+    std::size_t plotAll(const std::vector<EVM*>& evolutions)
+    {
+        std::vector<EvolutionCurves> files;
+        for (EVM* evolution : evolutions)
+            files.push_back(allCurvesOf(*evolution));
+        return plotCurves(plot, files);
+    }
+
     std::unique_ptr<EVM> one;
     std::unique_ptr<EVM> two;
     EvmPlot plot;
@@ -41,7 +50,7 @@ protected:
 
 TEST_F(EvolutionPlotter, drawsOneCurveForEachMode)
 {
-    plotEvolutions(plot, {one.get(), two.get()});
+    plotAll({one.get(), two.get()});
     const SeriesList& series = plot.SeriesCollection();
     ASSERT_EQ(series.size(), 5U);
     EXPECT_EQ(series[0].Mode->Id, 1);
@@ -53,7 +62,7 @@ TEST_F(EvolutionPlotter, drawsOneCurveForEachMode)
 
 TEST_F(EvolutionPlotter, fitsTheAxesOfAnEmptyPlotOnly)
 {
-    plotEvolutions(plot, {one.get()});
+    plotAll({one.get()});
     const EvmPlot::Scale fitted = plot.GetScale();
     EXPECT_GE(fitted.vmax, 600.0F);
     EXPECT_GE(fitted.fmax, 30.0F);
@@ -61,7 +70,7 @@ TEST_F(EvolutionPlotter, fitsTheAxesOfAnEmptyPlotOnly)
     EvmPlot::Scale own = fitted;
     own.vmax = 123;
     plot.SetScale(own);
-    plotEvolutions(plot, {two.get()});
+    plotAll({two.get()});
     EXPECT_EQ(plot.GetScale(), own) << "the user's scale stays";
 }
 
@@ -70,7 +79,7 @@ TEST_F(EvolutionPlotter, leavesAScaleAloneThatTheUserSetBefore)
     EvmPlot::Scale own;
     own.vmax = 123;
     plot.SetScale(own);
-    plotEvolutions(plot, {one.get()});
+    plotAll({one.get()});
     EXPECT_EQ(plot.GetScale(), own);
 }
 
@@ -82,14 +91,14 @@ TEST_F(EvolutionPlotter, drawsTheFirstOnesOfTooMany)
         many.push_back(evolutionOf("many.evm", 10));
         evolutions.push_back(many.back().get());
     }
-    EXPECT_EQ(plotEvolutions(plot, evolutions), 50U) << "500 curves";
+    EXPECT_EQ(plotAll(evolutions), 50U) << "500 curves";
     EXPECT_EQ(plot.SeriesCollection().size(), 500U);
-    EXPECT_EQ(plotEvolutions(plot, {one.get()}), 0U);
+    EXPECT_EQ(plotAll({one.get()}), 0U);
 }
 
 TEST_F(EvolutionPlotter, headsThePlotWithItsCase)
 {
-    plotEvolutions(plot, {one.get()});
+    plotAll({one.get()});
     EXPECT_EQ(plot.Header().Text().toStdString(),
               "GOLAND WING - CLEAN\r\nPK Method - Mach No. 0.50");
     EXPECT_EQ(plot.Mechanism().Text().toStdString(), "one.evm");
@@ -97,7 +106,7 @@ TEST_F(EvolutionPlotter, headsThePlotWithItsCase)
 
 TEST_F(EvolutionPlotter, headsThePlotWithWhatAllFilesHaveInCommon)
 {
-    plotEvolutions(plot, {one.get(), two.get()});
+    plotAll({one.get(), two.get()});
     EXPECT_EQ(plot.Header().Text().toStdString(), "GOLAND WING - CLEAN\r\nPK Method");
     EXPECT_EQ(plot.Mechanism().Text().toStdString(), "one.evm, two.evm");
 }
@@ -105,14 +114,14 @@ TEST_F(EvolutionPlotter, headsThePlotWithWhatAllFilesHaveInCommon)
 TEST_F(EvolutionPlotter, leavesTextsOfTheUserAlone)
 {
     plot.setBoxText(0, QStringLiteral("my header"));
-    plotEvolutions(plot, {one.get()});
+    plotAll({one.get()});
     EXPECT_EQ(plot.Header().Text(), QStringLiteral("my header"));
 }
 
 TEST_F(EvolutionPlotter, givesEachFileALineStyleOfItsOwnAlsoWhenItComesLater)
 {
-    plotEvolutions(plot, {one.get()});
-    plotEvolutions(plot, {two.get()});
+    plotAll({one.get()});
+    plotAll({two.get()});
     const SeriesList& series = plot.SeriesCollection();
     ASSERT_EQ(series.size(), 5U);
     EXPECT_EQ(series[0].LineStyle, penstyle::solid);
@@ -123,7 +132,21 @@ TEST_F(EvolutionPlotter, givesEachFileALineStyleOfItsOwnAlsoWhenItComesLater)
 
 TEST_F(EvolutionPlotter, doesNothingWithoutEvolutions)
 {
-    plotEvolutions(plot, {});
+    plotAll({});
     EXPECT_TRUE(plot.SeriesCollection().empty());
     EXPECT_EQ(plot.GetScale(), EvmPlot::Scale());
+}
+
+TEST_F(EvolutionPlotter, drawsTheModesAskedForWithTheMarkersAskedFor)
+{
+    const EvolutionCurves curves {one.get(), {one->Modes[2].get(), one->Modes[0].get()}};
+    plotCurves(plot, {curves}, {markerstyle::participationFactor, 3, 7, 12});
+    const SeriesList& series = plot.SeriesCollection();
+    ASSERT_EQ(series.size(), 2U);
+    EXPECT_EQ(series[0].Mode->Id, 3);
+    EXPECT_EQ(series[1].Mode->Id, 1);
+    EXPECT_EQ(series[1].MarkerStyle, markerstyle::participationFactor);
+    EXPECT_EQ(series[1].IthMpf, 3);
+    EXPECT_EQ(series[1].MarkerSpacing, 7);
+    EXPECT_EQ(series[1].MarkerSize, 12);
 }

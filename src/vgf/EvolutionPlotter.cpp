@@ -1,4 +1,4 @@
-#include "app/EvolutionPlotter.h"
+#include "vgf/EvolutionPlotter.h"
 
 #include "model/EVM.h"
 #include "runtime/NumberFormat.h"
@@ -14,7 +14,6 @@ namespace tarsil {
 namespace {
 
 constexpr std::size_t markersPerCurve = 4;
-constexpr std::size_t mostCurves = 500; ///< more make no picture, and take long to draw
 constexpr qsizetype mostNames = 6; ///< more do not fit into a line
 
 /// In the order in which files take them: a long dash comes last, since dashes begin anew with
@@ -77,18 +76,24 @@ std::size_t fileCount(const SeriesList& series)
     return files.size();
 }
 
-void addCurves(EvmPlot& plot, EVM& evolution, std::size_t file)
+std::int32_t usualSpacing(const AeMode& mode)
 {
-    const std::int32_t lineStyle = lineStyles[file % lineStyles.size()];
-    for (const auto& mode : evolution.Modes) {
+    return static_cast<std::int32_t>(
+        std::max<std::size_t>(mode.Points.size() / markersPerCurve, 2));
+}
+
+void addCurves(EvmPlot& plot, const EvolutionCurves& curves, const CurveMarkers& markers,
+               std::size_t file)
+{
+    for (AeMode* mode : curves.modes) {
         Series& series = plot.addSeries(*mode);
-        series.LineStyle = lineStyle;
-        series.LegendText = QString::fromStdString(evolution.FileName);
-        series.MarkerStyle = markerstyle::modeNumber;
-        series.MarkerSize = 8;
+        series.LineStyle = lineStyles[file % lineStyles.size()];
+        series.LegendText = QString::fromStdString(curves.evolution->FileName);
+        series.MarkerStyle = markers.style;
+        series.IthMpf = markers.factor;
+        series.MarkerSize = markers.size;
         series.MarkerForegroundColor = series.ColorIndex;
-        const std::size_t spacing = std::max<std::size_t>(mode->Points.size() / markersPerCurve, 2);
-        series.MarkerSpacing = static_cast<std::int32_t>(spacing);
+        series.MarkerSpacing = markers.spacing.value_or(usualSpacing(*mode));
     }
 }
 
@@ -116,16 +121,25 @@ void fillTexts(EvmPlot& plot, const Evolutions& evolutions)
 
 } // namespace
 
-std::size_t plotEvolutions(EvmPlot& plot, const std::vector<EVM*>& evolutions)
+EvolutionCurves allCurvesOf(EVM& evolution)
+{
+    EvolutionCurves curves {&evolution, {}};
+    for (const auto& mode : evolution.Modes)
+        curves.modes.push_back(mode.get());
+    return curves;
+}
+
+std::size_t plotCurves(EvmPlot& plot, const std::vector<EvolutionCurves>& files,
+                       const CurveMarkers& markers)
 {
     const bool isNew = plot.SeriesCollection().empty() && plot.GetScale() == EvmPlot::Scale();
     std::size_t file = fileCount(plot.SeriesCollection());
     Evolutions drawn;
-    for (EVM* evolution : evolutions) {
-        if (plot.SeriesCollection().size() + evolution->Modes.size() > mostCurves)
+    for (const EvolutionCurves& curves : files) {
+        if (plot.SeriesCollection().size() + curves.modes.size() > mostCurves)
             break;
-        addCurves(plot, *evolution, file++);
-        drawn.push_back(evolution);
+        addCurves(plot, curves, markers, file++);
+        drawn.push_back(curves.evolution);
     }
     if (drawn.empty())
         return 0;
