@@ -85,9 +85,9 @@ TEST_F(PictureCommand, drawsAnSvgWithTheTexts)
 TEST_F(PictureCommand, keepsSvgCurvesWithinTheirCanvas)
 {
     // With a damping axis that ends at 0.1 the curves, which reach from -1 to 1, leave the canvas.
-    const std::string path =
-        draw("out.svg",
-             {"--header", "", "--marker", "none", "--scale", "0,400,0,20,0,-0.1", writeEv2()});
+    const std::string path = draw("out.svg",
+                                  {"--header", "", "--subtitle", "", "--marker", "none", "--scale",
+                                   "0,400,0,20,0,-0.1", writeEv2()});
     QImage image(1000, 750, QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
