@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/PlainMessageBoxes.h"
 #include "runtime/ErrorGuard.h"
 #include "runtime/UserInterface.h"
 
@@ -8,14 +9,16 @@
 namespace tarsil {
 
 /// The last guard: what an event's handler lets through becomes the one report, and the program
-/// goes on.
+/// goes on. All message boxes are plain text.
 class GuardedApplication : public QApplication
 {
 public:
     /// `userInterface` must outlive the application's last event.
     GuardedApplication(int& argc, char** argv, UserInterface& userInterface)
         : QApplication(argc, argv), m_userInterface(userInterface)
-    { }
+    {
+        installEventFilter(&m_plainMessageBoxes);
+    }
 
     bool notify(QObject* receiver, QEvent* event) override
     {
@@ -26,6 +29,7 @@ public:
 
 private:
     UserInterface& m_userInterface;
+    PlainMessageBoxes m_plainMessageBoxes;
 };
 
 } // namespace tarsil

@@ -9,6 +9,7 @@
 using namespace tarsil;
 using test::runBatch;
 using ::testing::HasSubstr;
+using ::testing::StartsWith;
 
 namespace {
 
@@ -97,6 +98,18 @@ TEST_F(InfoCommand, givesTextForPeople)
                           "         2         5         3\n"
                           "\nold.evm\n"));
     EXPECT_THAT(result.out, HasSubstr("\n  Mach number            not given\n"));
+}
+
+TEST_F(InfoCommand, printsNoControlCharacterOfAFile)
+{
+    std::string text = test::fileBytes(writeEv2());
+    text.replace(text.find("QRX190"), 6, "QRX\x1B[31m\r\xC2\x9B");
+    const std::string path = folder().write("red\nname\x1B.ev2", text);
+    const auto result = runBatch({"info", path});
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_THAT(result.out, StartsWith("red?name?.ev2\n"));
+    EXPECT_THAT(result.out, HasSubstr("QRX?[31m??\n"));
+    EXPECT_EQ(result.out.find_first_of("\x1B\r"), std::string::npos);
 }
 
 TEST_F(InfoCommand, givesTextWithPoints)
