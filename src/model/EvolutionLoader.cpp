@@ -70,12 +70,14 @@ public:
 private:
     EVM* loadOne(const std::string& path, Missing missing);
     void tellMissing() const;
+    void tellFailures() const;
 
     Session& m_session;
     UserInterface& m_userInterface;
     OpenFiles m_open;
     std::vector<EVM*> m_added;
     std::vector<std::string> m_missing; ///< not told yet
+    std::vector<std::string> m_failures; ///< the reports of files that cannot be read
 };
 
 std::vector<EVM*> Loader::load(const std::vector<std::string>& paths, Missing missing,
@@ -85,12 +87,15 @@ std::vector<EVM*> Loader::load(const std::vector<std::string>& paths, Missing mi
     std::vector<EVM*> evolutions;
     for (const std::string& path : paths) {
         EVM* evolution = nullptr;
-        guarded(m_userInterface, moduleName, [&] { evolution = loadOne(path, missing); });
+        if (auto failure = reportOf(moduleName, [&] { evolution = loadOne(path, missing); }))
+            m_failures.push_back(std::move(*failure));
         evolutions.push_back(evolution);
         m_userInterface.showProgress(evolutions.size(), paths.size());
     }
     if (!m_missing.empty())
         tellMissing();
+    if (!m_failures.empty())
+        tellFailures();
     if (!m_added.empty() && refreshExplorer)
         guarded(m_userInterface, moduleName, refreshExplorer);
     return evolutions;
@@ -126,6 +131,19 @@ void Loader::tellMissing() const
         text.append("\n").append(shownPath(m_missing[i]));
     if (shown < m_missing.size())
         text.append("\nand " + std::to_string(m_missing.size() - shown) + " more");
+    m_userInterface.showMessage(text, "Error", MessageIcon::Critical);
+}
+
+/// The reports with an empty line between them.
+void Loader::tellFailures() const
+{
+    constexpr std::size_t mostReports = 8; // of two lines or more
+    const std::size_t shown = std::min(m_failures.size(), mostReports);
+    std::string text;
+    for (std::size_t i = 0; i < shown; ++i)
+        text.append(i > 0 ? "\n\n" : "").append(m_failures[i]);
+    if (shown < m_failures.size())
+        text.append("\n\nand " + std::to_string(m_failures.size() - shown) + " more");
     m_userInterface.showMessage(text, "Error", MessageIcon::Critical);
 }
 

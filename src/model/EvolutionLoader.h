@@ -26,7 +26,8 @@ std::vector<std::string> OpenFileDialog(UserInterface& userInterface, std::strin
 
 /// Reads modal evolutions and appends them to those of the session, in the order of `paths`. A file
 /// that is missing, or open already (also by way of another path), is skipped with a message; one
-/// that cannot be read is reported and leaves nothing behind; the others still load.
+/// that cannot be read leaves nothing behind and is reported when the others are loaded: several
+/// of them in one message, at most 8 by their reports.
 /// `refreshExplorer` is called once at the end when there are new evolutions, which are returned
 /// and stay the session's.
 std::vector<EVM*> loadEvolutions(Session& session, const std::vector<std::string>& paths,

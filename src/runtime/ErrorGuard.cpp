@@ -11,34 +11,44 @@ namespace {
 
 /// `Catcher` is the kind of thing that catches: a module's name, or a class.
 template <typename Catcher>
-bool runGuarded(UserInterface& userInterface, Catcher catcher, std::string_view name,
-                const std::function<void()>& action)
+std::optional<std::string> reportOfAction(Catcher catcher, std::string_view name,
+                                          const std::function<void()>& action)
 {
-    const auto report = [&](const RunTimeError& error) {
-        userInterface.showMessage(errorReport(error, catcher), "Error", MessageIcon::Critical);
-    };
     try {
         action();
-        return true;
+        return std::nullopt;
     } catch (const RunTimeError& error) {
-        report(error);
+        return errorReport(error, catcher);
     } catch (const std::exception& error) {
-        report({ErrorNumber::InvalidProcedureCall, std::string(name), error.what()});
+        return errorReport({ErrorNumber::InvalidProcedureCall, std::string(name), error.what()},
+                           catcher);
     }
-    return false;
+}
+
+/// Shows a report, if there is one; whether all went well.
+bool told(UserInterface& userInterface, const std::optional<std::string>& report)
+{
+    if (report)
+        userInterface.showMessage(*report, "Error", MessageIcon::Critical);
+    return !report;
 }
 
 } // namespace
 
+std::optional<std::string> reportOf(std::string_view module, const std::function<void()>& action)
+{
+    return reportOfAction(module, module, action);
+}
+
 bool guarded(UserInterface& userInterface, std::string_view module,
              const std::function<void()>& action)
 {
-    return runGuarded(userInterface, module, module, action);
+    return told(userInterface, reportOf(module, action));
 }
 
 bool guarded(UserInterface& userInterface, ClassName className, const std::function<void()>& action)
 {
-    return runGuarded(userInterface, className, className.name, action);
+    return told(userInterface, reportOfAction(className, className.name, action));
 }
 
 } // namespace tarsil
