@@ -35,13 +35,16 @@ public:
         std::fputs((text + "\n").c_str(), stderr);
     }
     bool confirm(const std::string&, const std::string&) override { return false; }
-    std::optional<std::string> askText(const std::string&, const std::string&) override
+    std::optional<std::string> askText(const std::string&, const std::string&,
+                                       const std::string&) override
     {
         return std::nullopt;
     }
     std::vector<std::string> askOpenFiles(const FileQuestion&) override { return {}; }
     std::optional<std::string> askSaveFile(const FileQuestion&) override { return std::nullopt; }
     void showStatus(std::string_view) override { }
+    void showNote(std::string_view) override { }
+    void beginCommand() override { }
     void showProgress(std::size_t, std::size_t) override { }
 };
 

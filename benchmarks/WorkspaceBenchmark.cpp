@@ -41,7 +41,7 @@ public:
     {
         return false;
     }
-    std::optional<std::string> askText(const std::string& /*prompt*/,
+    std::optional<std::string> askText(const std::string& /*prompt*/, const std::string& /*title*/,
                                        const std::string& /*initial*/) override
     {
         return std::nullopt;
@@ -52,6 +52,8 @@ public:
         return std::nullopt;
     }
     void showStatus(std::string_view /*text*/) override { }
+    void showNote(std::string_view /*text*/) override { }
+    void beginCommand() override { }
     void showProgress(std::size_t /*done*/, std::size_t /*total*/) override { }
 };
 

@@ -141,7 +141,7 @@ void FlutterReport::writeCrossings(const AeMode& mode, std::size_t line, std::si
     for (const Point& point : mode.flutterPoints) {
         sheet.setNumber(line, column, decimalValue(point.speed));
         sheet.setNumber(line, column + crossings, decimalValue(point.f));
-        const float mach = machNumber(evolution, line, sheet);
+        const float mach = machNumber(mode, line, sheet);
         attempt(report, [&] {
             sheet.setNumber(line, column + 2 * crossings, altitudeOf(mode, point.speed, mach));
         });
@@ -152,11 +152,12 @@ void FlutterReport::writeCrossings(const AeMode& mode, std::size_t line, std::si
 }
 
 /// The evolution's Mach number, or the one that the user gives, which goes into the row.
-float FlutterReport::machNumber(const EVM& evolution, std::size_t line, Sheet& sheet) const
+float FlutterReport::machNumber(const AeMode& mode, std::size_t line, Sheet& sheet) const
 {
+    const EVM& evolution = *mode.Parent;
     if (evolution.Param.Mach > 0)
         return evolution.Param.Mach;
-    const std::string answer = m_askMach(evolution, machPrompt).value_or(std::string());
+    const std::string answer = m_askMach(mode, machPrompt).value_or(std::string());
     const float mach = toSingle(answer, "FlutterReport", "Mach No. of " + evolution.FileName);
     sheet.setNumber(line, Mach, decimalValue(mach));
     return mach;

@@ -11,7 +11,6 @@
 namespace tarsil {
 
 class AeMode;
-class EVM;
 class RunTimeError;
 
 /// One row of the flutter report: a mode, which must belong to an evolution, and the text that
@@ -37,8 +36,9 @@ struct ReportRow
 class FlutterReport
 {
 public:
-    /// Asks for the Mach number of an evolution that has none; no answer when the user cancelled.
-    using MachQuestion = std::function<std::optional<std::string>(const EVM&, std::string_view)>;
+    /// Asks for the Mach number at a crossing of a mode whose evolution has none; no answer when
+    /// the user cancelled.
+    using MachQuestion = std::function<std::optional<std::string>(const AeMode&, std::string_view)>;
 
     // What the user is asked, word for word.
     static constexpr std::string_view dampingPrompt =
@@ -74,7 +74,7 @@ private:
     void writeMaximum(const AeMode& mode, std::size_t line, Sheet& sheet) const;
     void writeCrossings(const AeMode& mode, std::size_t line, std::size_t crossings, Sheet& sheet,
                         const FailureReport& report) const;
-    float machNumber(const EVM& evolution, std::size_t line, Sheet& sheet) const;
+    float machNumber(const AeMode& mode, std::size_t line, Sheet& sheet) const;
 
     double m_referenceDamping;
     double m_speedLimit;

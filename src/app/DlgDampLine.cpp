@@ -7,6 +7,8 @@
 #include "runtime/Numbers.h"
 #include "vgf/EvmPlot.h"
 
+#include <QFocusEvent>
+
 #include <utility>
 
 namespace tarsil {
@@ -23,6 +25,25 @@ std::string percentText(double fraction)
     return formatNumber(rounded * 100, "0.00");
 }
 
+/// Whether a text is no number yet, but one digit more can make it one: "-", ".", "1e-".
+bool isBegunNumber(const QString& text)
+{
+    double value = 0;
+    const std::string typed = text.toStdString();
+    return !text.trimmed().isEmpty() && parseDouble(typed, value) == NumberStatus::NotANumber
+        && parseDouble(typed + '0', value) == NumberStatus::Ok;
+}
+
+/// Whether the focus goes to another control of the same window.
+bool leavesControl(const QEvent& event)
+{
+    if (event.type() != QEvent::FocusOut)
+        return false;
+    const Qt::FocusReason reason = static_cast<const QFocusEvent&>(event).reason();
+    return reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason
+        && reason != Qt::MenuBarFocusReason;
+}
+
 } // namespace
 
 dlgDampLine::dlgDampLine(ActivePlot activePlot, UserInterface& userInterface, QWidget* parent)
@@ -31,6 +52,7 @@ dlgDampLine::dlgDampLine(ActivePlot activePlot, UserInterface& userInterface, QW
 {
     m_ui->setupUi(this);
     dlgDampLine::fillDefaults();
+    m_ui->sdampInp->installEventFilter(this);
     connect(m_ui->sdampInp, &QLineEdit::textChanged, this, &dlgDampLine::sdampInp_Change);
     connect(m_ui->sdampBtn, &QPushButton::clicked, this, &dlgDampLine::sdampBtn_Click);
 }
@@ -47,6 +69,8 @@ void dlgDampLine::sdampInp_Change(const QString& text)
 {
     m_ui->captionInp->clear();
     double value = 0;
+    if (isBegunNumber(text))
+        return;
     if (parseDouble(text.toStdString(), value) != NumberStatus::Ok)
         return askForNumber();
     guarded(userInterface(), moduleName, [this, value] {
@@ -54,8 +78,30 @@ void dlgDampLine::sdampInp_Change(const QString& text)
     });
 }
 
+/// The message waits until the focus is where it goes: a box in between would take the press of a
+/// button away from it.
+bool dlgDampLine::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_ui->sdampInp && leavesControl(*event)) {
+        m_isLeft = true;
+        QMetaObject::invokeMethod(this, &dlgDampLine::sdampInp_LostFocus, Qt::QueuedConnection);
+    }
+    return MarkDialog::eventFilter(watched, event);
+}
+
+/// "Add" asks by itself.
+void dlgDampLine::sdampInp_LostFocus()
+{
+    if (!m_isLeft || m_ui->sdampBtn->isDown() || !isBegunNumber(m_ui->sdampInp->text()))
+        return;
+    m_isLeft = false;
+    m_ui->sdampInp->setFocus();
+    askForNumber();
+}
+
 void dlgDampLine::sdampBtn_Click()
 {
+    m_isLeft = false;
     addMark(*m_ui->sdampInp, moduleName,
             [this](EvmPlot& plot, float g) { plot.AddDampLine(g, m_ui->captionInp->text()); });
 }

@@ -11,7 +11,9 @@ class dlgDampLine;
 }
 
 /// The dialog "Add Damping Line": draws a line at a structural damping g, given as a fraction
-/// (0.01 is 1 %), across the V-g curves of the active plot.
+/// (0.01 is 1 %), across the V-g curves of the active plot. The user is asked for a number at each
+/// change to a text that is none; the beginning of one, such as "-", may stand there while he is
+/// typing it.
 class dlgDampLine : public MarkDialog
 {
     Q_OBJECT
@@ -23,12 +25,15 @@ public:
 
 protected:
     void fillDefaults() override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void sdampInp_Change(const QString& text);
+    void sdampInp_LostFocus();
     void sdampBtn_Click();
 
     std::unique_ptr<Ui::dlgDampLine> m_ui;
+    bool m_isLeft = false; ///< the input of the value, and what stands in it was not looked at yet
 };
 
 } // namespace tarsil

@@ -19,6 +19,7 @@ namespace tarsil {
 namespace {
 
 constexpr std::string_view module = "wndMain";
+constexpr std::string_view questionTitle = "Tarsil";
 constexpr std::string_view busy = "Calculate Flutter Speeds. Please Wait ...";
 
 /// A name in the folder that no file has yet.
@@ -47,12 +48,10 @@ std::vector<ReportRow> rowsOf(const EvmPlot& plot)
 void FlutterReportCommand::run(const EvmPlot& plot, const QString& folder)
 {
     guarded(m_userInterface, module, [&] {
-        const auto damping =
-            m_userInterface.askText(std::string(FlutterReport::dampingPrompt), std::string());
+        const auto damping = ask(FlutterReport::dampingPrompt);
         if (!damping || damping->empty())
             return;
-        const auto limit =
-            m_userInterface.askText(std::string(FlutterReport::speedLimitPrompt), std::string());
+        const auto limit = ask(FlutterReport::speedLimitPrompt);
         if (!limit || limit->empty())
             return;
         write(plot, toDouble(*damping, module, "reference damping"),
@@ -66,10 +65,10 @@ void FlutterReportCommand::write(const EvmPlot& plot, double damping, double spe
     const BusyStatus status(m_userInterface, busy);
     Sheet sheet;
     guarded(m_userInterface, module, [&] {
-        const auto ask = [this](const EVM& evolution, std::string_view prompt) {
-            return askMach(evolution, prompt);
+        const auto askHere = [this](const AeMode& mode, std::string_view prompt) {
+            return askMach(mode, prompt);
         };
-        FlutterReport(damping, speedLimit, ask).write(rowsOf(plot), sheet);
+        FlutterReport(damping, speedLimit, askHere).write(rowsOf(plot), sheet);
     });
     QDir().mkpath(folder);
     const QString path = freeName(folder);
@@ -80,13 +79,23 @@ void FlutterReportCommand::write(const EvmPlot& plot, double damping, double spe
                                     "Tarsil", MessageIcon::None);
 }
 
-/// Offers the number last given for the same evolution, which the status bar names.
-std::optional<std::string> FlutterReportCommand::askMach(const EVM& evolution,
+std::optional<std::string> FlutterReportCommand::ask(std::string_view prompt)
+{
+    return m_userInterface.askText(std::string(prompt), std::string(questionTitle), {});
+}
+
+/// The prompt does not say whose number it is, so the title does. Offers the number last given for
+/// the same evolution.
+std::optional<std::string> FlutterReportCommand::askMach(const AeMode& mode,
                                                          std::string_view prompt)
 {
+    const EVM& evolution = *mode.Parent;
     m_userInterface.showStatus(evolution.FileName);
     std::string& last = m_machAnswers[evolution.path()];
-    auto answer = m_userInterface.askText(std::string(prompt), last);
+    auto answer = m_userInterface.askText(std::string(prompt),
+                                          std::string(questionTitle) + " - " + evolution.FileName
+                                              + ", mode " + std::to_string(mode.Id),
+                                          last);
     m_userInterface.showStatus(busy);
     float mach = 0;
     if (answer && parseSingle(*answer, mach) == NumberStatus::Ok)

@@ -11,7 +11,7 @@ class QString;
 
 namespace tarsil {
 
-class EVM;
+class AeMode;
 class EvmPlot;
 
 /// The command "Calculate Flutter Speeds": asks for the reference damping and the speed limit,
@@ -33,7 +33,8 @@ public:
     void run(const EvmPlot& plot, const QString& folder);
 
 private:
-    std::optional<std::string> askMach(const EVM& evolution, std::string_view prompt);
+    std::optional<std::string> ask(std::string_view prompt);
+    std::optional<std::string> askMach(const AeMode& mode, std::string_view prompt);
     void write(const EvmPlot& plot, double damping, double speedLimit, const QString& folder);
 
     UserInterface& m_userInterface;

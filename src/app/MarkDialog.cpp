@@ -22,13 +22,16 @@ void MarkDialog::done(int result)
     QDialog::done(result);
 }
 
-void MarkDialog::addMark(const QLineEdit& input, std::string_view module,
+void MarkDialog::addMark(QLineEdit& input, std::string_view module,
                          const std::function<void(EvmPlot&, float)>& add)
 {
+    m_userInterface.beginCommand();
     guarded(m_userInterface, module, [&] {
         const std::string text = input.text().toStdString();
         float value = 0;
         const NumberStatus status = parseSingle(text, value);
+        if (status != NumberStatus::Ok)
+            goTo(input);
         if (status == NumberStatus::NotANumber)
             return askForNumber();
         if (status != NumberStatus::Ok)
@@ -40,6 +43,13 @@ void MarkDialog::addMark(const QLineEdit& input, std::string_view module,
         else
             add(*plot, value);
     });
+}
+
+/// The button has brought the user here, or he has been in one of the inputs and stays there.
+void MarkDialog::goTo(QLineEdit& input)
+{
+    if (qobject_cast<QLineEdit*>(focusWidget()) == nullptr)
+        input.setFocus();
 }
 
 void MarkDialog::askForNumber()

@@ -32,8 +32,9 @@ protected:
     virtual void fillDefaults() = 0;
 
     /// Hands the number in an input and the active plot on to `add`. Without a number or a plot the
-    /// user gets a message instead; an error is reported as one of `module`.
-    void addMark(const QLineEdit& input, std::string_view module,
+    /// user gets a message instead, and after one about the number he can put it right at once; an
+    /// error is reported as one of `module`.
+    void addMark(QLineEdit& input, std::string_view module,
                  const std::function<void(EvmPlot&, float)>& add);
 
     void askForNumber();
@@ -42,6 +43,8 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void goTo(QLineEdit& input);
+
     ActivePlot m_activePlot;
     UserInterface& m_userInterface;
 };

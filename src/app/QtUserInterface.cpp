@@ -1,18 +1,25 @@
 #include "app/QtUserInterface.h"
 
 #include "app/StatusPanels.h"
+#include "runtime/BusyStatus.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPointer>
 
 #include <algorithm>
 
 namespace tarsil {
 
 namespace {
+
+QString textOf(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
 
 /// A dialog over the filters, the wanted one chosen.
 void prepare(QFileDialog& dialog, const FileQuestion& question)
@@ -27,10 +34,26 @@ void prepare(QFileDialog& dialog, const FileQuestion& question)
         dialog.selectFile(QString::fromStdString(question.fileName));
 }
 
-std::vector<std::string> chosenFiles(QFileDialog& dialog)
+/// Runs a dialog. Not every window manager gives the keyboard back to the window that the dialog
+/// belongs to, and the main window, if it got it, would hand the keys that are meant for a number
+/// to its grid.
+int execOver(QWidget* asker, QDialog& dialog)
+{
+    const QPointer<QWidget> window(asker);
+    const QPointer<QWidget> field(QApplication::focusWidget());
+    const int result = dialog.exec();
+    if (window == nullptr || !window->isVisible())
+        return result;
+    window->activateWindow();
+    if (field != nullptr && field->window() == window && field->isVisible())
+        field->setFocus();
+    return result;
+}
+
+std::vector<std::string> chosenFiles(QWidget* asker, QFileDialog& dialog)
 {
     std::vector<std::string> files;
-    if (dialog.exec() == QDialog::Accepted) {
+    if (execOver(asker, dialog) == QDialog::Accepted) {
         for (const QString& file : dialog.selectedFiles())
             files.push_back(QDir::toNativeSeparators(file).toStdString());
     }
@@ -59,6 +82,14 @@ void QtUserInterface::attach(QWidget* window, StatusPanels* panels)
     m_panels = panels;
 }
 
+QWidget* QtUserInterface::asker() const
+{
+    if (QWidget* const modal = QApplication::activeModalWidget())
+        return modal;
+    QWidget* const active = QApplication::activeWindow();
+    return active != nullptr ? active : m_window;
+}
+
 void QtUserInterface::showMessage(const std::string& text, const std::string& title,
                                   MessageIcon icon)
 {
@@ -67,58 +98,77 @@ void QtUserInterface::showMessage(const std::string& text, const std::string& ti
     const QMessageBox::Icon shown = icon == MessageIcon::Critical ? QMessageBox::Critical
         : icon == MessageIcon::Exclamation                        ? QMessageBox::Warning
                                                                   : QMessageBox::NoIcon;
-    QMessageBox box(shown, QString::fromStdString(title), lines, QMessageBox::Ok,
-                    QApplication::activeModalWidget() ? QApplication::activeModalWidget()
-                                                      : m_window);
+    QWidget* const window = asker();
+    QMessageBox box(shown, QString::fromStdString(title), lines, QMessageBox::Ok, window);
     box.setTextFormat(Qt::PlainText);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    box.exec();
+    execOver(window, box);
 }
 
 bool QtUserInterface::confirm(const std::string& question, const std::string& title)
 {
+    QWidget* const window = asker();
     QMessageBox box(QMessageBox::Question, QString::fromStdString(title),
-                    QString::fromStdString(question), QMessageBox::Yes | QMessageBox::No, m_window);
+                    QString::fromStdString(question), QMessageBox::Yes | QMessageBox::No, window);
     box.setTextFormat(Qt::PlainText);
-    return box.exec() == QMessageBox::Yes;
+    return execOver(window, box) == QMessageBox::Yes;
 }
 
 std::optional<std::string> QtUserInterface::askText(const std::string& prompt,
+                                                    const std::string& title,
                                                     const std::string& initial)
 {
-    bool isAnswered = false;
-    const QString text =
-        QInputDialog::getText(m_window, QStringLiteral("Tarsil"), QString::fromStdString(prompt),
-                              QLineEdit::Normal, QString::fromStdString(initial), &isAnswered);
-    return isAnswered ? std::optional(text.toStdString()) : std::nullopt;
+    QWidget* const window = asker();
+    QInputDialog dialog(window);
+    dialog.setWindowTitle(QString::fromStdString(title));
+    dialog.setLabelText(QString::fromStdString(prompt));
+    dialog.setTextValue(QString::fromStdString(initial));
+    const bool isAnswered = execOver(window, dialog) == QDialog::Accepted;
+    return isAnswered ? std::optional(dialog.textValue().toStdString()) : std::nullopt;
 }
 
 std::vector<std::string> QtUserInterface::askOpenFiles(const FileQuestion& question)
 {
-    QFileDialog dialog(m_window);
+    QWidget* const window = asker();
+    QFileDialog dialog(window);
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setFileMode(question.takesSeveral ? QFileDialog::ExistingFiles
                                              : QFileDialog::ExistingFile);
     prepare(dialog, question);
-    return chosenFiles(dialog);
+    return chosenFiles(window, dialog);
 }
 
 std::optional<std::string> QtUserInterface::askSaveFile(const FileQuestion& question)
 {
-    QFileDialog dialog(m_window);
+    QWidget* const window = asker();
+    QFileDialog dialog(window);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite, !question.confirmsReplacing);
     prepare(dialog, question);
-    const std::vector<std::string> files = chosenFiles(dialog);
+    const std::vector<std::string> files = chosenFiles(window, dialog);
     return files.empty() ? std::nullopt : std::optional(files.front());
 }
 
 void QtUserInterface::showStatus(std::string_view text)
 {
     if (m_panels != nullptr)
-        m_panels->setText(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+        m_panels->setText(textOf(text));
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void QtUserInterface::showNote(std::string_view text)
+{
+    if (m_panels != nullptr)
+        m_panels->setNote(textOf(text));
+}
+
+void QtUserInterface::beginCommand()
+{
+    if (m_panels == nullptr)
+        return;
+    m_panels->setText(textOf(readyStatus));
+    m_panels->setNote(QString());
 }
 
 void QtUserInterface::showProgress(std::size_t done, std::size_t total)

@@ -3,12 +3,31 @@
 #include <QEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QProgressBar>
 #include <QToolButton>
 
 namespace tarsil {
 
 namespace {
+
+/// A line that takes the room there is, and never more: a path is shown with its beginning and end.
+class ShortenedLabel : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+    QSize minimumSizeHint() const override { return {0, QLabel::minimumSizeHint().height()}; }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        QPainter painter(this);
+        const QRect room = contentsRect();
+        painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter,
+                         fontMetrics().elidedText(text(), Qt::ElideMiddle, room.width()));
+    }
+};
 
 QToolButton* togglePanel(const QString& caption, const QString& name, QWidget* parent)
 {
@@ -37,7 +56,7 @@ void showState(QToolButton* panel, bool on)
 
 StatusPanels::StatusPanels(QWidget* parent)
     : QStatusBar(parent), m_text(new QLabel(QStringLiteral("Ready"), this)),
-      m_progress(new QProgressBar(this)),
+      m_note(new ShortenedLabel(this)), m_progress(new QProgressBar(this)),
       m_autoPlot(togglePanel(QStringLiteral("AutoPlot"), QStringLiteral("stBar_AutoPlot"), this)),
       m_editMode(togglePanel(QStringLiteral("Edit Mode"), QStringLiteral("stBar_EditMode"), this))
 {
@@ -45,10 +64,15 @@ StatusPanels::StatusPanels(QWidget* parent)
     m_text->setObjectName(QStringLiteral("stBar_Status"));
     m_text->setTextFormat(Qt::PlainText); // file names are no mark-up
     m_text->setAccessibleDescription(tr("Status"));
+    m_note->setObjectName(QStringLiteral("stBar_Note"));
+    m_note->setAccessibleDescription(tr("Note"));
+    m_note->setTextFormat(Qt::PlainText);
+    m_note->hide();
     m_progress->setAccessibleName(tr("Progress"));
     m_progress->setMaximumWidth(200);
     m_progress->hide();
-    addWidget(m_text, 1);
+    addWidget(m_text);
+    addWidget(m_note, 1);
     addWidget(m_progress);
     addPermanentWidget(m_autoPlot);
     addPermanentWidget(m_editMode);
@@ -74,6 +98,13 @@ void StatusPanels::setText(const QString& text)
 QString StatusPanels::text() const
 {
     return m_text->text();
+}
+
+void StatusPanels::setNote(const QString& text)
+{
+    m_note->setText(text);
+    m_note->setToolTip(text.toHtmlEscaped()); // as it stands
+    m_note->setVisible(!text.isEmpty()); // an empty one is nothing to read aloud
 }
 
 void StatusPanels::setAutoPlot(bool on)

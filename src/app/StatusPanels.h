@@ -10,7 +10,8 @@ namespace tarsil {
 
 /// The status bar `stBar` with its three panels: the status text, "AutoPlot", and "Edit Mode". The
 /// last two are shown enabled when they are on. A click on "Edit Mode" is announced; on the others
-/// it does nothing.
+/// it does nothing. Beside the status text there is room for a note, which is shortened in the
+/// middle where it is too long, and whole in its tool tip.
 class StatusPanels : public QStatusBar
 {
     Q_OBJECT
@@ -21,6 +22,8 @@ public:
     void setText(const QString& text);
     QString text() const;
 
+    /// An empty text ends the note.
+    void setNote(const QString& text);
     void setAutoPlot(bool on);
     void setEditMode(bool on);
 
@@ -36,6 +39,7 @@ protected:
 
 private:
     QLabel* m_text;
+    QLabel* m_note;
     QProgressBar* m_progress;
     QToolButton* m_autoPlot;
     QToolButton* m_editMode;

@@ -138,6 +138,7 @@ void wndMain::commitEdits()
 void wndMain::run(Handler handler)
 {
     commitEdits();
+    m_userInterface.beginCommand();
     guarded(m_userInterface, "wndMain", [this, handler] { (this->*handler)(); });
 }
 
@@ -321,6 +322,7 @@ void wndMain::stBar_PanelClick(int panel)
     constexpr int editMode = 3;
     if (panel != editMode)
         return;
+    m_userInterface.beginCommand();
     guarded(m_userInterface, "wndMain", [this] {
         EvmPlot& plot = activePlot();
         plot.setEditMode(!plot.EditMode());

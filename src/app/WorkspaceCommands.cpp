@@ -96,6 +96,15 @@ std::string placesOf(const std::vector<LongValue>& values)
     return places;
 }
 
+/// What is said of values that are longer than the format takes, before what is said of the file.
+std::string noteOf(const std::vector<LongValue>& values)
+{
+    return values.empty() ? std::string()
+                          : placesOf(values) + (values.size() == 1 ? " is" : " are")
+            + " longer than 1023 characters, all that the format takes of each: the rest will be "
+              "cut when the workspace is opened. ";
+}
+
 } // namespace
 
 WorkspaceCommands::WorkspaceCommands(Session& session, wndEvolPlot& plots,
@@ -223,9 +232,9 @@ void WorkspaceCommands::open(const std::string& path)
     m_isPartial |= failure.happened();
     remember();
     if (!reading.cutValues.empty())
-        m_userInterface.showStatus(placesOf(reading.cutValues)
-                                   + (reading.cutValues.size() == 1 ? " is" : " are")
-                                   + " cut: the format takes 1023 characters of each.");
+        m_userInterface.showNote(placesOf(reading.cutValues)
+                                 + (reading.cutValues.size() == 1 ? " is" : " are")
+                                 + " cut: the format takes 1023 characters of each.");
     failure.raise();
 }
 
@@ -322,12 +331,8 @@ void WorkspaceCommands::write(const std::string& path)
         m_path = shownPath(path);
         m_isPartial = false;
         remember();
-        m_userInterface.showStatus(written.longValues.empty() ? std::string(readyStatus)
-                                                              : placesOf(written.longValues)
-                                           + (written.longValues.size() == 1 ? " is" : " are")
-                                           + " longer than 1023 characters, all that the format "
-                                             "takes of each: the rest will "
-                                             "be cut when the workspace is opened.");
+        m_userInterface.showNote(noteOf(written.longValues) + "The workspace is in "
+                                 + wholePath(path));
     } catch (...) {
         m_explorer.setDateModified(modified);
         throw;

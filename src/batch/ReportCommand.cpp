@@ -94,9 +94,9 @@ int runReport(const CommandLine& line, BatchRun& run)
         else
             addModesOfEvolution(path, source, run, rows);
     }
-    const auto answerMach = [&mach](const EVM& evolution, std::string_view) {
+    const auto answerMach = [&mach](const AeMode& mode, std::string_view) {
         if (!mach)
-            throw Failure(shownPath(evolution.path())
+            throw Failure(shownPath(mode.Parent->path())
                           + " holds no Mach number; give it with --mach");
         return std::optional(*mach);
     };

@@ -34,6 +34,18 @@ std::int16_t ticks(float count, const FlutterMechanism& mechanism, std::string_v
 
 } // namespace
 
+std::string missingAircraftText(const AirplaneInfo& airplane)
+{
+    const bool isKnown = !airplane.MassConfs.empty() || !airplane.FlutterMechs.empty()
+        || !airplane.FlutterEnvs.empty();
+    if (isKnown || fileExists(airplane.Filename))
+        return {};
+    const std::string missing = airplane.Filename.empty()
+        ? "No aircraft information file is set"
+        : "The aircraft information file \"" + shownPath(airplane.Filename) + "\" does not exist";
+    return missing + ": choose one in Tools > Options.";
+}
+
 QString headerText(const EVM& evolution, const QString& lastLine)
 {
     QString airplane = QString::fromStdString(evolution.Param.Airplane);
@@ -49,10 +61,13 @@ void markEnvelope(EvmPlot& plot, const EVM& evolution, const AirplaneInfo& airpl
 {
     const std::string mach = machText(evolution);
     const FlutterEnvelope* const envelope = airplane.flutterEnvelope(mach);
-    if (envelope == nullptr)
+    if (envelope == nullptr) {
+        const std::string missing = missingAircraftText(airplane);
+        const std::string where =
+            missing.empty() ? " in \"" + shownPath(airplane.Filename) + "\"" : ". " + missing;
         throw RunTimeError(ErrorNumber::InvalidProcedureCall, std::string(module),
-                           "no flutter envelope for Mach number " + mach + " in \""
-                               + shownPath(airplane.Filename) + "\"");
+                           "no flutter envelope for Mach number " + mach + where);
+    }
     // The blanks set the captions off from each other where the speeds are close.
     plot.RemoveRef();
     plot.AddRef(envelope->Ceiling, QString::fromStdString(airplane.CeTag));

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <string>
+
 namespace tarsil {
 
 class AirplaneInfo;
@@ -9,6 +11,10 @@ class EVM;
 class EvmPlot;
 
 // The texts and marks that a plot gets from what is known about an evolution and its airplane.
+
+/// What the user can do about an airplane of which nothing is known, because no aircraft
+/// information file is set or the one that is set is not there; empty in every other case.
+std::string missingAircraftText(const AirplaneInfo& airplane);
 
 /// The header in three lines: airplane and mass configuration; method and Mach number; what the
 /// user says.

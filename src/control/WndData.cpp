@@ -138,6 +138,7 @@ void wndData::makeMoveMenu()
 
 void wndData::run(const std::function<void()>& action)
 {
+    m_user.beginCommand();
     guarded(m_user, module, action);
 }
 

@@ -13,8 +13,6 @@
 #include "runtime/UserInterface.h"
 #include "vgf/WndEvolPlot.h"
 
-#include <QDir>
-
 namespace tarsil {
 
 namespace {
@@ -61,8 +59,11 @@ void wndData::btnMakHead_Click()
     const EVM* const evolution = reference();
     if (evolution == nullptr)
         return;
-    if (m_airplane.massConf(evolution->Param.Mass) == nullptr)
-        return warn("Please type a valid mass configurarion in ref. modal evolution.");
+    if (m_airplane.massConf(evolution->Param.Mass) == nullptr) {
+        const std::string missing = missingAircraftText(m_airplane);
+        return warn("Please type a valid mass configurarion in ref. modal evolution."
+                    + (missing.empty() ? missing : "\n" + missing));
+    }
     if (EvmPlot* const plot = activePlot())
         plot->setBoxText(headerBox, headerText(*evolution, m_ui->txtTitle->text()));
 }
@@ -115,8 +116,8 @@ void wndData::btnPlotLeg_Click()
         warn(missing);
 }
 
-/// A dialog that is cancelled leaves the plot's caption standing as the name, and that is written;
-/// the status bar says where. It has not asked before a file of that name is replaced, then.
+/// A dialog that is cancelled leaves the plot's caption standing as the name, and that is written.
+/// It has not asked before a file of that name is replaced, then.
 void wndData::SavePic_Click()
 {
     EvmPlot* const plot = activePlot();
@@ -128,10 +129,9 @@ void wndData::SavePic_Click()
         && !m_user.confirm("The file '" + caption + "' already exists. Do you want to replace it?",
                            "Tarsil"))
         return;
-    const QString name = QString::fromStdString(answer.value_or(caption));
-    plot->ExportPic(name);
-    if (!answer)
-        m_user.showStatus("The picture is in " + QDir().absoluteFilePath(name).toStdString());
+    const std::string name = answer.value_or(caption);
+    plot->ExportPic(QString::fromStdString(name));
+    m_user.showNote("The picture is in " + wholePath(name));
 }
 
 } // namespace tarsil

@@ -6,9 +6,23 @@
 #include "vgf/ToolTipText.h"
 
 #include <QFont>
+#include <QStringList>
 #include <QTreeWidget>
 
 namespace tarsil {
+
+namespace {
+
+/// A screen reader says of a node all that its looks tell.
+void describe(QTreeWidgetItem& node)
+{
+    QStringList texts {node.data(0, MeaningRole).toString(), node.data(0, FindingsRole).toString()};
+    texts.removeAll(QString());
+    node.setData(0, Qt::AccessibleDescriptionRole,
+                 texts.isEmpty() ? QVariant() : QVariant(texts.join(u'\n')));
+}
+
+} // namespace
 
 Node makeNode(const QString& key, const QString& text)
 {
@@ -53,6 +67,14 @@ void setPlainToolTip(QTreeWidgetItem& node, const QString& text)
     node.setToolTip(0, toolTipText(text));
 }
 
+void warn(QTreeWidgetItem& node, ExplorerImages& images, const QString& findings)
+{
+    setImage(node, images, QStringLiteral("warning"));
+    setPlainToolTip(node, findings);
+    node.setData(0, FindingsRole, findings);
+    describe(node);
+}
+
 EVM* taggedEvolution(const QTreeWidgetItem* node)
 {
     return node != nullptr ? node->data(0, TagRole).value<EVM*>() : nullptr;
@@ -78,13 +100,15 @@ void distinguish(QTreeWidgetItem& node, const QString& meaning)
     QFont font = node.treeWidget() != nullptr ? node.treeWidget()->font() : QFont();
     font.setBold(true);
     node.setFont(0, font);
-    node.setData(0, Qt::AccessibleDescriptionRole, meaning);
+    node.setData(0, MeaningRole, meaning);
+    describe(node);
 }
 
 void undistinguish(QTreeWidgetItem& node)
 {
     node.setData(0, Qt::FontRole, QVariant());
-    node.setData(0, Qt::AccessibleDescriptionRole, QVariant());
+    node.setData(0, MeaningRole, QVariant());
+    describe(node);
 }
 
 } // namespace tarsil

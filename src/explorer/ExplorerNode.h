@@ -17,7 +17,9 @@ class ExplorerImages;
 enum NodeRole {
     KeyRole = Qt::UserRole, ///< the node's key, a text; none for a node that shows a value
     ImageRole, ///< the name of the node's image
-    TagRole ///< the EVM* or EvmPlot* that the node stands for
+    TagRole, ///< the EVM* or EvmPlot* that the node stands for
+    MeaningRole, ///< what sets the node off from its neighbours, a text
+    FindingsRole ///< what is doubtful about it, a text
 };
 
 using Node = std::unique_ptr<QTreeWidgetItem>;
@@ -39,6 +41,10 @@ void setImage(QTreeWidgetItem& node, ExplorerImages& images, const QString& name
 
 /// Shows a text while the pointer rests on a node: as it stands, also when it looks like HTML.
 void setPlainToolTip(QTreeWidgetItem& node, const QString& text);
+
+/// Shows a warning sign, and what is doubtful while the pointer rests on the node and to those who
+/// cannot see that.
+void warn(QTreeWidgetItem& node, ExplorerImages& images, const QString& findings);
 
 /// The evolution or plot that a node itself stands for; null when it stands for none.
 EVM* taggedEvolution(const QTreeWidgetItem* node);

@@ -35,9 +35,7 @@ wndEvolExplorer::wndEvolExplorer(Session& session, wndEvolPlot& plots, UserInter
     layout->addWidget(m_tree);
     setFocusProxy(m_tree);
     connect(&m_marks, &EvolutionMarks::found, this, [this](EVM* evolution, const QString& text) {
-        QTreeWidgetItem* const node = m_evolutions.nodeOf(evolution);
-        setImage(*node, m_images, QStringLiteral("warning"));
-        setPlainToolTip(*node, text);
+        warn(*m_evolutions.nodeOf(evolution), m_images, text);
     });
     // A new plot is not shown by itself, so that only its node tells of it.
     connect(&plots, &wndEvolPlot::plotAdded, this,
@@ -68,7 +66,7 @@ void wndEvolExplorer::makeTree()
     m_tree->setItemDelegate(m_labels);
     connect(m_labels, &LabelDelegate::renamed, this,
             [this](const QModelIndex& index, const QString& text) {
-                run([&] { rename(*m_tree->itemFromIndex(index), text); });
+                runCommand([&] { rename(*m_tree->itemFromIndex(index), text); });
             });
     connect(m_tree, &QTreeWidget::itemActivated, this, &wndEvolExplorer::nodeActivated);
     m_tree->setContextMenuPolicy(Qt::CustomContextMenu);
@@ -79,6 +77,13 @@ void wndEvolExplorer::makeTree()
 void wndEvolExplorer::run(const std::function<void()>& action)
 {
     guarded(m_user, "wndEvolExplorer", action);
+}
+
+/// What the user asks for himself.
+void wndEvolExplorer::runCommand(const std::function<void()>& action)
+{
+    m_user.beginCommand();
+    run(action);
 }
 
 void wndEvolExplorer::FillEvolsNode()

@@ -99,6 +99,7 @@ private:
     void makeToolbar();
     void makeTree();
     void run(const std::function<void()>& action);
+    void runCommand(const std::function<void()>& action);
 
     void remove_Click();
     void select_Click();

@@ -21,7 +21,7 @@ namespace tarsil {
 void wndEvolExplorer::nodeActivated(QTreeWidgetItem* node)
 {
     if (EvmPlot* const plot = taggedPlot(node))
-        run([this, plot] { m_plotWindow.ActivatePlot(plot); });
+        runCommand([this, plot] { m_plotWindow.ActivatePlot(plot); });
     else if (node->flags().testFlag(Qt::ItemIsEditable))
         m_tree->editItem(node);
 }

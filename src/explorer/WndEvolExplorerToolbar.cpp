@@ -38,8 +38,9 @@ void wndEvolExplorer::makeToolbar()
         QAction* const action = m_toolBar->addAction(m_images.image(key), toolTip);
         action->setObjectName(key);
         action->setToolTip(toolTip);
-        connect(action, &QAction::triggered, this,
-                [this, handler = button.handler] { run([this, handler] { (this->*handler)(); }); });
+        connect(action, &QAction::triggered, this, [this, handler = button.handler] {
+            runCommand([this, handler] { (this->*handler)(); });
+        });
         if (button.endsGroup)
             m_toolBar->addSeparator();
     }

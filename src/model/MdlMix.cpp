@@ -3,6 +3,7 @@
 #include "runtime/BusyStatus.h"
 #include "runtime/ErrorGuard.h"
 #include "runtime/Numbers.h"
+#include "runtime/PathNames.h"
 #include "runtime/RunTimeError.h"
 
 #include <algorithm>
@@ -39,6 +40,7 @@ void exportMixed(const std::vector<const AeMode*>& modes, UserInterface& userInt
             return;
         const BusyStatus status(userInterface, exportingStatus);
         mixed->PrintEVM(*path);
+        userInterface.showNote("The mixed modal evolution is in " + wholePath(*path));
     });
 }
 

@@ -23,7 +23,8 @@ constexpr std::string_view exportingStatus = "Exporting Mixed Modal Evolutions. 
 std::unique_ptr<EVM> gather(const std::vector<const AeMode*>& modes);
 
 /// Asks for a file and writes the modes to it as one evolution in the fixed-column layout, whatever
-/// its name. Writes nothing when the user cancels; a failure is reported.
+/// its name; the user is told where it is. Writes nothing when the user cancels; a failure is
+/// reported.
 void exportMixed(const std::vector<const AeMode*>& modes, UserInterface& userInterface);
 
 } // namespace tarsil::mdlMix

@@ -68,6 +68,12 @@ std::string shownPath(std::string_view path)
     return nativePath(path).string();
 }
 
+std::string wholePath(std::string_view path)
+{
+    const FilePath file = resolvePath(path);
+    return shownPath(joinPath(file.folder, file.name));
+}
+
 FilePath resolvePath(std::string_view path)
 {
     std::error_code failed;

@@ -28,6 +28,9 @@ std::filesystem::path nativePath(std::string_view path);
 /// A path as messages show it: with the platform's separators.
 std::string shownPath(std::string_view path);
 
+/// The same with the folders that a relative path is counted from.
+std::string wholePath(std::string_view path);
+
 /// The UTF-8 text of a platform path.
 std::string pathText(const std::filesystem::path& path);
 

@@ -37,8 +37,8 @@ public:
     /// A question with Yes and No; true for Yes.
     virtual bool confirm(const std::string& question, const std::string& title) = 0;
 
-    /// One line of text; none when the user cancels.
-    virtual std::optional<std::string> askText(const std::string& prompt,
+    /// One line of text, with `initial` in its field at first; none when the user cancels.
+    virtual std::optional<std::string> askText(const std::string& prompt, const std::string& title,
                                                const std::string& initial) = 0;
 
     /// Files to open, with their folders; none when the user cancels.
@@ -47,8 +47,15 @@ public:
     /// The file to save to. None when the user cancels.
     virtual std::optional<std::string> askSaveFile(const FileQuestion& question) = 0;
 
-    /// The first panel of the status bar.
+    /// The first panel of the status bar: what is going on.
     virtual void showStatus(std::string_view text) = 0;
+
+    /// What a command leaves to say when it has ended, such as where a file went: beside the
+    /// status, until the next command begins.
+    virtual void showNote(std::string_view text) = 0;
+
+    /// The user begins a command: the status is "Ready", and the note of the one before goes.
+    virtual void beginCommand() = 0;
 
     /// How far a long operation is; the windows are painted meanwhile, but take no input. `done`
     /// equal to `total` ends it.

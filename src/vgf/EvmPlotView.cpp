@@ -5,6 +5,7 @@
 #include "vgf/PictureWriter.h"
 #include "vgf/RichTextEditor.h"
 
+#include <QAccessibleWidget>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -23,6 +24,13 @@ namespace {
 
 constexpr QSize leastEditorSize(420, 130);
 
+/// A plot is a graphic to a screen reader, with whatever it holds.
+QAccessibleInterface* plotInterface(const QString& /*className*/, QObject* object)
+{
+    auto* const view = qobject_cast<EvmPlotView*>(object);
+    return view != nullptr ? new QAccessibleWidget(view, QAccessible::Graphic) : nullptr;
+}
+
 } // namespace
 
 EvmPlotView::EvmPlotView(EvmPlot& plot, QWidget* parent)
@@ -34,6 +42,7 @@ EvmPlotView::EvmPlotView(EvmPlot& plot, QWidget* parent)
     setMinimumSize(240, 180);
     setFocusPolicy(Qt::StrongFocus);
     makeActions();
+    QAccessible::installFactory(plotInterface); // once, however many there are
     connect(&m_plot, &EvmPlot::changed, this, qOverload<>(&QWidget::update));
     connect(&m_plot, &EvmPlot::changed, this, &EvmPlotView::updateDescription);
     connect(&m_plot, &EvmPlot::pictureWanted, this, [this] { finishEditing(true); });
@@ -134,7 +143,10 @@ void EvmPlotView::mousePressEvent(QMouseEvent* event)
 
 void EvmPlotView::mouseMoveEvent(QMouseEvent* event)
 {
+    const bool wasMoving = m_mover.isMoving();
     m_mover.pointTo(event->pos(), event->buttons() & Qt::LeftButton);
+    if (m_mover.isMoving() && !wasMoving)
+        Q_EMIT commandBegun();
     followMovement();
 }
 
@@ -161,12 +173,14 @@ void EvmPlotView::keyPressEvent(QKeyEvent* event)
 {
     const bool edits = event->key() == Qt::Key_F2 || event->key() == Qt::Key_Return
         || event->key() == Qt::Key_Enter;
-    if (m_mover.press(*event))
+    if (m_mover.press(*event)) {
+        Q_EMIT commandBegun();
         followMovement();
-    else if (edits && m_mover.selected())
+    } else if (edits && m_mover.selected()) {
         startEditing(*m_mover.selected());
-    else
+    } else {
         QWidget::keyPressEvent(event);
+    }
 }
 
 void EvmPlotView::focusOutEvent(QFocusEvent* event)
@@ -212,6 +226,7 @@ void EvmPlotView::followMovement()
 
 void EvmPlotView::copyPicture()
 {
+    Q_EMIT commandBegun();
     try {
         QGuiApplication::clipboard()->setMimeData(pictureMimeData(m_plot).release());
     } catch (const RunTimeError& error) {
@@ -222,6 +237,7 @@ void EvmPlotView::copyPicture()
 void EvmPlotView::startEditing(std::size_t index)
 {
     finishEditing(true);
+    Q_EMIT commandBegun();
     m_mover.select(index);
     followMovement();
     const emfRichTextBox& box = m_plot.box(index);
@@ -262,23 +278,19 @@ void EvmPlotView::letGo()
     followMovement();
 }
 
+/// The titles and numbers are filled in at once: a title may hold what looks like a place for one.
 void EvmPlotView::updateDescription()
 {
     const EvmPlot::Scale scale = m_plot.GetScale();
+    const auto axis = [](const QString& text, const QString& title, float from, float to) {
+        return text.arg(title, QString::number(from), QString::number(to));
+    };
     setAccessibleName(tr("V-g-f plot %1").arg(m_plot.Caption()));
-    setAccessibleDescription(tr("%1 curves; speed axis %2 from %3 to %4, frequency axis %5 from %6 "
-                                "to %7, damping axis %8 "
-                                "from %9")
-                                 .arg(m_plot.SeriesCollection().size())
-                                 .arg(m_plot.vLabel())
-                                 .arg(scale.vmin)
-                                 .arg(scale.vmax)
-                                 .arg(m_plot.fLabel())
-                                 .arg(scale.fmin)
-                                 .arg(scale.fmax)
-                                 .arg(m_plot.gLabel())
-                                 .arg(scale.gmin)
-                             + tr(" to %1").arg(scale.gmax));
+    setAccessibleDescription(
+        tr("%1 curves; ").arg(m_plot.SeriesCollection().size())
+        + axis(tr("speed axis %1 from %2 to %3, "), m_plot.vLabel(), scale.vmin, scale.vmax)
+        + axis(tr("frequency axis %1 from %2 to %3, "), m_plot.fLabel(), scale.fmin, scale.fmax)
+        + axis(tr("damping axis %1 from %2 to %3"), m_plot.gLabel(), scale.gmin, scale.gmax));
 }
 
 } // namespace tarsil

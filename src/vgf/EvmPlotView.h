@@ -36,6 +36,9 @@ Q_SIGNALS:
     /// repaint.
     void failed(const tarsil::RunTimeError& error);
 
+    /// The user copies the picture, or begins to edit or to move a text box.
+    void commandBegun();
+
 protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;

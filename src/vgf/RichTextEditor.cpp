@@ -58,7 +58,7 @@ RichTextEditor::RichTextEditor(const RichText& text, ColorValue automaticColor, 
     m_edit->setPalette(palette);
     m_edit->setAccessibleName(tr("Text"));
     fillDocument(*m_edit->document(), text);
-    m_edit->selectAll();
+    m_edit->moveCursor(QTextCursor::End); // a key adds to the text, and does not replace it
     m_edit->installEventFilter(this);
     setFocusProxy(m_edit);
     connect(m_edit, &QTextEdit::currentCharFormatChanged, this, &RichTextEditor::showFormat);

@@ -14,7 +14,8 @@ class QToolBar;
 namespace tarsil {
 
 /// Edits a rich text: a text edit below a row of buttons for font, size, bold, italic, underline,
-/// strike-through and colour, which the usual keys reach too.
+/// strike-through and colour, which the usual keys reach too. At first nothing is selected, and
+/// what is typed follows the text.
 class RichTextEditor : public QFrame
 {
     Q_OBJECT

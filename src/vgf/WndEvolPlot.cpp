@@ -179,6 +179,7 @@ wndEvolPlot::Element wndEvolPlot::makeElement(int index)
     view->hide(); // otherwise it would show together with the window
     new PlotReadout(*plot, *view); // belongs to the view
     connect(view.get(), &EvmPlotView::failed, this, &wndEvolPlot::failed);
+    connect(view.get(), &EvmPlotView::commandBegun, this, [this] { m_user.beginCommand(); });
     return {index, std::move(plot), std::move(view)};
 }
 

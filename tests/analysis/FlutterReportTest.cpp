@@ -31,7 +31,7 @@ bool isEmpty(const Sheet& sheet, std::size_t row, std::size_t column)
 }
 
 /// Answers nothing; a test that expects no question fails.
-std::optional<std::string> noQuestion(const EVM&, std::string_view)
+std::optional<std::string> noQuestion(const AeMode&, std::string_view)
 {
     ADD_FAILURE() << "asked for a Mach number";
     return std::nullopt;
@@ -42,10 +42,12 @@ struct Answer
 {
     std::optional<std::string> text;
     int questions = 0;
+    std::vector<int> modes {}; ///< of which it was asked
 
     FlutterReport::MachQuestion asker()
     {
-        return [this](const EVM&, std::string_view prompt) {
+        return [this](const AeMode& mode, std::string_view prompt) {
+            modes.push_back(mode.Id);
             EXPECT_EQ(prompt,
                       "Tarsil does not know the Mach No.Please enter manually or use EV2 files.");
             ++questions;
@@ -231,6 +233,7 @@ TEST(Report, asksForTheMachNumberOncePerCrossing)
     FlutterReport(0, 1000, answer.asker())
         .write({{&first, ""}, {&second, ""}, {&stable, ""}}, sheet);
     EXPECT_EQ(answer.questions, 3);
+    EXPECT_EQ(answer.modes, std::vector<int>({1, 1, 2}));
     EXPECT_EQ(number(sheet, 2, 4), 0.5);
     EXPECT_EQ(number(sheet, 2, 12), ISA::IsaAltitude(250, 0.5, "knot"));
     EXPECT_EQ(number(sheet, 3, 4), 0.5);

@@ -29,7 +29,11 @@ protected:
 class FailingUser : public test::ScriptedUserInterface
 {
 public:
-    std::optional<std::string> askText(const std::string&, const std::string&) override { fail(); }
+    std::optional<std::string> askText(const std::string&, const std::string&,
+                                       const std::string&) override
+    {
+        fail();
+    }
     std::vector<std::string> askOpenFiles(const FileQuestion&) override { fail(); }
     std::optional<std::string> askSaveFile(const FileQuestion&) override { fail(); }
 

@@ -21,10 +21,23 @@ using Message = test::ScriptedUserInterface::Message;
 class DlgDampLine : public ::testing::Test
 {
 protected:
-    DlgDampLine() : dialog([this] { return active; }, user) { dialog.show(); }
+    DlgDampLine() : dialog([this] { return active; }, user)
+    {
+        dialog.show();
+        dialog.activateWindow();
+        QApplication::processEvents();
+    }
 
     void add() { test::click(dialog, "sdampBtn"); }
     const std::vector<RefLine>& lines() const { return plot.vgPlot().lines(); }
+    QLineEdit& value() const { return partOf<QLineEdit>(dialog, "sdampInp"); }
+    /// The focus goes from the value to another control.
+    void leaveFor(const char* control, Qt::FocusReason reason) const
+    {
+        value().setFocus();
+        ASSERT_TRUE(value().hasFocus());
+        partOf<QWidget>(dialog, control).setFocus(reason);
+    }
     std::string caption() const { return test::textIn(dialog, "captionInp"); }
 
     EvmPlot plot;
@@ -127,6 +140,78 @@ TEST_F(DlgDampLine, asksForANumberAtEveryChangeToSomethingElse)
     }
     test::type(dialog, "sdampInp", "0.02");
     EXPECT_EQ(caption(), "g = 2.00 %");
+}
+
+TEST_F(DlgDampLine, letsTheBeginningOfANumberBeTyped)
+{
+    for (const char* const text : {"-", "+", ".", "-.", " -", "1e", "1E-", "-.5d+"}) {
+        test::type(dialog, "captionInp", "of another number");
+        test::type(dialog, "sdampInp", text);
+        EXPECT_TRUE(user.messages.empty()) << text;
+        EXPECT_EQ(caption(), "") << text;
+    }
+    test::type(dialog, "sdampInp", "-0.03");
+    EXPECT_EQ(caption(), "g = -3.00 %");
+    add();
+    ASSERT_EQ(lines().size(), 1U);
+    EXPECT_EQ(lines()[0].Y1, -0.03F);
+    for (const char* const text : {"--", "-a", "e", " ", "1e400", "- "}) {
+        user.messages.clear();
+        test::type(dialog, "sdampInp", text);
+        EXPECT_EQ(user.messages, std::vector<Message>({notNumeric})) << text;
+    }
+}
+
+TEST_F(DlgDampLine, asksForTheRestOfANumberWhenItsInputIsLeft)
+{
+    test::type(dialog, "sdampInp", "-");
+    leaveFor("captionInp", Qt::TabFocusReason);
+    QApplication::processEvents();
+    EXPECT_EQ(user.messages, std::vector<Message>({notNumeric}));
+    EXPECT_TRUE(value().hasFocus()) << "where the number is";
+    test::type(dialog, "sdampInp", "-0.03");
+    leaveFor("captionInp", Qt::TabFocusReason);
+    QApplication::processEvents();
+    EXPECT_EQ(user.messages.size(), 1U);
+    EXPECT_FALSE(value().hasFocus());
+}
+
+TEST_F(DlgDampLine, doesNotTakeAnotherWindowForTheEndOfTyping)
+{
+    test::type(dialog, "sdampInp", "-");
+    for (const Qt::FocusReason reason : {Qt::ActiveWindowFocusReason, Qt::PopupFocusReason}) {
+        QFocusEvent out(QEvent::FocusOut, reason);
+        QApplication::sendEvent(&value(), &out);
+        QApplication::processEvents();
+    }
+    EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(DlgDampLine, asksOnceForTheRestOfANumberWhenAddIsPressed)
+{
+    auto& button = partOf<QPushButton>(dialog, "sdampBtn");
+    test::type(dialog, "sdampInp", "-");
+    leaveFor("sdampBtn", Qt::MouseFocusReason);
+    button.setDown(true);
+    QApplication::processEvents();
+    EXPECT_TRUE(user.messages.empty()) << "a box would take the button's release";
+    button.click();
+    QApplication::processEvents();
+    EXPECT_EQ(user.messages, std::vector<Message>({notNumeric}));
+    EXPECT_TRUE(lines().empty());
+    EXPECT_TRUE(value().hasFocus());
+    test::press(value(), Qt::Key_Return);
+    QApplication::processEvents();
+    EXPECT_EQ(user.messages.size(), 2U);
+}
+
+TEST_F(DlgDampLine, saysNothingOfABegunNumberWhenItIsClosed)
+{
+    test::type(dialog, "sdampInp", "-");
+    value().setFocus();
+    dialog.close();
+    QApplication::processEvents();
+    EXPECT_TRUE(user.messages.empty());
 }
 
 TEST_F(DlgDampLine, asksForANumberAndAddsNothingWithoutOne)

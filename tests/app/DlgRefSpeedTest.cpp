@@ -74,6 +74,13 @@ TEST_F(DlgRefSpeed, addsAMarkAndStaysOpenForMore)
     EXPECT_TRUE(user.messages.empty());
 }
 
+TEST_F(DlgRefSpeed, endsTheNoteOfTheCommandBefore)
+{
+    user.note = "The picture is in /wing.emf";
+    add();
+    EXPECT_EQ(user.note, "");
+}
+
 TEST_F(DlgRefSpeed, addsToThePlotThatIsActiveThen)
 {
     EvmPlot other;

@@ -95,6 +95,16 @@ TEST_F(FlutterReportCommandTest, saysThatItTakesTimeAndWhoseMachNumberIsAsked)
                             "Calculate Flutter Speeds. Please Wait ...", "Ready"));
 }
 
+TEST_F(FlutterReportCommandTest, saysInTheTitleOfWhichModeTheMachNumberIsAsked)
+{
+    plot.addSeries(addMode(evolution, 7, {{200, -1, 4}, {300, 1, 6}}));
+    user.texts = {"0", "1000", "0.5", "0.5", "0.5"};
+    run();
+    EXPECT_THAT(user.titles,
+                ElementsAre("Tarsil", "Tarsil", "Tarsil - wing.evm, mode 1",
+                            "Tarsil - wing.evm, mode 1", "Tarsil - wing.evm, mode 7"));
+}
+
 TEST_F(FlutterReportCommandTest, endsWithoutAnAnswer)
 {
     run();

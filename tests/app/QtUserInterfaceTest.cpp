@@ -20,6 +20,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 using namespace tarsil;
 
 namespace {
@@ -90,12 +92,13 @@ TEST_F(QtUserInterfaceTest, asksForATextAndOffersOne)
     onDialog<QInputDialog>([](QInputDialog& dialog) {
         EXPECT_EQ(dialog.textValue(), QStringLiteral("0.8"));
         EXPECT_EQ(dialog.labelText(), QStringLiteral("Mach?"));
+        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Tarsil: wing"));
         dialog.setTextValue(QStringLiteral("0.9"));
         dialog.accept();
     });
-    EXPECT_EQ(user.askText("Mach?", "0.8"), "0.9");
+    EXPECT_EQ(user.askText("Mach?", "Tarsil: wing", "0.8"), "0.9");
     onDialog<QInputDialog>([](QInputDialog& dialog) { dialog.reject(); });
-    EXPECT_EQ(user.askText("Mach?", ""), std::nullopt);
+    EXPECT_EQ(user.askText("Mach?", "Tarsil", ""), std::nullopt);
 }
 
 TEST_F(QtUserInterfaceTest, offersFilesByTheWantedFilter)
@@ -114,6 +117,74 @@ TEST_F(QtUserInterfaceTest, offersFilesByTheWantedFilter)
         dialog.reject();
     });
     EXPECT_EQ(user.askSaveFile(question), std::nullopt);
+}
+
+TEST_F(QtUserInterfaceTest, belongsToTheWindowThatAsksAndGivesItTheKeyboardBack)
+{
+    QDialog asking(&window);
+    QLineEdit first(&asking);
+    QLineEdit second(&asking);
+    asking.show();
+    asking.activateWindow();
+    second.setFocus();
+    QApplication::processEvents();
+    ASSERT_EQ(QApplication::focusWidget(), &second);
+    const FileQuestion question {"All Files (*.*)|*.*|", 1, false, {}, true};
+    const std::function<void()> questions[] = {
+        [&] { user.showMessage("Wrong.", "Error", MessageIcon::Critical); },
+        [&] { user.confirm("Really?", "Tarsil"); }, [&] { user.askText("Mach?", "Tarsil", ""); },
+        [&] { user.askOpenFiles(question); }, [&] { user.askSaveFile(question); }};
+    int asked = 0;
+    for (const auto& ask : questions) {
+        onDialog<QDialog>([&](QDialog& dialog) {
+            EXPECT_EQ(dialog.parentWidget(), &asking) << asked;
+            window.activateWindow(); // as some window managers do when a dialog goes
+            dialog.reject();
+        });
+        ask();
+        QApplication::processEvents();
+        EXPECT_EQ(QApplication::activeWindow(), &asking) << asked;
+        EXPECT_EQ(QApplication::focusWidget(), &second) << asked;
+        ++asked;
+    }
+}
+
+TEST(QtUserInterface, belongsToTheMainWindowWhileNoneIsActive)
+{
+    ASSERT_EQ(QApplication::activeWindow(), nullptr);
+    QMainWindow window;
+    QtUserInterface user;
+    user.attach(&window, nullptr);
+    QTimer::singleShot(0, &window, [&window] {
+        auto* const box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr);
+        EXPECT_EQ(box->parentWidget(), &window);
+        box->reject();
+    });
+    user.showMessage("Wrong.", "Error", MessageIcon::Critical);
+    user.beginCommand();
+    EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(QtUserInterfaceTest, showsANoteBesideTheStatusUntilTheNextCommand)
+{
+    auto* const note = panels.findChild<QLabel*>(QStringLiteral("stBar_Note"));
+    ASSERT_NE(note, nullptr);
+    EXPECT_FALSE(note->isVisible());
+    const int width = panels.minimumSizeHint().width();
+    const QString path = QStringLiteral("The picture is in /home/<b>/") + QString(3000, u'x');
+    user.showNote(path.toStdString());
+    EXPECT_TRUE(note->isVisible());
+    EXPECT_LT(panels.minimumSizeHint().width(), width + 100) << "the window stays as it is";
+    user.showStatus("of before");
+    EXPECT_EQ(note->text(), path);
+    EXPECT_EQ(note->textFormat(), Qt::PlainText);
+    EXPECT_TRUE(note->toolTip().contains(QStringLiteral("&lt;b&gt;"))) << "as it stands";
+    user.beginCommand();
+    EXPECT_FALSE(note->isVisible());
+    EXPECT_EQ(note->text(), QString());
+    EXPECT_EQ(note->toolTip(), QString());
+    EXPECT_EQ(panels.text(), QStringLiteral("Ready"));
 }
 
 TEST_F(QtUserInterfaceTest, showsStatusAndProgress)

@@ -86,7 +86,8 @@ protected:
         QApplication::sendEvent(&view, &event);
         const QList<QTextEdit*> editors = view.findChildren<QTextEdit*>();
         ASSERT_FALSE(editors.isEmpty());
-        editors.back()->insertPlainText(text); // in the place of all, which is selected
+        editors.back()->selectAll();
+        editors.back()->insertPlainText(text);
     }
 
     std::string bytes(const std::string& name = "case.tsw")
@@ -301,7 +302,7 @@ TEST_F(WorkspaceCommandsTest, tellOfTextsThatWereCutAndAskBeforeTheyAreLost)
     choose("mnuNewWorkspace");
     user.questions.clear();
     open(folder.file("case.tsw"));
-    EXPECT_THAT(user.statuses.back(), StartsWith("Header of [PLOT1] is cut"));
+    EXPECT_THAT(user.note, StartsWith("Header of [PLOT1] is cut"));
     user.confirmations = {true, false};
     save();
     EXPECT_EQ(user.questions.size(), 2U);
@@ -336,17 +337,29 @@ TEST_F(WorkspaceCommandsTest, sayWhichTextsWillBeCut)
     work();
     plot().setBoxText(1, QString(1200, u'x'));
     save();
-    EXPECT_THAT(user.statuses.back(), StartsWith("Legend of [PLOT1] is longer than 1023 "));
+    EXPECT_THAT(user.note, StartsWith("Legend of [PLOT1] is longer than 1023 "));
     window.evolPlot().plots()[1]->setBoxText(0, QString(1200, u'x'));
     save("both.tsw");
-    EXPECT_THAT(user.statuses.back(),
+    EXPECT_THAT(user.note,
                 StartsWith("Legend of [PLOT1], Header of [PLOT2] are longer than 1023 "));
     for (EvmPlot* const one : window.evolPlot().plots()) {
         one->setBoxText(0, QString());
         one->setBoxText(1, QString());
     }
     save("neither.tsw");
-    EXPECT_EQ(user.statuses.back(), "Ready") << "what was said of another text is over";
+    EXPECT_EQ(user.note, "The workspace is in " + folder.file("neither.tsw"))
+        << "what was said of another text is over";
+}
+
+TEST_F(WorkspaceCommandsTest, sayWhereTheFileIsUntilTheNextCommand)
+{
+    work();
+    save();
+    EXPECT_EQ(user.note, "The workspace is in " + folder.file("case.tsw"));
+    choose("mnuClearRef");
+    EXPECT_EQ(user.note, "");
+    save("missing/case.tsw");
+    EXPECT_EQ(user.note, "") << "there is no file";
 }
 
 TEST_F(WorkspaceCommandsTest, takeAlongWhatIsBeingTyped)
@@ -541,7 +554,7 @@ TEST_F(WorkspaceCommandsTest, keepEveryCurveHoweverLongItsLegendIs)
     plot().SeriesCollection().front().LegendText = QString(3000, u'x');
     plot().setVLabel(QString(3000, u'v'));
     save();
-    EXPECT_THAT(user.statuses.back(),
+    EXPECT_THAT(user.note,
                 StartsWith("velAxis of [PLOT1], Serie(1) of [PLOT1] are longer than 1023 "));
     choose("mnuNewWorkspace");
     open(folder.file("case.tsw"));

@@ -51,6 +51,12 @@ bool Hands::isShown(const QString& title) const
     return !windows(title).isEmpty();
 }
 
+bool Hands::isFocused(const QString& name) const
+{
+    return run({QStringLiteral("getwindowfocus"), QStringLiteral("getwindowname")}).trimmed()
+        == name;
+}
+
 bool Hands::focusNew(const QString& title)
 {
     QString found;

@@ -40,6 +40,9 @@ public:
     /// Moves the pointer to a place of the screen.
     void point(QPoint place) const;
 
+    /// Whether the window that has the keyboard is called so.
+    bool isFocused(const QString& name) const;
+
     /// Whether a window of this title is on the screen.
     bool isShown(const QString& title) const;
 

@@ -68,6 +68,13 @@ void Person::inDialog(const char* keys, const char* title, const std::function<v
     ASSERT_TRUE(m_hands.focus(mainWindow));
 }
 
+bool Person::closesBoxOf(const char* dialog)
+{
+    EXPECT_TRUE(m_hands.focusNew(QStringLiteral("^Tarsil$"))) << dialog;
+    press("Return");
+    return waitUntil([&] { return m_hands.isFocused(QString::fromLatin1(dialog)); });
+}
+
 void Person::nameFile(const char* keys, const char* title, const QString& path)
 {
     inDialog(keys, title, [&] {

@@ -40,6 +40,9 @@ public:
     void nameFile(const char* keys, const char* title, const QString& path);
     void addEvolution(const char* name);
 
+    /// Closes the box that a dialog shows; whether the dialog has the keyboard then by itself.
+    bool closesBoxOf(const char* dialog);
+
     // The keyboard to a child window.
     void goToDataControl() const { press("alt+v Return"); }
     void goToExplorer() const { press("alt+v Down Return"); }

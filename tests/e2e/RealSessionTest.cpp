@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace tarsil::test {
 
 namespace {
@@ -104,6 +106,42 @@ TEST(RealSession, savesTheRowsInTheOrderInWhichTheyWereDragged)
             "\r\nSerie(" + std::to_string(++row) + ")=1" + std::string(1, '\0') + mode;
         EXPECT_NE(saved.find(serie), std::string::npos) << row;
     }
+    quit(person, program);
+}
+
+/// A wrong number in a dialog is put right with the keyboard, as after a box of any other program.
+TEST(RealSession, keepsTheKeyboardInTheDialogAfterABox)
+{
+    const VirtualDisplay display;
+    ASSERT_FALSE(display.name().isEmpty()) << "Xvfb did not start";
+    const TemporaryFolder folder;
+    const QString file = QString::fromStdString(folder.file("marks.tsw"));
+    Program program(display, {QString::fromStdString(sample("goland_clean_m040.ev2"))});
+    Person person(display);
+    EXPECT_TRUE(person.waitForColor(cyan));
+    for (const auto& [keys, title, wrong, repair] :
+         {std::tuple("alt+t Return", "Add Reference Speed", "x300\n", "Home Delete"),
+          std::tuple("alt+t Down Down Return", "Add Damping Line", ".1x",
+                     "BackSpace Home minus")}) {
+        person.goToDataControl();
+        person.press("ctrl+Home");
+        EXPECT_TRUE(person.standsStill(plotArea));
+        const QImage before = person.look(plotArea);
+        person.inDialog(keys, title, [&, owner = title, text = wrong, mended = repair] {
+            person.press("ctrl+a");
+            person.type(QString::fromLatin1(text));
+            EXPECT_TRUE(person.closesBoxOf(owner)) << owner;
+            person.press(mended);
+            person.press("Return");
+            EXPECT_TRUE(person.seesChange(plotArea, before)) << "the mark of " << owner;
+            EXPECT_FALSE(person.isAsked()) << owner;
+            person.press("Escape");
+        });
+    }
+    person.nameFile("ctrl+s", "^Save", file);
+    EXPECT_TRUE(waitUntil([&file] { return QFile::exists(file); }));
+    EXPECT_NE(fileBytes(file.toStdString()).find("NoOfSeries=7\r\n"), std::string::npos)
+        << "no curve was removed";
     quit(person, program);
 }
 

@@ -66,6 +66,25 @@ TEST_F(EvolutionMarksTest, marksADoubtfulFileOnlyWhenNobodyWaits)
     EXPECT_EQ(text(evolutionNode(evolution)), "a.evm");
 }
 
+TEST_F(EvolutionMarksTest, tellsAScreenReaderWhatTheSignTells)
+{
+    EVM& evolution = loadFile("a.evm", "");
+    explorer.FillEvolsNode();
+    settle();
+    const auto heard = [&] {
+        return evolutionNode(evolution).data(0, Qt::AccessibleDescriptionRole).toString();
+    };
+    EXPECT_EQ(heard().toStdString(), emptyFileText);
+    select(evolutionNode(evolution));
+    explorer.SetAsRef();
+    EXPECT_EQ(heard().toStdString(), "reference evolution\n" + emptyFileText);
+    EVM& other = loadFile("b.evm", "");
+    explorer.FillEvolsNode();
+    select(evolutionNode(other));
+    explorer.SetAsRef();
+    EXPECT_EQ(heard().toStdString(), emptyFileText) << "no longer the reference";
+}
+
 TEST_F(EvolutionMarksTest, leavesACleanFileUnmarked)
 {
     EVM& evolution = loadFile("a.ev2", test::fileBytes(test::sample("goland_clean_m040.ev2")));

@@ -29,6 +29,13 @@ TEST_F(WndEvolExplorerTest, removesTheSelectedEvolutionAndItsSeriesFromEveryPlot
     EXPECT_TRUE(plotAt(1).SeriesCollection().empty());
 }
 
+TEST_F(WndEvolExplorerTest, endsTheNoteOfTheCommandBefore)
+{
+    user.note = "The picture is in /wing.emf";
+    choose("AddPlot");
+    EXPECT_EQ(user.note, "");
+}
+
 TEST_F(WndEvolExplorerTest, drawsThePlotsAgainThatLostSeries)
 {
     EVM& a = fill("a.evm");

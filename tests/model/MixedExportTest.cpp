@@ -90,6 +90,7 @@ TEST_F(MixedExport, showsWhatItDoesInTheStatusBar)
 {
     exported("all.mix");
     EXPECT_EQ(user.statuses, statusesOfExport);
+    EXPECT_EQ(user.note, "The mixed modal evolution is in " + folder.file("all.mix"));
 }
 
 TEST_F(MixedExport, writesNothingWhenItIsCancelled)
@@ -97,6 +98,7 @@ TEST_F(MixedExport, writesNothingWhenItIsCancelled)
     mdlMix::exportMixed(modes, user);
     EXPECT_TRUE(std::filesystem::is_empty(folder.path()));
     EXPECT_TRUE(user.statuses.empty());
+    EXPECT_EQ(user.note, "");
     EXPECT_TRUE(user.messages.empty());
 }
 

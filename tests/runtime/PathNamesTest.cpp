@@ -65,6 +65,15 @@ TEST(PathNames, keepsNoSeparatorAtTheEndOfARootFolder)
     EXPECT_EQ(nativePath(joinPath(file.folder, file.name)), "/wing.evm");
 }
 
+TEST(PathNames, showsARelativePathFromTheRootOn)
+{
+    const std::string here = std::filesystem::current_path().string();
+    EXPECT_EQ(wholePath("wing.evm"), here + "/wing.evm");
+    EXPECT_EQ(wholePath("runs\\wing.evm"), here + "/runs/wing.evm");
+    EXPECT_EQ(wholePath("/runs\\wing.evm"), "/runs/wing.evm");
+    EXPECT_EQ(wholePath("/wing.evm"), "/wing.evm");
+}
+
 TEST(PathNames, takesAFolderForNoFile)
 {
     const TemporaryFolder folder;

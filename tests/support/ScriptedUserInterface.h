@@ -28,10 +28,11 @@ public:
         questions.push_back(question);
         return take(confirmations).value_or(false);
     }
-    std::optional<std::string> askText(const std::string& prompt,
+    std::optional<std::string> askText(const std::string& prompt, const std::string& title,
                                        const std::string& initial) override
     {
         questions.push_back(prompt);
+        titles.push_back(title);
         initials.push_back(initial);
         return take(texts);
     }
@@ -46,6 +47,8 @@ public:
         return take(saveFiles);
     }
     void showStatus(std::string_view text) override { statuses.emplace_back(text); }
+    void showNote(std::string_view text) override { note = text; }
+    void beginCommand() override { note.clear(); }
     void showProgress(std::size_t done, std::size_t total) override
     {
         progress.emplace_back(done, total);
@@ -60,9 +63,11 @@ public:
     // What was asked and told.
     std::vector<Message> messages;
     std::vector<std::string> questions;
+    std::vector<std::string> titles; ///< of the texts that were asked for
     std::vector<std::string> initials;
     std::vector<FileQuestion> fileQuestions;
     std::vector<std::string> statuses;
+    std::string note; ///< that stands beside the status now
     std::vector<std::pair<std::size_t, std::size_t>> progress;
 
 private:

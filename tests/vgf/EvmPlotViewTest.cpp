@@ -2,6 +2,7 @@
 
 #include "vgf/PlotRecords.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -545,4 +546,42 @@ TEST_F(EvmPlotViewTest, describesItselfToAScreenReader)
     plot.setVLabel(QStringLiteral("V (m/s)"));
     EXPECT_EQ(view.accessibleName(), QStringLiteral("V-g-f plot Clean"));
     EXPECT_TRUE(view.accessibleDescription().contains(QStringLiteral("speed axis V (m/s) from")));
+}
+
+TEST_F(EvmPlotViewTest, describesTitlesThatLookLikePlacesOfTheText)
+{
+    plot.setCaption(QStringLiteral("%2 and %1"));
+    plot.setVLabel(QStringLiteral("%4 V"));
+    plot.setFLabel(QStringLiteral("%1%"));
+    plot.setGLabel(QStringLiteral("g %3"));
+    plot.SetScale(0, 650, 5, 45, 0, -0.5F);
+    EXPECT_EQ(view.accessibleName(), QStringLiteral("V-g-f plot %2 and %1"));
+    EXPECT_EQ(view.accessibleDescription(),
+              QStringLiteral("0 curves; speed axis %4 V from 0 to 650, frequency axis %1% from 5 "
+                             "to 45, damping axis g %3 from 0 to -0.5"));
+}
+
+TEST_F(EvmPlotViewTest, isAGraphicToAScreenReader)
+{
+    QAccessibleInterface* const heard = QAccessible::queryAccessibleInterface(&view);
+    ASSERT_NE(heard, nullptr);
+    EXPECT_EQ(heard->role(), QAccessible::Graphic);
+    EXPECT_EQ(heard->text(QAccessible::Name), QStringLiteral("V-g-f plot Plot1"));
+    EXPECT_EQ(heard->text(QAccessible::Description), view.accessibleDescription());
+    QWidget other;
+    EXPECT_NE(QAccessible::queryAccessibleInterface(&other)->role(), QAccessible::Graphic);
+}
+
+TEST_F(EvmPlotViewTest, tellsOfCommandsThatBegin)
+{
+    int begun = 0;
+    QObject::connect(&view, &EvmPlotView::commandBegun, &view, [&begun] { ++begun; });
+    view.copyPicture();
+    EXPECT_EQ(begun, 1);
+    drag(legendCentre(), legendCentre() + QPoint(50, 0));
+    EXPECT_EQ(begun, 2) << "once, however far a box is dragged";
+    press(Qt::Key_Left);
+    EXPECT_EQ(begun, 3);
+    press(Qt::Key_F2);
+    EXPECT_EQ(begun, 4);
 }

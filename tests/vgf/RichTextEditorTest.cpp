@@ -54,9 +54,10 @@ protected:
 
 } // namespace
 
-TEST_F(RichTextEditorTest, beginsWithTheTextSelected)
+TEST_F(RichTextEditorTest, beginsBehindTheText)
 {
-    EXPECT_EQ(editor.edit()->textCursor().selectedText().size(), 12);
+    EXPECT_FALSE(editor.edit()->textCursor().hasSelection());
+    EXPECT_TRUE(editor.edit()->textCursor().atEnd());
     EXPECT_FALSE(editor.edit()->document()->isModified());
 }
 

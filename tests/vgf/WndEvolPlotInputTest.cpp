@@ -213,6 +213,13 @@ TEST_F(WndEvolPlotInput, givesEachPlotAReadout)
     }
 }
 
+TEST_F(WndEvolPlotInput, endsTheNoteOfTheCommandBefore)
+{
+    user.note = "The picture is in /wing.emf";
+    window.viewOf(*add())->copyPicture();
+    EXPECT_EQ(user.note, "");
+}
+
 TEST_F(WndEvolPlotInput, knowsNoViewOfAPlotOfAnotherWindow)
 {
     const EvmPlot stranger;

@@ -1,0 +1,156 @@
+// Where the keyboard is after a box of a dialog: real boxes over the real windows.
+
+#include "app/QtUserInterface.h"
+#include "app/StatusPanels.h"
+#include "app/WndMain.h"
+#include "support/FormParts.h"
+#include "support/TestFiles.h"
+#include "vgf/EvmPlot.h"
+#include "vgf/WndEvolPlot.h"
+
+#include <QAction>
+#include <QDialog>
+#include <QMessageBox>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+using namespace tarsil;
+using test::partOf;
+
+namespace {
+
+class KeyboardAfterBoxes : public ::testing::Test
+{
+protected:
+    KeyboardAfterBoxes()
+        : window(
+            user, [](const QString&) { return true; }, OptionsStore(folder.file("tarsil.ini")))
+    {
+        user.attach(&window, &window.stBar());
+        window.resize(1000, 700);
+        window.show();
+        window.MDIForm_Load({test::sample("goland_clean_m040.ev2")});
+        window.activateWindow();
+        choose("mnuDataControl"); // the grid has the keyboard
+    }
+
+    void choose(const char* command)
+    {
+        window.findChild<QAction*>(QString::fromLatin1(command))->trigger();
+        QApplication::processEvents();
+    }
+
+    /// Opens a dialog from its menu item.
+    QDialog& open(const char* command, const char* name)
+    {
+        choose(command);
+        auto& dialog = partOf<QDialog>(window, name);
+        dialog.activateWindow();
+        QApplication::processEvents();
+        EXPECT_EQ(QApplication::activeWindow(), &dialog);
+        return dialog;
+    }
+
+    /// Types over the text of an input, key by key, and closes each box that comes.
+    void typeOver(QLineEdit& input, const char* text)
+    {
+        input.setFocus();
+        input.selectAll();
+        for (const char* key = text; *key != '\0'; ++key) {
+            closeBoxSoon();
+            QKeyEvent event(QEvent::KeyPress, 0, Qt::NoModifier, QString(QLatin1Char(*key)));
+            QApplication::sendEvent(&input, &event);
+            QApplication::processEvents();
+        }
+    }
+
+    /// Closes the box that is there when the event loop runs next.
+    void closeBoxSoon()
+    {
+        QTimer::singleShot(0, &window, [this] {
+            auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (box == nullptr)
+                return;
+            ++boxes;
+            window.activateWindow(); // as some window managers do when a dialog goes
+            box->accept();
+        });
+    }
+
+    /// Presses a key where the keyboard is.
+    static void press(Qt::Key key)
+    {
+        ASSERT_NE(QApplication::focusWidget(), nullptr);
+        test::press(*QApplication::focusWidget(), key);
+        QApplication::processEvents();
+    }
+
+    std::size_t curves() const { return window.evolPlot().ActivePlot()->SeriesCollection().size(); }
+
+    test::TemporaryFolder folder;
+    QtUserInterface user;
+    wndMain window;
+    int boxes = 0;
+};
+
+} // namespace
+
+TEST_F(KeyboardAfterBoxes, isInTheSpeedThatWasNoNumber)
+{
+    const std::size_t before = curves();
+    QDialog& dialog = open("mnuAddRef", "dlgRefSpeed");
+    auto& speed = partOf<QLineEdit>(dialog, "posInp");
+    typeOver(speed, "x300");
+    closeBoxSoon();
+    press(Qt::Key_Return);
+    EXPECT_EQ(boxes, 1);
+    press(Qt::Key_Home);
+    press(Qt::Key_Delete);
+    EXPECT_EQ(speed.text(), QStringLiteral("300"));
+    partOf<QLineEdit>(dialog, "capInp").setFocus();
+    speed.setText(QStringLiteral("fast"));
+    closeBoxSoon();
+    press(Qt::Key_Return);
+    EXPECT_EQ(boxes, 2);
+    EXPECT_EQ(QApplication::focusWidget(), &partOf<QLineEdit>(dialog, "capInp"));
+    closeBoxSoon();
+    partOf<QPushButton>(dialog, "AddRefBtn").setFocus();
+    partOf<QPushButton>(dialog, "AddRefBtn").click();
+    QApplication::processEvents();
+    EXPECT_EQ(QApplication::focusWidget(), &speed);
+    EXPECT_EQ(curves(), before);
+}
+
+TEST_F(KeyboardAfterBoxes, isInTheDampingThatIsNoNumber)
+{
+    const std::size_t before = curves();
+    QDialog& dialog = open("mnuAddDamp", "dlgDampLine");
+    auto& damping = partOf<QLineEdit>(dialog, "sdampInp");
+    typeOver(damping, "0,3");
+    EXPECT_EQ(boxes, 2) << "after the comma and after the 3";
+    closeBoxSoon();
+    press(Qt::Key_Backspace);
+    EXPECT_EQ(boxes, 3) << "a comma makes no number";
+    press(Qt::Key_Backspace);
+    EXPECT_EQ(damping.text(), QStringLiteral("0"));
+    EXPECT_EQ(boxes, 3);
+    EXPECT_EQ(curves(), before);
+}
+
+TEST_F(KeyboardAfterBoxes, isInTheListOfOptionsThatIsNone)
+{
+    const std::size_t before = curves();
+    QDialog& dialog = open("mnuOptions", "dlgOptions");
+    auto& scale = partOf<QLineEdit>(dialog, "txtVgfScale");
+    typeOver(scale, "x0|450|0|-0.25|0|20");
+    closeBoxSoon();
+    partOf<QPushButton>(dialog, "btnApply").setFocus();
+    partOf<QPushButton>(dialog, "btnApply").click();
+    QApplication::processEvents();
+    EXPECT_EQ(boxes, 1);
+    press(Qt::Key_Home);
+    press(Qt::Key_Delete);
+    EXPECT_EQ(scale.text(), QStringLiteral("0|450|0|-0.25|0|20"));
+    EXPECT_EQ(curves(), before);
+}
