@@ -143,9 +143,16 @@ int SeriesGridModel::columnCount(const QModelIndex& parent) const
 
 QVariant SeriesGridModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    const bool isHeading = orientation == Qt::Horizontal && section >= 0
-        && section < seriesColumnCount && role == Qt::DisplayRole;
-    return isHeading ? headings[static_cast<std::size_t>(section)] : QVariant();
+    const bool isShown = role == Qt::DisplayRole;
+    if (section < 0 || (!isShown && role != Qt::AccessibleTextRole))
+        return {};
+    if (orientation == Qt::Vertical)
+        return section < rowCount() ? QStringLiteral("Row %1").arg(section + 1) : QVariant();
+    if (section >= seriesColumnCount)
+        return {};
+    const bool isLine = section == static_cast<int>(SeriesColumn::Line);
+    return isLine && !isShown ? QStringLiteral("Line")
+                              : headings[static_cast<std::size_t>(section)];
 }
 
 Series* SeriesGridModel::series(int row) const

@@ -23,18 +23,22 @@ constexpr std::string_view module = "wndData";
 constexpr int modeColumn = static_cast<int>(SeriesColumn::Mode);
 constexpr int factorCount = 5; ///< of a point
 
+constexpr double anyCount = std::numeric_limits<std::int32_t>::max();
+
 /// What stands in an input, as a whole number of at least 1; errors 13, 6 and 5 name the input.
-std::int32_t countIn(const QLineEdit& input, double most = std::numeric_limits<std::int32_t>::max())
+std::int32_t countIn(const QLineEdit& input, double most = anyCount)
 {
     QString name = input.accessibleName();
     const std::string where = name.remove(u':').toStdString();
     const std::string text = input.text().toStdString();
     const double count = std::nearbyint(toDouble(text, module, where));
-    if (count > std::numeric_limits<std::int32_t>::max())
+    if (count > anyCount)
         throwNumberError(NumberStatus::Overflow, text, module, where);
     if (count < 1 || count > most)
         throw RunTimeError(ErrorNumber::InvalidProcedureCall, std::string(module),
-                           where + ": " + text + " is not from 1 to " + shortestText(most));
+                           where + ": " + text
+                               + (most == anyCount ? " is less than 1"
+                                                   : " is not from 1 to " + shortestText(most)));
     return static_cast<std::int32_t>(count);
 }
 

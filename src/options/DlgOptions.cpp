@@ -4,13 +4,16 @@
 
 #include "aircraft/AirplaneInfo.h"
 #include "options/ListInput.h"
+#include "options/WarningSign.h"
 #include "runtime/ErrorGuard.h"
 #include "runtime/Numbers.h"
 #include "runtime/PathNames.h"
+#include "runtime/RunTimeError.h"
 #include "runtime/UserInterface.h"
 #include "vgf/WndEvolPlot.h"
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 namespace tarsil {
@@ -27,6 +30,17 @@ std::int16_t countOf(float number, std::string_view where = {})
     return roundToInteger16(static_cast<double>(number), moduleName, where);
 }
 
+/// Does something with a list. When that fails, the user is at its input after the report.
+void at(ListInput& list, const std::function<void()>& action)
+{
+    try {
+        action();
+    } catch (const RunTimeError&) {
+        list.goTo();
+        throw;
+    }
+}
+
 } // namespace
 
 dlgOptions::dlgOptions(AirplaneInfo& airplaneInfo, wndEvolPlot& plots, UserInterface& user,
@@ -35,8 +49,11 @@ dlgOptions::dlgOptions(AirplaneInfo& airplaneInfo, wndEvolPlot& plots, UserInter
       m_plots(plots), m_user(user), m_store(std::move(store))
 {
     m_ui->setupUi(this);
+    m_missingFile =
+        std::make_unique<WarningSign>(*m_ui->txtAcInfo, QStringLiteral("There is no such file"));
     m_scaleInput = std::make_unique<ListInput>(*m_ui->txtVgfScale, 6, QStringLiteral("six"));
     m_thicksInput = std::make_unique<ListInput>(*m_ui->txtVgfThicks, 3, QStringLiteral("three"));
+    connect(m_ui->txtAcInfo, &QLineEdit::textChanged, this, &dlgOptions::showWhetherFileIsThere);
     connect(m_ui->btnAcInfo, &QPushButton::clicked, this, &dlgOptions::btnAcInfo_Click);
     connect(m_ui->btnOK, &QPushButton::clicked, this, &dlgOptions::btnOK_Click);
     connect(m_ui->btnApply, &QPushButton::clicked, this, &dlgOptions::btnApply_Click);
@@ -66,11 +83,14 @@ void dlgOptions::SetOptReg() const
 
 void dlgOptions::UpDateOpt()
 {
-    const std::vector<float> scale = m_scaleInput->numbers(moduleName);
-    const std::vector<float> thicks = m_thicksInput->numbers(moduleName);
-    for (std::size_t i = 0; i < thicks.size(); ++i)
-        countOf(thicks[i],
-                m_thicksInput->nameOf(i)); // a count that no axis can take is refused here
+    std::vector<float> scale;
+    std::vector<float> thicks;
+    at(*m_scaleInput, [&] { scale = m_scaleInput->numbers(moduleName); });
+    at(*m_thicksInput, [&] {
+        thicks = m_thicksInput->numbers(moduleName);
+        for (std::size_t i = 0; i < thicks.size(); ++i)
+            countOf(thicks[i], m_thicksInput->nameOf(i)); // refuses what no axis can take
+    });
     std::copy(scale.begin(), scale.end(), m_entries.begin());
     std::copy(thicks.begin(), thicks.end(), m_entries.begin() + firstThick);
 }
@@ -140,6 +160,19 @@ EvmPlot::Thicks dlgOptions::thicks() const
             countOf(m_entries[firstThick + 2])};
 }
 
+/// The file may have come or gone since the dialog was hidden.
+void dlgOptions::showEvent(QShowEvent* event)
+{
+    showWhetherFileIsThere();
+    QDialog::showEvent(event);
+}
+
+void dlgOptions::showWhetherFileIsThere()
+{
+    const QString file = m_ui->txtAcInfo->text();
+    m_missingFile->setVisible(!file.isEmpty() && !fileExists(file.toStdString()));
+}
+
 void dlgOptions::btnAcInfo_Click()
 {
     guarded(m_user, moduleName, [this] {
@@ -152,6 +185,7 @@ void dlgOptions::btnAcInfo_Click()
 
 void dlgOptions::btnApply_Click()
 {
+    m_user.beginCommand();
     ApplyOpt();
 }
 

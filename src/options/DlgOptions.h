@@ -12,6 +12,7 @@ namespace tarsil {
 
 class AirplaneInfo;
 class ListInput;
+class WarningSign;
 class UserInterface;
 class wndEvolPlot;
 
@@ -22,7 +23,8 @@ class dlgOptions;
 /// The dialog "Options": the aircraft information file, and the scale and tick counts that plots
 /// begin with. It is there for the whole run and only hidden, so that its inputs keep what was
 /// typed; the inputs are what is kept until the next run, but for the aircraft information file,
-/// of which the one last applied is kept.
+/// of which the one last applied is kept. An aircraft information file that is not there has a
+/// warning sign.
 class dlgOptions : public QDialog
 {
     Q_OBJECT
@@ -61,6 +63,9 @@ Q_SIGNALS:
     /// The aircraft information may have other flutter mechanisms now.
     void flutterMechanismsChanged();
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     void btnAcInfo_Click();
     void btnApply_Click();
@@ -68,6 +73,7 @@ private:
 
     void readAircraftFile();
     void applyAxes();
+    void showWhetherFileIsThere();
     EvmPlot& vgfPlot() const;
     EvmPlot::Scale scale() const;
     EvmPlot::Thicks thicks() const;
@@ -77,6 +83,7 @@ private:
     wndEvolPlot& m_plots;
     UserInterface& m_user;
     OptionsStore m_store;
+    std::unique_ptr<WarningSign> m_missingFile;
     std::unique_ptr<ListInput> m_scaleInput;
     std::unique_ptr<ListInput> m_thicksInput;
     Entries m_entries {};

@@ -2,9 +2,7 @@
 
 #include "runtime/Numbers.h"
 
-#include <QAction>
 #include <QLineEdit>
-#include <QStyle>
 
 namespace tarsil {
 
@@ -15,13 +13,10 @@ constexpr QChar separator = u'|';
 } // namespace
 
 ListInput::ListInput(QLineEdit& input, qsizetype count, const QString& countWord)
-    : m_input(input), m_count(count), m_usualToolTip(input.toolTip()),
-      m_usualDescription(input.accessibleDescription()),
-      m_warning(input.addAction(input.style()->standardIcon(QStyle::SP_MessageBoxWarning),
-                                QLineEdit::TrailingPosition))
+    : m_input(input), m_count(count),
+      m_sign(input,
+             QStringLiteral("Ignored: %1 numbers with | between them are needed").arg(countWord))
 {
-    m_warning->setToolTip(
-        QStringLiteral("Ignored: %1 numbers with | between them are needed").arg(countWord));
     connect(&m_input, &QLineEdit::textChanged, this, &ListInput::showWhetherIgnored);
     showWhetherIgnored();
 }
@@ -46,6 +41,12 @@ std::vector<float> ListInput::numbers(std::string_view module) const
     return values;
 }
 
+void ListInput::goTo()
+{
+    if (qobject_cast<QLineEdit*>(m_input.window()->focusWidget()) == nullptr)
+        m_input.setFocus();
+}
+
 std::string ListInput::nameOf(std::size_t place) const
 {
     return m_input.accessibleName().toStdString() + ", number " + std::to_string(place + 1);
@@ -53,10 +54,7 @@ std::string ListInput::nameOf(std::size_t place) const
 
 void ListInput::showWhetherIgnored()
 {
-    const bool isIgnored = !isEmpty() && !fits();
-    m_warning->setVisible(isIgnored);
-    m_input.setToolTip(isIgnored ? m_warning->toolTip() : m_usualToolTip);
-    m_input.setAccessibleDescription(isIgnored ? m_warning->toolTip() : m_usualDescription);
+    m_sign.setVisible(!isEmpty() && !fits());
 }
 
 } // namespace tarsil

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "options/WarningSign.h"
+
 #include <QObject>
 #include <QString>
 
@@ -8,14 +10,12 @@
 #include <string_view>
 #include <vector>
 
-class QAction;
 class QLineEdit;
 
 namespace tarsil {
 
 /// An input for a fixed count of numbers with "|" between them. A text of another count of parts is
-/// ignored, and the input shows that while the user types: a warning sign, whose tool tip and
-/// accessible description say what is needed.
+/// ignored, and the input shows that while the user types: a warning sign says what is needed.
 class ListInput : public QObject
 {
 public:
@@ -31,6 +31,9 @@ public:
     /// of the number and the text; `module` is their source.
     std::vector<float> numbers(std::string_view module) const;
 
+    /// Brings the user to the input, unless he is in another one.
+    void goTo();
+
     /// What errors call the number at a place counted from 0.
     std::string nameOf(std::size_t place) const;
 
@@ -39,9 +42,7 @@ private:
 
     QLineEdit& m_input;
     qsizetype m_count;
-    QString m_usualToolTip;
-    QString m_usualDescription;
-    QAction* m_warning; ///< belongs to the input
+    WarningSign m_sign;
 };
 
 } // namespace tarsil

@@ -68,6 +68,21 @@ protected:
 
 } // namespace
 
+TEST_F(SeriesGridModelTest, namesRowsAndColumnsForAScreenReader)
+{
+    const auto heading = [this](int section, Qt::Orientation orientation, int role) {
+        return model.headerData(section, orientation, role).toString().toStdString();
+    };
+    const int line = static_cast<int>(SeriesColumn::Line);
+    EXPECT_EQ(heading(line, Qt::Horizontal, Qt::DisplayRole), "");
+    EXPECT_EQ(heading(line, Qt::Horizontal, Qt::AccessibleTextRole), "Line");
+    EXPECT_EQ(heading(3, Qt::Horizontal, Qt::AccessibleTextRole), "Mode");
+    for (const int role : {Qt::DisplayRole, Qt::AccessibleTextRole})
+        EXPECT_EQ(heading(2, Qt::Vertical, role), "Row 3");
+    EXPECT_EQ(heading(3, Qt::Vertical, Qt::DisplayRole), "") << "there are three rows";
+    EXPECT_EQ(heading(6, Qt::Horizontal, Qt::AccessibleTextRole), "");
+}
+
 TEST_F(SeriesGridModelTest, hasItsColumnsInTheirOrder)
 {
     std::vector<std::string> headings;

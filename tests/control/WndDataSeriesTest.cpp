@@ -20,6 +20,7 @@ using namespace tarsil;
 using test::partOf;
 using test::warning;
 using ::testing::ElementsAre;
+using ::testing::EndsWith;
 using ::testing::IsEmpty;
 using ::testing::StartsWith;
 
@@ -283,6 +284,12 @@ TEST_F(WndDataSeries, reportsMarkerOptionsThatCannotBe)
     reports("ithmpfInp", "6", error5); // a point has five factors
     reports("ithmpfInp", "0", error5);
     EXPECT_EQ(series().front().MarkerStyle, markerstyle::modeNumber) << "nothing was stored";
+    test::type(data, "ithmpfInp", "6");
+    click("cmdDrawPlot");
+    EXPECT_THAT(user.messages.back().text, EndsWith("6 is not from 1 to 5"));
+    test::type(data, "mksizeInp", "0");
+    click("cmdDrawPlot");
+    EXPECT_THAT(user.messages.back().text, EndsWith("Size: 0 is less than 1"));
 }
 
 TEST_F(WndDataSeries, takesTheSpacingOfAFileThatMarksNearlyNothing)

@@ -70,17 +70,23 @@ TEST_F(DlgOptionsTest, isOkOnEnterInAnyInput)
     }
 }
 
-TEST_F(DlgOptionsTest, isCancelledByEscapeAndByClosing)
+TEST_F(DlgOptionsTest, isCancelledByEscapeByClosingAndOnTheButton)
 {
-    for (const int way : {0, 1, 2}) {
+    const auto returnOn = [](QPushButton& button) {
+        button.setFocus();
+        test::press(button, Qt::Key_Return);
+    };
+    for (const int way : {0, 1, 2, 3}) {
         dialog->show();
         typeAll("gone.inp", "0|1|0|-1|0|1", "4|5|6");
         if (way == 0)
             test::press(*dialog, Qt::Key_Escape);
         else if (way == 1)
             dialog->close();
-        else
+        else if (way == 2)
             clickButton("btnCancel");
+        else
+            returnOn(partOf<QPushButton>(*dialog, "btnCancel"));
         EXPECT_FALSE(dialog->isVisible()) << way;
         EXPECT_EQ(test::textIn(*dialog, "txtAcInfo"), "gone.inp") << way;
         EXPECT_EQ(test::textIn(*dialog, "txtVgfScale"), "0|1|0|-1|0|1") << way;

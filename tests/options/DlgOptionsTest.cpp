@@ -4,7 +4,10 @@
 
 #include <gmock/gmock.h>
 
+#include <QAction>
+
 #include <filesystem>
+#include <tuple>
 
 using namespace tarsil;
 using test::DlgOptionsTest;
@@ -292,4 +295,51 @@ TEST_F(DlgOptionsTest, areTheAxesOfPlotsMadeLater)
     EXPECT_EQ(usual.GetScale(), EvmPlot::Scale());
     EXPECT_THAT(thicksOf(usual), ElementsAre(7, 5, 5));
     EXPECT_EQ(plot().GetScale().vmax, 100.0F); // an empty list leaves a plot as it is
+}
+
+TEST_F(DlgOptionsTest, showThatTheAircraftFileIsNotThere)
+{
+    auto& input = test::partOf<QLineEdit>(*dialog, "txtAcInfo");
+    const auto isMarked = [&] {
+        const bool isShown = input.actions().front()->isVisible();
+        const std::string reason = isShown ? "There is no such file" : "";
+        EXPECT_EQ(input.toolTip().toStdString(), reason);
+        EXPECT_EQ(input.accessibleDescription().toStdString(), reason);
+        return isShown;
+    };
+    const std::string file = folder.write("wing.inp", wing);
+    typeAll(file, "", "");
+    EXPECT_FALSE(isMarked());
+    typeAll(file + "x", "", "");
+    EXPECT_TRUE(isMarked());
+    typeAll("", "", "");
+    EXPECT_FALSE(isMarked()) << "none is wanted";
+    typeAll(file, "", "");
+    dialog->show();
+    EXPECT_FALSE(isMarked());
+    dialog->hide();
+    std::filesystem::remove(file);
+    dialog->show();
+    EXPECT_TRUE(isMarked()) << "it has gone meanwhile";
+}
+
+TEST_F(DlgOptionsTest, leadToTheListThatCannotBeApplied)
+{
+    user.note = "The picture is in /wing.emf";
+    dialog->show();
+    auto& apply = test::partOf<QPushButton>(*dialog, "btnApply");
+    for (const auto& [scale, thicks, input] :
+         {std::tuple("x|1|2|3|4|5", "", "txtVgfScale"), std::tuple("", "x|1|2", "txtVgfThicks"),
+          std::tuple("", "1|2|1e9", "txtVgfThicks")}) {
+        typeAll("", scale, thicks);
+        apply.setFocus();
+        apply.click();
+        EXPECT_EQ(dialog->focusWidget(), &test::partOf<QLineEdit>(*dialog, input)) << scale;
+    }
+    EXPECT_EQ(user.messages.size(), 3U);
+    EXPECT_EQ(user.note, "") << "the note of the command before";
+    auto& file = test::partOf<QLineEdit>(*dialog, "txtAcInfo");
+    file.setFocus();
+    dialog->ApplyOpt();
+    EXPECT_EQ(dialog->focusWidget(), &file) << "who is in an input stays there";
 }

@@ -195,13 +195,14 @@ TEST_F(DlgPlotProp, takesEnterForOkOnTheForm)
     EXPECT_EQ(plot.GetScale(), typedScale);
 }
 
-TEST_F(DlgPlotProp, takesEnterForOkOnTheCancelButtonToo)
+TEST_F(DlgPlotProp, takesEnterOnTheCancelButtonForCancel)
 {
     typeAll();
     auto& cancel = partOf<QPushButton>(dialog, "CancelButton");
     cancel.setFocus();
     test::press(cancel, Qt::Key_Return);
-    EXPECT_EQ(plot.GetScale(), typedScale);
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(plot.GetScale(), EvmPlot::Scale());
 }
 
 TEST_F(DlgPlotProp, reportsAnInputOnceForOneEnter)
