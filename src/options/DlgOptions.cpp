@@ -73,12 +73,18 @@ void dlgOptions::GetOptReg()
     m_ui->txtVgfThicks->setText(stored.vgfThicks);
     if (!ApplyOpt())
         m_airplaneInfo.Filename = stored.acInfoDataFile.toStdString();
+    m_before = textsToKeep();
 }
 
 void dlgOptions::SetOptReg() const
 {
-    m_store.write({QString::fromStdString(m_airplaneInfo.Filename), m_ui->txtVgfScale->text(),
-                   m_ui->txtVgfThicks->text()});
+    m_store.write(textsToKeep(), m_before);
+}
+
+OptionTexts dlgOptions::textsToKeep() const
+{
+    return {QString::fromStdString(m_airplaneInfo.Filename), m_ui->txtVgfScale->text(),
+            m_ui->txtVgfThicks->text()};
 }
 
 void dlgOptions::UpDateOpt()

@@ -43,7 +43,8 @@ public:
     /// and leaves all inputs empty.
     void GetOptReg();
 
-    /// Writes the store. Errors: those of `OptionsStore::write`.
+    /// Writes what was changed since `GetOptReg` into the store. Errors: those of
+    /// `OptionsStore::write`.
     void SetOptReg() const;
 
     /// Takes the numbers of both lists over into the entries; a list with another count of parts
@@ -74,6 +75,7 @@ private:
     void readAircraftFile();
     void applyAxes();
     void showWhetherFileIsThere();
+    OptionTexts textsToKeep() const;
     EvmPlot& vgfPlot() const;
     EvmPlot::Scale scale() const;
     EvmPlot::Thicks thicks() const;
@@ -84,6 +86,7 @@ private:
     UserInterface& m_user;
     OptionsStore m_store;
     std::unique_ptr<WarningSign> m_missingFile;
+    OptionTexts m_before; ///< what was to be kept when the store had been read
     std::unique_ptr<ListInput> m_scaleInput;
     std::unique_ptr<ListInput> m_thicksInput;
     Entries m_entries {};

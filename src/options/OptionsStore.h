@@ -32,15 +32,18 @@ public:
 
     const std::string& path() const { return m_path; }
 
-    /// What the file says; a file or key that is not there says nothing. Errors: 75 when the file
-    /// cannot be read, 13 when it is damaged; its description says under which name `write` will
-    /// keep it.
+    /// What the file says; a file or key that is not there says nothing. Errors: 75 or another one
+    /// of reading when the file cannot be read, 13 when it is damaged; its description says under
+    /// which name `write` will keep it.
     OptionTexts read() const;
 
-    /// Writes the file, whole or not at all, in place of the one that is there. A damaged one is
-    /// kept beside it with ".damaged" after its name, in place of an older such file; when it
-    /// cannot be kept, nothing is written. Makes its folder. Errors: 75 and those of `AtomicFile`.
-    void write(const OptionTexts& texts) const;
+    /// Changes in the file what differs from the texts `before`, which were read (none where they
+    /// could not be); what else is in it stays, also what another program has written since. Where
+    /// nothing differs, or the file cannot be read, nothing is written. The file is replaced whole
+    /// or not at all; a damaged one is kept beside the new one with ".damaged" after its name, in
+    /// place of an older such file, and when it cannot be kept, nothing is written. Makes its
+    /// folder. Errors: those of `read` but 13, and those of `AtomicFile`.
+    void write(const OptionTexts& texts, const OptionTexts& before) const;
 
 private:
     std::string m_path;

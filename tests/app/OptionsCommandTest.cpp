@@ -24,7 +24,8 @@ protected:
     void keep(const std::string& file, const std::string& scale, const std::string& thicks) const
     {
         store.write({QString::fromStdString(file), QString::fromStdString(scale),
-                     QString::fromStdString(thicks)});
+                     QString::fromStdString(thicks)},
+                    {});
     }
 
     dlgOptions* dialog() const { return window.findChild<dlgOptions*>(); }
@@ -61,9 +62,35 @@ TEST_F(Options, thatAreDamagedAreKeptBesideTheNewOnes)
     const std::string damaged = "[Options]\nvgfScale=0|100|0|-1|0|10\nvgfThicks\n";
     folder.write("tarsil.ini", damaged);
     load();
+    choose("mnuOptions");
+    test::type(*dialog(), "txtVgfThicks", "4|3|2");
     choose("QuitMenu");
     EXPECT_EQ(test::fileBytes(folder.file("tarsil.ini.damaged")), damaged);
-    EXPECT_EQ(store.read(), OptionTexts());
+    EXPECT_EQ(store.read(), (OptionTexts {{}, {}, QStringLiteral("4|3|2")}));
+}
+
+TEST_F(Options, thatCannotBeReadStayAsTheyAre)
+{
+    const std::string text = "[Options]\nvgfThicks=4|3|2\n";
+    folder.write("real.ini", text);
+    std::filesystem::create_directory(store.path()); // as good as a fault of the medium
+    load();
+    EXPECT_EQ(user.messages.size(), 1U);
+    std::filesystem::remove(store.path());
+    std::filesystem::rename(folder.file("real.ini"), store.path());
+    choose("QuitMenu");
+    EXPECT_EQ(test::fileBytes(store.path()), text);
+    EXPECT_EQ(user.messages.size(), 1U);
+}
+
+TEST_F(Options, thatNobodyChangedAreNotWritten)
+{
+    keep("", "0|100|0|-1|0|10", "4|3|2");
+    load();
+    const std::string newer = "[Options]\nvgfThicks=8|8|8\n"; // of another window
+    folder.write("tarsil.ini", newer);
+    choose("QuitMenu");
+    EXPECT_EQ(test::fileBytes(store.path()), newer);
 }
 
 TEST_F(Options, thatCannotBeDrawnAreReportedOnceAndTheProgramStarts)
@@ -126,6 +153,8 @@ TEST_F(Options, areNotWrittenWhenTheUserStays)
 TEST_F(Options, thatCannotBeWrittenAreReportedAndTheProgramEnds)
 {
     load();
+    choose("mnuOptions");
+    test::type(*dialog(), "txtVgfThicks", "4|3|2");
     std::filesystem::create_directory(store.path());
     choose("QuitMenu");
     EXPECT_FALSE(window.isVisible());

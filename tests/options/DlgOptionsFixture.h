@@ -29,7 +29,8 @@ protected:
     void keep(const std::string& file, const std::string& scale, const std::string& thicks) const
     {
         store.write({QString::fromStdString(file), QString::fromStdString(scale),
-                     QString::fromStdString(thicks)});
+                     QString::fromStdString(thicks)},
+                    {});
     }
 
     void typeAll(const std::string& file, const std::string& scale, const std::string& thicks) const

@@ -7,6 +7,10 @@
 
 #include <QByteArray>
 
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+#include <csignal>
 #include <functional>
 #include <optional>
 
@@ -68,7 +72,7 @@ TEST_F(OptionsStoreTest, saysNothingForKeysThatAreNotThere)
 TEST_F(OptionsStoreTest, writesPlainTextInItsSection)
 {
     const OptionsStore store(folder.file("tarsil.ini"));
-    store.write(texts("/home/me/wing.inp", "0|700|0|-0.25|0|50", "7|5|5"));
+    store.write(texts("/home/me/wing.inp", "0|700|0|-0.25|0|50", "7|5|5"), {});
     EXPECT_EQ(test::fileBytes(store.path()),
               "[Options]\n"
               "AcInfoDataFile=/home/me/wing.inp\n"
@@ -82,7 +86,7 @@ TEST_F(OptionsStoreTest, readsBackWhateverWasTyped)
     for (const OptionTexts& one :
          {texts("/a b, c/Flügel; x=1 \"q\".inp", " 1|2 ", "@Invalid()"),
           texts("C:\\temp\\new\\wing.inp", "%|[Options]|#", "\t"), OptionTexts()}) {
-        store.write(one);
+        store.write(one, store.read());
         EXPECT_EQ(OptionsStore(store.path()).read(), one) << one.acInfoDataFile.toStdString();
     }
 }
@@ -97,15 +101,15 @@ TEST_F(OptionsStoreTest, readsWhatAPersonWroteWithCommasAndBlanks)
 TEST_F(OptionsStoreTest, makesTheFolderOfItsFile)
 {
     const OptionsStore store(folder.file("config/tarsil/tarsil.ini"));
-    store.write(texts("wing.inp", "", ""));
+    store.write(texts("wing.inp", "", ""), {});
     EXPECT_EQ(store.read(), texts("wing.inp", "", ""));
 }
 
 TEST_F(OptionsStoreTest, leavesNothingBesideItsFile)
 {
     const OptionsStore store(folder.file("tarsil.ini"));
-    store.write(texts("wing.inp", "", ""));
-    store.write(texts("other.inp", "", ""));
+    store.write(texts("wing.inp", "", ""), {});
+    store.write(texts("other.inp", "", ""), texts("wing.inp", "", ""));
     const std::filesystem::directory_iterator files(folder.path());
     EXPECT_EQ(std::distance(begin(files), end(files)), 1);
 }
@@ -114,7 +118,7 @@ TEST_F(OptionsStoreTest, writesThroughASymbolicLink)
 {
     folder.write("real.ini", "");
     std::filesystem::create_symlink(folder.file("real.ini"), folder.file("tarsil.ini"));
-    OptionsStore(folder.file("tarsil.ini")).write(texts("wing.inp", "", ""));
+    OptionsStore(folder.file("tarsil.ini")).write(texts("wing.inp", "", ""), {});
     EXPECT_TRUE(std::filesystem::is_symlink(folder.file("tarsil.ini")));
     EXPECT_EQ(OptionsStore(folder.file("real.ini")).read(), texts("wing.inp", "", ""));
 }
@@ -131,7 +135,7 @@ TEST_F(OptionsStoreTest, tellsThatAFileIsDamagedAndSaysNothingOfIt)
         EXPECT_EQ(error->number(), ErrorNumber::TypeMismatch) << text;
         EXPECT_EQ(error->description(),
                   "Type mismatch: damaged settings in " + store.path()
-                      + ", which will be kept as tarsil.ini.damaged");
+                      + ", which will be kept as tarsil.ini.damaged when options are changed");
         EXPECT_EQ(error->source(), "OptionsStore");
     }
 }
@@ -139,7 +143,7 @@ TEST_F(OptionsStoreTest, tellsThatAFileIsDamagedAndSaysNothingOfIt)
 TEST_F(OptionsStoreTest, putsAWholeFileInThePlaceOfADamagedOne)
 {
     const OptionsStore store = storeOf("[Options\nvgfScale\n");
-    store.write(texts("wing.inp", "", "7|5|5"));
+    store.write(texts("wing.inp", "", "7|5|5"), {});
     EXPECT_EQ(OptionsStore(store.path()).read(), texts("wing.inp", "", "7|5|5"));
 }
 
@@ -151,10 +155,10 @@ TEST_F(OptionsStoreTest, keepsADamagedFileBesideTheNewOne)
         const OptionsStore store = storeOf(damaged);
         EXPECT_EQ(errorNumberOf([&store] { static_cast<void>(store.read()); }),
                   ErrorNumber::TypeMismatch); // as when the program starts
-        store.write(texts("wing.inp", "", ""));
+        store.write(texts("wing.inp", "", ""), {});
         EXPECT_EQ(test::fileBytes(kept), damaged);
         EXPECT_EQ(store.read(), texts("wing.inp", "", ""));
-        store.write(OptionTexts());
+        store.write(texts("other.inp", "", ""), texts("wing.inp", "", ""));
         EXPECT_EQ(test::fileBytes(kept), damaged) << "the file after it is whole";
     }
 }
@@ -163,7 +167,8 @@ TEST_F(OptionsStoreTest, changesNothingWhenTheDamagedFileCannotBeKept)
 {
     const OptionsStore store = storeOf("[Options\nvgfScale\n");
     std::filesystem::create_directory(folder.file("tarsil.ini.damaged"));
-    EXPECT_EQ(errorNumberOf([&store] { store.write(OptionTexts()); }), ErrorNumber::PathFileAccess);
+    EXPECT_EQ(errorNumberOf([&store] { store.write(texts("wing.inp", "", ""), {}); }),
+              ErrorNumber::PathFileAccess);
     EXPECT_EQ(test::fileBytes(store.path()), "[Options\nvgfScale\n");
     const std::filesystem::directory_iterator files(folder.path());
     EXPECT_EQ(std::distance(begin(files), end(files)), 2);
@@ -175,7 +180,8 @@ TEST_F(OptionsStoreTest, canNeitherReadNorWriteAFolder)
     std::filesystem::create_directory(store.path());
     EXPECT_EQ(errorNumberOf([&store] { static_cast<void>(store.read()); }),
               ErrorNumber::PathFileAccess);
-    EXPECT_EQ(errorNumberOf([&store] { store.write(OptionTexts()); }), ErrorNumber::PathFileAccess);
+    EXPECT_EQ(errorNumberOf([&store] { store.write(texts("wing.inp", "", ""), {}); }),
+              ErrorNumber::PathFileAccess);
     EXPECT_TRUE(std::filesystem::is_empty(store.path()));
     const std::filesystem::directory_iterator files(folder.path());
     EXPECT_EQ(std::distance(begin(files), end(files)), 1);
@@ -185,7 +191,8 @@ TEST_F(OptionsStoreTest, cannotWriteBelowAFile)
 {
     folder.write("file", "kept");
     const OptionsStore store(folder.file("file/tarsil.ini"));
-    EXPECT_EQ(errorNumberOf([&store] { store.write(OptionTexts()); }), ErrorNumber::PathFileAccess);
+    EXPECT_EQ(errorNumberOf([&store] { store.write(texts("wing.inp", "", ""), {}); }),
+              ErrorNumber::PathNotFound);
     EXPECT_EQ(test::fileBytes(folder.file("file")), "kept");
 }
 
@@ -193,9 +200,60 @@ TEST_F(OptionsStoreTest, keepsAFileThatNobodyMayWrite)
 {
     const OptionsStore store = storeOf("[Options]\nvgfThicks=7|5|5\n");
     std::filesystem::permissions(store.path(), std::filesystem::perms::owner_read);
-    EXPECT_EQ(errorNumberOf([&store] { store.write(OptionTexts()); }),
+    EXPECT_EQ(errorNumberOf([&store] { store.write(texts("wing.inp", "", ""), {}); }),
               ErrorNumber::PermissionDenied);
     EXPECT_EQ(OptionsStore(store.path()).read(), texts("", "", "7|5|5"));
+}
+
+TEST_F(OptionsStoreTest, writesNothingWhenNothingChanged)
+{
+    const OptionsStore store(folder.file("tarsil.ini"));
+    store.write(OptionTexts(), OptionTexts());
+    EXPECT_FALSE(std::filesystem::exists(store.path()));
+    const OptionsStore damaged = storeOf("[Options\n");
+    damaged.write(texts("wing.inp", "", ""), texts("wing.inp", "", ""));
+    EXPECT_EQ(test::fileBytes(store.path()), "[Options\n");
+}
+
+TEST_F(OptionsStoreTest, leavesWhatAnotherProgramHasWrittenMeanwhile)
+{
+    const OptionsStore store = storeOf("[Options]\nvgfScale=0|1|0|-1|0|10\nvgfThicks=7|5|5\n");
+    const OptionTexts read = store.read();
+    storeOf("; of another hand\n[Options]\nvgfScale=0|2|0|-1|0|10\nvgfThicks=7|5|5\nnewer=1\n");
+    store.write(texts("", "0|1|0|-1|0|10", "4|3|2"), read);
+    EXPECT_EQ(test::fileBytes(store.path()),
+              "; of another hand\n[Options]\nvgfScale=0|2|0|-1|0|10\nvgfThicks=4|3|2\nnewer=1\n");
+}
+
+TEST_F(OptionsStoreTest, refusesAtOnceWhatIsNoPlainFile)
+{
+    const OptionsStore store(folder.file("tarsil.ini"));
+    ASSERT_EQ(::mkfifo(store.path().c_str(), 0600), 0); // which would be waited for
+    const auto error = errorOf([&store] { static_cast<void>(store.read()); });
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->description(),
+              "Path/File access error: cannot read the settings in " + store.path());
+    EXPECT_EQ(errorNumberOf([&store] { store.write(texts("wing.inp", "", ""), {}); }),
+              ErrorNumber::PathFileAccess);
+    EXPECT_EQ(errorNumberOf([] { static_cast<void>(OptionsStore("/dev/null").read()); }),
+              ErrorNumber::PathFileAccess);
+}
+
+TEST_F(OptionsStoreTest, keepsTheOldFileOnAFullDisk)
+{
+    const std::string old = "[Options]\nvgfThicks=7|5|5\n" + std::string(5000, '\n');
+    const OptionsStore store = storeOf(old);
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit before {};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit limit {4096, before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+    const auto error = errorOf([&store] { store.write(texts("", "", "4|3|2"), {}); });
+    setrlimit(RLIMIT_FSIZE, &before);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->description(),
+              "Path/File access error: " + store.path() + " (File too large)");
+    EXPECT_EQ(test::fileBytes(store.path()), old);
 }
 
 TEST_F(OptionsStoreTest, liesWhereTheDesktopKeepsTheSettingsOfAUser)
