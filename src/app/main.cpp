@@ -2,6 +2,7 @@
 #include "app/GuardedApplication.h"
 #include "app/QtUserInterface.h"
 #include "app/WndMain.h"
+#include "runtime/TemporaryFile.h"
 
 #include <QCommandLineParser>
 #include <QIcon>
@@ -31,6 +32,7 @@ std::vector<std::string> filesOf(const QApplication& application)
 
 int main(int argc, char** argv)
 {
+    tarsil::removeTemporariesOnSignals();
     tarsil::QtUserInterface userInterface;
     const tarsil::GuardedApplication application(argc, argv, userInterface);
     QApplication::setApplicationName(QStringLiteral("tarsil"));

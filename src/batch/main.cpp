@@ -1,10 +1,12 @@
 #include "batch/Batch.h"
+#include "runtime/TemporaryFile.h"
 #include "runtime/TextCodec.h"
 
 #include <QGuiApplication>
 
 #include <iostream>
 #include <memory>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -20,7 +22,8 @@ void keepQuiet(QtMsgType type, const QMessageLogContext& /*context*/, const QStr
 } // namespace
 
 int main(int argc, char** argv)
-{
+try {
+    tarsil::removeTemporariesOnSignals();
     const std::vector<std::string> arguments(argv + 1, argv + argc);
     // Only pictures need fonts, and so the toolkit; they need no display in any case.
     std::unique_ptr<QGuiApplication> application;
@@ -30,4 +33,7 @@ int main(int argc, char** argv)
         application = std::make_unique<QGuiApplication>(argc, argv);
     }
     return tarsil::batch::runBatch(arguments, std::cout, std::cerr);
+} catch (const std::bad_alloc&) {
+    std::cerr << "tarsil-batch: out of memory\n";
+    return 1;
 }

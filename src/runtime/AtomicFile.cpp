@@ -1,10 +1,9 @@
 #include "runtime/AtomicFile.h"
 
+#include "runtime/FileRights.h"
 #include "runtime/PathNames.h"
 
-#include <atomic>
 #include <cerrno>
-#include <chrono>
 #include <system_error>
 
 #if __has_include(<unistd.h>)
@@ -17,75 +16,77 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The file that is meant, where the name is a symbolic link to it.
-fs::path targetOf(std::string_view path)
+[[noreturn]] void fail(int code, std::string_view path)
 {
-    std::error_code failed;
-    const fs::path named = nativePath(path);
-    const fs::path real = fs::canonical(named, failed);
-    return failed ? named : real;
+    throw fileError(code, "AtomicFile", path);
 }
 
-/// Refuses what a rename would silently replace: a folder, or a file that nobody may write.
-void checkTarget(const fs::path& target, std::string_view path)
+/// The file that is meant, where the name is a symbolic link; it need not be there.
+fs::path targetOf(std::string_view path)
+{
+    constexpr int mostLinks = 40; // as the system follows
+    std::error_code failed;
+    fs::path target = nativePath(path);
+    for (int links = 0; fs::is_symlink(fs::symlink_status(target, failed)); ++links) {
+        const fs::path next = fs::read_symlink(target, failed);
+        if (failed || links == mostLinks)
+            fail(failed ? failed.value() : ELOOP, path);
+        target = target.parent_path() / next;
+    }
+    return target;
+}
+
+/// Refuses what a rename would silently replace: a folder, or a file that nobody may write. The
+/// path is the one that was asked for, so that the system has its say on the links of others.
+/// Returns whether there is a file.
+bool checkTarget(std::string_view path)
 {
     std::error_code failed;
+    const fs::path target = nativePath(path);
     const fs::file_status status = fs::status(target, failed);
-    if (!fs::exists(status))
-        return;
+    if (status.type() == fs::file_type::not_found)
+        return false;
+    if (!fs::status_known(status))
+        fail(failed.value(), path);
     if (fs::is_directory(status))
-        throw fileError(EISDIR, "AtomicFile", path);
+        fail(EISDIR, path);
     if (!fs::is_regular_file(status)) // a device or a pipe would be replaced, not written to
-        throw fileError(EINVAL, "AtomicFile", path);
+        fail(EINVAL, path);
     constexpr auto anyWrite =
         fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
     if ((status.permissions() & anyWrite) == fs::perms::none)
-        throw fileError(EACCES, "AtomicFile", path);
+        fail(EACCES, path);
 #if __has_include(<unistd.h>)
     if (::access(target.c_str(), W_OK) != 0)
-        throw fileError(errno, "AtomicFile", path);
+        fail(errno, path);
 #endif
+    return true;
 }
 
-int flushToDisk(std::FILE* file)
+/// The error of a file that cannot be made: nothing is wrong with the one that was asked for.
+[[noreturn]] void failInFolder(int code, const fs::path& target, std::string_view path)
 {
-    if (std::fflush(file) != 0)
-        return errno;
-#if __has_include(<unistd.h>)
-    // What cannot be synchronised (some network folders) has still been written.
-    if (::fsync(::fileno(file)) != 0 && errno != EINVAL && errno != ENOSYS)
-        return errno;
-#endif
-    return 0;
+    const std::string file = shownPath(path);
+    if (code == ENOENT || code == ENOTDIR)
+        throw RunTimeError(ErrorNumber::PathNotFound, "AtomicFile", file);
+    if (code != EACCES && code != EPERM && code != EROFS)
+        fail(code, path);
+    const fs::path folder = target.parent_path();
+    throw RunTimeError(ErrorNumber::PermissionDenied, "AtomicFile",
+                       file + " (the folder " + (folder.empty() ? "." : folder.string())
+                           + " may not be written)");
 }
 
 } // namespace
 
-fs::path temporaryName(const fs::path& target)
-{
-    static std::atomic<unsigned> counter = 0;
-    const auto stamp = std::chrono::steady_clock::now().time_since_epoch().count();
-    std::string name = ".tarsil-";
-    name.append(std::to_string(stamp)).append("-").append(std::to_string(counter++));
-    return target.parent_path() / name.append(".tmp");
-}
-
 AtomicFile::AtomicFile(std::string_view path)
-    : m_path(path), m_target(targetOf(path)), m_temporary(temporaryName(m_target))
+    : m_path(path), m_target(targetOf(path)), m_temporary(m_target)
 {
-    checkTarget(m_target, path);
-    m_file.reset(std::fopen(m_temporary.string().c_str(), "wbx"));
-    if (!m_file)
-        throw fileError(errno, "AtomicFile", path);
-}
-
-AtomicFile::~AtomicFile()
-{
-    if (m_temporary.empty())
-        return;
-    m_file.reset();
-    std::error_code ignored;
-    fs::remove(m_temporary, ignored);
+    // Nobody may see more of the new file than he could of the old one, whose rights may be few.
+    const auto access =
+        checkTarget(path) ? TemporaryFile::Access::Private : TemporaryFile::Access::Usual;
+    if (const int code = m_temporary.open(access); code != 0)
+        failInFolder(code, m_target, path);
 }
 
 void AtomicFile::write(std::string_view bytes)
@@ -93,33 +94,41 @@ void AtomicFile::write(std::string_view bytes)
     if (bytes.empty())
         return; // whose data may be null, which the platform does not take
     errno = 0;
-    if (std::fwrite(bytes.data(), 1, bytes.size(), m_file.get()) != bytes.size())
-        fail(errno);
+    failUnless(std::fwrite(bytes.data(), 1, bytes.size(), m_temporary.stream()) == bytes.size());
 }
 
 void AtomicFile::patch(std::size_t offset, std::string_view bytes)
 {
     errno = 0;
-    if (std::fseek(m_file.get(), static_cast<long>(offset), SEEK_SET) != 0)
-        fail(errno);
+    failUnless(std::fseek(m_temporary.stream(), static_cast<long>(offset), SEEK_SET) == 0);
     write(bytes);
-    if (std::fseek(m_file.get(), 0, SEEK_END) != 0)
-        fail(errno);
+    failUnless(std::fseek(m_temporary.stream(), 0, SEEK_END) == 0);
 }
 
+/// Nothing fails after the renaming: an error always means that the old file is there.
 void AtomicFile::commit()
 {
-    if (const int code = flushToDisk(m_file.get()); code != 0)
-        fail(code);
-    if (std::fclose(m_file.release()) != 0)
-        fail(errno);
-    replaceFile(m_temporary, m_path);
-    m_temporary.clear();
+    removeOldTemporaries(m_target.parent_path());
+    if (checkTarget(m_path))
+        copyRights(m_target, m_temporary.stream());
+    failWith(m_temporary.flush());
+    failWith(m_temporary.close());
+    const int code = m_temporary.renameTo(m_target);
+    if (code == EACCES || code == EROFS)
+        failInFolder(code, m_target, m_path);
+    failWith(code);
 }
 
-void AtomicFile::fail(int code) const
+void AtomicFile::failUnless(bool done) const
 {
-    throw fileError(code, "AtomicFile", m_path);
+    if (!done)
+        fail(errno != 0 ? errno : EIO, m_path);
+}
+
+void AtomicFile::failWith(int code) const
+{
+    if (code != 0)
+        fail(code, m_path);
 }
 
 void writeFile(std::string_view path, std::string_view bytes)
@@ -127,28 +136,6 @@ void writeFile(std::string_view path, std::string_view bytes)
     AtomicFile file(path);
     file.write(bytes);
     file.commit();
-}
-
-void replaceFile(const fs::path& temporary, std::string_view path)
-{
-    std::error_code failed;
-    const fs::path target = targetOf(path);
-    try {
-        checkTarget(target, path);
-    } catch (...) {
-        fs::remove(temporary, failed);
-        throw;
-    }
-    const fs::file_status old = fs::status(target, failed);
-    if (fs::exists(old))
-        fs::permissions(temporary, old.permissions(), failed);
-    failed.clear();
-    fs::rename(temporary, target, failed);
-    if (!failed)
-        return;
-    const int code = failed.value();
-    fs::remove(temporary, failed);
-    throw fileError(code, "AtomicFile", path);
 }
 
 } // namespace tarsil

@@ -2,6 +2,8 @@
 
 #include "runtime/UserInterface.h"
 
+#include <exception>
+
 namespace tarsil {
 
 BusyStatus::BusyStatus(UserInterface& userInterface, std::string_view text)
@@ -12,7 +14,11 @@ BusyStatus::BusyStatus(UserInterface& userInterface, std::string_view text)
 
 BusyStatus::~BusyStatus()
 {
-    m_userInterface.showStatus(readyStatus);
+    try {
+        m_userInterface.showStatus(readyStatus);
+    } catch (const std::exception&) {
+        return; // without memory for a text the program goes on with the old one
+    }
 }
 
 } // namespace tarsil

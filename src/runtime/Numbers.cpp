@@ -201,7 +201,7 @@ template <typename Number>
 
 } // namespace
 
-NumberStatus parseSingle(std::string_view text, float& value) noexcept
+NumberStatus parseSingle(std::string_view text, float& value)
 {
     if (shortnumber::read(text, value))
         return NumberStatus::Ok;
@@ -218,7 +218,7 @@ NumberStatus parseSingle(std::string_view text, float& value) noexcept
     return convertByLibrary(bare, number, value);
 }
 
-NumberStatus parseDouble(std::string_view text, double& value) noexcept
+NumberStatus parseDouble(std::string_view text, double& value)
 {
     const std::string_view bare = trimmed(text);
     Decimal number;
@@ -232,7 +232,7 @@ NumberStatus parseDouble(std::string_view text, double& value) noexcept
     return convertByLibrary(bare, number, value);
 }
 
-NumberStatus parseInteger16(std::string_view text, std::int16_t& value) noexcept
+NumberStatus parseInteger16(std::string_view text, std::int16_t& value)
 {
     double number = 0;
     const NumberStatus status = parseDouble(text, number);

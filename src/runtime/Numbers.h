@@ -17,11 +17,11 @@ enum class NumberStatus {
 // with E, e, D or d; nothing else on either side. The value is the nearest one of the wanted type
 // (correctly rounded from the decimal text); a number too small for it is 0.
 
-NumberStatus parseSingle(std::string_view text, float& value) noexcept;
-NumberStatus parseDouble(std::string_view text, double& value) noexcept;
+NumberStatus parseSingle(std::string_view text, float& value);
+NumberStatus parseDouble(std::string_view text, double& value);
 
 /// Through the number, rounded to nearest with ties to even.
-NumberStatus parseInteger16(std::string_view text, std::int16_t& value) noexcept;
+NumberStatus parseInteger16(std::string_view text, std::int16_t& value);
 
 /// The same conversions for callers with one text: a failure is raised as error 13 "Type mismatch"
 /// or 6 "Overflow" whose description holds `where` and the text. `source` names who asks.

@@ -29,6 +29,9 @@ ErrorNumber numberOf(int code, std::string_view path)
     case EROFS:
         return ErrorNumber::PermissionDenied;
     case ENOSPC:
+#ifdef EDQUOT
+    case EDQUOT: // nothing is left of what the user is given of the disk
+#endif
         return ErrorNumber::DiskFull;
     case EIO:
         return ErrorNumber::DeviceInputOutput;

@@ -110,6 +110,7 @@ TEST(PathNames, namesTheErrorOfAFailedFileOperation)
     EXPECT_EQ(numberOf(ENOTDIR, "x"), ErrorNumber::PathNotFound);
     EXPECT_EQ(numberOf(EACCES, "x"), ErrorNumber::PermissionDenied);
     EXPECT_EQ(numberOf(ENOSPC, "x"), ErrorNumber::DiskFull);
+    EXPECT_EQ(numberOf(EDQUOT, "x"), ErrorNumber::DiskFull);
     EXPECT_EQ(numberOf(EIO, "x"), ErrorNumber::DeviceInputOutput);
     EXPECT_EQ(numberOf(EISDIR, "x"), ErrorNumber::PathFileAccess);
     EXPECT_EQ(fileError(EACCES, "Test", "x.evm").description(), "Permission denied: x.evm");
