@@ -70,6 +70,7 @@ void measurePicture(EvmPlot& plot)
         QPainter painter(&picture);
         PainterContext context(painter);
         plot.Draw(context);
+        context.flush();
     };
     const auto reference = [&] { drawPolylines(plot, polylines); };
     printRow("picture of 100 modes x 1000 points, 1600x1200, with axes and texts",

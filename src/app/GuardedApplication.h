@@ -6,10 +6,13 @@
 
 #include <QApplication>
 
+#include <cstdio>
+#include <new>
+
 namespace tarsil {
 
 /// The last guard: what an event's handler lets through becomes the one report, and the program
-/// goes on. All message boxes are plain text.
+/// goes on, with all that the user has not saved yet. All message boxes are plain text.
 class GuardedApplication : public QApplication
 {
 public:
@@ -23,7 +26,12 @@ public:
     bool notify(QObject* receiver, QEvent* event) override
     {
         bool result = false;
-        guarded(m_userInterface, "tarsil", [&] { result = QApplication::notify(receiver, event); });
+        try {
+            guarded(m_userInterface, "tarsil",
+                    [&] { result = QApplication::notify(receiver, event); });
+        } catch (const std::bad_alloc&) { // there was not even enough for the report
+            std::fputs("tarsil: out of memory\n", stderr);
+        }
         return result;
     }
 

@@ -90,7 +90,7 @@ std::string hint(const std::vector<std::string>& arguments)
         + "--help\" tells how it is used.";
 }
 
-int runGuarded(const std::vector<std::string>& arguments, BatchRun& run)
+int runWithMessages(const std::vector<std::string>& arguments, BatchRun& run)
 {
     try {
         return runCommand(arguments, run);
@@ -99,11 +99,22 @@ int runGuarded(const std::vector<std::string>& arguments, BatchRun& run)
         run.complain(hint(arguments));
         return wrongUsage;
     } catch (const std::bad_alloc&) {
-        run.complain("out of memory");
+        throw;
     } catch (const std::exception& error) {
         run.complain(run.readable(error.what()));
     }
     return failed;
+}
+
+/// Memory may end while another failure is put into words, so this is asked last.
+int runGuarded(const std::vector<std::string>& arguments, BatchRun& run)
+{
+    try {
+        return runWithMessages(arguments, run);
+    } catch (const std::bad_alloc&) {
+        run.complain("out of memory");
+        return failed;
+    }
 }
 
 } // namespace
@@ -112,11 +123,10 @@ int runBatch(const std::vector<std::string>& arguments, std::ostream& out, std::
 {
     BatchRun run(out, err);
     const int status = runGuarded(arguments, run);
-    if (status == done && !out.flush()) {
-        run.complain("standard output cannot be written");
-        return failed;
-    }
-    return status;
+    if (out.flush())
+        return status;
+    run.complain("standard output cannot be written");
+    return status == done ? failed : status;
 }
 
 bool drawsPicture(const std::vector<std::string>& arguments)

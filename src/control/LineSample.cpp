@@ -24,6 +24,7 @@ void drawLineSample(QPainter& painter, const QRect& rectangle, const Series& ser
     context.drawLine({rectangle.left() + margin, center.y()},
                      {rectangle.right() - margin, center.y()},
                      {series.LineStyle, width, series.ColorIndex});
+    context.flush();
 }
 
 void LineSampleDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,

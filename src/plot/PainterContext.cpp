@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <exception>
 
 namespace tarsil {
 
@@ -99,7 +100,11 @@ PainterContext::PainterContext(QPainter& painter)
 
 PainterContext::~PainterContext()
 {
-    flush();
+    try {
+        flush();
+    } catch (const std::exception&) {
+        return; // comes to pass only after a failure, which is the one that is told
+    }
 }
 
 void PainterContext::drawLine(QPoint from, QPoint to, const Pen& pen)

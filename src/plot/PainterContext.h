@@ -11,7 +11,7 @@ namespace tarsil {
 
 /// Draws with a QPainter: on an image, a printer page or an SVG. Lines run through pixel centres.
 /// Connected solid lines of one pen are drawn as one polyline, which must not outlive this object:
-/// the painter is complete after `flush` or the destructor.
+/// the picture is complete after `flush`. The destructor draws what is left when drawing failed.
 class PainterContext : public DeviceContext
 {
 public:

@@ -4,26 +4,27 @@
 
 #include <QPainter>
 
+#include <exception>
+
 namespace tarsil {
 
 namespace {
 
-/// Sets origin and clip back, also when drawing fails.
-class PlacedDrawing
+void setBack(DeviceContext& context)
 {
-public:
-    explicit PlacedDrawing(DeviceContext& context) : m_context(context) { }
-    ~PlacedDrawing()
-    {
-        m_context.clearClip();
-        m_context.setOrigin({0, 0});
-    }
-    PlacedDrawing(const PlacedDrawing&) = delete;
-    PlacedDrawing& operator=(const PlacedDrawing&) = delete;
+    context.clearClip();
+    context.setOrigin({0, 0});
+}
 
-private:
-    DeviceContext& m_context;
-};
+/// After drawing has failed, so that what is drawn next comes to its place all the same.
+void trySetBack(DeviceContext& context)
+{
+    try {
+        setBack(context);
+    } catch (const std::exception&) {
+        return; // the failure that is on its way is the one to be told
+    }
+}
 
 } // namespace
 
@@ -74,13 +75,18 @@ void PlotControl::Cls()
 
 void PlotControl::drawInto(DeviceContext& context) const
 {
-    const PlacedDrawing placed(context);
-    context.setOrigin(m_geometry.topLeft());
-    if (isClipped())
-        context.setClip(m_container.isNull() ? m_geometry : m_geometry & m_container);
-    else if (!m_container.isNull())
-        context.setClip(m_container);
-    paint(context);
+    try {
+        context.setOrigin(m_geometry.topLeft());
+        if (isClipped())
+            context.setClip(m_container.isNull() ? m_geometry : m_geometry & m_container);
+        else if (!m_container.isNull())
+            context.setClip(m_container);
+        paint(context);
+    } catch (...) {
+        trySetBack(context);
+        throw;
+    }
+    setBack(context);
 }
 
 void PlotControl::drawOnSurface()
@@ -101,6 +107,7 @@ void PlotControl::drawOnSurface()
     painter.translate(m_geometry.topLeft() - area.topLeft());
     PainterContext context(painter);
     paint(context);
+    context.flush();
 }
 
 } // namespace tarsil
