@@ -1,6 +1,5 @@
 #include "runtime/TemporaryFile.h"
 
-#include <algorithm>
 #include <array>
 #include <atomic>
 #include <cerrno>
@@ -11,6 +10,7 @@
 #include <system_error>
 
 #if __has_include(<unistd.h>)
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -32,16 +32,6 @@ std::string freeName()
     std::string name(prefix);
     name.append(std::to_string(stamp)).append("-").append(std::to_string(counter++));
     return name.append(suffix);
-}
-
-bool isTemporaryName(std::string_view name)
-{
-    if (name.size() <= prefix.size() + suffix.size() || !name.starts_with(prefix)
-        || !name.ends_with(suffix))
-        return false;
-    const std::string_view middle =
-        name.substr(prefix.size(), name.size() - prefix.size() - suffix.size());
-    return middle.find_first_not_of("0123456789-") == std::string_view::npos;
 }
 
 /// The names of the temporary files that exist. A handler of signals reads them, in whichever
@@ -99,11 +89,29 @@ void handle(int signal, void (*handler)(int), int flags)
     ::sigaction(signal, &action, nullptr);
 }
 
-bool isOldAndOwn(const fs::path& path)
+/// An open folder that closes itself. The standard library's iterator ends the program when memory
+/// runs out within it.
+struct CloseFolder
+{
+    void operator()(DIR* folder) const { ::closedir(folder); }
+};
+using OpenFolder = std::unique_ptr<DIR, CloseFolder>;
+
+bool isTemporaryName(std::string_view name)
+{
+    if (name.size() <= prefix.size() + suffix.size() || !name.starts_with(prefix)
+        || !name.ends_with(suffix))
+        return false;
+    const std::string_view middle =
+        name.substr(prefix.size(), name.size() - prefix.size() - suffix.size());
+    return middle.find_first_not_of("0123456789-") == std::string_view::npos;
+}
+
+bool isOldAndOwn(int folder, const char* name)
 {
     using namespace std::chrono;
     struct stat status = {};
-    return ::lstat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode)
+    return ::fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW) == 0 && S_ISREG(status.st_mode)
         && status.st_uid == ::geteuid()
         && system_clock::now() - system_clock::from_time_t(status.st_mtime) > hours(24);
 }
@@ -120,14 +128,6 @@ void flushFolder(const fs::path& folder)
 }
 
 #else
-
-bool isOldAndOwn(const fs::path& path)
-{
-    std::error_code failed;
-    const auto changed = fs::last_write_time(path, failed);
-    return !failed && fs::is_regular_file(path, failed)
-        && fs::file_time_type::clock::now() - changed > std::chrono::hours(24);
-}
 
 void flushFolder(const fs::path& /*folder*/) { }
 
@@ -234,11 +234,6 @@ void TemporaryFile::forget()
     leave(m_entry);
 }
 
-fs::path temporaryName(const fs::path& target)
-{
-    return target.parent_path() / freeName();
-}
-
 void removeTemporariesOnSignals()
 {
 #if __has_include(<unistd.h>)
@@ -250,14 +245,16 @@ void removeTemporariesOnSignals()
 
 void removeOldTemporaries(const fs::path& folder)
 {
-    std::error_code failed;
-    fs::directory_iterator entry(folder.empty() ? fs::path(".") : folder, failed);
-    for (; !failed && entry != fs::directory_iterator(); entry.increment(failed)) {
-        std::error_code ignored;
-        const fs::path& path = entry->path();
-        if (isTemporaryName(path.filename().string()) && isOldAndOwn(path))
-            fs::remove(path, ignored);
+#if __has_include(<unistd.h>)
+    const OpenFolder open(::opendir(folder.empty() ? "." : folder.c_str()));
+    if (!open)
+        return;
+    const int handle = ::dirfd(open.get());
+    while (const dirent* const entry = ::readdir(open.get())) {
+        if (isTemporaryName(entry->d_name) && isOldAndOwn(handle, entry->d_name))
+            ::unlinkat(handle, entry->d_name, 0);
     }
+#endif
 }
 
 } // namespace tarsil

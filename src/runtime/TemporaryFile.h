@@ -50,9 +50,6 @@ private:
     std::unique_ptr<std::FILE, Closer> m_stream;
 };
 
-/// A free, short name for a temporary file in the folder of `target`.
-std::filesystem::path temporaryName(const std::filesystem::path& target);
-
 /// From now on SIGINT, SIGTERM and SIGHUP remove the temporary files of this process before they
 /// end it, and a file beyond the size limit (SIGXFSZ) is a failure of its writer and no end of the
 /// process. Signals that are ignored stay so. For the main function of a program.

@@ -1,6 +1,7 @@
 #include "analysis/SheetWriter.h"
 
 #include "analysis/Sheet.h"
+#include "analysis/XlsxParts.h"
 #include "analysis/XlsxReader.h"
 #include "runtime/RunTimeError.h"
 #include "support/TestFiles.h"
@@ -8,7 +9,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <csignal>
+#include <cstdlib>
 #include <string>
 #include <sys/resource.h>
 
@@ -133,8 +136,7 @@ TEST(SheetAsXlsx, keepsTheWholePrecisionOfANumber)
     sheet.setText(1, 3, "x");
     writeSheet(sheet, folder.file("a.xlsx"));
     const Sheet back = test::readXlsx(folder.file("a.xlsx"));
-    // Spreadsheets keep 15 to 16 significant digits.
-    EXPECT_NEAR(std::get<double>(back.cell(1, 1)), 5298.3141592653589, 1e-11);
+    EXPECT_EQ(std::get<double>(back.cell(1, 1)), 5298.3141592653589);
     EXPECT_EQ(std::get<double>(back.cell(1, 2)), 1e-7);
 }
 
@@ -168,6 +170,104 @@ TEST(SheetAsXlsx, takesTextThatIsNoUtf8)
     sheet.setText(1, 1, "Fl\xFCgel.ev2"); // a file name in an 8-bit encoding
     writeSheet(sheet, folder.file("a.xlsx"));
     EXPECT_EQ(Sheet::textOf(test::readXlsx(folder.file("a.xlsx")).cell(1, 1)), "Fl\xC3\xBCgel.ev2");
+}
+
+TEST(SheetAsXlsx, replacesWhatXmlCannotHold)
+{
+    const TemporaryFolder folder;
+    Sheet sheet;
+    sheet.setText(1, 1,
+                  "a\xEF\xBF\xBE"
+                  "b\xEF\xBF\xBF"
+                  "c\x01"
+                  "d\x1F"); // U+FFFE, U+FFFF, controls
+    sheet.setText(2, 1, " <b>R&D</b>\ttab\r\nline \xF0\x9F\x9B\xA9 ");
+    writeSheet(sheet, folder.file("a.xlsx"));
+    const Sheet back = test::readXlsx(folder.file("a.xlsx"));
+    const std::string replacement = "\xEF\xBF\xBD"; // U+FFFD
+    EXPECT_EQ(Sheet::textOf(back.cell(1, 1)),
+              "a" + replacement + "b" + replacement + "c" + replacement + "d" + replacement);
+    EXPECT_EQ(back.cell(2, 1), sheet.cell(2, 1));
+}
+
+/// A spreadsheet reads "_x0041_" as "A" and "_x005F_" as "_" (ECMA-376, 22.9.2.19).
+TEST(SheetAsXlsx, keepsATextThatLooksLikeAnEscape)
+{
+    EXPECT_EQ(xlsxText("_x0041_"), "_x005F_x0041_");
+    EXPECT_EQ(xlsxText("a_x00e4_x0042_"), "a_x005F_x00e4_x005F_x0042_");
+    for (const char* const plain : {"_x004_", "_x0041", "x0041_", "_x00G1_", "_X0041_", "__"})
+        EXPECT_EQ(xlsxText(plain), plain);
+}
+
+TEST(SheetAsXlsx, saysThatANumberIsNone)
+{
+    const TemporaryFolder folder;
+    Sheet sheet;
+    sheet.setNumber(1, 1, std::nan(""));
+    sheet.setNumber(1, 2, HUGE_VAL);
+    sheet.setNumber(1, 3, -0.5);
+    writeSheet(sheet, folder.file("a.xlsx"));
+    EXPECT_THAT(test::zipPart(folder.file("a.xlsx"), "xl/worksheets/sheet1.xml"),
+                HasSubstr("<c r=\"A1\" s=\"1\" t=\"e\"><v>#NUM!</v></c>"
+                          "<c r=\"B1\" s=\"1\" t=\"e\"><v>#NUM!</v></c>"
+                          "<c r=\"C1\" s=\"1\"><v>-0.5</v></c>"));
+}
+
+TEST(SheetAsXlsx, namesTheCellsBeyondTheAlphabet)
+{
+    const TemporaryFolder folder;
+    Sheet sheet;
+    for (const std::size_t column : {1U, 26U, 27U, 702U, 703U, 16384U})
+        sheet.setNumber(1, column, static_cast<double>(column));
+    writeSheet(sheet, folder.file("a.xlsx"));
+    const std::string page = test::zipPart(folder.file("a.xlsx"), "xl/worksheets/sheet1.xml");
+    for (const char* const name : {"A1", "Z1", "AA1", "ZZ1", "AAA1", "XFD1"})
+        EXPECT_THAT(page, HasSubstr("<c r=\"" + std::string(name) + "\""));
+    EXPECT_EQ(test::readXlsx(folder.file("a.xlsx")).cell(1, 703), sheet.cell(1, 703));
+}
+
+TEST(SheetAsXlsx, refusesMoreColumnsThanASpreadsheetHas)
+{
+    const TemporaryFolder folder;
+    Sheet sheet;
+    sheet.setNumber(1, 16385, 1);
+    EXPECT_EQ(errorOf(sheet, folder.file("a.xlsx")).number(), ErrorNumber::InvalidProcedureCall);
+    EXPECT_EQ(fileCount(folder), 0U);
+}
+
+/// A temporary file elsewhere could fail unseen.
+TEST(SheetAsXlsx, needsNoFolderForTemporaryFiles)
+{
+    const TemporaryFolder folder;
+    const char* const before = std::getenv("TMPDIR");
+    const std::string kept = before != nullptr ? before : "";
+    setenv("TMPDIR", folder.file("none").c_str(), 1);
+    writeSheet(example(), folder.file("a.xlsx"));
+    if (before != nullptr)
+        setenv("TMPDIR", kept.c_str(), 1);
+    else
+        unsetenv("TMPDIR");
+    EXPECT_EQ(test::readXlsx(folder.file("a.xlsx")).cell(4, 4), example().cell(4, 4));
+}
+
+/// The way of every report: the largest one that is written in the tests, and the smallest.
+TEST(SheetAsXlsx, readsBackAtEverySize)
+{
+    const TemporaryFolder folder;
+    for (const std::size_t rows : {0U, 1U, 3000U}) {
+        Sheet sheet;
+        for (std::size_t row = 1; row <= rows; ++row) {
+            sheet.setText(row, 1, "mode " + std::to_string(row % 7));
+            sheet.setNumber(row, 3, 1.0 / static_cast<double>(row));
+        }
+        writeSheet(sheet, folder.file("a.xlsx"));
+        const Sheet back = test::readXlsx(folder.file("a.xlsx"));
+        ASSERT_EQ(back.rowCount(), rows);
+        for (std::size_t row = 1; row <= rows; ++row) {
+            for (std::size_t column = 1; column <= 3; ++column)
+                ASSERT_EQ(back.cell(row, column), sheet.cell(row, column)) << row;
+        }
+    }
 }
 
 TEST(SheetAsXlsx, refusesATextThatNoCellHolds)

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "analysis/ZipArchive.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarsil {
+
+class Sheet;
+
+/// The parts that a workbook (Office Open XML, ECMA-376) with this one sheet is made of. Raises
+/// error 5, whose description holds `path`, for a sheet or text beyond what a spreadsheet can hold.
+std::vector<ArchivePart> xlsxParts(const Sheet& sheet, std::string_view path);
+
+/// A text as the strings of a workbook hold it: mark-up and carriage returns as references, and
+/// what looks like a spreadsheet's escape of a character ("_x0041_") with its first "_" escaped.
+/// A character that XML cannot hold becomes U+FFFD.
+std::string xlsxText(std::string_view utf8);
+
+} // namespace tarsil
