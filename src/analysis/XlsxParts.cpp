@@ -130,6 +130,24 @@ bool fitsIntoXml(char16_t unit)
     return unit == u'\t' || unit == u'\n' || unit == u'\r' || (unit >= u' ' && unit < 0xFFFE);
 }
 
+std::string textElement(const std::string& text)
+{
+    std::string xml = "<t xml:space=\"preserve\">";
+    for (const char c : text) {
+        if (c == '&')
+            xml += "&amp;";
+        else if (c == '<')
+            xml += "&lt;";
+        else if (c == '>')
+            xml += "&gt;";
+        else if (c == '\r') // which readers of XML take for a line feed otherwise
+            xml += "&#13;";
+        else
+            xml += c;
+    }
+    return xml + "</t>";
+}
+
 /// Wide enough for the content, as long as it is no novel.
 double widthOf(const Sheet& sheet, std::size_t column)
 {
@@ -239,7 +257,7 @@ std::string PageWriter::texts() const
     xml.append(" count=\"").append(textOf(m_uses)).append("\" uniqueCount=\"");
     xml.append(textOf(m_texts.size())).append("\">");
     for (const std::string& text : m_texts)
-        xml.append("<si><t xml:space=\"preserve\">").append(text).append("</t></si>");
+        xml.append("<si>").append(text).append("</si>");
     return xml + "</sst>\n";
 }
 
@@ -258,22 +276,16 @@ std::string xlsxText(std::string_view utf8)
     std::replace_if(
         units.begin(), units.end(), [](char16_t unit) { return !fitsIntoXml(unit); }, replacement);
     const std::string text = utf8FromUtf16(units);
-    std::string xml;
+    std::string runs;
+    std::size_t begin = 0;
     for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == '&')
-            xml += "&amp;";
-        else if (text[i] == '<')
-            xml += "&lt;";
-        else if (text[i] == '>')
-            xml += "&gt;";
-        else if (text[i] == '\r') // which readers of XML take for a line feed otherwise
-            xml += "&#13;";
-        else if (text[i] == '_' && isEscape(std::string_view(text).substr(i)))
-            xml += "_x005F_";
-        else
-            xml += text[i];
+        if (text[i] != '_' || !isEscape(std::string_view(text).substr(i)))
+            continue;
+        runs += "<r>" + textElement(text.substr(begin, i + 1 - begin)) + "</r>";
+        begin = i + 1;
     }
-    return xml;
+    const std::string rest = textElement(text.substr(begin));
+    return runs.empty() ? rest : runs + "<r>" + rest + "</r>";
 }
 
 std::vector<ArchivePart> xlsxParts(const Sheet& sheet, std::string_view path)

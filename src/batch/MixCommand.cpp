@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <memory>
 
 namespace tarsil::batch {
 
@@ -98,8 +99,9 @@ int runMix(const CommandLine& line, BatchRun& run)
              selectModes(run.open(ingredient.path), ingredient.modes, ingredient.path))
             modes.push_back(mode);
     }
-    mdlMix::gather(modes)->PrintEVM(output);
-    warnOfDifferentLengths(modes, run);
+    const std::unique_ptr<EVM> mixed = mdlMix::gather(modes);
+    warnOfDifferentLengths(modes, run); // nothing may fail once the file is there
+    mixed->PrintEVM(output);
     return isWhole ? done : failed;
 }
 
