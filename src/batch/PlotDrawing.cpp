@@ -15,11 +15,11 @@ namespace tarsil::batch {
 namespace {
 
 /// As many ticks as make them fall on round numbers between two ends, if there are such.
-std::int16_t roundTicks(float from, float to, std::int16_t otherwise)
+std::int16_t roundTicks(float from, float to, Steps steps, std::int16_t otherwise)
 {
     const double low = std::min(from, to);
     const double high = std::max(from, to);
-    const RoundRange range = roundRange(low, high);
+    const RoundRange range = roundRange(low, high, steps);
     const double tolerance = 1e-5 * (high - low);
     const bool fits =
         std::fabs(range.low - low) < tolerance && std::fabs(range.high - high) < tolerance;
@@ -51,9 +51,9 @@ void setScale(EvmPlot& plot, const PictureOptions& options)
         const EvmPlot::Scale& scale = *options.scale;
         const EvmPlot::Thicks usual;
         plot.SetScale(scale);
-        plot.setVthicks(roundTicks(scale.vmin, scale.vmax, usual.v));
-        plot.setFthicks(roundTicks(scale.fmin, scale.fmax, usual.f));
-        plot.setGthicks(roundTicks(scale.gmin, scale.gmax, usual.g));
+        plot.setVthicks(roundTicks(scale.vmin, scale.vmax, Steps::Whole, usual.v));
+        plot.setFthicks(roundTicks(scale.fmin, scale.fmax, Steps::Any, usual.f));
+        plot.setGthicks(roundTicks(scale.gmin, scale.gmax, Steps::Any, usual.g));
     }
     if (options.ticks) {
         plot.setVthicks(options.ticks->v);

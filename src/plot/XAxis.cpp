@@ -41,12 +41,12 @@ void xAxis::drawTicks(DeviceContext& context) const
     axis::requireIntervals(nThick(), "xAxis");
     const double line = Height() / 2.0;
     const double pixelStep = static_cast<double>(Width()) / nThick();
-    const double valueStep = (Max() - Min()) / nThick();
     for (int k = 1; k < nThick(); ++k) {
         const double column = k * pixelStep;
         context.drawLine(pixel(column, line - thick / 2), pixel(column, line + thick / 2),
                          axis::pen);
-        const QString label = QString::fromStdString(formatNumber(Min() + k * valueStep, "0"));
+        const double value = axis::divisionValue(Min(), Max(), k, nThick());
+        const QString label = QString::fromStdString(formatNumber(value, "0"));
         context.drawText(pixel(column, line + thick / 2), label, Font(), axis::textColor,
                          TextAlignment::TopCenter);
     }

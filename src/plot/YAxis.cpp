@@ -32,12 +32,13 @@ void yAxis::paint(DeviceContext& context) const
     context.drawLine(pixel(line, farEnd), pixel(line + axis::endMark, farEnd), axis::pen);
     axis::requireIntervals(nThick(), "yAxis");
     const double pixelStep = static_cast<double>(Height()) / nThick();
-    const double valueStep = (Max() - Min()) / nThick();
+    const double upper = m_direction ? Min() : Max();
+    const double lower = m_direction ? Max() : Min();
     const std::string pattern = m_thickFormat.toStdString();
     for (int k = 1; k < nThick(); ++k) {
         const double row = k * pixelStep;
         context.drawLine(pixel(line, row), pixel(line + thick, row), axis::pen);
-        const double value = m_direction ? Min() + k * valueStep : Max() - k * valueStep;
+        const double value = axis::divisionValue(upper, lower, k, nThick());
         const QString label = QString::fromStdString(formatNumber(value, pattern));
         const int height = context.textExtent(label, Font()).height();
         context.drawText(pixel(line - thick / 2, row - height / 2.0), label, Font(),

@@ -14,13 +14,21 @@ constexpr double mostSteps = 10;
 constexpr double largestEnd = 1e38; ///< a single still holds it when it is rounded up
 constexpr double frequencyHeadroom = 1.02; ///< keeps the highest curve clear of the axis title
 
-/// The smallest round step that is not below `least`.
-double roundStep(double least)
+bool isWhole(double number)
 {
-    const double power = std::pow(10.0, std::floor(std::log10(least)));
+    return std::floor(number) == number;
+}
+
+/// The smallest round step that is not below `least`.
+double roundStep(double least, Steps steps)
+{
+    const bool onlyWhole = steps == Steps::Whole;
+    const double atLeast = onlyWhole ? std::max(least, 1.0) : least;
+    const double power = std::pow(10.0, std::floor(std::log10(atLeast)));
     for (const double digit : {1.0, 2.0, 2.5, 5.0, 10.0}) {
-        if (digit * power >= least * (1 - 1e-9))
-            return digit * power;
+        const double step = digit * power;
+        if (step >= atLeast * (1 - 1e-9) && (!onlyWhole || isWhole(step)))
+            return step;
     }
     return 10 * power;
 }
@@ -52,11 +60,11 @@ Extent extentOf(const SeriesList& series)
 
 } // namespace
 
-RoundRange roundRange(double low, double high)
+RoundRange roundRange(double low, double high, Steps steps)
 {
     if (!(high > low))
         high = low + 1;
-    const double step = roundStep((high - low) / mostSteps);
+    const double step = roundStep((high - low) / mostSteps, steps);
     const double first = std::floor(low / step + 1e-9);
     const double last = std::ceil(high / step - 1e-9);
     return {first * step, last * step, static_cast<int>(last - first)};
@@ -68,7 +76,7 @@ FittedAxes fitAxes(const SeriesList& series)
     const Extent extent = extentOf(series);
     if (!extent.hasPoints)
         return axes;
-    const RoundRange speed = roundRange(0, std::min(extent.speed, largestEnd));
+    const RoundRange speed = roundRange(0, std::min(extent.speed, largestEnd), Steps::Whole);
     const RoundRange frequency =
         roundRange(0, std::min(frequencyHeadroom * extent.frequency, largestEnd));
     const RoundRange damping = roundRange(0, std::clamp(extent.damping, leastDamping, mostDamping));

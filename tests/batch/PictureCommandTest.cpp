@@ -124,6 +124,14 @@ TEST_F(PictureCommand, putsRoundTicksOnAScale)
         EXPECT_THAT(texts, HasSubstr(text));
 }
 
+TEST_F(PictureCommand, putsTheTicksOfTheSpeedAxisOnWholeNumbers)
+{
+    // Its labels are whole numbers: every 5 knots, and not every 2.5.
+    const std::string texts =
+        svgTexts(draw("out.svg", {"--scale", "0,25,0,30,0,-0.2", writeEv2()}));
+    EXPECT_THAT(texts, ::testing::StartsWith("5|10|15|20|"));
+}
+
 TEST_F(PictureCommand, fitsTheAxesWithoutAScale)
 {
     // Up to 400 knots, 14 Hz and a damping of 1, of which no more than 0.5 is shown.

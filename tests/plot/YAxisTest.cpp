@@ -97,6 +97,38 @@ TEST_F(YAxis, writesItsLabelsWithTheFormat)
     EXPECT_THAT(labels(), ElementsAre("0"));
 }
 
+TEST_F(YAxis, roundsLabelsByTheirDecimalValue)
+{
+    // -0.35 / 4 = -0.0875, twice -0.175, and three times -0.2625: half-way is away from zero. In
+    // binary the last is -0.26249999999999996.
+    axis.setDirection(true);
+    axis.setNThick(4);
+    axis.setMax(-0.35);
+    axis.setThickFormat(QStringLiteral("0.00#"));
+    EXPECT_THAT(labels(), ElementsAre("-0.088", "-0.175", "-0.263"));
+    // From 0.3 up to -0.3 in 800 steps: tick 398 is 0.0015 above zero, tick 402 as much below.
+    axis.setNThick(800);
+    axis.setMin(0.3);
+    axis.setMax(-0.3);
+    axis.setThickFormat(QStringLiteral("0.000"));
+    EXPECT_EQ(labels().at(397), "0.002");
+    EXPECT_EQ(labels().at(399), "0.000");
+    EXPECT_EQ(labels().at(401), "-0.002");
+}
+
+TEST_F(YAxis, labelsBoundsOfEverySize)
+{
+    axis.setNThick(2);
+    axis.setMax(1e38);
+    axis.setThickFormat(QStringLiteral("0"));
+    EXPECT_EQ(labels().front(), "5" + std::string(37, '0'));
+    axis.setMax(2e-38);
+    axis.setThickFormat(QStringLiteral("0.0E+00"));
+    EXPECT_THAT(labels(), ElementsAre("1.0E-38"));
+    axis.setMax(0);
+    EXPECT_THAT(labels(), ElementsAre("0.0E+00"));
+}
+
 TEST_F(YAxis, refusesAFormatThatIsNone)
 {
     axis.setThickFormat(QStringLiteral("km"));

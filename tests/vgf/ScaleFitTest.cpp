@@ -85,6 +85,24 @@ TEST(RoundRange, holdsWhatItWasGivenInFourToTenRoundSteps)
     }
 }
 
+TEST(RoundRange, takesStepsThatAreWholeNumbersWhereTheyAreAskedFor)
+{
+    const auto expectWhole = [](double high, const RoundRange& expected) {
+        const RoundRange range = roundRange(0, high, Steps::Whole);
+        EXPECT_EQ(range.high, expected.high) << high;
+        EXPECT_EQ(range.steps, expected.steps) << high;
+    };
+    // A tenth is 2.1 to 2.5: not 2.5, so 5.
+    expectWhole(21, {0, 25, 5});
+    expectWhole(25, {0, 25, 5});
+    // A tenth is 1.3: 2; of 250: 25, which is whole.
+    expectWhole(13, {0, 14, 7});
+    expectWhole(250, {0, 250, 10});
+    // No step below 1.
+    expectWhole(6, {0, 6, 6});
+    expectWhole(0.03, {0, 1, 1});
+}
+
 TEST(FitAxes, isANewPlotsScaleWithoutPoints)
 {
     const FittedAxes axes = fitAxes({});
@@ -151,6 +169,15 @@ TEST(FitAxes, hasARoundNumberAtEveryTick)
         expectRoundStep(axes.scale.vmax / axes.thicks.v);
         expectRoundStep(axes.scale.fmax / axes.thicks.f);
         expectRoundStep(-axes.scale.gmax / axes.thicks.g);
+    }
+}
+
+TEST(FitAxes, hasAWholeSpeedAtEveryTick)
+{
+    for (float speed = 1; speed < 60; speed += 0.25F) {
+        const FittedAxes axes = axesOf({{speed, -0.1F, 5}});
+        EXPECT_EQ(std::fmod(axes.scale.vmax, static_cast<float>(axes.thicks.v)), 0) << speed;
+        EXPECT_GE(axes.scale.vmax, speed);
     }
 }
 
