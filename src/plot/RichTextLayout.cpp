@@ -1,5 +1,6 @@
 #include "plot/RichTextLayout.h"
 
+#include "plot/FontName.h"
 #include "plot/SymbolFont.h"
 
 #include <algorithm>
@@ -108,7 +109,7 @@ private:
 
 Font fontOf(const TextFormat& format)
 {
-    return {QString::fromStdString(format.family),
+    return {drawnFace(QString::fromStdString(format.family)),
             format.points,
             format.bold,
             format.italic,

@@ -8,7 +8,7 @@
 
 namespace tarsil {
 
-/// The font of a look, on every surface.
+/// The font of a look, on every surface: its face is `drawnFace` of the family.
 Font fontOf(const TextFormat& format);
 
 /// How texts are measured: a surface's own functions, or those of the screen without a surface.

@@ -1,6 +1,6 @@
 #include "plot/RtfOutput.h"
 
-#include "plot/RtfTables.h"
+#include "plot/FontName.h"
 #include "runtime/CodePages.h"
 #include "runtime/TextCodec.h"
 

@@ -1,5 +1,6 @@
 #include "plot/RtfTables.h"
 
+#include "plot/FontName.h"
 #include "runtime/CodePages.h"
 #include "runtime/TextCodec.h"
 #include "runtime/Utf16.h"
@@ -43,24 +44,24 @@ constexpr std::array charsetPages = {
     CharsetPage {255, 850}, // their Western European successor
 };
 
-/// The name without what no name holds, without blanks around it, and not too long.
+/// What belongs to the table and not to a name in it.
+bool isOfTable(char16_t unit)
+{
+    return unit < u' ' || unit == 0x7F || (unit >= 0x80 && unit < 0xA0) || unit == u';';
+}
+
+/// The name without blanks around it, and not too long; none where it cannot be a font's name.
 std::string cleanName(std::u16string name)
 {
-    std::erase_if(name, [](char16_t unit) { return !isPartOfFontName(unit); });
+    std::erase_if(name, isOfTable);
     name.erase(0, name.find_first_not_of(u' '));
     if (name.size() > longestName)
         name.resize(isHighSurrogate(name[longestName - 1]) ? longestName - 1 : longestName);
     name.erase(name.find_last_not_of(u' ') + 1);
-    return utf8FromUtf16(name);
+    return isFontName(name) ? utf8FromUtf16(name) : std::string();
 }
 
 } // namespace
-
-bool isPartOfFontName(char16_t unit)
-{
-    const bool control = unit < 0x20 || (unit >= 0x7F && unit < 0xA0);
-    return !control && unit != u';';
-}
 
 int codePageOfCharset(int charset, int documentPage)
 {

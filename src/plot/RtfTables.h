@@ -21,15 +21,12 @@ constexpr int symbol = 2; ///< pictures: no code page
 /// plus its byte.
 constexpr char16_t symbolStart = 0xF000;
 
-/// Whether a character may stand in a font's name: no control, and not what ends a name.
-bool isPartOfFontName(char16_t unit);
-
 /// The code page of a font's character set; the document's own for a set that names none.
 int codePageOfCharset(int charset, int documentPage);
 
 struct RtfFont
 {
-    std::string family; ///< UTF-8; empty when the table does not name it
+    std::string family; ///< UTF-8; empty when the table names none, or what is no font's name
     int charset = rtfcharset::standard;
 };
 

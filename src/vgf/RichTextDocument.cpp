@@ -1,5 +1,6 @@
 #include "vgf/RichTextDocument.h"
 
+#include "plot/FontName.h"
 #include "plot/PixelMath.h"
 #include "plot/QtColor.h"
 #include "plot/RichTextEdit.h"
@@ -22,6 +23,14 @@ double pointsOf(const QTextCharFormat& format, double otherwise)
     return pixels > 0 ? pixels * pointsPerPixel : otherwise;
 }
 
+/// The first family, where it is the name of a font: what is pasted can hold anything.
+std::string familyOf(const QTextCharFormat& format, const std::string& otherwise)
+{
+    const QStringList families = format.fontFamilies().toStringList();
+    const bool isNamed = !families.isEmpty() && isFontName(families.first().toStdU16String());
+    return isNamed ? families.first().toStdString() : otherwise;
+}
+
 void appendBlock(QTextCursor& cursor, const QTextCharFormat& format)
 {
     cursor.insertBlock(QTextBlockFormat(), format);
@@ -41,7 +50,9 @@ std::u16string charactersOf(QString text)
 QTextCharFormat charFormatOf(const TextFormat& format)
 {
     QTextCharFormat result;
-    result.setFontFamilies({QString::fromStdString(format.family)});
+    const QString family = QString::fromStdString(format.family);
+    const QString face = drawnFace(family);
+    result.setFontFamilies(face == family ? QStringList(family) : QStringList({family, face}));
     result.setFontPointSize(format.points);
     result.setFontWeight(format.bold ? QFont::Bold : QFont::Normal);
     result.setFontItalic(format.italic);
@@ -55,8 +66,7 @@ QTextCharFormat charFormatOf(const TextFormat& format)
 TextFormat textFormatOf(const QTextCharFormat& format, const TextFormat& otherwise)
 {
     TextFormat result;
-    const QStringList families = format.fontFamilies().toStringList();
-    result.family = families.isEmpty() ? otherwise.family : families.first().toStdString();
+    result.family = familyOf(format, otherwise.family);
     result.points = pointsOf(format, otherwise.points);
     result.bold = format.fontWeight() > QFont::Medium;
     result.italic = format.fontItalic();

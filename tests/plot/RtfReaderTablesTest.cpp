@@ -77,6 +77,14 @@ TEST(RtfReaderTables, takesTheBoxesFontForOneWithoutAName)
     EXPECT_EQ(familyOf(R"({\f0\fnil;})"), "Tahoma");
 }
 
+TEST(RtfReaderTables, takesTheBoxesFontForANameThatIsNone)
+{
+    EXPECT_EQ(familyOf(R"({\f0 R&D Sans;})"), "R&D Sans");
+    for (const char* entry : {R"({\f0 A" onmouseover="x;})", R"({\f0 <b>;})", R"({\f0 a\{b\};})",
+                              R"({\f0 a\u8238?b;})", R"({\f0 a\u-1?;})"})
+        EXPECT_EQ(familyOf(entry), "Tahoma") << entry;
+}
+
 TEST(RtfReaderTables, beginsWithTheDefaultFont)
 {
     const std::string table = R"({\fonttbl{\f2 B;}{\f1 A;}{\f3 C;}})";

@@ -68,3 +68,18 @@ TEST(RichTextDocument, endsALineAtASoftBreakAndDropsPictures)
     EXPECT_EQ(text.runs[0].text, u"a\nbc");
     EXPECT_EQ(text.runs[0].format, look("Arial", 10)) << "what says nothing has the usual look";
 }
+
+TEST(RichTextDocument, keepsTheNameOfAFaceThatIsDrawnAsAnother)
+{
+    const RichText text {{{u"a", look("Arial Greek", 10)}}, look("Arial Greek", 10)};
+    EXPECT_EQ(throughDocument(text), text);
+    EXPECT_EQ(charFormatOf(look("Arial Greek", 10)).fontFamilies().toStringList(),
+              QStringList({QStringLiteral("Arial Greek"), QStringLiteral("Arial")}));
+}
+
+TEST(RichTextDocument, takesNoFamilyThatIsNoNameOfAFont)
+{
+    QTextCharFormat format;
+    format.setFontFamilies({QStringLiteral("A\" onload=\"x")});
+    EXPECT_EQ(textFormatOf(format, look("Verdana", 10)).family, "Verdana");
+}
