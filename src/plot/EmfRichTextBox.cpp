@@ -276,18 +276,9 @@ void emfRichTextBox::fitToText()
     QSize size = layOutRichText(m_content, m_foreColor, measure).size;
     if (isEmpty())
         size = metrics.extent(m_prompt, fontOf(m_content.last));
-    m_overhang = 0;
-    for (const TextRun& run : m_content.runs)
-        m_overhang = std::max(m_overhang, TextMetrics::leaning(fontOf(run.format)));
     const QPoint position(roundToPixel(m_left / unitsPerPixel),
                           roundToPixel(m_top / unitsPerPixel));
     setGeometry({position, size.expandedTo(m_leastSize)});
-}
-
-/// Slanted letters lean out of their box.
-QMargins emfRichTextBox::overhang() const
-{
-    return {m_overhang, m_overhang, m_overhang, m_overhang};
 }
 
 void emfRichTextBox::paint(DeviceContext& context) const

@@ -98,7 +98,6 @@ public:
 
 protected:
     void paint(DeviceContext& context) const override;
-    QMargins overhang() const override;
 
 private:
     void fitToText();
@@ -123,7 +122,6 @@ private:
     double m_left = 0;
     double m_top = 0;
     bool m_wasMoved = false;
-    int m_overhang = 0;
     QSize m_leastSize; ///< pixels
     ChangedProperties m_changed;
 };

@@ -2,7 +2,7 @@
 
 #include "plot/EmfHeader.h"
 #include "plot/EmfText.h"
-#include "plot/GuardBand.h"
+#include "plot/LineCut.h"
 
 #include <algorithm>
 #include <array>
@@ -49,7 +49,7 @@ std::optional<Segment> placedLine(QPoint from, QPoint to, QPoint origin)
 {
     QPointF start = QPointF(from) + QPointF(origin);
     QPointF end = QPointF(to) + QPointF(origin);
-    if (!cutToGuardBand(start, end, farthest))
+    if (!cutLine(start, end, guardBand(farthest)))
         return std::nullopt;
     return Segment {start.toPoint(), end.toPoint()};
 }
@@ -74,13 +74,6 @@ QRect grown(const QRect& box, const Pen& pen)
 {
     const int half = pen.width / 2;
     return box.adjusted(-half, -half, half, half);
-}
-
-/// Letters reach out of the box of a text, slanted ones by up to a tenth of their height.
-QRect grown(const QRect& box, const Font& font)
-{
-    const int leaning = TextMetrics::leaning(font);
-    return box.adjusted(-leaning, -leaning, leaning, leaning);
 }
 
 QRect boxOf(std::span<const QPoint> points)
@@ -180,7 +173,7 @@ void MetafileContext::drawText(QPoint reference, const QString& text, const Font
     m_state.selectFont(font);
     m_state.setTextColor(color);
     m_state.setTextAlignment(alignment);
-    const QRect bounds = grown(box, font);
+    const QRect bounds = TextMetrics::reach(box, font);
     // Players that join texts which follow each other into paragraphs (Inkscape), with line
     // distances of their own, keep apart what another record divides.
     m_stream.write(EmfRecord(EmfType::MoveTo).add(point));

@@ -1,6 +1,7 @@
 #include "plot/PainterContext.h"
 
-#include "plot/GuardBand.h"
+#include "plot/Dashes.h"
+#include "plot/LineCut.h"
 #include "plot/QtColor.h"
 
 #include <QLineF>
@@ -20,29 +21,7 @@ constexpr qsizetype longestPolyline = 4096;
 /// with square ends, half a pixel or two longer, look no different.
 constexpr double narrowLine = 4;
 /// Painters are exact only so far from the surface; a line that goes farther is cut there.
-constexpr double guardBand = 16000;
-
-/// Lengths of dashes and gaps in pixels, measured on the platform's own pens.
-QList<qreal> dashPattern(int style)
-{
-    switch (style) {
-    case penstyle::dash:
-        return {18, 6};
-    case penstyle::dot:
-        return {3, 3};
-    case penstyle::dashDot:
-        return {9, 6, 3, 6};
-    case penstyle::dashDotDot:
-        return {9, 3, 3, 3, 3, 3};
-    default:
-        return {};
-    }
-}
-
-bool isDashed(const Pen& pen)
-{
-    return pen.width <= 1 && pen.style >= penstyle::dash && pen.style <= penstyle::dashDotDot;
-}
+constexpr double farthest = 16000;
 
 QPen painterPen(const Pen& pen)
 {
@@ -53,7 +32,7 @@ QPen painterPen(const Pen& pen)
         result.setJoinStyle(Qt::BevelJoin);
     }
     if (isDashed(pen))
-        result.setDashPattern(dashPattern(pen.style));
+        result.setDashPattern(dashPattern(pen));
     return result;
 }
 
@@ -113,7 +92,7 @@ void PainterContext::drawLine(QPoint from, QPoint to, const Pen& pen)
         return;
     QPointF start = pixelCentre(from + m_origin);
     QPointF end = pixelCentre(to + m_origin);
-    if (!cutToGuardBand(start, end, guardBand))
+    if (!cutLine(start, end, guardBand(farthest)))
         return;
     const bool continues = !isDashed(pen) && !m_points.isEmpty() && pen == m_pen
         && m_points.constLast() == start && m_points.size() < longestPolyline;
@@ -172,8 +151,10 @@ void PainterContext::drawThinLines()
 void PainterContext::drawText(QPoint reference, const QString& text, const Font& font,
                               ColorValue color, TextAlignment alignment)
 {
-    flush();
     const QRect box = m_text.box(reference + m_origin, text, font, alignment);
+    if (m_clip && !m_clip->intersects(TextMetrics::reach(box, font)))
+        return; // files would hold a text that nobody sees
+    flush();
     m_painter.setFont(m_text.qtFont(font));
     m_painter.setPen(qtColor(color));
     m_painter.drawText(box.topLeft() + QPoint(0, m_text.ascent(font)), drawableText(text));
@@ -198,12 +179,14 @@ void PainterContext::fillRectangle(const QRect& rectangle, ColorValue color)
 void PainterContext::setClip(const QRect& rectangle)
 {
     flush();
+    m_clip = rectangle;
     m_painter.setClipRect(rectangle);
 }
 
 void PainterContext::clearClip()
 {
     flush();
+    m_clip.reset();
     m_painter.setClipping(false);
 }
 

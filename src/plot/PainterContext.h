@@ -5,11 +5,13 @@
 
 #include <QPolygonF>
 
+#include <optional>
+
 class QPainter;
 
 namespace tarsil {
 
-/// Draws with a QPainter: on an image, a printer page or an SVG. Lines run through pixel centres.
+/// Draws with a QPainter: on an image or a printer page. Lines run through pixel centres.
 /// Connected solid lines of one pen are drawn as one polyline, which must not outlive this object:
 /// the picture is complete after `flush`. The destructor draws what is left when drawing failed.
 class PainterContext : public DeviceContext
@@ -38,6 +40,7 @@ private:
 
     QPainter& m_painter;
     QPoint m_origin;
+    std::optional<QRect> m_clip; ///< in pixels of the whole surface
     Pen m_pen; ///< of the lines gathered
     QPolygonF m_points; ///< connected lines that have not been drawn yet
     TextMetrics m_text;

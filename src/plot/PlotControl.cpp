@@ -1,5 +1,6 @@
 #include "plot/PlotControl.h"
 
+#include "plot/InkBounds.h"
 #include "plot/PainterContext.h"
 
 #include <QPainter>
@@ -33,9 +34,12 @@ PlotControl::~PlotControl() = default;
 void PlotControl::setGeometry(const QRect& geometry)
 {
     const auto place = [this] { return surfaceRectangle().translated(-m_geometry.topLeft()); };
+    const bool isResized = geometry.size() != m_geometry.size();
     const QRect before = place();
     m_geometry = geometry;
-    if (place() != before)
+    if (isResized)
+        m_reach = QRect(QPoint(0, 0), geometry.size());
+    if (isResized || place() != before)
         m_surface = {};
 }
 
@@ -55,8 +59,32 @@ void PlotControl::setDevicePixelRatio(double ratio)
 /// Where in the container the own surface lies.
 QRect PlotControl::surfaceRectangle() const
 {
-    const QRect whole = m_geometry.marginsAdded(overhang());
+    const QRect whole = m_reach.translated(m_geometry.topLeft());
     return m_container.isNull() ? whole : whole & m_container;
+}
+
+/// The same in physical pixels of the screen. Every edge is rounded by itself, so that clipped
+/// controls that touch each other neither overlap nor leave a gap; others lose no part of a pixel.
+QRect PlotControl::physicalRectangle() const
+{
+    const QRect area = surfaceRectangle();
+    const QRectF exact(QPointF(area.topLeft()) * m_ratio, QSizeF(area.size()) * m_ratio);
+    if (!isClipped())
+        return exact.toAlignedRect();
+    return {QPoint(qRound(exact.left()), qRound(exact.top())),
+            QPoint(qRound(exact.right()) - 1, qRound(exact.bottom()) - 1)};
+}
+
+/// All that drawing can ink, relative to the control's corner.
+QRect PlotControl::inkReach() const
+{
+    InkBounds ink;
+    try {
+        paint(ink);
+    } catch (const std::exception&) {
+        // What comes before the failure is shown; the drawing itself will raise it again.
+    }
+    return ink.bounds();
 }
 
 void PlotControl::Draw(DeviceContext* context)
@@ -89,22 +117,34 @@ void PlotControl::drawInto(DeviceContext& context) const
     setBack(context);
 }
 
+/// A surface for what is going to be drawn, empty unless drawings add up; false where none of it
+/// can be seen, or no memory is left for it.
+bool PlotControl::prepareSurface()
+{
+    const QRect before = physicalRectangle();
+    m_reach = QRect(QPoint(0, 0), m_geometry.size());
+    if (!isClipped())
+        m_reach |= inkReach();
+    const QRect area = physicalRectangle();
+    if (!m_surface.isNull() && area == before) {
+        if (erasesBeforeDrawing())
+            Cls();
+        return true;
+    }
+    m_surface =
+        area.isEmpty() ? QImage() : QImage(area.size(), QImage::Format_ARGB32_Premultiplied);
+    Cls();
+    return !m_surface.isNull();
+}
+
 void PlotControl::drawOnSurface()
 {
-    const QRect area = surfaceRectangle();
-    if (m_geometry.isEmpty() || area.isEmpty())
+    if (m_geometry.isEmpty() || !prepareSurface())
         return;
-    if (m_surface.isNull()) {
-        m_surface = QImage(area.size() * m_ratio, QImage::Format_ARGB32_Premultiplied);
-        if (m_surface.isNull())
-            return; // no memory for it
-        m_surface.setDevicePixelRatio(m_ratio);
-        m_surface.fill(Qt::transparent);
-    } else if (erasesBeforeDrawing()) {
-        Cls();
-    }
     QPainter painter(&m_surface);
-    painter.translate(m_geometry.topLeft() - area.topLeft());
+    painter.translate(-physicalRectangle().topLeft());
+    painter.scale(m_ratio, m_ratio);
+    painter.translate(m_geometry.topLeft());
     PainterContext context(painter);
     paint(context);
     context.flush();

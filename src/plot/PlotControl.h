@@ -3,7 +3,7 @@
 #include "plot/DeviceContext.h"
 
 #include <QImage>
-#include <QMargins>
+#include <QRect>
 
 namespace tarsil {
 
@@ -40,10 +40,12 @@ public:
     /// Empties the own surface.
     void Cls();
 
-    /// The own surface, transparent where nothing is drawn, and where in the container it belongs:
-    /// it can be larger than the control by what hangs over its edges.
+    /// The own surface in physical pixels of the screen, transparent where nothing is drawn, and
+    /// the physical pixel of the container where it belongs: it can be larger than the control by
+    /// what hangs over its edges. All surfaces of a container share one grid of physical pixels,
+    /// so that what is drawn at one position on two of them lies on the same ones.
     const QImage& surface() const { return m_surface; }
-    QPoint surfacePosition() const { return surfaceRectangle().topLeft(); }
+    QPoint surfacePosition() const { return physicalRectangle().topLeft(); }
 
 protected:
     /// Draws relative to the control's upper left corner.
@@ -52,18 +54,19 @@ protected:
     /// Whether drawing ends at the control's edges.
     virtual bool isClipped() const { return false; }
 
-    /// How far drawing may hang over the edges of a control that is not clipped.
-    virtual QMargins overhang() const { return {}; }
-
     /// Whether drawing on the own surface begins with an empty one.
     virtual bool erasesBeforeDrawing() const { return true; }
 
 private:
     QRect surfaceRectangle() const;
+    QRect physicalRectangle() const;
+    QRect inkReach() const;
+    bool prepareSurface();
     void drawInto(DeviceContext& context) const;
     void drawOnSurface();
 
     QRect m_geometry;
+    QRect m_reach; ///< of the drawing on the own surface, relative to the control's corner
     QRect m_container;
     double m_ratio = 1;
     QImage m_surface;

@@ -71,11 +71,6 @@ QString drawableText(const QString& text)
     return result;
 }
 
-int TextMetrics::leaning(const Font& font)
-{
-    return 1 + pixelSize(font) / 8;
-}
-
 int pixelSize(const Font& font)
 {
     const double pixels = pixelsOfPoints(font.points);
@@ -130,6 +125,12 @@ QRect TextMetrics::box(QPoint reference, const QString& text, const Font& font,
                        TextAlignment alignment) const
 {
     return textRectangle(reference, extent(text, font), ascent(font), alignment);
+}
+
+QRect TextMetrics::reach(const QRect& box, const Font& font)
+{
+    const int leaning = 1 + pixelSize(font) / 8;
+    return box.adjusted(-leaning, -leaning, leaning, leaning);
 }
 
 const QFontMetrics& TextMetrics::metricsOf(const Font& font) const

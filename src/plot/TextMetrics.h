@@ -41,12 +41,13 @@ public:
     /// that join (Arabic ones do) are together narrower than each by itself: all of them give way.
     std::vector<int> advances(const QString& text, const Font& font) const;
 
-    /// How far letters, slanted ones above all, can reach out of the rectangle of their text.
-    static int leaning(const Font& font);
-
     /// The rectangle of a text whose reference point stands at `reference`.
     QRect box(QPoint reference, const QString& text, const Font& font,
               TextAlignment alignment) const;
+
+    /// What the letters of a text in this rectangle can ink: they reach out of it, slanted ones
+    /// above all.
+    static QRect reach(const QRect& box, const Font& font);
 
 private:
     const QFontMetrics& metricsOf(const Font& font) const;

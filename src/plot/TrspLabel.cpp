@@ -38,12 +38,6 @@ void trspLabel::paint(DeviceContext& context) const
     context.drawText({0, 0}, m_caption, Font(), 0, TextAlignment::TopLeft);
 }
 
-QMargins trspLabel::overhang() const
-{
-    const int leaning = TextMetrics::leaning(Font());
-    return {leaning, leaning, leaning, leaning};
-}
-
 void trspLabel::ReadProperties(const PropertyBag& bag)
 {
     m_caption = readProperty(bag, QStringLiteral("Caption"), m_name);

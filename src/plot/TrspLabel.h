@@ -35,7 +35,6 @@ public:
 
 protected:
     void paint(DeviceContext& context) const override;
-    QMargins overhang() const override;
 
 private:
     void fitToText();

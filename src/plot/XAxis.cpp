@@ -65,11 +65,6 @@ void xAxis::drawMark(DeviceContext& context, const RefThick& mark) const
     context.drawText(top, mark.Caption, Font(), axis::textColor, TextAlignment::BottomCenter);
 }
 
-QMargins xAxis::overhang() const
-{
-    return {80, 10, 160, 10}; // labels and captions centred on the ends
-}
-
 void xAxis::AddRef(float speed, const QString& caption)
 {
     m_marks.push_back({speed, caption});

@@ -37,7 +37,6 @@ public:
 protected:
     /// Error 11 for a count of 0, and for equal bounds when there are marks.
     void paint(DeviceContext& context) const override;
-    QMargins overhang() const override;
 
 private:
     void drawTicks(DeviceContext& context) const;

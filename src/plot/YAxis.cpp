@@ -46,11 +46,6 @@ void yAxis::paint(DeviceContext& context) const
     }
 }
 
-QMargins yAxis::overhang() const
-{
-    return {40, 10, 0, 10}; // long labels, and labels near the ends
-}
-
 void yAxis::setDirection(bool minimumAtTop)
 {
     m_direction = minimumAtTop;

@@ -32,7 +32,6 @@ public:
 protected:
     /// Error 11 for a count of 0; error 5 for a pattern that is none.
     void paint(DeviceContext& context) const override;
-    QMargins overhang() const override;
 
 private:
     bool m_direction = false;

@@ -363,7 +363,7 @@ void EvmPlot::compose()
     const QSize pixels = m_size * m_ratio;
     if (m_image.size() != pixels)
         m_image = QImage(pixels, QImage::Format_RGB32);
-    m_image.setDevicePixelRatio(m_ratio);
+    m_image.setDevicePixelRatio(1); // the parts' surfaces count physical pixels
     m_image.fill(Qt::white);
     m_isComposed = true;
     if (m_image.isNull())
@@ -373,6 +373,8 @@ void EvmPlot::compose()
         if (!part->surface().isNull())
             painter.drawImage(part->surfacePosition(), part->surface());
     }
+    painter.end();
+    m_image.setDevicePixelRatio(m_ratio);
 }
 
 void EvmPlot::Draw(DeviceContext& context)

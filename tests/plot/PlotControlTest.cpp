@@ -11,8 +11,8 @@ using test::RecordingContext;
 
 namespace {
 
-/// A control with a black pixel at its corner, a wish for 3 pixels on its left and 2 above, and
-/// perhaps a failure.
+/// A control with a black pixel at its corner, a white one 3 pixels to its left and 2 above,
+/// and perhaps a failure.
 class Dot : public PlotControl
 {
 public:
@@ -23,11 +23,11 @@ public:
 protected:
     void paint(DeviceContext& context) const override
     {
+        context.fillRectangle({-3, -2, 1, 1}, rgb(255, 255, 255));
         context.fillRectangle({place, QSize(1, 1)}, 0);
         if (fails)
             throw std::runtime_error("no more");
     }
-    QMargins overhang() const override { return {3, 2, 0, 0}; }
     bool erasesBeforeDrawing() const override { return erases; }
 };
 
@@ -108,9 +108,9 @@ TEST(PlotControl, coversEveryPixelOfItsSurfaceOnAScreenOfAnyRatio)
     dot.setGeometry({0, 0, 21, 11});
     dot.setDevicePixelRatio(1.5);
     dot.Draw(nullptr);
-    // (21 + 3) * 1.5 = 36 and (11 + 2) * 1.5 = 19.5
-    EXPECT_EQ(dot.surface().width(), 36);
-    EXPECT_GE(dot.surface().height(), 19);
+    // Columns -3 * 1.5 = -4.5 to 21 * 1.5 = 31.5, rows -2 * 1.5 = -3 to 11 * 1.5 = 16.5.
+    EXPECT_EQ(dot.surfacePosition(), QPoint(-5, -3));
+    EXPECT_EQ(dot.surface().size(), QSize(37, 20));
 }
 
 TEST(PlotControl, setsTheOriginBackAfterAFailureInAnotherContext)

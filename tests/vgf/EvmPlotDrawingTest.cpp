@@ -174,6 +174,45 @@ TEST_F(EvmPlotDrawing, hasAllPixelsOfAFinerScreen)
     EXPECT_EQ(pixel(400, 202), white);
 }
 
+TEST_F(EvmPlotDrawing, putsCurveAndTickOfOneValueOnTheSamePixelsOfAScreenOfAnyRatio)
+{
+    // Level curves at the values of ticks, 10 to 40 Hz and -0.05 to -0.2; of each, the rows of ink
+    // in a column of the tick and in one of the curve.
+    SeriesList& series = plot.SeriesCollection();
+    series.clear();
+    for (int k = 1; k < 5; ++k) {
+        const float part = static_cast<float>(k);
+        plot.addSeries(addMode(evolution, k + 1,
+                               {{100, -0.05F * part, 10 * part}, {600, -0.05F * part, 10 * part}}))
+            .ColorIndex = 0;
+    }
+    const auto inkedRows = [](const QImage& image, int column, int from, int to) {
+        std::vector<std::pair<int, QRgb>> rows;
+        for (int row = from; row < to; ++row) {
+            if (image.pixel(column, row) != qRgb(255, 255, 255))
+                rows.emplace_back(row, image.pixel(column, row));
+        }
+        return rows;
+    };
+    for (const double ratio : {1.0, 1.25, 1.5, 1.75, 2.0}) {
+        for (const QSize size : {QSize(801, 601), QSize(763, 547), QSize(998, 733)}) {
+            plot.resize(size, ratio);
+            plot.plot();
+            const QImage& image = plot.Image();
+            const auto pixels = [ratio](int length) { return static_cast<int>(length * ratio); };
+            const int tick = pixels(plot.vfPlot().Left() + 6);
+            const int curve = pixels(plot.vfPlot().Left() + plot.vfPlot().Width() / 2);
+            const int top = pixels(plot.vfPlot().Top() + 10);
+            const int bottom = pixels(plot.vgPlot().Top() + plot.vgPlot().Height() - 10);
+            const int middle = pixels(plot.vfPlot().Top() + plot.vfPlot().Height());
+            for (const auto& [from, to] :
+                 {std::pair(top, middle - pixels(20)), std::pair(middle + pixels(20), bottom)})
+                EXPECT_EQ(inkedRows(image, tick, from, to), inkedRows(image, curve, from, to))
+                    << ratio << " " << size.width();
+        }
+    }
+}
+
 TEST_F(EvmPlotDrawing, raisesTheErrorOfAPartOnceAndShowsTheOthers)
 {
     plot.plot();

@@ -140,6 +140,21 @@ TEST_F(EvmPlotPicture, showsSlantedLettersAsTheScreenDoes)
     EXPECT_EQ(pictureImage(plot, 1), plot.Image());
 }
 
+TEST_F(EvmPlotPicture, showsTheSameOnScreenAndInFilesAtEverySize)
+{
+    // Wide plots have room beside the axes for long captions and labels.
+    plot.AddRef(690, QStringLiteral("a caption that reaches far beyond the right end of the axis"));
+    plot.AddRef(5, QStringLiteral("a caption that reaches far beyond the left end of the axis"));
+    plot.setVLabel(QStringLiteral("V(keas) with a long title"));
+    plot.SetScale(0, 700, 0, 9e9F, 0, -9e9F);
+    for (const QSize size :
+         {QSize(700, 500), QSize(1067, 700), QSize(1500, 900), QSize(2600, 1400)}) {
+        plot.resize(size);
+        plot.plot();
+        EXPECT_EQ(pictureImage(plot, 1), plot.Image()) << size.width();
+    }
+}
+
 TEST_F(EvmPlotPicture, isWrittenUnderTheVeryNameGiven)
 {
     const test::TemporaryFolder folder;
