@@ -1,7 +1,7 @@
 #include "vgf/PictureWriter.h"
 
-#include "plot/ClippingContext.h"
 #include "plot/PainterContext.h"
+#include "plot/SvgContext.h"
 #include "runtime/RunTimeError.h"
 #include "vgf/EvmPlot.h"
 
@@ -10,7 +10,6 @@
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSvgGenerator>
 
 namespace tarsil {
 
@@ -21,49 +20,64 @@ constexpr double pointsPerInch = 72;
 constexpr double inchesPerMetre = 1 / 0.0254;
 constexpr double clipboardScale = 2; ///< a bitmap that still looks sharp in a printed report
 
-enum class Clips { Yes, No };
-
 [[noreturn]] void fail(const char* details)
 {
     throw RunTimeError(ErrorNumber::InvalidProcedureCall, "PictureWriter", details);
 }
 
-/// Draws the plot on a device that keeps to a clip, or on one that does not.
-void draw(EvmPlot& plot, QPaintDevice& device, Clips clips)
+const QString title = QStringLiteral("V-g-f plot");
+
+void draw(EvmPlot& plot, QPaintDevice& device)
 {
     QPainter painter;
     if (!painter.begin(&device))
         fail("the picture cannot be drawn");
     PainterContext context(painter);
-    ClippingContext clipping(context);
-    if (clips == Clips::Yes)
-        plot.Draw(context);
-    else
-        plot.Draw(clipping);
+    plot.Draw(context);
     context.flush();
     painter.end();
 }
 
 void writeSvg(EvmPlot& plot, QBuffer& buffer)
 {
-    QSvgGenerator generator;
-    generator.setOutputDevice(&buffer);
-    generator.setResolution(pixelsPerInch);
-    generator.setSize(plot.size());
-    generator.setViewBox(QRect(QPoint(0, 0), plot.size()));
-    generator.setTitle(QStringLiteral("V-g-f plot"));
-    draw(plot, generator, Clips::No);
+    SvgContext context(buffer, plot.size(), title);
+    plot.Draw(context);
+}
+
+QSizeF pagePoints(const EvmPlot& plot)
+{
+    return QSizeF(plot.size()) * pointsPerInch / pixelsPerInch;
 }
 
 void writePdf(EvmPlot& plot, QBuffer& buffer)
 {
     QPdfWriter writer(&buffer);
     writer.setResolution(pixelsPerInch);
-    writer.setTitle(QStringLiteral("V-g-f plot"));
-    writer.setPageSize(QPageSize(QSizeF(plot.size()) * pointsPerInch / pixelsPerInch,
-                                 QPageSize::Point, QString(), QPageSize::ExactMatch));
+    writer.setTitle(title);
+    writer.setPageSize(
+        QPageSize(pagePoints(plot), QPageSize::Point, QString(), QPageSize::ExactMatch));
     writer.setPageMargins(QMarginsF());
-    draw(plot, writer, Clips::Yes);
+    draw(plot, writer);
+}
+
+/// The toolkit rounds a page to whole points and lets the drawing begin at its upper left corner.
+/// Gives it the size it was asked for, in the place of the rounded one, so that nothing else in
+/// the file moves.
+QByteArray withExactPage(QByteArray pdf, QSizeF points)
+{
+    const QByteArray key = "/MediaBox [";
+    const qsizetype start = pdf.indexOf(key) + key.size();
+    const qsizetype length = pdf.indexOf(']', start) - start;
+    const QList<QByteArray> corners = pdf.mid(start, length).simplified().split(' ');
+    if (start < key.size() || corners.size() != 4)
+        fail("a page without a size");
+    const double top = corners[3].toDouble();
+    const auto text = [](double number) { return QByteArray::number(number, 'g', 9); };
+    const QByteArray box =
+        "0 " + text(top - points.height()) + ' ' + text(points.width()) + ' ' + text(top);
+    if (box.size() > length)
+        fail("a page size that does not fit into its place");
+    return pdf.replace(start, length, box.leftJustified(length));
 }
 
 } // namespace
@@ -78,7 +92,7 @@ QImage pictureImage(EvmPlot& plot, double scale)
     image.setDotsPerMeterY(dotsPerMetre);
     image.setDevicePixelRatio(scale);
     image.fill(Qt::white);
-    draw(plot, image, Clips::Yes);
+    draw(plot, image);
     image.setDevicePixelRatio(1);
     return image;
 }
@@ -93,7 +107,7 @@ QByteArray pictureBytes(EvmPlot& plot, PictureFormat format)
         break;
     case PictureFormat::Pdf:
         writePdf(plot, buffer);
-        break;
+        return withExactPage(buffer.data(), pagePoints(plot));
     case PictureFormat::Emf:
         return plot.emfPicture();
     case PictureFormat::Png:

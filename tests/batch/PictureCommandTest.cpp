@@ -103,7 +103,19 @@ TEST_F(PictureCommand, drawsAPdf)
     EXPECT_TRUE(bytes.starts_with("%PDF-"));
     EXPECT_TRUE(bytes.ends_with("%%EOF\n"));
     // 960 x 480 pixels in points.
-    EXPECT_NE(bytes.find("/MediaBox [0 0 720.000000 360.000000]"), std::string::npos);
+    EXPECT_THAT(bytes, HasSubstr("/MediaBox [0 0 720 360 "));
+}
+
+TEST_F(PictureCommand, givesAPdfPageTheExactSize)
+{
+    // 801 x 601 pixels are 600.75 x 450.75 points. The drawing begins at the upper edge, which the
+    // toolkit has put at 451.
+    const std::string bytes = fileBytes(draw("out.pdf", {"--size", "801x601", writeEv2()}));
+    EXPECT_THAT(bytes, HasSubstr("/MediaBox [0 0.25 600.75 451 "));
+    // 803 x 603 are 602.25 x 452.25, which is more than the whole points 602 x 452.
+    EXPECT_THAT(fileBytes(draw("more.pdf", {"--size", "803x603", writeEv2()})),
+                HasSubstr("/MediaBox [0 -0.25 602.25 452 "));
+    EXPECT_THAT(bytes, ::testing::EndsWith("%%EOF\n"));
 }
 
 TEST_F(PictureCommand, takesScaleAndTicks)

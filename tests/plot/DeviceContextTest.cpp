@@ -1,6 +1,7 @@
 #include "plot/DeviceContextContract.h"
 #include "plot/MetafileSurface.h"
 #include "plot/Picture.h"
+#include "plot/SvgSurface.h"
 #include "support/RecordingContext.h"
 
 namespace tarsil::test {
@@ -22,6 +23,7 @@ private:
 INSTANTIATE_TYPED_TEST_SUITE_P(Metafile, DeviceContextContract, MetafileSurface);
 INSTANTIATE_TYPED_TEST_SUITE_P(Painter, DeviceContextContract, Picture);
 INSTANTIATE_TYPED_TEST_SUITE_P(Recording, DeviceContextContract, Record);
+INSTANTIATE_TYPED_TEST_SUITE_P(Svg, DeviceContextContract, SvgSurface);
 
 TEST(RecordingContext, writesDownEachCall)
 {

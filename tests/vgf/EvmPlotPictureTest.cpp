@@ -4,6 +4,7 @@
 #include "plot/EmfListing.h"
 #include "plot/ErrorNumberOf.h"
 #include "plot/MetafileSurface.h"
+#include "plot/SvgSurface.h"
 #include "support/Ink.h"
 #include "support/TestFiles.h"
 #include "vgf/EvmPlot.h"
@@ -153,6 +154,76 @@ TEST_F(EvmPlotPicture, showsTheSameOnScreenAndInFilesAtEverySize)
         plot.plot();
         EXPECT_EQ(pictureImage(plot, 1), plot.Image()) << size.width();
     }
+}
+
+TEST_F(EvmPlotPicture, drawsFacesOfOneScriptAsTheFaceItself)
+{
+    const auto shown = [this](const char* face) {
+        plot.Header().setTextRTF(std::string("{\\rtf1{\\fonttbl{\\f0 ") + face
+                                 + ";}}\\f0\\fs40 Wing\\par}");
+        plot.refresh();
+        return plot.Image().copy();
+    };
+    const QImage arial = shown("Arial");
+    EXPECT_EQ(shown("Arial Greek"), arial);
+    EXPECT_EQ(shown("Arial CE"), arial);
+    EXPECT_NE(plot.Header().TextRTF().find("Arial CE"), std::string::npos) << "it is kept";
+    EXPECT_TRUE(pictureBytes(plot, PictureFormat::Svg).contains("font-family=\"Arial\""));
+    EXPECT_FALSE(pictureBytes(plot, PictureFormat::Svg).contains("Arial CE"));
+}
+
+TEST_F(EvmPlotPicture, isAWellFormedSvgWhateverTheTextsHold)
+{
+    const QStringList hostile = {
+        QStringLiteral("R&D <b>Sans</b>"), QStringLiteral("\" onmouseover=\"alert(1)\" x=\""),
+        QStringLiteral("</text></g></svg><script>alert(1)</script>"),
+        QStringLiteral("]]>&#0;&unknown;<!-- <![CDATA["),
+        QString::fromUtf16(u"\x01\x1F\xFFFE\xFFFF\xD800z\xDC00\u2028\u202E")};
+    for (const QString& text : hostile) {
+        for (std::size_t i = 0; i < plot.boxCount(); ++i)
+            plot.setBoxText(i, text);
+        plot.setVLabel(text);
+        plot.setGLabel(text);
+        plot.setFLabel(text);
+        plot.AddRef(100, text);
+        plot.AddDampLine(-0.1F, text);
+        for (Series& series : plot.SeriesCollection()) {
+            series.MarkerStyle = markerstyle::tag;
+            series.MarkerSpacing = 1;
+            series.MarkerTag = text;
+        }
+        const QByteArray svg = pictureBytes(plot, PictureFormat::Svg);
+        EXPECT_NO_THROW(test::playSvg(svg)) << text.toStdString();
+        EXPECT_FALSE(svg.contains("<script"));
+    }
+}
+
+TEST_F(EvmPlotPicture, takesNothingButNamesOfFontsIntoAnSvg)
+{
+    const auto svgWith = [this](const char* face) {
+        plot.Header().setTextRTF(std::string("{\\rtf1{\\fonttbl{\\f0 ") + face
+                                 + ";}}\\f0 header\\par}");
+        plot.refresh();
+        const QByteArray svg = pictureBytes(plot, PictureFormat::Svg);
+        EXPECT_NO_THROW(test::playSvg(svg)) << face;
+        return svg;
+    };
+    EXPECT_TRUE(svgWith("R&D Sans").contains("font-family=\"'R&amp;D Sans'\""));
+    EXPECT_FALSE(svgWith("A\" onmouseover=\"alert(1)").contains("onmouseover"));
+    EXPECT_FALSE(svgWith("A\"><script>alert(1)</script>").contains("script"));
+    EXPECT_EQ(plot.Header().TextRTF().find("script"), std::string::npos);
+}
+
+TEST_F(EvmPlotPicture, keepsThickPensWithinTheCanvasInAnSvg)
+{
+    plot.SetScale(0, 700, 0, 20, 0, -0.1F); // both curves leave it
+    for (Series& series : plot.SeriesCollection())
+        series.LineWidth = 40;
+    plot.plot();
+    const QImage svg = test::playSvg(pictureBytes(plot, PictureFormat::Svg));
+    test::expectSameInk(svg, plot.Image(), 1, 1.0);
+    // Left of the canvases, above the frequency axis, there is nothing but its labels.
+    EXPECT_EQ(svg.copy(0, 60, 20, 500), plot.Image().copy(0, 60, 20, 500));
 }
 
 TEST_F(EvmPlotPicture, isWrittenUnderTheVeryNameGiven)
