@@ -41,6 +41,23 @@ QToolButton* togglePanel(const QString& caption, const QString& name, QWidget* p
     return panel;
 }
 
+QLabel* makeNote(const QString& name, const QString& description, QWidget* parent)
+{
+    auto* const note = new ShortenedLabel(parent);
+    note->setObjectName(name);
+    note->setAccessibleDescription(description);
+    note->setTextFormat(Qt::PlainText);
+    note->hide();
+    return note;
+}
+
+void show(QLabel* note, const QString& text)
+{
+    note->setText(text);
+    note->setToolTip(text.toHtmlEscaped()); // as it stands
+    note->setVisible(!text.isEmpty()); // an empty one is nothing to read aloud
+}
+
 /// On or off: the caption is black or grey, and a screen reader hears it as checked or not.
 void showState(QToolButton* panel, bool on)
 {
@@ -56,7 +73,9 @@ void showState(QToolButton* panel, bool on)
 
 StatusPanels::StatusPanels(QWidget* parent)
     : QStatusBar(parent), m_text(new QLabel(QStringLiteral("Ready"), this)),
-      m_note(new ShortenedLabel(this)), m_progress(new QProgressBar(this)),
+      m_note(makeNote(QStringLiteral("stBar_Note"), tr("Note"), this)),
+      m_plotNote(makeNote(QStringLiteral("stBar_PlotNote"), tr("Note on the plot"), this)),
+      m_progress(new QProgressBar(this)),
       m_autoPlot(togglePanel(QStringLiteral("AutoPlot"), QStringLiteral("stBar_AutoPlot"), this)),
       m_editMode(togglePanel(QStringLiteral("Edit Mode"), QStringLiteral("stBar_EditMode"), this))
 {
@@ -64,14 +83,11 @@ StatusPanels::StatusPanels(QWidget* parent)
     m_text->setObjectName(QStringLiteral("stBar_Status"));
     m_text->setTextFormat(Qt::PlainText); // file names are no mark-up
     m_text->setAccessibleDescription(tr("Status"));
-    m_note->setObjectName(QStringLiteral("stBar_Note"));
-    m_note->setAccessibleDescription(tr("Note"));
-    m_note->setTextFormat(Qt::PlainText);
-    m_note->hide();
     m_progress->setAccessibleName(tr("Progress"));
     m_progress->setMaximumWidth(200);
     m_progress->hide();
     addWidget(m_text);
+    addWidget(m_plotNote, 1);
     addWidget(m_note, 1);
     addWidget(m_progress);
     addPermanentWidget(m_autoPlot);
@@ -102,9 +118,12 @@ QString StatusPanels::text() const
 
 void StatusPanels::setNote(const QString& text)
 {
-    m_note->setText(text);
-    m_note->setToolTip(text.toHtmlEscaped()); // as it stands
-    m_note->setVisible(!text.isEmpty()); // an empty one is nothing to read aloud
+    show(m_note, text);
+}
+
+void StatusPanels::setPlotNote(const QString& text)
+{
+    show(m_plotNote, text);
 }
 
 void StatusPanels::setAutoPlot(bool on)

@@ -10,8 +10,9 @@ namespace tarsil {
 
 /// The status bar `stBar` with its three panels: the status text, "AutoPlot", and "Edit Mode". The
 /// last two are shown enabled when they are on. A click on "Edit Mode" is announced; on the others
-/// it does nothing. Beside the status text there is room for a note, which is shortened in the
-/// middle where it is too long, and whole in its tool tip.
+/// it does nothing. Beside the status text there is room for two notes, which are shortened in the
+/// middle where they are too long, and whole in their tool tips: what the last command left to say,
+/// and what the user has to know about the plot that is shown.
 class StatusPanels : public QStatusBar
 {
     Q_OBJECT
@@ -22,8 +23,11 @@ public:
     void setText(const QString& text);
     QString text() const;
 
-    /// An empty text ends the note.
+    // An empty text ends a note.
+
     void setNote(const QString& text);
+    void setPlotNote(const QString& text);
+
     void setAutoPlot(bool on);
     void setEditMode(bool on);
 
@@ -40,6 +44,7 @@ protected:
 private:
     QLabel* m_text;
     QLabel* m_note;
+    QLabel* m_plotNote;
     QProgressBar* m_progress;
     QToolButton* m_autoPlot;
     QToolButton* m_editMode;

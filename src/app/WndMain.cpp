@@ -89,8 +89,9 @@ void wndMain::makeChildWindows()
                                     MessageIcon::Critical);
     });
     connect(m_evolPlot, &wndEvolPlot::activePlotChanged, this,
-            [this](EvmPlot* /*before*/, EvmPlot* now) {
+            [this](EvmPlot* before, EvmPlot* now) {
                 m_statusPanels->setEditMode(now != nullptr && now->EditMode());
+                followMarks(before, now);
             });
     connect(m_evolPlot, &wndEvolPlot::plotMenuRequested, this,
             [this](QPoint position) { m_plotMenu->popup(position); });
@@ -109,6 +110,21 @@ void wndMain::connectExplorer()
     connect(m_explorer, &wndEvolExplorer::addWanted, this, runs(&wndMain::AddMenu_Click));
     connect(m_explorer, &wndEvolExplorer::menuRequested, this,
             [this](QPoint position) { m_explorerMenu->popup(position); });
+}
+
+/// The status bar says where reference speeds do not stand at their speeds. A plot announces a
+/// change before it is made, so the text follows when the change is over.
+void wndMain::followMarks(const EvmPlot* before, const EvmPlot* now)
+{
+    const auto showNote = [this] {
+        const EvmPlot* const plot = m_evolPlot->ActivePlot();
+        m_statusPanels->setPlotNote(plot == nullptr ? QString() : plot->shiftedMarksNote());
+    };
+    if (before != nullptr)
+        disconnect(before, &EvmPlot::changed, this, nullptr);
+    if (now != nullptr)
+        connect(now, &EvmPlot::changed, this, showNote, Qt::QueuedConnection);
+    showNote();
 }
 
 void wndMain::MDIForm_Load(const std::vector<std::string>& arguments)

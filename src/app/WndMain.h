@@ -91,6 +91,7 @@ private:
 
     void makeChildWindows();
     void connectExplorer();
+    void followMarks(const class EvmPlot* before, const class EvmPlot* now);
     void makeMenuBar();
     void makePopups();
     void makeHelpKey();

@@ -117,6 +117,8 @@ void wndMain::showHelp()
         "Grid of Data Control: + and - in the column \"Mode\" raise and lower modes, Alt+Up and "
         "Alt+Down move rows, Del removes them.\n"
         "Right button on a plot: its scales, reference speeds, damping lines and flutter speeds.\n"
+        "Reference speeds are measured from the left end of the speed axis: they stand at their "
+        "speeds where it begins at 0. Elsewhere the status bar says how far they are off.\n"
         "Rest the pointer on a plot to read the nearest curve.",
         "Tarsil", MessageIcon::None);
 }

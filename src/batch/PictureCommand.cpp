@@ -12,12 +12,14 @@ namespace tarsil::batch {
 
 namespace {
 
-void finish(EvmPlot& plot, const PictureOptions& options, const std::string& output)
+void finish(EvmPlot& plot, const PictureOptions& options, const std::string& output, BatchRun& run)
 {
     setScale(plot, options);
     setTexts(plot, options);
     plot.resize(options.size);
     writePicture(plot, output);
+    if (const QString note = plot.shiftedMarksNote(); !note.isEmpty())
+        run.complain(output + ": " + note.toStdString());
 }
 
 /// Complains of the files that were not drawn, which are all but the first ones; whether there are
@@ -46,7 +48,7 @@ bool drawEvolutions(const std::vector<std::string>& paths, const PictureOptions&
     EvmPlot plot;
     const std::size_t drawn = plotCurves(plot, files, options.markers);
     const bool isWhole = tellLeftOut(paths, drawn, run);
-    finish(plot, options, options.output);
+    finish(plot, options, options.output, run);
     return isWhole;
 }
 
@@ -64,13 +66,13 @@ std::vector<std::string> numberedOutputs(const std::string& output, std::size_t 
 
 /// One picture of a plot of a workspace, as the window shows it.
 void drawPlot(const PlotRecord& record, const std::vector<EVM*>& evolutions,
-              const PictureOptions& options, const std::string& output)
+              const PictureOptions& options, const std::string& output, BatchRun& run)
 {
     try {
         EvmPlot plot;
         plot.setCaption(QString::fromStdString(record.caption));
         applyRecord(record, evolutions, plot);
-        finish(plot, options, output);
+        finish(plot, options, output, run);
     } catch (const RunTimeError& error) {
         throw error.at("plot \"" + record.caption + "\"");
     }
@@ -88,7 +90,7 @@ bool drawWorkspace(const std::string& path, const PictureOptions& options, Batch
             refuseOutputOverInput(output, file);
     }
     for (std::size_t i = 0; i < outputs.size(); ++i)
-        drawPlot(input.plots[i], input.evolutions, options, outputs[i]);
+        drawPlot(input.plots[i], input.evolutions, options, outputs[i], run);
     return input.isWhole;
 }
 

@@ -123,7 +123,10 @@ constinit const std::array<OptionDescription, 14> pictureOptionDescriptions = {
      {"--legend", "TEXT", "text of the legend"},
      {"--subtitle", "TEXT",
       "text of the flutter mechanism; without it the names of\nup to six files"},
-     {"--reference-speed", "V=CAPTION", "mark at a speed; may be given again", false, true},
+     {"--reference-speed", "V=CAPTION",
+      "mark at a speed; may be given again. A mark is\nmeasured from the left end of the axis: "
+      "where the axis\ndoes not begin at 0, it does not stand at its speed,\nwhich a message says",
+      false, true},
      {"--damping-line", "G=CAPTION", "horizontal line at a damping; may be given again", false,
       true},
      {"--marker", "MARKER",

@@ -251,6 +251,18 @@ void EvmPlot::RemoveRef()
     m_velAxis.RemoveRef();
 }
 
+QString EvmPlot::shiftedMarksNote() const
+{
+    const double begin = m_velAxis.Min();
+    if (m_velAxis.marks().empty() || begin == 0)
+        return {};
+    const QString side = begin > 0 ? QStringLiteral("right") : QStringLiteral("left");
+    const auto text = [](double speed) { return QString::fromStdString(shortestText(speed)); };
+    return QStringLiteral("Reference speeds stand ") + text(std::fabs(begin))
+        + QStringLiteral(" knots too far ") + side + QStringLiteral(": the speed axis begins at ")
+        + text(begin);
+}
+
 void EvmPlot::AddDampLine(float g, const QString& caption)
 {
     const Scale scale = GetScale();

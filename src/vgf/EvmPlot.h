@@ -116,6 +116,11 @@ public:
     void AddRef(float speed, const QString& caption);
     void RemoveRef();
 
+    /// What has to be said of the reference speeds: a mark is measured from the left end of the
+    /// speed axis, so that it does not stand at its speed on an axis that does not begin at 0.
+    /// Empty while all marks stand at their speeds.
+    QString shiftedMarksNote() const;
+
     /// A horizontal line at damping g across the present speed range. Both draw the plot again.
     void AddDampLine(float g, const QString& caption);
     void RemoveDampLine();

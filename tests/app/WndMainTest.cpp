@@ -3,6 +3,7 @@
 #include "app/WndMainFixture.h"
 
 #include <QDialog>
+#include <QLabel>
 #include <QMenuBar>
 
 #include <gmock/gmock.h>
@@ -221,6 +222,30 @@ TEST_F(WndMainTest, togglesTheEditModeByItsPanelOnly)
     EXPECT_TRUE(plot().EditMode());
     Q_EMIT window.stBar().panelClicked(3);
     EXPECT_FALSE(plot().EditMode());
+}
+
+TEST_F(WndMainTest, saysInTheStatusBarWhereReferenceSpeedsStandElsewhere)
+{
+    load();
+    const QString note = QStringLiteral(
+        "Reference speeds stand 100 knots too far right: the speed axis begins at 100");
+    const auto shown = [this] {
+        QApplication::processEvents();
+        return window.findChild<QLabel*>(QStringLiteral("stBar_PlotNote"))->text();
+    };
+    plot().SetScale(100, 700, 0, 50, 0, -0.25F);
+    EXPECT_EQ(shown(), QString());
+    plot().AddRef(352.1F, QStringLiteral("Vd"));
+    EXPECT_EQ(shown(), note);
+    window.stBar().setNote(QStringLiteral("The picture is in ..."));
+    EXPECT_EQ(shown(), note);
+    EvmPlot& first = plot();
+    window.evolPlot().ActivatePlot(&window.evolPlot().AddPlot());
+    EXPECT_EQ(shown(), QString()) << "the other plot has none";
+    window.evolPlot().ActivatePlot(&first);
+    EXPECT_EQ(shown(), note);
+    plot().SetScale(0, 700, 0, 50, 0, -0.25F);
+    EXPECT_EQ(shown(), QString());
 }
 
 TEST_F(WndMainTest, leavesNoDialogWhenItQuits)

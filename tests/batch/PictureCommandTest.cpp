@@ -153,6 +153,21 @@ TEST_F(PictureCommand, fitsTheAxesWithoutAScale)
     EXPECT_THAT(texts, ::testing::Not(HasSubstr("-0.60|")));
 }
 
+TEST_F(PictureCommand, saysThatReferenceSpeedsStandElsewhere)
+{
+    const auto messages = [this](const char* scale) {
+        const auto result = runBatch({"picture", "--scale", scale, "--reference-speed", "350=VD",
+                                      "--output", file("out.svg"), writeEv2()});
+        EXPECT_EQ(result.status, 0);
+        return result.err;
+    };
+    EXPECT_EQ(messages("100,500,0,20,0,-0.5"),
+              "tarsil-batch: " + file("out.svg")
+                  + ": Reference speeds stand 100 knots too far right: the speed axis begins at "
+                    "100\n");
+    EXPECT_EQ(messages("0,500,0,20,0,-0.5"), "");
+}
+
 TEST_F(PictureCommand, marksThePointsAsAskedFor)
 {
     const std::string path = writeEv2();
