@@ -83,7 +83,7 @@ void emfRichTextBox::setText(const QString& text)
 
 std::string emfRichTextBox::TextRTF() const
 {
-    return writeRtf(m_content);
+    return rtfToStore(m_content);
 }
 
 void emfRichTextBox::setTextRTF(std::string_view rtf)

@@ -37,8 +37,9 @@ public:
     QString Text() const;
     void setText(const QString& text);
 
-    /// The text with its fonts and colours in Rich Text Format. What is set may come from any
-    /// writer and may be cut; text that is no such format is taken as it stands.
+    /// The text with its fonts and colours in Rich Text Format, in the form that a workspace keeps
+    /// (`rtfToStore`). What is set may come from any writer and may be cut; text that is no such
+    /// format is taken as it stands.
     std::string TextRTF() const;
     void setTextRTF(std::string_view rtf);
 
