@@ -11,13 +11,18 @@ namespace {
 
 using namespace tarsil;
 
-/// Whatever a file counts, its record must not take more memory than its bytes are worth.
+/// Whatever a file counts, its record must not take more memory than its bytes are worth; only of
+/// files, of which some may be missing, there may be as many as a count can say.
 void requireProportion(const WorkspaceRecord& record, std::size_t bytes)
 {
-    fuzz::require(record.files.capacity() <= bytes, "files in proportion to the file");
+    fuzz::require(record.files.size() <= 32767, "no more files than can be counted");
+    fuzz::require(record.edited.size() <= bytes, "edited parameters in proportion to the file");
     fuzz::require(record.plots.capacity() <= bytes + 1, "plots in proportion to the file");
-    for (const PlotRecord& plot : record.plots)
+    for (const PlotRecord& plot : record.plots) {
         fuzz::require(plot.series.capacity() <= bytes, "series in proportion to the file");
+        fuzz::require(plot.referenceSpeeds.size() + plot.dampingLines.size() <= bytes,
+                      "marks in proportion to the file");
+    }
 }
 
 /// All but the texts, in which line breaks may have become blanks.
@@ -29,6 +34,14 @@ void requireSameCurves(std::vector<SeriesRecord> series, const std::vector<Serie
         series[i].legendText = others[i].legendText;
     }
     fuzz::require(series == others, "numbers of series come back");
+}
+
+/// The values, and with the same bytes the captions too.
+void requireSameMarks(const std::vector<MarkRecord>& marks, const std::vector<MarkRecord>& others)
+{
+    fuzz::require(marks.size() == others.size(), "marks come back");
+    for (std::size_t i = 0; i < marks.size(); ++i)
+        fuzz::require(marks[i].value == others[i].value, "values of marks come back");
 }
 
 /// What is written can be read, says the same, and is written in the same bytes again.
@@ -43,8 +56,13 @@ void requireFixedPoint(const WorkspaceRecord& record)
                   "what is read again is written as it was");
     fuzz::require(again.files.size() == record.files.size(), "files come back");
     fuzz::require(again.plots.size() == record.plots.size(), "plots come back");
-    for (std::size_t j = 0; j < record.plots.size(); ++j)
+    fuzz::require(again.edited.size() == record.edited.size(), "edited parameters come back");
+    fuzz::require(again.reference == record.reference, "the reference comes back");
+    for (std::size_t j = 0; j < record.plots.size(); ++j) {
         requireSameCurves(again.plots[j].series, record.plots[j].series);
+        requireSameMarks(again.plots[j].referenceSpeeds, record.plots[j].referenceSpeeds);
+        requireSameMarks(again.plots[j].dampingLines, record.plots[j].dampingLines);
+    }
 }
 
 } // namespace

@@ -9,6 +9,7 @@
 #include "runtime/MappedFile.h"
 #include "runtime/PathNames.h"
 #include "runtime/RunTimeError.h"
+#include "vgf/EvolutionRecords.h"
 #include "vgf/PlotRecords.h"
 #include "vgf/WndEvolPlot.h"
 #include "workspace/FoundFiles.h"
@@ -19,6 +20,7 @@
 #include <QString>
 
 #include <algorithm>
+#include <cstdint>
 #include <exception>
 #include <filesystem>
 #include <functional>
@@ -87,6 +89,14 @@ private:
     std::exception_ptr m_failure;
 };
 
+/// A count without its list is nothing.
+bool holdsNothing(const WorkspaceRecord& record)
+{
+    return record.plots.empty()
+        && std::all_of(record.files.begin(), record.files.end(),
+                       [](const std::string& file) { return file.empty(); });
+}
+
 /// "Header of [PLOT1], Legend of [PLOT2]".
 std::string placesOf(const std::vector<LongValue>& values)
 {
@@ -131,7 +141,10 @@ WorkspaceRecord WorkspaceCommands::gather() const
     for (const auto& evolution : m_session.evolutions) {
         evolutions.push_back(evolution.get());
         record.files.push_back(evolution->path());
+        if (evolution.get() == m_explorer.referenceEvolution())
+            record.reference = static_cast<std::int16_t>(record.files.size());
     }
+    record.edited = editedRecordsOf(evolutions);
     for (const EvmPlot* plot : m_plots.plots())
         record.plots.push_back(recordOf(*plot, evolutions));
     return record;
@@ -201,8 +214,8 @@ void WorkspaceCommands::OpenWorkSpace(const std::string& path)
 }
 
 /// What can be read is shown, also when an error ends the reading in the middle. That is reported
-/// once everything stands. A file of which nothing can be read is no workspace, and takes the place
-/// of none.
+/// once everything is there. A file of which nothing can be read is no workspace, and takes the
+/// place of none.
 void WorkspaceCommands::open(const std::string& path)
 {
     const MappedFile file(path);
@@ -213,7 +226,7 @@ void WorkspaceCommands::open(const std::string& path)
         if (reading.error)
             throw RunTimeError(*reading.error);
     });
-    if (record.files.empty() && record.plots.empty())
+    if (holdsNothing(record))
         failure.raise();
     m_explorer.startNew();
     m_path = shownPath(path);
@@ -244,7 +257,12 @@ std::vector<EVM*> WorkspaceCommands::loadFiles(const WorkspaceRecord& record,
 {
     const std::vector<std::string> files = foundFiles(record.files, path);
     std::vector<EVM*> evolutions = mdlMain::loadListedEvolutions(
-        m_session, files, m_userInterface, [this] { m_explorer.FillEvolsNode(); });
+        m_session, files, m_userInterface, [&](const std::vector<EVM*>& opened) {
+            applyEdited(record.edited, opened); // first: the tree shows the parameters
+            m_explorer.FillEvolsNode();
+        });
+    if (record.reference > 0)
+        m_explorer.setReference(evolutions.at(static_cast<std::size_t>(record.reference - 1)));
     m_isPartial |= std::find(evolutions.begin(), evolutions.end(), nullptr) != evolutions.end();
     tellOfNamesakes(record.files, files, path);
     return evolutions;

@@ -131,10 +131,11 @@ constinit const Command reportCommand {
      "exit status is 1.\n"
      "\n"
      "A workspace gives a row for each series of its plots, in their order, with the\n"
-     "legend text of the series as its case. The files that it lists are looked for\n"
-     "beside it and below its folder when they have moved. A series whose file or\n"
-     "mode is missing is left out with a message; the rest is written, and the exit\n"
-     "status is 1.",
+     "legend text of the series as its case, and with the mass configuration and Mach\n"
+     "number that were edited in it. The files that it lists are looked for beside it\n"
+     "and below its folder when they have moved. A series whose file or mode is\n"
+     "missing is left out with a message; the rest is written, and the exit status\n"
+     "is 1.",
      options},
     runReport};
 

@@ -37,11 +37,13 @@ private:
     void checkLengths();
     void checkLengthsOfPlot(const std::string& section, std::size_t series);
     void checkLength(std::string_view section, std::string_view key);
+    void checkFurtherValues();
     void checkRichTexts();
     void checkCounts();
     void checkCount(std::string_view section, std::string_view countKey, std::string_view key,
                     std::size_t count);
     void checkFiles();
+    void addMissing(const std::string& key);
     void checkSeries(BatchRun& run);
 
     IniText m_ini;
@@ -57,6 +59,7 @@ std::vector<Finding> WorkspaceChecker::check(BatchRun& run)
     m_files = foundFiles(m_record.files, m_path);
     checkReading();
     checkLengths();
+    checkFurtherValues();
     checkRichTexts();
     checkCounts();
     checkFiles();
@@ -119,6 +122,21 @@ void WorkspaceChecker::checkLengthsOfPlot(const std::string& section, std::size_
         checkLength(section, keys::numbered(keys::series, i));
 }
 
+/// Values that only newer files hold, which nobody misses: those that are passed over, and those of
+/// which a field is cut.
+void WorkspaceChecker::checkFurtherValues()
+{
+    for (const UnusedValue& value : m_reading.unusedValues)
+        add(value.section, value.key, "is passed over: " + value.why);
+    for (const LongValue& value : m_reading.cutValues) {
+        const std::string_view name = std::string_view(value.key).substr(0, value.key.find('('));
+        if (name == keys::referenceSpeed || name == keys::dampingLine || name == keys::edited)
+            add(value.section, value.key,
+                "a text of it has " + std::to_string(value.bytes) + " bytes; the format takes "
+                    + std::to_string(mostStoredBytes));
+    }
+}
+
 /// The whole values: that a long one is cut when it is read is a finding of its own.
 void WorkspaceChecker::checkRichTexts()
 {
@@ -132,8 +150,9 @@ void WorkspaceChecker::checkRichTexts()
     }
 }
 
-/// A list that is shorter than its count is an error of reading; here it can only be longer. The
-/// list that is being read when an error comes is not known to its end.
+/// A list that is shorter than its count is an error of reading, or its missing files are found
+/// elsewhere; here it can only be longer. The list that is being read when an error comes is not
+/// known to its end.
 void WorkspaceChecker::checkCounts()
 {
     const bool isWhole = !m_reading.error;
@@ -160,12 +179,23 @@ void WorkspaceChecker::checkCount(std::string_view section, std::string_view cou
             "is passed over: " + std::string(countKey) + " is " + std::to_string(count));
 }
 
+/// An entry of the list of files that is counted and is not there, or says no path.
+void WorkspaceChecker::addMissing(const std::string& key)
+{
+    if (m_ini.entry(keys::evolutionFiles, key))
+        add(keys::evolutionFiles, key, "says no path");
+    else
+        add(keys::evolutionFiles, keys::fileCount, "counts " + key + ", which is missing");
+}
+
 void WorkspaceChecker::checkFiles()
 {
     for (std::size_t i = 0; i < m_files.size(); ++i) {
         const std::string key = keys::numbered(keys::file, i + 1);
         const std::string& stored = m_record.files[i];
-        if (m_files[i] != storedPlace(stored, m_path))
+        if (stored.empty())
+            addMissing(key);
+        else if (m_files[i] != storedPlace(stored, m_path))
             add(keys::evolutionFiles, key, stored + " is not there; it was found at " + m_files[i]);
         else if (!fileExists(m_files[i]))
             add(keys::evolutionFiles, key, stored + " is missing");

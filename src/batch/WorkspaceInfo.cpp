@@ -7,6 +7,9 @@
 #include "runtime/TextCodec.h"
 #include "workspace/WorkspaceRecord.h"
 
+#include <cstddef>
+#include <cstdint>
+#include <map>
 #include <ostream>
 
 namespace tarsil::batch {
@@ -117,7 +120,24 @@ void writeSeries(JsonWriter& json, const SeriesRecord& series)
     json.text("legend", series.legendText);
     json.text("color", colorText(series.colorIndex));
     json.text("marker_color", colorText(series.markerForegroundColor));
+    json.number("line_style", std::to_string(series.lineStyle));
+    json.number("line_width", std::to_string(series.lineWidth));
+    json.number("factor", std::to_string(series.factor));
     json.endObject();
+}
+
+void writeMarks(JsonWriter& json, std::string_view name, std::string_view value,
+                const std::vector<MarkRecord>& marks)
+{
+    json.key(name);
+    json.beginArray();
+    for (const MarkRecord& mark : marks) {
+        json.beginObject();
+        json.number(value, mark.value);
+        json.text("caption", mark.caption);
+        json.endObject();
+    }
+    json.endArray();
 }
 
 void writePlot(JsonWriter& json, const PlotRecord& plot)
@@ -135,7 +155,46 @@ void writePlot(JsonWriter& json, const PlotRecord& plot)
     for (const SeriesRecord& series : plot.series)
         writeSeries(json, series);
     json.endArray();
+    writeMarks(json, "reference_speeds", "speed", plot.referenceSpeeds);
+    writeMarks(json, "damping_lines", "damping", plot.dampingLines);
     json.endObject();
+}
+
+void writeFiles(JsonWriter& json, const std::vector<std::string>& files)
+{
+    json.key("files");
+    json.beginArray();
+    for (const std::string& file : files) {
+        if (file.empty())
+            json.null();
+        else
+            json.text(plainLines(file));
+    }
+    json.endArray();
+}
+
+void writeEdited(JsonWriter& json, const std::map<std::size_t, EditedRecord>& edited)
+{
+    json.key("edited");
+    json.beginArray();
+    for (const auto& [place, record] : edited) {
+        json.beginObject();
+        json.number("evolution", std::to_string(place));
+        json.text("airplane", record.airplane);
+        json.text("mass", record.mass);
+        json.number("mach", record.mach);
+        json.endObject();
+    }
+    json.endArray();
+}
+
+void writeReference(JsonWriter& json, std::int16_t reference)
+{
+    json.key("reference");
+    if (reference > 0)
+        json.number(std::to_string(reference));
+    else
+        json.null();
 }
 
 std::string axisText(const AxisRecord& axis)
@@ -159,6 +218,40 @@ void printSeries(const std::vector<SeriesRecord>& list, std::ostream& out)
               series.legendText);
 }
 
+void printMarks(const std::vector<MarkRecord>& marks, std::string_view name, std::ostream& out)
+{
+    for (const MarkRecord& mark : marks)
+        printLine(out, name,
+                  shortestText(mark.value) + (mark.caption.empty() ? "" : "  " + mark.caption));
+}
+
+/// The lines of the curves that do not look like those of a new one.
+void printLooks(const std::vector<SeriesRecord>& list, std::ostream& out)
+{
+    const SeriesRecord usual;
+    for (std::size_t i = 0; i < list.size(); ++i) {
+        const SeriesRecord& one = list[i];
+        if (one.lineStyle != usual.lineStyle || one.lineWidth != usual.lineWidth)
+            printLine(out, "line of series " + std::to_string(i + 1),
+                      "style " + std::to_string(one.lineStyle) + ", "
+                          + std::to_string(one.lineWidth) + " px");
+    }
+}
+
+void printFiles(const WorkspaceRecord& record, std::ostream& out)
+{
+    for (std::size_t i = 0; i < record.files.size(); ++i) {
+        const std::string& file = record.files[i];
+        printLine(out, "file " + std::to_string(i + 1),
+                  file.empty() ? "not in the list" : plainLines(file));
+    }
+    for (const auto& [place, edited] : record.edited)
+        printLine(out, "edited, file " + std::to_string(place),
+                  edited.airplane + ", " + edited.mass + ", Mach " + shortestText(edited.mach));
+    if (record.reference > 0)
+        printLine(out, "reference", "file " + std::to_string(record.reference));
+}
+
 void printPlot(const PlotRecord& plot, std::size_t number, std::ostream& out)
 {
     out << '\n';
@@ -169,7 +262,10 @@ void printPlot(const PlotRecord& plot, std::size_t number, std::ostream& out)
     printLine(out, "speed axis", axisText(plot.velAxis));
     printLine(out, "frequency axis", axisText(plot.freqAxis));
     printLine(out, "damping axis", axisText(plot.gAxis));
+    printMarks(plot.referenceSpeeds, "reference speed", out);
+    printMarks(plot.dampingLines, "damping line", out);
     printSeries(plot.series, out);
+    printLooks(plot.series, out);
 }
 
 } // namespace
@@ -183,11 +279,9 @@ void printWorkspaceJson(const WorkspaceRecord& record, std::ostream& out)
     json.text("description", plainLines(record.description));
     json.text("created", plainLines(record.dateCreated));
     json.text("modified", plainLines(record.dateModified));
-    json.key("files");
-    json.beginArray();
-    for (const std::string& file : record.files)
-        json.text(plainLines(file));
-    json.endArray();
+    writeFiles(json, record.files);
+    writeEdited(json, record.edited);
+    writeReference(json, record.reference);
     json.key("plots");
     json.beginArray();
     for (const PlotRecord& plot : record.plots)
@@ -204,8 +298,7 @@ void printWorkspaceText(const WorkspaceRecord& record, const std::string& name, 
     printLine(out, "description", plainLines(record.description));
     printLine(out, "created", plainLines(record.dateCreated));
     printLine(out, "modified", plainLines(record.dateModified));
-    for (std::size_t i = 0; i < record.files.size(); ++i)
-        printLine(out, "file " + std::to_string(i + 1), plainLines(record.files[i]));
+    printFiles(record, out);
     for (std::size_t i = 0; i < record.plots.size(); ++i)
         printPlot(record.plots[i], i + 1, out);
 }

@@ -5,6 +5,7 @@
 #include "runtime/MappedFile.h"
 #include "runtime/PathNames.h"
 #include "runtime/RunTimeError.h"
+#include "vgf/EvolutionRecords.h"
 #include "workspace/FoundFiles.h"
 #include "workspace/WorkspaceReader.h"
 
@@ -85,6 +86,10 @@ std::vector<bool> evolutionsNamed(const std::vector<PlotRecord>& plots, std::siz
 EVM* openListed(const std::string& file, BatchRun& run,
                 const std::function<void(const std::string& why)>& report)
 {
+    if (file.empty()) {
+        report("the workspace does not say its path");
+        return nullptr;
+    }
     try {
         if (!fileExists(file))
             throw RunTimeError(ErrorNumber::FileNotFound, "tarsil-batch", file);
@@ -175,6 +180,7 @@ WorkspaceInput openWorkspace(const std::string& path, const std::optional<std::s
                          + " is taken for its name alone");
     }
     input.evolutions = openEvolutions(input.plots, files, run, complain);
+    applyEdited(record.edited, input.evolutions);
     for (PlotRecord& one : input.plots)
         leaveOutFaults(one, path, input, run);
     return input;

@@ -50,10 +50,10 @@ struct WorkspaceInput
 };
 
 /// Opens a workspace and the evolutions that the series of its plots name: those of the plot asked
-/// for, by its number from 1 or else by its caption, or those of all plots. An evolution that is
-/// missing or cannot be read, and a series that names none or a mode that there is not, are
-/// complained of and left out. Errors: those of `readWorkspaceFile`; Failure for a plot that there
-/// is not.
+/// for, by its number from 1 or else by its caption, or those of all plots. The evolutions have the
+/// parameters that were edited in the workspace. An evolution that is missing or cannot be read,
+/// and a series that names none or a mode that there is not, are complained of and left out.
+/// Errors: those of `readWorkspaceFile`; Failure for a plot that there is not.
 WorkspaceInput openWorkspace(const std::string& path, const std::optional<std::string>& plot,
                              BatchRun& run);
 

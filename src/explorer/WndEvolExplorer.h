@@ -46,6 +46,7 @@ public:
 
     /// Shown bold in the tree. Null when there is none.
     EVM* referenceEvolution() const { return m_reference; }
+    void setReference(EVM* evolution);
 
     /// The evolution of the selected node or of one above it; null otherwise.
     EVM* selectedEvolution() const;
@@ -111,7 +112,6 @@ private:
     std::vector<EvmPlot*> takeSeries(const EVM* evolution);
     std::vector<EvmPlot*> forget(EVM& evolution);
     void drawAgain(const std::vector<EvmPlot*>& plots);
-    void setReference(EVM* evolution);
     void emptyPlots();
 
     void nodeActivated(QTreeWidgetItem* node);

@@ -38,7 +38,7 @@ void EVM::Contruct()
         readEvm(stream, contents);
     else
         readEv2(stream, contents);
-    takeContents(contents);
+    takeFileContents(contents);
 }
 
 void EVM::contructFromSemicolonFile()
@@ -47,7 +47,7 @@ void EVM::contructFromSemicolonFile()
     TextStream stream(file.bytes(), shownPath(path()));
     EVM contents;
     readSemicolonTable(stream, contents);
-    takeContents(contents);
+    takeFileContents(contents);
 }
 
 void EVM::PrintEVM(std::string_view path) const
@@ -97,6 +97,12 @@ void EVM::takeContents(EVM& source)
     solverVersion = std::move(source.solverVersion);
     flutterMethod = std::move(source.flutterMethod);
     Param = std::move(source.Param);
+}
+
+void EVM::takeFileContents(EVM& source)
+{
+    takeContents(source);
+    m_paramOfFile = Param.editable();
 }
 
 } // namespace tarsil

@@ -50,6 +50,10 @@ public:
 
     tarsil::Param Param;
 
+    /// What the file said of the parameters that users may change; `Param` has them as they are
+    /// now.
+    const EditableParam& paramOfFile() const { return m_paramOfFile; }
+
     /// The file's path in stored form: `Folder`, a backslash, `FileName`.
     std::string path() const;
 
@@ -77,6 +81,9 @@ public:
 
 private:
     void takeContents(EVM& source);
+    void takeFileContents(EVM& source);
+
+    EditableParam m_paramOfFile;
 };
 
 } // namespace tarsil

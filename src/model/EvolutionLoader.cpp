@@ -61,14 +61,14 @@ public:
     enum class Missing { ToldOneByOne, ToldTogether };
 
     /// The evolution of each path; null where a file is missing or cannot be read.
-    std::vector<EVM*> load(const std::vector<std::string>& paths, Missing missing,
-                           const std::function<void()>& refreshExplorer);
+    ListedEvolutions load(const std::vector<std::string>& paths, Missing missing,
+                          const std::function<void(const ListedEvolutions&)>& refreshExplorer);
 
     /// The evolutions that were not open before.
     const std::vector<EVM*>& added() const { return m_added; }
 
 private:
-    EVM* loadOne(const std::string& path, Missing missing);
+    EVM* loadOne(const std::string& path, std::size_t number, Missing missing);
     void tellMissing() const;
     void tellFailures() const;
 
@@ -76,18 +76,20 @@ private:
     UserInterface& m_userInterface;
     OpenFiles m_open;
     std::vector<EVM*> m_added;
-    std::vector<std::string> m_missing; ///< not told yet
+    std::vector<std::string> m_missing; ///< what they are called; not told yet
     std::vector<std::string> m_failures; ///< the reports of files that cannot be read
 };
 
-std::vector<EVM*> Loader::load(const std::vector<std::string>& paths, Missing missing,
-                               const std::function<void()>& refreshExplorer)
+ListedEvolutions Loader::load(const std::vector<std::string>& paths, Missing missing,
+                              const std::function<void(const ListedEvolutions&)>& refreshExplorer)
 {
     const BusyStatus status(m_userInterface, openingStatus);
-    std::vector<EVM*> evolutions;
+    ListedEvolutions evolutions;
     for (const std::string& path : paths) {
         EVM* evolution = nullptr;
-        if (auto failure = reportOf(moduleName, [&] { evolution = loadOne(path, missing); }))
+        const std::size_t number = evolutions.size() + 1;
+        if (auto failure =
+                reportOf(moduleName, [&] { evolution = loadOne(path, number, missing); }))
             m_failures.push_back(std::move(*failure));
         evolutions.push_back(evolution);
         m_userInterface.showProgress(evolutions.size(), paths.size());
@@ -97,14 +99,17 @@ std::vector<EVM*> Loader::load(const std::vector<std::string>& paths, Missing mi
     if (!m_failures.empty())
         tellFailures();
     if (!m_added.empty() && refreshExplorer)
-        guarded(m_userInterface, moduleName, refreshExplorer);
+        guarded(m_userInterface, moduleName, [&] { refreshExplorer(evolutions); });
     return evolutions;
 }
 
-EVM* Loader::loadOne(const std::string& path, Missing missing)
+/// `number` is the place in the list, from 1.
+EVM* Loader::loadOne(const std::string& path, std::size_t number, Missing missing)
 {
     if (!fileExists(path)) {
-        m_missing.push_back(path);
+        m_missing.push_back(path.empty() ? "file " + std::to_string(number)
+                                    + " of the list, which has no path"
+                                         : shownPath(path));
         if (missing == Missing::ToldOneByOne) {
             tellMissing();
             m_missing.clear();
@@ -128,7 +133,7 @@ void Loader::tellMissing() const
     const std::size_t shown = std::min(m_missing.size(), mostLines);
     std::string text = "Modal evolution file not found:";
     for (std::size_t i = 0; i < shown; ++i)
-        text.append("\n").append(shownPath(m_missing[i]));
+        text.append("\n").append(m_missing[i]);
     if (shown < m_missing.size())
         text.append("\nand " + std::to_string(m_missing.size() - shown) + " more");
     m_userInterface.showMessage(text, "Error", MessageIcon::Critical);
@@ -164,13 +169,18 @@ std::vector<EVM*> loadEvolutions(Session& session, const std::vector<std::string
                                  const std::function<void()>& refreshExplorer)
 {
     Loader loader(session, userInterface);
-    loader.load(paths, Loader::Missing::ToldOneByOne, refreshExplorer);
+    const auto refresh = [&refreshExplorer](const ListedEvolutions& /*all*/) {
+        if (refreshExplorer)
+            refreshExplorer();
+    };
+    loader.load(paths, Loader::Missing::ToldOneByOne, refresh);
     return loader.added();
 }
 
-std::vector<EVM*> loadListedEvolutions(Session& session, const std::vector<std::string>& paths,
-                                       UserInterface& userInterface,
-                                       const std::function<void()>& refreshExplorer)
+ListedEvolutions
+loadListedEvolutions(Session& session, const std::vector<std::string>& paths,
+                     UserInterface& userInterface,
+                     const std::function<void(const ListedEvolutions&)>& refreshExplorer)
 {
     return Loader(session, userInterface)
         .load(paths, Loader::Missing::ToldTogether, refreshExplorer);

@@ -34,11 +34,16 @@ std::vector<EVM*> loadEvolutions(Session& session, const std::vector<std::string
                                  UserInterface& userInterface,
                                  const std::function<void()>& refreshExplorer);
 
+/// The evolution of each of several paths, also one that was open already, and null where there is
+/// none.
+using ListedEvolutions = std::vector<EVM*>;
+
 /// The same for the files that a workspace lists: missing ones are told of in one message, at most
-/// 20 by their paths. Returns the evolution of each path, also one that was open already, and null
-/// where there is none.
-std::vector<EVM*> loadListedEvolutions(Session& session, const std::vector<std::string>& paths,
-                                       UserInterface& userInterface,
-                                       const std::function<void()>& refreshExplorer);
+/// 20 by their paths. An empty path is that of an entry which the list lacks, and missing as well.
+/// `refreshExplorer` gets what is returned.
+ListedEvolutions
+loadListedEvolutions(Session& session, const std::vector<std::string>& paths,
+                     UserInterface& userInterface,
+                     const std::function<void(const ListedEvolutions&)>& refreshExplorer);
 
 } // namespace tarsil::mdlMain

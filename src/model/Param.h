@@ -6,6 +6,16 @@
 
 namespace tarsil {
 
+/// Those parameters of one modal evolution that users may change.
+struct EditableParam
+{
+    std::string airplane;
+    std::string mass;
+    float mach = 0;
+
+    bool operator==(const EditableParam&) const = default;
+};
+
 /// The analysis parameters of one modal evolution, stored unchanged.
 struct Param
 {
@@ -16,6 +26,8 @@ struct Param
     std::string Airplane; ///< aircraft model
     KeyedTexts modifications;
     KeyedTexts legends;
+
+    EditableParam editable() const { return {Airplane, Mass, Mach}; }
 };
 
 } // namespace tarsil

@@ -3,6 +3,7 @@
 #include "plot/PlotAxis.h"
 #include "plot/RefThick.h"
 
+#include <utility>
 #include <vector>
 
 namespace tarsil {
@@ -29,6 +30,9 @@ public:
     /// Removes every mark and draws again.
     void RemoveRef();
     const std::vector<RefThick>& marks() const { return m_marks; }
+
+    /// Takes these marks in the place of all others; nothing is drawn.
+    void setMarks(std::vector<RefThick> marks) { m_marks = std::move(marks); }
 
     /// Keys "nThick" 7, "Min" 0, "Max" 700.
     void ReadProperties(const PropertyBag& bag);

@@ -10,6 +10,7 @@
 #include <cmath>
 #include <exception>
 #include <optional>
+#include <utility>
 
 namespace tarsil {
 
@@ -265,9 +266,14 @@ QString EvmPlot::shiftedMarksNote() const
 
 void EvmPlot::AddDampLine(float g, const QString& caption)
 {
+    appendDampLine(g, caption);
+    plot();
+}
+
+void EvmPlot::appendDampLine(float g, const QString& caption)
+{
     const Scale scale = GetScale();
     m_vgPlot.AddLine(scale.vmin, g, scale.vmax, g, caption, black, penstyle::solid);
-    plot();
 }
 
 void EvmPlot::RemoveDampLine()
@@ -276,11 +282,34 @@ void EvmPlot::RemoveDampLine()
     plot();
 }
 
+void EvmPlot::setRefs(std::vector<RefThick> marks)
+{
+    m_velAxis.setMarks(std::move(marks));
+    invalidate();
+}
+
+std::vector<EvmPlot::DampLine> EvmPlot::DampLines() const
+{
+    std::vector<DampLine> lines;
+    for (const RefLine& line : m_vgPlot.lines())
+        lines.push_back({line.Y1, line.Caption});
+    return lines;
+}
+
+void EvmPlot::setDampLines(const std::vector<DampLine>& lines)
+{
+    m_vgPlot.RemoveLines();
+    for (const DampLine& line : lines)
+        appendDampLine(line.g, line.Caption);
+    invalidate();
+}
+
 void EvmPlot::Clone(const EvmPlot& source)
 {
     Q_EMIT contentsReplaced();
     for (std::size_t i = 0; i < ertbTexts.size(); ++i)
         ertbTexts[i].Clone(source.ertbTexts[i]);
+    m_headerTop = source.m_headerTop;
     ReadProperties(source.WriteProperties());
     SetScale(source.GetScale());
 }

@@ -11,6 +11,7 @@
 
 #include <array>
 #include <cstdint>
+#include <vector>
 
 namespace tarsil {
 
@@ -125,7 +126,22 @@ public:
     void AddDampLine(float g, const QString& caption);
     void RemoveDampLine();
 
-    /// Copies the text boxes, the scale, and every property of `source`; its series are not copied.
+    /// A damping line, wherever it begins and ends.
+    struct DampLine
+    {
+        float g = 0;
+        QString Caption;
+    };
+
+    /// The reference speeds and the damping lines. Setting them takes them in the place of all
+    /// others, the lines across the present speed range, and draws nothing.
+    const std::vector<RefThick>& Refs() const { return m_velAxis.marks(); }
+    void setRefs(std::vector<RefThick> marks);
+    std::vector<DampLine> DampLines() const;
+    void setDampLines(const std::vector<DampLine>& lines);
+
+    /// Copies the text boxes with their positions, the scale, and every property of `source`; its
+    /// series are not copied.
     void Clone(const EvmPlot& source);
 
     /// Keys "Caption" "Plot1", "ModeColor" 0, "vThicks" 7, "gThicks" 5, "fThicks" 5, "vLabel"
@@ -138,6 +154,10 @@ public:
     /// the screen for each of them.
     void resize(QSize size, double ratio = 1);
     QSize size() const { return m_size; }
+
+    /// The upper edge of the header's row, in twentieths of a point; 60 in a new plot. In a plot
+    /// that is too small for the header to be seen there it is shown at the nearest edge.
+    void setHeaderTop(double top);
 
     /// Moves a text box (index as in `ertbTexts`) to a position in twentieths of a point; the
     /// header goes back to its row. The box keeps the position, but in a plot that is too small for
@@ -195,6 +215,7 @@ private:
     void layOutCanvases();
     void layOutTitles();
     void layOutBoxes();
+    void appendDampLine(float g, const QString& caption);
     void invalidate();
     void drawParts();
     void compose();
@@ -209,6 +230,7 @@ private:
     trspLabel m_gAxisLabel {QStringLiteral("gAxisLabel")};
     trspLabel m_freqAxislabel {QStringLiteral("freqAxislabel")};
     std::array<emfRichTextBox, 3> ertbTexts;
+    double m_headerTop = 60; ///< twentieths of a point
 
     SeriesList m_series;
     QString m_caption;

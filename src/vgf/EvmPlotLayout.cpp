@@ -21,7 +21,6 @@ constexpr double legendLeft = canvasLeft + canvasWidth + titleGap;
 // Pixels. Even, so that the line in the middle of an axis lies on a whole pixel.
 constexpr int speedAxisHeight = 64;
 constexpr int verticalAxisWidth = 120;
-constexpr int headerTop = 4;
 constexpr int edge = 8; ///< between a text box and the plot's edge
 
 /// Its position stays what it is, and is shown again in a plot that is large enough.
@@ -91,7 +90,9 @@ void EvmPlot::layOutBoxes()
     const int headerLeft = m_freqAxislabel.Left() + m_freqAxislabel.Width();
     const int headerRight = roundToPixel((1 - headerRightGap) * m_size.width());
     Header().setUnitsWidth(units(std::max(headerRight - headerLeft, 0)));
-    Header().place(units(headerLeft), units(headerTop));
+    Header().place(units(headerLeft), m_headerTop);
+    const QRect row = Header().geometry();
+    Header().setGeometry(row.translated(0, shownPlace(row, m_size).top() - row.top()));
     if (!Legend().wasMoved()) { // right of the curves, as far left as its text needs
         const int column = std::min(roundToPixel(legendLeft * m_size.width()),
                                     m_size.width() - Legend().Width() - edge);
@@ -105,9 +106,15 @@ void EvmPlot::layOutBoxes()
     }
 }
 
+void EvmPlot::setHeaderTop(double top)
+{
+    m_headerTop = top;
+    refresh();
+}
+
 void EvmPlot::moveBox(std::size_t index, double left, double top)
 {
-    if (index > 0) // the header keeps its row
+    if (index > 0) // the header goes back to its row
         ertbTexts.at(index).Move(left, top);
     refresh();
 }

@@ -6,6 +6,7 @@
 #include "vgf/EvmPlot.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tarsil {
 
@@ -51,7 +52,26 @@ SeriesRecord recordOf(const Series& series, const std::vector<const EVM*>& evolu
     record.legendText = series.LegendText.toStdString();
     record.colorIndex = series.ColorIndex;
     record.markerForegroundColor = series.MarkerForegroundColor;
+    record.lineStyle = series.LineStyle;
+    record.lineWidth = series.LineWidth;
+    record.factor = std::max(series.IthMpf, 1); // 0: nobody chose one
     return record;
+}
+
+std::vector<MarkRecord> referenceSpeedsOf(const EvmPlot& plot)
+{
+    std::vector<MarkRecord> marks;
+    for (const RefThick& mark : plot.Refs())
+        marks.push_back({mark.Speed, mark.Caption.toStdString()});
+    return marks;
+}
+
+std::vector<MarkRecord> dampingLinesOf(const EvmPlot& plot)
+{
+    std::vector<MarkRecord> marks;
+    for (const EvmPlot::DampLine& line : plot.DampLines())
+        marks.push_back({line.g, line.Caption.toStdString()});
+    return marks;
 }
 
 void applyText(const TextRecord& record, std::size_t index, EvmPlot& plot)
@@ -62,7 +82,11 @@ void applyText(const TextRecord& record, std::size_t index, EvmPlot& plot)
         box.setTextRTF(*record.rtf);
         plot.setBoxContent(index, box.content());
     }
-    if (record.position)
+    if (!record.position)
+        return;
+    if (index == header)
+        plot.setHeaderTop(record.position->top);
+    else
         plot.moveBox(index, record.position->left, record.position->top);
 }
 
@@ -92,7 +116,22 @@ void applySeries(const SeriesRecord& record, const std::vector<EVM*>& evolutions
     series.LegendText = QString::fromStdString(record.legendText);
     series.ColorIndex = record.colorIndex;
     series.MarkerForegroundColor = record.markerForegroundColor;
-    series.IthMpf = 1;
+    series.LineStyle = record.lineStyle;
+    series.LineWidth = record.lineWidth;
+    series.IthMpf = record.factor;
+}
+
+/// After the scale, which says how long the damping lines are.
+void applyMarks(const PlotRecord& record, EvmPlot& plot)
+{
+    std::vector<RefThick> speeds;
+    for (const MarkRecord& mark : record.referenceSpeeds)
+        speeds.push_back({mark.value, QString::fromStdString(mark.caption)});
+    plot.setRefs(std::move(speeds));
+    std::vector<EvmPlot::DampLine> lines;
+    for (const MarkRecord& mark : record.dampingLines)
+        lines.push_back({mark.value, QString::fromStdString(mark.caption)});
+    plot.setDampLines(lines);
 }
 
 } // namespace
@@ -113,6 +152,8 @@ PlotRecord recordOf(const EvmPlot& plot, const std::vector<const EVM*>& evolutio
         if (one.evolution > 0 && one.mode > 0)
             record.series.push_back(one);
     }
+    record.referenceSpeeds = referenceSpeedsOf(plot);
+    record.dampingLines = dampingLinesOf(plot);
     return record;
 }
 
@@ -130,6 +171,7 @@ void applyRecord(const PlotRecord& record, const std::vector<EVM*>& evolutions, 
     plot.setGthicks(record.gAxis.ticks);
     plot.SetScale(record.velAxis.min, record.velAxis.max, record.freqAxis.min, record.freqAxis.max,
                   record.gAxis.min, record.gAxis.max);
+    applyMarks(record, plot);
     for (const SeriesRecord& series : record.series)
         applySeries(series, evolutions, plot);
 }

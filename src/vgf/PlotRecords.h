@@ -13,7 +13,8 @@ class EvmPlot;
 /// from 1; a series of another evolution, or without a mode, is left out.
 PlotRecord recordOf(const EvmPlot& plot, const std::vector<const EVM*>& evolutions);
 
-/// Gives a plot the texts, axes and series of a record; nothing is drawn. `evolutions` is the list
+/// Gives a plot the texts, axes, marks and series of a record; nothing is drawn. Of the header's
+/// position only its upper edge counts, its column is that of the layout. `evolutions` is the list
 /// of files as it was saved, null for one that is not there: its series are left out. A text or
 /// position that is absent leaves the box as it is. Error 9 "Subscript out of range" for a series
 /// that names an evolution beyond the list or a mode that its evolution lacks; the series before it

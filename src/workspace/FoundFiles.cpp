@@ -81,7 +81,7 @@ std::vector<std::string> foundFiles(const std::vector<std::string>& stored,
         files.push_back(storedPlace(one, workspacePath));
         if (fileExists(files.back()))
             matching.take(keyOf(one), one, nativePath(files.back()));
-        else if (missing.emplace(keyOf(one), one).second)
+        else if (!one.empty() && missing.emplace(keyOf(one), one).second)
             matching.addPath(keyOf(one), one);
     }
     const auto moved = movedFiles(missing, folderOf(workspacePath), matching);

@@ -8,8 +8,8 @@ namespace tarsil {
 /// The files that a workspace names, in the same order: each at its stored place (`storedPlace`),
 /// or else the file of its name below the folder of the workspace that shares most of its last
 /// folders with the stored path, as `FileMatching` tells. Two stored paths never get one file; a
-/// path without a file of its own is given as it is stored. The folder is gone through at most
-/// once, and not to its end when it is vast.
+/// path without a file of its own is given as it is stored, as is an empty one. The folder is gone
+/// through at most once, and not to its end when it is vast.
 std::vector<std::string> foundFiles(const std::vector<std::string>& stored,
                                     const std::string& workspacePath);
 

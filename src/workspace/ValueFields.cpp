@@ -4,6 +4,7 @@
 #include "runtime/QuotedText.h"
 #include "runtime/RunTimeError.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -24,6 +25,17 @@ std::vector<std::string> fieldsOf(std::string_view value)
 }
 
 } // namespace
+
+std::size_t longestField(std::string_view value)
+{
+    std::size_t longest = 0;
+    for (std::size_t begin = 0; begin <= value.size();) {
+        const std::size_t end = std::min(value.find('\0', begin), value.size());
+        longest = std::max(longest, end - begin);
+        begin = end + 1;
+    }
+    return longest;
+}
 
 ValueFields::ValueFields(std::string_view value, std::size_t least, std::string place)
     : m_fields(fieldsOf(value)), m_place(std::move(place))

@@ -11,6 +11,9 @@ namespace tarsil {
 /// What errors of the workspace file are raised by.
 inline constexpr std::string_view workspaceModule = "mdlWorkSpace";
 
+/// The length of the longest field of a value, in bytes.
+std::size_t longestField(std::string_view value);
+
 /// The fields of one value of a workspace, separated by NUL. A field that is no number of the kind
 /// asked for is error 13 "Type mismatch" or 6 "Overflow", which names the value's place, the field
 /// and the text found.

@@ -18,6 +18,10 @@ inline constexpr std::string_view evolutionFiles = "MODAL EVOLUTION FILES";
 inline constexpr std::string_view fileCount = "NoOfFiles";
 inline constexpr std::string_view file = "File";
 
+// What others do not look for.
+inline constexpr std::string_view edited = "Edited";
+inline constexpr std::string_view reference = "Reference";
+
 inline constexpr std::string_view plots = "PLOTS";
 inline constexpr std::string_view plotCount = "NoOfPlots";
 
@@ -33,6 +37,11 @@ inline constexpr std::string_view freqAxis = "freqAxis";
 inline constexpr std::string_view gAxis = "gAxis";
 inline constexpr std::string_view seriesCount = "NoOfSeries";
 inline constexpr std::string_view series = "Serie";
+
+// What others do not look for.
+inline constexpr std::string_view referenceSpeed = "RefSpeed";
+inline constexpr std::string_view dampingLine = "DampLine";
+inline constexpr std::string_view seriesLook = "SerieLook";
 
 inline constexpr std::string_view endOfFile = "END OF FILE";
 

@@ -8,6 +8,9 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <limits>
 #include <optional>
 #include <utility>
 
@@ -17,16 +20,30 @@ namespace {
 
 namespace keys = workspacekeys;
 
-/// The length of the longest field of a value.
-std::size_t longestField(std::string_view value)
+constexpr std::int32_t lastLineStyle = 5;
+constexpr std::size_t mostMarks = std::numeric_limits<std::int16_t>::max();
+
+[[noreturn]] void throwNotWithin(std::int32_t value, const std::string& what)
 {
-    std::size_t longest = 0;
-    for (std::size_t begin = 0; begin <= value.size();) {
-        const std::size_t end = std::min(value.find('\0', begin), value.size());
-        longest = std::max(longest, end - begin);
-        begin = end + 1;
-    }
-    return longest;
+    throw RunTimeError(ErrorNumber::InvalidProcedureCall, std::string(workspaceModule),
+                       what + " " + std::to_string(value));
+}
+
+/// The look of a curve: line style, line width, factor index.
+void takeLook(const ValueFields& values, SeriesRecord& series)
+{
+    const std::int32_t style = values.integer32(0, "line style");
+    const std::int16_t width = values.integer16(1, "line width");
+    const std::int32_t factor = values.integer32(2, "factor index");
+    if (style < 0 || style > lastLineStyle)
+        throwNotWithin(style, "line style");
+    if (width < 0)
+        throwNotWithin(width, "line width");
+    if (factor < 0)
+        throwNotWithin(factor, "factor index");
+    series.lineStyle = style;
+    series.lineWidth = width;
+    series.factor = std::max(factor, 1); // 0: nobody chose one
 }
 
 /// Reads one file into one record.
@@ -48,8 +65,14 @@ private:
     void noteCut(std::string_view section, std::string_view key, std::size_t longest);
     int count(std::string_view section, std::string_view key);
 
+    using Take = std::function<void(const ValueFields&)>;
+    bool further(std::string_view section, const std::string& key, std::size_t least,
+                 const Take& take);
+
     void readFiles();
+    void readEdited();
     void readPlot(const std::string& section, PlotRecord& plot);
+    std::vector<MarkRecord> marks(const std::string& section, std::string_view key);
     TextRecord box(std::string_view section, std::string_view textKey,
                    std::string_view positionKey);
     AxisRecord axis(std::string_view section, std::string_view key);
@@ -123,18 +146,48 @@ int WorkspaceReader::count(std::string_view section, std::string_view key)
     return ValueFields(value, 1, place(section, key)).integer16(0, "count");
 }
 
+/// Gives away the fields of a value that others do not know. One that does not fit, so that taking
+/// it raises an error, is passed over. Returns whether the value is there.
+bool WorkspaceReader::further(std::string_view section, const std::string& key, std::size_t least,
+                              const Take& take)
+{
+    const auto entry = m_ini.entry(section, key);
+    if (!entry)
+        return false;
+    try {
+        take(ValueFields(*m_ini.fields(section, key), least, key));
+        noteCut(section, key, longestField(entry->value));
+    } catch (const RunTimeError& error) {
+        m_reading.unusedValues.push_back({std::string(section), key, error.description()});
+    }
+    return true;
+}
+
 void WorkspaceReader::readFiles()
 {
     const int files = count(keys::evolutionFiles, keys::fileCount);
     for (int i = 1; i <= files; ++i) {
         const std::string key = keys::numbered(keys::file, static_cast<std::size_t>(i));
-        if (!m_ini.bytes(keys::evolutionFiles, key)) {
-            throw RunTimeError(ErrorNumber::SubscriptOutOfRange, std::string(workspaceModule),
-                               place(keys::evolutionFiles, key) + " is missing, but "
-                                   + std::string(keys::fileCount) + " is " + std::to_string(files));
-        }
         m_record.files.push_back(text(keys::evolutionFiles, key, {}));
     }
+    readEdited();
+}
+
+void WorkspaceReader::readEdited()
+{
+    const std::size_t files = m_record.files.size();
+    for (std::size_t i = 1; i <= files; ++i)
+        further(keys::evolutionFiles, keys::numbered(keys::edited, i), 3,
+                [&](const ValueFields& values) {
+                    m_record.edited[i] = {values.text(0), values.text(1),
+                                          values.single(2, "Mach number")};
+                });
+    further(keys::evolutionFiles, std::string(keys::reference), 1, [&](const ValueFields& values) {
+        const std::int16_t place = values.integer16(0, "number of a file");
+        if (place < 1 || std::cmp_greater(place, files))
+            throwNotWithin(place, "there is no file");
+        m_record.reference = place;
+    });
 }
 
 void WorkspaceReader::readPlot(const std::string& section, PlotRecord& plot)
@@ -153,7 +206,25 @@ void WorkspaceReader::readPlot(const std::string& section, PlotRecord& plot)
     for (int i = 1; i <= seriesCount; ++i) {
         const std::string key = keys::numbered(keys::series, static_cast<std::size_t>(i));
         plot.series.push_back(series(section, key));
+        further(section, keys::numbered(keys::seriesLook, static_cast<std::size_t>(i)), 3,
+                [&](const ValueFields& values) { takeLook(values, plot.series.back()); });
     }
+    plot.referenceSpeeds = marks(section, keys::referenceSpeed);
+    plot.dampingLines = marks(section, keys::dampingLine);
+}
+
+/// Those of one kind, as far as they are numbered without a gap.
+std::vector<MarkRecord> WorkspaceReader::marks(const std::string& section, std::string_view key)
+{
+    std::vector<MarkRecord> marks;
+    const auto take = [&marks](const ValueFields& values) {
+        marks.push_back({values.single(0, "number"), values.text(1)});
+    };
+    for (std::size_t i = 1; i <= mostMarks; ++i) {
+        if (!further(section, keys::numbered(key, i), 2, take))
+            break;
+    }
+    return marks;
 }
 
 TextRecord WorkspaceReader::box(std::string_view section, std::string_view textKey,

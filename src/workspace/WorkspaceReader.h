@@ -15,11 +15,24 @@ namespace tarsil {
 /// An empty description is the three blanks of one that is absent. Of a value 1023 bytes are taken;
 /// of one with several fields as many of each, so that a long text costs no number.
 ///
-/// An error (a count or number that is none, a list shorter than its count, an axis or series with
-/// too few fields) names file, section, key and the text found. `record` then holds what stood
-/// before it: the last plot lacks what had not been read yet. A count never says how much memory is
-/// taken. That a series names an evolution or mode that does not exist is for the caller to find.
+/// An entry of the list of files that is counted and not there is an empty path. What only newer
+/// files hold (edited parameters, the reference evolution, marks, looks of curves) is taken where
+/// it is there and fits, and passed over otherwise.
+///
+/// An error (a count or number that is none, a list of plots or series shorter than its count, an
+/// axis or series with too few fields) names file, section, key and the text found. `record` then
+/// holds what stood before it: the last plot lacks what had not been read yet. But for empty paths,
+/// at most 32767, a count never says how much memory is taken. That a series names an evolution or
+/// mode that does not exist is for the caller to find.
 void readWorkspace(std::string_view bytes, const std::string& name, WorkspaceRecord& record);
+
+/// A value that may be missing and was passed over.
+struct UnusedValue
+{
+    std::string section;
+    std::string key;
+    std::string why;
+};
 
 /// What could be read of a workspace, and why not the rest.
 struct WorkspaceReading
@@ -31,6 +44,7 @@ struct WorkspaceReading
     std::string section;
     std::string key;
 
+    std::vector<UnusedValue> unusedValues; ///< those that do not fit
     std::vector<LongValue> cutValues; ///< texts of which the file holds more than the record
 };
 

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -52,8 +53,20 @@ struct SeriesRecord
     std::string legendText;
     std::int32_t colorIndex = 0; ///< the colour of the curve itself
     std::int32_t markerForegroundColor = 0;
+    std::int32_t lineStyle = 0; ///< pen style number, 0 to 5
+    std::int16_t lineWidth = 0; ///< pixels
+    std::int32_t factor = 1; ///< from 1: the participation factor that is the marker of style 3
 
     bool operator==(const SeriesRecord&) const = default;
+};
+
+/// A reference speed (knots) or the damping of a line, with its caption.
+struct MarkRecord
+{
+    float value = 0;
+    std::string caption;
+
+    bool operator==(const MarkRecord&) const = default;
 };
 
 /// A plot; until something is read it has the axes of a new one.
@@ -67,8 +80,20 @@ struct PlotRecord
     AxisRecord freqAxis {"f(Hz)", 0, 50, 5};
     AxisRecord gAxis {"g", 0, -0.25F, 5};
     std::vector<SeriesRecord> series;
+    std::vector<MarkRecord> referenceSpeeds;
+    std::vector<MarkRecord> dampingLines;
 
     bool operator==(const PlotRecord&) const = default;
+};
+
+/// The parameters of an evolution where they are no longer those of its file.
+struct EditedRecord
+{
+    std::string airplane;
+    std::string mass;
+    float mach = 0;
+
+    bool operator==(const EditedRecord&) const = default;
 };
 
 struct WorkspaceRecord
@@ -76,13 +101,16 @@ struct WorkspaceRecord
     std::string description;
     std::string dateCreated; ///< as it stands in the file
     std::string dateModified;
-    std::vector<std::string> files; ///< full paths, in the order of the list of evolutions
+    /// Full paths, in the order of the list of evolutions; empty where an entry is missing.
+    std::vector<std::string> files;
     std::vector<PlotRecord> plots;
+    std::map<std::size_t, EditedRecord> edited; ///< by places among the files, from 1
+    std::int16_t reference = 0; ///< from 1: the place of the reference evolution; 0 for none
 
     bool operator==(const WorkspaceRecord&) const = default;
 };
 
-/// A value of more bytes than the format reads (`mostStoredBytes`).
+/// A value of more bytes than the format reads (`mostStoredBytes`), or with such a field.
 struct LongValue
 {
     std::string section;

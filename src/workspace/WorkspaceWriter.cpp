@@ -80,14 +80,18 @@ private:
     void begin(std::string_view section);
     void add(std::string_view key, std::string_view value);
     void addLine(std::string_view key, std::string_view value);
+    void addFurther(std::string_view key, const std::string& value);
     void addText(std::string_view key, std::string_view text) { add(key, encoded(oneLine(text))); }
     void addDescription(const std::string& text);
     void addCount(std::string_view key, std::size_t count);
+    void addFiles(const WorkspaceRecord& record);
     void addPlot(const PlotRecord& plot);
     void addRichText(std::string_view key, const TextRecord& box);
     void addPosition(std::string_view key, const TextRecord& box);
     void addAxis(std::string_view key, const AxisRecord& axis);
     void addSeries(std::string_view key, const SeriesRecord& series);
+    void addMarks(std::string_view key, const std::vector<MarkRecord>& marks);
+    void addLooks(const std::vector<SeriesRecord>& series);
 
     std::string encoded(const std::string& text);
     std::string field(std::string_view text);
@@ -108,10 +112,7 @@ void WorkspaceWriter::write(const WorkspaceRecord& record, std::string_view user
     addDescription(record.description);
     addText(keys::dateCreated, record.dateCreated);
     addText(keys::dateModified, record.dateModified);
-    begin(keys::evolutionFiles);
-    addCount(keys::fileCount, record.files.size());
-    for (std::size_t i = 0; i < record.files.size(); ++i)
-        addText(keys::numbered(keys::file, i + 1), record.files[i]);
+    addFiles(record);
     begin(keys::plots);
     addCount(keys::plotCount, record.plots.size());
     for (std::size_t j = 0; j < record.plots.size(); ++j) {
@@ -141,6 +142,15 @@ void WorkspaceWriter::addLine(std::string_view key, std::string_view value)
     m_result.bytes.append(quote).append(value).append(quote).append("\r\n");
 }
 
+/// Adds a value that others do not read, so that only our own reader can cut it.
+void WorkspaceWriter::addFurther(std::string_view key, const std::string& value)
+{
+    const std::size_t longest = longestField(value);
+    if (longest > mostStoredBytes)
+        m_result.longValues.push_back({m_section, std::string(key), longest});
+    addLine(key, value);
+}
+
 /// The blanks of a description that nobody gave stand as they are: what a reader takes off them, it
 /// takes for none as well.
 void WorkspaceWriter::addDescription(const std::string& text)
@@ -159,6 +169,21 @@ void WorkspaceWriter::addCount(std::string_view key, std::size_t count)
     add(key, std::to_string(count));
 }
 
+void WorkspaceWriter::addFiles(const WorkspaceRecord& record)
+{
+    begin(keys::evolutionFiles);
+    addCount(keys::fileCount, record.files.size());
+    for (std::size_t i = 0; i < record.files.size(); ++i)
+        addText(keys::numbered(keys::file, i + 1), record.files[i]);
+    for (const auto& [place, edited] : record.edited) {
+        const std::string key = keys::numbered(keys::edited, place);
+        addFurther(key,
+                   joined({field(edited.airplane), field(edited.mass), number(key, edited.mach)}));
+    }
+    if (record.reference > 0)
+        addFurther(keys::reference, std::to_string(record.reference));
+}
+
 void WorkspaceWriter::addPlot(const PlotRecord& plot)
 {
     addText(keys::caption, plot.caption);
@@ -174,6 +199,9 @@ void WorkspaceWriter::addPlot(const PlotRecord& plot)
     addCount(keys::seriesCount, plot.series.size());
     for (std::size_t i = 0; i < plot.series.size(); ++i)
         addSeries(keys::numbered(keys::series, i + 1), plot.series[i]);
+    addMarks(keys::referenceSpeed, plot.referenceSpeeds);
+    addMarks(keys::dampingLine, plot.dampingLines);
+    addLooks(plot.series);
 }
 
 void WorkspaceWriter::addRichText(std::string_view key, const TextRecord& box)
@@ -204,6 +232,29 @@ void WorkspaceWriter::addSeries(std::string_view key, const SeriesRecord& series
                 std::to_string(series.markerSpacing), std::to_string(series.markerStyle),
                 field(series.legendText), std::to_string(series.colorIndex),
                 std::to_string(series.markerForegroundColor)}));
+}
+
+void WorkspaceWriter::addMarks(std::string_view key, const std::vector<MarkRecord>& marks)
+{
+    for (std::size_t i = 0; i < marks.size(); ++i) {
+        const std::string one = keys::numbered(key, i + 1);
+        addFurther(one, joined({number(one, marks[i].value), field(marks[i].caption)}));
+    }
+}
+
+/// Of a curve that looks like a new one nothing is written.
+void WorkspaceWriter::addLooks(const std::vector<SeriesRecord>& series)
+{
+    const SeriesRecord usual;
+    for (std::size_t i = 0; i < series.size(); ++i) {
+        const SeriesRecord& one = series[i];
+        if (one.lineStyle == usual.lineStyle && one.lineWidth == usual.lineWidth
+            && one.factor == usual.factor)
+            continue;
+        addFurther(keys::numbered(keys::seriesLook, i + 1),
+                   joined({std::to_string(one.lineStyle), std::to_string(one.lineWidth),
+                           std::to_string(one.factor)}));
+    }
 }
 
 std::string WorkspaceWriter::encoded(const std::string& text)

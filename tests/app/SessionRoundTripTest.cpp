@@ -10,6 +10,7 @@
 #include <gmock/gmock.h>
 
 #include <array>
+#include <utility>
 
 using namespace tarsil;
 using test::RandomTexts;
@@ -36,6 +37,9 @@ protected:
     void makeSession(unsigned seed);
     void fill(EvmPlot& plot);
     void addSeries(EvmPlot& plot);
+    void addMarks(EvmPlot& plot);
+    void editEvolutions();
+    std::vector<std::pair<EditableParam, bool>> evolutions();
     RichText richText();
     TextFormat look();
     float bound(float least, float most);
@@ -95,6 +99,7 @@ void SessionRoundTripTest::makeSession(unsigned seed)
 {
     random = RandomTexts(seed);
     openEvolutions();
+    editEvolutions();
     window.explorer().setDescription(line(20) + QStringLiteral("\r\n") + line(20));
     plot().setCaption(QStringLiteral("first ") + line(10));
     for (std::size_t left = random.below(4); left > 0; --left)
@@ -121,6 +126,7 @@ void SessionRoundTripTest::fill(EvmPlot& one)
     one.setGthicks(static_cast<std::int16_t>(1 + random.below(20)));
     one.SetScale(bound(0, 99), bound(100, 900), bound(0, 9), bound(10, 90), bound(-0.1F, 0.1F),
                  bound(-1, -0.2F));
+    addMarks(one);
     one.plot();
 }
 
@@ -137,8 +143,43 @@ void SessionRoundTripTest::addSeries(EvmPlot& one)
         series.LegendText = line(random.below(4) == 0 ? 120 : 20);
         series.ColorIndex = color();
         series.MarkerForegroundColor = color();
-        series.IthMpf = 1; // the one that a workspace knows
+        series.LineStyle = static_cast<std::int32_t>(random.below(6));
+        series.LineWidth = static_cast<std::int16_t>(random.below(12));
+        series.IthMpf = static_cast<std::int32_t>(1 + random.below(6)); // five are there
     }
+}
+
+/// After the scale, over which damping lines run.
+void SessionRoundTripTest::addMarks(EvmPlot& one)
+{
+    for (std::size_t left = random.below(4); left > 0; --left)
+        one.AddRef(bound(-100, 900), line(20));
+    for (std::size_t left = random.below(4); left > 0; --left)
+        one.AddDampLine(bound(-1, 1), line(random.below(4) == 0 ? 120 : 20));
+}
+
+void SessionRoundTripTest::editEvolutions()
+{
+    for (const auto& evolution : window.session().evolutions) {
+        if (random.below(2) == 0)
+            evolution->Param.Airplane = random.line(20);
+        if (random.below(2) == 0)
+            evolution->Param.Mass = random.line(20);
+        if (random.below(2) == 0)
+            evolution->Param.Mach = bound(0, 2);
+        if (random.below(3) == 0)
+            window.explorer().setReference(evolution.get());
+    }
+}
+
+/// Airplane, mass configuration and Mach number of each evolution, and whether it is the reference.
+std::vector<std::pair<EditableParam, bool>> SessionRoundTripTest::evolutions()
+{
+    std::vector<std::pair<EditableParam, bool>> result;
+    for (const auto& evolution : window.session().evolutions)
+        result.emplace_back(evolution->Param.editable(),
+                            window.explorer().referenceEvolution() == evolution.get());
+    return result;
 }
 
 RichText SessionRoundTripTest::richText()
@@ -188,11 +229,13 @@ TEST_F(SessionRoundTripTest, givesTheSameBytesAndTheSamePictures)
         makeSession(seed);
         save(std::to_string(seed) + "a.tsw");
         const std::vector<QByteArray> drawn = pictures();
+        const auto parameters = evolutions();
         ASSERT_THAT(user.note, ::testing::Not(::testing::HasSubstr("longer than 1023")))
             << "a text of this test is too long";
         choose("mnuNewWorkspace");
         ASSERT_TRUE(window.session().evolutions.empty());
         open(std::to_string(seed) + "a.tsw");
+        ASSERT_EQ(evolutions(), parameters);
         const std::vector<QByteArray> drawnAgain = pictures();
         ASSERT_EQ(drawnAgain.size(), drawn.size());
         for (std::size_t i = 0; i < drawn.size(); ++i)

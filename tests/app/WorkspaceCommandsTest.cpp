@@ -8,11 +8,13 @@
 
 #include <QMouseEvent>
 #include <QTextEdit>
+#include <QTreeWidget>
 
 #include <gmock/gmock.h>
 
 #include <algorithm>
 #include <filesystem>
+#include <functional>
 
 #include <pwd.h>
 #include <unistd.h>
@@ -60,6 +62,21 @@ protected:
         for (const Series& series : plot().SeriesCollection())
             masses.push_back(series.Mode->Parent->Param.Mass);
         return masses;
+    }
+
+    /// Reference speeds, a damping line, a line of its own, edited parameters and a reference.
+    void makeWhatOnlyNewerFilesHold()
+    {
+        plot().AddRef(352.1F, QStringLiteral("Vd    "));
+        plot().AddRef(400, QStringLiteral("       VL"));
+        plot().AddDampLine(0.01F, QStringLiteral("g = 1.00 %"));
+        Series& series = plot().SeriesCollection()[3];
+        series.LineStyle = 2;
+        series.LineWidth = 3;
+        series.IthMpf = 2;
+        window.session().evolutions[0]->Param.Mass = "heavy";
+        window.session().evolutions[0]->Param.Mach = 0.62F;
+        window.explorer().setReference(window.session().evolutions[1].get());
     }
 
     void save(const std::string& name = "case.tsw")
@@ -208,6 +225,170 @@ TEST_F(WorkspaceCommandsTest, askBeforeChangesAreLost)
     choose("QuitMenu");
     EXPECT_TRUE(user.questions.empty()) << "another size of the window is no change";
     EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(WorkspaceCommandsTest, keepAllThatAUserMakes)
+{
+    work();
+    makeWhatOnlyNewerFilesHold();
+    save();
+    EXPECT_TRUE(user.messages.empty());
+    const std::string saved = bytes();
+    choose("mnuNewWorkspace");
+    EXPECT_TRUE(plot().Refs().empty());
+    open(folder.file("case.tsw"));
+    ASSERT_EQ(plot().Refs().size(), 2U);
+    EXPECT_EQ(plot().Refs()[1].Caption, QStringLiteral("       VL"));
+    ASSERT_EQ(plot().DampLines().size(), 1U);
+    EXPECT_EQ(plot().DampLines()[0].g, 0.01F);
+    const Series& series = plot().SeriesCollection()[3];
+    EXPECT_EQ(series.LineStyle, 2);
+    EXPECT_EQ(series.LineWidth, 3);
+    EXPECT_EQ(series.IthMpf, 2);
+    EXPECT_EQ(window.explorer().referenceEvolution(), &evolution(1));
+    EXPECT_EQ(evolution(0).Param.Mass, "heavy");
+    EXPECT_EQ(evolution(0).Param.Mach, 0.62F);
+    EXPECT_EQ(evolution(1).Param.Mach, evolution(1).paramOfFile().mach);
+    const auto* const tree = window.explorer().findChild<QTreeWidget*>();
+    EXPECT_EQ(tree->findItems(QStringLiteral("heavy"), Qt::MatchRecursive).size(), 1)
+        << "the tree shows it";
+    user.confirmations = {true};
+    save();
+    EXPECT_EQ(bytes(), saved);
+    choose("QuitMenu");
+    EXPECT_EQ(user.questions.size(), 1U) << "only whether to replace the file";
+    EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(WorkspaceCommandsTest, writeNothingNewWhereAUserMadeNothingNew)
+{
+    work();
+    for (Series& series : plot().SeriesCollection()) {
+        series.LineStyle = 0;
+        series.IthMpf = 0; // nobody chose one
+    }
+    save();
+    for (const char* const key : {"RefSpeed", "DampLine", "SerieLook", "Edited", "Reference"})
+        EXPECT_THAT(bytes(), Not(HasSubstr(std::string("\r\n") + key))) << key;
+}
+
+TEST_F(WorkspaceCommandsTest, askBeforeOnlyThatIsLostWhichNewerFilesHold)
+{
+    work();
+    const std::vector<std::function<void()>> changes = {
+        [this] { plot().AddRef(300, QStringLiteral("Vc")); },
+        [this] { plot().RemoveRef(); },
+        [this] { plot().AddDampLine(0.02F, QStringLiteral("g")); },
+        [this] { plot().RemoveDampLine(); },
+        [this] { plot().SeriesCollection()[0].LineStyle = 4; },
+        [this] { plot().SeriesCollection()[0].LineWidth = 2; },
+        [this] { plot().SeriesCollection()[0].IthMpf = 5; },
+        [this] { window.session().evolutions[1]->Param.Airplane = "X"; },
+        [this] { window.session().evolutions[1]->Param.Mass = "Y"; },
+        [this] { window.session().evolutions[1]->Param.Mach = 0.1F; },
+        [this] { window.explorer().setReference(window.session().evolutions[1].get()); }};
+    for (std::size_t i = 0; i < changes.size(); ++i) {
+        save(std::to_string(i) + ".tsw");
+        user.questions.clear();
+        changes[i]();
+        for (const char* command : {"mnuNewWorkspace", "OpenMenu", "QuitMenu"})
+            choose(command);
+        ASSERT_EQ(user.questions.size(), 3U) << "change " << i;
+        EXPECT_THAT(user.questions, Each(HasSubstr("has changed since it was last saved")));
+        EXPECT_TRUE(window.isVisible()) << "change " << i;
+    }
+}
+
+TEST_F(WorkspaceCommandsTest, passOverWhatDoesNotFitInNewerFiles)
+{
+    work();
+    makeWhatOnlyNewerFilesHold();
+    save();
+    std::string text = test::fileBytes(folder.file("case.tsw"));
+    const std::vector<std::pair<std::string, std::string>> replacements = {
+        {"RefSpeed(1)=352.1", "RefSpeed(1)=x"},
+        {"SerieLook(4)=2", "SerieLook(4)=9"},
+        {"Edited(1)=", "Edited(7)="},
+        {"Reference=2", "Reference=-2"}};
+    for (const auto& [part, replacement] : replacements)
+        text.replace(text.find(part), part.size(), replacement);
+    folder.write("damaged.tsw", text);
+    choose("mnuNewWorkspace");
+    open(folder.file("damaged.tsw"));
+    EXPECT_TRUE(user.messages.empty());
+    EXPECT_EQ(plot().Refs().size(), 1U);
+    EXPECT_EQ(plot().SeriesCollection()[3].LineStyle, 0);
+    EXPECT_EQ(window.explorer().referenceEvolution(), nullptr);
+    EXPECT_EQ(evolution(0).Param.editable(), evolution(0).paramOfFile());
+}
+
+TEST_F(WorkspaceCommandsTest, tellOfFilesThatAreCountedButNotListedAndOpenTheRest)
+{
+    work();
+    save();
+    std::string text = test::fileBytes(folder.file("case.tsw"));
+    const std::string count = "NoOfFiles=2";
+    text.replace(text.find(count), count.size(), "NoOfFiles=4");
+    folder.write("counted.tsw", text);
+    choose("mnuNewWorkspace");
+    open(folder.file("counted.tsw"));
+    ASSERT_EQ(user.messages.size(), 1U);
+    EXPECT_EQ(user.messages[0].text,
+              "Modal evolution file not found:\nfile 3 of the list, which has no path\n"
+              "file 4 of the list, which has no path");
+    EXPECT_EQ(window.session().evolutions.size(), 2U);
+    EXPECT_EQ(plot().SeriesCollection().size(), 14U);
+    EXPECT_EQ(window.evolPlot().plots().size(), 2U);
+}
+
+TEST_F(WorkspaceCommandsTest, keepTheRowOfTheHeader)
+{
+    work();
+    save();
+    std::string text = test::fileBytes(folder.file("case.tsw"));
+    const std::size_t start = text.find("HeadPos=") + 8;
+    const std::size_t end = text.find("\r\n", start);
+    const std::string left = text.substr(start, text.find('\0', start) - start);
+    text.replace(start, end - start, "7" + std::string(1, '\0') + "450");
+    folder.write("low.tsw", text);
+    choose("mnuNewWorkspace");
+    open(folder.file("low.tsw"));
+    EXPECT_EQ(plot().Header().Top(), 30) << "450 twentieths of a point at 96 per inch";
+    user.saveFiles.push_back(folder.file("again.tsw"));
+    choose("mnuSaveWorkspace");
+    EXPECT_THAT(bytes("again.tsw"),
+                HasSubstr("HeadPos=" + left + std::string(1, '\0') + "450\r\n"));
+    choose("mnuNewWorkspace");
+    EXPECT_EQ(plot().Header().Top(), 4) << "the row of a new plot";
+}
+
+TEST_F(WorkspaceCommandsTest, keepEveryCharacterOfALongHeader)
+{
+    work();
+    for (const int length : {928, 929, 940}) {
+        plot().setBoxText(0, QString(length, u'x'));
+        const std::string name = std::to_string(length) + ".tsw";
+        save(name);
+        EXPECT_EQ(user.statuses.back(), "Ready");
+        choose("mnuNewWorkspace");
+        open(folder.file(name));
+        EXPECT_EQ(plot().Header().Text().size(), length);
+    }
+}
+
+TEST_F(WorkspaceCommandsTest, sayWhichCaptionsWillBeCut)
+{
+    work();
+    plot().AddRef(300, QString(1024, u'x'));
+    plot().AddDampLine(0, QString(1023, u'x'));
+    save();
+    EXPECT_THAT(user.statuses.back(), StartsWith("RefSpeed(1) of [PLOT1] is longer than 1023 "));
+    choose("mnuNewWorkspace");
+    open(folder.file("case.tsw"));
+    EXPECT_EQ(user.statuses.back(),
+              "RefSpeed(1) of [PLOT1] is cut: the format takes 1023 characters of each.");
+    EXPECT_EQ(plot().Refs().at(0).Caption.size(), 1023);
+    EXPECT_EQ(plot().DampLines().at(0).Caption.size(), 1023);
 }
 
 TEST_F(WorkspaceCommandsTest, doNothingWhenADialogIsCancelled)

@@ -142,6 +142,45 @@ TEST_F(CheckOfAWorkspace, findsCountsThatDisagreeWithWhatFollows)
               "25: [PLOT1], Serie(1): is passed over: NoOfSeries is 0\n");
 }
 
+TEST_F(CheckOfAWorkspace, isSilentAboutMarksLooksAndEditedParametersThatFit)
+{
+    WorkspaceRecord record = settled();
+    record.edited = {{2, {"QRX", "B", 0.62F}}};
+    record.reference = 1;
+    record.plots[0].referenceSpeeds = {{352.1F, std::string(1023, 'x')}};
+    record.plots[0].dampingLines = {{0.01F, "g = 1.00 %"}};
+    record.plots[0].series[1].lineStyle = 2;
+    const auto result = runBatch({"check", write(record)});
+    EXPECT_EQ(result.out + result.err, "");
+    EXPECT_EQ(result.status, 0);
+}
+
+TEST_F(CheckOfAWorkspace, findsMarksLooksAndEditedParametersThatDoNotFit)
+{
+    EXPECT_EQ(findingsWith("[PLOTS]\r\n", "Reference=3\r\nEdited(1)=x\r\n[PLOTS]\r\n"),
+              "11: [MODAL EVOLUTION FILES], Reference: is passed over: Invalid procedure call or "
+              "argument: there is no file 3\n"
+              "12: [MODAL EVOLUTION FILES], Edited(1): is passed over: Subscript out of range: "
+              "Edited(1) needs 3 fields and has 1: \"x\"\n");
+    EXPECT_EQ(findingsWith("[END", "RefSpeed(1)=x\r\n[END"),
+              "40: [PLOT2], RefSpeed(1): is passed over: Subscript out of range: RefSpeed(1) needs "
+              "2 fields and has 1: \"x\"\n");
+    WorkspaceRecord record = settled();
+    record.plots[0].dampingLines = {{0.01F, std::string(1030, 'x')}};
+    EXPECT_EQ(findings(record),
+              "27: [PLOT1], DampLine(1): a text of it has 1030 bytes; the format takes 1023\n");
+}
+
+TEST_F(CheckOfAWorkspace, findsFilesThatAreCountedButNotListed)
+{
+    EXPECT_EQ(findingsWith("NoOfFiles=2", "NoOfFiles=4"),
+              "8: [MODAL EVOLUTION FILES], NoOfFiles: counts File(3), which is missing\n"
+              "8: [MODAL EVOLUTION FILES], NoOfFiles: counts File(4), which is missing\n");
+    WorkspaceRecord record = settled();
+    record.files.emplace_back();
+    EXPECT_EQ(findings(record), "11: [MODAL EVOLUTION FILES], File(3): says no path\n");
+}
+
 TEST_F(CheckOfAWorkspace, listsFindingsInTheOrderOfTheirLines)
 {
     // A section that comes again goes on; a key that comes again does not count.

@@ -41,6 +41,7 @@ TEST_F(InfoOfAWorkspace, givesTheWholeRecordAsJson)
         R"({"workspace":{"description":"Goland wing, clean","created":"07-Mar-2024 14:05:31",)"
         R"("modified":"08-Mar-2024 09:00:00",)"
         R"("files":["C:\\flutter\\clean.evm","C:\\flutter\\store.ev2"],)"
+        R"("edited":[],"reference":null,)"
         R"("plots":[{"caption":"Plot1","header":{"text":"Wing","runs":[)"
         + run("Wing", "false", "null")
         + R"(],"left":1500,"top":120},"legend":{"text":"1\n2","runs":[)"
@@ -51,10 +52,12 @@ TEST_F(InfoOfAWorkspace, givesTheWholeRecordAsJson)
           R"json("frequency_axis":{"label":"f(Hz)","min":0,"max":50,"ticks":5},)json"
           R"("damping_axis":{"label":"g","min":0,"max":-0.25,"ticks":5},)"
           R"("series":[{"evolution":1,"mode":3,"tag":"","marker_size":8,"marker_spacing":5,)"
-          R"("marker_style":1,"legend":"clean","color":"#ff0000","marker_color":"#000000"},)"
+          R"("marker_style":1,"legend":"clean","color":"#ff0000","marker_color":"#000000",)"
+          R"("line_style":0,"line_width":0,"factor":1},)"
           R"({"evolution":2,"mode":1,"tag":"s","marker_size":10,"marker_spacing":0,)"
           R"("marker_style":2,"legend":"store, half full","color":"#0000ff",)"
-          R"("marker_color":"#008000"}]}]}})"
+          R"("marker_color":"#008000","line_style":0,"line_width":0,"factor":1}],)"
+          R"("reference_speeds":[],"damping_lines":[]}]}})"
           "\n";
     EXPECT_EQ(json(drawn(wholeWorkspace)), expected);
 }
@@ -82,7 +85,7 @@ TEST_F(InfoOfAWorkspace, givesNothingForWhatIsAbsent)
     EXPECT_THAT(text, HasSubstr(R"("header":{"text":"","runs":[],"left":null,"top":null})"));
     EXPECT_THAT(text, HasSubstr(R"("legend":{"text":"","runs":[],"left":1,"top":2.5})"));
     EXPECT_THAT(text, HasSubstr(R"("files":[],)"));
-    EXPECT_THAT(text, HasSubstr(R"("series":[]}]}})"));
+    EXPECT_THAT(text, HasSubstr(R"("series":[],"reference_speeds":[],"damping_lines":[]}]}})"));
     record.plots.clear();
     EXPECT_THAT(json(test::fileBytes(write(record))), HasSubstr(R"("plots":[]}})"));
 }
@@ -151,6 +154,42 @@ TEST_F(InfoOfAWorkspace, givesTextForPeople)
               "  speed axis             V(keas) from 0 to 450, 9 ticks\n"
               "  frequency axis         f(Hz) from 0 to 20, 4 ticks\n"
               "  damping axis           g from 0 to -2, 4 ticks\n");
+}
+
+TEST_F(InfoOfAWorkspace, givesMarksLooksAndEditedParameters)
+{
+    WorkspaceRecord record = this->record();
+    record.files.emplace_back();
+    record.edited = {{2, {"QRX", "Flügel \"B\"", 0.62F}}};
+    record.reference = 1;
+    record.plots[0].referenceSpeeds = {{352.1F, "Vd  "}, {400, ""}};
+    record.plots[0].dampingLines = {{0.01F, "g = 1.00 %"}};
+    record.plots[0].series[1].lineStyle = 2;
+    record.plots[0].series[1].lineWidth = 3;
+    record.plots[0].series[1].factor = 4;
+    const std::string path = write(record);
+    const std::string text = json(test::fileBytes(path));
+    EXPECT_THAT(text,
+                HasSubstr(R"(old.evm",null],"edited":[{"evolution":2,"airplane":"QRX",)"
+                          R"("mass":"Flügel \"B\"","mach":0.62}],"reference":1,"plots")"));
+    EXPECT_THAT(text, HasSubstr(R"("line_style":2,"line_width":3,"factor":4}])"));
+    EXPECT_THAT(text,
+                HasSubstr(R"("reference_speeds":[{"speed":352.1,"caption":"Vd  "},)"
+                          R"({"speed":400,"caption":""}],)"
+                          R"("damping_lines":[{"damping":0.01,"caption":"g = 1.00 %"}]})"));
+    const auto people = runBatch({"info", path});
+    EXPECT_THAT(people.out,
+                HasSubstr("  file 2                 C:\\flutter\\old.evm\n"
+                          "  file 3                 not in the list\n"
+                          "  edited, file 2         QRX, Flügel \"B\", Mach 0.62\n"
+                          "  reference              file 1\n"));
+    EXPECT_THAT(people.out,
+                HasSubstr("  damping axis           g from 0 to -2, 4 ticks\n"
+                          "  reference speed        352.1  Vd  \n"
+                          "  reference speed        400\n"
+                          "  damping line           0.01  g = 1.00 %\n"
+                          " evolution"));
+    EXPECT_THAT(people.out, HasSubstr("  old\n  line of series 2       style 2, 3 px\n\n"));
 }
 
 TEST_F(InfoOfAWorkspace, standsAlone)

@@ -110,6 +110,48 @@ TEST_F(PictureOfAWorkspace, takesTextsScaleAndSizeOfTheCommandLine)
     EXPECT_THAT(fileBytes(file("out.svg")), HasSubstr("viewBox=\"0 0 800 600\""));
 }
 
+TEST_F(PictureOfAWorkspace, hasTheMarksAndLinesThatWereSaved)
+{
+    WorkspaceRecord record = this->record();
+    const auto picture = [&] {
+        EXPECT_EQ(draw({"--plot=1", write(record)}).status, 0);
+        return fileBytes(file("out.svg"));
+    };
+    const std::string plain = picture();
+    record.plots[0].series[0].lineWidth = 5;
+    EXPECT_NE(picture(), plain);
+    record.plots[0].series[0].markerStyle = 3;
+    record.plots[0].series[0].factor = 1;
+    picture();
+    // The first factor of a point of the evolution is ten times its frequency, 10 Hz.
+    EXPECT_THAT(texts("out.svg"), HasSubstr("|100|"));
+    record.plots[0].series[0].factor = 5;
+    picture();
+    EXPECT_THAT(texts("out.svg"), HasSubstr("|0.5|"));
+    record.plots[0].referenceSpeeds = {{300, "VD"}};
+    record.plots[0].dampingLines = {{-0.5F, "half"}};
+    const auto result = draw(
+        {"--plot=1", "--reference-speed", "200=VC", "--damping-line", "-1=one", write(record)});
+    EXPECT_EQ(result.status, 0) << result.err;
+    for (const char* text : {"|VD|", "|half|", "|VC|", "|one|"})
+        EXPECT_THAT(texts("out.svg"), HasSubstr(text));
+}
+
+TEST_F(PictureOfAWorkspace, hasItsHeaderInTheRowThatWasSaved)
+{
+    WorkspaceRecord record = this->record();
+    record.plots[0].header.position = {0, 15 * 40};
+    EXPECT_EQ(draw({"--plot=1", write(record)}).status, 0);
+    const std::string low = fileBytes(file("out.svg"));
+    record.plots[0].header.position = {0, 60}; // that of a new plot
+    EXPECT_EQ(draw({"--plot=1", write(record)}).status, 0);
+    const std::string usual = fileBytes(file("out.svg"));
+    EXPECT_NE(low, usual);
+    record.plots[0].header.position.reset();
+    EXPECT_EQ(draw({"--plot=1", write(record)}).status, 0);
+    EXPECT_EQ(fileBytes(file("out.svg")), usual);
+}
+
 TEST_F(PictureOfAWorkspace, canTakeATextAway)
 {
     EXPECT_EQ(draw({"--plot=1", "--header", "", write(record())}).status, 0);

@@ -57,6 +57,35 @@ TEST_F(ReportOfAWorkspace, hasARowForEachSeriesInOrder)
     EXPECT_EQ(rows(), "wing.ev2 torsion 5 250|old.evm  7 150|wing.ev2 bending 3 350|");
 }
 
+TEST_F(ReportOfAWorkspace, hasTheParametersThatWereEdited)
+{
+    WorkspaceRecord record = this->record();
+    record.edited = {{1, {"QRX", "heavy", 0.5F}}, {2, {"old", "empty", 0.25F}}};
+    const std::string edited = write(record, "edited.tsw");
+    const std::string plain = write(this->record());
+    EXPECT_EQ(report({edited, plain, wing}).status, 0);
+    const std::string text = fileBytes(file("out.csv"));
+    EXPECT_THAT(text, HasSubstr("\r\nwing.ev2,torsion,heavy,0.5,5,"));
+    EXPECT_THAT(text, HasSubstr("\r\nold.evm,,empty,0.25,7,"));
+    // The same files are what they say everywhere else.
+    EXPECT_THAT(text, HasSubstr("\r\nwing.ev2,torsion,\"FULL \"\"A\"\"\",0.78,5,"));
+    EXPECT_THAT(text, HasSubstr("\r\nold.evm,,,0,7,"));
+}
+
+TEST_F(ReportOfAWorkspace, saysWhichFileHasNoPath)
+{
+    WorkspaceRecord record = this->record();
+    record.files[1].clear();
+    const std::string path = write(record);
+    const auto result = report({path});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.err,
+              "tarsil-batch: " + path
+                  + ": the series of modal evolution 2 are left out: the workspace does not say "
+                    "its path\n");
+    EXPECT_EQ(rows(), "wing.ev2 torsion 5 250|wing.ev2 bending 3 350|");
+}
+
 TEST_F(ReportOfAWorkspace, takesThePlotAskedFor)
 {
     const std::string path = write(record());

@@ -58,7 +58,8 @@ protected:
 
     std::vector<EVM*> loadListed(const Texts& paths)
     {
-        return mdlMain::loadListedEvolutions(session, paths, user, [this] { ++refreshes; });
+        return mdlMain::loadListedEvolutions(
+            session, paths, user, [this](const mdlMain::ListedEvolutions&) { ++refreshes; });
     }
 
     /// The paths of so many files that are not there.
@@ -343,6 +344,16 @@ TEST_F(EvolutionLoader, tellsOfAllMissingListedFilesAtOnce)
     loadListed(missing);
     loadListed(missingPaths(23));
     EXPECT_EQ(user.messages, std::vector<Message>({notFound(all), notFound(all + "\nand 3 more")}));
+}
+
+TEST_F(EvolutionLoader, tellsOfListedFilesWithoutPathWithTheOthers)
+{
+    loadListed({writeEvolution("wing.evm"), "", folder.file("gone.evm"), ""});
+    EXPECT_EQ(user.messages,
+              std::vector<Message>(
+                  {notFound("file 2 of the list, which has no path\n" + folder.file("gone.evm")
+                            + "\nfile 4 of the list, which has no path")}));
+    EXPECT_EQ(openNames(), Texts({"wing.evm"}));
 }
 
 TEST_F(EvolutionLoader, tellsOfFilesThatTheUserChoseOneByOne)

@@ -48,6 +48,18 @@ protected:
 
     std::vector<const EVM*> evolutions() const { return {&one, &two}; }
 
+    /// Fills another plot with what a file keeps of this one.
+    void throughAFile(EvmPlot& other)
+    {
+        WorkspaceRecord saved;
+        saved.files = {"/a\\one.evm", "/a\\two.evm"};
+        saved.plots = {recordOf(plot, evolutions())};
+        WorkspaceRecord read;
+        readWorkspace(writeWorkspace(saved, "user").bytes, "test.tsw", read);
+        other.setCaption(QString::fromStdString(read.plots[0].caption));
+        applyRecord(read.plots[0], {&one, &two}, other);
+    }
+
     EVM one;
     EVM two;
     EvmPlot plot;
@@ -73,14 +85,9 @@ TEST_F(PlotRecords, holdWhatAPlotShows)
 
 TEST_F(PlotRecords, makeTheSamePlotAgainThroughTheBytesOfAFile)
 {
-    WorkspaceRecord saved;
-    saved.files = {"/a\\one.evm", "/a\\two.evm"};
-    saved.plots = {recordOf(plot, evolutions())};
-    WorkspaceRecord read;
-    readWorkspace(writeWorkspace(saved, "user").bytes, "test.tsw", read);
     EvmPlot other;
-    applyRecord(read.plots[0], {&one, &two}, other);
-    EXPECT_EQ(recordOf(other, evolutions()).series, saved.plots[0].series);
+    throughAFile(other);
+    EXPECT_EQ(recordOf(other, evolutions()).series, recordOf(plot, evolutions()).series);
     EXPECT_EQ(other.Header().content(), plot.Header().content());
     EXPECT_EQ(other.Header().Text(), QStringLiteral("first\r\nsecond"));
     EXPECT_EQ(other.Legend().unitsLeft(), 1500);
@@ -89,7 +96,90 @@ TEST_F(PlotRecords, makeTheSamePlotAgainThroughTheBytesOfAFile)
     EXPECT_EQ(other.fthicks(), 6);
     EXPECT_EQ(other.gthicks(), 4);
     EXPECT_EQ(other.gLabel(), QStringLiteral("damping"));
-    EXPECT_EQ(other.SeriesCollection()[0].IthMpf, 1) << "not in the file";
+    EXPECT_EQ(other.SeriesCollection()[0].IthMpf, 1) << "the first, where nobody chose one";
+}
+
+TEST_F(PlotRecords, keepMarksAndLooksThroughTheBytesOfAFile)
+{
+    plot.AddRef(352.1F, QStringLiteral("Vd    "));
+    plot.AddRef(400, QStringLiteral("       α"));
+    plot.AddDampLine(0.01F, QStringLiteral("g = 1.00 %"));
+    plot.AddDampLine(-0.03F, QString());
+    Series& series = plot.SeriesCollection()[0];
+    series.LineStyle = 2;
+    series.LineWidth = 4;
+    series.IthMpf = 3;
+    EvmPlot other;
+    throughAFile(other);
+    ASSERT_EQ(other.Refs().size(), 2U);
+    EXPECT_EQ(other.Refs()[0].Speed, 352.1F);
+    EXPECT_EQ(other.Refs()[0].Caption, QStringLiteral("Vd    "));
+    EXPECT_EQ(other.Refs()[1].Caption, QStringLiteral("       α"));
+    const std::vector<RefLine>& lines = other.vgPlot().lines();
+    ASSERT_EQ(lines.size(), 2U);
+    EXPECT_EQ(lines[0].Caption, QStringLiteral("g = 1.00 %"));
+    EXPECT_EQ(lines[0].Y1, 0.01F);
+    EXPECT_EQ(lines[0].Y2, 0.01F);
+    EXPECT_EQ(lines[0].X1, 10) << "across the speed range";
+    EXPECT_EQ(lines[0].X2, 450);
+    EXPECT_EQ(lines[1].Y1, -0.03F);
+    ASSERT_EQ(other.SeriesCollection().size(), 2U);
+    EXPECT_EQ(other.SeriesCollection()[0].LineStyle, 2);
+    EXPECT_EQ(other.SeriesCollection()[0].LineWidth, 4);
+    EXPECT_EQ(other.SeriesCollection()[0].IthMpf, 3);
+    EXPECT_EQ(other.SeriesCollection()[1].LineStyle, 0);
+    EXPECT_EQ(recordOf(other, evolutions()), recordOf(plot, evolutions()));
+}
+
+TEST_F(PlotRecords, takeTheMarksOfTheFileForThoseOfThePlot)
+{
+    const PlotRecord record = recordOf(plot, evolutions());
+    plot.AddRef(1, QStringLiteral("old"));
+    plot.AddDampLine(1, QStringLiteral("old"));
+    plot.SeriesCollection().clear();
+    applyRecord(record, {&one, &two}, plot);
+    EXPECT_TRUE(plot.Refs().empty());
+    EXPECT_TRUE(plot.DampLines().empty());
+}
+
+TEST_F(PlotRecords, putTheHeaderIntoTheRowOfTheFileAndKeepItsColumn)
+{
+    PlotRecord record = recordOf(plot, evolutions());
+    const QPoint usual = plot.Header().geometry().topLeft();
+    record.header.position = {9000, 300.5};
+    applyRecord(record, {&one, &two}, plot);
+    // 300.5 twentieths of a point are 20 pixels at 96 per inch.
+    EXPECT_EQ(plot.Header().geometry().topLeft(), QPoint(usual.x(), 20));
+    plot.resize({1200, 900});
+    EXPECT_EQ(plot.Header().Top(), 20);
+    plot.moveBox(0, 15, 4500);
+    EXPECT_EQ(plot.Header().Top(), 20) << "a dragged header goes back to its row";
+    EvmPlot copy;
+    copy.Clone(plot);
+    EXPECT_EQ(copy.Header().Top(), 20);
+    EXPECT_EQ(recordOf(plot, evolutions()).header.position->top, 300.5);
+}
+
+TEST_F(PlotRecords, keepARowThatLiesBeyondThePlot)
+{
+    PlotRecord record = recordOf(plot, evolutions());
+    for (const double top : {1e9, -1e9, 1e300, -1e300}) {
+        record.header.position->top = top;
+        applyRecord(record, {&one, &two}, plot);
+        EXPECT_TRUE(QRect(QPoint(), plot.size()).intersects(plot.Header().geometry())) << top;
+        EXPECT_EQ(recordOf(plot, evolutions()).header.position->top, top);
+    }
+}
+
+TEST_F(PlotRecords, keepEveryCharacterOfAHeaderThatOnlyItsShortFormHoldsWhole)
+{
+    // The full form of one line in one font takes 93 characters besides the text, the short 74.
+    for (int length = 925; length <= 945; ++length) {
+        plot.setBoxText(0, QString(length, u'x'));
+        EvmPlot other;
+        throughAFile(other);
+        EXPECT_EQ(other.Header().Text().size(), length);
+    }
 }
 
 TEST_F(PlotRecords, keepPointingAtTheRightModesWhenAFileIsMissing)

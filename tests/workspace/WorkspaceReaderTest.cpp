@@ -69,7 +69,7 @@ TEST(WorkspaceReader, hasThreeBlanksForMissingGeneralTexts)
 {
     const WorkspaceRecord record =
         readDrawn("[MODAL EVOLUTION FILES]\nNoOfFiles=0\n[PLOTS]\nNoOfPlots=0\n");
-    EXPECT_EQ(record, (WorkspaceRecord {"   ", "   ", "   ", {}, {}}));
+    EXPECT_EQ(record, (WorkspaceRecord {"   ", "   ", "   "}));
 }
 
 TEST(WorkspaceReader, opensFilesWithoutPlots)
@@ -196,7 +196,6 @@ TEST(WorkspaceReader, tellsTheValueAtWhichItEnds)
         return reading.section + ", " + reading.key;
     };
     EXPECT_EQ(endOf("NoOfFiles=2", "NoOfFiles=two"), "MODAL EVOLUTION FILES, NoOfFiles");
-    EXPECT_EQ(endOf("File(2)", "File(9)"), "MODAL EVOLUTION FILES, File(2)");
     EXPECT_EQ(endOf("[PLOTS]\n", ""), "PLOTS, NoOfPlots");
     EXPECT_EQ(endOf("-30\n", "\n"), "PLOT1, MechPos");
     EXPECT_EQ(endOf("=2|1|s", "=2|one|s"), "PLOT1, Serie(2)");

@@ -31,6 +31,7 @@ private:
     std::string field();
     std::string text();
     TextRecord box();
+    std::vector<MarkRecord> marks();
     AxisRecord axis() { return {field(), single(), single(), integer<std::int16_t>()}; }
     SeriesRecord series();
     PlotRecord plot();
@@ -77,23 +78,42 @@ SeriesRecord Generator::series()
     record.legendText = field();
     record.colorIndex = integer<std::int32_t>();
     record.markerForegroundColor = integer<std::int32_t>();
+    if (below(2) == 0) {
+        record.lineStyle = static_cast<std::int32_t>(below(6));
+        record.lineWidth = static_cast<std::int16_t>(integer<std::uint16_t>() / 2);
+        record.factor = static_cast<std::int32_t>(1 + integer<std::uint32_t>() / 4);
+    }
     return record;
+}
+
+std::vector<MarkRecord> Generator::marks()
+{
+    std::vector<MarkRecord> marks;
+    for (std::size_t left = below(4); left > 0; --left)
+        marks.push_back({single(), field()});
+    return marks;
 }
 
 PlotRecord Generator::plot()
 {
-    PlotRecord record {text(), box(), box(), box(), axis(), axis(), axis(), {}};
+    PlotRecord record {text(), box(), box(), box(), axis(), axis(), axis(), {}, {}, {}};
     for (std::size_t left = below(12); left > 0; --left)
         record.series.push_back(series());
+    record.referenceSpeeds = marks();
+    record.dampingLines = marks();
     return record;
 }
 
 WorkspaceRecord Generator::record()
 {
     // An empty description would be read as one that nobody gave.
-    WorkspaceRecord record {"d" + text(), text(), text(), {}, {}};
-    for (std::size_t left = below(6); left > 0; --left)
+    WorkspaceRecord record {"d" + text(), text(), text(), {}, {}, {}, 0};
+    for (std::size_t left = below(6); left > 0; --left) {
         record.files.push_back(text());
+        if (below(3) == 0)
+            record.edited[record.files.size()] = {field(), field(), single()};
+    }
+    record.reference = static_cast<std::int16_t>(below(record.files.size() + 1));
     for (std::size_t left = below(4); left > 0; --left)
         record.plots.push_back(plot());
     return record;
@@ -176,6 +196,8 @@ TEST(WorkspaceRoundTrip, keepsEveryNumberHoweverLongTheTextsAre)
         WorkspaceRecord record = Generator(seed, Kind::Clean).record();
         for (PlotRecord& plot : record.plots) {
             plot.gAxis.label.insert(0, seed * 7, 'g');
+            for (MarkRecord& mark : plot.referenceSpeeds)
+                mark.caption.insert(0, seed * 7, 'm');
             for (SeriesRecord& series : plot.series)
                 series.legendText.insert(0, seed * 7, 'l');
         }
@@ -183,6 +205,11 @@ TEST(WorkspaceRoundTrip, keepsEveryNumberHoweverLongTheTextsAre)
         ASSERT_EQ(again.plots.size(), record.plots.size()) << seed;
         for (std::size_t j = 0; j < record.plots.size(); ++j) {
             again.plots[j].gAxis.label = record.plots[j].gAxis.label;
+            ASSERT_EQ(again.plots[j].referenceSpeeds.size(),
+                      record.plots[j].referenceSpeeds.size());
+            for (std::size_t i = 0; i < record.plots[j].referenceSpeeds.size(); ++i)
+                again.plots[j].referenceSpeeds[i].caption =
+                    record.plots[j].referenceSpeeds[i].caption;
             ASSERT_EQ(again.plots[j].series.size(), record.plots[j].series.size()) << seed;
             for (std::size_t i = 0; i < record.plots[j].series.size(); ++i)
                 again.plots[j].series[i].legendText = record.plots[j].series[i].legendText;
