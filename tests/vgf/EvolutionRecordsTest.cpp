@@ -15,7 +15,8 @@ protected:
     EvolutionRecords()
     {
         folder.write("wing.ev2",
-                     "[MODEL DATA INFO]\nAirplane=QRX190\nMass_config=FULL\nMach_number=0.78\n"
+                     "[PROCESSING DATA INFO]\nProgram_version=7.1\n\n"
+                     "[MODEL DATA INFO]\nAirplane=QRX190\nMass_config=FULL\nMach_number=0.78\n\n"
                      "[RESULT DATA SUMMARY]\n-\n-\n-\n-\n"
                      "1|1|1.5|-2.5||100|-1|4|||4||0||0||0||0||\n");
         for (EVM* const evolution : {&one, &two}) {
