@@ -1,9 +1,14 @@
 #include "ReferenceReaders.h"
 
-#include "runtime/MappedFile.h"
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <charconv>
+#include <cstdlib>
 #include <fstream>
+#include <iostream>
 #include <string_view>
 
 namespace tarsil::benchmarks {
@@ -46,6 +51,39 @@ struct Stof
 
     static float single(const Text& text) { return std::stof(text); }
     static int integer(const Text& text) { return std::stoi(text); }
+};
+
+/// A file's bytes, mapped into memory.
+class MappedFile
+{
+public:
+    explicit MappedFile(const std::string& path)
+    {
+        const int handle = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+        struct stat status = {};
+        if (handle < 0 || ::fstat(handle, &status) != 0)
+            giveUp(path);
+        m_size = static_cast<std::size_t>(status.st_size);
+        m_start = ::mmap(nullptr, m_size, PROT_READ, MAP_PRIVATE | MAP_POPULATE, handle, 0);
+        if (m_start == MAP_FAILED)
+            giveUp(path);
+        ::close(handle);
+    }
+    ~MappedFile() { ::munmap(m_start, m_size); }
+    MappedFile(const MappedFile&) = delete;
+    MappedFile& operator=(const MappedFile&) = delete;
+
+    std::string_view bytes() const { return {static_cast<const char*>(m_start), m_size}; }
+
+private:
+    [[noreturn]] static void giveUp(const std::string& path)
+    {
+        std::cerr << path << " cannot be mapped\n";
+        std::exit(EXIT_FAILURE);
+    }
+
+    void* m_start = nullptr;
+    std::size_t m_size = 0;
 };
 
 class MappedLines

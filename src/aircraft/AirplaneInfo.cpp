@@ -1,7 +1,7 @@
 #include "aircraft/AirplaneInfo.h"
 
 #include "aircraft/AirplaneInfoReader.h"
-#include "runtime/MappedFile.h"
+#include "runtime/InputFile.h"
 #include "runtime/PathNames.h"
 #include "runtime/TextStream.h"
 
@@ -52,7 +52,7 @@ const Record* findNamed(const std::vector<Record>& records, std::string Record::
 
 void AirplaneInfo::Create()
 {
-    const MappedFile file(Filename);
+    const FileBytes file(Filename);
     TextStream stream(file.bytes(), shownPath(Filename));
     AirplaneInfo empty;
     empty.Filename = Filename;

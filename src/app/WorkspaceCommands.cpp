@@ -6,7 +6,7 @@
 #include "runtime/AtomicFile.h"
 #include "runtime/BusyStatus.h"
 #include "runtime/ErrorGuard.h"
-#include "runtime/MappedFile.h"
+#include "runtime/InputFile.h"
 #include "runtime/PathNames.h"
 #include "runtime/RunTimeError.h"
 #include "vgf/EvolutionRecords.h"
@@ -218,7 +218,7 @@ void WorkspaceCommands::OpenWorkSpace(const std::string& path)
 /// place of none.
 void WorkspaceCommands::open(const std::string& path)
 {
-    const MappedFile file(path);
+    const FileBytes file(path);
     const WorkspaceReading reading = tryToReadWorkspace(file.bytes(), shownPath(path));
     const WorkspaceRecord& record = reading.record;
     FirstFailure failure;

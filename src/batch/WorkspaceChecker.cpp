@@ -3,7 +3,7 @@
 #include "batch/WorkspaceInput.h"
 #include "model/CheckerParts.h"
 #include "plot/RtfReader.h"
-#include "runtime/MappedFile.h"
+#include "runtime/InputFile.h"
 #include "runtime/PathNames.h"
 #include "runtime/RtfStoredValue.h"
 #include "workspace/FoundFiles.h"
@@ -223,7 +223,7 @@ void WorkspaceChecker::checkSeries(BatchRun& run)
 
 std::vector<Finding> checkWorkspace(const std::string& path, BatchRun& run)
 {
-    const MappedFile file(path);
+    const FileBytes file(path);
     return WorkspaceChecker(file.bytes(), path).check(run);
 }
 

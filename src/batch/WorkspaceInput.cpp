@@ -2,7 +2,7 @@
 
 #include "batch/BatchRun.h"
 #include "model/EVM.h"
-#include "runtime/MappedFile.h"
+#include "runtime/InputFile.h"
 #include "runtime/PathNames.h"
 #include "runtime/RunTimeError.h"
 #include "vgf/EvolutionRecords.h"
@@ -152,7 +152,7 @@ void checkWorkspaceOptions(const CommandLine& line, const std::vector<std::strin
 
 WorkspaceRecord readWorkspaceFile(const std::string& path)
 {
-    const MappedFile file(path);
+    const FileBytes file(path);
     WorkspaceRecord record;
     readWorkspace(file.bytes(), shownPath(path), record);
     return record;

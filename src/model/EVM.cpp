@@ -3,14 +3,34 @@
 #include "model/EvolutionReaders.h"
 #include "model/EvolutionWriter.h"
 #include "runtime/AtomicFile.h"
-#include "runtime/MappedFile.h"
+#include "runtime/FileLines.h"
 #include "runtime/PathNames.h"
+#include "runtime/RunTimeError.h"
 #include "runtime/TextCodec.h"
 #include "runtime/TextStream.h"
 
 #include <utility>
 
 namespace tarsil {
+
+namespace {
+
+/// That another program was writing the file says more than what was found amiss in it then.
+void readContents(const std::string& path, void (*reader)(TextStream& stream, EVM& evolution),
+                  EVM& contents)
+{
+    FileLines file(path);
+    try {
+        TextStream stream(file, shownPath(path));
+        reader(stream, contents);
+    } catch (const RunTimeError&) {
+        file.requireUnchanged();
+        throw;
+    }
+    file.requireUnchanged();
+}
+
+} // namespace
 
 std::string EVM::path() const
 {
@@ -31,22 +51,15 @@ void EVM::Contruct()
     const std::optional<EvolutionLayout> layout = layoutOf(FileName);
     if (!layout)
         return;
-    const MappedFile file(path());
-    TextStream stream(file.bytes(), shownPath(path()));
     EVM contents;
-    if (layout == EvolutionLayout::FixedColumns)
-        readEvm(stream, contents);
-    else
-        readEv2(stream, contents);
+    readContents(path(), *layout == EvolutionLayout::FixedColumns ? readEvm : readEv2, contents);
     takeFileContents(contents);
 }
 
 void EVM::contructFromSemicolonFile()
 {
-    const MappedFile file(path());
-    TextStream stream(file.bytes(), shownPath(path()));
     EVM contents;
-    readSemicolonTable(stream, contents);
+    readContents(path(), readSemicolonTable, contents);
     takeFileContents(contents);
 }
 

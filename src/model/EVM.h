@@ -59,7 +59,7 @@ public:
 
     /// Fills the evolution from its file; `Folder` and `FileName` must be set. The name tells the
     /// layout (`layoutOf`); when it tells none the evolution stays empty. Errors: those
-    /// of opening a file; 13 or 6 for a field that is no number, 9 for a row with too few fields,
+    /// of reading a file; 13 or 6 for a field that is no number, 9 for a row with too few fields,
     /// 62 for a file that ends before its results, 457 for a repeated key, each naming file, line
     /// and text. After an error the evolution is as it was before.
     void Contruct();

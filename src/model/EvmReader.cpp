@@ -1,6 +1,7 @@
 #include "model/EVM.h"
 #include "model/EvmLayout.h"
 #include "model/EvolutionReaders.h"
+#include "runtime/FileLines.h"
 #include "runtime/Numbers.h"
 #include "runtime/ShortNumber.h"
 #include "runtime/TextStream.h"
@@ -40,7 +41,7 @@ private:
     std::size_t m_offset = 0; ///< 0 or 40: where the next field begins
     bool m_hasLine = false;
     std::int16_t m_modeNumber = 0;
-    std::string_view m_modeNumberText; ///< the columns that gave it
+    std::string m_modeNumberText; ///< the columns that gave it
 };
 
 /// For columns known when this is compiled, so that reading them is made for their width.
@@ -78,11 +79,6 @@ bool hasDamping(std::string_view field)
 {
     constexpr std::size_t last = evmlayout::damping.first + evmlayout::damping.width - 1;
     return field.size() > last && field[last] > ' ';
-}
-
-bool isBlank(std::string_view text)
-{
-    return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
 }
 
 void EvmReader::read()
@@ -134,8 +130,8 @@ bool EvmReader::takeField(std::string_view& field)
     }
     field = m_offset < m_line.size() ? m_line.substr(m_offset, evmlayout::fieldWidth)
                                      : std::string_view();
-    return hasDamping(field) || !isBlank(m_line.substr(std::min(m_offset, m_line.size())))
-        || !isBlank(m_stream.rest());
+    return hasDamping(field) || !isBlankText(m_line.substr(std::min(m_offset, m_line.size())))
+        || !m_stream.onlyBlanksLeft();
 }
 
 void EvmReader::readPoint(std::string_view field, Point& point)
@@ -185,7 +181,7 @@ void EvmReader::fail(NumberStatus status, std::string_view text, const Columns& 
 std::size_t EvmReader::expectedPoints() const
 {
     const auto declared = static_cast<std::size_t>(std::max<int>(m_evolution.numberOfSpeeds, 1));
-    const std::size_t bytesLeft = m_line.size() + m_stream.rest().size();
+    const std::size_t bytesLeft = m_line.size() + m_stream.bytesLeft();
     return std::min(declared, bytesLeft / evmlayout::shortestField + 1);
 }
 

@@ -2,7 +2,7 @@
 
 #include "model/CheckerParts.h"
 #include "model/EVM.h"
-#include "runtime/MappedFile.h"
+#include "runtime/InputFile.h"
 #include "runtime/PathNames.h"
 #include "runtime/RunTimeError.h"
 #include "runtime/TextStream.h"
@@ -11,7 +11,7 @@ namespace tarsil {
 
 std::vector<Finding> checkEvolution(std::string_view path)
 {
-    const MappedFile file(path);
+    const FileBytes file(path);
     return checkEvolutionText(file.bytes(), resolvePath(path).name);
 }
 

@@ -128,7 +128,7 @@ void ResultTable::startMode(std::int16_t number)
     m_mode = std::make_unique<AeMode>();
     m_mode->Id = number;
     const auto declared = static_cast<std::size_t>(std::max<int>(m_evolution.numberOfSpeeds, 1));
-    m_mode->Points.reserve(std::min(declared, m_stream.rest().size() / shortestRow + 1));
+    m_mode->Points.reserve(std::min(declared, m_stream.bytesLeft() / shortestRow + 1));
 }
 
 /// All rows of a mode carry its number, so equal texts are read once.

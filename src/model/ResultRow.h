@@ -82,7 +82,7 @@ private:
     char m_separator;
     ResultRow m_row;
     std::unique_ptr<AeMode> m_mode;
-    std::string_view m_modeNumberText;
+    std::string m_modeNumberText;
     /// The shape of each field in the rows before: knowing it, the number needs no searching.
     std::array<shortnumber::Shape, ResultRow::kept> m_shapes {};
 };

@@ -2,7 +2,7 @@
 
 #include "options/IniText.h"
 #include "runtime/AtomicFile.h"
-#include "runtime/MappedFile.h"
+#include "runtime/InputFile.h"
 #include "runtime/PathNames.h"
 #include "runtime/RunTimeError.h"
 
@@ -37,7 +37,7 @@ constexpr std::array<Key, 3> keys = {{{"AcInfoDataFile", &OptionTexts::acInfoDat
 std::string bytesOf(const std::string& path)
 {
     try {
-        return std::string(MappedFile(path).bytes());
+        return std::string(FileBytes(path).bytes());
     } catch (const RunTimeError& error) {
         if (error.number() == ErrorNumber::FileNotFound
             || error.number() == ErrorNumber::PathNotFound)

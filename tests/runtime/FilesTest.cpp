@@ -1,5 +1,4 @@
 #include "runtime/AtomicFile.h"
-#include "runtime/MappedFile.h"
 #include "runtime/RunTimeError.h"
 
 #include "support/TestFiles.h"
@@ -167,26 +166,6 @@ TEST(AtomicFile, writesThroughASymbolicLink)
     writeFile(folder.file("link.txt"), "new");
     EXPECT_TRUE(fs::is_symlink(folder.file("link.txt")));
     EXPECT_EQ(fileBytes(path), "new");
-}
-
-TEST(MappedFile, showsTheBytesOfAFile)
-{
-    const TemporaryFolder folder;
-    const MappedFile file(folder.write("a b.txt", std::string_view("x\0y\r\n", 5)));
-    EXPECT_EQ(file.bytes(), std::string_view("x\0y\r\n", 5));
-    EXPECT_EQ(MappedFile(folder.write("empty", "")).bytes(), "");
-}
-
-TEST(MappedFile, refusesWhatIsNoFile)
-{
-    const TemporaryFolder folder;
-    const auto open = [](const std::string& path) {
-        return errorOf([&] { const MappedFile file(path); });
-    };
-    EXPECT_EQ(open(folder.file("missing")), 53);
-    EXPECT_EQ(open(folder.path().string()), 75);
-    EXPECT_EQ(open(folder.file("missing") + "/a.txt"), 76);
-    EXPECT_EQ(open("/dev/null"), 75);
 }
 
 } // namespace
