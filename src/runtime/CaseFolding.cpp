@@ -66,7 +66,8 @@ char smallAsciiLetter(char c)
 
 std::string withoutCase(std::string_view utf8)
 {
-    if (!isUtf8(utf8)) {
+    const bool isAscii = std::all_of(utf8.begin(), utf8.end(), [](char c) { return c >= 0; });
+    if (isAscii || !isUtf8(utf8)) {
         // What is no text is compared by its bytes.
         std::string bytes(utf8);
         std::transform(bytes.begin(), bytes.end(), bytes.begin(), smallAsciiLetter);

@@ -1,133 +1,112 @@
 #include "workspace/FileMatching.h"
 
-#include "runtime/CaseFolding.h"
-#include "runtime/PathNames.h"
+#include "workspace/PathTails.h"
 
 #include <algorithm>
 #include <iterator>
-#include <system_error>
-#include <unordered_map>
+#include <tuple>
 #include <utility>
 
 namespace tarsil {
 
-namespace {
-
-namespace fs = std::filesystem;
-
-/// The path without links and steps up.
-std::string identityOf(const fs::path& file)
+void FileMatching::take(std::string_view path, const std::string& file)
 {
-    std::error_code failed;
-    const fs::path real = fs::canonical(file, failed);
-    return pathText(failed ? file : real);
+    m_present.push_back(tailOf(path));
+    m_taken.emplace(m_identities.of(file), m_round);
 }
 
-} // namespace
-
-FileMatching::Names FileMatching::namesOf(const fs::path& path)
+void FileMatching::addPath(std::string_view path)
 {
-    Names names;
-    for (const fs::path& name : path)
-        names.exact.push_back(pathText(name));
-    std::reverse(names.exact.begin(), names.exact.end());
-    std::transform(names.exact.begin(), names.exact.end(), std::back_inserter(names.caseless),
-                   withoutCase);
-    return names;
+    m_wanted.push_back(tailOf(path));
 }
 
-/// The last folders and the name as one text; empty when there are not so many.
-std::string FileMatching::tail(const std::vector<std::string>& names, std::size_t length)
+void FileMatching::addFile(const std::string& file)
 {
-    std::string text;
-    if (names.size() < length)
-        return text;
-    for (std::size_t i = 0; i < length; ++i)
-        text.append(names[i]).append("/");
-    return text;
+    if (m_added.insert(file).second)
+        m_candidates.push_back({file, m_identities.of(file)});
 }
 
-void FileMatching::take(const std::string& key, const std::string& stored, const fs::path& file)
+/// The files that share more names are looked at first, and equal spelling before names that differ
+/// in case. All that share as many make one round, in which a file can be lost to another path, but
+/// is not out of sight yet.
+std::map<std::size_t, std::string> FileMatching::match()
 {
-    m_listed.emplace(key, namesOf(nativePath(stored)));
-    m_taken.insert(identityOf(file));
-}
-
-void FileMatching::addPath(const std::string& key, const std::string& stored)
-{
-    m_listed.emplace(key, namesOf(nativePath(stored)));
-    m_wanted.push_back({key, namesOf(nativePath(stored))});
-}
-
-void FileMatching::addFile(const fs::path& file)
-{
-    if (m_added.insert(pathText(file)).second)
-        m_candidates.push_back({file, identityOf(file), namesOf(file)});
-}
-
-std::map<std::string, fs::path> FileMatching::match()
-{
-    std::size_t longest = 0;
-    for (const Candidate& candidate : m_candidates)
-        longest = std::max(longest, candidate.names.exact.size());
-    for (std::size_t length = longest; length > 0; --length) {
-        settle(length, &Names::exact);
-        settle(length, &Names::caseless);
+    std::vector<Meeting> all = meetings();
+    const auto order = [](const Meeting& meeting) {
+        return std::tuple(~meeting.names, meeting.isCaseless, meeting.path, meeting.candidate);
+    };
+    std::sort(all.begin(), all.end(),
+              [order](const Meeting& a, const Meeting& b) { return order(a) < order(b); });
+    const auto isRound = [](const Meeting& a, const Meeting& b) {
+        return a.names == b.names && a.isCaseless == b.isCaseless;
+    };
+    for (auto first = all.begin(); first != all.end();) {
+        if (first == all.begin() || !isRound(*first, *std::prev(first)))
+            ++m_round;
+        std::vector<std::size_t> candidates;
+        auto next = first;
+        for (; next != all.end() && isRound(*first, *next) && first->path == next->path; ++next)
+            candidates.push_back(next->candidate);
+        settle(first->path, std::move(candidates));
+        first = next;
     }
     return std::exchange(m_matches, {});
 }
 
-/// How many paths of the workspace have the same last names, so many.
-std::unordered_map<std::string, int> FileMatching::listedTails(std::size_t length,
-                                                               NameList names) const
+std::vector<FileMatching::Meeting> FileMatching::meetings() const
 {
-    std::unordered_map<std::string, int> tails;
-    for (const auto& [key, listed] : m_listed)
-        ++tails[tail(listed.*names, length)];
-    return tails;
-}
-
-/// Gives files to the paths whose last names, so many, are those of a free file.
-void FileMatching::settle(std::size_t length, NameList names)
-{
-    std::unordered_map<std::string, std::vector<const Candidate*>> free;
-    for (const Candidate& candidate : m_candidates) {
-        const std::string text = tail(candidate.names.*names, length);
-        if (!text.empty() && !m_taken.contains(candidate.identity))
-            free[text].push_back(&candidate);
+    std::vector<std::string> paths = m_wanted;
+    paths.insert(paths.end(), m_present.begin(), m_present.end());
+    std::vector<std::string> files;
+    for (const Candidate& candidate : m_candidates)
+        files.push_back(tailOf(candidate.file));
+    std::vector<Meeting> all;
+    for (const bool isCaseless : {false, true}) {
+        if (isCaseless) {
+            std::transform(paths.begin(), paths.end(), paths.begin(), withoutCaseOfNames);
+            std::transform(files.begin(), files.end(), files.begin(), withoutCaseOfNames);
+        }
+        const std::vector<SharedTail> shared = sharedTails(paths, files);
+        for (std::size_t i = 0; i < files.size(); ++i) {
+            if (shared[i].names > 0 && shared[i].path < m_wanted.size())
+                all.push_back({shared[i].names, isCaseless, shared[i].path, i});
+        }
     }
-    const auto listed = listedTails(length, names);
-    for (Wanted& wanted : m_wanted) {
-        const std::string text = tail(wanted.names.*names, length);
-        const auto place = free.find(text);
-        if (!wanted.isSettled && place != free.end() && listed.at(text) == 1)
-            give(wanted, place->second);
-    }
+    return all;
 }
 
 /// A path that means several files gets none of them, nor one that it means less.
-void FileMatching::give(Wanted& wanted, const std::vector<const Candidate*>& candidates)
+void FileMatching::settle(std::size_t path, std::vector<std::size_t> candidates)
 {
-    wanted.isSettled = true;
+    std::erase_if(candidates, [this](std::size_t candidate) { return !isFree(candidate); });
+    if (candidates.empty() || !m_settled.insert(path).second)
+        return;
     const Candidate* const chosen = onlyOne(candidates);
-    if (chosen != nullptr && m_taken.insert(chosen->identity).second)
-        m_matches.emplace(wanted.key, chosen->file);
+    if (chosen != nullptr && m_taken.emplace(chosen->identity, m_round).second)
+        m_matches.emplace(path, chosen->file);
+}
+
+bool FileMatching::isFree(std::size_t candidate) const
+{
+    const auto taken = m_taken.find(m_candidates[candidate].identity);
+    return taken == m_taken.end() || taken->second == m_round;
 }
 
 /// The file of them all, which may be there by several ways, or the one beside the workspace; null
 /// when they are several.
 const FileMatching::Candidate*
-FileMatching::onlyOne(const std::vector<const Candidate*>& candidates) const
+FileMatching::onlyOne(const std::vector<std::size_t>& candidates) const
 {
-    const auto beside =
-        std::find_if(candidates.begin(), candidates.end(),
-                     [this](const Candidate* one) { return one->file.parent_path() == m_folder; });
-    if (beside != candidates.end())
-        return *beside;
-    const bool isOne = std::all_of(candidates.begin(), candidates.end(), [&](const Candidate* one) {
-        return one->identity == candidates.front()->identity;
+    const auto beside = std::find_if(candidates.begin(), candidates.end(), [this](std::size_t one) {
+        return folderIn(m_candidates[one].file) == m_folder;
     });
-    return isOne ? candidates.front() : nullptr;
+    if (beside != candidates.end())
+        return &m_candidates[*beside];
+    const Candidate& first = m_candidates[candidates.front()];
+    const bool isOne = std::all_of(candidates.begin(), candidates.end(), [&](std::size_t one) {
+        return m_candidates[one].identity == first.identity;
+    });
+    return isOne ? &first : nullptr;
 }
 
 } // namespace tarsil

@@ -1,11 +1,14 @@
 #pragma once
 
+#include "workspace/FileIdentities.h"
+
 #include <cstddef>
-#include <filesystem>
 #include <map>
 #include <set>
 #include <string>
+#include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -20,62 +23,59 @@ namespace tarsil {
 /// - no other file shares as much, unless one is beside the workspace;
 /// - the file is no other path's.
 ///
-/// Equal spelling goes before names that differ in their case alone.
+/// Equal spelling goes before names that differ in their case alone. It takes the
+/// time of sorting the paths and files, and about their memory.
 class FileMatching
 {
 public:
+    // Paths and files are texts with "/" between their names.
+
     /// `folder` is that of the workspace.
-    explicit FileMatching(std::filesystem::path folder) : m_folder(std::move(folder)) { }
+    explicit FileMatching(std::string folder) : m_folder(std::move(folder)) { }
 
-    // `key` is the same for all spellings of one path.
+    /// A path of the workspace, and the file that is there.
+    void take(std::string_view path, const std::string& file);
 
-    /// A file that is at the place of a path.
-    void take(const std::string& key, const std::string& stored, const std::filesystem::path& file);
-
-    /// A path that is to get a file.
-    void addPath(const std::string& key, const std::string& stored);
+    /// A path of the workspace that is to get a file; the first one has the number 0.
+    void addPath(std::string_view path);
 
     /// A file that can be got; the same one a second time changes nothing.
-    void addFile(const std::filesystem::path& file);
+    void addFile(const std::string& file);
 
-    /// The files by the keys of the paths that get one.
-    std::map<std::string, std::filesystem::path> match();
+    /// The files by the numbers of the paths that get one.
+    std::map<std::size_t, std::string> match();
 
 private:
-    /// Folders and name from the last to the first, as they are and without case.
-    struct Names
-    {
-        std::vector<std::string> exact;
-        std::vector<std::string> caseless;
-    };
-    struct Wanted
-    {
-        std::string key;
-        Names names;
-        bool isSettled = false;
-    };
     struct Candidate
     {
-        std::filesystem::path file;
+        std::string file;
         std::string identity; ///< the same for two ways to one file
-        Names names;
     };
-    using NameList = std::vector<std::string> Names::*;
 
-    static Names namesOf(const std::filesystem::path& path);
-    static std::string tail(const std::vector<std::string>& names, std::size_t length);
-    std::unordered_map<std::string, int> listedTails(std::size_t length, NameList names) const;
-    void settle(std::size_t length, NameList names);
-    void give(Wanted& wanted, const std::vector<const Candidate*>& candidates);
-    const Candidate* onlyOne(const std::vector<const Candidate*>& candidates) const;
+    /// A file that shares so many names with a path that they tell it from all others.
+    struct Meeting
+    {
+        std::size_t names;
+        bool isCaseless;
+        std::size_t path;
+        std::size_t candidate;
+    };
 
-    std::filesystem::path m_folder;
-    std::map<std::string, Names> m_listed; ///< all paths of the workspace by their keys
-    std::vector<Wanted> m_wanted;
+    std::vector<Meeting> meetings() const;
+    void settle(std::size_t path, std::vector<std::size_t> candidates);
+    bool isFree(std::size_t candidate) const;
+    const Candidate* onlyOne(const std::vector<std::size_t>& candidates) const;
+
+    std::string m_folder;
+    FileIdentities m_identities;
+    std::vector<std::string> m_wanted; ///< tails of paths that are to get a file
+    std::vector<std::string> m_present; ///< tails of paths that have theirs
     std::vector<Candidate> m_candidates;
-    std::set<std::string> m_added; ///< files that were added
-    std::set<std::string> m_taken; ///< identities
-    std::map<std::string, std::filesystem::path> m_matches;
+    std::unordered_set<std::string> m_added; ///< files that were added
+    std::unordered_map<std::string, std::size_t> m_taken; ///< identities, and in which round
+    std::size_t m_round = 0; ///< of matching, each of one number of names
+    std::set<std::size_t> m_settled; ///< paths that have met a file
+    std::map<std::size_t, std::string> m_matches;
 };
 
 } // namespace tarsil

@@ -2,9 +2,11 @@
 
 #include "runtime/CaseFolding.h"
 #include "runtime/PathNames.h"
+#include "workspace/FileIdentities.h"
 
 #include <algorithm>
 #include <deque>
+#include <filesystem>
 #include <system_error>
 
 namespace tarsil {
@@ -13,56 +15,64 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// What stands in one folder by name, at most `most` entries; `isComplete` tells whether that is
-/// all.
-std::vector<fs::directory_entry> entriesOf(const fs::path& folder, std::size_t most,
-                                           bool& isComplete)
+/// What a search needs to know of a file or folder. Its path is left out: in deep folders that is
+/// much more.
+struct Entry
 {
-    std::vector<fs::directory_entry> entries;
+    std::string name;
+    bool isFolder = false;
+    bool isWanted = false;
+};
+
+Entry entryOf(const fs::directory_entry& found, const std::unordered_set<std::string>& names)
+{
+    std::error_code unknown;
+    Entry entry {pathText(found.path().filename())};
+    const bool canBeNamed = entry.name.find('\\') == std::string::npos; // it separates, in a path
+    entry.isFolder = canBeNamed && found.is_directory(unknown) && !found.is_symlink(unknown);
+    entry.isWanted = canBeNamed && !entry.isFolder && names.contains(withoutCase(entry.name))
+        && found.is_regular_file(unknown);
+    return entry;
+}
+
+/// What is in one folder by name, at most `most` entries; `isComplete` tells whether that is all.
+std::vector<Entry> entriesOf(const std::string& folder,
+                             const std::unordered_set<std::string>& names, std::size_t most,
+                             bool& isComplete)
+{
+    std::vector<Entry> entries;
     std::error_code failed;
-    fs::directory_iterator place(folder, failed);
+    fs::directory_iterator place(nativePath(folder), failed);
     for (; !failed && place != fs::directory_iterator(); place.increment(failed)) {
         if (entries.size() == most) {
             isComplete = false;
             break;
         }
-        entries.push_back(*place);
+        entries.push_back(entryOf(*place, names));
     }
-    std::sort(entries.begin(), entries.end());
+    std::sort(entries.begin(), entries.end(),
+              [](const Entry& a, const Entry& b) { return a.name < b.name; });
     return entries;
-}
-
-bool isFolder(const fs::directory_entry& entry)
-{
-    std::error_code unknown;
-    return entry.is_directory(unknown) && !entry.is_symlink(unknown);
-}
-
-bool isFileOf(const fs::directory_entry& entry, const std::set<std::string>& names)
-{
-    std::error_code unknown;
-    return names.contains(withoutCase(pathText(entry.path().filename())))
-        && entry.is_regular_file(unknown);
 }
 
 } // namespace
 
-FileSearch filesBelow(const fs::path& folder, const std::set<std::string>& names)
+FileSearch filesBelow(const std::string& folder, const std::unordered_set<std::string>& names)
 {
     FileSearch found;
     std::size_t looked = 0;
-    std::deque<fs::path> folders {folder};
+    std::deque<std::string> folders {folder};
     while (!folders.empty() && !names.empty() && found.isComplete) {
         const auto entries =
-            entriesOf(folders.front(), mostFilesLookedAt - looked, found.isComplete);
-        folders.pop_front();
+            entriesOf(folders.front(), names, mostFilesLookedAt - looked, found.isComplete);
         looked += entries.size();
-        for (const fs::directory_entry& entry : entries) {
-            if (isFolder(entry))
-                folders.push_back(entry.path());
-            else if (isFileOf(entry, names))
-                found.files.push_back(entry.path());
+        for (const Entry& entry : entries) {
+            if (entry.isFolder)
+                folders.push_back(pathIn(folders.front(), entry.name));
+            else if (entry.isWanted)
+                found.files.push_back(pathIn(folders.front(), entry.name));
         }
+        folders.pop_front();
     }
     return found;
 }

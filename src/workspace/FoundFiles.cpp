@@ -2,62 +2,133 @@
 
 #include "runtime/CaseFolding.h"
 #include "runtime/PathNames.h"
+#include "workspace/FileIdentities.h"
 #include "workspace/FileMatching.h"
 #include "workspace/FileSearch.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <filesystem>
-#include <functional>
 #include <map>
-#include <numeric>
-#include <set>
+#include <string_view>
 #include <system_error>
+#include <unordered_map>
+#include <unordered_set>
+#include <utility>
 
 namespace tarsil {
 
 namespace {
 
-namespace fs = std::filesystem;
+// Paths are worked with as texts that have "/" between their names: those of hundreds of folders
+// are long to take apart, and large when they are.
 
-fs::path folderOf(const std::string& workspacePath)
+std::string folderOf(const std::string& workspacePath)
 {
-    return nativePath(joinPath(resolvePath(workspacePath).folder, "x")).parent_path();
+    return pathText(nativePath(joinPath(resolvePath(workspacePath).folder, "x")).parent_path());
+}
+
+/// Two separators that follow each other are one.
+std::string plainText(std::string_view stored)
+{
+    std::string text(stored);
+    std::replace(text.begin(), text.end(), '\\', '/');
+    const auto areSlashes = [](char a, char b) { return a == '/' && b == '/'; };
+    text.erase(std::unique(text.begin(), text.end(), areSlashes), text.end());
+    return text;
+}
+
+/// How many characters of a path are its root, which its first ones tell; 0 for a relative path.
+std::size_t rootLength(const std::string& path)
+{
+    return pathText(nativePath(path.substr(0, 3)).root_path()).size();
 }
 
 /// The spelling by which entries of one path know each other. On the platform of drive letters case
 /// does not count.
-std::string keyOf(const std::string& stored)
+std::string keyOf(std::string_view stored)
 {
-    const std::string path = pathText(nativePath(stored));
+    const std::string path = plainText(stored);
     const bool hasDrive = path.size() > 1 && path[1] == ':';
     return hasDrive ? withoutCase(path) : path;
 }
 
-/// Adds the files that moved together with some of their stored folders, without looking for them.
-void addNearFiles(const fs::path& folder, const std::string& stored, FileMatching& matching)
+/// Where a stored path leads when the workspace is in `folder`.
+std::string placeIn(const std::string& folder, const std::string& stored)
 {
-    const fs::path names = nativePath(stored).relative_path();
-    for (auto first = names.begin(); first != names.end(); ++first) {
-        const fs::path tail = std::accumulate(first, names.end(), fs::path(), std::divides<>());
-        std::error_code failed;
-        if (fs::is_regular_file(folder / tail, failed))
-            matching.addFile(folder / tail);
-    }
+    const std::string path = plainText(stored);
+    if (rootLength(path) > 0)
+        return stored;
+    std::string below = pathIn(folder, path);
+    return fileExists(below) ? below : stored;
 }
 
-/// The files of paths that are not at their stored places.
-std::map<std::string, fs::path> movedFiles(const std::map<std::string, std::string>& missing,
-                                           const fs::path& folder, FileMatching& matching)
+/// Knows the files that moved together with some of their stored folders, without looking for them.
+class NearFiles
 {
-    std::set<std::string> names;
-    for (const auto& [key, stored] : missing)
-        names.insert(withoutCase(pathText(nativePath(stored).filename())));
+public:
+    explicit NearFiles(std::string folder) : m_folder(std::move(folder)) { }
+
+    /// Adds those that a path can mean, the one that shares most folders first.
+    void add(const std::string& path, FileMatching& matching)
+    {
+        std::size_t start = rootLength(path);
+        while (start < path.size()) {
+            const std::string_view tail = std::string_view(path).substr(start);
+            if (areHere(tail))
+                addFile(pathIn(m_folder, tail), matching);
+            start = std::min(path.find('/', start), path.size() - 1) + 1;
+        }
+    }
+
+private:
+    static void addFile(const std::string& file, FileMatching& matching)
+    {
+        std::error_code failed;
+        if (std::filesystem::is_regular_file(nativePath(file), failed))
+            matching.addFile(file);
+    }
+
+    /// Whether the folders of a path are there, one below the other. Many paths begin alike, and
+    /// most lead nowhere.
+    bool areHere(std::string_view path)
+    {
+        std::size_t end = path.find('/');
+        while (end != std::string_view::npos && isHere(path.substr(0, end)))
+            end = path.find('/', end + 1);
+        return end == std::string_view::npos;
+    }
+
+    bool isHere(std::string_view path)
+    {
+        const auto [known, isNew] = m_folders.try_emplace(std::string(path), false);
+        std::error_code failed;
+        if (isNew)
+            known->second = std::filesystem::exists(nativePath(pathIn(m_folder, path)), failed);
+        return known->second;
+    }
+
+    std::string m_folder;
+    std::unordered_map<std::string, bool> m_folders;
+};
+
+/// Paths that are not at their stored places, each with its number, by their keys.
+using MissingPaths = std::map<std::string, std::pair<std::size_t, std::string>>;
+
+/// The files of missing paths by the numbers of these.
+std::map<std::size_t, std::string> movedFiles(const MissingPaths& missing,
+                                              const std::string& folder, FileMatching& matching)
+{
+    std::unordered_set<std::string> names;
+    for (const auto& [key, path] : missing)
+        names.insert(withoutCase(nameIn(path.second)));
     const FileSearch search = filesBelow(folder, names);
-    for (const fs::path& file : search.files)
+    for (const std::string& file : search.files)
         matching.addFile(file);
-    for (const auto& [key, stored] : missing) {
+    NearFiles near(folder);
+    for (const auto& [key, path] : missing) {
         if (!search.isComplete)
-            addNearFiles(folder, stored, matching);
+            near.add(path.second, matching);
     }
     return matching.match();
 }
@@ -66,29 +137,30 @@ std::map<std::string, fs::path> movedFiles(const std::map<std::string, std::stri
 
 std::string storedPlace(const std::string& stored, const std::string& workspacePath)
 {
-    const fs::path native = nativePath(stored);
-    const std::string below = pathText(folderOf(workspacePath) / native);
-    return native.is_relative() && fileExists(below) ? below : stored;
+    return placeIn(folderOf(workspacePath), stored);
 }
 
 std::vector<std::string> foundFiles(const std::vector<std::string>& stored,
                                     const std::string& workspacePath)
 {
+    const std::string folder = folderOf(workspacePath);
     std::vector<std::string> files;
-    FileMatching matching(folderOf(workspacePath));
-    std::map<std::string, std::string> missing; ///< stored paths by their keys
+    FileMatching matching(folder);
+    MissingPaths missing;
     for (const std::string& one : stored) {
-        files.push_back(storedPlace(one, workspacePath));
+        const std::string path = plainText(one);
+        files.push_back(placeIn(folder, one));
         if (fileExists(files.back()))
-            matching.take(keyOf(one), one, nativePath(files.back()));
-        else if (!one.empty() && missing.emplace(keyOf(one), one).second)
-            matching.addPath(keyOf(one), one);
+            matching.take(path, plainText(files.back()));
+        else if (!one.empty() && missing.try_emplace(keyOf(one), missing.size(), path).second)
+            matching.addPath(path);
     }
-    const auto moved = movedFiles(missing, folderOf(workspacePath), matching);
+    const auto moved = movedFiles(missing, folder, matching);
     for (std::size_t i = 0; i < files.size(); ++i) {
-        const auto file = moved.find(keyOf(stored[i]));
+        const auto path = missing.find(keyOf(stored[i]));
+        const auto file = path == missing.end() ? moved.end() : moved.find(path->second.first);
         if (file != moved.end())
-            files[i] = pathText(file->second);
+            files[i] = file->second;
     }
     return files;
 }
@@ -96,13 +168,13 @@ std::vector<std::string> foundFiles(const std::vector<std::string>& stored,
 bool isTakenByNameAlone(const std::string& stored, const std::string& found,
                         const std::string& workspacePath)
 {
-    const auto folderName = [](const fs::path& path) {
-        return withoutCase(pathText(path.parent_path().filename()));
+    const auto folderName = [](const std::string& path) {
+        return withoutCase(nameIn(folderIn(path)));
     };
-    const fs::path file = nativePath(found);
-    const fs::path place = nativePath(storedPlace(stored, workspacePath));
-    return file != place && file.parent_path() != folderOf(workspacePath)
-        && folderName(file) != folderName(place);
+    const std::string folder = folderOf(workspacePath);
+    const std::string file = plainText(found);
+    const std::string place = plainText(placeIn(folder, stored));
+    return file != place && folderIn(file) != folder && folderName(file) != folderName(place);
 }
 
 } // namespace tarsil

@@ -1,0 +1,83 @@
+#include "workspace/FileIdentities.h"
+
+#include "runtime/PathNames.h"
+
+#include <filesystem>
+#include <system_error>
+#include <utility>
+#include <vector>
+
+namespace tarsil {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string canonicalText(const std::string& path)
+{
+    std::error_code failed;
+    const fs::path real = fs::canonical(nativePath(path), failed);
+    return failed ? path : pathText(real);
+}
+
+/// Whether the last name of a path is where it says, below the folder before it.
+bool isPlainName(const std::string& path)
+{
+    const std::string_view name = nameIn(path);
+    std::error_code unknown;
+    const fs::file_status status = fs::symlink_status(nativePath(path), unknown);
+    return !name.empty() && name != "." && name != ".." && fs::exists(status)
+        && !fs::is_symlink(status);
+}
+
+} // namespace
+
+std::string FileIdentities::of(const std::string& file)
+{
+    const std::string folder(folderIn(file));
+    if (folder.empty() || !isPlainName(file))
+        return canonicalText(file);
+    return pathIn(ofFolder(folder), nameIn(file));
+}
+
+/// Goes up to a folder that is known, or has to be asked for, and down again.
+const std::string& FileIdentities::ofFolder(const std::string& folder)
+{
+    std::vector<std::string> below;
+    std::string top = folder;
+    while (!m_folders.contains(top)) {
+        std::string above(folderIn(top));
+        if (above.empty() || above == top || !isPlainName(top)) {
+            m_folders.emplace(top, canonicalText(top));
+            break;
+        }
+        below.push_back(std::exchange(top, std::move(above)));
+    }
+    const std::string* known = &m_folders.at(top);
+    for (auto next = below.rbegin(); next != below.rend(); ++next)
+        known = &m_folders.emplace(*next, pathIn(*known, nameIn(*next))).first->second;
+    return *known;
+}
+
+std::string_view folderIn(std::string_view path)
+{
+    const std::size_t end = path.rfind('/');
+    if (end == std::string_view::npos)
+        return {};
+    return path.substr(0, end == 0 ? 1 : end);
+}
+
+std::string_view nameIn(std::string_view path)
+{
+    return path.substr(path.rfind('/') + 1);
+}
+
+std::string pathIn(std::string_view folder, std::string_view name)
+{
+    std::string path(folder);
+    if (!path.ends_with('/'))
+        path += '/';
+    return path.append(name);
+}
+
+} // namespace tarsil
