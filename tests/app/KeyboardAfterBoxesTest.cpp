@@ -86,7 +86,7 @@ protected:
         QApplication::processEvents();
     }
 
-    std::size_t curves() const { return window.evolPlot().ActivePlot()->SeriesCollection().size(); }
+    std::size_t curves() { return window.evolPlot().ActivePlot()->SeriesCollection().size(); }
 
     test::TemporaryFolder folder;
     QtUserInterface user;

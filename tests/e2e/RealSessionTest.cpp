@@ -119,24 +119,26 @@ TEST(RealSession, keepsTheKeyboardInTheDialogAfterABox)
     Program program(display, {QString::fromStdString(sample("goland_clean_m040.ev2"))});
     Person person(display);
     EXPECT_TRUE(person.waitForColor(cyan));
-    for (const auto& [keys, title, wrong, repair] :
-         {std::tuple("alt+t Return", "Add Reference Speed", "x300\n", "Home Delete"),
-          std::tuple("alt+t Down Down Return", "Add Damping Line", ".1x",
+    for (const auto& [keys, title, wrong, lastKey, repair] :
+         {std::tuple("alt+t Return", "Add Reference Speed", "x300", "Return", "Home Delete"),
+          std::tuple("alt+t Down Down Return", "Add Damping Line", ".1", "x",
                      "BackSpace Home minus")}) {
         person.goToDataControl();
         person.press("ctrl+Home");
         EXPECT_TRUE(person.standsStill(plotArea));
         const QImage before = person.look(plotArea);
-        person.inDialog(keys, title, [&, owner = title, text = wrong, mended = repair] {
-            person.press("ctrl+a");
-            person.type(QString::fromLatin1(text));
-            EXPECT_TRUE(person.closesBoxOf(owner)) << owner;
-            person.press(mended);
-            person.press("Return");
-            EXPECT_TRUE(person.seesChange(plotArea, before)) << "the mark of " << owner;
-            EXPECT_FALSE(person.isAsked()) << owner;
-            person.press("Escape");
-        });
+        person.inDialog(
+            keys, title, [&, owner = title, text = wrong, last = lastKey, mended = repair] {
+                person.press("ctrl+a");
+                person.type(QString::fromLatin1(text));
+                person.press(last);
+                EXPECT_TRUE(person.closesBoxOf(owner)) << owner;
+                person.press(mended);
+                person.press("Return");
+                EXPECT_TRUE(person.seesChange(plotArea, before)) << "the mark of " << owner;
+                EXPECT_FALSE(person.isAsked()) << owner;
+                person.press("Escape");
+            });
     }
     person.nameFile("ctrl+s", "^Save", file);
     EXPECT_TRUE(waitUntil([&file] { return QFile::exists(file); }));
