@@ -1,0 +1,28 @@
+# Script: lists the test suites of a GoogleTest program and writes a file for ctest with one test
+# for each suite and each way to run it, so that `ctest -R Crossings` runs what its name says and a
+# failure names its suite.
+#
+# cmake -D PROGRAM=... -D NAME=... -D OUTPUT=... -P DiscoverSuites.cmake
+#   PROGRAM  the test program
+#   NAME     the folder of src/ that it tests; a suite's test is called NAME.Suite
+#   OUTPUT   the file to write; it uses the variables that tarsil_test sets beside it
+execute_process(
+  COMMAND ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 ASAN_OPTIONS=detect_leaks=0
+          ${PROGRAM} --gtest_list_tests
+  OUTPUT_VARIABLE listing
+  COMMAND_ERROR_IS_FATAL ANY)
+# A suite stands at the start of a line and ends with a point; its tests are indented.
+string(REGEX MATCHALL "(^|\n)[^ \n][^\n.]*\\." suites "${listing}")
+if(NOT suites)
+  message(FATAL_ERROR "${PROGRAM} lists no test suite.")
+endif()
+set(content "")
+foreach(suite IN LISTS suites)
+  string(REGEX REPLACE "^\n|\\.$" "" suite "${suite}")
+  foreach(locale IN ITEMS "" _comma_locale)
+    string(APPEND content
+           "add_test([=[${NAME}.${suite}${locale}]=] \"${PROGRAM}\" \"--gtest_filter=${suite}.*\")\n"
+           "set_tests_properties([=[${NAME}.${suite}${locale}]=] PROPERTIES ENVIRONMENT \"\${tarsil_environment${locale}}\")\n")
+  endforeach()
+endforeach()
+file(WRITE ${OUTPUT} "${content}")
