@@ -190,6 +190,7 @@ std::vector<EVM*> wndMain::load(const std::vector<std::string>& paths)
 void wndMain::draw(const std::vector<EVM*>& evolutions)
 {
     std::vector<EvolutionCurves> curves;
+    curves.reserve(evolutions.size());
     for (EVM* evolution : evolutions)
         curves.push_back(allCurvesOf(*evolution));
     const std::size_t drawn = plotCurves(activePlot(), curves);

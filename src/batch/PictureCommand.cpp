@@ -40,6 +40,7 @@ bool drawEvolutions(const std::vector<std::string>& paths, const PictureOptions&
                     BatchRun& run)
 {
     std::vector<EvolutionCurves> files;
+    files.reserve(paths.size());
     for (const std::string& path : paths) {
         refuseOutputOverInput(options.output, path);
         EVM& evolution = run.open(path);
