@@ -214,10 +214,9 @@ TEST_F(CheckOfAWorkspace, goesOnAfterAFileThatCannotBeOpenedOrRead)
     const auto result = runBatch({"check", bad, file("gone.tsw"), path});
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.err, "tarsil-batch: File not found: " + file("gone.tsw") + "\n");
-    EXPECT_THAT(result.out,
-                HasSubstr(bad
-                          + ":1: reading ends here: Subscript out of range: bad.tsw, [MODAL "
-                            "EVOLUTION FILES], File(1) is missing"));
+    EXPECT_THAT(
+        result.out,
+        HasSubstr(bad + ":2: reading ends here: Type mismatch: bad.tsw, [PLOTS], NoOfPlots"));
     EXPECT_THAT(result.out, HasSubstr(path + ":25: "));
 }
 
