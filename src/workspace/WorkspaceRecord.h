@@ -79,9 +79,9 @@ struct PlotRecord
     AxisRecord velAxis {"V(keas)", 0, 700, 7};
     AxisRecord freqAxis {"f(Hz)", 0, 50, 5};
     AxisRecord gAxis {"g", 0, -0.25F, 5};
-    std::vector<SeriesRecord> series;
-    std::vector<MarkRecord> referenceSpeeds;
-    std::vector<MarkRecord> dampingLines;
+    std::vector<SeriesRecord> series {};
+    std::vector<MarkRecord> referenceSpeeds {};
+    std::vector<MarkRecord> dampingLines {};
 
     bool operator==(const PlotRecord&) const = default;
 };
@@ -102,9 +102,9 @@ struct WorkspaceRecord
     std::string dateCreated; ///< as it stands in the file
     std::string dateModified;
     /// Full paths, in the order of the list of evolutions; empty where an entry is missing.
-    std::vector<std::string> files;
-    std::vector<PlotRecord> plots;
-    std::map<std::size_t, EditedRecord> edited; ///< by places among the files, from 1
+    std::vector<std::string> files {};
+    std::vector<PlotRecord> plots {};
+    std::map<std::size_t, EditedRecord> edited {}; ///< by places among the files, from 1
     std::int16_t reference = 0; ///< from 1: the place of the reference evolution; 0 for none
 
     bool operator==(const WorkspaceRecord&) const = default;
