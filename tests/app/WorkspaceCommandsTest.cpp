@@ -306,7 +306,7 @@ TEST_F(WorkspaceCommandsTest, passOverWhatDoesNotFitInNewerFiles)
     save();
     std::string text = test::fileBytes(folder.file("case.tsw"));
     const std::vector<std::pair<std::string, std::string>> replacements = {
-        {"RefSpeed(1)=352.1", "RefSpeed(1)=x"},
+        {"RefSpeed(1)=\"352.1", "RefSpeed(1)=\"x"},
         {"SerieLook(4)=2", "SerieLook(4)=9"},
         {"Edited(1)=", "Edited(7)="},
         {"Reference=2", "Reference=-2"}};
