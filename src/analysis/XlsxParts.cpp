@@ -279,7 +279,7 @@ std::string xlsxText(std::string_view utf8)
     std::string runs;
     std::size_t begin = 0;
     for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] != '_' || !isEscape(std::string_view(text).substr(i)))
+        if (text[i] != '_' || !isEscape({text.data() + i, text.size() - i}))
             continue;
         runs += "<r>" + textElement(text.substr(begin, i + 1 - begin)) + "</r>";
         begin = i + 1;

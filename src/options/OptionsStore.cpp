@@ -99,6 +99,8 @@ void OptionsStore::write(const OptionTexts& texts, const OptionTexts& before) co
     for (const Key& key : keys) {
         if (texts.*key.text != before.*key.text)
             file.setValue(section, key.name, texts.*key.text);
+        else if (!file.value(section, key.name))
+            file.setValue(section, key.name, QString()); // a person finds every key to fill in
     }
     writeFile(m_path, file.bytes());
 }

@@ -21,10 +21,12 @@ void setBack(DeviceContext& context)
 void trySetBack(DeviceContext& context)
 {
     try {
-        setBack(context);
+        context.clearClip();
     } catch (const std::exception&) {
-        return; // the failure that is on its way is the one to be told
+        context.setOrigin({0, 0}); // the failure that is on its way is the one to be told
+        return;
     }
+    context.setOrigin({0, 0});
 }
 
 } // namespace

@@ -78,9 +78,9 @@ void narrow(acl_entry_t entry, acl_entry_t by)
 /// way round: each of these may do what all of those might.
 void narrowToKept(const AccessList& list, Kept kept)
 {
-    const acl_entry_t owner = entryOf(list, ACL_USER_OBJ);
-    const acl_entry_t group = entryOf(list, ACL_GROUP_OBJ);
-    const acl_entry_t others = entryOf(list, ACL_OTHER);
+    acl_entry_t owner = entryOf(list, ACL_USER_OBJ);
+    acl_entry_t group = entryOf(list, ACL_GROUP_OBJ);
+    acl_entry_t others = entryOf(list, ACL_OTHER);
     if (!kept.group) {
         narrow(group, entryOf(list, ACL_MASK));
         narrow(group, others);

@@ -222,7 +222,8 @@ TEST_F(OptionsStoreTest, leavesWhatAnotherProgramHasWrittenMeanwhile)
     storeOf("; of another hand\n[Options]\nvgfScale=0|2|0|-1|0|10\nvgfThicks=7|5|5\nnewer=1\n");
     store.write(texts("", "0|1|0|-1|0|10", "4|3|2"), read);
     EXPECT_EQ(test::fileBytes(store.path()),
-              "; of another hand\n[Options]\nvgfScale=0|2|0|-1|0|10\nvgfThicks=4|3|2\nnewer=1\n");
+              "; of another hand\n[Options]\nvgfScale=0|2|0|-1|0|10\nvgfThicks=4|3|2\nnewer=1\n"
+              "AcInfoDataFile=\n");
 }
 
 TEST_F(OptionsStoreTest, refusesAtOnceWhatIsNoPlainFile)

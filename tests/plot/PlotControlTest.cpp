@@ -123,3 +123,35 @@ TEST(PlotControl, setsTheOriginBackAfterAFailureInAnotherContext)
     EXPECT_EQ(context.calls().front(), "origin 7,8");
     EXPECT_EQ(context.calls().back(), "origin 0,0");
 }
+
+namespace {
+
+/// A surface on a disk that is full.
+class FullContext : public RecordingContext
+{
+public:
+    void clearClip() override { throw std::runtime_error("full"); }
+};
+
+std::string failureOf(Dot& dot, DeviceContext& context)
+{
+    try {
+        dot.Draw(&context);
+    } catch (const std::runtime_error& error) {
+        return error.what();
+    }
+    return {};
+}
+
+} // namespace
+
+TEST(PlotControl, raisesTheFirstFailureOfASurfaceThatTakesNothingMore)
+{
+    Dot dot;
+    dot.setGeometry({7, 8, 20, 10});
+    FullContext context;
+    EXPECT_EQ(failureOf(dot, context), "full");
+    dot.fails = true;
+    EXPECT_EQ(failureOf(dot, context), "no more");
+    EXPECT_EQ(context.calls().back(), "origin 0,0");
+}

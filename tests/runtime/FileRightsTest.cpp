@@ -362,19 +362,31 @@ TEST_F(SavedUnderSignals, goesOnWhereTheSignalIsIgnored)
     std::signal(SIGHUP, before);
 }
 
+/// Bytes that fit into the buffer of the stream fail when it is emptied, more of them at once, and
+/// a patch when it looks for its place.
 TEST_F(SavedUnderSignals, failsAtTheLimitOfAFilesSize)
 {
-    const int status = inChild([this] {
-        removeTemporariesOnSignals();
-        const rlimit limit {4096, 4096};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-        const std::string message = messageOf([this] { writeFile(path, std::string(10000, 'x')); });
-        if (message != "75 Path/File access error: " + path + " (File too large)")
-            ::_exit(3);
-    });
-    EXPECT_EQ(status, 0);
-    EXPECT_EQ(filesIn(folder), 1);
-    EXPECT_EQ(fileBytes(path), "old");
+    const std::string expected = "75 Path/File access error: " + path + " (File too large)";
+    const auto patch = [this] {
+        AtomicFile file(path);
+        file.write(std::string(2000, 'x'));
+        file.patch(0, "y");
+    };
+    for (const std::function<void()>& action :
+         {std::function<void()>([this] { writeFile(path, std::string(2000, 'x')); }),
+          std::function<void()>([this] { writeFile(path, std::string(10000, 'x')); }),
+          std::function<void()>(patch)}) {
+        const int status = inChild([&] {
+            removeTemporariesOnSignals();
+            const rlimit limit {1024, 1024};
+            ::setrlimit(RLIMIT_FSIZE, &limit);
+            if (messageOf(action) != expected)
+                ::_exit(3);
+        });
+        EXPECT_EQ(status, 0);
+        EXPECT_EQ(filesIn(folder), 1);
+        EXPECT_EQ(fileBytes(path), "old");
+    }
 }
 
 TEST_F(SavedRights, removeWhatAKilledRunLeftADayAgo)
