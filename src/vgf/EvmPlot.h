@@ -161,8 +161,8 @@ public:
 
     /// Moves a text box (index as in `ertbTexts`) to a position in twentieths of a point; the
     /// header goes back to its row. The box keeps the position, but in a plot that is too small for
-    /// it to be seen there it is shown, and drawn, at the nearest edge (`shownPlace`); `geometry`
-    /// of the box says where.
+    /// all of it to be seen there it is shown, and drawn, at the nearest edge (`shownPlace`);
+    /// `geometry` of the box says where.
     void moveBox(std::size_t index, double left, double top);
 
     /// Sets the text of a box and lays the parts out again.

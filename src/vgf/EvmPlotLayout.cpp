@@ -23,8 +23,8 @@ constexpr int speedAxisHeight = 64;
 constexpr int verticalAxisWidth = 120;
 constexpr int edge = 8; ///< between a text box and the plot's edge
 
-/// Its position stays what it is, and is shown again in a plot that is large enough.
-void showInReach(emfRichTextBox& box, QSize plot)
+/// The position of a box stays what it is, and is shown again in a plot that is large enough.
+void showWhole(emfRichTextBox& box, QSize plot)
 {
     box.place(box.unitsLeft(), box.unitsTop());
     box.setGeometry(shownPlace(box.geometry(), plot));
@@ -100,10 +100,8 @@ void EvmPlot::layOutBoxes()
     }
     if (!Mechanism().wasMoved())
         Mechanism().place(units(headerLeft), units(Header().Top() + Header().Height()));
-    for (emfRichTextBox* box : {&Legend(), &Mechanism()}) {
-        if (box->wasMoved())
-            showInReach(*box, m_size);
-    }
+    for (emfRichTextBox* box : {&Legend(), &Mechanism()})
+        showWhole(*box, m_size);
 }
 
 void EvmPlot::setHeaderTop(double top)

@@ -115,11 +115,11 @@ bool TextBoxMover::press(const QKeyEvent& key)
     return false;
 }
 
-/// The box stays in reach, so that it is shown where it is put.
+/// The box ends where it is shown, so that its position is the one that the user sees.
 void TextBoxMover::moveTo(QPoint corner)
 {
     const QSize size = m_plot.box(*m_selected).geometry().size();
-    const QPoint place = nearestInReach(corner, size, m_plot.size());
+    const QPoint place = shownPlace({corner, size}, m_plot.size()).topLeft();
     m_plot.moveBox(*m_selected, place.x() * unitsPerPixel, place.y() * unitsPerPixel);
 }
 

@@ -14,8 +14,8 @@ namespace tarsil {
 class EvmPlot;
 
 /// Which text box of a plot is selected, and how the pointer and the arrow keys move it, from where
-/// it is shown, within the plot and over its edges as far as `nearestInReach` lets it. A box is
-/// dragged, or it follows the pointer, after "Move", until a click or a key ends that.
+/// it is shown, within the plot (`shownPlace`). A box is dragged, or it follows the pointer, after
+/// "Move", until a click or a key ends that.
 class TextBoxMover
 {
 public:

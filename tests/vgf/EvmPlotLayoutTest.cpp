@@ -173,7 +173,7 @@ TEST(EvmPlotBoxes, areInSightBeforeTheyAreMoved)
     }
 }
 
-TEST(EvmPlotBoxes, areShownAtTheNearestEdgeOfAPlotThatEndsBeforeTheirPlace)
+TEST(EvmPlotBoxes, areShownAtTheNearestEdgeOfAPlotThatEndsBeforeTheirPosition)
 {
     EvmPlot plot;
     plot.resize({1600, 1000});
@@ -205,27 +205,42 @@ TEST(EvmPlotBoxes, areShownWhereTheirBeginningCanBeReadWhenTheyDoNotFit)
     EXPECT_EQ(plot.Legend().geometry().topLeft(), QPoint(0, 0));
 }
 
-TEST(EvmPlotBoxes, stayPartlyOutsideWhileEnoughOfThemIsInSight)
+TEST(EvmPlotBoxes, areShownWholeAtTheNearestPlaceWhereTheyFit)
 {
     EvmPlot plot; // 800 x 600
-    plot.setBoxText(1, QStringLiteral("a legend"));
-    const int width = plot.Legend().Width();
-    const int height = plot.Legend().Height();
-    ASSERT_GT(width, 32);
-    ASSERT_LT(height, 32); // one line, of which half must be in sight
-    const int half = (height + 1) / 2;
+    plot.setBoxText(1, QStringLiteral("a legend\nof two lines"));
+    const int right = 800 - plot.Legend().Width();
+    const int bottom = 600 - plot.Legend().Height();
     const auto shownAt = [&plot](int left, int top) {
         plot.moveBox(1, 15 * left, 15 * top);
+        EXPECT_EQ(plot.Legend().unitsLeft(), 15 * left) << "the position stays";
+        EXPECT_EQ(plot.Legend().unitsTop(), 15 * top);
         return plot.Legend().geometry().topLeft();
     };
-    EXPECT_EQ(shownAt(800 - 16, 100), QPoint(800 - 16, 100));
-    EXPECT_EQ(shownAt(800 - 15, 100), QPoint(800 - width, 100));
-    EXPECT_EQ(shownAt(16 - width, 100), QPoint(16 - width, 100));
-    EXPECT_EQ(shownAt(15 - width, 100), QPoint(0, 100));
-    EXPECT_EQ(shownAt(100, 600 - half), QPoint(100, 600 - half));
-    EXPECT_EQ(shownAt(100, 601 - half), QPoint(100, 600 - height));
-    EXPECT_EQ(shownAt(100, half - height), QPoint(100, half - height));
-    EXPECT_EQ(shownAt(-5, half - height - 1), QPoint(0, 0)) << "wholly inside, then";
+    EXPECT_EQ(shownAt(right, bottom), QPoint(right, bottom));
+    EXPECT_EQ(shownAt(right + 1, 100), QPoint(right, 100));
+    EXPECT_EQ(shownAt(100, bottom + 1), QPoint(100, bottom));
+    EXPECT_EQ(shownAt(-1, 100), QPoint(0, 100));
+    EXPECT_EQ(shownAt(5000, -5000), QPoint(right, 0));
+}
+
+TEST(EvmPlotBoxes, ofALargerPlotAreWholeInASmallerOne)
+{
+    EvmPlot large;
+    large.resize({1600, 1000});
+    large.setBoxText(1, QStringLiteral("[0] goland_clean_m040.ev2\n[1] goland_clean_m050.ev2"));
+    const int width = large.Legend().Width();
+    EvmPlot small; // 800 x 600
+    small.Clone(large);
+    small.moveBox(1, 15 * (800 - width + 104), 15 * 100); // 104 pixels of it would be cut off
+    EXPECT_EQ(small.Legend().geometry().right() + 1, 800);
+    const auto inkOf = [width](EvmPlot& plot) {
+        const QRect box = plot.Legend().geometry();
+        return plot.Image().copy(QRect(box.topLeft(), QSize(width, box.height())));
+    };
+    large.moveBox(1, 15 * 1400, 15 * 20); // where nothing else is drawn
+    small.moveBox(1, 15 * 5000, 15 * 20);
+    EXPECT_EQ(inkOf(small), inkOf(large));
 }
 
 TEST(EvmPlotBoxes, cannotBeMoreThanThree)
