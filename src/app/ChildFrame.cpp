@@ -30,10 +30,16 @@ ChildFrame::ChildFrame(QWidget* content)
 {
     setWidget(content);
     setObjectName(content->objectName() + QStringLiteral("Frame"));
-    setWindowTitle(content->windowTitle());
-    setAccessibleName(content->windowTitle());
+    followTitle();
+    connect(content, &QWidget::windowTitleChanged, this, &ChildFrame::followTitle);
     setAttribute(Qt::WA_DeleteOnClose, false);
     setMinimumSize(1, 1);
+}
+
+void ChildFrame::followTitle()
+{
+    setWindowTitle(widget()->windowTitle());
+    setAccessibleName(widget()->accessibleName());
 }
 
 void ChildFrame::bringBack()

@@ -23,6 +23,9 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+
+private:
+    void followTitle();
 };
 
 /// The three child windows.

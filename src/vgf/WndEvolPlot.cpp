@@ -37,8 +37,7 @@ void NewPlotDefaults::applyTo(EvmPlot& plot) const
 wndEvolPlot::wndEvolPlot(UserInterface& user, QWidget* parent) : QWidget(parent), m_user(user)
 {
     setObjectName(QStringLiteral("wndEvolPlot"));
-    setWindowTitle(QStringLiteral("V-g-f Plot"));
-    setAccessibleName(windowTitle());
+    updateTitle();
     evpVgf.push_back(makeElement(0));
     setMinimumSize(evpVgf.front().view->minimumSize());
 }
@@ -67,6 +66,7 @@ void wndEvolPlot::ActivatePlot(EvmPlot* plot)
         view->show();
         setFocusProxy(view); // takes the focus along when the window has it
     }
+    updateTitle();
     Q_EMIT activePlotChanged(before, plot);
 }
 
@@ -82,6 +82,18 @@ void wndEvolPlot::hideActivePlot()
         setFocus(Qt::OtherFocusReason);
     view->hide();
     m_activePlot->setVisible(false);
+}
+
+/// The toolkit puts something else in the place of "[*]" in a title, unless it is written twice.
+void wndEvolPlot::updateTitle()
+{
+    QString title = QStringLiteral("V-g-f Plot");
+    if (m_activePlot != nullptr)
+        title += QStringLiteral(" - ") + m_activePlot->Caption();
+    if (title == accessibleName())
+        return;
+    setAccessibleName(title);
+    setWindowTitle(title.replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
 }
 
 EvmPlot& wndEvolPlot::AddPlot(const QString& caption)
@@ -180,6 +192,7 @@ wndEvolPlot::Element wndEvolPlot::makeElement(int index)
     new PlotReadout(*plot, *view); // belongs to the view
     connect(view.get(), &EvmPlotView::failed, this, &wndEvolPlot::failed);
     connect(view.get(), &EvmPlotView::commandBegun, this, [this] { m_user.beginCommand(); });
+    connect(plot.get(), &EvmPlot::changed, this, &wndEvolPlot::updateTitle);
     return {index, std::move(plot), std::move(view)};
 }
 

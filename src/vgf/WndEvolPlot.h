@@ -26,7 +26,8 @@ struct NewPlotDefaults
 
 /// The window of the V-g-f plots. It owns them as an array that begins with element 0, "Plot1",
 /// which is always there. At most one plot is active: it is the only visible one, fills the window,
-/// and is what every command on "the plot" means. A new window has no active plot.
+/// and is what every command on "the plot" means; the window's title names it. A new window has no
+/// active plot.
 class wndEvolPlot : public QWidget
 {
     Q_OBJECT
@@ -115,6 +116,7 @@ private:
     std::vector<Element>::iterator find(const EvmPlot* plot);
     bool hasActivePlot();
     void hideActivePlot();
+    void updateTitle();
 
     UserInterface& m_user;
     std::vector<Element> evpVgf; ///< by increasing index

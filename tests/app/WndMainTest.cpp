@@ -114,6 +114,10 @@ TEST_F(WndMainTest, startsWithTheChildWindowsInTheDefaultLayout)
         EXPECT_TRUE(frame(name).isVisible()) << name;
     EXPECT_EQ(frame("wndData").windowTitle().toStdString(), "Data Control");
     EXPECT_EQ(frame("wndEvolExplorer").windowTitle().toStdString(), "Modal Evolutions Explorer");
+    EXPECT_EQ(frame("wndEvolPlot").windowTitle().toStdString(), "V-g-f Plot - Plot1");
+    plot().setCaption(QStringLiteral("Clean"));
+    EXPECT_EQ(frame("wndEvolPlot").windowTitle().toStdString(), "V-g-f Plot - Clean");
+    EXPECT_EQ(frame("wndEvolPlot").accessibleName().toStdString(), "V-g-f Plot - Clean");
 }
 
 TEST_F(WndMainTest, keepsTheQuarterOfTheExplorerOnATinyFrame)

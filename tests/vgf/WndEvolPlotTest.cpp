@@ -26,6 +26,23 @@ TEST_F(WndEvolPlotTest, hasItsNamesAndTitle)
     EXPECT_EQ(window.accessibleName(), QStringLiteral("V-g-f Plot"));
 }
 
+TEST_F(WndEvolPlotTest, namesTheActivePlotInItsTitle)
+{
+    EvmPlot* const second = add();
+    activateFirst();
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("V-g-f Plot - Plot1"));
+    window.ActivatePlot(second);
+    second->setCaption(QStringLiteral("clean %1 & [*]"));
+    plotAt(0)->setCaption(QStringLiteral("hidden"));
+    EXPECT_EQ(window.accessibleName(), QStringLiteral("V-g-f Plot - clean %1 & [*]"));
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("V-g-f Plot - clean %1 & [*][*]"))
+        << "the toolkit shows one for two";
+    window.RemovePlot(second);
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("V-g-f Plot - hidden"));
+    window.ActivatePlot(nullptr);
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("V-g-f Plot"));
+}
+
 TEST_F(WndEvolPlotTest, beginsWithPlot1AndNoActivePlot)
 {
     show();
