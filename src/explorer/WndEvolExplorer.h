@@ -107,6 +107,7 @@ private:
     void addPlot_Click();
     void copyPlot_Click();
     void removePlot_Click();
+    void showNode(const EvmPlot& plot);
 
     std::vector<EVM*> evolutionsToSelect() const;
     std::vector<EvmPlot*> takeSeries(const EVM* evolution);

@@ -2,6 +2,7 @@
 
 #include "explorer/CurveAdder.h"
 #include "explorer/ExplorerNode.h"
+#include "explorer/PlotNodes.h"
 #include "explorer/WndEvolExplorer.h"
 #include "model/EVM.h"
 #include "model/Session.h"
@@ -11,6 +12,7 @@
 
 #include <QAction>
 #include <QToolBar>
+#include <QTreeWidget>
 
 namespace tarsil {
 
@@ -82,12 +84,19 @@ std::vector<EVM*> wndEvolExplorer::evolutionsToSelect() const
 
 void wndEvolExplorer::addPlot_Click()
 {
-    m_plotWindow.AddPlot(QString());
+    showNode(m_plotWindow.AddPlot(QString()));
 }
 
 void wndEvolExplorer::copyPlot_Click()
 {
-    m_plotWindow.CopyPlot(QString());
+    if (EvmPlot* const copy = m_plotWindow.CopyPlot(QString()))
+        showNode(*copy);
+}
+
+/// A new plot is not active, so that only its node tells of it.
+void wndEvolExplorer::showNode(const EvmPlot& plot)
+{
+    m_tree->scrollToItem(m_plots->nodeOf(&plot));
 }
 
 void wndEvolExplorer::removePlot_Click()

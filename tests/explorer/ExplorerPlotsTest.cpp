@@ -38,6 +38,25 @@ TEST_F(WndEvolExplorerTest, opensTheFolderOfANewPlot)
     EXPECT_FALSE(node("Plots").isExpanded());
 }
 
+TEST_F(WndEvolExplorerTest, scrollsToANewPlot)
+{
+    for (int i = 0; i < 30; ++i)
+        fill("case" + std::to_string(i) + ".evm");
+    explorer.resize(300, 200);
+    explorer.show();
+    const auto isSeen = [this](const char* caption) {
+        const QRect place = tree().visualItemRect(&node(caption));
+        return tree().viewport()->rect().contains(place.center());
+    };
+    tree().scrollToTop();
+    ASSERT_FALSE(isSeen("Plot1"));
+    choose("AddPlot");
+    EXPECT_TRUE(isSeen("Plot2"));
+    tree().scrollToTop();
+    choose("CopyPlot");
+    EXPECT_TRUE(isSeen("Plot1(3)"));
+}
+
 TEST_F(WndEvolExplorerTest, copiesTheActivePlot)
 {
     plotAt(0).setVthicks(3);
