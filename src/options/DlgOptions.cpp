@@ -4,12 +4,12 @@
 
 #include "aircraft/AirplaneInfo.h"
 #include "options/ListInput.h"
-#include "options/WarningSign.h"
 #include "runtime/ErrorGuard.h"
 #include "runtime/Numbers.h"
 #include "runtime/PathNames.h"
 #include "runtime/RunTimeError.h"
 #include "runtime/UserInterface.h"
+#include "vgf/InputWarning.h"
 #include "vgf/WndEvolPlot.h"
 
 #include <algorithm>
@@ -49,8 +49,7 @@ dlgOptions::dlgOptions(AirplaneInfo& airplaneInfo, wndEvolPlot& plots, UserInter
       m_plots(plots), m_user(user), m_store(std::move(store))
 {
     m_ui->setupUi(this);
-    m_missingFile =
-        std::make_unique<WarningSign>(*m_ui->txtAcInfo, QStringLiteral("There is no such file"));
+    m_missingFile = std::make_unique<InputWarning>(*m_ui->txtAcInfo);
     m_scaleInput = std::make_unique<ListInput>(*m_ui->txtVgfScale, 6, QStringLiteral("six"));
     m_thicksInput = std::make_unique<ListInput>(*m_ui->txtVgfThicks, 3, QStringLiteral("three"));
     connect(m_ui->txtAcInfo, &QLineEdit::textChanged, this, &dlgOptions::showWhetherFileIsThere);
@@ -176,7 +175,8 @@ void dlgOptions::showEvent(QShowEvent* event)
 void dlgOptions::showWhetherFileIsThere()
 {
     const QString file = m_ui->txtAcInfo->text();
-    m_missingFile->setVisible(!file.isEmpty() && !fileExists(file.toStdString()));
+    const bool isMissing = !file.isEmpty() && !fileExists(file.toStdString());
+    m_missingFile->show(isMissing ? QStringLiteral("There is no such file") : QString());
 }
 
 void dlgOptions::btnAcInfo_Click()

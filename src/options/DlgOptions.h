@@ -12,7 +12,7 @@ namespace tarsil {
 
 class AirplaneInfo;
 class ListInput;
-class WarningSign;
+class InputWarning;
 class UserInterface;
 class wndEvolPlot;
 
@@ -85,7 +85,7 @@ private:
     wndEvolPlot& m_plots;
     UserInterface& m_user;
     OptionsStore m_store;
-    std::unique_ptr<WarningSign> m_missingFile;
+    std::unique_ptr<InputWarning> m_missingFile;
     OptionTexts m_before; ///< what was to be kept when the store had been read
     std::unique_ptr<ListInput> m_scaleInput;
     std::unique_ptr<ListInput> m_thicksInput;

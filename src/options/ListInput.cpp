@@ -14,8 +14,8 @@ constexpr QChar separator = u'|';
 
 ListInput::ListInput(QLineEdit& input, qsizetype count, const QString& countWord)
     : m_input(input), m_count(count),
-      m_sign(input,
-             QStringLiteral("Ignored: %1 numbers with | between them are needed").arg(countWord))
+      m_needed(QStringLiteral("Ignored: %1 numbers with | between them are needed").arg(countWord)),
+      m_warning(input)
 {
     connect(&m_input, &QLineEdit::textChanged, this, &ListInput::showWhetherIgnored);
     showWhetherIgnored();
@@ -54,7 +54,7 @@ std::string ListInput::nameOf(std::size_t place) const
 
 void ListInput::showWhetherIgnored()
 {
-    m_sign.setVisible(!isEmpty() && !fits());
+    m_warning.show(isEmpty() || fits() ? QString() : m_needed);
 }
 
 } // namespace tarsil

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "options/WarningSign.h"
+#include "vgf/InputWarning.h"
 
 #include <QObject>
 #include <QString>
@@ -42,7 +42,8 @@ private:
 
     QLineEdit& m_input;
     qsizetype m_count;
-    WarningSign m_sign;
+    QString m_needed; ///< what a text that is ignored lacks
+    InputWarning m_warning;
 };
 
 } // namespace tarsil
