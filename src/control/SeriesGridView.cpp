@@ -15,6 +15,10 @@ namespace tarsil {
 
 namespace {
 
+constexpr int evolutionColumn = static_cast<int>(SeriesColumn::Evolution);
+constexpr int legendColumn = static_cast<int>(SeriesColumn::Legend);
+constexpr int leastLegendWidth = 80;
+constexpr int leastSectionWidth = 24; ///< the usual one has room for the widest of all letters
 constexpr int indexColumn = static_cast<int>(SeriesColumn::Index);
 constexpr int modeColumn = static_cast<int>(SeriesColumn::Mode);
 constexpr int lineColumn = static_cast<int>(SeriesColumn::Line);
@@ -29,6 +33,7 @@ SeriesGridView::SeriesGridView(QWidget* parent) : QTableView(parent)
     setDragDropOverwriteMode(false);
     setDefaultDropAction(Qt::MoveAction);
     setWordWrap(false);
+    setTextElideMode(Qt::ElideMiddle); // names of runs differ at their ends
     setTabKeyNavigation(false); // Tab leaves the grid
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
@@ -37,6 +42,54 @@ SeriesGridView::SeriesGridView(QWidget* parent) : QTableView(parent)
         if (index.column() == lineColumn)
             Q_EMIT styleWanted();
     });
+    horizontalHeader()->setMinimumSectionSize(leastSectionWidth);
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this,
+            [this](int column) { m_hasUsersWidth |= column == evolutionColumn && !m_isFitting; });
+}
+
+void SeriesGridView::setModel(QAbstractItemModel* model)
+{
+    m_isFitting = true; // new columns have a width that is nobody's
+    QTableView::setModel(model);
+    m_isFitting = false;
+    connect(model, &QAbstractItemModel::modelReset, this, &SeriesGridView::fitNames);
+    connect(model, &QAbstractItemModel::rowsInserted, this, &SeriesGridView::fitNames);
+    fitNames();
+}
+
+void SeriesGridView::resizeEvent(QResizeEvent* event)
+{
+    QTableView::resizeEvent(event);
+    fitNames();
+}
+
+/// A scroll bar may come or go on the way, which leaves less room or more.
+void SeriesGridView::fitNames()
+{
+    if (m_hasUsersWidth || m_isFitting || model() == nullptr)
+        return;
+    m_isFitting = true;
+    constexpr int mostAttempts = 3;
+    int room = -1;
+    for (int i = 0; i < mostAttempts && room != viewport()->width(); ++i) {
+        room = viewport()->width();
+        horizontalHeader()->resizeSection(evolutionColumn, widthOfNames(room));
+    }
+    m_isFitting = false;
+}
+
+/// In a grid that is `width` wide.
+int SeriesGridView::widthOfNames(int width) const
+{
+    const QHeaderView& header = *horizontalHeader();
+    int room = width - leastLegendWidth;
+    for (int column = 0; column < header.count(); ++column) {
+        if (column != evolutionColumn && column != legendColumn)
+            room -= header.sectionSize(column);
+    }
+    const int least = header.sectionSizeHint(evolutionColumn);
+    const int needed = std::max(sizeHintForColumn(evolutionColumn), least);
+    return std::min(needed, std::max(room, least));
 }
 
 std::vector<std::size_t> SeriesGridView::selectedRows() const

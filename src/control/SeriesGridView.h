@@ -8,6 +8,8 @@ namespace tarsil {
 
 /// The grid of series. Cells are selected as in a sheet; a row is dragged by its first column to
 /// another place. What the user wants goes up as a signal; the view changes nothing itself.
+/// The column of the evolutions is as wide as their names are, as far as the other columns leave it
+/// room, until the user gives it a width; a name that is longer is shortened in its middle.
 class SeriesGridView : public QTableView
 {
     Q_OBJECT
@@ -37,6 +39,7 @@ public:
     /// What stands in the middle while there are no rows.
     void setPlaceholder(const QString& text) { m_placeholder = text; }
 
+    void setModel(QAbstractItemModel* model) override;
     void dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
                      const QList<int>& roles) override;
 
@@ -60,11 +63,16 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void fitNames();
+    int widthOfNames(int width) const;
     bool handleKey(const QKeyEvent& event);
 
     QString m_placeholder;
+    bool m_isFitting = false;
+    bool m_hasUsersWidth = false; ///< of the column of the evolutions
 };
 
 } // namespace tarsil

@@ -68,10 +68,13 @@ void wndData::connectGrid()
                            "Evolution\", or pick modes with the right button there."));
     QHeaderView& header = *grid.horizontalHeader();
     header.setHighlightSections(false);
-    header.setStretchLastSection(true);
-    constexpr std::array widths = {36, 170, 44, 52, 44};
-    for (int column = 0; column < static_cast<int>(widths.size()); ++column)
-        header.resizeSection(column, widths[static_cast<std::size_t>(column)]);
+    constexpr std::array widths = {
+        std::pair(SeriesColumn::Index, 36), std::pair(SeriesColumn::Tag, 44),
+        std::pair(SeriesColumn::Mode, 52), std::pair(SeriesColumn::Line, 44),
+        std::pair(SeriesColumn::Legend, 80)};
+    for (const auto& [column, width] : widths)
+        header.resizeSection(columnNumber(column), width);
+    header.setStretchLastSection(true); // from then on its width is the least one
     connect(&grid, &SeriesGridView::removeWanted, this, runs(&wndData::cmdRemove_Click));
     connect(&grid, &SeriesGridView::raiseWanted, this, runs(&wndData::cmdIncMode_Click));
     connect(&grid, &SeriesGridView::lowerWanted, this, runs(&wndData::cmdDecMode_Click));

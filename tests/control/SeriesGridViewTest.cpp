@@ -2,6 +2,7 @@
 
 #include "WndDataFixture.h"
 
+#include <QScrollBar>
 #include <QTest>
 
 #include <gmock/gmock.h>
@@ -11,6 +12,8 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 namespace {
+
+constexpr int evolutionColumn = static_cast<int>(SeriesColumn::Evolution);
 
 class SeriesGridViewTest : public test::WndDataTest
 {
@@ -137,6 +140,51 @@ TEST_F(SeriesGridViewTest, showsAModeThatIsNotDrawnInASelectedCellToo)
     EXPECT_NE(grid().viewport()->grab(beside).toImage(), before);
     press(Qt::Key_Plus);
     EXPECT_EQ(grid().viewport()->grab(beside).toImage(), before);
+}
+
+TEST_F(SeriesGridViewTest, givesTheNamesTheWidthThatTheyNeed)
+{
+    const std::string name = "wing_clean_full_fuel_altitude_m040.ev2";
+    const auto width = [this] { return grid().columnWidth(evolutionColumn); };
+    const auto hasRoomFor = [this](const std::string& text) {
+        const int needed = grid().fontMetrics().horizontalAdvance(QString::fromStdString(text));
+        return grid().columnWidth(evolutionColumn) > needed;
+    };
+    const int narrow = width();
+    EXPECT_TRUE(hasRoomFor("Modal Evolution"));
+    add(load(name));
+    EXPECT_TRUE(hasRoomFor(name));
+    EXPECT_GT(width(), narrow);
+    const int wide = width();
+    add(load(std::string(200, 'w') + ".ev2"));
+    EXPECT_GT(width(), wide);
+    EXPECT_EQ(grid().textElideMode(), Qt::ElideMiddle);
+    const QRect legend =
+        grid().visualRect(model().index(0, static_cast<int>(SeriesColumn::Legend)));
+    EXPECT_LE(legend.left() + 80, grid().viewport()->width()) << "the legend keeps some room";
+    EXPECT_FALSE(grid().horizontalScrollBar()->isVisible());
+    select(5, 1, SeriesColumn::Tag);
+    click("cmdRemove");
+    EXPECT_EQ(width(), wide) << "the long name is gone";
+}
+
+TEST_F(SeriesGridViewTest, leavesRoomForTheScrollBarOfManyRows)
+{
+    EVM& evolution = load(std::string(200, 'w') + ".ev2");
+    for (int i = 0; i < 60; ++i)
+        add(evolution);
+    QApplication::processEvents();
+    EXPECT_TRUE(grid().verticalScrollBar()->isVisible());
+    EXPECT_FALSE(grid().horizontalScrollBar()->isVisible());
+}
+
+TEST_F(SeriesGridViewTest, keepsTheWidthThatTheUserGivesTheNames)
+{
+    grid().horizontalHeader()->resizeSection(evolutionColumn, 77);
+    add(load("wing_clean_full_fuel_m040.ev2"));
+    data.resize(900, 500);
+    QApplication::processEvents();
+    EXPECT_EQ(grid().columnWidth(evolutionColumn), 77);
 }
 
 TEST_F(SeriesGridViewTest, keepsTheSelectionWhenACurveIsAdded)
