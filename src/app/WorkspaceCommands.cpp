@@ -11,6 +11,7 @@
 #include "runtime/RunTimeError.h"
 #include "vgf/EvolutionRecords.h"
 #include "vgf/PlotRecords.h"
+#include "runtime/ShortList.h"
 #include "vgf/WndEvolPlot.h"
 #include "workspace/FoundFiles.h"
 #include "workspace/WorkspaceReader.h"
@@ -283,13 +284,11 @@ void WorkspaceCommands::tellOfNamesakes(const std::vector<std::string>& stored,
     if (lines.empty())
         return;
     m_isPartial = true;
-    std::string text = "These modal evolutions are not where the workspace says. Files of their "
-                       "names were taken, which may be those of other runs:";
-    for (std::size_t i = 0; i < std::min(lines.size(), mostTold); ++i)
-        text += "\n" + lines[i];
-    if (lines.size() > mostTold)
-        text += "\nand " + std::to_string(lines.size() - mostTold) + " more";
-    m_userInterface.showMessage(text, "Tarsil", MessageIcon::Exclamation);
+    const std::string text =
+        "These modal evolutions are not where the workspace says. Files of their "
+        "names were taken, which may be those of other runs:";
+    m_userInterface.showMessage(text + "\n" + shortList(lines, mostTold), "Tarsil",
+                                MessageIcon::Exclamation);
 }
 
 /// The first plot, which is always there, becomes the first of the file; the others are new, and
