@@ -2,6 +2,7 @@
 
 #include "analysis/FlutterReport.h"
 #include "analysis/SheetWriter.h"
+#include "app/LeftOutRows.h"
 #include "model/EVM.h"
 #include "runtime/BusyStatus.h"
 #include "runtime/ErrorGuard.h"
@@ -48,6 +49,7 @@ std::vector<ReportRow> rowsOf(const EvmPlot& plot)
 void FlutterReportCommand::run(const EvmPlot& plot, const QString& folder)
 {
     guarded(m_userInterface, module, [&] {
+        tellOfLeftOutRows({&plot}, "the flutter report", m_userInterface);
         const auto damping = ask(FlutterReport::dampingPrompt);
         if (!damping || damping->empty())
             return;

@@ -27,9 +27,10 @@ public:
         : m_userInterface(userInterface), m_opener(std::move(opener))
     { }
 
-    /// An empty answer to one of the two questions ends the command without a workbook. After an
-    /// error, which is reported in module "wndMain", the cells written so far are in the workbook
-    /// all the same. `folder` is where it goes.
+    /// Tells first which rows of the plot have no curve and so none in the table. An empty answer
+    /// to one of the two questions ends the command without a workbook. After an error, which is
+    /// reported in module "wndMain", the cells written so far are in the workbook all the same.
+    /// `folder` is where it goes.
     void run(const EvmPlot& plot, const QString& folder);
 
 private:

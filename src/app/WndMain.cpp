@@ -2,6 +2,7 @@
 
 #include "app/DlgDampLine.h"
 #include "app/DlgRefSpeed.h"
+#include "app/LeftOutRows.h"
 #include "app/StatusPanels.h"
 #include "control/WndData.h"
 #include "explorer/WndEvolExplorer.h"
@@ -237,6 +238,7 @@ void wndMain::ExportMenu_Click()
     std::vector<const AeMode*> modes;
     for (const Series& series : activePlot().SeriesCollection())
         modes.push_back(series.Mode);
+    tellOfLeftOutRows({&activePlot()}, "the mixed modal evolution", m_userInterface);
     mdlMix::exportMixed(modes, m_userInterface);
 }
 

@@ -1,5 +1,6 @@
 #include "app/WorkspaceCommands.h"
 
+#include "app/LeftOutRows.h"
 #include "explorer/DateText.h"
 #include "explorer/WndEvolExplorer.h"
 #include "model/EvolutionLoader.h"
@@ -9,9 +10,9 @@
 #include "runtime/InputFile.h"
 #include "runtime/PathNames.h"
 #include "runtime/RunTimeError.h"
+#include "runtime/ShortList.h"
 #include "vgf/EvolutionRecords.h"
 #include "vgf/PlotRecords.h"
-#include "runtime/ShortList.h"
 #include "vgf/WndEvolPlot.h"
 #include "workspace/FoundFiles.h"
 #include "workspace/WorkspaceReader.h"
@@ -305,6 +306,8 @@ EvmPlot& WorkspaceCommands::plotFor(std::size_t index, const QString& caption)
 void WorkspaceCommands::SaveWorkSpace()
 {
     guarded(m_userInterface, mdlWorkSpace::module, [this] {
+        const std::vector<EvmPlot*> plots = m_plots.plots();
+        tellOfLeftOutRows({plots.begin(), plots.end()}, "the workspace", m_userInterface);
         const FileQuestion question {std::string(mdlWorkSpace::filter), 1, false, m_path, false};
         const auto answer = m_userInterface.askSaveFile(question);
         if (!answer)

@@ -41,7 +41,8 @@ public:
     /// Opens the workspace of the command line: a path, with or without double quotes.
     void OpenWorkSpace(const std::string& path);
 
-    /// Asks for a file and writes it, whole or not at all.
+    /// Asks for a file and writes it, whole or not at all; tells first which rows of the plots have
+    /// no curve, which the file does not keep.
     void SaveWorkSpace();
 
     /// Asks the user whether changes since the last save may be lost; true also when there are

@@ -32,7 +32,7 @@ void LineSampleDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
 {
     QStyledItemDelegate::paint(painter, option, index);
     const auto* const model = qobject_cast<const SeriesGridModel*>(index.model());
-    const Series* const series = model != nullptr ? model->series(index.row()) : nullptr;
+    const Series* const series = model != nullptr ? model->look(index.row()) : nullptr;
     if (series == nullptr)
         return;
     const QRect ground = option.rect.adjusted(2, 2, -2, -2);

@@ -1,6 +1,7 @@
 #include "control/MdlData.h"
 
 #include "model/EVM.h"
+#include "runtime/ShortList.h"
 #include "vgf/EvmPlot.h"
 
 #include <QStringList>
@@ -12,80 +13,30 @@ namespace tarsil::mdlData {
 
 namespace {
 
-/// The place of a mode in its evolution, counted from 1.
-std::int32_t placeOf(const AeMode* mode)
-{
-    if (mode == nullptr || mode->Parent == nullptr)
-        return 0;
-    const auto& modes = mode->Parent->Modes;
-    const auto place = std::find_if(modes.begin(), modes.end(),
-                                    [mode](const auto& one) { return one.get() == mode; });
-    return place == modes.end() ? 0 : static_cast<std::int32_t>(place - modes.begin() + 1);
-}
-
-/// Moves one row with its series.
-void moveRow(EvmPlot& plot, std::vector<Row>& rows, std::size_t from, std::size_t to)
-{
-    plot.SerieMove(from + 1, to + 1);
-    const auto begin = rows.begin() + static_cast<std::ptrdiff_t>(std::min(from, to));
-    const auto end = rows.begin() + static_cast<std::ptrdiff_t>(std::max(from, to)) + 1;
-    if (from < to)
-        std::rotate(begin, begin + 1, end);
-    else
-        std::rotate(begin, end - 1, end);
-}
+constexpr std::size_t mostLines = 30; ///< more do not fit on a small screen
 
 } // namespace
 
-std::vector<Row> rowsOf(const SeriesList& series, const std::vector<Row>& before)
+std::string missingModeText(const PlotRows& rows, std::size_t row)
 {
-    std::vector<Row> rows;
-    rows.reserve(series.size());
-    auto next = before.begin();
-    for (const Series& one : series) {
-        const auto known = std::find_if(next, before.end(), [&one](const Row& row) {
-            return row.drawn == one.Mode && row.drawn != nullptr;
-        });
-        if (known == before.end()) {
-            rows.push_back({one.Mode, placeOf(one.Mode)});
-        } else {
-            rows.push_back(*known);
-            next = known + 1;
-        }
-    }
-    return rows;
+    const EVM* const evolution = rows.evolution(row);
+    return "There is no mode " + std::to_string(rows.mode(row)) + " in modal evolution "
+        + (evolution != nullptr ? evolution->FileName : std::string());
 }
 
-AeMode* modeNumbered(const Series& series, std::int32_t number)
+std::string missingModesText(const PlotRows& rows)
 {
-    if (series.Mode == nullptr || series.Mode->Parent == nullptr || number < 1)
-        return nullptr;
-    const auto& modes = series.Mode->Parent->Modes;
-    const auto place = static_cast<std::size_t>(number - 1);
-    return place < modes.size() ? modes[place].get() : nullptr;
+    std::vector<std::string> lines;
+    for (const std::size_t row : rows.withoutSeries())
+        lines.push_back(missingModeText(rows, row));
+    return shortList(lines, mostLines);
 }
 
-std::string missingModeText(const Series& series, std::int32_t number)
+std::string buildSeries(PlotRows& rows, const MarkerOptions& markers)
 {
-    const bool isKnown = series.Mode != nullptr && series.Mode->Parent != nullptr;
-    return "There is no mode " + std::to_string(number) + " in modal evolution "
-        + (isKnown ? series.Mode->Parent->FileName : std::string());
-}
-
-std::string buildSeries(SeriesList& series, std::vector<Row>& rows, const MarkerOptions& markers)
-{
-    std::string missing;
-    for (std::size_t i = 0; i < series.size() && i < rows.size(); ++i) {
-        AeMode* const mode = modeNumbered(series[i], rows[i].mode);
-        if (mode != nullptr) {
-            series[i].Mode = mode;
-            rows[i].drawn = mode;
-        } else if (missing.empty()) {
-            missing = missingModeText(series[i], rows[i].mode);
-        }
-        setMarkers(series[i], markers);
-    }
-    return missing;
+    for (std::size_t row = 0; row < rows.count(); ++row)
+        setMarkers(rows.look(row), markers);
+    return missingModesText(rows);
 }
 
 void setMarkers(Series& series, const MarkerOptions& markers)
@@ -96,6 +47,21 @@ void setMarkers(Series& series, const MarkerOptions& markers)
     series.IthMpf = markers.ithMpf;
 }
 
+void changeMarkers(PlotRows& rows, const MarkerOptions& before, const MarkerOptions& now)
+{
+    for (std::size_t row = 0; row < rows.count(); ++row) {
+        Series& look = rows.look(row);
+        if (now.size != before.size)
+            look.MarkerSize = now.size;
+        if (now.spacing != before.spacing)
+            look.MarkerSpacing = now.spacing;
+        if (now.style != before.style)
+            look.MarkerStyle = now.style;
+        if (now.ithMpf != before.ithMpf)
+            look.IthMpf = now.ithMpf;
+    }
+}
+
 void setColor(Series& series, ColorValue color)
 {
     if (series.MarkerForegroundColor == series.ColorIndex)
@@ -103,35 +69,35 @@ void setColor(Series& series, ColorValue color)
     series.ColorIndex = color;
 }
 
-void resetColors(SeriesList& series)
+void resetColors(PlotRows& rows)
 {
-    for (std::size_t i = 0; i < series.size(); ++i)
-        setColor(series[i], BaseColors[i % BaseColors.size()]);
+    for (std::size_t row = 0; row < rows.count(); ++row)
+        setColor(rows.look(row), BaseColors[row % BaseColors.size()]);
 }
 
 /// From the last to the first when they go down and the other way when they go up, so that no move
 /// changes the place of one that is still to come.
-Places moveRows(EvmPlot& plot, std::vector<Row>& rows, const Places& moved, std::size_t target)
+Places moveRows(EvmPlot& plot, const Places& moved, std::size_t target)
 {
     const auto above = static_cast<std::size_t>(std::count_if(
         moved.begin(), moved.end(), [target](std::size_t place) { return place < target; }));
     const std::size_t first = target - above;
     for (std::size_t i = above; i-- > 0;)
-        moveRow(plot, rows, moved[i], first + i);
+        plot.SerieMove(moved[i] + 1, first + i + 1);
     for (std::size_t i = above; i < moved.size(); ++i)
-        moveRow(plot, rows, moved[i], first + i);
+        plot.SerieMove(moved[i] + 1, first + i + 1);
     Places places(moved.size());
     std::iota(places.begin(), places.end(), first);
     return places;
 }
 
-Places moveRowsUp(EvmPlot& plot, std::vector<Row>& rows, const Places& moved)
+Places moveRowsUp(EvmPlot& plot, const Places& moved)
 {
     Places places = moved;
     std::size_t top = 0; // the first place that is free to move to
     for (std::size_t& place : places) {
         if (place > top) {
-            moveRow(plot, rows, place, place - 1);
+            plot.SerieMove(place + 1, place);
             --place;
         }
         top = place + 1;
@@ -139,13 +105,13 @@ Places moveRowsUp(EvmPlot& plot, std::vector<Row>& rows, const Places& moved)
     return places;
 }
 
-Places moveRowsDown(EvmPlot& plot, std::vector<Row>& rows, const Places& moved)
+Places moveRowsDown(EvmPlot& plot, const Places& moved)
 {
     Places places = moved;
-    std::size_t end = rows.size(); // behind the last place that is free to move to
+    std::size_t end = plot.rows().count(); // behind the last place that is free to move to
     for (std::size_t i = places.size(); i-- > 0;) {
         if (places[i] + 1 < end) {
-            moveRow(plot, rows, places[i], places[i] + 1);
+            plot.SerieMove(places[i] + 1, places[i] + 2);
             ++places[i];
         }
         end = places[i];
@@ -153,10 +119,9 @@ Places moveRowsDown(EvmPlot& plot, std::vector<Row>& rows, const Places& moved)
     return places;
 }
 
-std::int32_t raisedMode(const Series& series, std::int32_t number)
+std::int32_t raisedMode(const EVM* evolution, std::int32_t number)
 {
-    const bool canGo = series.Mode != nullptr && series.Mode->Parent != nullptr
-        && number < series.Mode->Parent->na;
+    const bool canGo = evolution != nullptr && number < evolution->na;
     return canGo ? number + 1 : number;
 }
 
@@ -173,33 +138,35 @@ QString inOneLine(QString text)
     return text.replace(u'\n', u' ');
 }
 
-bool fillLegend(Series& series, std::int32_t index)
+bool fillLegend(PlotRows& rows, std::size_t row, std::int32_t index)
 {
-    if (series.Mode == nullptr || series.Mode->Parent == nullptr)
+    const EVM* const evolution = rows.evolution(row);
+    if (evolution == nullptr)
         return false;
-    const EVM& evolution = *series.Mode->Parent;
+    QString& text = rows.look(row).LegendText;
     if (index == -1) {
-        series.LegendText = QString::fromStdString(evolution.FileName);
+        text = QString::fromStdString(evolution->FileName);
         return true;
     }
-    if (index < 0 || static_cast<std::size_t>(index) >= evolution.Param.legends.size())
+    if (index < 0 || static_cast<std::size_t>(index) >= evolution->Param.legends.size())
         return false;
-    const auto& entry = evolution.Param.legends[static_cast<std::size_t>(index)];
+    const auto& entry = evolution->Param.legends[static_cast<std::size_t>(index)];
     QStringList parts = QString::fromStdString(entry.text).split(u'|', Qt::SkipEmptyParts);
     for (QString& part : parts)
         part = part.trimmed();
-    series.LegendText = parts.join(QStringLiteral("; "));
+    text = parts.join(QStringLiteral("; "));
     return true;
 }
 
-bool fillLegends(SeriesList& series, const Places& places, std::int32_t index)
+bool fillLegends(PlotRows& rows, const Places& places, std::int32_t index)
 {
     bool isThere = true;
-    const auto fill = [&](Series& one) { isThere &= fillLegend(one, index); };
-    if (places.empty())
-        std::for_each(series.begin(), series.end(), fill);
-    for (const std::size_t place : places)
-        fill(series.at(place));
+    if (places.empty()) {
+        for (std::size_t row = 0; row < rows.count(); ++row)
+            isThere &= fillLegend(rows, row, index);
+    }
+    for (const std::size_t row : places)
+        isThere &= fillLegend(rows, row, index);
     return isThere;
 }
 

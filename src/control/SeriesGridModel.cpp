@@ -54,14 +54,6 @@ QVariant warningIcon()
     return QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
 }
 
-/// Why the number of a row is red.
-QString notDrawnText(const Series& series, std::int32_t number)
-{
-    return mdlData::modeNumbered(series, number) == nullptr
-        ? QString::fromStdString(mdlData::missingModeText(series, number))
-        : QStringLiteral("The plot shows another mode until \"Plot\" is pressed.");
-}
-
 } // namespace
 
 SeriesGridModel::SeriesGridModel(QObject* parent) : QAbstractTableModel(parent) { }
@@ -72,49 +64,51 @@ void SeriesGridModel::setPlot(EvmPlot* plot)
 {
     if (plot == m_plot)
         return;
-    if (m_plot != nullptr) {
+    if (m_plot != nullptr)
         disconnect(m_plot, nullptr, this, nullptr);
-        m_others[m_plot] = m_rows;
-    }
     m_plot = plot;
-    Rows before;
-    if (plot != nullptr) {
+    if (plot != nullptr)
         connect(plot, &EvmPlot::changed, this, &SeriesGridModel::follow);
-        before = std::exchange(m_others[plot], {});
-    }
-    replaceRows(plot != nullptr ? mdlData::rowsOf(plot->SeriesCollection(), before) : Rows());
+    replaceRows(rowsOfPlot());
     Q_EMIT rowsReplaced();
 }
 
-void SeriesGridModel::forget(const EvmPlot* plot)
+SeriesGridModel::Row SeriesGridModel::rowOf(std::size_t row) const
 {
-    m_others.erase(plot);
+    return {m_plot->rows().look(row).Mode, m_plot->rows().evolution(row)};
 }
 
-/// The series may be others than before: the picture has changed.
+SeriesGridModel::Rows SeriesGridModel::rowsOfPlot() const
+{
+    Rows rows;
+    for (std::size_t row = 0; m_plot != nullptr && row < m_plot->rows().count(); ++row)
+        rows.push_back(rowOf(row));
+    return rows;
+}
+
+/// The rows may be others than before: the picture has changed.
 void SeriesGridModel::follow()
 {
-    const SeriesList& series = m_plot->SeriesCollection();
-    const auto isDrawn = [](const auto& row, const Series& one) { return row.drawn == one.Mode; };
-    const bool areBegun = m_rows.size() <= series.size()
-        && std::equal(m_rows.begin(), m_rows.end(), series.begin(), isDrawn);
-    if (areBegun && m_rows.size() == series.size())
+    Rows rows = rowsOfPlot();
+    const bool areBegun =
+        m_rows.size() <= rows.size() && std::equal(m_rows.begin(), m_rows.end(), rows.begin());
+    if (areBegun && m_rows.size() == rows.size())
         return seriesChanged();
     const bool areNew = m_rows.empty();
     if (areBegun)
-        appendRows(mdlData::rowsOf(series, m_rows));
+        appendRows(std::move(rows));
     else
-        replaceRows(mdlData::rowsOf(series, m_rows));
+        replaceRows(std::move(rows));
     if (areNew)
         Q_EMIT rowsReplaced();
 }
 
 /// What is selected or being edited in the rows before stays so.
-void SeriesGridModel::appendRows(const Rows& rows)
+void SeriesGridModel::appendRows(Rows rows)
 {
     seriesChanged();
     beginInsertRows({}, rowCount(), static_cast<int>(rows.size()) - 1);
-    m_rows = rows;
+    m_rows = std::move(rows);
     endInsertRows();
 }
 
@@ -155,59 +149,62 @@ QVariant SeriesGridModel::headerData(int section, Qt::Orientation orientation, i
                               : headings[static_cast<std::size_t>(section)];
 }
 
-Series* SeriesGridModel::series(int row) const
+Series* SeriesGridModel::look(int row) const
 {
-    const bool isThere = m_plot != nullptr && row >= 0
-        && static_cast<std::size_t>(row) < m_plot->SeriesCollection().size();
-    return isThere ? &m_plot->SeriesCollection()[static_cast<std::size_t>(row)] : nullptr;
+    const bool isThere =
+        m_plot != nullptr && row >= 0 && static_cast<std::size_t>(row) < m_plot->rows().count();
+    return isThere ? &m_plot->rows().look(static_cast<std::size_t>(row)) : nullptr;
+}
+
+bool SeriesGridModel::hasSeries(int row) const
+{
+    return m_plot->rows().hasSeries(static_cast<std::size_t>(row));
 }
 
 QVariant SeriesGridModel::data(const QModelIndex& index, int role) const
 {
-    const Series* const one = index.isValid() ? series(index.row()) : nullptr;
+    const Series* const one = index.isValid() ? look(index.row()) : nullptr;
     if (one == nullptr)
         return {};
     const SeriesColumn column = columnOf(index);
+    const bool isMarked = column == SeriesColumn::Mode && !hasSeries(index.row());
     switch (role) {
     case Qt::DisplayRole:
     case Qt::EditRole:
-        return text(*one, index.row(), column);
+        return text(index.row(), column);
     case Qt::ToolTipRole:
-        return toolTip(*one, index.row(), column);
+        return toolTip(index.row(), column);
     case Qt::AccessibleTextRole:
-        return column == SeriesColumn::Line ? lineText(*one) : text(*one, index.row(), column);
+        return column == SeriesColumn::Line ? lineText(*one) : text(index.row(), column);
     case Qt::TextAlignmentRole:
         return column == SeriesColumn::Index || column == SeriesColumn::Mode
             ? QVariant(static_cast<int>(Qt::AlignRight | Qt::AlignVCenter))
             : QVariant();
     case Qt::DecorationRole: // seen in a selected cell, too, where the colour is that of selections
-        return column == SeriesColumn::Mode && !isDrawn(index.row()) ? warningIcon() : QVariant();
+        return isMarked ? warningIcon() : QVariant();
     case Qt::AccessibleDescriptionRole:
-        return column == SeriesColumn::Mode && !isDrawn(index.row())
-            ? QVariant(notDrawnText(*one, modeNumber(index.row())))
-            : QVariant();
+        return isMarked ? QVariant(missingModeText(index.row())) : QVariant();
     case Qt::ForegroundRole:
-        return column == SeriesColumn::Mode && !isDrawn(index.row()) ? QColor(Qt::red) : QVariant();
+        return isMarked ? QColor(Qt::red) : QVariant();
     default:
         return {};
     }
 }
 
-QVariant SeriesGridModel::text(const Series& one, int row, SeriesColumn column) const
+QVariant SeriesGridModel::text(int row, SeriesColumn column) const
 {
+    const EVM* const evolution = m_plot->rows().evolution(static_cast<std::size_t>(row));
     switch (column) {
     case SeriesColumn::Index:
         return QString::number(row + 1);
     case SeriesColumn::Evolution:
-        return one.Mode != nullptr && one.Mode->Parent != nullptr
-            ? QString::fromStdString(one.Mode->Parent->FileName)
-            : QString();
+        return evolution != nullptr ? QString::fromStdString(evolution->FileName) : QString();
     case SeriesColumn::Tag:
-        return one.MarkerTag;
+        return look(row)->MarkerTag;
     case SeriesColumn::Mode:
         return QString::number(modeNumber(row));
     case SeriesColumn::Legend:
-        return one.LegendText;
+        return look(row)->LegendText;
     case SeriesColumn::Line:
         break;
     }
@@ -215,24 +212,26 @@ QVariant SeriesGridModel::text(const Series& one, int row, SeriesColumn column) 
 }
 
 /// What does not stand in the cell: the folder, the line in words, why a number is red.
-QVariant SeriesGridModel::toolTip(const Series& one, int row, SeriesColumn column) const
+QVariant SeriesGridModel::toolTip(int row, SeriesColumn column) const
 {
+    const EVM* const evolution = m_plot->rows().evolution(static_cast<std::size_t>(row));
     QString tip;
-    if (column == SeriesColumn::Evolution && one.Mode != nullptr && one.Mode->Parent != nullptr)
-        tip = QString::fromStdString(shownPath(one.Mode->Parent->path()));
+    if (column == SeriesColumn::Evolution && evolution != nullptr)
+        tip = QString::fromStdString(shownPath(evolution->path()));
     else if (column == SeriesColumn::Line)
-        tip = lineText(one);
-    else if (column == SeriesColumn::Mode && !isDrawn(row))
-        tip = notDrawnText(one, modeNumber(row));
+        tip = lineText(*look(row));
+    else if (column == SeriesColumn::Mode && !hasSeries(row))
+        tip = missingModeText(row);
     else if (column == SeriesColumn::Legend)
-        tip = one.LegendText;
+        tip = look(row)->LegendText;
     return tip.isEmpty() ? QVariant() : QVariant(toolTipText(tip));
 }
 
-bool SeriesGridModel::isDrawn(int row) const
+/// Why the number of a row is red.
+QString SeriesGridModel::missingModeText(int row) const
 {
-    const Series* const one = series(row);
-    return one != nullptr && mdlData::modeNumbered(*one, modeNumber(row)) == one->Mode;
+    return QString::fromStdString(
+        mdlData::missingModeText(m_plot->rows(), static_cast<std::size_t>(row)));
 }
 
 Qt::ItemFlags SeriesGridModel::flags(const QModelIndex& index) const
@@ -261,11 +260,11 @@ Qt::DropActions SeriesGridModel::supportedDropActions() const
 
 bool SeriesGridModel::setData(const QModelIndex& index, const QVariant& value, int role)
 {
-    Series* const one = index.isValid() && role == Qt::EditRole ? series(index.row()) : nullptr;
+    Series* const one = index.isValid() && role == Qt::EditRole ? look(index.row()) : nullptr;
     if (one == nullptr || !flags(index).testFlag(Qt::ItemIsEditable))
         return false;
     const SeriesColumn column = columnOf(index);
-    if (value.toString() == text(*one, index.row(), column).toString())
+    if (value.toString() == text(index.row(), column).toString())
         return true;
     if (column == SeriesColumn::Mode) {
         if (!setModeText(index.row(), value.toString()))
@@ -297,41 +296,41 @@ bool SeriesGridModel::setModeText(int row, const QString& text)
 
 std::int32_t SeriesGridModel::modeNumber(int row) const
 {
-    return m_rows.at(static_cast<std::size_t>(row)).mode;
+    return m_plot->rows().mode(static_cast<std::size_t>(row));
 }
 
 void SeriesGridModel::setModeNumber(int row, std::int32_t number)
 {
-    m_rows.at(static_cast<std::size_t>(row)).mode = number;
-    const QModelIndex cell = index(row, static_cast<int>(SeriesColumn::Mode));
-    Q_EMIT dataChanged(cell, cell);
+    const auto place = static_cast<std::size_t>(row);
+    m_plot->rows().setMode(place, number);
+    m_rows.at(place) = rowOf(place);
+    Q_EMIT dataChanged(index(row, 0), index(row, seriesColumnCount - 1));
 }
 
-std::string SeriesGridModel::build(const MarkerOptions& markers)
+void SeriesGridModel::raiseMode(int row)
 {
-    if (m_plot == nullptr)
-        return {};
-    std::string missing = mdlData::buildSeries(m_plot->SeriesCollection(), m_rows, markers);
-    seriesChanged();
-    return missing;
+    const EVM* const evolution = m_plot->rows().evolution(static_cast<std::size_t>(row));
+    setModeNumber(row, mdlData::raisedMode(evolution, modeNumber(row)));
 }
 
-void SeriesGridModel::removeSeries(const std::vector<std::size_t>& rows)
+void SeriesGridModel::lowerMode(int row)
 {
-    SeriesList& series = m_plot->SeriesCollection();
-    beginResetModel(); // the rows behind get other numbers
-    for (std::size_t i = rows.size(); i-- > 0;) {
-        const auto place = static_cast<std::ptrdiff_t>(rows[i]);
-        series.erase(series.begin() + place);
-        m_rows.erase(m_rows.begin() + place);
-    }
+    setModeNumber(row, mdlData::loweredMode(modeNumber(row)));
+}
+
+void SeriesGridModel::removeSeries(const Places& rows)
+{
+    beginResetModel(); // the rows after them get other numbers
+    m_plot->rows().remove(rows);
+    m_rows = rowsOfPlot();
     endResetModel();
 }
 
 mdlData::Places SeriesGridModel::moveSeries(const Places& rows, std::size_t target)
 {
     beginResetModel();
-    Places places = mdlData::moveRows(*m_plot, m_rows, rows, target);
+    Places places = mdlData::moveRows(*m_plot, rows, target);
+    m_rows = rowsOfPlot();
     endResetModel();
     return places;
 }
@@ -339,7 +338,8 @@ mdlData::Places SeriesGridModel::moveSeries(const Places& rows, std::size_t targ
 mdlData::Places SeriesGridModel::moveSeriesUp(const Places& rows)
 {
     beginResetModel();
-    Places places = mdlData::moveRowsUp(*m_plot, m_rows, rows);
+    Places places = mdlData::moveRowsUp(*m_plot, rows);
+    m_rows = rowsOfPlot();
     endResetModel();
     return places;
 }
@@ -347,7 +347,8 @@ mdlData::Places SeriesGridModel::moveSeriesUp(const Places& rows)
 mdlData::Places SeriesGridModel::moveSeriesDown(const Places& rows)
 {
     beginResetModel();
-    Places places = mdlData::moveRowsDown(*m_plot, m_rows, rows);
+    Places places = mdlData::moveRowsDown(*m_plot, rows);
+    m_rows = rowsOfPlot();
     endResetModel();
     return places;
 }

@@ -5,7 +5,6 @@
 
 #include <QAbstractTableModel>
 
-#include <unordered_map>
 #include <vector>
 
 namespace tarsil {
@@ -16,9 +15,8 @@ class EvmPlot;
 enum class SeriesColumn { Index, Evolution, Tag, Mode, Line, Legend };
 constexpr int seriesColumnCount = 6;
 
-/// The series of a plot as rows of a grid: always the same rows, whoever changes them. The mode
-/// number of a row is kept as it was typed, also while another plot is shown; it becomes the mode
-/// of the series by `build`.
+/// The rows of a plot as rows of a grid: always the same rows, whoever changes them. The number of
+/// a row that names no mode is marked.
 class SeriesGridModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -27,12 +25,9 @@ public:
     explicit SeriesGridModel(QObject* parent = nullptr);
     ~SeriesGridModel() override;
 
-    /// Shows the series of a plot, which must outlive that; null shows no rows.
+    /// Shows the rows of a plot, which must outlive that; null shows none.
     void setPlot(EvmPlot* plot);
     EvmPlot* plot() const { return m_plot; }
-
-    /// A plot ends: nothing about it is kept.
-    void forget(const EvmPlot* plot);
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -42,14 +37,18 @@ public:
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
     Qt::DropActions supportedDropActions() const override;
 
-    /// Null for a row that is not there.
-    Series* series(int row) const;
+    /// What the curve of a row looks like, or would, where its number names no mode. Null for a row
+    /// that is not there.
+    Series* look(int row) const;
 
     std::int32_t modeNumber(int row) const;
+
+    /// Gives the row the series of that mode, or none; nothing is drawn.
     void setModeNumber(int row, std::int32_t number);
 
-    /// Makes the rows the plot's series (`mdlData::buildSeries`); nothing is drawn.
-    std::string build(const MarkerOptions& markers);
+    /// The number above or below, as `mdlData` counts them.
+    void raiseMode(int row);
+    void lowerMode(int row);
 
     // Rows with their series, as `mdlData` does it. Selections do not follow.
 
@@ -69,23 +68,33 @@ Q_SIGNALS:
     /// What the user typed cannot stand there; the cell is as before.
     void refused(const tarsil::RunTimeError& error);
 
-    /// Another plot is shown, or the plot has got its first series.
+    /// Another plot is shown, or the plot has got its first row.
     void rowsReplaced();
 
 private:
-    using Rows = std::vector<mdlData::Row>;
+    /// What tells a row from another one.
+    struct Row
+    {
+        const AeMode* drawn = nullptr;
+        const EVM* evolution = nullptr;
 
+        bool operator==(const Row&) const = default;
+    };
+    using Rows = std::vector<Row>;
+
+    Row rowOf(std::size_t row) const;
+    Rows rowsOfPlot() const;
     void follow();
     void replaceRows(Rows rows);
-    void appendRows(const Rows& rows);
-    QVariant text(const Series& one, int row, SeriesColumn column) const;
-    QVariant toolTip(const Series& one, int row, SeriesColumn column) const;
-    bool isDrawn(int row) const;
+    void appendRows(Rows rows);
+    QVariant text(int row, SeriesColumn column) const;
+    QVariant toolTip(int row, SeriesColumn column) const;
+    QString missingModeText(int row) const;
+    bool hasSeries(int row) const;
     bool setModeText(int row, const QString& text);
 
     EvmPlot* m_plot = nullptr;
-    Rows m_rows; ///< of the plot that is shown
-    std::unordered_map<const EvmPlot*, Rows> m_others; ///< of plots that were shown before
+    Rows m_rows; ///< of the plot, as the view knows them
 };
 
 } // namespace tarsil

@@ -25,20 +25,27 @@ int columnNumber(SeriesColumn column)
     return static_cast<int>(column);
 }
 
+std::unique_ptr<Ui::wndData> makeForm(wndData& window)
+{
+    auto form = std::make_unique<Ui::wndData>();
+    form->setupUi(&window);
+    return form;
+}
+
 } // namespace
 
 wndData::wndData(wndEvolPlot& plots, const AirplaneInfo& airplane, ReferenceEvolution reference,
                  UserInterface& user, QWidget* parent)
-    : QWidget(parent), m_ui(std::make_unique<Ui::wndData>()), m_plots(plots), m_airplane(airplane),
-      m_reference(std::move(reference)), m_user(user)
+    : QWidget(parent), m_ui(makeForm(*this)), m_sizeWarning(*m_ui->mksizeInp),
+      m_spacingWarning(*m_ui->mkspaceInp), m_factorWarning(*m_ui->ithmpfInp), m_plots(plots),
+      m_airplane(airplane), m_reference(std::move(reference)), m_user(user)
 {
-    m_ui->setupUi(this);
-    m_spacing = m_ui->mkspaceInp->text();
     m_ui->txtLegIdx->home(false); // what it means stands at its beginning
     setFocusProxy(m_ui->flxSerieViewer);
     connectGrid();
     connectButtons();
     connectOptions();
+    takeMarkers();
     makeMoveMenu();
     fillMechanisms();
     connect(&m_plots, &wndEvolPlot::activePlotChanged, this,
@@ -46,8 +53,6 @@ wndData::wndData(wndEvolPlot& plots, const AirplaneInfo& airplane, ReferenceEvol
                 commitEdits(); // belongs to the plot before
                 m_model.setPlot(now);
             });
-    connect(&m_plots, &wndEvolPlot::plotAboutToBeRemoved, this,
-            [this](EvmPlot* plot) { m_model.forget(plot); });
     connect(&m_plots, &wndEvolPlot::seriesAdded, this, &wndData::styleNewSeries);
     m_model.setPlot(m_plots.ActivePlot());
 }
@@ -117,6 +122,10 @@ void wndData::connectOptions()
     for (QRadioButton* option : {m_ui->optFlutMecLong, m_ui->optFlutMecShort})
         connect(option, &QRadioButton::clicked, this, runs(&wndData::cmbFlutMech_Click));
     connect(m_ui->tagBtn, &QRadioButton::clicked, this, runs(&wndData::tagBtn_Click));
+    for (QRadioButton* style : {m_ui->womkBtn, m_ui->aemodeBtn, m_ui->ithmpfBtn})
+        connect(style, &QRadioButton::clicked, this, runs(&wndData::applyMarkers));
+    for (QLineEdit* input : {m_ui->mksizeInp, m_ui->mkspaceInp, m_ui->ithmpfInp})
+        connect(input, &QLineEdit::textChanged, this, runs(&wndData::applyMarkers));
     connect(m_ui->mkspaceInp, &QLineEdit::editingFinished, this,
             runs(&wndData::mkspaceInp_LostFocus));
 }

@@ -2,6 +2,7 @@
 
 #include "control/MdlData.h"
 #include "control/SeriesGridModel.h"
+#include "vgf/InputWarning.h"
 
 #include <QWidget>
 
@@ -76,7 +77,10 @@ private:
     EvmPlot* activePlot();
     const EVM* reference();
     void warn(const std::string& text);
+    std::int32_t markerStyle() const;
     MarkerOptions markerOptions() const;
+    void takeMarkers();
+    void applyMarkers();
     void showMarkers();
     void styleNewSeries(EvmPlot* plot);
     bool isModeSelected(const char* refusal);
@@ -88,15 +92,18 @@ private:
     int currentColumn() const;
     void chooseLine();
     void afterEdit(SeriesColumn column);
-    std::string rebuild();
+    std::string rebuild(EvmPlot& plot);
 
     std::unique_ptr<Ui::wndData> m_ui;
+    InputWarning m_sizeWarning;
+    InputWarning m_spacingWarning;
+    InputWarning m_factorWarning;
     SeriesGridModel m_model;
     wndEvolPlot& m_plots;
     const AirplaneInfo& m_airplane;
     ReferenceEvolution m_reference;
     UserInterface& m_user;
-    QString m_spacing; ///< the last one that was accepted
+    MarkerOptions m_markers; ///< of each option what stood in its control last and could be
 };
 
 } // namespace tarsil

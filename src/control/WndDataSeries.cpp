@@ -11,6 +11,8 @@
 #include "runtime/UserInterface.h"
 #include "vgf/WndEvolPlot.h"
 
+#include <QSignalBlocker>
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -42,6 +44,19 @@ std::int32_t countIn(const QLineEdit& input, double most = anyCount)
     return static_cast<std::int32_t>(count);
 }
 
+/// Takes what stands in an input when it can be taken; the input shows when it cannot.
+void takeCount(const QLineEdit& input, double most, InputWarning& warning, std::int32_t& count)
+{
+    try {
+        count = countIn(input, most);
+        warning.show({});
+    } catch (const RunTimeError&) {
+        warning.show(most == factorCount
+                         ? QStringLiteral("Ignored: a number from 1 to 5 is needed")
+                         : QStringLiteral("Ignored: a number of at least 1 is needed"));
+    }
+}
+
 LineLook lookOf(const Series& series)
 {
     return {series.ColorIndex, series.LineStyle, series.LineWidth};
@@ -49,30 +64,32 @@ LineLook lookOf(const Series& series)
 
 } // namespace
 
-/// The rows become the series, and the plot is drawn; then the user hears of a mode that is not
+/// The rows become the series, and the plot is drawn; then the user hears of the modes that are not
 /// there.
 void wndData::cmdDrawPlot_Click()
 {
     EvmPlot* const plot = activePlot();
     if (plot == nullptr)
         return;
-    const std::string missing = rebuild();
+    const std::string missing = rebuild(*plot);
     plot->plot();
     if (!missing.empty())
         warn(missing);
 }
 
-std::string wndData::rebuild()
+std::string wndData::rebuild(EvmPlot& plot)
 {
-    return m_model.build(markerOptions());
+    return mdlData::buildSeries(plot.rows(), markerOptions());
 }
 
 void wndData::afterEdit(SeriesColumn column)
 {
-    if (column == SeriesColumn::Mode)
-        cmdDrawPlot_Click();
-    else if (column == SeriesColumn::Tag)
-        m_model.plot()->plot(); // the tag may be the marker
+    if (column != SeriesColumn::Mode && column != SeriesColumn::Tag)
+        return; // the tag may be the marker
+    m_model.plot()->plot();
+    const std::string missing = mdlData::missingModesText(m_model.plot()->rows());
+    if (column == SeriesColumn::Mode && !missing.empty())
+        warn(missing);
 }
 
 bool wndData::isModeSelected(const char* refusal)
@@ -99,11 +116,10 @@ void wndData::changeModes(bool raise)
 {
     static_cast<void>(markerOptions()); // what is wrong there is reported before anything changes
     for (const std::size_t place : m_ui->flxSerieViewer->selectedRows()) {
-        const int row = static_cast<int>(place);
-        const std::int32_t number = m_model.modeNumber(row);
-        m_model.setModeNumber(row,
-                              raise ? mdlData::raisedMode(*m_model.series(row), number)
-                                    : mdlData::loweredMode(number));
+        if (raise)
+            m_model.raiseMode(static_cast<int>(place));
+        else
+            m_model.lowerMode(static_cast<int>(place));
     }
     cmdDrawPlot_Click();
 }
@@ -175,7 +191,7 @@ void wndData::btnResColor_Click()
     EvmPlot* const plot = activePlot();
     if (plot == nullptr)
         return;
-    mdlData::resetColors(plot->SeriesCollection());
+    mdlData::resetColors(plot->rows());
     plot->plot();
 }
 
@@ -186,13 +202,13 @@ void wndData::chooseLine()
     const std::vector<std::size_t> rows = m_ui->flxSerieViewer->selectedOrCurrentRows();
     if (rows.empty())
         return;
-    dlgSeriesStyle dialog(lookOf(*m_model.series(static_cast<int>(rows.front()))), this);
+    dlgSeriesStyle dialog(lookOf(*m_model.look(static_cast<int>(rows.front()))), this);
     const LineLook before = dialog.look();
     if (dialog.exec() != QDialog::Accepted || dialog.look() == before)
         return;
     const LineLook now = dialog.look();
     for (const std::size_t row : rows) {
-        Series& series = *m_model.series(static_cast<int>(row));
+        Series& series = *m_model.look(static_cast<int>(row));
         if (now.color != before.color)
             mdlData::setColor(series, now.color);
         if (now.style != before.style)
@@ -203,55 +219,80 @@ void wndData::chooseLine()
     m_model.plot()->plot();
 }
 
+std::int32_t wndData::markerStyle() const
+{
+    return m_ui->aemodeBtn->isChecked() ? markerstyle::modeNumber
+        : m_ui->tagBtn->isChecked()     ? markerstyle::tag
+        : m_ui->ithmpfBtn->isChecked()  ? markerstyle::participationFactor
+                                        : markerstyle::none;
+}
+
 /// The index of the participation factor must be a number only where it is the marker.
 MarkerOptions wndData::markerOptions() const
 {
     MarkerOptions options;
-    options.style = m_ui->aemodeBtn->isChecked() ? markerstyle::modeNumber
-        : m_ui->tagBtn->isChecked()              ? markerstyle::tag
-        : m_ui->ithmpfBtn->isChecked()           ? markerstyle::participationFactor
-                                                 : markerstyle::none;
+    options.style = markerStyle();
     options.size = countIn(*m_ui->mksizeInp);
     options.spacing = countIn(*m_ui->mkspaceInp);
-    std::int16_t factor = 0;
-    if (options.style == markerstyle::participationFactor)
-        options.ithMpf = countIn(*m_ui->ithmpfInp, factorCount);
-    else if (parseInteger16(m_ui->ithmpfInp->text().toStdString(), factor) == NumberStatus::Ok)
-        options.ithMpf = factor;
+    options.ithMpf = options.style == markerstyle::participationFactor
+        ? countIn(*m_ui->ithmpfInp, factorCount)
+        : m_markers.ithMpf;
     return options;
+}
+
+/// An index of the participation factor that is not the marker may be anything.
+void wndData::takeMarkers()
+{
+    constexpr double any = std::numeric_limits<std::int32_t>::max();
+    m_markers.style = markerStyle();
+    takeCount(*m_ui->mksizeInp, any, m_sizeWarning, m_markers.size);
+    takeCount(*m_ui->mkspaceInp, any, m_spacingWarning, m_markers.spacing);
+    takeCount(*m_ui->ithmpfInp, factorCount, m_factorWarning, m_markers.ithMpf);
+    if (m_markers.style != markerstyle::participationFactor)
+        m_factorWarning.show({});
+}
+
+/// What the user changes here takes effect at once, and in all rows. Where rows have options of
+/// their own, those that he leaves as they are stay.
+void wndData::applyMarkers()
+{
+    const MarkerOptions before = m_markers;
+    takeMarkers();
+    EvmPlot* const plot = m_model.plot();
+    if (plot == nullptr || m_markers == before)
+        return;
+    mdlData::changeMarkers(plot->rows(), before, m_markers);
+    plot->plot();
 }
 
 /// The controls show what the first series of the plot has, so that "Plot" leaves a plot as it was
 /// opened. A series without markers says nothing about their size and spacing.
 void wndData::showMarkers()
 {
-    const Series* const series = m_model.series(0);
+    const Series* const series = m_model.look(0);
     if (series == nullptr)
         return;
+    const QSignalBlocker quiet[] = {QSignalBlocker(m_ui->mksizeInp),
+                                    QSignalBlocker(m_ui->mkspaceInp),
+                                    QSignalBlocker(m_ui->ithmpfInp)}; // it is not the user's change
     QRadioButton* const options[] = {m_ui->womkBtn, m_ui->aemodeBtn, m_ui->tagBtn, m_ui->ithmpfBtn};
     if (series->MarkerStyle >= 0 && series->MarkerStyle <= markerstyle::participationFactor)
         options[series->MarkerStyle]->setChecked(true);
     if (series->MarkerSize > 0)
         m_ui->mksizeInp->setText(QString::number(series->MarkerSize));
-    if (series->MarkerSpacing > 0) {
-        m_spacing = QString::number(series->MarkerSpacing);
-        m_ui->mkspaceInp->setText(m_spacing);
-    }
+    if (series->MarkerSpacing > 0)
+        m_ui->mkspaceInp->setText(QString::number(series->MarkerSpacing));
     if (series->IthMpf > 0)
         m_ui->ithmpfInp->setText(QString::number(series->IthMpf));
+    takeMarkers();
 }
 
-/// A curve that the user adds gets the markers that stand here, in its colour. What is wrong in
-/// them is told by "Plot", and not once for each of many curves.
+/// A curve that the user adds gets the markers that stand here, in its colour.
 void wndData::styleNewSeries(EvmPlot* plot)
 {
     Series& series = plot->SeriesCollection().back();
     series.MarkerForegroundColor = series.ColorIndex;
-    try {
-        mdlData::setMarkers(series, markerOptions());
-    } catch (const RunTimeError&) {
-        mdlData::setMarkers(series, {});
-    }
+    mdlData::setMarkers(series, m_markers);
 }
 
 /// What is rounded to 0 is refused as well. The box is as before when the message comes: the
@@ -262,15 +303,14 @@ void wndData::mkspaceInp_LostFocus()
     if (parseDouble(m_ui->mkspaceInp->text().toStdString(), spacing) != NumberStatus::Ok)
         return; // "Plot" says so
     if (std::nearbyint(spacing) <= 0) {
-        m_ui->mkspaceInp->setText(m_spacing);
+        m_ui->mkspaceInp->setText(QString::number(m_markers.spacing));
         warn("The spacing must be greater then zero!");
-    } else {
-        m_spacing = m_ui->mkspaceInp->text();
     }
 }
 
 void wndData::tagBtn_Click()
 {
+    applyMarkers();
     if (EvmPlot* const plot = activePlot())
         plot->plot();
 }

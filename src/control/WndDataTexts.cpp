@@ -97,7 +97,7 @@ void wndData::btnFilltLeg_Click()
         return;
     const std::int32_t index = legendIndexIn(*m_ui->txtLegIdx);
     const bool areThere =
-        mdlData::fillLegends(plot->SeriesCollection(), m_ui->flxSerieViewer->selectedRows(), index);
+        mdlData::fillLegends(plot->rows(), m_ui->flxSerieViewer->selectedRows(), index);
     m_model.seriesChanged();
     if (!areThere)
         warn("There is not " + std::to_string(index) + "\u00AA legend entry");
@@ -109,7 +109,7 @@ void wndData::btnPlotLeg_Click()
     if (plot == nullptr)
         return;
     const double points = fontSizeIn(*m_ui->txtLegFontSize);
-    const std::string missing = rebuild();
+    const std::string missing = rebuild(*plot);
     writeLegend(*plot, points);
     plot->plot();
     if (!missing.empty())

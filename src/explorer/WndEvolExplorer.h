@@ -110,7 +110,7 @@ private:
     void showNode(const EvmPlot& plot);
 
     std::vector<EVM*> evolutionsToSelect() const;
-    std::vector<EvmPlot*> takeSeries(const EVM* evolution);
+    std::vector<EvmPlot*> takeRows(const EVM& evolution);
     std::vector<EvmPlot*> forget(EVM& evolution);
     void drawAgain(const std::vector<EvmPlot*>& plots);
     void emptyPlots();

@@ -104,11 +104,11 @@ void wndEvolExplorer::removePlot_Click()
     m_plotWindow.RemovePlot(m_plotWindow.ActivePlot());
 }
 
-/// Takes everything away that refers to an evolution; returns the plots that had series of it, not
+/// Takes everything away that refers to an evolution; returns the plots that had rows of it, not
 /// yet drawn again.
 std::vector<EvmPlot*> wndEvolExplorer::forget(EVM& evolution)
 {
-    std::vector<EvmPlot*> changed = takeSeries(&evolution);
+    std::vector<EvmPlot*> changed = takeRows(evolution);
     if (m_reference == &evolution)
         setReference(nullptr);
     m_marks.forget(evolution);
@@ -116,14 +116,11 @@ std::vector<EvmPlot*> wndEvolExplorer::forget(EVM& evolution)
     return changed;
 }
 
-std::vector<EvmPlot*> wndEvolExplorer::takeSeries(const EVM* evolution)
+std::vector<EvmPlot*> wndEvolExplorer::takeRows(const EVM& evolution)
 {
     std::vector<EvmPlot*> changed;
     for (EvmPlot* const plot : m_plotWindow.plots()) {
-        const auto count = std::erase_if(plot->SeriesCollection(), [=](const Series& series) {
-            return series.Mode != nullptr && series.Mode->Parent == evolution;
-        });
-        if (count > 0)
+        if (plot->rows().removeRowsOf(evolution) > 0)
             changed.push_back(plot);
     }
     return changed;
@@ -136,7 +133,7 @@ void wndEvolExplorer::drawAgain(const std::vector<EvmPlot*>& plots)
         run([plot] { plot->plot(); });
 }
 
-/// The series go first, unseen: whoever called may have ended their evolutions already.
+/// The rows go first, unseen: whoever called may have ended their evolutions already.
 void wndEvolExplorer::startNew()
 {
     emptyPlots();
@@ -152,7 +149,7 @@ void wndEvolExplorer::emptyPlots()
 {
     const std::vector<EvmPlot*> plots = m_plotWindow.plots();
     for (EvmPlot* const plot : plots)
-        plot->SeriesCollection().clear();
+        plot->rows().clear();
     EvmPlot& first = *plots.front();
     for (std::size_t i = plots.size(); i-- > 1;)
         m_plotWindow.RemovePlot(plots[i]);

@@ -68,8 +68,8 @@ EvmPlot::~EvmPlot() = default;
 
 Series& EvmPlot::addSeries(AeMode& mode)
 {
-    const std::size_t count = m_series.size();
-    Series& series = m_series.emplace_back();
+    const std::size_t count = m_rows.count();
+    Series& series = m_rows.series().emplace_back();
     series.Mode = &mode;
     series.ColorIndex = BaseColors[count % BaseColors.size()];
     series.MarkerTag = QString::number(count);
@@ -78,23 +78,19 @@ Series& EvmPlot::addSeries(AeMode& mode)
 
 void EvmPlot::SerieMove(std::size_t from, std::size_t to)
 {
-    const std::size_t count = m_series.size();
+    const std::size_t count = m_rows.count();
     if (from < 1 || to < 1 || from > count || to > count)
         throw RunTimeError(ErrorNumber::SubscriptOutOfRange, "EvmPlot",
-                           "series " + std::to_string(from) + " to " + std::to_string(to) + " of "
+                           "row " + std::to_string(from) + " to " + std::to_string(to) + " of "
                                + std::to_string(count));
-    const auto first = m_series.begin() + static_cast<std::ptrdiff_t>(from) - 1;
-    const auto last = m_series.begin() + static_cast<std::ptrdiff_t>(to) - 1;
-    if (first < last)
-        std::rotate(first, first + 1, last + 1);
-    else
-        std::rotate(last, first, first + 1);
+    m_rows.move(from - 1, to - 1);
 }
 
 void EvmPlot::fitFreq()
 {
     const Scale scale = GetScale();
-    const std::optional<Range> range = visibleFrequencies(m_series, scale.vmin, scale.vmax);
+    const std::optional<Range> range =
+        visibleFrequencies(SeriesCollection(), scale.vmin, scale.vmax);
     if (!range)
         return;
     double fmin = std::nearbyint(static_cast<double>(range->smallest) * 0.95);

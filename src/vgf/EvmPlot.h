@@ -5,6 +5,7 @@
 #include "plot/UcPlot.h"
 #include "plot/XAxis.h"
 #include "plot/YAxis.h"
+#include "vgf/PlotRows.h"
 
 #include <QImage>
 #include <QObject>
@@ -61,16 +62,22 @@ public:
     emfRichTextBox& Mechanism() { return ertbTexts[2]; }
 
     /// The series in order of drawing. Whoever changes them calls `plot` afterwards.
-    SeriesList& SeriesCollection() { return m_series; }
-    const SeriesList& SeriesCollection() const override { return m_series; }
+    SeriesList& SeriesCollection() { return m_rows.series(); }
+    const SeriesList& SeriesCollection() const override { return m_rows.series(); }
 
-    /// Appends a series for a mode: with the k-th series (counted from 0) the colour is entry k mod
-    /// 7 of `BaseColors` and the tag is k. Nothing is drawn. The reference is good until the
+    /// The rows of which the series are those that have a curve. Whoever changes them calls `plot`
+    /// afterwards.
+    PlotRows& rows() { return m_rows; }
+    const PlotRows& rows() const { return m_rows; }
+
+    /// Appends a row with a series for a mode: in row k (counted from 0) the colour is entry k mod
+    /// 7 of `BaseColors` and the tag is k. Rows without a curve count, so that none gets the look
+    /// of another one when its curve comes back. Nothing is drawn. The reference is good until the
     /// collection changes.
     Series& addSeries(AeMode& mode);
 
-    /// Moves the series at position `from` to position `to`, both counted from 1; error 9
-    /// "Subscript out of range" outside the collection.
+    /// Moves the row at position `from` to position `to`, both counted from 1, and its series with
+    /// it; error 9 "Subscript out of range" outside the rows.
     void SerieMove(std::size_t from, std::size_t to);
 
     /// Fits the frequency axis to the points of all series whose speed lies above 0.8 vmin and
@@ -232,7 +239,7 @@ private:
     std::array<emfRichTextBox, 3> ertbTexts;
     double m_headerTop = 60; ///< twentieths of a point
 
-    SeriesList m_series;
+    PlotRows m_rows;
     QString m_caption;
     int m_modeColor = 0;
     bool m_visible = true;

@@ -84,6 +84,24 @@ TEST_F(Commands, exportTheCurvesOfThePlotAsOneFile)
     EXPECT_EQ(user.statuses.back(), "Ready");
 }
 
+TEST_F(Commands, exportNoModeOfARowWithoutACurveAndSaySo)
+{
+    plot().rows().setMode(1, 0);
+    std::vector<const AeMode*> modes;
+    for (const auto& mode : window.session().evolutions.front()->Modes)
+        modes.push_back(mode.get());
+    modes.erase(modes.begin() + 1);
+    mdlMix::gather(modes)->PrintEVM(folder.file("expected.mix"));
+    user.saveFiles.push_back(folder.file("all.mix"));
+    choose("ExportMenu");
+    ASSERT_EQ(user.messages.size(), 1U);
+    EXPECT_EQ(user.messages[0].text,
+              "Rows without a curve are left out of the mixed modal evolution:\n"
+              "There is no mode 0 in modal evolution goland_clean_m040.ev2 (row 2)");
+    EXPECT_EQ(test::fileBytes(folder.file("all.mix")),
+              test::fileBytes(folder.file("expected.mix")));
+}
+
 TEST_F(Commands, setTheScaleOfTheActivePlot)
 {
     QTimer::singleShot(0, [] {

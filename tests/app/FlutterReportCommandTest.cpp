@@ -75,6 +75,23 @@ TEST_F(FlutterReportCommandTest, asksWritesAndOpensTheWorkbook)
     EXPECT_EQ(workbooks().size(), 1);
 }
 
+TEST_F(FlutterReportCommandTest, leavesOutRowsWithoutACurveAndSaysWhich)
+{
+    plot.addSeries(*evolution.Modes[0]);
+    plot.addSeries(*evolution.Modes[0]);
+    plot.rows().setMode(0, 2);
+    plot.rows().setMode(2, 0);
+    user.texts = {"-5", "1000"};
+    run();
+    ASSERT_EQ(user.messages.size(), 1U);
+    EXPECT_EQ(user.messages[0].text,
+              "Rows without a curve are left out of the flutter report:\n"
+              "There is no mode 2 in modal evolution wing.evm (row 1)\n"
+              "There is no mode 0 in modal evolution wing.evm (row 3)");
+    ASSERT_EQ(opened.size(), 1);
+    EXPECT_EQ(test::readXlsx(opened[0].toStdString()).rowCount(), 2U) << "headings and one row";
+}
+
 TEST_F(FlutterReportCommandTest, offersNoAnswerThatWasNoNumber)
 {
     FlutterReportCommand command(user, [](const QString&) { return true; });

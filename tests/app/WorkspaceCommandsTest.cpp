@@ -815,3 +815,41 @@ TEST_F(WorkspaceCommandsTest, openTheSampleWhoseFilesHaveMoved)
     EXPECT_EQ(plots[1]->SeriesCollection().size(), 6U);
     EXPECT_EQ(plots[1]->SeriesCollection()[5].Mode->Parent->FileName, "goland_tipstore_m060.ev2");
 }
+
+TEST_F(WorkspaceCommandsTest, writesNoRowWithoutACurveAndSaysWhich)
+{
+    work();
+    const std::size_t curves = plot().SeriesCollection().size();
+    save();
+    ASSERT_TRUE(user.messages.empty());
+    EvmPlot& second = *window.evolPlot().plots().back();
+    second.addSeries(*window.session().evolutions[1]->Modes[0]);
+    second.rows().setMode(0, 99);
+    plot().rows().setMode(2, 0);
+    user.confirmations.push_back(true);
+    save();
+    ASSERT_EQ(user.messages.size(), 1U);
+    EXPECT_EQ(user.messages[0].text,
+              "Rows without a curve are left out of the workspace:\n"
+              "There is no mode 0 in modal evolution one.ev2 (row 3 of Plot1)\n"
+              "There is no mode 99 in modal evolution two.ev2 (row 1 of Second)");
+    EXPECT_EQ(plot().rows().count(), curves) << "the rows are still there";
+    open(folder.file("case.tsw"));
+    EXPECT_EQ(plot().SeriesCollection().size(), curves - 1);
+    EXPECT_EQ(plot().rows().count(), curves - 1);
+    EXPECT_TRUE(window.evolPlot().plots().back()->SeriesCollection().empty());
+}
+
+TEST_F(WorkspaceCommandsTest, asksWhenACurveIsGoneWithItsMode)
+{
+    work();
+    save();
+    plot().rows().setMode(2, 0);
+    user.questions.clear();
+    choose("mnuNewWorkspace");
+    EXPECT_EQ(user.questions.size(), 1U);
+    EXPECT_FALSE(plot().rows().hasSeries(2)) << "the answer was no";
+    user.confirmations.push_back(true);
+    choose("mnuNewWorkspace");
+    EXPECT_EQ(plot().rows().count(), 0U) << "a new workspace has no rows";
+}

@@ -22,10 +22,10 @@ protected:
         evolution.FileName = "case.ev2";
         for (std::int16_t id = 11; id <= 15; ++id)
             plot.addSeries(test::addMode(evolution, id, {{100, -0.02F, 5}, {200, 0.01F, 6}}));
-        rows = mdlData::rowsOf(series(), {});
     }
 
     SeriesList& series() { return plot.SeriesCollection(); }
+    PlotRows& rows() { return plot.rows(); }
     std::vector<int> order()
     {
         std::vector<int> ids;
@@ -36,55 +36,64 @@ protected:
     std::vector<int> numbers()
     {
         std::vector<int> modes;
-        for (const mdlData::Row& row : rows)
-            modes.push_back(row.mode);
+        for (std::size_t row = 0; row < rows().count(); ++row)
+            modes.push_back(rows().mode(row));
         return modes;
     }
 
     EVM evolution;
     EvmPlot plot;
-    std::vector<mdlData::Row> rows;
 };
 
 } // namespace
 
-TEST_F(MdlData, countsModesByTheirPlacesInTheEvolution)
+TEST_F(MdlData, givesTheSeriesOfTheRowsTheirMarkers)
 {
-    EXPECT_THAT(numbers(), ElementsAre(1, 2, 3, 4, 5));
-}
-
-TEST_F(MdlData, keepsWhatWasTypedWhenSeriesGoAndCome)
-{
-    rows[2].mode = 99;
-    series().erase(series().begin());
-    plot.addSeries(*evolution.Modes[0]);
-    rows = mdlData::rowsOf(series(), rows);
-    EXPECT_THAT(numbers(), ElementsAre(2, 99, 4, 5, 1));
-}
-
-TEST_F(MdlData, buildsTheSeriesOfTheRows)
-{
-    rows[0].mode = 5;
-    rows[4].mode = 1;
-    EXPECT_EQ(mdlData::buildSeries(series(), rows, {9, 4, markerstyle::tag, 2}), "");
-    EXPECT_THAT(order(), ElementsAre(15, 12, 13, 14, 11));
-    for (const Series& one : series()) {
-        EXPECT_EQ(one.MarkerSize, 9);
-        EXPECT_EQ(one.MarkerSpacing, 4);
-        EXPECT_EQ(one.MarkerStyle, markerstyle::tag);
-        EXPECT_EQ(one.IthMpf, 2);
+    rows().setMode(2, 9);
+    EXPECT_EQ(mdlData::buildSeries(rows(), {9, 4, markerstyle::tag, 2}),
+              "There is no mode 9 in modal evolution case.ev2");
+    EXPECT_THAT(order(), ElementsAre(11, 12, 14, 15));
+    for (std::size_t row = 0; row < rows().count(); ++row) {
+        EXPECT_EQ(rows().look(row).MarkerSize, 9);
+        EXPECT_EQ(rows().look(row).MarkerSpacing, 4);
+        EXPECT_EQ(rows().look(row).MarkerStyle, markerstyle::tag);
+        EXPECT_EQ(rows().look(row).IthMpf, 2);
     }
 }
 
-TEST_F(MdlData, namesTheFirstModeThatIsNotThereAndKeepsItsCurve)
+TEST_F(MdlData, namesAllModesThatAreNotThereALineEach)
 {
-    rows[1].mode = 0;
-    rows[2].mode = 1;
-    rows[3].mode = 6;
-    EXPECT_EQ(mdlData::buildSeries(series(), rows, {}),
-              "There is no mode 0 in modal evolution case.ev2");
-    EXPECT_THAT(order(), ElementsAre(11, 12, 11, 14, 15));
+    EXPECT_EQ(mdlData::missingModesText(rows()), "");
+    rows().setMode(1, 0);
+    rows().setMode(2, 1);
+    rows().setMode(3, 6);
+    EXPECT_EQ(mdlData::missingModesText(rows()),
+              "There is no mode 0 in modal evolution case.ev2\n"
+              "There is no mode 6 in modal evolution case.ev2");
     EXPECT_THAT(numbers(), ElementsAre(1, 0, 1, 6, 5));
+}
+
+TEST_F(MdlData, makesNoBoxThatIsHigherThanTheScreen)
+{
+    for (int i = 0; i < 40; ++i) {
+        plot.addSeries(*evolution.Modes[0]);
+        rows().setMode(rows().count() - 1, 100);
+    }
+    const std::string text = mdlData::missingModesText(rows());
+    EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 30);
+    EXPECT_THAT(text, ::testing::EndsWith("\nand 10 more"));
+}
+
+TEST_F(MdlData, changesOnlyTheMarkerOptionsThatDiffer)
+{
+    series()[1].MarkerSpacing = 3;
+    rows().setMode(2, 0);
+    mdlData::changeMarkers(rows(), {8, 10, markerstyle::tag, 1}, {12, 10, markerstyle::tag, 4});
+    EXPECT_EQ(series()[1].MarkerSize, 12);
+    EXPECT_EQ(series()[1].IthMpf, 4);
+    EXPECT_EQ(series()[1].MarkerSpacing, 3);
+    EXPECT_EQ(series()[1].MarkerStyle, markerstyle::none);
+    EXPECT_EQ(rows().look(2).MarkerSize, 12) << "its curve may come back";
 }
 
 TEST_F(MdlData, resetsColoursToThoseOfThePlaces)
@@ -95,7 +104,9 @@ TEST_F(MdlData, resetsColoursToThoseOfThePlaces)
         one.ColorIndex = 77;
     series()[1].MarkerForegroundColor = 77; // goes along
     series()[2].MarkerForegroundColor = 5; // is the user's own
-    mdlData::resetColors(series());
+    rows().setMode(0, 0); // its colour waits for it
+    mdlData::resetColors(rows());
+    rows().setMode(0, 1);
     for (std::size_t i = 0; i < series().size(); ++i)
         EXPECT_EQ(series()[i].ColorIndex, BaseColors[i % 7]) << i;
     EXPECT_EQ(series()[1].MarkerForegroundColor, BaseColors[1]);
@@ -120,32 +131,31 @@ TEST_F(MdlData, movesRowsTogetherToAGap)
         series().clear();
         for (const auto& mode : evolution.Modes)
             plot.addSeries(*mode);
-        rows = mdlData::rowsOf(series(), {});
-        EXPECT_EQ(mdlData::moveRows(plot, rows, one.moved, one.target), one.places);
+        EXPECT_EQ(mdlData::moveRows(plot, one.moved, one.target), one.places);
         EXPECT_EQ(order(), one.order);
-        EXPECT_EQ(rows, mdlData::rowsOf(series(), {})) << "the rows went along";
     }
 }
 
 TEST_F(MdlData, movesRowsByOnePlaceAsFarAsThereIsRoom)
 {
-    rows[3].mode = 99;
-    EXPECT_THAT(mdlData::moveRowsUp(plot, rows, {0, 3}), ElementsAre(0, 2));
-    EXPECT_THAT(order(), ElementsAre(11, 12, 14, 13, 15));
+    rows().setMode(3, 99);
+    EXPECT_THAT(mdlData::moveRowsUp(plot, {0, 3}), ElementsAre(0, 2));
     EXPECT_THAT(numbers(), ElementsAre(1, 2, 99, 3, 5));
-    EXPECT_THAT(mdlData::moveRowsUp(plot, rows, {0, 1}), ElementsAre(0, 1)) << "no room";
-    EXPECT_THAT(order(), ElementsAre(11, 12, 14, 13, 15));
-    EXPECT_THAT(mdlData::moveRowsDown(plot, rows, {0, 2, 4}), ElementsAre(1, 3, 4));
-    EXPECT_THAT(order(), ElementsAre(12, 11, 13, 14, 15));
-    EXPECT_THAT(mdlData::moveRowsDown(plot, rows, {}), ::testing::IsEmpty());
+    EXPECT_THAT(order(), ElementsAre(11, 12, 13, 15));
+    EXPECT_THAT(mdlData::moveRowsUp(plot, {0, 1}), ElementsAre(0, 1)) << "no room";
+    EXPECT_THAT(numbers(), ElementsAre(1, 2, 99, 3, 5));
+    EXPECT_THAT(mdlData::moveRowsDown(plot, {0, 2, 4}), ElementsAre(1, 3, 4));
+    EXPECT_THAT(numbers(), ElementsAre(2, 1, 3, 99, 5));
+    EXPECT_THAT(order(), ElementsAre(12, 11, 13, 15));
+    EXPECT_THAT(mdlData::moveRowsDown(plot, {}), ::testing::IsEmpty());
 }
 
 TEST_F(MdlData, raisesModesToWhatTheEvolutionDeclaresAndLowersThemToNothing)
 {
     evolution.na = 5;
-    EXPECT_EQ(mdlData::raisedMode(series()[0], 4), 5);
-    EXPECT_EQ(mdlData::raisedMode(series()[0], 5), 5);
-    EXPECT_EQ(mdlData::raisedMode(Series(), 1), 1);
+    EXPECT_EQ(mdlData::raisedMode(&evolution, 4), 5);
+    EXPECT_EQ(mdlData::raisedMode(&evolution, 5), 5);
+    EXPECT_EQ(mdlData::raisedMode(nullptr, 1), 1);
     EXPECT_EQ(mdlData::loweredMode(1), 0);
     EXPECT_EQ(mdlData::loweredMode(0), 0);
     EXPECT_EQ(mdlData::loweredMode(-3), -4);
@@ -160,14 +170,17 @@ TEST_F(MdlData, fillsLegendsWithTheNameOrAnEntryOfTheFile)
 {
     evolution.Param.legends.add("1", "clean wing");
     evolution.Param.legends.add("2", "altitude 0 ft| full fuel");
-    Series& one = series().front();
-    EXPECT_TRUE(mdlData::fillLegend(one, -1));
+    const Series& one = series().front();
+    EXPECT_TRUE(mdlData::fillLegend(rows(), 0, -1));
     EXPECT_EQ(one.LegendText, QStringLiteral("case.ev2"));
-    EXPECT_TRUE(mdlData::fillLegend(one, 0));
+    EXPECT_TRUE(mdlData::fillLegend(rows(), 0, 0));
     EXPECT_EQ(one.LegendText, QStringLiteral("clean wing"));
-    EXPECT_TRUE(mdlData::fillLegend(one, 1));
+    EXPECT_TRUE(mdlData::fillLegend(rows(), 0, 1));
     EXPECT_EQ(one.LegendText, QStringLiteral("altitude 0 ft; full fuel"));
-    EXPECT_FALSE(mdlData::fillLegend(one, 2));
-    EXPECT_FALSE(mdlData::fillLegend(one, -2));
+    EXPECT_FALSE(mdlData::fillLegend(rows(), 0, 2));
+    EXPECT_FALSE(mdlData::fillLegend(rows(), 0, -2));
     EXPECT_EQ(one.LegendText, QStringLiteral("altitude 0 ft; full fuel"));
+    rows().setMode(3, 0);
+    EXPECT_TRUE(mdlData::fillLegends(rows(), {}, 0));
+    EXPECT_EQ(rows().look(3).LegendText, QStringLiteral("clean wing")) << "a row without a curve";
 }

@@ -142,13 +142,43 @@ TEST_F(SeriesGridModelTest, showsInRedWhatThePlotDoesNot)
     EXPECT_FALSE(isRed(0));
     EXPECT_TRUE(type(0, SeriesColumn::Mode, "7"));
     EXPECT_TRUE(isRed(0));
+    EXPECT_EQ(plot.SeriesCollection().size(), 2U) << "no mode, no curve";
     EXPECT_EQ(text(0, SeriesColumn::Mode, Qt::ToolTipRole),
               "There is no mode 7 in modal evolution case.ev2");
     EXPECT_TRUE(type(0, SeriesColumn::Mode, "3"));
-    EXPECT_TRUE(isRed(0)) << "not built yet";
-    EXPECT_EQ(model.build({}), "");
     EXPECT_FALSE(isRed(0));
     EXPECT_EQ(plot.SeriesCollection()[0].Mode, evolution.Modes[2].get());
+}
+
+TEST_F(SeriesGridModelTest, showsARowWithoutACurveAsTheOthers)
+{
+    EXPECT_TRUE(type(1, SeriesColumn::Mode, "0"));
+    EXPECT_TRUE(type(1, SeriesColumn::Legend, "torsion"));
+    plot.plot();
+    ASSERT_EQ(model.rowCount(), 3);
+    EXPECT_EQ(text(1, SeriesColumn::Evolution), "case.ev2");
+    EXPECT_EQ(text(1, SeriesColumn::Evolution, Qt::ToolTipRole), "/runs/case.ev2");
+    EXPECT_EQ(text(1, SeriesColumn::Tag), "1");
+    EXPECT_EQ(text(1, SeriesColumn::Mode), "0");
+    EXPECT_EQ(text(1, SeriesColumn::Legend), "torsion");
+    EXPECT_EQ(text(2, SeriesColumn::Mode), "3");
+}
+
+TEST_F(SeriesGridModelTest, raisesAndLowersARowThroughANumberThatNamesNoMode)
+{
+    evolution.na = 5; // the file declares more than it holds
+    const auto numbersOnTheWay = [this](bool up) {
+        std::vector<std::string> numbers;
+        for (int i = 0; i < 3; ++i) {
+            up ? model.raiseMode(2) : model.lowerMode(2);
+            numbers.push_back(text(2, SeriesColumn::Mode));
+        }
+        return numbers;
+    };
+    EXPECT_THAT(numbersOnTheWay(true), ElementsAre("4", "5", "5"));
+    EXPECT_EQ(plot.SeriesCollection().size(), 2U);
+    EXPECT_THAT(numbersOnTheWay(false), ElementsAre("4", "3", "2"));
+    EXPECT_EQ(plot.SeriesCollection().back().Mode, evolution.Modes[1].get());
 }
 
 TEST_F(SeriesGridModelTest, refusesAModeThatIsNoNumber)
@@ -177,9 +207,6 @@ TEST_F(SeriesGridModelTest, keepsWhatWasTypedWhileAnotherPlotIsShown)
     EXPECT_EQ(text(3, SeriesColumn::Mode), "1");
     model.setPlot(nullptr);
     EXPECT_EQ(model.rowCount(), 0);
-    model.forget(&plot);
-    model.setPlot(&plot);
-    EXPECT_EQ(text(2, SeriesColumn::Mode), "3");
 }
 
 TEST_F(SeriesGridModelTest, removesAndMovesRowsWithTheirSeries)

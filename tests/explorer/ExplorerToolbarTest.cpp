@@ -36,6 +36,20 @@ TEST_F(WndEvolExplorerTest, endsTheNoteOfTheCommandBefore)
     EXPECT_EQ(user.note, "");
 }
 
+TEST_F(WndEvolExplorerTest, removesTheRowsWithoutACurveWithTheirEvolutionFromEveryPlot)
+{
+    EVM& a = fill("a.evm");
+    plots.AddSerie(*a.Modes[0]);
+    plotAt(0).rows().setMode(0, 9);
+    plots.ActivatePlot(&plots.AddPlot(QString()));
+    int changed = 0;
+    QObject::connect(&plotAt(0), &EvmPlot::changed, [&changed] { ++changed; });
+    select(evolutionNode(a));
+    choose("Remove");
+    EXPECT_EQ(plotAt(0).rows().count(), 0U);
+    EXPECT_GT(changed, 0) << "its grid hears of it";
+}
+
 TEST_F(WndEvolExplorerTest, drawsThePlotsAgainThatLostSeries)
 {
     EVM& a = fill("a.evm");

@@ -1,0 +1,43 @@
+#include "app/LeftOutRows.h"
+
+#include "control/MdlData.h"
+#include "runtime/ShortList.h"
+#include "runtime/UserInterface.h"
+#include "vgf/EvmPlot.h"
+
+#include <cstddef>
+
+namespace tarsil {
+
+namespace {
+
+constexpr std::size_t mostLines = 30; ///< more do not fit on a small screen
+
+std::vector<std::string> linesOf(const EvmPlot& plot, bool withCaption)
+{
+    const std::string caption = withCaption ? " of " + plot.Caption().toStdString() : std::string();
+    std::vector<std::string> lines;
+    for (const std::size_t row : plot.rows().withoutSeries())
+        lines.push_back(mdlData::missingModeText(plot.rows(), row) + " (row "
+                        + std::to_string(row + 1) + caption + ")");
+    return lines;
+}
+
+} // namespace
+
+void tellOfLeftOutRows(const std::vector<const EvmPlot*>& plots, const std::string& from,
+                       UserInterface& user)
+{
+    std::vector<std::string> lines;
+    for (const EvmPlot* const plot : plots) {
+        const std::vector<std::string> more = linesOf(*plot, plots.size() > 1);
+        lines.insert(lines.end(), more.begin(), more.end());
+    }
+    if (lines.empty())
+        return;
+    user.showMessage("Rows without a curve are left out of " + from + ":\n"
+                         + shortList(lines, mostLines),
+                     "Tarsil", MessageIcon::Exclamation);
+}
+
+} // namespace tarsil
