@@ -267,7 +267,7 @@ bool SeriesGridModel::setData(const QModelIndex& index, const QVariant& value, i
     if (value.toString() == text(index.row(), column).toString())
         return true;
     if (column == SeriesColumn::Mode) {
-        if (!setModeText(index.row(), value.toString()))
+        if (!setModeText(index, value.toString()))
             return false;
     } else {
         QString& cell = column == SeriesColumn::Tag ? one->MarkerTag : one->LegendText;
@@ -278,8 +278,9 @@ bool SeriesGridModel::setData(const QModelIndex& index, const QVariant& value, i
     return true;
 }
 
-bool SeriesGridModel::setModeText(int row, const QString& text)
+bool SeriesGridModel::setModeText(const QModelIndex& cell, const QString& text)
 {
+    const int row = cell.row();
     try {
         const std::string typed = text.toStdString();
         std::int16_t number = 0;
@@ -289,7 +290,7 @@ bool SeriesGridModel::setModeText(int row, const QString& text)
         setModeNumber(row, number);
         return true;
     } catch (const RunTimeError& error) {
-        Q_EMIT refused(error);
+        Q_EMIT refused(cell, text, error);
         return false;
     }
 }

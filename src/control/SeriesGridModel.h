@@ -65,8 +65,8 @@ Q_SIGNALS:
     /// The user has changed a cell of that column.
     void edited(tarsil::SeriesColumn column);
 
-    /// What the user typed cannot stand there; the cell is as before.
-    void refused(const tarsil::RunTimeError& error);
+    /// What the user typed into a cell cannot stay there; the cell is as before.
+    void refused(const QModelIndex& cell, const QString& text, const tarsil::RunTimeError& error);
 
     /// Another plot is shown, or the plot has got its first row.
     void rowsReplaced();
@@ -91,7 +91,7 @@ private:
     QVariant toolTip(int row, SeriesColumn column) const;
     QString missingModeText(int row) const;
     bool hasSeries(int row) const;
-    bool setModeText(int row, const QString& text);
+    bool setModeText(const QModelIndex& cell, const QString& text);
 
     EvmPlot* m_plot = nullptr;
     Rows m_rows; ///< of the plot, as the view knows them

@@ -205,6 +205,19 @@ void SeriesGridView::mousePressEvent(QMouseEvent* event)
     QTableView::mousePressEvent(event);
 }
 
+void SeriesGridView::editAgain(const QModelIndex& cell, const QString& text)
+{
+    const auto open = [this, cell = QPersistentModelIndex(cell), text] {
+        if (!cell.isValid() || !isVisible() || state() == EditingState)
+            return;
+        setCurrentIndex(cell);
+        edit(cell);
+        if (auto* const editor = qobject_cast<QLineEdit*>(indexWidget(cell)))
+            editor->setText(text);
+    };
+    QMetaObject::invokeMethod(this, open, Qt::QueuedConnection);
+}
+
 int SeriesGridView::gapAt(QPoint place) const
 {
     const QModelIndex index = indexAt(place);

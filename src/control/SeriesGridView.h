@@ -32,6 +32,10 @@ public:
     /// Writes what is being typed into its cell, as Enter does.
     void commitEditor();
 
+    /// Lets the user go on with a text that its cell did not take, as soon as the editor that it
+    /// was typed into has gone; unless the cell has gone, too.
+    void editAgain(const QModelIndex& cell, const QString& text);
+
     /// The gap between rows, counted by the row behind it, that is nearest to a place of the
     /// viewport.
     int gapAt(QPoint place) const;

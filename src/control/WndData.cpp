@@ -10,6 +10,7 @@
 #include "vgf/WndEvolPlot.h"
 
 #include <QMenu>
+#include <QPersistentModelIndex>
 #include <QSignalBlocker>
 
 #include <utility>
@@ -92,9 +93,15 @@ void wndData::connectGrid()
     connect(&m_model, &SeriesGridModel::rowsReplaced, this, &wndData::showMarkers);
     connect(&m_model, &SeriesGridModel::edited, this,
             [this](SeriesColumn column) { run([=, this] { afterEdit(column); }); });
-    connect(&m_model, &SeriesGridModel::refused, this, [this](const RunTimeError& error) {
-        m_user.showMessage(errorReport(error, module), "Error", MessageIcon::Critical);
-    });
+    connect(&m_model, &SeriesGridModel::refused, this, &wndData::askAgain);
+}
+
+/// The keys that follow are meant for the text that is wrong, and not for the row.
+void wndData::askAgain(const QModelIndex& cell, const QString& text, const RunTimeError& error)
+{
+    const QPersistentModelIndex refused(cell);
+    m_user.showMessage(errorReport(error, module), "Error", MessageIcon::Critical);
+    m_ui->flxSerieViewer->editAgain(refused, text);
 }
 
 void wndData::connectButtons()

@@ -92,6 +92,7 @@ private:
     int currentColumn() const;
     void chooseLine();
     void afterEdit(SeriesColumn column);
+    void askAgain(const QModelIndex& cell, const QString& text, const RunTimeError& error);
     std::string rebuild(EvmPlot& plot);
 
     std::unique_ptr<Ui::wndData> m_ui;

@@ -2,6 +2,7 @@
 
 #include "plot/RichTextLayout.h"
 #include "plot/TextMetrics.h"
+#include "runtime/Numbers.h"
 #include "vgf/PictureWriter.h"
 #include "vgf/RichTextEditor.h"
 
@@ -283,7 +284,8 @@ void EvmPlotView::updateDescription()
 {
     const EvmPlot::Scale scale = m_plot.GetScale();
     const auto axis = [](const QString& text, const QString& title, float from, float to) {
-        return text.arg(title, QString::number(from), QString::number(to));
+        return text.arg(title, QString::fromStdString(shortestText(from)),
+                        QString::fromStdString(shortestText(to)));
     };
     setAccessibleName(tr("V-g-f plot %1").arg(m_plot.Caption()));
     setAccessibleDescription(

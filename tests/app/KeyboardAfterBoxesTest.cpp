@@ -3,6 +3,8 @@
 #include "app/QtUserInterface.h"
 #include "app/StatusPanels.h"
 #include "app/WndMain.h"
+#include "control/SeriesGridModel.h"
+#include "control/SeriesGridView.h"
 #include "support/FormParts.h"
 #include "support/TestFiles.h"
 #include "vgf/EvmPlot.h"
@@ -153,4 +155,27 @@ TEST_F(KeyboardAfterBoxes, isInTheListOfOptionsThatIsNone)
     press(Qt::Key_Delete);
     EXPECT_EQ(scale.text(), QStringLiteral("0|450|0|-0.25|0|20"));
     EXPECT_EQ(curves(), before);
+}
+
+TEST_F(KeyboardAfterBoxes, isInTheCellWhoseModeWasNoNumber)
+{
+    const std::size_t before = curves();
+    auto& grid = partOf<SeriesGridView>(window, "flxSerieViewer");
+    grid.setCurrentIndex(grid.model()->index(0, static_cast<int>(SeriesColumn::Mode)));
+    grid.edit(grid.currentIndex());
+    test::openEditor(grid)->setText(QStringLiteral("x2"));
+    closeBoxSoon();
+    press(Qt::Key_Return);
+    QApplication::processEvents();
+    EXPECT_EQ(boxes, 1);
+    auto* const editor = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    ASSERT_NE(editor, nullptr);
+    EXPECT_EQ(editor->text(), QStringLiteral("x2"));
+    press(Qt::Key_Home);
+    press(Qt::Key_Delete);
+    press(Qt::Key_Return);
+    EXPECT_EQ(boxes, 1);
+    EXPECT_EQ(curves(), before);
+    EXPECT_EQ(grid.model()->index(0, static_cast<int>(SeriesColumn::Mode)).data().toString(),
+              QStringLiteral("2"));
 }

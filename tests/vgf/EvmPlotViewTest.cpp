@@ -545,6 +545,8 @@ TEST_F(EvmPlotViewTest, describesItselfToAScreenReader)
     plot.setVLabel(QStringLiteral("V (m/s)"));
     EXPECT_EQ(view.accessibleName(), QStringLiteral("V-g-f plot Clean"));
     EXPECT_TRUE(view.accessibleDescription().contains(QStringLiteral("speed axis V (m/s) from")));
+    plot.SetScale(0, 1000000, 5, 45, 0, -0.5F);
+    EXPECT_TRUE(view.accessibleDescription().contains(QStringLiteral("from 0 to 1000000, ")));
 }
 
 TEST_F(EvmPlotViewTest, describesTitlesThatLookLikePlacesOfTheText)
