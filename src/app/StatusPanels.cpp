@@ -51,7 +51,7 @@ QLabel* makeNote(const QString& name, const QString& description, QWidget* paren
     return note;
 }
 
-void show(QLabel* note, const QString& text)
+void showNote(QLabel* note, const QString& text)
 {
     note->setText(text);
     note->setToolTip(text.toHtmlEscaped()); // as it stands
@@ -118,12 +118,12 @@ QString StatusPanels::text() const
 
 void StatusPanels::setNote(const QString& text)
 {
-    show(m_note, text);
+    showNote(m_note, text);
 }
 
 void StatusPanels::setPlotNote(const QString& text)
 {
-    show(m_plotNote, text);
+    showNote(m_plotNote, text);
 }
 
 void StatusPanels::setAutoPlot(bool on)
