@@ -1,0 +1,76 @@
+// Rich text on a plot, as it goes into the pictures that other programs read.
+
+#include "FuzzTarget.h"
+
+#include "vgf/EvmPlot.h"
+#include "vgf/PictureWriter.h"
+
+#include <QGuiApplication>
+#include <QXmlStreamReader>
+#include <QtEndian>
+
+namespace {
+
+using namespace tarsil;
+
+/// The toolkit's fonts need one, without a screen.
+void makeApplication()
+{
+    static int count = 1;
+    static char name[] = "fuzz";
+    static char* words[] = {name, nullptr};
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    static const QGuiApplication application(count, words);
+}
+
+void requireWellFormed(const QByteArray& svg)
+{
+    QXmlStreamReader reader(svg);
+    while (!reader.atEnd()) {
+        const bool isElement = reader.readNext() == QXmlStreamReader::StartElement;
+        fuzz::require(!isElement || reader.name() != QLatin1String("script"), "no program in it");
+        for (const QXmlStreamAttribute& attribute : reader.attributes())
+            fuzz::require(!attribute.name().startsWith(QLatin1String("on")), "no handlers in it");
+    }
+    fuzz::require(!reader.hasError(), "an SVG is well formed");
+}
+
+quint32 number(const QByteArray& metafile, qsizetype offset)
+{
+    fuzz::require(offset + 4 <= metafile.size(), "a metafile ends after its last record");
+    return qFromLittleEndian<quint32>(metafile.constData() + offset);
+}
+
+/// Records follow each other up to the one that ends the file, as the header says.
+void requireRecords(const QByteArray& metafile)
+{
+    constexpr qsizetype sizeInHeader = 48;
+    constexpr qsizetype countInHeader = 52;
+    constexpr quint32 endOfFile = 14;
+    quint32 type = 0;
+    quint32 count = 0;
+    for (qsizetype offset = 0; offset < metafile.size(); ++count) {
+        type = number(metafile, offset);
+        const quint32 bytes = number(metafile, offset + 4);
+        fuzz::require(bytes >= 8 && bytes % 4 == 0, "a record has a size");
+        offset += bytes;
+        fuzz::require(offset <= metafile.size(), "a record ends within the file");
+    }
+    fuzz::require(type == endOfFile, "the last record is the end");
+    fuzz::require(number(metafile, sizeInHeader) == static_cast<quint32>(metafile.size()),
+                  "the header tells the size");
+    fuzz::require(number(metafile, countInHeader) == count, "the header tells the records");
+}
+
+} // namespace
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    makeApplication();
+    EvmPlot plot;
+    plot.resize(QSize(400, 500));
+    plot.Header().setTextRTF(fuzz::textOf(data, size));
+    requireWellFormed(pictureBytes(plot, PictureFormat::Svg));
+    requireRecords(pictureBytes(plot, PictureFormat::Emf));
+    return 0;
+}

@@ -1,0 +1,50 @@
+#include "FuzzTarget.h"
+
+#include "options/IniText.h"
+
+#include <QString>
+
+#include <string>
+
+namespace {
+
+using namespace tarsil;
+
+constexpr const char* keys[] = {"AcInfoDataFile", "vgfScale", "vgfThicks"};
+
+/// What is set is read again, the other values stay, and so does the text as a whole.
+void requireChange(const IniText& before, const char* changed, const QString& value)
+{
+    IniText text = before;
+    text.setValue("Options", changed, value);
+    const IniText again(text.bytes());
+    fuzz::require(again.isWhole(), "a text that is changed stays whole");
+    fuzz::require(again.value("Options", changed) == value, "a value is read as it was set");
+    for (const char* key : keys) {
+        if (key != changed)
+            fuzz::require(again.value("Options", key) == before.value("Options", key),
+                          "the other values stay");
+    }
+    text.setValue("Options", changed, value);
+    fuzz::require(text.bytes() == again.bytes(), "setting a value again changes nothing");
+}
+
+} // namespace
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    const std::string bytes(fuzz::textOf(data, size));
+    const IniText text(bytes);
+    fuzz::require(text.bytes() == bytes, "reading changes nothing");
+    QString longest;
+    for (const char* key : keys)
+        longest = std::max(longest, text.value("Options", key).value_or(QString()));
+    if (!text.isWhole())
+        return 0;
+    const QString given = QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
+    for (const char* key : keys) {
+        requireChange(text, key, given);
+        requireChange(text, key, longest);
+    }
+    return 0;
+}

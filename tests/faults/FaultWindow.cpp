@@ -1,0 +1,105 @@
+// The main window without a person: opens the files, gives one command, and quits. Ends with 1 when
+// the user was told of anything but success, which goes to standard error.
+//
+// usage: fault_window save|picture|mix|report|options TARGET [FILE...]
+
+#include "app/WndMain.h"
+#include "runtime/UserInterface.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include <iostream>
+
+namespace {
+
+using namespace tarsil;
+
+/// Names the target whenever a file is asked for, and agrees to everything.
+class EagerUser : public UserInterface
+{
+public:
+    explicit EagerUser(std::string target) : m_target(std::move(target)) { }
+
+    bool wasTold() const { return m_wasTold; }
+
+    void showMessage(const std::string& text, const std::string& /*title*/,
+                     MessageIcon /*icon*/) override
+    {
+        std::cerr << text << '\n';
+        m_wasTold = true;
+    }
+    bool confirm(const std::string& /*question*/, const std::string& /*title*/) override
+    {
+        return true;
+    }
+    std::optional<std::string> askText(const std::string& /*prompt*/,
+                                       const std::string& /*initial*/) override
+    {
+        return "0";
+    }
+    std::vector<std::string> askOpenFiles(const FileQuestion& /*question*/) override { return {}; }
+    std::optional<std::string> askSaveFile(const FileQuestion& /*question*/) override
+    {
+        return m_target;
+    }
+    void showStatus(std::string_view /*text*/) override { }
+    void showProgress(std::size_t /*done*/, std::size_t /*total*/) override { }
+
+private:
+    std::string m_target;
+    bool m_wasTold = false;
+};
+
+void choose(wndMain& window, const char* name)
+{
+    window.findChild<QAction*>(QString::fromLatin1(name))->trigger();
+}
+
+/// Types other axes into the dialog, which writes them when the program is quit.
+void changeOptions(wndMain& window)
+{
+    choose(window, "mnuOptions");
+    auto* const dialog = window.findChild<QWidget*>(QStringLiteral("dlgOptions"));
+    dialog->findChild<QLineEdit*>(QStringLiteral("txtVgfScale"))
+        ->setText(QStringLiteral("0|450|0|-0.25|0|20"));
+    dialog->findChild<QPushButton*>(QStringLiteral("btnOK"))->click();
+}
+
+void give(wndMain& window, const std::string& command)
+{
+    if (command == "save")
+        choose(window, "mnuSaveWorkspace");
+    else if (command == "picture")
+        window.findChild<QPushButton*>(QStringLiteral("SavePic"))->click();
+    else if (command == "mix")
+        choose(window, "ExportMenu");
+    else if (command == "report")
+        choose(window, "mnuFlutCalc");
+    else if (command == "options")
+        changeOptions(window);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QApplication application(argc, argv);
+    const std::vector<std::string> words(argv + 1, argv + argc);
+    const std::string& target = words.at(1);
+    const std::string home = qEnvironmentVariable("HOME").toStdString();
+    EagerUser user(target);
+    wndMain window(
+        user, [](const QString& /*file*/) { return true; },
+        OptionsStore(words.front() == "options" ? target : home + "/tarsil.ini"));
+    window.setReportFolder(QFileInfo(QString::fromStdString(target)).path());
+    window.resize(1000, 700);
+    window.show();
+    window.MDIForm_Load({words.begin() + 2, words.end()});
+    give(window, words.front());
+    window.close();
+    return user.wasTold() ? 1 : 0;
+}

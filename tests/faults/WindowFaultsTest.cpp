@@ -1,0 +1,48 @@
+// The writers of the main window.
+
+#include "FaultTrial.h"
+
+#include <gtest/gtest.h>
+
+namespace tarsil::test {
+
+namespace {
+
+struct WindowWriter
+{
+    const char* command;
+    std::string file;
+    std::string old = Writer().old;
+};
+
+std::vector<WindowWriter> writers()
+{
+    return {{"save", "wing.tsw"},
+            {"picture", "plot.emf"},
+            {"mix", "worst.mix"},
+            {"report", "Flutter report*.xlsx", ""},
+            {"options", "tarsil.ini",
+             "[Options]\nAcInfoDataFile=\nvgfScale=0|700|0|-0.4|0|60\nvgfThicks=8|8|10\n"}};
+}
+
+class WindowFaults : public ::testing::TestWithParam<WindowWriter>
+{ };
+
+} // namespace
+
+TEST_P(WindowFaults, leaveTheOldFileOrTheNewOne)
+{
+    if (const std::string hindrance = FaultInjector::hindrance(); !hindrance.empty())
+        GTEST_SKIP() << hindrance;
+    const WindowWriter& writer = GetParam();
+    const auto command = [&writer](const std::string& target) {
+        return std::vector<std::string> {TARSIL_FAULT_WINDOW, writer.command, target,
+                                         sample("goland_clean_m040.ev2")};
+    };
+    FaultTrial({command, writer.file, writer.old}).run();
+}
+
+INSTANTIATE_TEST_SUITE_P(Writers, WindowFaults, ::testing::ValuesIn(writers()),
+                         [](const auto& tested) { return tested.param.command; });
+
+} // namespace tarsil::test
