@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 namespace tarsil::test {
 
 namespace {
@@ -28,9 +30,14 @@ std::vector<BatchWriter> writers()
             {"pdf", {"picture"}, "plot.pdf", {clean}},
             {"png", {"picture"}, "plot.png", {clean}},
             {"metafile", {"picture"}, "plot.emf", {clean}},
-            {"pictureOfAWorkspace", {"picture"}, "plot.svg", {sample("goland.tsw")}},
+            {"pictureOfAWorkspace", {"picture", "--plot", "1"}, "plot.svg", {sample("goland.tsw")}},
             {"conversion", {"convert"}, "case.evm", {clean}},
             {"mix", {"mix"}, "worst.mix", {clean + ":1,2", store + ":2"}}};
+}
+
+void PrintTo(const BatchWriter& writer, std::ostream* stream)
+{
+    *stream << writer.name;
 }
 
 class BatchFaults : public ::testing::TestWithParam<BatchWriter>

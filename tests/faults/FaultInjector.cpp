@@ -57,7 +57,7 @@ void sendTo(const std::string& path, int descriptor)
     ::close(file);
 }
 
-/// What all runs of one command share; made before the child is, which must not allocate.
+/// What all runs of one command share.
 struct Command
 {
     std::vector<std::string> words;
@@ -105,17 +105,11 @@ private:
     std::set<pid_t> m_failAtExit; ///< processes in a call that is made, and then fails
 };
 
-bool changesFiles(CallKind kind)
-{
-    return kind == CallKind::Open || kind == CallKind::Write || kind == CallKind::Sync
-        || kind == CallKind::Rename;
-}
-
 bool Watcher::isMet(const FileCall& call) const
 {
     if (m_fault.kind == FaultKind::FailFromThen)
-        return m_result.calls >= m_fault.call && changesFiles(call.kind);
-    return m_fault.kind != FaultKind::None && m_result.calls == m_fault.call;
+        return m_result.calls.size() >= m_fault.call && changesFiles(call.kind);
+    return m_fault.kind != FaultKind::None && m_result.calls.size() == m_fault.call;
 }
 
 void Watcher::meet(pid_t process)
@@ -132,7 +126,7 @@ void Watcher::meet(pid_t process)
     if (place == std::string::npos
         || (end < files.size() && files[end] != '/' && files[end] != ' '))
         return;
-    ++m_result.calls;
+    m_result.calls.push_back(call->kind);
     if (!isMet(*call))
         return;
     if (m_result.metCall.empty())
@@ -244,7 +238,7 @@ std::string FaultInjector::hindrance()
     const std::string inside = folder.path() / "inside";
     const FaultInjector injector(inside, folder.path().string(), {});
     const RunResult result = injector.run({"/usr/bin/test", "-e", inside}, {});
-    return result.status == 1 && result.calls > 0
+    return result.status == 1 && !result.calls.empty()
         ? std::string()
         : "this machine does not let one program watch the system calls of another";
 }

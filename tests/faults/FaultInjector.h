@@ -1,5 +1,8 @@
 #pragma once
 
+#include "FileCall.h"
+
+#include <cstddef>
 #include <functional>
 #include <optional>
 #include <string>
@@ -20,7 +23,7 @@ enum class FaultKind {
 struct Fault
 {
     FaultKind kind = FaultKind::None;
-    int call = 0; ///< which one of those that concern the watched folder, from 1 on
+    std::size_t call = 0; ///< which one of those that concern the watched folder, from 1 on
     int error = 0; ///< the number that failing calls report
     std::function<void()> meddle;
 };
@@ -32,7 +35,7 @@ struct RunResult
     int signal = 0;
     std::string out;
     std::string err;
-    int calls = 0; ///< how many concerned the watched folder
+    std::vector<CallKind> calls; ///< those that concerned the watched folder
     std::string metCall; ///< the call that met the fault, and its files; empty when none did
 };
 

@@ -3,7 +3,7 @@
 #include "analysis/XlsxReader.h"
 
 #include <cerrno>
-#include <regex>
+#include <sstream>
 #include <system_error>
 
 namespace tarsil::test {
@@ -12,7 +12,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int mostCalls = 500; // a writer that needs more does not come to its end
+constexpr std::size_t mostCalls = 500; // a writer that needs more does not come to its end
 
 std::vector<std::string> variables(const fs::path& place, const fs::path& home)
 {
@@ -37,13 +37,35 @@ std::string cellsOf(const fs::path& workbook)
     return cells;
 }
 
-/// Without what tells one run from another.
+/// Without the lines that tell one run from another.
 std::string timeless(const std::string& bytes)
 {
-    static const std::regex time(
-        "/CreationDate \\(D:[^)]*\\)|<xmp:[A-Za-z]*Date>[^<]*<|/ID \\[[^\\]]*\\]|uuid:[0-9a-fA-F-]+"
-        "|(Date|Time)[A-Za-z]*=[^\r\n]*");
-    return std::regex_replace(bytes, time, "");
+    std::istringstream lines(bytes);
+    std::string kept;
+    for (std::string line; std::getline(lines, line);) {
+        const auto isIn = [&line](const char* mark) {
+            return line.find(mark) != std::string::npos;
+        };
+        if (!isIn("Date") && !isIn("/ID") && !isIn("uuid:"))
+            kept += line + '\n';
+    }
+    return kept;
+}
+
+/// Whether a fault does anything to a call of this kind. A program that ends before a call that
+/// only looks leaves what it leaves before the next one.
+bool concerns(FaultKind fault, CallKind call)
+{
+    switch (fault) {
+    case FaultKind::Shorten:
+        return call == CallKind::Read || call == CallKind::Write;
+    case FaultKind::FailFromThen:
+        return changesFiles(call);
+    case FaultKind::Kill:
+        return call != CallKind::Read && call != CallKind::Look;
+    default:
+        return true;
+    }
 }
 
 } // namespace
@@ -70,14 +92,17 @@ void FaultTrial::run()
     const std::string old = m_writer.old;
     for (const bool isThere : {true, false}) {
         m_writer.old = isThere ? old : std::string();
-        if (isThere && old.empty())
+        if (isThere ? old.empty() : !m_writer.makesFile)
             continue;
         SCOPED_TRACE(isThere ? "over an old file" : "without an old file");
         const RunResult good = runOnce({});
         m_good = lastingContents(target());
+        m_calls = good.calls;
         ASSERT_EQ(good.status, 0) << good.err;
         ASSERT_FALSE(m_good.empty()) << m_writer.name << " was not written";
         tryFaults(FaultKind::Fail, EIO);
+        if (!isThere && !old.empty())
+            continue; // the others do not depend on it
         tryFaults(FaultKind::FailFromThen, ENOSPC);
         tryFaults(FaultKind::Shorten, 0);
         tryFaults(FaultKind::Kill, 0);
@@ -86,11 +111,13 @@ void FaultTrial::run()
 
 void FaultTrial::tryFaults(FaultKind kind, int error)
 {
-    for (int call = 1; call < mostCalls; ++call) {
+    for (std::size_t call = 1; call < mostCalls; ++call) {
+        if (call <= m_calls.size() && !concerns(kind, m_calls[call - 1]))
+            continue;
         const RunResult result = runOnce({kind, call, error, {}});
         if (result.metCall.empty()) {
             EXPECT_EQ(result.status, 0) << result.err;
-            EXPECT_GT(call, 1) << "no call was met";
+            EXPECT_GT(call, 1U) << "no call was met";
             return;
         }
         SCOPED_TRACE("fault " + std::to_string(static_cast<int>(kind)) + " at call "
@@ -129,7 +156,9 @@ void FaultTrial::judgeEnd(const RunResult& result)
         EXPECT_TRUE(isNew()) << "success without the new file";
     } else {
         EXPECT_EQ(result.status, 1);
-        EXPECT_TRUE(isOld()) << "a failure that left no old file";
+        const bool isRemark =
+            !m_writer.remark.empty() && result.err.find(m_writer.remark) != std::string::npos;
+        EXPECT_TRUE(isOld() || (isRemark && isNew())) << "a failure that left no old file";
         EXPECT_NE(result.err.find(knownName()), std::string::npos) << "the file is not named";
     }
 }

@@ -23,6 +23,11 @@ struct Writer
 
     /// What there is before; empty where there is no file.
     std::string old = "the file that was there before\n";
+
+    bool makesFile = true; ///< false when there must be one before
+
+    /// Of a message about something else than writing, after which the new file may be there.
+    std::string remark = {};
 };
 
 /// Tries a writer with a fault at each of its calls, until it meets none. After each the target is
@@ -50,6 +55,7 @@ private:
     Writer m_writer;
     TemporaryFolder m_folder;
     std::filesystem::path m_place; ///< the folder that is watched
+    std::vector<CallKind> m_calls; ///< of the writer that meets no fault
     std::string m_good; ///< what is in a file that is whole
 };
 

@@ -1,7 +1,7 @@
 // The main window without a person: opens the files, gives one command, and quits. Ends with 1 when
 // the user was told of anything but success, which goes to standard error.
 //
-// usage: fault_window save|picture|mix|report|options TARGET [FILE...]
+// usage: fault_window save|picture|mix|report|options|quit TARGET [FILE...]
 
 #include "app/WndMain.h"
 #include "runtime/UserInterface.h"
@@ -94,7 +94,7 @@ int main(int argc, char** argv)
     EagerUser user(target);
     wndMain window(
         user, [](const QString& /*file*/) { return true; },
-        OptionsStore(words.front() == "options" ? target : home + "/tarsil.ini"));
+        OptionsStore(target.ends_with(".ini") ? target : home + "/tarsil.ini"));
     window.setReportFolder(QFileInfo(QString::fromStdString(target)).path());
     window.resize(1000, 700);
     window.show();

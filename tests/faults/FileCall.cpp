@@ -74,7 +74,6 @@ const FileCall fileCalls[] = {
     {SYS_read, Read, Descriptor, "read"},
     {SYS_pread64, Read, Descriptor, "pread64"},
     {SYS_readv, Read, Descriptor, "readv"},
-    {SYS_mmap, Read, MappedDescriptor, "mmap"},
     {SYS_getdents64, Read, Descriptor, "getdents64"},
     {SYS_write, Write, Descriptor, "write"},
     {SYS_pwrite64, Write, Descriptor, "pwrite64"},
@@ -118,6 +117,11 @@ const FileCall fileCalls[] = {
 
 const std::size_t fileCallCount = std::size(fileCalls);
 
+bool changesFiles(CallKind kind)
+{
+    return kind == Open || kind == Write || kind == Sync || kind == Rename;
+}
+
 const FileCall* fileCall(long number)
 {
     const auto* const found =
@@ -143,8 +147,6 @@ std::string filesOf(pid_t process, const FileCall& call, const user_regs_struct&
         return path(here, registers.rdi) + path(here, registers.rsi);
     case TwoPathsInFolders:
         return path(registers.rdi, registers.rsi) + path(registers.rdx, registers.r10);
-    case MappedDescriptor:
-        return " " + descriptorPath(process, registers.r8);
     }
     return {};
 }

@@ -21,14 +21,16 @@ enum class CallKind {
     Look ///< at what a path or an open file is
 };
 
+/// Whether such a call makes, changes or renames files, as a full disk refuses.
+bool changesFiles(CallKind kind);
+
 /// How a system call names its file.
 enum class CallOperand {
     Path,
     PathInFolder, ///< after the descriptor of a folder
     Descriptor,
     TwoPaths,
-    TwoPathsInFolders,
-    MappedDescriptor
+    TwoPathsInFolders
 };
 
 /// A system call that concerns files.

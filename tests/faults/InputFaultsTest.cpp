@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <ostream>
 
 namespace tarsil::test {
 
@@ -45,6 +46,11 @@ std::vector<Reading> readings()
             {"piecewise", "info", "wing.evm", largeEvolution()},
             {"checking", "check", "wing.ev2", sections},
             {"workspace", "info", "wing.tsw", fileBytes(sample("goland.tsw"))}};
+}
+
+void PrintTo(const Reading& reading, std::ostream* stream)
+{
+    *stream << reading.name;
 }
 
 class InputFaults : public ::testing::TestWithParam<Reading>
@@ -88,7 +94,7 @@ TEST_P(InputFaults, areErrorsLikeAnyOther)
         const std::string path = folder.file("watched/" + GetParam().file);
         bool isMet = true;
         int errors = 0;
-        for (int call = 1; isMet; ++call) {
+        for (std::size_t call = 1; isMet; ++call) {
             const auto cutFile = [&path, size] { fs::resize_file(path, size); };
             const RunResult result = read(bytes, {FaultKind::Meddle, call, 0, cutFile});
             SCOPED_TRACE("cut to " + std::to_string(size) + " bytes before call "

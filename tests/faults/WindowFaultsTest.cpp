@@ -4,15 +4,23 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
+
 namespace tarsil::test {
 
 namespace {
+
+constexpr const char* settings =
+    "[Options]\nAcInfoDataFile=\nvgfScale=0|700|0|-0.4|0|60\nvgfThicks=8|8|10\n";
+constexpr const char* unreadSettings = "cannot read the settings"; // when the program starts
 
 struct WindowWriter
 {
     const char* command;
     std::string file;
     std::string old = Writer().old;
+    bool makesFile = true;
+    std::string remark = {};
 };
 
 std::vector<WindowWriter> writers()
@@ -21,8 +29,13 @@ std::vector<WindowWriter> writers()
             {"picture", "plot.emf"},
             {"mix", "worst.mix"},
             {"report", "Flutter report*.xlsx", ""},
-            {"options", "tarsil.ini",
-             "[Options]\nAcInfoDataFile=\nvgfScale=0|700|0|-0.4|0|60\nvgfThicks=8|8|10\n"}};
+            {"options", "tarsil.ini", settings, true, unreadSettings},
+            {"quit", "tarsil.ini", settings, false}};
+}
+
+void PrintTo(const WindowWriter& writer, std::ostream* stream)
+{
+    *stream << writer.command;
 }
 
 class WindowFaults : public ::testing::TestWithParam<WindowWriter>
@@ -39,7 +52,7 @@ TEST_P(WindowFaults, leaveTheOldFileOrTheNewOne)
         return std::vector<std::string> {TARSIL_FAULT_WINDOW, writer.command, target,
                                          sample("goland_clean_m040.ev2")};
     };
-    FaultTrial({command, writer.file, writer.old}).run();
+    FaultTrial({command, writer.file, writer.old, writer.makesFile, writer.remark}).run();
 }
 
 INSTANTIATE_TEST_SUITE_P(Writers, WindowFaults, ::testing::ValuesIn(writers()),
