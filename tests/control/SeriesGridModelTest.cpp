@@ -185,7 +185,11 @@ TEST_F(SeriesGridModelTest, refusesAModeThatIsNoNumber)
 {
     std::vector<std::string> reports;
     QObject::connect(&model, &SeriesGridModel::refused,
-                     [&reports](const RunTimeError& error) { reports.push_back(error.what()); });
+                     [&](const QModelIndex& cell, const QString& typed, const RunTimeError& error) {
+                         EXPECT_EQ(cell, model.index(1, static_cast<int>(SeriesColumn::Mode)));
+                         EXPECT_EQ(typed, reports.empty() ? u"two" : u"40000");
+                         reports.push_back(error.what());
+                     });
     EXPECT_FALSE(type(1, SeriesColumn::Mode, "two"));
     EXPECT_FALSE(type(1, SeriesColumn::Mode, "40000"));
     EXPECT_EQ(text(1, SeriesColumn::Mode), "2");

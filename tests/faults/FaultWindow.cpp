@@ -36,7 +36,7 @@ public:
     {
         return true;
     }
-    std::optional<std::string> askText(const std::string& /*prompt*/,
+    std::optional<std::string> askText(const std::string& /*prompt*/, const std::string& /*title*/,
                                        const std::string& /*initial*/) override
     {
         return "0";
@@ -47,6 +47,8 @@ public:
         return m_target;
     }
     void showStatus(std::string_view /*text*/) override { }
+    void showNote(std::string_view /*text*/) override { }
+    void beginCommand() override { }
     void showProgress(std::size_t /*done*/, std::size_t /*total*/) override { }
 
 private:
