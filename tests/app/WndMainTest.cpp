@@ -244,7 +244,7 @@ TEST_F(WndMainTest, saysInTheStatusBarWhereReferenceSpeedsStandElsewhere)
     window.stBar().setNote(QStringLiteral("The picture is in ..."));
     EXPECT_EQ(shown(), note);
     EvmPlot& first = plot();
-    window.evolPlot().ActivatePlot(&window.evolPlot().AddPlot());
+    window.evolPlot().ActivatePlot(&window.evolPlot().AddPlot({}));
     EXPECT_EQ(shown(), QString()) << "the other plot has none";
     window.evolPlot().ActivatePlot(&first);
     EXPECT_EQ(shown(), note);
