@@ -382,10 +382,10 @@ TEST_F(WorkspaceCommandsTest, sayWhichCaptionsWillBeCut)
     plot().AddRef(300, QString(1024, u'x'));
     plot().AddDampLine(0, QString(1023, u'x'));
     save();
-    EXPECT_THAT(user.statuses.back(), StartsWith("RefSpeed(1) of [PLOT1] is longer than 1023 "));
+    EXPECT_THAT(user.note, StartsWith("RefSpeed(1) of [PLOT1] is longer than 1023 "));
     choose("mnuNewWorkspace");
     open(folder.file("case.tsw"));
-    EXPECT_EQ(user.statuses.back(),
+    EXPECT_EQ(user.note,
               "RefSpeed(1) of [PLOT1] is cut: the format takes 1023 characters of each.");
     EXPECT_EQ(plot().Refs().at(0).Caption.size(), 1023);
     EXPECT_EQ(plot().DampLines().at(0).Caption.size(), 1023);

@@ -10,9 +10,11 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 
+#include <cerrno>
 #include <csignal>
 #include <functional>
 #include <optional>
+#include <system_error>
 
 using namespace tarsil;
 
@@ -253,7 +255,8 @@ TEST_F(OptionsStoreTest, keepsTheOldFileOnAFullDisk)
     setrlimit(RLIMIT_FSIZE, &before);
     ASSERT_TRUE(error);
     EXPECT_EQ(error->description(),
-              "Path/File access error: " + store.path() + " (File too large)");
+              "Path/File access error: " + store.path() + " ("
+                  + std::generic_category().message(EFBIG) + ")");
     EXPECT_EQ(test::fileBytes(store.path()), old);
 }
 

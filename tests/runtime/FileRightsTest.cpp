@@ -17,12 +17,14 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <csignal>
 #include <ctime>
 #include <filesystem>
 #include <functional>
 #include <iterator>
 #include <string>
+#include <system_error>
 
 namespace tarsil {
 
@@ -366,7 +368,8 @@ TEST_F(SavedUnderSignals, goesOnWhereTheSignalIsIgnored)
 /// a patch when it looks for its place.
 TEST_F(SavedUnderSignals, failsAtTheLimitOfAFilesSize)
 {
-    const std::string expected = "75 Path/File access error: " + path + " (File too large)";
+    const std::string expected =
+        "75 Path/File access error: " + path + " (" + std::generic_category().message(EFBIG) + ")";
     const auto patch = [this] {
         AtomicFile file(path);
         file.write(std::string(2000, 'x'));
