@@ -54,8 +54,9 @@ const std::string& FileIdentities::ofFolder(const std::string& folder)
         below.push_back(std::exchange(top, std::move(above)));
     }
     const std::string* known = &m_folders.at(top);
-    for (auto next = below.rbegin(); next != below.rend(); ++next)
-        known = &m_folders.emplace(*next, pathIn(*known, nameIn(*next))).first->second;
+    for (; !below.empty(); below.pop_back())
+        known =
+            &m_folders.emplace(below.back(), pathIn(*known, nameIn(below.back()))).first->second;
     return *known;
 }
 

@@ -72,9 +72,10 @@ public:
     /// Adds those that a path can mean, the one that shares most folders first.
     void add(const std::string& path, FileMatching& matching)
     {
+        const std::string_view whole = path;
         std::size_t start = rootLength(path);
         while (start < path.size()) {
-            const std::string_view tail = std::string_view(path).substr(start);
+            const std::string_view tail = whole.substr(start);
             if (areHere(tail))
                 addFile(pathIn(m_folder, tail), matching);
             start = std::min(path.find('/', start), path.size() - 1) + 1;
