@@ -70,7 +70,7 @@ public:
     /// Whether a rectangle comes to look other than in a picture.
     bool seesChange(const QRect& rectangle, const QImage& before) const;
 
-    /// Whether a rectangle comes to look the same several times in a row.
+    /// Whether a rectangle comes to look several times in a row as it has looked before.
     bool standsStill(const QRect& rectangle) const;
 
     /// A picture of a part of the screen.

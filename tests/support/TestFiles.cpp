@@ -2,8 +2,9 @@
 
 #include <cstdlib>
 #include <fstream>
-#include <iterator>
 #include <random>
+#include <sstream>
+#include <utility>
 
 namespace tarsil::test {
 
@@ -36,7 +37,9 @@ std::string TemporaryFolder::write(std::string_view name, std::string_view bytes
 std::string fileBytes(const std::filesystem::path& path)
 {
     std::ifstream stream(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
+    std::ostringstream bytes;
+    bytes << stream.rdbuf();
+    return std::move(bytes).str();
 }
 
 std::string sample(std::string_view name)
