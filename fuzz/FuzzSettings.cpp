@@ -1,6 +1,6 @@
 #include "FuzzTarget.h"
 
-#include "options/IniText.h"
+#include "options/SettingsText.h"
 
 #include <QString>
 
@@ -13,11 +13,11 @@ using namespace tarsil;
 constexpr const char* keys[] = {"AcInfoDataFile", "vgfScale", "vgfThicks"};
 
 /// What is set is read again, the other values stay, and so does the text as a whole.
-void requireChange(const IniText& before, const char* changed, const QString& value)
+void requireChange(const SettingsText& before, const char* changed, const QString& value)
 {
-    IniText text = before;
+    SettingsText text = before;
     text.setValue("Options", changed, value);
-    const IniText again(text.bytes());
+    const SettingsText again(text.bytes());
     fuzz::require(again.isWhole(), "a text that is changed stays whole");
     fuzz::require(again.value("Options", changed) == value, "a value is read as it was set");
     for (const char* key : keys) {
@@ -34,7 +34,7 @@ void requireChange(const IniText& before, const char* changed, const QString& va
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::string bytes(fuzz::textOf(data, size));
-    const IniText text(bytes);
+    const SettingsText text(bytes);
     fuzz::require(text.bytes() == bytes, "reading changes nothing");
     QString longest;
     for (const char* key : keys)

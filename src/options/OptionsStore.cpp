@@ -1,6 +1,6 @@
 #include "options/OptionsStore.h"
 
-#include "options/IniText.h"
+#include "options/SettingsText.h"
 #include "runtime/AtomicFile.h"
 #include "runtime/InputFile.h"
 #include "runtime/PathNames.h"
@@ -74,7 +74,7 @@ std::string OptionsStore::defaultPath()
 
 OptionTexts OptionsStore::read() const
 {
-    const IniText file(bytesOf(m_path));
+    const SettingsText file(bytesOf(m_path));
     if (!file.isWhole())
         throw RunTimeError(ErrorNumber::TypeMismatch, std::string(source),
                            "damaged settings in " + shownPath(m_path) + ", which will be kept as "
@@ -90,11 +90,11 @@ void OptionsStore::write(const OptionTexts& texts, const OptionTexts& before) co
 {
     if (texts == before)
         return;
-    IniText file(bytesOf(m_path));
+    SettingsText file(bytesOf(m_path));
     makeFolderOf(m_path);
     if (!file.isWhole()) { // one bad line must not cost the user what the others say
         writeFile(keptPath(m_path), file.bytes());
-        file = IniText({});
+        file = SettingsText({});
     }
     for (const Key& key : keys) {
         if (texts.*key.text != before.*key.text)

@@ -1,4 +1,4 @@
-#include "options/IniText.h"
+#include "options/SettingsText.h"
 
 #include "support/TestFiles.h"
 
@@ -45,7 +45,7 @@ std::string writtenByToolkit(const QString& value)
 
 std::optional<QString> readByUs(const std::string& bytes)
 {
-    const IniText text(bytes);
+    const SettingsText text(bytes);
     if (!text.isWhole())
         return std::nullopt;
     return text.value("Options", "vgfScale").value_or(QString());
@@ -53,14 +53,14 @@ std::optional<QString> readByUs(const std::string& bytes)
 
 std::string writtenByUs(const QString& value)
 {
-    IniText text({});
+    SettingsText text({});
     text.setValue("Options", "vgfScale", value);
     return text.bytes();
 }
 
 } // namespace
 
-TEST(IniText, readsWhatTheToolkitWritesAndTheOtherWayRound)
+TEST(SettingsText, readsWhatTheToolkitWritesAndTheOtherWayRound)
 {
     constexpr std::u16string_view letters = u"aF0 9\"\\,;=@()|%\n\t\r\x01\x7F?'[]#xü€\x3B1";
     std::mt19937 random(7); // the same texts in every run
@@ -73,7 +73,7 @@ TEST(IniText, readsWhatTheToolkitWritesAndTheOtherWayRound)
     }
 }
 
-TEST(IniText, readsForeignBytesAsTheToolkitDoes)
+TEST(SettingsText, readsForeignBytesAsTheToolkitDoes)
 {
     constexpr std::array<std::string_view, 22> pieces = {
         "vgfScale", "=",   " = ",       "1|2",     "\"", "\\",      "\n", "\r\n",
@@ -86,13 +86,13 @@ TEST(IniText, readsForeignBytesAsTheToolkitDoes)
         for (auto count = random() % 10; count > 0; --count)
             bytes += pieces[random() % pieces.size()];
         // An open quote at the end is damage only here, and to the toolkit alone a list with "@".
-        if (!IniText(bytes).isWhole() || (bytes.find('@') != npos && bytes.find(',') != npos))
+        if (!SettingsText(bytes).isWhole() || (bytes.find('@') != npos && bytes.find(',') != npos))
             continue;
         EXPECT_EQ(readByUs(bytes), readByToolkit(bytes)) << bytes;
     }
 }
 
-TEST(IniText, keepsASymbolBeyondTheFirstPlane)
+TEST(SettingsText, keepsASymbolBeyondTheFirstPlane)
 {
     const QString value = QString::fromUtf8("wing \xF0\x9F\x9B\xA9.inp");
     EXPECT_EQ(readByUs(writtenByToolkit(value)), value);
@@ -101,9 +101,9 @@ TEST(IniText, keepsASymbolBeyondTheFirstPlane)
     EXPECT_EQ(readByUs(writtenByUs(mark)), mark);
 }
 
-TEST(IniText, changesNothingButTheValueThatIsSet)
+TEST(SettingsText, changesNothingButTheValueThatIsSet)
 {
-    IniText text(
+    SettingsText text(
         "\xEF\xBB\xBF; mine\r\n[Options]\r\nvgfScale = 1 ; old\r\nother=2\r\n\r\n[Next]\r\na=b");
     text.setValue("Options", "vgfScale", QStringLiteral("3, 4"));
     text.setValue("Options", "vgfThicks", QStringLiteral("7|5|5"));
@@ -115,11 +115,11 @@ TEST(IniText, changesNothingButTheValueThatIsSet)
     EXPECT_TRUE(text.isWhole());
 }
 
-TEST(IniText, isNotWholeWhenAQuoteOrEscapeReachesBeyondItsEnd)
+TEST(SettingsText, isNotWholeWhenAQuoteOrEscapeReachesBeyondItsEnd)
 {
-    EXPECT_FALSE(IniText("[Options]\na=\"1").isWhole());
-    EXPECT_FALSE(IniText("[Options]\na=1\\").isWhole());
-    EXPECT_FALSE(IniText("[Options\na=1\n").isWhole());
-    EXPECT_FALSE(IniText("[Options]\na\n").isWhole());
-    EXPECT_TRUE(IniText("\n ; \n[Options] x\na=\"1\"\n").isWhole());
+    EXPECT_FALSE(SettingsText("[Options]\na=\"1").isWhole());
+    EXPECT_FALSE(SettingsText("[Options]\na=1\\").isWhole());
+    EXPECT_FALSE(SettingsText("[Options\na=1\n").isWhole());
+    EXPECT_FALSE(SettingsText("[Options]\na\n").isWhole());
+    EXPECT_TRUE(SettingsText("\n ; \n[Options] x\na=\"1\"\n").isWhole());
 }

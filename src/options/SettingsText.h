@@ -13,10 +13,10 @@ namespace tarsil {
 /// The bytes of a settings file as the toolkit writes and reads it (QSettings::IniFormat), in
 /// memory: sections with lines "key=value", comments behind ";", UTF-8, escapes with a backslash.
 /// Setting a value leaves all other bytes as they are.
-class IniText
+class SettingsText
 {
 public:
-    explicit IniText(std::string bytes);
+    explicit SettingsText(std::string bytes);
 
     /// Whether every line is a section, a comment or a value, and all values are texts.
     bool isWhole() const { return m_isWhole; }

@@ -1,4 +1,4 @@
-#include "options/IniText.h"
+#include "options/SettingsText.h"
 
 #include <QByteArrayView>
 #include <QStringList>
@@ -265,12 +265,12 @@ std::string writtenValue(const QString& value)
 
 } // namespace
 
-IniText::IniText(std::string bytes) : m_bytes(std::move(bytes))
+SettingsText::SettingsText(std::string bytes) : m_bytes(std::move(bytes))
 {
     split();
 }
 
-void IniText::split()
+void SettingsText::split()
 {
     m_lines.clear();
     constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
@@ -288,7 +288,7 @@ void IniText::split()
     }
 }
 
-void IniText::addLine(std::size_t begin, std::size_t equals, std::size_t end)
+void SettingsText::addLine(std::size_t begin, std::size_t equals, std::size_t end)
 {
     const std::string_view text = std::string_view(m_bytes).substr(begin, end - begin);
     Line line {m_lines.empty() ? std::string() : m_lines.back().section, std::nullopt, begin,
@@ -308,7 +308,7 @@ void IniText::addLine(std::size_t begin, std::size_t equals, std::size_t end)
         m_isWhole = false;
 }
 
-const IniText::Line* IniText::find(std::string_view section, std::string_view key) const
+const SettingsText::Line* SettingsText::find(std::string_view section, std::string_view key) const
 {
     const auto line = std::find_if(m_lines.rbegin(), m_lines.rend(), [&](const Line& one) {
         return one.section == section && one.key == key;
@@ -316,14 +316,14 @@ const IniText::Line* IniText::find(std::string_view section, std::string_view ke
     return line == m_lines.rend() ? nullptr : &*line;
 }
 
-const IniText::Line* IniText::lastOf(std::string_view section) const
+const SettingsText::Line* SettingsText::lastOf(std::string_view section) const
 {
     const auto line = std::find_if(m_lines.rbegin(), m_lines.rend(),
                                    [&](const Line& one) { return one.section == section; });
     return line == m_lines.rend() ? nullptr : &*line;
 }
 
-std::optional<QString> IniText::textOf(const Line& line) const
+std::optional<QString> SettingsText::textOf(const Line& line) const
 {
     const std::string_view written =
         std::string_view(m_bytes).substr(line.equals + 1, line.end - line.equals - 1);
@@ -337,13 +337,13 @@ std::optional<QString> IniText::textOf(const Line& line) const
     return texts.join(u',');
 }
 
-std::optional<QString> IniText::value(std::string_view section, std::string_view key) const
+std::optional<QString> SettingsText::value(std::string_view section, std::string_view key) const
 {
     const Line* const line = find(section, key);
     return line != nullptr ? textOf(*line) : std::nullopt;
 }
 
-void IniText::setValue(std::string_view section, std::string_view key, const QString& value)
+void SettingsText::setValue(std::string_view section, std::string_view key, const QString& value)
 {
     const std::string line = std::string(key) + '=' + writtenValue(value);
     if (const Line* const there = find(section, key)) {
