@@ -35,7 +35,8 @@ std::string fileBytes(const std::filesystem::path& path);
 /// Path of a file of the samples.
 std::string sample(std::string_view name);
 
-/// The folder of published results of other programs, which the repository does not hold; it may be missing.
+/// The folder of published results of other programs, which the repository does not hold; it may be
+/// missing.
 std::string realResults();
 
 } // namespace tarsil::test
