@@ -16,7 +16,8 @@ std::vector<ArchivePart> xlsxParts(const Sheet& sheet, std::string_view path);
 
 /// A text as an item of the workbook's strings. What looks like a spreadsheet's escape of a
 /// character ("_x0041_") is cut into two runs after its first "_": that is no escape to those that
-/// know it, and the same text to those that do not. A character that XML cannot hold becomes U+FFFD.
+/// know it, and the same text to those that do not. A character that XML cannot hold becomes
+/// U+FFFD.
 std::string xlsxText(std::string_view utf8);
 
 } // namespace tarsil
