@@ -129,7 +129,8 @@ void WorkspaceChecker::checkFurtherValues()
     for (const UnusedValue& value : m_reading.unusedValues)
         add(value.section, value.key, "is passed over: " + value.why);
     for (const LongValue& value : m_reading.cutValues) {
-        const std::string_view name = std::string_view(value.key).substr(0, value.key.find('('));
+        const std::string_view key = value.key;
+        const std::string_view name = key.substr(0, key.find('('));
         if (name == keys::referenceSpeed || name == keys::dampingLine || name == keys::edited)
             add(value.section, value.key,
                 "a text of it has " + std::to_string(value.bytes) + " bytes; the format takes "

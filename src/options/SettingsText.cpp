@@ -290,7 +290,8 @@ void SettingsText::split()
 
 void SettingsText::addLine(std::size_t begin, std::size_t equals, std::size_t end)
 {
-    const std::string_view text = std::string_view(m_bytes).substr(begin, end - begin);
+    const std::string_view bytes = m_bytes;
+    const std::string_view text = bytes.substr(begin, end - begin);
     Line line {m_lines.empty() ? std::string() : m_lines.back().section, std::nullopt, begin,
                equals, end};
     if (text.starts_with('[')) {
@@ -325,8 +326,8 @@ const SettingsText::Line* SettingsText::lastOf(std::string_view section) const
 
 std::optional<QString> SettingsText::textOf(const Line& line) const
 {
-    const std::string_view written =
-        std::string_view(m_bytes).substr(line.equals + 1, line.end - line.equals - 1);
+    const std::string_view bytes = m_bytes;
+    const std::string_view written = bytes.substr(line.equals + 1, line.end - line.equals - 1);
     QStringList texts = ValueReader(written).texts();
     for (QString& text : texts) {
         const std::optional<QString> plain = plainText(text);
