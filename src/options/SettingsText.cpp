@@ -224,7 +224,7 @@ void appendEscaped(std::string& result, QChar character)
 {
     const char16_t code = character.unicode();
     const auto known = std::find_if(escapes.begin(), escapes.end(), [code](const auto& escape) {
-        return char16_t(escape.second) == code && code != u'?' && code != u'\'';
+        return static_cast<char16_t>(escape.second) == code && code != u'?' && code != u'\'';
     });
     if (known != escapes.end())
         result.append({'\\', known->first});
