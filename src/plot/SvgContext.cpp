@@ -30,7 +30,7 @@ QString colorText(ColorValue color)
 /// A family as a value of style sheets: in quotation marks, where it is not made of plain words.
 QString familyText(const QString& family)
 {
-    const QString name = drawableText(family);
+    QString name = drawableText(family);
     const auto isPlain = [](QChar unit) {
         return (unit >= u'a' && unit <= u'z') || (unit >= u'A' && unit <= u'Z') || unit == u' ';
     };
@@ -225,7 +225,7 @@ QString SvgContext::pathOf(const QRect& clip)
     };
     if (const qsizetype known = m_paths.indexOf(clip); known >= 0)
         return nameOf(known);
-    const QString name = nameOf(m_paths.size());
+    QString name = nameOf(m_paths.size());
     m_paths.append(clip);
     m_xml.writeStartElement(QStringLiteral("defs"));
     m_xml.writeStartElement(QStringLiteral("clipPath"));
