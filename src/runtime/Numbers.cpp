@@ -178,7 +178,7 @@ template <typename Number>
     std::array<char, 64> buffer {};
     const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
                                        std::chars_format::scientific);
-    const std::string text(buffer.data(), written.ptr);
+    std::string text(buffer.data(), written.ptr);
     const std::size_t mark = text.find('e');
     if (mark == std::string::npos) // no finite number
         return text;
