@@ -2,11 +2,11 @@
 
 #include "RatioTable.h"
 #include "aircraft/AirplaneInfo.h"
-#include "control/SeriesGridView.h"
-#include "control/WndData.h"
+#include "base/user/UserInterface.h"
+#include "datacontrol/SeriesGridView.h"
+#include "datacontrol/WndData.h"
 #include "model/EVM.h"
-#include "runtime/UserInterface.h"
-#include "vgf/WndEvolPlot.h"
+#include "plotwindow/WndEvolPlot.h"
 
 #include <QApplication>
 #include <QLineEdit>

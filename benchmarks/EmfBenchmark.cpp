@@ -2,8 +2,8 @@
 // data, and the memory that small and large pictures take.
 
 #include "RatioTable.h"
-#include "plot/EmfSink.h"
-#include "plot/MetafileContext.h"
+#include "emf/EmfSink.h"
+#include "emf/MetafileContext.h"
 
 #include <QGuiApplication>
 #include <QProcess>

@@ -1,9 +1,9 @@
 // The picture of 100 modes of 1000 points, and a repaint without a change.
 
 #include "RatioTable.h"
-#include "plot/PainterContext.h"
-#include "vgf/EvmPlot.h"
-#include "vgf/EvmPlotView.h"
+#include "plotwindow/EvmPlotView.h"
+#include "surface/PainterContext.h"
+#include "vgfplot/EvmPlot.h"
 
 #include <QApplication>
 #include <QPainter>

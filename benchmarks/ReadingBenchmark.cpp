@@ -4,9 +4,9 @@
 #include "GeneratedFiles.h"
 #include "RatioTable.h"
 #include "ReferenceReaders.h"
+#include "base/files/PathNames.h"
 #include "model/EVM.h"
 #include "model/Session.h"
-#include "runtime/PathNames.h"
 
 #include <fcntl.h>
 #include <malloc.h>

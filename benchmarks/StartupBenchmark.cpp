@@ -4,8 +4,8 @@
 #include "RatioTable.h"
 #include "app/QtUserInterface.h"
 #include "app/WndMain.h"
-#include "vgf/EvmPlotView.h"
-#include "vgf/WndEvolPlot.h"
+#include "plotwindow/EvmPlotView.h"
+#include "plotwindow/WndEvolPlot.h"
 
 #include <QApplication>
 #include <QMainWindow>

@@ -4,10 +4,10 @@
 #include "GeneratedFiles.h"
 #include "RatioTable.h"
 #include "app/WorkspaceCommands.h"
+#include "base/user/UserInterface.h"
 #include "explorer/WndEvolExplorer.h"
 #include "model/Session.h"
-#include "runtime/UserInterface.h"
-#include "vgf/WndEvolPlot.h"
+#include "plotwindow/WndEvolPlot.h"
 #include "workspace/FoundFiles.h"
 #include "workspace/WorkspaceWriter.h"
 

@@ -21,10 +21,11 @@ if(TARSIL_FUZZ)
   target_link_options(tarsil_compile_options INTERFACE -fsanitize=address,undefined)
 endif()
 
-# tarsil_library(NAME [WINDOWS] HEADERS ... SOURCES ... LINK ...): the static library tarsil_NAME
-# (alias tarsil::NAME) of the folder src/NAME. Only a WINDOWS library may link Qt Widgets.
+# tarsil_library(NAME [WINDOWS] [MOC] HEADERS ... SOURCES ... LINK ...): the static library
+# tarsil_NAME (alias tarsil::NAME) of the folder src/NAME. Only a WINDOWS library may link Qt Widgets;
+# a MOC library has signals of its own.
 function(tarsil_library name)
-  cmake_parse_arguments(LIB "WINDOWS" "" "HEADERS;SOURCES;LINK;PRIVATE_LINK" ${ARGN})
+  cmake_parse_arguments(LIB "WINDOWS;MOC" "" "HEADERS;SOURCES;LINK;PRIVATE_LINK" ${ARGN})
   set(target tarsil_${name})
   add_library(${target} STATIC ${LIB_SOURCES})
   add_library(tarsil::${name} ALIAS ${target})
@@ -39,7 +40,17 @@ function(tarsil_library name)
   if(LIB_WINDOWS)
     set_target_properties(${target} PROPERTIES AUTOMOC ON AUTOUIC ON AUTORCC ON)
   else()
+    set_target_properties(${target} PROPERTIES AUTOMOC "${LIB_MOC}")
     tarsil_refuse_widgets(${target} ${target})
+  endif()
+
+  set(links ${LIB_LINK} ${LIB_PRIVATE_LINK})
+  if(LIB_WINDOWS)
+    tarsil_precompile(${target} widgets)
+  elseif("Qt6::Gui" IN_LIST links)
+    tarsil_precompile(${target} gui)
+  else()
+    tarsil_precompile(${target} plain)
   endif()
 endfunction()
 

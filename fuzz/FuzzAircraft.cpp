@@ -2,9 +2,9 @@
 
 #include "aircraft/AirplaneInfo.h"
 #include "aircraft/AirplaneInfoReader.h"
-#include "runtime/RunTimeError.h"
-#include "runtime/TextCodec.h"
-#include "runtime/TextStream.h"
+#include "base/files/TextStream.h"
+#include "base/text/TextCodec.h"
+#include "base/user/RunTimeError.h"
 
 #include <algorithm>
 #include <cmath>

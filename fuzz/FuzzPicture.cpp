@@ -2,8 +2,8 @@
 
 #include "FuzzTarget.h"
 
-#include "vgf/EvmPlot.h"
-#include "vgf/PictureWriter.h"
+#include "vgfplot/EvmPlot.h"
+#include "vgfplot/PictureWriter.h"
 
 #include <QGuiApplication>
 #include <QXmlStreamReader>

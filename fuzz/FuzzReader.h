@@ -2,9 +2,9 @@
 
 #include "FuzzTarget.h"
 
+#include "base/files/TextStream.h"
+#include "base/user/RunTimeError.h"
 #include "model/EVM.h"
-#include "runtime/RunTimeError.h"
-#include "runtime/TextStream.h"
 
 #include <cmath>
 

@@ -1,9 +1,9 @@
 #include "FuzzTarget.h"
 
-#include "plot/RtfOutput.h"
-#include "plot/RtfReader.h"
-#include "plot/RtfWriter.h"
-#include "runtime/RtfStoredValue.h"
+#include "rtf/RtfOutput.h"
+#include "rtf/RtfReader.h"
+#include "rtf/RtfStoredValue.h"
+#include "rtf/RtfWriter.h"
 
 #include <algorithm>
 #include <string>

@@ -1,6 +1,6 @@
 #include "FuzzTarget.h"
 
-#include "runtime/RunTimeError.h"
+#include "base/user/RunTimeError.h"
 #include "workspace/WorkspaceReader.h"
 #include "workspace/WorkspaceWriter.h"
 

@@ -1,9 +1,9 @@
 #include "aircraft/AirplaneInfo.h"
 
 #include "aircraft/AirplaneInfoReader.h"
-#include "runtime/InputFile.h"
-#include "runtime/PathNames.h"
-#include "runtime/TextStream.h"
+#include "base/files/InputFile.h"
+#include "base/files/PathNames.h"
+#include "base/files/TextStream.h"
 
 #include <algorithm>
 #include <cstddef>

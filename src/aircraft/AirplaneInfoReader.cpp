@@ -1,11 +1,11 @@
 #include "aircraft/AirplaneInfoReader.h"
 
 #include "aircraft/AirplaneInfo.h"
-#include "runtime/Numbers.h"
-#include "runtime/QuotedText.h"
-#include "runtime/RunTimeError.h"
-#include "runtime/TextCodec.h"
-#include "runtime/TextStream.h"
+#include "base/files/TextStream.h"
+#include "base/numbers/Numbers.h"
+#include "base/text/QuotedText.h"
+#include "base/text/TextCodec.h"
+#include "base/user/RunTimeError.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -1,9 +1,9 @@
 #include "analysis/FlutterSearch.h"
 
+#include "base/files/PathNames.h"
+#include "base/numbers/Numbers.h"
+#include "base/user/RunTimeError.h"
 #include "model/EVM.h"
-#include "runtime/Numbers.h"
-#include "runtime/PathNames.h"
-#include "runtime/RunTimeError.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 #include "analysis/Isa.h"
 
-#include "runtime/Numbers.h"
-#include "runtime/RunTimeError.h"
+#include "base/numbers/Numbers.h"
+#include "base/user/RunTimeError.h"
 
 #include <cmath>
 #include <string>

@@ -2,10 +2,10 @@
 
 #include "analysis/Sheet.h"
 #include "analysis/XlsxWriter.h"
-#include "runtime/AtomicFile.h"
-#include "runtime/PathNames.h"
-#include "runtime/RunTimeError.h"
-#include "runtime/TextCodec.h"
+#include "base/files/AtomicFile.h"
+#include "base/files/PathNames.h"
+#include "base/text/TextCodec.h"
+#include "base/user/RunTimeError.h"
 
 #include <string>
 
@@ -23,7 +23,7 @@ std::string lowerCaseExtension(std::string_view path)
     return extension;
 }
 
-std::string quoted(const std::string& text)
+std::string csvField(const std::string& text)
 {
     if (text.find_first_of(",\"\r\n") == std::string::npos)
         return text;
@@ -49,7 +49,7 @@ std::string asText(const std::string& text)
 std::string csvCell(const Sheet::Cell& cell)
 {
     const auto* const text = std::get_if<std::string>(&cell);
-    return text != nullptr ? quoted(asText(*text)) : Sheet::textOf(cell);
+    return text != nullptr ? csvField(asText(*text)) : Sheet::textOf(cell);
 }
 
 std::string csvText(const Sheet& sheet)

@@ -1,8 +1,8 @@
 #include "analysis/XlsxParts.h"
 
 #include "analysis/Sheet.h"
-#include "runtime/RunTimeError.h"
-#include "runtime/TextCodec.h"
+#include "base/text/TextCodec.h"
+#include "base/user/RunTimeError.h"
 
 #include <algorithm>
 #include <array>

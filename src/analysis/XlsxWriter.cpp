@@ -2,7 +2,7 @@
 
 #include "analysis/XlsxParts.h"
 #include "analysis/ZipArchive.h"
-#include "runtime/AtomicFile.h"
+#include "base/files/AtomicFile.h"
 
 namespace tarsil {
 

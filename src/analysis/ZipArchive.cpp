@@ -1,6 +1,6 @@
 #include "analysis/ZipArchive.h"
 
-#include "runtime/RunTimeError.h"
+#include "base/user/RunTimeError.h"
 
 #include <zip.h>
 

@@ -2,10 +2,10 @@
 
 #include "ui_DlgDampLine.h"
 
-#include "runtime/ErrorGuard.h"
-#include "runtime/NumberFormat.h"
-#include "runtime/Numbers.h"
-#include "vgf/EvmPlot.h"
+#include "base/numbers/NumberFormat.h"
+#include "base/numbers/Numbers.h"
+#include "base/user/ErrorGuard.h"
+#include "vgfplot/EvmPlot.h"
 
 #include <QFocusEvent>
 

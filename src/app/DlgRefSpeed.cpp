@@ -2,7 +2,7 @@
 
 #include "ui_DlgRefSpeed.h"
 
-#include "vgf/EvmPlot.h"
+#include "vgfplot/EvmPlot.h"
 
 #include <utility>
 

@@ -3,11 +3,11 @@
 #include "analysis/FlutterReport.h"
 #include "analysis/SheetWriter.h"
 #include "app/LeftOutRows.h"
+#include "base/numbers/Numbers.h"
+#include "base/user/BusyStatus.h"
+#include "base/user/ErrorGuard.h"
 #include "model/EVM.h"
-#include "runtime/BusyStatus.h"
-#include "runtime/ErrorGuard.h"
-#include "runtime/Numbers.h"
-#include "vgf/EvmPlot.h"
+#include "vgfplot/EvmPlot.h"
 
 #include <QDateTime>
 #include <QDir>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "app/PlainMessageBoxes.h"
-#include "runtime/ErrorGuard.h"
-#include "runtime/UserInterface.h"
+#include "base/user/ErrorGuard.h"
+#include "base/user/UserInterface.h"
 
 #include <QApplication>
 

@@ -1,9 +1,9 @@
 #include "app/LeftOutRows.h"
 
-#include "control/MdlData.h"
-#include "runtime/ShortList.h"
-#include "runtime/UserInterface.h"
-#include "vgf/EvmPlot.h"
+#include "base/text/ShortList.h"
+#include "base/user/UserInterface.h"
+#include "datacontrol/MdlData.h"
+#include "vgfplot/EvmPlot.h"
 
 #include <cstddef>
 

@@ -1,9 +1,9 @@
 #include "app/MarkDialog.h"
 
-#include "runtime/ErrorGuard.h"
-#include "runtime/Numbers.h"
-#include "runtime/UserInterface.h"
-#include "vgf/EvmPlot.h"
+#include "base/numbers/Numbers.h"
+#include "base/user/ErrorGuard.h"
+#include "base/user/UserInterface.h"
+#include "vgfplot/EvmPlot.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>

@@ -1,7 +1,7 @@
 #include "app/QtUserInterface.h"
 
 #include "app/StatusPanels.h"
-#include "runtime/BusyStatus.h"
+#include "base/user/BusyStatus.h"
 
 #include <QApplication>
 #include <QDir>

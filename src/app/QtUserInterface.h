@@ -1,6 +1,6 @@
 #pragma once
 
-#include "runtime/UserInterface.h"
+#include "base/user/UserInterface.h"
 
 #include <QString>
 #include <QStringList>

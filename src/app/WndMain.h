@@ -4,9 +4,9 @@
 #include "app/ChildFrame.h"
 #include "app/FlutterReportCommand.h"
 #include "app/WorkspaceCommands.h"
+#include "base/user/UserInterface.h"
 #include "model/Session.h"
 #include "options/OptionsStore.h"
-#include "runtime/UserInterface.h"
 
 #include <QMainWindow>
 

@@ -2,7 +2,7 @@
 #include "app/GuardedApplication.h"
 #include "app/QtUserInterface.h"
 #include "app/WndMain.h"
-#include "runtime/TemporaryFile.h"
+#include "base/files/TemporaryFile.h"
 
 #include <QCommandLineParser>
 #include <QIcon>

@@ -1,8 +1,8 @@
 #include "batch/Batch.h"
 
+#include "base/user/RunTimeError.h"
 #include "batch/BatchRun.h"
 #include "batch/Commands.h"
-#include "runtime/RunTimeError.h"
 
 #include <algorithm>
 #include <array>

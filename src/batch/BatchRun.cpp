@@ -1,8 +1,8 @@
 #include "batch/BatchRun.h"
 
-#include "runtime/PathNames.h"
-#include "runtime/RunTimeError.h"
-#include "runtime/TextCodec.h"
+#include "base/files/PathNames.h"
+#include "base/text/TextCodec.h"
+#include "base/user/RunTimeError.h"
 
 #include <cerrno>
 #include <filesystem>

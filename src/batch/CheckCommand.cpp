@@ -1,10 +1,10 @@
+#include "base/text/TextCodec.h"
+#include "base/user/RunTimeError.h"
 #include "batch/BatchRun.h"
 #include "batch/Commands.h"
 #include "batch/WorkspaceChecker.h"
 #include "batch/WorkspaceInput.h"
 #include "model/EvolutionChecker.h"
-#include "runtime/RunTimeError.h"
-#include "runtime/TextCodec.h"
 
 #include <ostream>
 

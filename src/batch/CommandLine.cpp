@@ -1,6 +1,6 @@
 #include "batch/CommandLine.h"
 
-#include "runtime/Numbers.h"
+#include "base/numbers/Numbers.h"
 
 #include <algorithm>
 
@@ -8,14 +8,14 @@ namespace tarsil::batch {
 
 namespace {
 
-std::string quoted(std::string_view text)
+std::string inQuotes(std::string_view text)
 {
     return "\"" + std::string(text) + "\"";
 }
 
 UsageError notANumber(std::string_view text, std::string_view option)
 {
-    return UsageError(std::string(option) + ": " + quoted(text) + " is not a number");
+    return UsageError(std::string(option) + ": " + inQuotes(text) + " is not a number");
 }
 
 std::string usageLine(const CommandDescription& description)
@@ -127,7 +127,7 @@ void CommandLine::check() const
     if (m_operands.empty())
         throw UsageError("no file is given");
     if (m_operands.size() > m_description.mostOperands)
-        throw UsageError("too many files: " + quoted(m_operands[m_description.mostOperands]));
+        throw UsageError("too many files: " + inQuotes(m_operands[m_description.mostOperands]));
 }
 
 std::optional<std::string> CommandLine::value(std::string_view option) const
@@ -229,7 +229,7 @@ std::string outputOf(const CommandLine& line, std::span<const std::string_view> 
             wanted += i + 1 == extensions.size() ? " or " : ", ";
         wanted += extensions[i];
     }
-    throw UsageError("--output: " + quoted(output) + " does not end in " + wanted);
+    throw UsageError("--output: " + inQuotes(output) + " does not end in " + wanted);
 }
 
 } // namespace tarsil::batch

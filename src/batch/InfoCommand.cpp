@@ -1,12 +1,12 @@
+#include "base/files/PathNames.h"
+#include "base/numbers/Numbers.h"
+#include "base/text/TextCodec.h"
 #include "batch/BatchRun.h"
 #include "batch/Commands.h"
 #include "batch/InfoText.h"
 #include "batch/JsonWriter.h"
 #include "batch/WorkspaceInfo.h"
 #include "batch/WorkspaceInput.h"
-#include "runtime/Numbers.h"
-#include "runtime/PathNames.h"
-#include "runtime/TextCodec.h"
 
 #include <array>
 #include <ostream>

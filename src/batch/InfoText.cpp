@@ -1,7 +1,7 @@
 #include "batch/InfoText.h"
 
+#include "base/text/TextCodec.h"
 #include "batch/CommandLine.h"
-#include "runtime/TextCodec.h"
 
 #include <algorithm>
 #include <ostream>

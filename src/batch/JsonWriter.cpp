@@ -1,7 +1,7 @@
 #include "batch/JsonWriter.h"
 
-#include "runtime/Numbers.h"
-#include "runtime/TextCodec.h"
+#include "base/numbers/Numbers.h"
+#include "base/text/TextCodec.h"
 
 #include <algorithm>
 #include <ostream>

@@ -1,9 +1,9 @@
+#include "base/files/PathNames.h"
 #include "batch/BatchRun.h"
 #include "batch/Commands.h"
 #include "batch/ModeList.h"
 #include "batch/WorkspaceInput.h"
 #include "model/MdlMix.h"
-#include "runtime/PathNames.h"
 
 #include <algorithm>
 #include <array>

@@ -1,12 +1,12 @@
+#include "base/user/RunTimeError.h"
 #include "batch/BatchRun.h"
 #include "batch/Commands.h"
 #include "batch/PictureOptions.h"
 #include "batch/PlotDrawing.h"
 #include "batch/WorkspaceInput.h"
-#include "runtime/RunTimeError.h"
-#include "vgf/EvmPlot.h"
-#include "vgf/EvolutionPlotter.h"
-#include "vgf/PlotRecords.h"
+#include "vgfplot/EvmPlot.h"
+#include "vgfplot/EvolutionPlotter.h"
+#include "vgfplot/PlotRecords.h"
 
 namespace tarsil::batch {
 

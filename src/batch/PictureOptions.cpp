@@ -1,8 +1,8 @@
 #include "batch/PictureOptions.h"
 
+#include "base/numbers/Numbers.h"
 #include "batch/CommandLine.h"
 #include "batch/WorkspaceInput.h"
-#include "runtime/Numbers.h"
 
 namespace tarsil::batch {
 

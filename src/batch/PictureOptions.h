@@ -1,8 +1,8 @@
 #pragma once
 
 #include "batch/ModeList.h"
-#include "vgf/EvmPlot.h"
-#include "vgf/EvolutionPlotter.h"
+#include "vgfplot/EvmPlot.h"
+#include "vgfplot/EvolutionPlotter.h"
 
 #include <QSize>
 #include <QString>

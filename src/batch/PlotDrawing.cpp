@@ -1,11 +1,11 @@
 #include "batch/PlotDrawing.h"
 
+#include "base/files/AtomicFile.h"
 #include "batch/CommandLine.h"
 #include "batch/PictureOptions.h"
-#include "plot/RtfReader.h"
-#include "runtime/AtomicFile.h"
-#include "vgf/PictureWriter.h"
-#include "vgf/ScaleFit.h"
+#include "rtf/RtfReader.h"
+#include "vgfplot/PictureWriter.h"
+#include "vgfplot/ScaleFit.h"
 
 #include <algorithm>
 #include <cmath>

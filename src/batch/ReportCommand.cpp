@@ -1,11 +1,11 @@
 #include "analysis/FlutterReport.h"
 #include "analysis/SheetWriter.h"
+#include "base/files/PathNames.h"
+#include "base/user/RunTimeError.h"
 #include "batch/BatchRun.h"
 #include "batch/Commands.h"
 #include "batch/ModeList.h"
 #include "batch/WorkspaceInput.h"
-#include "runtime/PathNames.h"
-#include "runtime/RunTimeError.h"
 
 #include <array>
 #include <set>

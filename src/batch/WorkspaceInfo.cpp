@@ -1,10 +1,10 @@
 #include "batch/WorkspaceInfo.h"
 
+#include "base/numbers/Numbers.h"
+#include "base/text/TextCodec.h"
 #include "batch/InfoText.h"
 #include "batch/JsonWriter.h"
-#include "plot/RtfReader.h"
-#include "runtime/Numbers.h"
-#include "runtime/TextCodec.h"
+#include "rtf/RtfReader.h"
 #include "workspace/WorkspaceRecord.h"
 
 #include <cstddef>

@@ -1,11 +1,11 @@
 #include "batch/WorkspaceInput.h"
 
+#include "base/files/InputFile.h"
+#include "base/files/PathNames.h"
+#include "base/user/RunTimeError.h"
 #include "batch/BatchRun.h"
 #include "model/EVM.h"
-#include "runtime/InputFile.h"
-#include "runtime/PathNames.h"
-#include "runtime/RunTimeError.h"
-#include "vgf/EvolutionRecords.h"
+#include "vgfplot/EvolutionRecords.h"
 #include "workspace/FoundFiles.h"
 #include "workspace/WorkspaceReader.h"
 

@@ -1,6 +1,6 @@
+#include "base/files/TemporaryFile.h"
+#include "base/text/TextCodec.h"
 #include "batch/Batch.h"
-#include "runtime/TemporaryFile.h"
-#include "runtime/TextCodec.h"
 
 #include <QGuiApplication>
 

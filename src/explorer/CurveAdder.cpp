@@ -1,6 +1,6 @@
 #include "explorer/CurveAdder.h"
 
-#include "vgf/WndEvolPlot.h"
+#include "plotwindow/WndEvolPlot.h"
 
 namespace tarsil {
 

@@ -1,8 +1,8 @@
 #include "explorer/EvolutionMarks.h"
 
+#include "base/user/RunTimeError.h"
 #include "model/EVM.h"
 #include "model/EvolutionChecker.h"
-#include "runtime/RunTimeError.h"
 
 #include <QStringList>
 

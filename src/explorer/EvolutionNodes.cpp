@@ -1,10 +1,10 @@
 #include "explorer/EvolutionNodes.h"
 
+#include "base/files/PathNames.h"
+#include "base/numbers/Numbers.h"
 #include "explorer/ExplorerNode.h"
 #include "model/EVM.h"
 #include "model/Session.h"
-#include "runtime/Numbers.h"
-#include "runtime/PathNames.h"
 
 #include <QList>
 

@@ -2,8 +2,8 @@
 
 #include "explorer/ExplorerImages.h"
 #include "model/EVM.h"
-#include "vgf/EvmPlot.h"
-#include "vgf/ToolTipText.h"
+#include "plotwindow/ToolTipText.h"
+#include "vgfplot/EvmPlot.h"
 
 #include <QFont>
 #include <QStringList>

@@ -1,7 +1,7 @@
 #include "explorer/PlotNodes.h"
 
 #include "explorer/ExplorerNode.h"
-#include "vgf/WndEvolPlot.h"
+#include "plotwindow/WndEvolPlot.h"
 
 namespace tarsil {
 

@@ -1,13 +1,13 @@
 #include "explorer/WndEvolExplorer.h"
 
+#include "base/user/ErrorGuard.h"
+#include "base/user/UserInterface.h"
 #include "explorer/ExplorerNode.h"
 #include "explorer/LabelDelegate.h"
 #include "explorer/PlotNodes.h"
 #include "model/EVM.h"
 #include "model/Session.h"
-#include "runtime/ErrorGuard.h"
-#include "runtime/UserInterface.h"
-#include "vgf/WndEvolPlot.h"
+#include "plotwindow/WndEvolPlot.h"
 
 #include <QToolBar>
 #include <QTreeWidget>

@@ -1,13 +1,13 @@
 // Editing the labels of the explorer's tree.
 
+#include "base/numbers/Numbers.h"
+#include "base/user/UserInterface.h"
 #include "explorer/ExplorerNode.h"
 #include "explorer/LabelDelegate.h"
 #include "explorer/PlotNodes.h"
 #include "explorer/WndEvolExplorer.h"
 #include "model/EVM.h"
-#include "runtime/Numbers.h"
-#include "runtime/UserInterface.h"
-#include "vgf/WndEvolPlot.h"
+#include "plotwindow/WndEvolPlot.h"
 
 #include <QLineEdit>
 #include <QPointer>

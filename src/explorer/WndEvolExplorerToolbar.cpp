@@ -1,14 +1,14 @@
 // The toolbar of the explorer, and how evolutions and plots come and go.
 
+#include "base/user/RunTimeError.h"
+#include "base/user/UserInterface.h"
 #include "explorer/CurveAdder.h"
 #include "explorer/ExplorerNode.h"
 #include "explorer/PlotNodes.h"
 #include "explorer/WndEvolExplorer.h"
 #include "model/EVM.h"
 #include "model/Session.h"
-#include "runtime/RunTimeError.h"
-#include "runtime/UserInterface.h"
-#include "vgf/WndEvolPlot.h"
+#include "plotwindow/WndEvolPlot.h"
 
 #include <QAction>
 #include <QToolBar>

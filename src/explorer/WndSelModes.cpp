@@ -2,12 +2,12 @@
 
 #include "ui_WndSelModes.h"
 
+#include "base/numbers/NumberFormat.h"
+#include "base/user/ErrorGuard.h"
+#include "base/user/RunTimeError.h"
 #include "explorer/CurveAdder.h"
 #include "explorer/WndEvolExplorer.h"
 #include "model/EVM.h"
-#include "runtime/ErrorGuard.h"
-#include "runtime/NumberFormat.h"
-#include "runtime/RunTimeError.h"
 
 #include <QShowEvent>
 

@@ -1,7 +1,7 @@
 #include "model/CheckerParts.h"
 
-#include "runtime/QuotedText.h"
-#include "runtime/TextStream.h"
+#include "base/files/TextStream.h"
+#include "base/text/QuotedText.h"
 
 #include <algorithm>
 
@@ -46,15 +46,16 @@ std::vector<Finding> FindingList::take()
 std::string numberComplaint(NumberStatus status, std::string_view text)
 {
     if (status == NumberStatus::Overflow)
-        return quoted(text) + " is too large";
+        return quotedTrimmed(text) + " is too large";
     if (isBlank(text))
         return "is blank, where a number should stand";
     if (text.find('*') != std::string_view::npos)
-        return quoted(text) + " is not a number: the value did not fit when the file was written";
-    return quoted(text) + " is not a number";
+        return quotedTrimmed(text)
+            + " is not a number: the value did not fit when the file was written";
+    return quotedTrimmed(text) + " is not a number";
 }
 
-std::string quoted(std::string_view text)
+std::string quotedTrimmed(std::string_view text)
 {
     text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
     return quotedText(text.substr(0, text.find_last_not_of(" \t") + 1));

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/numbers/Numbers.h"
 #include "model/EvolutionChecker.h"
-#include "runtime/Numbers.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -38,7 +38,7 @@ private:
 std::string numberComplaint(NumberStatus status, std::string_view text);
 
 /// `quotedText` without the blanks around the text.
-std::string quoted(std::string_view text);
+std::string quotedTrimmed(std::string_view text);
 
 /// Whether there is nothing but blanks in a text.
 bool isBlank(std::string_view text);

@@ -1,13 +1,13 @@
 #include "model/EVM.h"
 
+#include "base/files/AtomicFile.h"
+#include "base/files/FileLines.h"
+#include "base/files/PathNames.h"
+#include "base/files/TextStream.h"
+#include "base/text/TextCodec.h"
+#include "base/user/RunTimeError.h"
 #include "model/EvolutionReaders.h"
 #include "model/EvolutionWriter.h"
-#include "runtime/AtomicFile.h"
-#include "runtime/FileLines.h"
-#include "runtime/PathNames.h"
-#include "runtime/RunTimeError.h"
-#include "runtime/TextCodec.h"
-#include "runtime/TextStream.h"
 
 #include <utility>
 

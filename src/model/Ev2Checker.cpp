@@ -1,8 +1,8 @@
+#include "base/files/TextStream.h"
 #include "model/CheckerParts.h"
 #include "model/Ev2Layout.h"
 #include "model/FieldCountWatch.h"
 #include "model/ResultRow.h"
-#include "runtime/TextStream.h"
 
 #include <algorithm>
 #include <array>
@@ -83,7 +83,7 @@ void Ev2Checker::check()
     if (findHeader(ev2layout::modelHeader)) {
         while (readSectionLine(line)) {
             if (line.find('=') == std::string_view::npos)
-                add("no \"=\" stands between a key and its value: " + quoted(line));
+                add("no \"=\" stands between a key and its value: " + quotedTrimmed(line));
             else
                 checkModelLine(ev2layout::splitAtFirstEqual(line));
         }
@@ -174,9 +174,9 @@ void Ev2Checker::checkListKey(std::string_view key, std::set<std::string_view>& 
 {
     const std::optional<std::string_view> index = ev2layout::entryKey(key);
     if (!index)
-        add("the key " + quoted(key) + " has no index in parentheses");
+        add("the key " + quotedTrimmed(key) + " has no index in parentheses");
     else if (!known.insert(*index).second)
-        add("the key " + quoted(key) + " comes twice");
+        add("the key " + quotedTrimmed(key) + " comes twice");
 }
 
 void Ev2Checker::checkResults()
@@ -210,7 +210,7 @@ void Ev2Checker::checkRow(std::string_view line)
     m_row.split(line, '|');
     if (m_row.count() <= resultfield::frequency) {
         add("a result row has at least 8 fields, this one only " + std::to_string(m_row.count())
-            + ": " + quoted(line));
+            + ": " + quotedTrimmed(line));
         return;
     }
     const std::optional<std::int16_t> number = modeNumber();
@@ -262,8 +262,8 @@ void Ev2Checker::checkLineEnd(std::string_view line)
 {
     const std::string_view last = line.substr(line.rfind('|') + 1); // all of it without a "|"
     if (isCutOff(m_stream, line) && !isBlank(last))
-        add("the file ends in this row without an end of line: its last field, " + quoted(last)
-            + ", may be cut");
+        add("the file ends in this row without an end of line: its last field, "
+            + quotedTrimmed(last) + ", may be cut");
 }
 
 void Ev2Checker::compareModeCount()

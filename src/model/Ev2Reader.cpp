@@ -1,10 +1,10 @@
+#include "base/files/TextStream.h"
+#include "base/text/TextCodec.h"
+#include "base/user/RunTimeError.h"
 #include "model/EVM.h"
 #include "model/Ev2Layout.h"
 #include "model/EvolutionReaders.h"
 #include "model/ResultRow.h"
-#include "runtime/RunTimeError.h"
-#include "runtime/TextCodec.h"
-#include "runtime/TextStream.h"
 
 #include <algorithm>
 #include <string>

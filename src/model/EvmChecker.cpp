@@ -1,6 +1,6 @@
+#include "base/files/TextStream.h"
 #include "model/CheckerParts.h"
 #include "model/EvmLayout.h"
-#include "runtime/TextStream.h"
 
 #include <algorithm>
 #include <array>
@@ -202,11 +202,12 @@ void EvmChecker::complainNoPoint()
     const bool blank = isBlank(m_half);
     if (blank && onlyBlanksLeft())
         return;
-    m_findings.add(m_stream.lineNumber(),
-                   "columns " + std::to_string(m_offset + 1) + "-"
-                       + std::to_string(m_offset + evmlayout::fieldWidth)
-                       + (blank ? ": blank, though more points follow"
-                                : ": no point, though more modes are declared: " + quoted(m_half)));
+    m_findings.add(
+        m_stream.lineNumber(),
+        "columns " + std::to_string(m_offset + 1) + "-"
+            + std::to_string(m_offset + evmlayout::fieldWidth)
+            + (blank ? ": blank, though more points follow"
+                     : ": no point, though more modes are declared: " + quotedTrimmed(m_half)));
 }
 
 std::optional<float> EvmChecker::single(const Columns& columns)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "runtime/ShortNumber.h"
+#include "base/numbers/ShortNumber.h"
 
 #include <cstddef>
 #include <string_view>

@@ -1,10 +1,10 @@
+#include "base/files/FileLines.h"
+#include "base/files/TextStream.h"
+#include "base/numbers/Numbers.h"
+#include "base/numbers/ShortNumber.h"
 #include "model/EVM.h"
 #include "model/EvmLayout.h"
 #include "model/EvolutionReaders.h"
-#include "runtime/FileLines.h"
-#include "runtime/Numbers.h"
-#include "runtime/ShortNumber.h"
-#include "runtime/TextStream.h"
 
 #include <algorithm>
 #include <cstring>

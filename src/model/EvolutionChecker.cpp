@@ -1,11 +1,11 @@
 #include "model/EvolutionChecker.h"
 
+#include "base/files/InputFile.h"
+#include "base/files/PathNames.h"
+#include "base/files/TextStream.h"
+#include "base/user/RunTimeError.h"
 #include "model/CheckerParts.h"
 #include "model/EVM.h"
-#include "runtime/InputFile.h"
-#include "runtime/PathNames.h"
-#include "runtime/RunTimeError.h"
-#include "runtime/TextStream.h"
 
 namespace tarsil {
 

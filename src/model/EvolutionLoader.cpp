@@ -1,8 +1,8 @@
 #include "model/EvolutionLoader.h"
 
-#include "runtime/BusyStatus.h"
-#include "runtime/ErrorGuard.h"
-#include "runtime/PathNames.h"
+#include "base/files/PathNames.h"
+#include "base/user/BusyStatus.h"
+#include "base/user/ErrorGuard.h"
 
 #include <algorithm>
 #include <unordered_map>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/user/UserInterface.h"
 #include "model/Session.h"
-#include "runtime/UserInterface.h"
 
 #include <cstddef>
 #include <functional>

@@ -1,9 +1,9 @@
 #include "model/EvolutionWriter.h"
 
+#include "base/numbers/NumberFormat.h"
+#include "base/user/RunTimeError.h"
 #include "model/EVM.h"
 #include "model/EvmLayout.h"
-#include "runtime/NumberFormat.h"
-#include "runtime/RunTimeError.h"
 
 #include <string_view>
 

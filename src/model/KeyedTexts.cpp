@@ -1,6 +1,6 @@
 #include "model/KeyedTexts.h"
 
-#include "runtime/RunTimeError.h"
+#include "base/user/RunTimeError.h"
 
 namespace tarsil {
 

@@ -1,10 +1,10 @@
 #include "model/MdlMix.h"
 
-#include "runtime/BusyStatus.h"
-#include "runtime/ErrorGuard.h"
-#include "runtime/Numbers.h"
-#include "runtime/PathNames.h"
-#include "runtime/RunTimeError.h"
+#include "base/files/PathNames.h"
+#include "base/numbers/Numbers.h"
+#include "base/user/BusyStatus.h"
+#include "base/user/ErrorGuard.h"
+#include "base/user/RunTimeError.h"
 
 #include <algorithm>
 #include <optional>

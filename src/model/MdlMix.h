@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/user/UserInterface.h"
 #include "model/EVM.h"
-#include "runtime/UserInterface.h"
 
 #include <memory>
 #include <string_view>

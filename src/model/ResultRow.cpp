@@ -1,9 +1,9 @@
 #include "model/ResultRow.h"
 
+#include "base/files/TextStream.h"
+#include "base/text/QuotedText.h"
+#include "base/user/RunTimeError.h"
 #include "model/EVM.h"
-#include "runtime/QuotedText.h"
-#include "runtime/RunTimeError.h"
-#include "runtime/TextStream.h"
 
 #include <algorithm>
 #include <bit>

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "base/numbers/Numbers.h"
+#include "base/numbers/ShortNumber.h"
 #include "model/Point.h"
-#include "runtime/Numbers.h"
-#include "runtime/ShortNumber.h"
 
 #include <array>
 #include <cstddef>

@@ -1,8 +1,8 @@
+#include "base/files/TextStream.h"
 #include "model/EVM.h"
 #include "model/Ev2Layout.h"
 #include "model/EvolutionReaders.h"
 #include "model/ResultRow.h"
-#include "runtime/TextStream.h"
 
 #include <string>
 

@@ -1,6 +1,6 @@
 #include "model/Session.h"
 
-#include "runtime/PathNames.h"
+#include "base/files/PathNames.h"
 
 namespace tarsil {
 

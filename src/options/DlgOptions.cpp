@@ -3,14 +3,14 @@
 #include "ui_DlgOptions.h"
 
 #include "aircraft/AirplaneInfo.h"
+#include "base/files/PathNames.h"
+#include "base/numbers/Numbers.h"
+#include "base/user/ErrorGuard.h"
+#include "base/user/RunTimeError.h"
+#include "base/user/UserInterface.h"
 #include "options/ListInput.h"
-#include "runtime/ErrorGuard.h"
-#include "runtime/Numbers.h"
-#include "runtime/PathNames.h"
-#include "runtime/RunTimeError.h"
-#include "runtime/UserInterface.h"
-#include "vgf/InputWarning.h"
-#include "vgf/WndEvolPlot.h"
+#include "plotwindow/InputWarning.h"
+#include "plotwindow/WndEvolPlot.h"
 
 #include <algorithm>
 #include <functional>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "options/OptionsStore.h"
-#include "vgf/EvmPlot.h"
+#include "vgfplot/EvmPlot.h"
 
 #include <QDialog>
 

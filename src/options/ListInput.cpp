@@ -1,6 +1,6 @@
 #include "options/ListInput.h"
 
-#include "runtime/Numbers.h"
+#include "base/numbers/Numbers.h"
 
 #include <QLineEdit>
 

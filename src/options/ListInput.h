@@ -1,6 +1,6 @@
 #pragma once
 
-#include "vgf/InputWarning.h"
+#include "plotwindow/InputWarning.h"
 
 #include <QObject>
 #include <QString>

@@ -1,10 +1,10 @@
 #include "options/OptionsStore.h"
 
+#include "base/files/AtomicFile.h"
+#include "base/files/InputFile.h"
+#include "base/files/PathNames.h"
+#include "base/user/RunTimeError.h"
 #include "options/SettingsText.h"
-#include "runtime/AtomicFile.h"
-#include "runtime/InputFile.h"
-#include "runtime/PathNames.h"
-#include "runtime/RunTimeError.h"
 
 #include <QStandardPaths>
 

@@ -1,6 +1,6 @@
 #include "plot/AxisMetrics.h"
 
-#include "runtime/RunTimeError.h"
+#include "base/user/RunTimeError.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "plot/DeviceContext.h"
-#include "plot/PixelMath.h"
+#include "surface/DeviceContext.h"
+#include "surface/PixelMath.h"
 
 namespace tarsil::axis {
 

@@ -1,12 +1,12 @@
 #include "plot/EmfRichTextBox.h"
 
-#include "plot/PixelMath.h"
-#include "plot/RichTextEdit.h"
+#include "base/user/RunTimeError.h"
 #include "plot/RichTextLayout.h"
-#include "plot/RtfReader.h"
-#include "plot/RtfWriter.h"
-#include "plot/TextMetrics.h"
-#include "runtime/RunTimeError.h"
+#include "rtf/RichTextEdit.h"
+#include "rtf/RtfReader.h"
+#include "rtf/RtfWriter.h"
+#include "surface/PixelMath.h"
+#include "surface/TextMetrics.h"
 
 #include <algorithm>
 

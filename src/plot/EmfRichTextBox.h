@@ -2,8 +2,8 @@
 
 #include "plot/PlotControl.h"
 #include "plot/PropertyBag.h"
-#include "plot/RichText.h"
-#include "plot/RichTextEdit.h"
+#include "rtf/RichText.h"
+#include "rtf/RichTextEdit.h"
 
 #include <QVariant>
 

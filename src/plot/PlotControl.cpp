@@ -1,7 +1,7 @@
 #include "plot/PlotControl.h"
 
-#include "plot/InkBounds.h"
-#include "plot/PainterContext.h"
+#include "surface/InkBounds.h"
+#include "surface/PainterContext.h"
 
 #include <QPainter>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plot/DeviceContext.h"
+#include "surface/DeviceContext.h"
 
 #include <QImage>
 #include <QRect>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/Session.h"
+#include "base/numbers/ColorValue.h"
 
 #include <QString>
 

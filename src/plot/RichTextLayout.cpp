@@ -1,7 +1,7 @@
 #include "plot/RichTextLayout.h"
 
-#include "plot/FontName.h"
-#include "plot/SymbolFont.h"
+#include "rtf/SymbolFont.h"
+#include "surface/DrawnFace.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "plot/DeviceContext.h"
-#include "plot/RichText.h"
+#include "rtf/RichText.h"
+#include "surface/DeviceContext.h"
 
 #include <functional>
 #include <vector>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/numbers/ColorValue.h"
 #include "model/AeMode.h"
-#include "model/Session.h"
 
 #include <QString>
 

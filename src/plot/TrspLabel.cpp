@@ -1,7 +1,7 @@
 #include "plot/TrspLabel.h"
 
-#include "plot/TextMetrics.h"
-#include "runtime/RunTimeError.h"
+#include "base/user/RunTimeError.h"
+#include "surface/TextMetrics.h"
 
 namespace tarsil {
 

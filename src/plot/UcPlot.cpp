@@ -1,8 +1,8 @@
 #include "plot/UcPlot.h"
 
-#include "plot/PixelMath.h"
-#include "runtime/Numbers.h"
-#include "runtime/RunTimeError.h"
+#include "base/numbers/Numbers.h"
+#include "base/user/RunTimeError.h"
+#include "surface/PixelMath.h"
 
 #include <limits>
 #include <string>

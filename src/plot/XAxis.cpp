@@ -1,9 +1,9 @@
 #include "plot/XAxis.h"
 
+#include "base/numbers/NumberFormat.h"
+#include "base/numbers/Numbers.h"
+#include "base/user/RunTimeError.h"
 #include "plot/AxisMetrics.h"
-#include "runtime/NumberFormat.h"
-#include "runtime/Numbers.h"
-#include "runtime/RunTimeError.h"
 
 namespace tarsil {
 

@@ -1,7 +1,7 @@
 #include "plot/YAxis.h"
 
+#include "base/numbers/NumberFormat.h"
 #include "plot/AxisMetrics.h"
-#include "runtime/NumberFormat.h"
 
 namespace tarsil {
 

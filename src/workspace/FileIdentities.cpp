@@ -1,6 +1,6 @@
 #include "workspace/FileIdentities.h"
 
-#include "runtime/PathNames.h"
+#include "base/files/PathNames.h"
 
 #include <filesystem>
 #include <system_error>

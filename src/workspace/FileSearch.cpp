@@ -1,7 +1,7 @@
 #include "workspace/FileSearch.h"
 
-#include "runtime/CaseFolding.h"
-#include "runtime/PathNames.h"
+#include "base/files/PathNames.h"
+#include "base/text/CaseFolding.h"
 #include "workspace/FileIdentities.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 #include "workspace/IniText.h"
 
-#include "runtime/RtfStoredValue.h"
-#include "runtime/TextCodec.h"
-#include "runtime/TextStream.h"
+#include "base/files/TextStream.h"
+#include "base/text/TextCodec.h"
+#include "rtf/RtfStoredValue.h"
 
 #include <cstddef>
 

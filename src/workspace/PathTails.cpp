@@ -1,7 +1,7 @@
 #include "workspace/PathTails.h"
 
-#include "runtime/CaseFolding.h"
-#include "runtime/TextCodec.h"
+#include "base/text/CaseFolding.h"
+#include "base/text/TextCodec.h"
 
 #include <algorithm>
 #include <limits>

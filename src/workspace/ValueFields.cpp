@@ -1,8 +1,8 @@
 #include "workspace/ValueFields.h"
 
-#include "runtime/Numbers.h"
-#include "runtime/QuotedText.h"
-#include "runtime/RunTimeError.h"
+#include "base/numbers/Numbers.h"
+#include "base/text/QuotedText.h"
+#include "base/user/RunTimeError.h"
 
 #include <algorithm>
 #include <cmath>

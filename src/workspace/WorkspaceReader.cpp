@@ -1,7 +1,7 @@
 #include "workspace/WorkspaceReader.h"
 
-#include "runtime/RtfStoredValue.h"
-#include "runtime/RunTimeError.h"
+#include "base/user/RunTimeError.h"
+#include "rtf/RtfStoredValue.h"
 #include "workspace/IniText.h"
 #include "workspace/ValueFields.h"
 #include "workspace/WorkspaceKeys.h"

@@ -1,9 +1,9 @@
 #include "workspace/WorkspaceWriter.h"
 
-#include "runtime/Numbers.h"
-#include "runtime/RtfStoredValue.h"
-#include "runtime/RunTimeError.h"
-#include "runtime/TextCodec.h"
+#include "base/numbers/Numbers.h"
+#include "base/text/TextCodec.h"
+#include "base/user/RunTimeError.h"
+#include "rtf/RtfStoredValue.h"
 #include "workspace/ValueFields.h"
 #include "workspace/WorkspaceKeys.h"
 

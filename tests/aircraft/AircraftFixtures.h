@@ -2,8 +2,8 @@
 
 #include "aircraft/AirplaneInfo.h"
 #include "aircraft/AirplaneInfoReader.h"
-#include "runtime/RunTimeError.h"
-#include "runtime/TextStream.h"
+#include "base/files/TextStream.h"
+#include "base/user/RunTimeError.h"
 
 #include <optional>
 #include <string_view>

@@ -1,6 +1,6 @@
 #include "AircraftFixtures.h"
 
-#include "runtime/TextCodec.h"
+#include "base/text/TextCodec.h"
 
 #include <gtest/gtest.h>
 

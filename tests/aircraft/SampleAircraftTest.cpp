@@ -1,7 +1,7 @@
 #include "aircraft/AirplaneInfo.h"
+#include "base/files/PathNames.h"
+#include "base/numbers/NumberFormat.h"
 #include "model/EVM.h"
-#include "runtime/NumberFormat.h"
-#include "runtime/PathNames.h"
 #include "support/TestFiles.h"
 
 #include <gtest/gtest.h>

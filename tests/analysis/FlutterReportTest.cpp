@@ -2,8 +2,8 @@
 
 #include "analysis/Isa.h"
 #include "analysis/ModeBuilder.h"
-#include "runtime/Numbers.h"
-#include "runtime/RunTimeError.h"
+#include "base/numbers/Numbers.h"
+#include "base/user/RunTimeError.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

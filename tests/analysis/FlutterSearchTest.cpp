@@ -1,7 +1,7 @@
 #include "analysis/FlutterSearch.h"
 
 #include "analysis/ModeBuilder.h"
-#include "runtime/RunTimeError.h"
+#include "base/user/RunTimeError.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "analysis/Isa.h"
 
-#include "runtime/RunTimeError.h"
+#include "base/user/RunTimeError.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "analysis/Sheet.h"
 
-#include "runtime/RunTimeError.h"
+#include "base/user/RunTimeError.h"
 
 #include <gtest/gtest.h>
 

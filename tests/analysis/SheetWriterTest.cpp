@@ -3,7 +3,7 @@
 #include "analysis/Sheet.h"
 #include "analysis/XlsxParts.h"
 #include "analysis/XlsxReader.h"
-#include "runtime/RunTimeError.h"
+#include "base/user/RunTimeError.h"
 #include "support/TestFiles.h"
 
 #include <gmock/gmock.h>

@@ -2,8 +2,8 @@
 
 #include "app/WndMainFixture.h"
 
-#include "control/SeriesGridView.h"
-#include "control/WndData.h"
+#include "datacontrol/SeriesGridView.h"
+#include "datacontrol/WndData.h"
 #include "explorer/WndEvolExplorer.h"
 #include "support/FormParts.h"
 

@@ -2,7 +2,7 @@
 
 #include "support/FormParts.h"
 #include "support/ScriptedUserInterface.h"
-#include "vgf/EvmPlot.h"
+#include "vgfplot/EvmPlot.h"
 
 #include <QGroupBox>
 #include <QLabel>

@@ -5,7 +5,7 @@
 #include "analysis/XlsxReader.h"
 #include "support/ScriptedUserInterface.h"
 #include "support/TestFiles.h"
-#include "vgf/EvmPlot.h"
+#include "vgfplot/EvmPlot.h"
 
 #include <QDir>
 

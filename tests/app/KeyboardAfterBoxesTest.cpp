@@ -3,12 +3,12 @@
 #include "app/QtUserInterface.h"
 #include "app/StatusPanels.h"
 #include "app/WndMain.h"
-#include "control/SeriesGridModel.h"
-#include "control/SeriesGridView.h"
+#include "datacontrol/SeriesGridModel.h"
+#include "datacontrol/SeriesGridView.h"
+#include "plotwindow/WndEvolPlot.h"
 #include "support/FormParts.h"
 #include "support/TestFiles.h"
-#include "vgf/EvmPlot.h"
-#include "vgf/WndEvolPlot.h"
+#include "vgfplot/EvmPlot.h"
 
 #include <QAction>
 #include <QDialog>

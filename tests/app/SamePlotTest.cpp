@@ -4,7 +4,7 @@
 
 #include "batch/Batch.h"
 #include "support/TestFiles.h"
-#include "vgf/PictureWriter.h"
+#include "vgfplot/PictureWriter.h"
 
 #include <sstream>
 

@@ -2,9 +2,9 @@
 
 #include "app/WndMainFixture.h"
 
+#include "base/text/TextCodec.h"
 #include "explorer/WndEvolExplorer.h"
 #include "model/EVM.h"
-#include "runtime/TextCodec.h"
 #include "support/RandomTexts.h"
 
 #include <gmock/gmock.h>

@@ -2,10 +2,10 @@
 
 #include "app/StatusPanels.h"
 #include "app/WndMain.h"
+#include "plotwindow/EvmPlotView.h"
+#include "plotwindow/WndEvolPlot.h"
 #include "support/ScriptedUserInterface.h"
 #include "support/TestFiles.h"
-#include "vgf/EvmPlotView.h"
-#include "vgf/WndEvolPlot.h"
 
 #include <QAction>
 #include <QApplication>

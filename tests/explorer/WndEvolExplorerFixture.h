@@ -4,10 +4,10 @@
 #include "explorer/ExplorerNode.h"
 #include "explorer/WndEvolExplorer.h"
 #include "model/Session.h"
+#include "plotwindow/EvmPlotView.h"
+#include "plotwindow/WndEvolPlot.h"
 #include "support/FormParts.h"
 #include "support/ScriptedUserInterface.h"
-#include "vgf/EvmPlotView.h"
-#include "vgf/WndEvolPlot.h"
 
 #include <QAction>
 #include <QMouseEvent>

@@ -4,7 +4,7 @@
 // usage: fault_window save|picture|mix|report|options|quit TARGET [FILE...]
 
 #include "app/WndMain.h"
-#include "runtime/UserInterface.h"
+#include "base/user/UserInterface.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,7 +1,7 @@
 #include "ModelFixtures.h"
 
+#include "base/files/PathNames.h"
 #include "model/EvolutionLoader.h"
-#include "runtime/PathNames.h"
 #include "support/ScriptedUserInterface.h"
 #include "support/TestFiles.h"
 

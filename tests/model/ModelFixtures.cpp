@@ -1,7 +1,7 @@
 #include "ModelFixtures.h"
 
+#include "base/files/TextStream.h"
 #include "model/EvolutionReaders.h"
-#include "runtime/TextStream.h"
 
 namespace tarsil::test {
 

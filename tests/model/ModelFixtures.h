@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/user/RunTimeError.h"
 #include "model/EVM.h"
-#include "runtime/RunTimeError.h"
 
 #include <optional>
 #include <string>

@@ -152,13 +152,6 @@ TEST(Session, opensFilesInOrder)
     EXPECT_EQ(session.evolutions[1]->FileName, "c.ev2");
 }
 
-TEST(Session, hasSevenBaseColours)
-{
-    EXPECT_EQ(BaseColors[1], 0xFF0000); // blue: red stands in the low byte
-    EXPECT_EQ(BaseColors[3], 0x0000FF);
-    EXPECT_EQ(BaseColors[0], 0x808080);
-}
-
 } // namespace
 
 } // namespace tarsil

@@ -1,9 +1,9 @@
 // A file is read in pieces; where one piece ends must not be seen in what is read.
 
+#include "base/files/FileLines.h"
+#include "base/files/TextStream.h"
 #include "model/EvolutionReaders.h"
 #include "model/ModelFixtures.h"
-#include "runtime/FileLines.h"
-#include "runtime/TextStream.h"
 #include "support/TestFiles.h"
 
 #include <gtest/gtest.h>

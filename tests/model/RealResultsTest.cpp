@@ -1,6 +1,6 @@
+#include "base/files/PathNames.h"
 #include "model/EVM.h"
 #include "model/EvolutionChecker.h"
-#include "runtime/PathNames.h"
 #include "support/TestFiles.h"
 
 #include <gmock/gmock.h>

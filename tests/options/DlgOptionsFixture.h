@@ -2,10 +2,10 @@
 
 #include "aircraft/AirplaneInfo.h"
 #include "options/DlgOptions.h"
+#include "plotwindow/WndEvolPlot.h"
 #include "support/FormParts.h"
 #include "support/ScriptedUserInterface.h"
 #include "support/TestFiles.h"
-#include "vgf/WndEvolPlot.h"
 
 #include <gtest/gtest.h>
 

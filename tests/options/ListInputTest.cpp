@@ -1,6 +1,6 @@
 #include "options/ListInput.h"
 
-#include "runtime/RunTimeError.h"
+#include "base/user/RunTimeError.h"
 
 #include <QAction>
 #include <QLineEdit>

@@ -1,6 +1,6 @@
 #include "options/OptionsStore.h"
 
-#include "runtime/RunTimeError.h"
+#include "base/user/RunTimeError.h"
 #include "support/TestFiles.h"
 
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "analysis/ModeBuilder.h"
-#include "plot/ErrorNumberOf.h"
 #include "plot/UcPlot.h"
+#include "support/ErrorNumberOf.h"
 #include "support/RecordingContext.h"
 
 #include <gmock/gmock.h>

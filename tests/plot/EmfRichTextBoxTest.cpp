@@ -1,8 +1,8 @@
 #include "plot/EmfRichTextBox.h"
 
-#include "plot/ErrorNumberOf.h"
-#include "plot/Picture.h"
+#include "support/ErrorNumberOf.h"
 #include "support/RecordingContext.h"
+#include "surface/Picture.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "workspace/FoundFiles.h"
 
-#include "runtime/PathNames.h"
+#include "base/files/PathNames.h"
 #include "support/TestFiles.h"
 
 #include <gmock/gmock.h>

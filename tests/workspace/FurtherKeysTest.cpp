@@ -1,5 +1,5 @@
 #include "WorkspaceTexts.h"
-#include "runtime/RtfStoredValue.h"
+#include "rtf/RtfStoredValue.h"
 #include "workspace/WorkspaceWriter.h"
 
 #include <gmock/gmock.h>

@@ -1,5 +1,5 @@
 #include "workspace/IniText.h"
-#include "runtime/RtfStoredValue.h"
+#include "rtf/RtfStoredValue.h"
 
 #include <gtest/gtest.h>
 

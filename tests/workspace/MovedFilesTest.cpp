@@ -3,8 +3,8 @@
 
 #include "workspace/FoundFiles.h"
 
-#include "runtime/CaseFolding.h"
-#include "runtime/PathNames.h"
+#include "base/files/PathNames.h"
+#include "base/text/CaseFolding.h"
 #include "support/TestFiles.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 #include "WorkspaceTexts.h"
-#include "runtime/RtfStoredValue.h"
+#include "rtf/RtfStoredValue.h"
 #include "support/RandomTexts.h"
 #include "workspace/WorkspaceWriter.h"
 

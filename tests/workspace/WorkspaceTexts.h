@@ -1,6 +1,6 @@
 #pragma once
 
-#include "runtime/RunTimeError.h"
+#include "base/user/RunTimeError.h"
 #include "workspace/WorkspaceReader.h"
 #include "workspace/WorkspaceRecord.h"
 

@@ -1,0 +1,1 @@
+// The one file of a target that stands for its precompiled headers.

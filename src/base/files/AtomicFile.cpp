@@ -1,0 +1,141 @@
+#include "base/files/AtomicFile.h"
+
+#include "base/files/FileRights.h"
+#include "base/files/PathNames.h"
+
+#include <cerrno>
+#include <system_error>
+
+#if __has_include(<unistd.h>)
+#include <unistd.h>
+#endif
+
+namespace tarsil {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+[[noreturn]] void fail(int code, std::string_view path)
+{
+    throw fileError(code, "AtomicFile", path);
+}
+
+/// The file that is meant, where the name is a symbolic link; it need not be there.
+fs::path targetOf(std::string_view path)
+{
+    constexpr int mostLinks = 40; // as the system follows
+    std::error_code failed;
+    fs::path target = nativePath(path);
+    for (int links = 0; fs::is_symlink(fs::symlink_status(target, failed)); ++links) {
+        const fs::path next = fs::read_symlink(target, failed);
+        if (failed || links == mostLinks)
+            fail(failed ? failed.value() : ELOOP, path);
+        target = target.parent_path() / next;
+    }
+    return target;
+}
+
+/// Refuses what a rename would silently replace: a folder, or a file that nobody may write. The
+/// path is the one that was asked for, so that the system has its say on the links of others.
+/// Returns whether there is a file.
+bool checkTarget(std::string_view path)
+{
+    std::error_code failed;
+    const fs::path target = nativePath(path);
+    const fs::file_status status = fs::status(target, failed);
+    if (status.type() == fs::file_type::not_found)
+        return false;
+    if (!fs::status_known(status))
+        fail(failed.value(), path);
+    if (fs::is_directory(status))
+        fail(EISDIR, path);
+    if (!fs::is_regular_file(status)) // a device or a pipe would be replaced, not written to
+        fail(EINVAL, path);
+    constexpr auto anyWrite =
+        fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+    if ((status.permissions() & anyWrite) == fs::perms::none)
+        fail(EACCES, path);
+#if __has_include(<unistd.h>)
+    if (::access(target.c_str(), W_OK) != 0)
+        fail(errno, path);
+#endif
+    return true;
+}
+
+/// The error of a file that cannot be made: nothing is wrong with the one that was asked for.
+[[noreturn]] void failInFolder(int code, const fs::path& target, std::string_view path)
+{
+    const std::string file = shownPath(path);
+    if (code == ENOENT || code == ENOTDIR)
+        throw RunTimeError(ErrorNumber::PathNotFound, "AtomicFile", file);
+    if (code != EACCES && code != EPERM && code != EROFS)
+        fail(code, path);
+    const fs::path folder = target.parent_path();
+    throw RunTimeError(ErrorNumber::PermissionDenied, "AtomicFile",
+                       file + " (the folder " + (folder.empty() ? "." : folder.string())
+                           + " may not be written)");
+}
+
+} // namespace
+
+AtomicFile::AtomicFile(std::string_view path)
+    : m_path(path), m_target(targetOf(path)), m_temporary(m_target)
+{
+    // Nobody may see more of the new file than he could of the old one, whose rights may be few.
+    const auto access =
+        checkTarget(path) ? TemporaryFile::Access::Private : TemporaryFile::Access::Usual;
+    if (const int code = m_temporary.open(access); code != 0)
+        failInFolder(code, m_target, path);
+}
+
+void AtomicFile::write(std::string_view bytes)
+{
+    if (bytes.empty())
+        return; // whose data may be null, which the platform does not take
+    errno = 0;
+    failUnless(std::fwrite(bytes.data(), 1, bytes.size(), m_temporary.stream()) == bytes.size());
+}
+
+void AtomicFile::patch(std::size_t offset, std::string_view bytes)
+{
+    errno = 0;
+    failUnless(std::fseek(m_temporary.stream(), static_cast<long>(offset), SEEK_SET) == 0);
+    write(bytes);
+    failUnless(std::fseek(m_temporary.stream(), 0, SEEK_END) == 0);
+}
+
+/// Nothing fails after the renaming: an error always means that the old file is there.
+void AtomicFile::commit()
+{
+    removeOldTemporaries(m_target.parent_path());
+    if (checkTarget(m_path))
+        copyRights(m_target, m_temporary.stream());
+    failWith(m_temporary.flush());
+    failWith(m_temporary.close());
+    const int code = m_temporary.renameTo(m_target);
+    if (code == EACCES || code == EROFS)
+        failInFolder(code, m_target, m_path);
+    failWith(code);
+}
+
+void AtomicFile::failUnless(bool done) const
+{
+    if (!done)
+        fail(errno != 0 ? errno : EIO, m_path);
+}
+
+void AtomicFile::failWith(int code) const
+{
+    if (code != 0)
+        fail(code, m_path);
+}
+
+void writeFile(std::string_view path, std::string_view bytes)
+{
+    AtomicFile file(path);
+    file.write(bytes);
+    file.commit();
+}
+
+} // namespace tarsil

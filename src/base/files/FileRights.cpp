@@ -1,0 +1,125 @@
+#include "base/files/FileRights.h"
+
+#if __has_include(<sys/acl.h>)
+#include <acl/libacl.h>
+#include <sys/acl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <memory>
+#include <type_traits>
+#endif
+
+namespace tarsil {
+
+#if __has_include(<sys/acl.h>)
+
+namespace {
+
+struct Free
+{
+    void operator()(acl_t list) const { acl_free(list); }
+};
+using AccessList = std::unique_ptr<std::remove_pointer_t<acl_t>, Free>;
+
+/// What of the old file the new one has too.
+struct Kept
+{
+    bool owner;
+    bool group;
+};
+
+/// The owner is kept when root saves, the group when the user is one of its members.
+Kept keepOwner(const struct stat& old, int handle)
+{
+    constexpr auto asItIs = static_cast<uid_t>(-1);
+    const bool group = ::fchown(handle, asItIs, old.st_gid) == 0;
+    return {::fchown(handle, old.st_uid, asItIs) == 0, group};
+}
+
+/// The access list of a file; that of its nine bits where it has none. Nothing when it is unknown.
+AccessList accessListOf(const std::filesystem::path& path, mode_t mode)
+{
+    AccessList list(acl_get_file(path.c_str(), ACL_TYPE_ACCESS));
+    if (!list && (errno == ENOTSUP || errno == ENOSYS))
+        list.reset(acl_from_mode(mode));
+    return list;
+}
+
+acl_entry_t entryOf(const AccessList& list, acl_tag_t wanted)
+{
+    acl_entry_t entry = nullptr;
+    int found = acl_get_entry(list.get(), ACL_FIRST_ENTRY, &entry);
+    while (found == 1) {
+        acl_tag_t tag = ACL_UNDEFINED_TAG;
+        if (acl_get_tag_type(entry, &tag) == 0 && tag == wanted)
+            return entry;
+        found = acl_get_entry(list.get(), ACL_NEXT_ENTRY, &entry);
+    }
+    return nullptr;
+}
+
+/// Takes from an entry what another one does not allow; an entry that is not there allows all.
+void narrow(acl_entry_t entry, acl_entry_t by)
+{
+    acl_permset_t own = nullptr;
+    acl_permset_t others = nullptr;
+    if (entry == nullptr || by == nullptr || acl_get_permset(entry, &own) != 0
+        || acl_get_permset(by, &others) != 0)
+        return;
+    for (const acl_perm_t right : {ACL_READ, ACL_WRITE, ACL_EXECUTE}) {
+        if (acl_get_perm(others, right) != 1)
+            acl_delete_perm(own, right);
+    }
+}
+
+/// Who was the owner, or in the group, may now be one of the group or of all others, and the other
+/// way round: each of these may do what all of those might.
+void narrowToKept(const AccessList& list, Kept kept)
+{
+    acl_entry_t owner = entryOf(list, ACL_USER_OBJ);
+    acl_entry_t group = entryOf(list, ACL_GROUP_OBJ);
+    acl_entry_t others = entryOf(list, ACL_OTHER);
+    if (!kept.group) {
+        narrow(group, entryOf(list, ACL_MASK));
+        narrow(group, others);
+        narrow(others, group);
+    }
+    if (!kept.owner) {
+        narrow(group, owner);
+        narrow(others, owner);
+    }
+}
+
+/// Whether the file has these rights now; where the system knows no access lists, the nine bits do.
+bool give(const AccessList& list, int handle)
+{
+    mode_t mode = 0;
+    return acl_set_fd(handle, list.get()) == 0
+        || (acl_equiv_mode(list.get(), &mode) == 0 && ::fchmod(handle, mode) == 0);
+}
+
+} // namespace
+
+void copyRights(const std::filesystem::path& target, std::FILE* file)
+{
+    struct stat old = {};
+    if (::stat(target.c_str(), &old) != 0)
+        return;
+    const int handle = ::fileno(file);
+    const Kept kept = keepOwner(old, handle);
+    const AccessList list = accessListOf(target, old.st_mode);
+    if (list)
+        narrowToKept(list, kept);
+    if (!list || !give(list, handle)) // what the group's bits mean is unknown then
+        static_cast<void>(::fchmod(handle, old.st_mode & S_IRWXU));
+}
+
+#else
+
+void copyRights(const std::filesystem::path& /*target*/, std::FILE* /*file*/) { }
+
+#endif
+
+} // namespace tarsil

@@ -1,0 +1,24 @@
+#include "base/user/BusyStatus.h"
+
+#include "base/user/UserInterface.h"
+
+#include <exception>
+
+namespace tarsil {
+
+BusyStatus::BusyStatus(UserInterface& userInterface, std::string_view text)
+    : m_userInterface(userInterface)
+{
+    m_userInterface.showStatus(text);
+}
+
+BusyStatus::~BusyStatus()
+{
+    try {
+        m_userInterface.showStatus(readyStatus);
+    } catch (const std::exception&) {
+        return; // without memory for a text the program goes on with the old one
+    }
+}
+
+} // namespace tarsil

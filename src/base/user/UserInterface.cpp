@@ -1,0 +1,7 @@
+#include "base/user/UserInterface.h"
+
+namespace tarsil {
+
+UserInterface::~UserInterface() = default;
+
+} // namespace tarsil

@@ -1,0 +1,129 @@
+#include "datacontrol/PlotTitles.h"
+
+#include "aircraft/AirplaneInfo.h"
+#include "base/files/PathNames.h"
+#include "base/numbers/NumberFormat.h"
+#include "base/numbers/Numbers.h"
+#include "base/user/RunTimeError.h"
+#include "datacontrol/MdlData.h"
+#include "model/EVM.h"
+#include "vgfplot/EvmPlot.h"
+
+#include <QStringList>
+
+namespace tarsil {
+
+namespace {
+
+constexpr std::string_view module = "wndData";
+constexpr std::size_t header = 0;
+constexpr std::size_t mechanismBox = 2;
+const QString lineBreak = QStringLiteral("\r\n");
+
+std::string machText(const EVM& evolution)
+{
+    return formatNumber(static_cast<double>(evolution.Param.Mach), "0.00#");
+}
+
+std::int16_t ticks(float count, const FlutterMechanism& mechanism, std::string_view axis)
+{
+    return roundToInteger16(static_cast<double>(count), module,
+                            "ticks of the " + std::string(axis) + " axis of mechanism "
+                                + mechanism.ShortName);
+}
+
+} // namespace
+
+std::string missingAircraftText(const AirplaneInfo& airplane)
+{
+    const bool isKnown = !airplane.MassConfs.empty() || !airplane.FlutterMechs.empty()
+        || !airplane.FlutterEnvs.empty();
+    if (isKnown || fileExists(airplane.Filename))
+        return {};
+    const std::string missing = airplane.Filename.empty()
+        ? "No aircraft information file is set"
+        : "The aircraft information file \"" + shownPath(airplane.Filename) + "\" does not exist";
+    return missing + ": choose one in Tools > Options.";
+}
+
+QString headerText(const EVM& evolution, const QString& lastLine)
+{
+    QString airplane = QString::fromStdString(evolution.Param.Airplane);
+    airplane.replace(QStringLiteral("QRX"), QStringLiteral("QRX-"));
+    const QString mass = QString::fromStdString(evolution.Param.Mass).toUpper();
+    const QString method = QString::fromStdString(evolution.flutterMethod);
+    return airplane + QStringLiteral(" - Configuration ") + mass + lineBreak + method
+        + QStringLiteral(" Method - Mach No. ") + QString::fromStdString(machText(evolution))
+        + lineBreak + lastLine;
+}
+
+void markEnvelope(EvmPlot& plot, const EVM& evolution, const AirplaneInfo& airplane)
+{
+    const std::string mach = machText(evolution);
+    const FlutterEnvelope* const envelope = airplane.flutterEnvelope(mach);
+    if (envelope == nullptr) {
+        const std::string missing = missingAircraftText(airplane);
+        const std::string where =
+            missing.empty() ? " in \"" + shownPath(airplane.Filename) + "\"" : ". " + missing;
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall, std::string(module),
+                           "no flutter envelope for Mach number " + mach + where);
+    }
+    // The blanks set the captions off from each other where the speeds are close.
+    plot.RemoveRef();
+    plot.AddRef(envelope->Ceiling, QString::fromStdString(airplane.CeTag));
+    plot.AddRef(envelope->Vd, QString::fromStdString(airplane.VdTag + "    "));
+    plot.AddRef(envelope->VL, QString::fromStdString("       " + airplane.VLTag));
+}
+
+void showMechanism(EvmPlot& plot, const AirplaneInfo& airplane, const QString& shortName,
+                   bool withLongName)
+{
+    const FlutterMechanism* const found = airplane.flutterMechanism(shortName.toStdString());
+    if (found == nullptr)
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall, std::string(module),
+                           "no flutter mechanism \"" + shortName.toStdString() + "\" in \""
+                               + shownPath(airplane.Filename) + "\"");
+    const std::int16_t vthicks = ticks(found->vthick, *found, "speed");
+    const std::int16_t gthicks = ticks(found->gthick, *found, "damping");
+    const std::int16_t fthicks = ticks(found->fthick, *found, "frequency");
+    plot.setBoxText(mechanismBox,
+                    QString::fromStdString(withLongName ? found->LongName : found->ShortName));
+    plot.SetScale(found->vmin, found->vmax, found->fmin, found->fmax, found->gmin, found->gmax);
+    plot.setVthicks(vthicks);
+    plot.setGthicks(gthicks);
+    plot.setFthicks(fthicks);
+}
+
+/// The lines are looked for one behind the other, so that two that are alike get their own colours.
+void writeLegend(EvmPlot& plot, double points)
+{
+    QStringList lines;
+    std::vector<ColorValue> colors;
+    for (const Series& series : plot.SeriesCollection()) {
+        if (series.LegendText.isEmpty())
+            continue;
+        lines.append(
+            mdlData::inOneLine(u'[' + series.MarkerTag + QStringLiteral("] ") + series.LegendText));
+        colors.push_back(series.ColorIndex);
+    }
+    emfRichTextBox& box = plot.Legend();
+    Font font = box.Font();
+    font.points = points;
+    box.setFont(font);
+    box.setText(lines.join(lineBreak));
+    const QString text = box.Text();
+    qsizetype from = 0;
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        const qsizetype place = text.indexOf(lines[i], from);
+        if (place < 0)
+            continue;
+        box.setSelStart(static_cast<int>(place));
+        box.setSelLength(static_cast<int>(lines[i].size()));
+        box.setSelColor(colors[static_cast<std::size_t>(i)]);
+        from = place + lines[i].size();
+    }
+    box.setSelStart(0);
+    plot.refresh();
+}
+
+} // namespace tarsil

@@ -1,0 +1,253 @@
+#include "datacontrol/SeriesGridView.h"
+
+#include "datacontrol/SeriesGridModel.h"
+
+#include <QDropEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPainter>
+
+#include <algorithm>
+#include <set>
+
+namespace tarsil {
+
+namespace {
+
+constexpr int evolutionColumn = static_cast<int>(SeriesColumn::Evolution);
+constexpr int legendColumn = static_cast<int>(SeriesColumn::Legend);
+constexpr int leastLegendWidth = 80;
+constexpr int leastSectionWidth = 24; ///< the usual one has room for the widest of all letters
+constexpr int indexColumn = static_cast<int>(SeriesColumn::Index);
+constexpr int modeColumn = static_cast<int>(SeriesColumn::Mode);
+constexpr int lineColumn = static_cast<int>(SeriesColumn::Line);
+
+} // namespace
+
+SeriesGridView::SeriesGridView(QWidget* parent) : QTableView(parent)
+{
+    setSelectionMode(QAbstractItemView::ExtendedSelection);
+    setSelectionBehavior(QAbstractItemView::SelectItems);
+    setDragDropMode(QAbstractItemView::InternalMove);
+    setDragDropOverwriteMode(false);
+    setDefaultDropAction(Qt::MoveAction);
+    setWordWrap(false);
+    setTextElideMode(Qt::ElideMiddle); // names of runs differ at their ends
+    setTabKeyNavigation(false); // Tab leaves the grid
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+    connect(this, &QTableView::doubleClicked, this, [this](const QModelIndex& index) {
+        if (index.column() == lineColumn)
+            Q_EMIT styleWanted();
+    });
+    horizontalHeader()->setMinimumSectionSize(leastSectionWidth);
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this,
+            [this](int column) { m_hasUsersWidth |= column == evolutionColumn && !m_isFitting; });
+}
+
+void SeriesGridView::setModel(QAbstractItemModel* model)
+{
+    m_isFitting = true; // new columns have a width that is nobody's
+    QTableView::setModel(model);
+    m_isFitting = false;
+    connect(model, &QAbstractItemModel::modelReset, this, &SeriesGridView::fitNames);
+    connect(model, &QAbstractItemModel::rowsInserted, this, &SeriesGridView::fitNames);
+    fitNames();
+}
+
+void SeriesGridView::resizeEvent(QResizeEvent* event)
+{
+    QTableView::resizeEvent(event);
+    fitNames();
+}
+
+/// A scroll bar may come or go on the way, which leaves less room or more.
+void SeriesGridView::fitNames()
+{
+    if (m_hasUsersWidth || m_isFitting || model() == nullptr)
+        return;
+    m_isFitting = true;
+    constexpr int mostAttempts = 3;
+    int room = -1;
+    for (int i = 0; i < mostAttempts && room != viewport()->width(); ++i) {
+        room = viewport()->width();
+        horizontalHeader()->resizeSection(evolutionColumn, widthOfNames(room));
+    }
+    m_isFitting = false;
+}
+
+/// In a grid that is `width` wide.
+int SeriesGridView::widthOfNames(int width) const
+{
+    const QHeaderView& header = *horizontalHeader();
+    int room = width - leastLegendWidth;
+    for (int column = 0; column < header.count(); ++column) {
+        if (column != evolutionColumn && column != legendColumn)
+            room -= header.sectionSize(column);
+    }
+    const int least = header.sectionSizeHint(evolutionColumn);
+    const int needed = std::max(sizeHintForColumn(evolutionColumn), least);
+    return std::min(needed, std::max(room, least));
+}
+
+std::vector<std::size_t> SeriesGridView::selectedRows() const
+{
+    std::set<std::size_t> rows;
+    for (const QItemSelectionRange& range : selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows.insert(static_cast<std::size_t>(row));
+    }
+    return {rows.begin(), rows.end()};
+}
+
+std::vector<std::size_t> SeriesGridView::selectedOrCurrentRows() const
+{
+    std::vector<std::size_t> rows = selectedRows();
+    if (rows.empty() && currentIndex().isValid())
+        rows.push_back(static_cast<std::size_t>(currentIndex().row()));
+    return rows;
+}
+
+bool SeriesGridView::isSelectedOnlyIn(int column) const
+{
+    const QItemSelection selection = selectionModel()->selection();
+    return !selection.isEmpty()
+        && std::all_of(selection.begin(), selection.end(), [column](const auto& range) {
+               return range.left() == column && range.right() == column;
+           });
+}
+
+void SeriesGridView::selectRows(const std::vector<std::size_t>& rows, int column)
+{
+    if (rows.empty())
+        return;
+    QItemSelection selection;
+    for (const std::size_t row : rows) {
+        const QModelIndex cell = model()->index(static_cast<int>(row), column);
+        selection.append(QItemSelectionRange(cell));
+    }
+    const QModelIndex first = model()->index(static_cast<int>(rows.front()), column);
+    selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    scrollTo(first);
+}
+
+void SeriesGridView::commitEditor()
+{
+    if (state() != EditingState)
+        return;
+    for (auto* const editor : viewport()->findChildren<QLineEdit*>(Qt::FindDirectChildrenOnly)) {
+        if (editor->isHidden())
+            continue; // one before, which goes soon
+        commitData(editor);
+        closeEditor(editor, QAbstractItemDelegate::NoHint);
+    }
+}
+
+/// What is being typed stays, whatever else in the grid is new.
+void SeriesGridView::dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
+                                 const QList<int>& roles)
+{
+    if (state() == EditingState)
+        viewport()->update();
+    else
+        QTableView::dataChanged(topLeft, bottomRight, roles);
+}
+
+/// A double click on one of several selected lines is for all of them.
+QItemSelectionModel::SelectionFlags SeriesGridView::selectionCommand(const QModelIndex& index,
+                                                                     const QEvent* event) const
+{
+    const auto* const input = dynamic_cast<const QMouseEvent*>(event);
+    if (input != nullptr && input->modifiers() == Qt::NoModifier && index.column() == lineColumn
+        && selectionModel()->isSelected(index))
+        return QItemSelectionModel::NoUpdate;
+    return QTableView::selectionCommand(index, event);
+}
+
+void SeriesGridView::keyPressEvent(QKeyEvent* event)
+{
+    if (state() != EditingState && handleKey(*event))
+        return;
+    QTableView::keyPressEvent(event);
+}
+
+/// Whether the key is one of the grid's own.
+bool SeriesGridView::handleKey(const QKeyEvent& event)
+{
+    const bool isAlt = event.modifiers() == Qt::AltModifier;
+    const int column = currentIndex().column();
+    if (event.matches(QKeySequence::Delete))
+        Q_EMIT removeWanted();
+    else if (isAlt && event.key() == Qt::Key_Up)
+        Q_EMIT moveUpWanted();
+    else if (isAlt && event.key() == Qt::Key_Down)
+        Q_EMIT moveDownWanted();
+    else if (column == modeColumn && event.key() == Qt::Key_Plus)
+        Q_EMIT raiseWanted();
+    else if (column == modeColumn && event.key() == Qt::Key_Minus)
+        Q_EMIT lowerWanted();
+    else if (column == lineColumn
+             && (event.key() == Qt::Key_F2 || event.key() == Qt::Key_Return
+                 || event.key() == Qt::Key_Enter))
+        Q_EMIT styleWanted();
+    else
+        return false;
+    return true;
+}
+
+/// Only the first column is a handle: elsewhere dragging selects cells.
+void SeriesGridView::mousePressEvent(QMouseEvent* event)
+{
+    setDragEnabled(indexAt(event->position().toPoint()).column() == indexColumn);
+    QTableView::mousePressEvent(event);
+}
+
+void SeriesGridView::editAgain(const QModelIndex& cell, const QString& text)
+{
+    const auto open = [this, cell = QPersistentModelIndex(cell), text] {
+        if (!cell.isValid() || !isVisible() || state() == EditingState)
+            return;
+        setCurrentIndex(cell);
+        edit(cell);
+        if (auto* const editor = qobject_cast<QLineEdit*>(indexWidget(cell)))
+            editor->setText(text);
+    };
+    QMetaObject::invokeMethod(this, open, Qt::QueuedConnection);
+}
+
+int SeriesGridView::gapAt(QPoint place) const
+{
+    const QModelIndex index = indexAt(place);
+    if (!index.isValid())
+        return model()->rowCount();
+    const bool isLowerHalf = place.y() > visualRect(index).center().y();
+    return index.row() + (isLowerHalf ? 1 : 0);
+}
+
+/// Accepted as a copy, so that nobody removes the rows that were dragged: they are moved by whoever
+/// hears of it.
+void SeriesGridView::dropEvent(QDropEvent* event)
+{
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    setState(NoState);
+    viewport()->update();
+    Q_EMIT rowsDropped(gapAt(event->position().toPoint()));
+}
+
+void SeriesGridView::paintEvent(QPaintEvent* event)
+{
+    QTableView::paintEvent(event);
+    if (model()->rowCount() > 0)
+        return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    constexpr int margin = 12;
+    painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
+                     Qt::AlignCenter | Qt::TextWordWrap, m_placeholder);
+}
+
+} // namespace tarsil

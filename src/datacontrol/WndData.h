@@ -1,0 +1,110 @@
+#pragma once
+
+#include "datacontrol/MdlData.h"
+#include "datacontrol/SeriesGridModel.h"
+#include "plotwindow/InputWarning.h"
+
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+class QLineEdit;
+
+namespace tarsil {
+
+namespace Ui {
+class wndData;
+}
+
+class AirplaneInfo;
+class EVM;
+class EvmPlot;
+class UserInterface;
+class wndEvolPlot;
+
+/// The window "Data Control": the series of the active plot as a grid, their markers, and the
+/// plot's header, legend, subtitle, reference speeds and picture. A failure of one of its commands
+/// is reported in module "wndData".
+class wndData : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// The reference evolution, null when there is none.
+    using ReferenceEvolution = std::function<const EVM*()>;
+
+    /// What is given by reference must outlive the window.
+    wndData(wndEvolPlot& plots, const AirplaneInfo& airplane, ReferenceEvolution reference,
+            UserInterface& user, QWidget* parent = nullptr);
+    ~wndData() override;
+
+    /// Fills the list of flutter mechanisms from the airplane's; none is chosen then.
+    void fillMechanisms();
+
+    /// Writes what is being typed in the grid into its cell, as Enter does.
+    void commitEdits();
+
+    QSize sizeHint() const override;
+
+private:
+    using Handler = void (wndData::*)();
+
+    void connectGrid();
+    void connectButtons();
+    void connectOptions();
+    void makeMoveMenu();
+    void run(const std::function<void()>& action);
+    std::function<void()> runs(Handler handler);
+
+    void cmdDrawPlot_Click();
+    void btnFitFreq_Click();
+    void cmdIncMode_Click();
+    void cmdDecMode_Click();
+    void cmdRemove_Click();
+    void btnSerieMove_Click();
+    void btnResColor_Click();
+    void SavePic_Click();
+    void btnAutoRef_Click();
+    void btnMakHead_Click();
+    void cmbFlutMech_Click();
+    void mkspaceInp_LostFocus();
+    void tagBtn_Click();
+    void btnFilltLeg_Click();
+    void btnPlotLeg_Click();
+
+    EvmPlot* activePlot();
+    const EVM* reference();
+    void warn(const std::string& text);
+    std::int32_t markerStyle() const;
+    MarkerOptions markerOptions() const;
+    void takeMarkers();
+    void applyMarkers();
+    void showMarkers();
+    void styleNewSeries(EvmPlot* plot);
+    bool isModeSelected(const char* refusal);
+    void changeModes(bool raise);
+    void moveUp();
+    void moveDown();
+    void moveSelectedTo(std::size_t target);
+    void afterMove(const std::vector<std::size_t>& rows, int column);
+    int currentColumn() const;
+    void chooseLine();
+    void afterEdit(SeriesColumn column);
+    void askAgain(const QModelIndex& cell, const QString& text, const RunTimeError& error);
+    std::string rebuild(EvmPlot& plot);
+
+    std::unique_ptr<Ui::wndData> m_ui;
+    InputWarning m_sizeWarning;
+    InputWarning m_spacingWarning;
+    InputWarning m_factorWarning;
+    SeriesGridModel m_model;
+    wndEvolPlot& m_plots;
+    const AirplaneInfo& m_airplane;
+    ReferenceEvolution m_reference;
+    UserInterface& m_user;
+    MarkerOptions m_markers; ///< of each option what stood in its control last and could be
+};
+
+} // namespace tarsil

@@ -1,0 +1,318 @@
+// The series of the Data Control window: modes, order, lines and markers.
+
+#include "datacontrol/WndData.h"
+
+#include "ui_WndData.h"
+
+#include "base/numbers/Numbers.h"
+#include "base/user/RunTimeError.h"
+#include "base/user/UserInterface.h"
+#include "datacontrol/DlgSeriesStyle.h"
+#include "model/EVM.h"
+#include "plotwindow/WndEvolPlot.h"
+
+#include <QSignalBlocker>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace tarsil {
+
+namespace {
+
+constexpr std::string_view module = "wndData";
+constexpr int modeColumn = static_cast<int>(SeriesColumn::Mode);
+constexpr int factorCount = 5; ///< of a point
+
+constexpr double anyCount = std::numeric_limits<std::int32_t>::max();
+
+/// What stands in an input, as a whole number of at least 1; errors 13, 6 and 5 name the input.
+std::int32_t countIn(const QLineEdit& input, double most = anyCount)
+{
+    QString name = input.accessibleName();
+    const std::string where = name.remove(u':').toStdString();
+    const std::string text = input.text().toStdString();
+    const double count = std::nearbyint(toDouble(text, module, where));
+    if (count > anyCount)
+        throwNumberError(NumberStatus::Overflow, text, module, where);
+    if (count < 1 || count > most)
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall, std::string(module),
+                           where + ": " + text
+                               + (most == anyCount ? " is less than 1"
+                                                   : " is not from 1 to " + shortestText(most)));
+    return static_cast<std::int32_t>(count);
+}
+
+/// Takes what stands in an input when it can be taken; the input shows when it cannot.
+void takeCount(const QLineEdit& input, double most, InputWarning& warning, std::int32_t& count)
+{
+    try {
+        count = countIn(input, most);
+        warning.show({});
+    } catch (const RunTimeError&) {
+        warning.show(most == factorCount
+                         ? QStringLiteral("Ignored: a number from 1 to 5 is needed")
+                         : QStringLiteral("Ignored: a number of at least 1 is needed"));
+    }
+}
+
+LineLook lookOf(const Series& series)
+{
+    return {series.ColorIndex, series.LineStyle, series.LineWidth};
+}
+
+} // namespace
+
+/// The rows become the series, and the plot is drawn; then the user hears of the modes that are not
+/// there.
+void wndData::cmdDrawPlot_Click()
+{
+    EvmPlot* const plot = activePlot();
+    if (plot == nullptr)
+        return;
+    const std::string missing = rebuild(*plot);
+    plot->plot();
+    if (!missing.empty())
+        warn(missing);
+}
+
+std::string wndData::rebuild(EvmPlot& plot)
+{
+    return mdlData::buildSeries(plot.rows(), markerOptions());
+}
+
+void wndData::afterEdit(SeriesColumn column)
+{
+    if (column != SeriesColumn::Mode && column != SeriesColumn::Tag)
+        return; // the tag may be the marker
+    m_model.plot()->plot();
+    const std::string missing = mdlData::missingModesText(m_model.plot()->rows());
+    if (column == SeriesColumn::Mode && !missing.empty())
+        warn(missing);
+}
+
+bool wndData::isModeSelected(const char* refusal)
+{
+    const bool isSelected = m_ui->flxSerieViewer->isSelectedOnlyIn(modeColumn);
+    if (!isSelected)
+        warn(refusal);
+    return isSelected;
+}
+
+void wndData::cmdIncMode_Click()
+{
+    if (isModeSelected("Please select cells in \"Mode\" column."))
+        changeModes(true);
+}
+
+void wndData::cmdDecMode_Click()
+{
+    if (isModeSelected("You must first select cells in mode column!"))
+        changeModes(false);
+}
+
+void wndData::changeModes(bool raise)
+{
+    static_cast<void>(markerOptions()); // what is wrong there is reported before anything changes
+    for (const std::size_t place : m_ui->flxSerieViewer->selectedRows()) {
+        if (raise)
+            m_model.raiseMode(static_cast<int>(place));
+        else
+            m_model.lowerMode(static_cast<int>(place));
+    }
+    cmdDrawPlot_Click();
+}
+
+/// The selected rows, or the current one, or the only one; the row behind them is the next current
+/// one.
+void wndData::cmdRemove_Click()
+{
+    SeriesGridView& grid = *m_ui->flxSerieViewer;
+    std::vector<std::size_t> rows = grid.selectedOrCurrentRows();
+    if (m_model.rowCount() == 1)
+        rows = {0};
+    if (rows.empty())
+        return;
+    static_cast<void>(markerOptions());
+    const int column = currentColumn();
+    m_model.removeSeries(rows);
+    const auto count = static_cast<std::size_t>(m_model.rowCount());
+    if (count > 0)
+        grid.selectRows({std::min(rows.front(), count - 1)}, column);
+    cmdDrawPlot_Click();
+}
+
+int wndData::currentColumn() const
+{
+    return std::max(m_ui->flxSerieViewer->currentIndex().column(), 0);
+}
+
+void wndData::btnSerieMove_Click()
+{
+    moveUp();
+}
+
+void wndData::moveUp()
+{
+    if (m_model.rowCount() == 0)
+        return;
+    const int column = currentColumn();
+    afterMove(m_model.moveSeriesUp(m_ui->flxSerieViewer->selectedOrCurrentRows()), column);
+}
+
+void wndData::moveDown()
+{
+    if (m_model.rowCount() == 0)
+        return;
+    const int column = currentColumn();
+    afterMove(m_model.moveSeriesDown(m_ui->flxSerieViewer->selectedOrCurrentRows()), column);
+}
+
+void wndData::moveSelectedTo(std::size_t target)
+{
+    if (m_model.rowCount() == 0)
+        return;
+    const int column = currentColumn();
+    afterMove(m_model.moveSeries(m_ui->flxSerieViewer->selectedOrCurrentRows(), target), column);
+}
+
+/// The rows stay selected at their new places.
+void wndData::afterMove(const std::vector<std::size_t>& rows, int column)
+{
+    if (rows.empty())
+        return;
+    m_ui->flxSerieViewer->selectRows(rows, column);
+    m_model.plot()->plot();
+}
+
+void wndData::btnResColor_Click()
+{
+    EvmPlot* const plot = activePlot();
+    if (plot == nullptr)
+        return;
+    mdlData::resetColors(plot->rows());
+    plot->plot();
+}
+
+/// The colour, style and width of the lines of the selected rows; the first one says what they are.
+/// What the user leaves as it is stays in the others, too.
+void wndData::chooseLine()
+{
+    const std::vector<std::size_t> rows = m_ui->flxSerieViewer->selectedOrCurrentRows();
+    if (rows.empty())
+        return;
+    dlgSeriesStyle dialog(lookOf(*m_model.look(static_cast<int>(rows.front()))), this);
+    const LineLook before = dialog.look();
+    if (dialog.exec() != QDialog::Accepted || dialog.look() == before)
+        return;
+    const LineLook now = dialog.look();
+    for (const std::size_t row : rows) {
+        Series& series = *m_model.look(static_cast<int>(row));
+        if (now.color != before.color)
+            mdlData::setColor(series, now.color);
+        if (now.style != before.style)
+            series.LineStyle = now.style;
+        if (now.width != before.width)
+            series.LineWidth = now.width;
+    }
+    m_model.plot()->plot();
+}
+
+std::int32_t wndData::markerStyle() const
+{
+    return m_ui->aemodeBtn->isChecked() ? markerstyle::modeNumber
+        : m_ui->tagBtn->isChecked()     ? markerstyle::tag
+        : m_ui->ithmpfBtn->isChecked()  ? markerstyle::participationFactor
+                                        : markerstyle::none;
+}
+
+/// The index of the participation factor must be a number only where it is the marker.
+MarkerOptions wndData::markerOptions() const
+{
+    MarkerOptions options;
+    options.style = markerStyle();
+    options.size = countIn(*m_ui->mksizeInp);
+    options.spacing = countIn(*m_ui->mkspaceInp);
+    options.ithMpf = options.style == markerstyle::participationFactor
+        ? countIn(*m_ui->ithmpfInp, factorCount)
+        : m_markers.ithMpf;
+    return options;
+}
+
+/// An index of the participation factor that is not the marker may be anything.
+void wndData::takeMarkers()
+{
+    constexpr double any = std::numeric_limits<std::int32_t>::max();
+    m_markers.style = markerStyle();
+    takeCount(*m_ui->mksizeInp, any, m_sizeWarning, m_markers.size);
+    takeCount(*m_ui->mkspaceInp, any, m_spacingWarning, m_markers.spacing);
+    takeCount(*m_ui->ithmpfInp, factorCount, m_factorWarning, m_markers.ithMpf);
+    if (m_markers.style != markerstyle::participationFactor)
+        m_factorWarning.show({});
+}
+
+/// What the user changes here takes effect at once, and in all rows. Where rows have options of
+/// their own, those that he leaves as they are stay.
+void wndData::applyMarkers()
+{
+    const MarkerOptions before = m_markers;
+    takeMarkers();
+    EvmPlot* const plot = m_model.plot();
+    if (plot == nullptr || m_markers == before)
+        return;
+    mdlData::changeMarkers(plot->rows(), before, m_markers);
+    plot->plot();
+}
+
+/// The controls show what the first series of the plot has, so that "Plot" leaves a plot as it was
+/// opened. A series without markers says nothing about their size and spacing.
+void wndData::showMarkers()
+{
+    const Series* const series = m_model.look(0);
+    if (series == nullptr)
+        return;
+    const QSignalBlocker quiet[] = {QSignalBlocker(m_ui->mksizeInp),
+                                    QSignalBlocker(m_ui->mkspaceInp),
+                                    QSignalBlocker(m_ui->ithmpfInp)}; // it is not the user's change
+    QRadioButton* const options[] = {m_ui->womkBtn, m_ui->aemodeBtn, m_ui->tagBtn, m_ui->ithmpfBtn};
+    if (series->MarkerStyle >= 0 && series->MarkerStyle <= markerstyle::participationFactor)
+        options[series->MarkerStyle]->setChecked(true);
+    if (series->MarkerSize > 0)
+        m_ui->mksizeInp->setText(QString::number(series->MarkerSize));
+    if (series->MarkerSpacing > 0)
+        m_ui->mkspaceInp->setText(QString::number(series->MarkerSpacing));
+    if (series->IthMpf > 0)
+        m_ui->ithmpfInp->setText(QString::number(series->IthMpf));
+    takeMarkers();
+}
+
+/// A curve that the user adds gets the markers that stand here, in its colour.
+void wndData::styleNewSeries(EvmPlot* plot)
+{
+    Series& series = plot->SeriesCollection().back();
+    series.MarkerForegroundColor = series.ColorIndex;
+    mdlData::setMarkers(series, m_markers);
+}
+
+/// What is rounded to 0 is refused as well. The box is as before when the message comes: the
+/// message takes the focus once more.
+void wndData::mkspaceInp_LostFocus()
+{
+    double spacing = 0;
+    if (parseDouble(m_ui->mkspaceInp->text().toStdString(), spacing) != NumberStatus::Ok)
+        return; // "Plot" says so
+    if (std::nearbyint(spacing) <= 0) {
+        m_ui->mkspaceInp->setText(QString::number(m_markers.spacing));
+        warn("The spacing must be greater then zero!");
+    }
+}
+
+void wndData::tagBtn_Click()
+{
+    applyMarkers();
+    if (EvmPlot* const plot = activePlot())
+        plot->plot();
+}
+
+} // namespace tarsil

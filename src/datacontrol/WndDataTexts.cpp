@@ -1,0 +1,137 @@
+// The plot's axes, texts, reference speeds and picture in the Data Control window.
+
+#include "datacontrol/WndData.h"
+
+#include "ui_WndData.h"
+
+#include "aircraft/AirplaneInfo.h"
+#include "base/files/PathNames.h"
+#include "base/numbers/Numbers.h"
+#include "base/user/RunTimeError.h"
+#include "base/user/UserInterface.h"
+#include "datacontrol/PlotTitles.h"
+#include "model/EVM.h"
+#include "plotwindow/WndEvolPlot.h"
+
+namespace tarsil {
+
+namespace {
+
+constexpr std::string_view module = "wndData";
+constexpr std::string_view pictureFilter =
+    "Enhanced Windows Metafile (*.emf)|*.emf|All Files (*.*)|*.*|";
+constexpr std::size_t headerBox = 0;
+
+/// The number in the input of the legend's index; what stands behind ":=" explains it.
+std::int16_t legendIndexIn(const QLineEdit& input)
+{
+    const std::string text = input.text().section(QStringLiteral(":="), 0, 0).toStdString();
+    std::int16_t index = 0;
+    const NumberStatus status = parseInteger16(text, index);
+    if (status != NumberStatus::Ok)
+        throwNumberError(status, text, module, input.accessibleName().toStdString());
+    return index;
+}
+
+double fontSizeIn(const QLineEdit& input)
+{
+    const std::string text = input.text().toStdString();
+    const double points = toDouble(text, module, "Font Size");
+    if (!(points >= 1 && points <= 400))
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall, std::string(module),
+                           "a font of " + text + " points; it must be from 1 to 400");
+    return points;
+}
+
+} // namespace
+
+void wndData::btnFitFreq_Click()
+{
+    EvmPlot* const plot = activePlot();
+    if (plot == nullptr)
+        return;
+    plot->fitFreq();
+    plot->plot();
+}
+
+void wndData::btnMakHead_Click()
+{
+    const EVM* const evolution = reference();
+    if (evolution == nullptr)
+        return;
+    if (m_airplane.massConf(evolution->Param.Mass) == nullptr) {
+        const std::string missing = missingAircraftText(m_airplane);
+        return warn("Please type a valid mass configurarion in ref. modal evolution."
+                    + (missing.empty() ? missing : "\n" + missing));
+    }
+    if (EvmPlot* const plot = activePlot())
+        plot->setBoxText(headerBox, headerText(*evolution, m_ui->txtTitle->text()));
+}
+
+void wndData::btnAutoRef_Click()
+{
+    const EVM* const evolution = reference();
+    if (evolution == nullptr)
+        return;
+    if (evolution->Param.Mach == 0)
+        return warn("This reference modal evolution does not have mach number info.");
+    if (EvmPlot* const plot = activePlot())
+        markEnvelope(*plot, *evolution, m_airplane);
+}
+
+void wndData::cmbFlutMech_Click()
+{
+    const QString name = m_ui->cmbFlutMech->currentText();
+    EvmPlot* const plot = name.isEmpty() ? nullptr : activePlot();
+    if (plot == nullptr)
+        return;
+    showMechanism(*plot, m_airplane, name, !m_ui->optFlutMecShort->isChecked());
+    plot->plot();
+}
+
+/// The user hears once of entries that are not there.
+void wndData::btnFilltLeg_Click()
+{
+    EvmPlot* const plot = activePlot();
+    if (plot == nullptr)
+        return;
+    const std::int32_t index = legendIndexIn(*m_ui->txtLegIdx);
+    const bool areThere =
+        mdlData::fillLegends(plot->rows(), m_ui->flxSerieViewer->selectedRows(), index);
+    m_model.seriesChanged();
+    if (!areThere)
+        warn("There is not " + std::to_string(index) + "\u00AA legend entry");
+}
+
+void wndData::btnPlotLeg_Click()
+{
+    EvmPlot* const plot = activePlot();
+    if (plot == nullptr)
+        return;
+    const double points = fontSizeIn(*m_ui->txtLegFontSize);
+    const std::string missing = rebuild(*plot);
+    writeLegend(*plot, points);
+    plot->plot();
+    if (!missing.empty())
+        warn(missing);
+}
+
+/// A dialog that is cancelled leaves the plot's caption standing as the name, and that is written.
+/// It has not asked before a file of that name is replaced, then.
+void wndData::SavePic_Click()
+{
+    EvmPlot* const plot = activePlot();
+    if (plot == nullptr)
+        return;
+    const std::string caption = plot->Caption().toStdString();
+    const auto answer = m_user.askSaveFile({std::string(pictureFilter), 1, false, caption, true});
+    if (!answer && fileExists(caption)
+        && !m_user.confirm("The file '" + caption + "' already exists. Do you want to replace it?",
+                           "Tarsil"))
+        return;
+    const std::string name = answer.value_or(caption);
+    plot->ExportPic(QString::fromStdString(name));
+    m_user.showNote("The picture is in " + wholePath(name));
+}
+
+} // namespace tarsil

@@ -1,0 +1,298 @@
+#include "plotwindow/EvmPlotView.h"
+
+#include "base/numbers/Numbers.h"
+#include "plot/RichTextLayout.h"
+#include "plotwindow/RichTextEditor.h"
+#include "surface/TextMetrics.h"
+#include "vgfplot/PictureWriter.h"
+
+#include <QAccessibleWidget>
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QTextEdit>
+
+#include <algorithm>
+
+namespace tarsil {
+
+namespace {
+
+constexpr QSize leastEditorSize(420, 130);
+
+/// A plot is a graphic to a screen reader, with whatever it holds.
+QAccessibleInterface* plotInterface(const QString& /*className*/, QObject* object)
+{
+    auto* const view = qobject_cast<EvmPlotView*>(object);
+    return view != nullptr ? new QAccessibleWidget(view, QAccessible::Graphic) : nullptr;
+}
+
+} // namespace
+
+EvmPlotView::EvmPlotView(EvmPlot& plot, QWidget* parent)
+    : QWidget(parent), m_plot(plot), m_mover(plot), m_boxMenu(new QMenu(this)),
+      m_edit(m_boxMenu->addAction(tr("&Edit"))), m_move(m_boxMenu->addAction(tr("&Move")))
+{
+    setObjectName(QStringLiteral("evpVgf"));
+    setAttribute(Qt::WA_OpaquePaintEvent); // every pixel is painted, so nothing flickers
+    setMinimumSize(240, 180);
+    setFocusPolicy(Qt::StrongFocus);
+    makeActions();
+    QAccessible::installFactory(plotInterface); // once, however many there are
+    connect(&m_plot, &EvmPlot::changed, this, qOverload<>(&QWidget::update));
+    connect(&m_plot, &EvmPlot::changed, this, &EvmPlotView::updateDescription);
+    connect(&m_plot, &EvmPlot::pictureWanted, this, [this] { finishEditing(true); });
+    connect(&m_plot, &EvmPlot::contentsReplaced, this, &EvmPlotView::letGo);
+    updateDescription();
+}
+
+EvmPlotView::~EvmPlotView() = default;
+
+void EvmPlotView::makeActions()
+{
+    m_boxMenu->setObjectName(QStringLiteral("mnuErtb"));
+    m_edit->setObjectName(QStringLiteral("mnuEdit"));
+    m_move->setObjectName(QStringLiteral("mnuMove"));
+    connect(m_edit, &QAction::triggered, this, [this] { startEditing(*m_mover.selected()); });
+    connect(m_move, &QAction::triggered, this, [this] {
+        m_mover.follow();
+        followMovement();
+    });
+    auto* const copy = new QAction(tr("&Copy picture"), this);
+    copy->setShortcut(QKeySequence::Copy);
+    copy->setShortcutContext(Qt::WidgetShortcut);
+    connect(copy, &QAction::triggered, this, &EvmPlotView::copyPicture);
+    addAction(copy);
+}
+
+QSize EvmPlotView::sizeHint() const
+{
+    return {960, 720};
+}
+
+bool EvmPlotView::event(QEvent* event)
+{
+    if (event->type() == QEvent::ScreenChangeInternal || event->type() == QEvent::Show)
+        fitPlot();
+    return QWidget::event(event);
+}
+
+void EvmPlotView::resizeEvent(QResizeEvent* /*event*/)
+{
+    fitPlot();
+}
+
+void EvmPlotView::fitPlot()
+{
+    m_plot.resize(size(), devicePixelRatioF());
+}
+
+void EvmPlotView::paintEvent(QPaintEvent* event)
+{
+    std::optional<RunTimeError> failure;
+    try {
+        m_plot.Image();
+    } catch (const RunTimeError& error) {
+        failure = error;
+    }
+    QPainter painter(this);
+    painter.setClipRegion(event->region());
+    painter.drawImage(0, 0, m_plot.Image());
+    paintPrompts(painter);
+    paintSelection(painter);
+    painter.end();
+    if (failure) // the report is a window of its own, so it waits until painting is over
+        QMetaObject::invokeMethod(
+            this, [this, error = *failure] { Q_EMIT failed(error); }, Qt::QueuedConnection);
+}
+
+void EvmPlotView::paintPrompts(QPainter& painter) const
+{
+    painter.setPen(Qt::gray);
+    for (std::size_t i = 0; i < m_plot.boxCount(); ++i) {
+        const emfRichTextBox& box = m_plot.box(i);
+        if (!box.isEmpty() || (m_editor != nullptr && m_editedBox == i))
+            continue;
+        painter.setFont(screenFont(fontOf(box.content().last)));
+        painter.drawText(box.geometry(), Qt::AlignLeft | Qt::AlignTop, box.prompt());
+    }
+}
+
+/// Which box the arrow keys move, and in edit mode all boxes; on the screen only.
+void EvmPlotView::paintSelection(QPainter& painter) const
+{
+    painter.setPen(QPen(Qt::gray, 1, Qt::DashLine));
+    painter.setBrush(Qt::NoBrush);
+    for (std::size_t i = 0; i < m_plot.boxCount(); ++i) {
+        if (m_editor == nullptr && (m_plot.EditMode() || m_mover.selected() == i))
+            painter.drawRect(m_plot.box(i).geometry().adjusted(-3, -2, 2, 1));
+    }
+}
+
+void EvmPlotView::mousePressEvent(QMouseEvent* event)
+{
+    finishEditing(true);
+    if (event->button() == Qt::LeftButton)
+        m_mover.press(event->pos());
+    followMovement();
+}
+
+void EvmPlotView::mouseMoveEvent(QMouseEvent* event)
+{
+    const bool wasMoving = m_mover.isMoving();
+    m_mover.pointTo(event->pos(), event->buttons() & Qt::LeftButton);
+    if (m_mover.isMoving() && !wasMoving)
+        Q_EMIT commandBegun();
+    followMovement();
+}
+
+void EvmPlotView::mouseReleaseEvent(QMouseEvent* event)
+{
+    const bool wasMoved = m_mover.isMoving();
+    if (event->button() == Qt::LeftButton)
+        m_mover.release();
+    followMovement();
+    const std::optional<std::size_t> box = m_mover.boxAt(event->pos());
+    if (m_plot.EditMode() && !wasMoved && box && box == m_mover.selected()
+        && event->button() == Qt::LeftButton)
+        startEditing(*box);
+}
+
+void EvmPlotView::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    const std::optional<std::size_t> box = m_mover.boxAt(event->pos());
+    if (box && event->button() == Qt::LeftButton)
+        startEditing(*box);
+}
+
+void EvmPlotView::keyPressEvent(QKeyEvent* event)
+{
+    const bool edits = event->key() == Qt::Key_F2 || event->key() == Qt::Key_Return
+        || event->key() == Qt::Key_Enter;
+    if (m_mover.press(*event)) {
+        Q_EMIT commandBegun();
+        followMovement();
+    } else if (edits && m_mover.selected()) {
+        startEditing(*m_mover.selected());
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void EvmPlotView::focusOutEvent(QFocusEvent* event)
+{
+    if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason)
+        m_mover.select(std::nullopt);
+    followMovement();
+    QWidget::focusOutEvent(event);
+}
+
+void EvmPlotView::contextMenuEvent(QContextMenuEvent* event)
+{
+    const bool isByKey = event->reason() == QContextMenuEvent::Keyboard;
+    const std::optional<std::size_t> box =
+        isByKey ? m_mover.selected() : m_mover.boxAt(event->pos());
+    if (!box) {
+        event->ignore(); // the menu of the plot belongs to whoever holds the view
+        return;
+    }
+    const QPoint place = isByKey ? m_plot.box(*box).geometry().bottomLeft() : event->pos();
+    showBoxMenu(*box, place);
+}
+
+void EvmPlotView::showBoxMenu(std::size_t index, QPoint position)
+{
+    finishEditing(true);
+    m_mover.select(index);
+    m_move->setEnabled(TextBoxMover::isMovable(index));
+    update();
+    m_boxMenu->popup(mapToGlobal(position));
+}
+
+/// The pointer and the outline tell what the mover is doing.
+void EvmPlotView::followMovement()
+{
+    setMouseTracking(m_mover.isMoving());
+    if (m_mover.isMoving())
+        setCursor(Qt::SizeAllCursor);
+    else
+        unsetCursor();
+    update();
+}
+
+void EvmPlotView::copyPicture()
+{
+    Q_EMIT commandBegun();
+    try {
+        QGuiApplication::clipboard()->setMimeData(pictureMimeData(m_plot).release());
+    } catch (const RunTimeError& error) {
+        Q_EMIT failed(error);
+    }
+}
+
+void EvmPlotView::startEditing(std::size_t index)
+{
+    finishEditing(true);
+    Q_EMIT commandBegun();
+    m_mover.select(index);
+    followMovement();
+    const emfRichTextBox& box = m_plot.box(index);
+    m_editedBox = index;
+    m_editor = new RichTextEditor(box.content(), box.ForeColor(), this);
+    m_editor->edit()->setAccessibleName(box.prompt());
+    QRect place(box.geometry().topLeft(),
+                (box.geometry().size() + QSize(20, 60)).expandedTo(leastEditorSize));
+    place.setSize(place.size().boundedTo(size()));
+    place.moveRight(std::min(place.right(), width() - 1));
+    place.moveBottom(std::min(place.bottom(), height() - 1));
+    m_editor->setGeometry(place);
+    connect(m_editor, &RichTextEditor::left, this, [this] { finishEditing(true); });
+    connect(m_editor, &RichTextEditor::cancelled, this, [this] { finishEditing(false); });
+    m_editor->show();
+    m_editor->setFocus();
+}
+
+/// The editor's text becomes the box's, unless it was given up.
+void EvmPlotView::finishEditing(bool keep)
+{
+    if (m_editor == nullptr)
+        return;
+    RichTextEditor* const editor = m_editor;
+    m_editor = nullptr;
+    if (RichText text = editor->text(); keep && text != m_plot.box(m_editedBox).content())
+        m_plot.setBoxContent(m_editedBox, std::move(text));
+    editor->hide();
+    editor->deleteLater();
+    update();
+}
+
+/// Nothing of what the user was doing reaches the contents that come now.
+void EvmPlotView::letGo()
+{
+    finishEditing(false);
+    m_mover.select(std::nullopt);
+    followMovement();
+}
+
+/// The titles and numbers are filled in at once: a title may hold what looks like a place for one.
+void EvmPlotView::updateDescription()
+{
+    const EvmPlot::Scale scale = m_plot.GetScale();
+    const auto axis = [](const QString& text, const QString& title, float from, float to) {
+        return text.arg(title, QString::fromStdString(shortestText(from)),
+                        QString::fromStdString(shortestText(to)));
+    };
+    setAccessibleName(tr("V-g-f plot %1").arg(m_plot.Caption()));
+    setAccessibleDescription(
+        tr("%1 curves; ").arg(m_plot.SeriesCollection().size())
+        + axis(tr("speed axis %1 from %2 to %3, "), m_plot.vLabel(), scale.vmin, scale.vmax)
+        + axis(tr("frequency axis %1 from %2 to %3, "), m_plot.fLabel(), scale.fmin, scale.fmax)
+        + axis(tr("damping axis %1 from %2 to %3"), m_plot.gLabel(), scale.gmin, scale.gmax));
+}
+
+} // namespace tarsil

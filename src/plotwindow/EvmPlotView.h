@@ -1,0 +1,75 @@
+#pragma once
+
+#include "base/user/RunTimeError.h"
+#include "plotwindow/TextBoxMover.h"
+#include "vgfplot/EvmPlot.h"
+
+#include <QWidget>
+
+#include <optional>
+
+class QMenu;
+
+namespace tarsil {
+
+class RichTextEditor;
+
+/// Shows one V-g-f plot and follows its changes. A text box is selected by a click, moved by
+/// dragging it or with the arrow keys, and edited by a double click or F2; its context menu
+/// `mnuErtb` has the same commands. An empty box shows its prompt, on the screen only.
+class EvmPlotView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// `plot` must outlive the view.
+    explicit EvmPlotView(EvmPlot& plot, QWidget* parent = nullptr);
+    ~EvmPlotView() override;
+
+    QSize sizeHint() const override;
+
+    /// Puts the picture on the clipboard: as metafile, SVG and bitmap.
+    void copyPicture();
+
+Q_SIGNALS:
+    /// Drawing failed; what could be drawn is shown. Emitted once for a failure, not at every
+    /// repaint.
+    void failed(const tarsil::RunTimeError& error);
+
+    /// The user copies the picture, or begins to edit or to move a text box.
+    void commandBegun();
+
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    void fitPlot();
+    void makeActions();
+    void paintPrompts(QPainter& painter) const;
+    void paintSelection(QPainter& painter) const;
+    void showBoxMenu(std::size_t index, QPoint position);
+    void startEditing(std::size_t index);
+    void finishEditing(bool keep);
+    void letGo();
+    void followMovement();
+    void updateDescription();
+
+    EvmPlot& m_plot;
+    TextBoxMover m_mover;
+    QMenu* m_boxMenu;
+    QAction* m_edit;
+    QAction* m_move;
+    RichTextEditor* m_editor = nullptr;
+    std::size_t m_editedBox = 0;
+};
+
+} // namespace tarsil

@@ -1,0 +1,215 @@
+#include "plotwindow/RichTextEditor.h"
+
+#include "base/numbers/Numbers.h"
+#include "surface/QtColor.h"
+#include "vgfplot/RichTextDocument.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QColorDialog>
+#include <QComboBox>
+#include <QFontComboBox>
+#include <QKeyEvent>
+#include <QTextEdit>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+namespace tarsil {
+
+namespace {
+
+constexpr int swatchSide = 14;
+
+QIcon swatch(const QColor& color)
+{
+    QPixmap pixmap(swatchSide, swatchSide);
+    pixmap.fill(color);
+    return pixmap;
+}
+
+/// Whether a widget belongs to another, also across windows: a dialog belongs to what opened it.
+bool belongsTo(const QWidget* widget, const QWidget* owner)
+{
+    while (widget != nullptr && widget != owner)
+        widget = widget->parentWidget();
+    return widget == owner;
+}
+
+} // namespace
+
+RichTextEditor::RichTextEditor(const RichText& text, ColorValue automaticColor, QWidget* parent)
+    : QFrame(parent), m_format(text.last), m_edit(new QTextEdit(this)),
+      m_automaticColor(automaticColor)
+{
+    setFrameShape(QFrame::StyledPanel);
+    setAutoFillBackground(true);
+    auto* const bar = new QToolBar(this);
+    addFontChoosers(*bar);
+    addToggles(*bar);
+    addColorButton(*bar);
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(2, 2, 2, 2);
+    layout->setSpacing(2);
+    layout->addWidget(bar);
+    layout->addWidget(m_edit);
+    QPalette palette = m_edit->palette();
+    palette.setColor(QPalette::Base, Qt::white); // as the plot behind it
+    palette.setColor(QPalette::Text, qtColor(automaticColor));
+    m_edit->setPalette(palette);
+    m_edit->setAccessibleName(tr("Text"));
+    fillDocument(*m_edit->document(), text);
+    m_edit->moveCursor(QTextCursor::End); // a key adds to the text, and does not replace it
+    m_edit->installEventFilter(this);
+    setFocusProxy(m_edit);
+    connect(m_edit, &QTextEdit::currentCharFormatChanged, this, &RichTextEditor::showFormat);
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](QWidget* /*before*/, QWidget* now) { followFocus(now); });
+    showFormat(m_edit->currentCharFormat());
+}
+
+/// While its parts end, the focus still changes: that is no news for an editor that is gone.
+RichTextEditor::~RichTextEditor()
+{
+    qApp->disconnect(this);
+    m_edit->disconnect(this);
+}
+
+RichText RichTextEditor::text() const
+{
+    return richTextOf(*m_edit->document(), m_format);
+}
+
+void RichTextEditor::addFontChoosers(QToolBar& bar)
+{
+    m_families = new QFontComboBox(&bar);
+    m_families->setAccessibleName(tr("Font"));
+    m_families->setToolTip(tr("Font"));
+    m_families->setMaximumWidth(150);
+    bar.addWidget(m_families);
+    connect(m_families, &QFontComboBox::textActivated, this, [this](const QString& family) {
+        QTextCharFormat format;
+        format.setFontFamilies({family});
+        change(format);
+    });
+    m_sizes = new QComboBox(&bar);
+    m_sizes->setEditable(true);
+    m_sizes->setAccessibleName(tr("Size in points"));
+    m_sizes->setToolTip(tr("Size in points"));
+    for (const int size : {6, 7, 8, 9, 10, 11, 12, 14, 16, 18, 20, 24, 28, 36})
+        m_sizes->addItem(QString::number(size));
+    bar.addWidget(m_sizes);
+    connect(m_sizes, &QComboBox::textActivated, this, [this](const QString& text) {
+        constexpr double most = 400;
+        bool isNumber = false;
+        const double points = text.toDouble(&isNumber);
+        QTextCharFormat format;
+        if (isNumber && points >= 1 && points <= most) {
+            format.setFontPointSize(points);
+            change(format);
+        } else {
+            showFormat(m_edit->currentCharFormat());
+        }
+    });
+}
+
+void RichTextEditor::addToggles(QToolBar& bar)
+{
+    m_bold = addToggle(bar, QStringLiteral("B"), tr("Bold"), QKeySequence::Bold,
+                       [](QTextCharFormat& format, bool on) {
+                           format.setFontWeight(on ? QFont::Bold : QFont::Normal);
+                       });
+    m_italic = addToggle(bar, QStringLiteral("I"), tr("Italic"), QKeySequence::Italic,
+                         [](QTextCharFormat& format, bool on) { format.setFontItalic(on); });
+    m_underline = addToggle(bar, QStringLiteral("U"), tr("Underline"), QKeySequence::Underline,
+                            [](QTextCharFormat& format, bool on) { format.setFontUnderline(on); });
+    m_strikeOut = addToggle(bar, QStringLiteral("S"), tr("Strike through"), {},
+                            [](QTextCharFormat& format, bool on) { format.setFontStrikeOut(on); });
+}
+
+/// A button whose letter looks like what it does.
+QAction* RichTextEditor::addToggle(QToolBar& bar, const QString& letter, const QString& name,
+                                   const QKeySequence& key, void (*setter)(QTextCharFormat&, bool))
+{
+    auto* const action = new QAction(letter, this);
+    action->setCheckable(true);
+    action->setToolTip(name);
+    action->setShortcut(key);
+    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    QTextCharFormat look;
+    setter(look, true);
+    action->setFont(look.font());
+    addAction(action);
+    bar.addAction(action);
+    bar.widgetForAction(action)->setAccessibleName(name);
+    bar.widgetForAction(action)->setFont(look.font());
+    connect(action, &QAction::triggered, this, [this, setter](bool on) {
+        QTextCharFormat format;
+        setter(format, on);
+        change(format);
+    });
+    return action;
+}
+
+void RichTextEditor::addColorButton(QToolBar& bar)
+{
+    m_color = bar.addAction(tr("Colour..."));
+    m_color->setToolTip(tr("Colour"));
+    bar.widgetForAction(m_color)->setAccessibleName(tr("Colour"));
+    connect(m_color, &QAction::triggered, this, &RichTextEditor::chooseColor);
+}
+
+void RichTextEditor::chooseColor()
+{
+    const QBrush brush = m_edit->currentCharFormat().foreground();
+    const QColor present = brush.style() == Qt::NoBrush ? qtColor(m_automaticColor) : brush.color();
+    const QColor chosen = QColorDialog::getColor(present, this, tr("Text Colour"));
+    if (!chosen.isValid())
+        return;
+    QTextCharFormat format;
+    format.setForeground(chosen);
+    change(format);
+}
+
+void RichTextEditor::change(const QTextCharFormat& format)
+{
+    m_edit->mergeCurrentCharFormat(format);
+    // A size that was typed takes effect when the focus leaves its field: it must not come back.
+    if (belongsTo(QApplication::focusWidget(), this))
+        m_edit->setFocus();
+    showFormat(m_edit->currentCharFormat());
+}
+
+void RichTextEditor::showFormat(const QTextCharFormat& format)
+{
+    const TextFormat look = textFormatOf(format, m_format);
+    m_families->setCurrentFont(QFont(QString::fromStdString(look.family)));
+    m_families->setEditText(QString::fromStdString(look.family)); // also where it is not installed
+    m_sizes->setEditText(QString::fromStdString(shortestText(look.points)));
+    m_bold->setChecked(look.bold);
+    m_italic->setChecked(look.italic);
+    m_underline->setChecked(look.underline);
+    m_strikeOut->setChecked(look.strikeOut);
+    m_color->setIcon(swatch(qtColor(look.color.value_or(m_automaticColor))));
+}
+
+/// While another program has the focus, editing waits.
+void RichTextEditor::followFocus(QWidget* now)
+{
+    if (now != nullptr && isVisible() && !belongsTo(now, this))
+        Q_EMIT left();
+}
+
+bool RichTextEditor::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool isKey =
+        event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
+    if (watched == m_edit && isKey && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+        event->accept();
+        if (event->type() == QEvent::KeyPress)
+            Q_EMIT cancelled();
+        return true;
+    }
+    return QFrame::eventFilter(watched, event);
+}
+
+} // namespace tarsil

@@ -1,0 +1,132 @@
+#include "plotwindow/TextBoxMover.h"
+
+#include "surface/PixelMath.h"
+#include "vgfplot/BoxReach.h"
+#include "vgfplot/EvmPlot.h"
+
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QStyleHints>
+
+namespace tarsil {
+
+namespace {
+
+/// What an arrow key means; none for another key.
+std::optional<QPoint> stepOf(const QKeyEvent& key)
+{
+    const int length = key.modifiers() & Qt::ShiftModifier ? 10 : 1;
+    switch (key.key()) {
+    case Qt::Key_Left:
+        return QPoint(-length, 0);
+    case Qt::Key_Right:
+        return QPoint(length, 0);
+    case Qt::Key_Up:
+        return QPoint(0, -length);
+    case Qt::Key_Down:
+        return QPoint(0, length);
+    default:
+        return std::nullopt;
+    }
+}
+
+} // namespace
+
+std::optional<std::size_t> TextBoxMover::boxAt(QPoint position) const
+{
+    for (std::size_t i = m_plot.boxCount(); i > 0; --i) { // the last one lies on top
+        if (m_plot.box(i - 1).geometry().contains(position))
+            return i - 1;
+    }
+    return std::nullopt;
+}
+
+void TextBoxMover::select(std::optional<std::size_t> box)
+{
+    m_selected = box;
+    m_isHeld = false;
+    m_isDragging = false;
+    m_isFollowing = false;
+    if (!box)
+        return;
+    m_start = m_plot.box(*box).geometry().topLeft();
+    m_position = {m_plot.box(*box).unitsLeft(), m_plot.box(*box).unitsTop()};
+}
+
+void TextBoxMover::press(QPoint position)
+{
+    if (m_isFollowing) { // the click that puts the box down
+        select(m_selected);
+        return;
+    }
+    select(boxAt(position));
+    m_isHeld = m_selected.has_value();
+    m_grip = position - m_start;
+}
+
+void TextBoxMover::pointTo(QPoint position, bool isHeld)
+{
+    if (m_isFollowing || m_isDragging) {
+        moveTo(position - m_grip);
+    } else if (m_isHeld && isHeld) {
+        const int distance = (position - m_start - m_grip).manhattanLength();
+        m_isDragging = distance >= QGuiApplication::styleHints()->startDragDistance();
+        if (m_isDragging)
+            moveTo(position - m_grip);
+    }
+}
+
+void TextBoxMover::release()
+{
+    if (!m_isFollowing)
+        select(m_selected);
+}
+
+void TextBoxMover::follow()
+{
+    if (!m_selected)
+        return;
+    select(m_selected);
+    const QSize size = m_plot.box(*m_selected).geometry().size();
+    m_grip = QPoint(size.width() / 2, size.height() / 2);
+    m_isFollowing = true;
+}
+
+bool TextBoxMover::press(const QKeyEvent& key)
+{
+    if (!m_selected)
+        return false;
+    if (const auto step = stepOf(key)) {
+        moveTo(m_plot.box(*m_selected).geometry().topLeft() + *step);
+        return true;
+    }
+    if (key.key() == Qt::Key_Escape && isMoving()) {
+        takeBack();
+        return true;
+    }
+    if (key.key() == Qt::Key_Escape) {
+        select(std::nullopt);
+        return true;
+    }
+    if ((key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) && isMoving()) {
+        select(m_selected);
+        return true;
+    }
+    return false;
+}
+
+/// The box ends where it is shown, so that its position is the one that the user sees.
+void TextBoxMover::moveTo(QPoint corner)
+{
+    const QSize size = m_plot.box(*m_selected).geometry().size();
+    const QPoint place = shownPlace({corner, size}, m_plot.size()).topLeft();
+    m_plot.moveBox(*m_selected, place.x() * unitsPerPixel, place.y() * unitsPerPixel);
+}
+
+void TextBoxMover::takeBack()
+{
+    m_plot.moveBox(*m_selected, m_position.x(), m_position.y());
+    select(m_selected);
+}
+
+} // namespace tarsil

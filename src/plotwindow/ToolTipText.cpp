@@ -1,0 +1,12 @@
+#include "plotwindow/ToolTipText.h"
+
+#include <QTextDocument>
+
+namespace tarsil {
+
+QString toolTipText(const QString& text)
+{
+    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
+}
+
+} // namespace tarsil

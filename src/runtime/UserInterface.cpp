@@ -1,7 +1,0 @@
-#include "runtime/UserInterface.h"
-
-namespace tarsil {
-
-UserInterface::~UserInterface() = default;
-
-} // namespace tarsil

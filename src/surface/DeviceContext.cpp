@@ -1,0 +1,29 @@
+#include "surface/DeviceContext.h"
+
+namespace tarsil {
+
+DeviceContext::~DeviceContext() = default;
+
+QRect textRectangle(QPoint reference, QSize extent, int ascent, TextAlignment alignment)
+{
+    QPoint corner = reference;
+    switch (alignment) {
+    case TextAlignment::TopLeft:
+        break;
+    case TextAlignment::TopRight:
+        corner.rx() -= extent.width();
+        break;
+    case TextAlignment::TopCenter:
+        corner.rx() -= extent.width() / 2;
+        break;
+    case TextAlignment::BottomCenter:
+        corner -= QPoint(extent.width() / 2, extent.height());
+        break;
+    case TextAlignment::BaselineLeft:
+        corner.ry() -= ascent;
+        break;
+    }
+    return {corner, extent};
+}
+
+} // namespace tarsil

@@ -1,0 +1,198 @@
+#include "surface/PainterContext.h"
+
+#include "surface/Dashes.h"
+#include "surface/LineCut.h"
+#include "surface/QtColor.h"
+
+#include <QLineF>
+#include <QPaintEngine>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+#include <exception>
+
+namespace tarsil {
+
+namespace {
+
+constexpr qsizetype longestPolyline = 4096;
+/// The raster engine takes ten times as long for round joints as for plain lines; so narrow ones
+/// with square ends, half a pixel or two longer, look no different.
+constexpr double narrowLine = 4;
+/// Painters are exact only so far from the surface; a line that goes farther is cut there.
+constexpr double farthest = 16000;
+
+QPen painterPen(const Pen& pen)
+{
+    const int width = std::max(pen.width, 1);
+    QPen result(qtColor(pen.color), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+    if (width == 1) { // caps and joins of so thin a line are not seen, but cost time
+        result.setCapStyle(isDashed(pen) ? Qt::FlatCap : Qt::SquareCap);
+        result.setJoinStyle(Qt::BevelJoin);
+    }
+    if (isDashed(pen))
+        result.setDashPattern(dashPattern(pen));
+    return result;
+}
+
+QPointF pixelCentre(QPoint pixel)
+{
+    return {pixel.x() + 0.5, pixel.y() + 0.5};
+}
+
+bool isRaster(const QPainter& painter)
+{
+    return painter.paintEngine()->type() == QPaintEngine::Raster;
+}
+
+/// Whether the raster engine draws lines of one unit's width in its own fast way: one pixel for
+/// each step of the longer side, shared with its neighbour.
+bool drawsThinLinesByPixels(const QPainter& painter)
+{
+    return isRaster(painter) && painter.deviceTransform().type() <= QTransform::TxTranslate;
+}
+
+/// A line from pixel centre to pixel centre, lengthened by half a step at each end so that both
+/// pixels are inked whole. (Caps would do the same, but that way moves a sloped line sideways with
+/// them.) A dashed line leaves its last pixel to the segment that follows.
+QLineF wholePixels(QPointF from, QPointF to, bool dashed)
+{
+    const QPointF way = to - from;
+    const double steps = std::max(std::abs(way.x()), std::abs(way.y()));
+    const QPointF halfStep = steps == 0 ? QPointF(0.5, 0) : way / (2 * steps);
+    return {from - halfStep, dashed ? to - halfStep : to + halfStep};
+}
+
+} // namespace
+
+PainterContext::PainterContext(QPainter& painter)
+    : m_painter(painter),
+      m_narrowWidth(isRaster(painter) ? narrowLine / painter.deviceTransform().m11() : 0),
+      m_thinLinesByPixels(drawsThinLinesByPixels(painter))
+{
+    m_painter.setRenderHint(QPainter::Antialiasing);
+    m_painter.setRenderHint(QPainter::TextAntialiasing);
+    m_painter.setBackgroundMode(Qt::TransparentMode);
+    m_painter.setBrush(Qt::NoBrush);
+}
+
+PainterContext::~PainterContext()
+{
+    try {
+        flush();
+    } catch (const std::exception&) {
+        return; // comes to pass only after a failure, which is the one that is told
+    }
+}
+
+void PainterContext::drawLine(QPoint from, QPoint to, const Pen& pen)
+{
+    if (pen.style == penstyle::none)
+        return;
+    QPointF start = pixelCentre(from + m_origin);
+    QPointF end = pixelCentre(to + m_origin);
+    if (!cutLine(start, end, guardBand(farthest)))
+        return;
+    const bool continues = !isDashed(pen) && !m_points.isEmpty() && pen == m_pen
+        && m_points.constLast() == start && m_points.size() < longestPolyline;
+    if (!continues) {
+        flush();
+        m_pen = pen;
+        m_points.append(start);
+    }
+    m_points.append(end);
+}
+
+void PainterContext::flush()
+{
+    if (m_points.isEmpty())
+        return;
+    if (m_thinLinesByPixels && m_pen.width <= 1)
+        drawThinLines();
+    else if (!isDashed(m_pen) && m_pen.width <= m_narrowWidth)
+        drawNarrowLines();
+    else
+        drawPolyline();
+    m_points.clear();
+}
+
+void PainterContext::drawPolyline()
+{
+    m_painter.setPen(painterPen(m_pen));
+    m_painter.drawPolyline(m_points);
+}
+
+void PainterContext::drawNarrowLines()
+{
+    QPen pen = painterPen(m_pen);
+    pen.setCapStyle(Qt::SquareCap);
+    m_painter.setPen(pen);
+    QList<QLineF> lines;
+    lines.reserve(m_points.size());
+    for (qsizetype i = 1; i < m_points.size(); ++i)
+        lines.append(QLineF(m_points[i - 1], m_points[i]));
+    m_painter.drawLines(lines);
+}
+
+/// One by one: at the joints of a thin polyline the raster engine leaves lighter pixels.
+void PainterContext::drawThinLines()
+{
+    QPen pen = painterPen(m_pen);
+    pen.setCapStyle(Qt::FlatCap);
+    m_painter.setPen(pen);
+    QList<QLineF> lines;
+    lines.reserve(m_points.size());
+    for (qsizetype i = 1; i < m_points.size(); ++i)
+        lines.append(wholePixels(m_points[i - 1], m_points[i], isDashed(m_pen)));
+    m_painter.drawLines(lines);
+}
+
+void PainterContext::drawText(QPoint reference, const QString& text, const Font& font,
+                              ColorValue color, TextAlignment alignment)
+{
+    const QRect box = m_text.box(reference + m_origin, text, font, alignment);
+    if (m_clip && !m_clip->intersects(TextMetrics::reach(box, font)))
+        return; // files would hold a text that nobody sees
+    flush();
+    m_painter.setFont(m_text.qtFont(font));
+    m_painter.setPen(qtColor(color));
+    m_painter.drawText(box.topLeft() + QPoint(0, m_text.ascent(font)), drawableText(text));
+}
+
+QSize PainterContext::textExtent(const QString& text, const Font& font) const
+{
+    return m_text.extent(text, font);
+}
+
+int PainterContext::textAscent(const Font& font) const
+{
+    return m_text.ascent(font);
+}
+
+void PainterContext::fillRectangle(const QRect& rectangle, ColorValue color)
+{
+    flush();
+    m_painter.fillRect(rectangle.translated(m_origin), qtColor(color));
+}
+
+void PainterContext::setClip(const QRect& rectangle)
+{
+    flush();
+    m_clip = rectangle;
+    m_painter.setClipRect(rectangle);
+}
+
+void PainterContext::clearClip()
+{
+    flush();
+    m_clip.reset();
+    m_painter.setClipping(false);
+}
+
+void PainterContext::setOrigin(QPoint origin)
+{
+    m_origin = origin;
+}
+
+} // namespace tarsil

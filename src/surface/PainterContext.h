@@ -1,0 +1,51 @@
+#pragma once
+
+#include "surface/DeviceContext.h"
+#include "surface/TextMetrics.h"
+
+#include <QPolygonF>
+
+#include <optional>
+
+class QPainter;
+
+namespace tarsil {
+
+/// Draws with a QPainter: on an image or a printer page. Lines run through pixel centres.
+/// Connected solid lines of one pen are drawn as one polyline, which must not outlive this object:
+/// the picture is complete after `flush`. The destructor draws what is left when drawing failed.
+class PainterContext : public DeviceContext
+{
+public:
+    explicit PainterContext(QPainter& painter);
+    ~PainterContext() override;
+
+    void drawLine(QPoint from, QPoint to, const Pen& pen) override;
+    void drawText(QPoint reference, const QString& text, const Font& font, ColorValue color,
+                  TextAlignment alignment) override;
+    QSize textExtent(const QString& text, const Font& font) const override;
+    int textAscent(const Font& font) const override;
+    void fillRectangle(const QRect& rectangle, ColorValue color) override;
+    void setClip(const QRect& rectangle) override;
+    void clearClip() override;
+    void setOrigin(QPoint origin) override;
+
+    /// Draws what has been gathered so far.
+    void flush();
+
+private:
+    void drawPolyline();
+    void drawNarrowLines();
+    void drawThinLines();
+
+    QPainter& m_painter;
+    QPoint m_origin;
+    std::optional<QRect> m_clip; ///< in pixels of the whole surface
+    Pen m_pen; ///< of the lines gathered
+    QPolygonF m_points; ///< connected lines that have not been drawn yet
+    TextMetrics m_text;
+    double m_narrowWidth; ///< up to this width lines are drawn without round joints
+    bool m_thinLinesByPixels; ///< lines of one pixel width go through the engine's fast way
+};
+
+} // namespace tarsil

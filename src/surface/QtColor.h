@@ -1,0 +1,15 @@
+#pragma once
+
+#include "base/numbers/ColorValue.h"
+
+#include <QColor>
+
+namespace tarsil {
+
+/// A stored colour, red in the low byte, as the toolkit's.
+inline QColor qtColor(ColorValue color)
+{
+    return {color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF};
+}
+
+} // namespace tarsil

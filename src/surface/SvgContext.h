@@ -1,0 +1,59 @@
+#pragma once
+
+#include "surface/DeviceContext.h"
+#include "surface/TextMetrics.h"
+
+#include <QList>
+#include <QPolygonF>
+#include <QXmlStreamWriter>
+
+#include <optional>
+
+class QIODevice;
+
+namespace tarsil {
+
+/// Writes a picture as SVG. Lines run through pixel centres; connected solid lines of one pen
+/// become one polyline. What is drawn under a clip belongs to a group with that clip path; texts
+/// wholly outside of it are left out, and lines are cut a little outside of it, for the readers
+/// that know no clip paths. Texts and names from files are values of the XML and never part of it.
+class SvgContext : public DeviceContext
+{
+public:
+    /// Begins a picture of `size` pixels at 96 per inch. `output` must outlive this context.
+    SvgContext(QIODevice& output, QSize size, const QString& title);
+
+    /// Ends the picture.
+    ~SvgContext() override;
+
+    void drawLine(QPoint from, QPoint to, const Pen& pen) override;
+    void drawText(QPoint reference, const QString& text, const Font& font, ColorValue color,
+                  TextAlignment alignment) override;
+    QSize textExtent(const QString& text, const Font& font) const override;
+    int textAscent(const Font& font) const override;
+    void fillRectangle(const QRect& rectangle, ColorValue color) override;
+    void setClip(const QRect& rectangle) override;
+    void clearClip() override;
+    void setOrigin(QPoint origin) override;
+
+private:
+    void changeClip(std::optional<QRect> clip);
+    void begin();
+    QString pathOf(const QRect& clip);
+    void flush();
+    void writeLines(double dashOffset);
+    void writeText(QPoint start, const QString& text, const Font& font, ColorValue color);
+    void decorate(QPoint start, int width, const Font& font, ColorValue color);
+    void writeRectangle(const QRectF& rectangle, const QString& fill);
+
+    QXmlStreamWriter m_xml;
+    QPoint m_origin;
+    std::optional<QRect> m_clip; ///< in pixels of the whole surface
+    std::optional<QRect> m_groupClip; ///< of the group that is open
+    QList<QRect> m_paths; ///< the clip paths written so far
+    Pen m_pen; ///< of the lines gathered
+    QPolygonF m_points; ///< connected lines that are not written yet
+    TextMetrics m_text;
+};
+
+} // namespace tarsil

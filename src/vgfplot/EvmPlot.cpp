@@ -1,0 +1,425 @@
+#include "vgfplot/EvmPlot.h"
+
+#include "base/numbers/Numbers.h"
+#include "base/user/RunTimeError.h"
+#include "surface/PainterContext.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+#include <exception>
+#include <optional>
+#include <utility>
+
+namespace tarsil {
+
+namespace {
+
+constexpr ColorValue white = rgb(255, 255, 255);
+constexpr ColorValue black = 0;
+
+struct Range
+{
+    float smallest;
+    float largest;
+};
+
+/// Smallest and largest frequency of the points in the visible speeds, with a margin below.
+std::optional<Range> visibleFrequencies(const SeriesList& series, float vmin, float vmax)
+{
+    constexpr double margin = 0.8;
+    std::optional<Range> range;
+    for (const Series& one : series) {
+        if (one.Mode == nullptr)
+            continue;
+        for (const Point& point : one.Mode->Points) {
+            if (!(point.speed > margin * vmin && point.speed < vmax))
+                continue;
+            if (!range)
+                range = {point.f, point.f};
+            range->smallest = std::min(range->smallest, point.f);
+            range->largest = std::max(range->largest, point.f);
+        }
+    }
+    return range;
+}
+
+} // namespace
+
+EvmPlot::EvmPlot() : m_vgPlot(*this), m_vfPlot(*this)
+{
+    m_vgPlot.setPlotType(plottype::dampingOverSpeed);
+    m_vfPlot.setPlotType(plottype::frequencyOverSpeed);
+    m_gAxis.setDirection(true);
+    m_gAxis.setThickFormat(QStringLiteral("0.00#"));
+    m_freqAxis.setThickFormat(QStringLiteral("0.0#"));
+    for (trspLabel* label : {&m_velAxisLabel, &m_gAxisLabel, &m_freqAxislabel})
+        label->setAutoSize(true);
+    ertbTexts[0].setPrompt(QStringLiteral("Insert Header"));
+    ertbTexts[1].setPrompt(QStringLiteral("Insert Legend"));
+    ertbTexts[2].setPrompt(QStringLiteral("Insert Subtitle"));
+    ReadProperties({});
+    SetScale(Scale());
+    resize(QSize(800, 600));
+}
+
+EvmPlot::~EvmPlot() = default;
+
+Series& EvmPlot::addSeries(AeMode& mode)
+{
+    const std::size_t count = m_rows.count();
+    Series& series = m_rows.series().emplace_back();
+    series.Mode = &mode;
+    series.ColorIndex = BaseColors[count % BaseColors.size()];
+    series.MarkerTag = QString::number(count);
+    return series;
+}
+
+void EvmPlot::SerieMove(std::size_t from, std::size_t to)
+{
+    const std::size_t count = m_rows.count();
+    if (from < 1 || to < 1 || from > count || to > count)
+        throw RunTimeError(ErrorNumber::SubscriptOutOfRange, "EvmPlot",
+                           "row " + std::to_string(from) + " to " + std::to_string(to) + " of "
+                               + std::to_string(count));
+    m_rows.move(from - 1, to - 1);
+}
+
+void EvmPlot::fitFreq()
+{
+    const Scale scale = GetScale();
+    const std::optional<Range> range =
+        visibleFrequencies(SeriesCollection(), scale.vmin, scale.vmax);
+    if (!range)
+        return;
+    double fmin = std::nearbyint(static_cast<double>(range->smallest) * 0.95);
+    double fmax = std::nearbyint(static_cast<double>(range->largest) * 1.05);
+    if (std::fabs(fmax - fmin) < 0.1) {
+        fmin = std::nearbyint(static_cast<double>(range->smallest) * 0.85);
+        fmax = std::nearbyint(static_cast<double>(range->largest) * 1.05);
+    }
+    if (fmin == fmax)
+        return;
+    SetScale(scale.vmin, scale.vmax, static_cast<float>(fmin), static_cast<float>(fmax), scale.gmin,
+             scale.gmax);
+}
+
+void EvmPlot::plot()
+{
+    m_isPlotted = true;
+    invalidate();
+    drawParts();
+}
+
+void EvmPlot::Cls()
+{
+    m_isPlotted = false;
+    m_isComposed = false;
+    m_vgPlot.Cls();
+    m_vfPlot.Cls();
+    Q_EMIT changed();
+}
+
+EvmPlot::Scale EvmPlot::GetScale() const
+{
+    Scale scale;
+    GetScale(scale.vmin, scale.vmax, scale.fmin, scale.fmax, scale.gmin, scale.gmax);
+    return scale;
+}
+
+void EvmPlot::GetScale(float& vmin, float& vmax, float& fmin, float& fmax, float& gmin,
+                       float& gmax) const
+{
+    vmin = static_cast<float>(m_velAxis.Min());
+    vmax = static_cast<float>(m_velAxis.Max());
+    fmin = static_cast<float>(m_freqAxis.Min());
+    fmax = static_cast<float>(m_freqAxis.Max());
+    gmin = static_cast<float>(m_gAxis.Min());
+    gmax = static_cast<float>(m_gAxis.Max());
+}
+
+void EvmPlot::SetScale(const Scale& scale)
+{
+    // What a person reads in the bounds: -0.35, and not the -0.34999999 of the single.
+    const double vmin = decimalValue(scale.vmin);
+    const double vmax = decimalValue(scale.vmax);
+    const double fmin = decimalValue(scale.fmin);
+    const double fmax = decimalValue(scale.fmax);
+    const double gmin = decimalValue(scale.gmin);
+    const double gmax = decimalValue(scale.gmax);
+    m_velAxis.setMin(vmin);
+    m_velAxis.setMax(vmax);
+    m_freqAxis.setMin(fmin);
+    m_freqAxis.setMax(fmax);
+    m_gAxis.setMin(gmin);
+    m_gAxis.setMax(gmax);
+    // The V-g canvas spans both halves; its lower half agrees with the damping axis.
+    m_vgPlot.SetScale(vmin, 2 * gmin - gmax, vmax, gmax);
+    m_vfPlot.SetScale(vmin, fmax, vmax, fmin);
+    invalidate();
+}
+
+void EvmPlot::SetScale(float vmin, float vmax, float fmin, float fmax, float gmin, float gmax)
+{
+    SetScale(Scale {vmin, vmax, fmin, fmax, gmin, gmax});
+}
+
+void EvmPlot::setModeColor(int value)
+{
+    m_modeColor = value;
+    m_vgPlot.setModeColor(value);
+    m_vfPlot.setModeColor(value);
+    m_changed.mark(QStringLiteral("ModeColor"));
+}
+
+void EvmPlot::setVthicks(std::int16_t count)
+{
+    m_velAxis.setNThick(count);
+    m_changed.mark(QStringLiteral("vThicks"));
+    invalidate();
+}
+
+void EvmPlot::setGthicks(std::int16_t count)
+{
+    m_gAxis.setNThick(count);
+    m_changed.mark(QStringLiteral("gThicks"));
+    invalidate();
+}
+
+void EvmPlot::setFthicks(std::int16_t count)
+{
+    m_freqAxis.setNThick(count);
+    m_changed.mark(QStringLiteral("fThicks"));
+    invalidate();
+}
+
+void EvmPlot::setVLabel(const QString& text)
+{
+    m_velAxisLabel.setCaption(text);
+    m_changed.mark(QStringLiteral("vLabel"));
+    refresh();
+}
+
+void EvmPlot::setGLabel(const QString& text)
+{
+    m_gAxisLabel.setCaption(text);
+    m_changed.mark(QStringLiteral("gLabel"));
+    refresh();
+}
+
+void EvmPlot::setFLabel(const QString& text)
+{
+    m_freqAxislabel.setCaption(text);
+    m_changed.mark(QStringLiteral("fLabel"));
+    refresh();
+}
+
+void EvmPlot::setCaption(const QString& caption)
+{
+    m_caption = caption;
+    m_changed.mark(QStringLiteral("Caption"));
+    Q_EMIT changed();
+}
+
+void EvmPlot::setVisible(bool visible)
+{
+    m_visible = visible;
+    Q_EMIT changed();
+}
+
+void EvmPlot::setEditMode(bool on)
+{
+    m_editMode = on;
+    Q_EMIT changed();
+}
+
+void EvmPlot::AddRef(float speed, const QString& caption)
+{
+    m_isComposed = false;
+    Q_EMIT changed();
+    m_velAxis.AddRef(speed, caption);
+}
+
+void EvmPlot::RemoveRef()
+{
+    m_isComposed = false;
+    Q_EMIT changed();
+    m_velAxis.RemoveRef();
+}
+
+QString EvmPlot::shiftedMarksNote() const
+{
+    const double begin = m_velAxis.Min();
+    if (m_velAxis.marks().empty() || begin == 0)
+        return {};
+    const QString side = begin > 0 ? QStringLiteral("right") : QStringLiteral("left");
+    const auto text = [](double speed) { return QString::fromStdString(shortestText(speed)); };
+    return QStringLiteral("Reference speeds stand ") + text(std::fabs(begin))
+        + QStringLiteral(" knots too far ") + side + QStringLiteral(": the speed axis begins at ")
+        + text(begin);
+}
+
+void EvmPlot::AddDampLine(float g, const QString& caption)
+{
+    appendDampLine(g, caption);
+    plot();
+}
+
+void EvmPlot::appendDampLine(float g, const QString& caption)
+{
+    const Scale scale = GetScale();
+    m_vgPlot.AddLine(scale.vmin, g, scale.vmax, g, caption, black, penstyle::solid);
+}
+
+void EvmPlot::RemoveDampLine()
+{
+    m_vgPlot.RemoveLines();
+    plot();
+}
+
+void EvmPlot::setRefs(std::vector<RefThick> marks)
+{
+    m_velAxis.setMarks(std::move(marks));
+    invalidate();
+}
+
+std::vector<EvmPlot::DampLine> EvmPlot::DampLines() const
+{
+    std::vector<DampLine> lines;
+    for (const RefLine& line : m_vgPlot.lines())
+        lines.push_back({line.Y1, line.Caption});
+    return lines;
+}
+
+void EvmPlot::setDampLines(const std::vector<DampLine>& lines)
+{
+    m_vgPlot.RemoveLines();
+    for (const DampLine& line : lines)
+        appendDampLine(line.g, line.Caption);
+    invalidate();
+}
+
+void EvmPlot::Clone(const EvmPlot& source)
+{
+    Q_EMIT contentsReplaced();
+    for (std::size_t i = 0; i < ertbTexts.size(); ++i)
+        ertbTexts[i].Clone(source.ertbTexts[i]);
+    m_headerTop = source.m_headerTop;
+    ReadProperties(source.WriteProperties());
+    SetScale(source.GetScale());
+}
+
+void EvmPlot::ReadProperties(const PropertyBag& bag)
+{
+    const auto thicks = [&bag](const QString& key, int defaultValue) {
+        return static_cast<std::int16_t>(readProperty(bag, key, defaultValue));
+    };
+    m_caption = readProperty(bag, QStringLiteral("Caption"), QStringLiteral("Plot1"));
+    m_modeColor = readProperty(bag, QStringLiteral("ModeColor"), 0);
+    m_vgPlot.setModeColor(m_modeColor);
+    m_vfPlot.setModeColor(m_modeColor);
+    m_velAxis.setNThick(thicks(QStringLiteral("vThicks"), 7));
+    m_gAxis.setNThick(thicks(QStringLiteral("gThicks"), 5));
+    m_freqAxis.setNThick(thicks(QStringLiteral("fThicks"), 5));
+    m_velAxisLabel.setCaption(
+        readProperty(bag, QStringLiteral("vLabel"), QStringLiteral("V(keas)")));
+    m_gAxisLabel.setCaption(readProperty(bag, QStringLiteral("gLabel"), QStringLiteral("g")));
+    m_freqAxislabel.setCaption(
+        readProperty(bag, QStringLiteral("fLabel"), QStringLiteral("f(Hz)")));
+    refresh();
+}
+
+PropertyBag EvmPlot::WriteProperties() const
+{
+    return {{QStringLiteral("Caption"), m_caption}, {QStringLiteral("ModeColor"), m_modeColor},
+            {QStringLiteral("vThicks"), vthicks()}, {QStringLiteral("gThicks"), gthicks()},
+            {QStringLiteral("fThicks"), fthicks()}, {QStringLiteral("vLabel"), vLabel()},
+            {QStringLiteral("gLabel"), gLabel()},   {QStringLiteral("fLabel"), fLabel()}};
+}
+
+void EvmPlot::invalidate()
+{
+    m_isStale = true;
+    Q_EMIT changed();
+}
+
+void EvmPlot::refresh()
+{
+    layOut();
+    invalidate();
+}
+
+std::array<PlotControl*, 11> EvmPlot::partsInDrawingOrder()
+{
+    return {&m_velAxis,    &m_velAxisLabel, &m_freqAxis,   &m_freqAxislabel,
+            &m_gAxis,      &m_gAxisLabel,   &ertbTexts[0], &ertbTexts[1],
+            &ertbTexts[2], &m_vfPlot,       &m_vgPlot};
+}
+
+const QImage& EvmPlot::Image()
+{
+    std::exception_ptr failure;
+    if (m_isStale) {
+        try {
+            drawParts();
+        } catch (...) {
+            failure = std::current_exception();
+        }
+    }
+    if (!m_isComposed)
+        compose();
+    if (failure)
+        std::rethrow_exception(failure);
+    return m_image;
+}
+
+/// Draws every part on its own surface; a part that fails does not keep the others from it.
+void EvmPlot::drawParts()
+{
+    m_isStale = false;
+    m_isComposed = false;
+    std::exception_ptr failure;
+    for (PlotControl* part : partsInDrawingOrder()) {
+        const bool isCanvas = part == &m_vgPlot || part == &m_vfPlot;
+        if (isCanvas && !m_isPlotted)
+            continue;
+        try {
+            part->Cls();
+            part->Draw(nullptr);
+        } catch (...) {
+            failure = std::current_exception();
+        }
+    }
+    if (failure)
+        std::rethrow_exception(failure);
+}
+
+void EvmPlot::compose()
+{
+    const QSize pixels = m_size * m_ratio;
+    if (m_image.size() != pixels)
+        m_image = QImage(pixels, QImage::Format_RGB32);
+    m_image.setDevicePixelRatio(1); // the parts' surfaces count physical pixels
+    m_image.fill(Qt::white);
+    m_isComposed = true;
+    if (m_image.isNull())
+        return;
+    QPainter painter(&m_image);
+    for (const PlotControl* part : partsInDrawingOrder()) {
+        if (!part->surface().isNull())
+            painter.drawImage(part->surfacePosition(), part->surface());
+    }
+    painter.end();
+    m_image.setDevicePixelRatio(m_ratio);
+}
+
+void EvmPlot::Draw(DeviceContext& context)
+{
+    Q_EMIT pictureWanted();
+    context.fillRectangle({QPoint(0, 0), m_size}, white);
+    for (PlotControl* part : partsInDrawingOrder())
+        part->Draw(&context);
+}
+
+} // namespace tarsil

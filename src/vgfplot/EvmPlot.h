@@ -1,0 +1,256 @@
+#pragma once
+
+#include "plot/EmfRichTextBox.h"
+#include "plot/TrspLabel.h"
+#include "plot/UcPlot.h"
+#include "plot/XAxis.h"
+#include "plot/YAxis.h"
+#include "vgfplot/PlotRows.h"
+
+#include <QImage>
+#include <QObject>
+
+#include <array>
+#include <cstdint>
+#include <vector>
+
+namespace tarsil {
+
+/// The V-g-f plot of a set of modes: frequency above and damping below one speed axis, axis titles,
+/// and three text boxes. It needs no window: it lays its parts out, keeps axes and canvases in
+/// step, and hands drawing on to them, on the screen and into files alike.
+///
+///     f(Hz) |  V-f curves            vfPlot (upper half), freqAxis
+///           |
+///     ------+----------------- V     velAxis
+///           |  V-g curves            vgPlot (both halves), gAxis
+///         g |
+///
+/// Speeds are knots (KEAS), frequencies Hz, dampings g dimensionless (negative is stable).
+class EvmPlot : public QObject, public PlotContainer
+{
+    Q_OBJECT
+
+public:
+    EvmPlot();
+    ~EvmPlot() override;
+
+    /// Bounds of the axes: `gmin` is the damping at the speed axis, `gmax` the one at the lower
+    /// end.
+    struct Scale
+    {
+        float vmin = 0;
+        float vmax = 700;
+        float fmin = 0;
+        float fmax = 50;
+        float gmin = 0;
+        float gmax = -0.25F;
+
+        bool operator==(const Scale&) const = default;
+    };
+
+    /// Number of intervals of each axis.
+    struct Thicks
+    {
+        std::int16_t v = 7;
+        std::int16_t g = 5;
+        std::int16_t f = 5;
+    };
+
+    emfRichTextBox& Header() { return ertbTexts[0]; }
+    emfRichTextBox& Legend() { return ertbTexts[1]; }
+    emfRichTextBox& Mechanism() { return ertbTexts[2]; }
+
+    /// The series in order of drawing. Whoever changes them calls `plot` afterwards.
+    SeriesList& SeriesCollection() { return m_rows.series(); }
+    const SeriesList& SeriesCollection() const override { return m_rows.series(); }
+
+    /// The rows of which the series are those that have a curve. Whoever changes them calls `plot`
+    /// afterwards.
+    PlotRows& rows() { return m_rows; }
+    const PlotRows& rows() const { return m_rows; }
+
+    /// Appends a row with a series for a mode: in row k (counted from 0) the colour is entry k mod
+    /// 7 of `BaseColors` and the tag is k. Rows without a curve count, so that none gets the look
+    /// of another one when its curve comes back. Nothing is drawn. The reference is good until the
+    /// collection changes.
+    Series& addSeries(AeMode& mode);
+
+    /// Moves the row at position `from` to position `to`, both counted from 1, and its series with
+    /// it; error 9 "Subscript out of range" outside the rows.
+    void SerieMove(std::size_t from, std::size_t to);
+
+    /// Fits the frequency axis to the points of all series whose speed lies above 0.8 vmin and
+    /// below vmax: 0.95 of the smallest to 1.05 of the largest, in whole Hz; 0.85 when they fall
+    /// together. With no such point, or when the bounds still fall together, the scale stays.
+    void fitFreq();
+
+    /// Empties both canvases and draws them, each on its own surface. Errors: those of `ucPlot`.
+    void plot();
+
+    /// Empties both canvases.
+    void Cls();
+
+    Scale GetScale() const;
+    void GetScale(float& vmin, float& vmax, float& fmin, float& fmax, float& gmin,
+                  float& gmax) const;
+    void SetScale(float vmin, float vmax, float fmin, float fmax, float gmin, float gmax);
+    void SetScale(const Scale& scale);
+
+    int ModeColor() const { return m_modeColor; }
+    void setModeColor(int value);
+    std::int16_t vthicks() const { return m_velAxis.nThick(); }
+    void setVthicks(std::int16_t count);
+    std::int16_t gthicks() const { return m_gAxis.nThick(); }
+    void setGthicks(std::int16_t count);
+    std::int16_t fthicks() const { return m_freqAxis.nThick(); }
+    void setFthicks(std::int16_t count);
+    const QString& vLabel() const { return m_velAxisLabel.Caption(); }
+    void setVLabel(const QString& text);
+    const QString& gLabel() const { return m_gAxisLabel.Caption(); }
+    void setGLabel(const QString& text);
+    const QString& fLabel() const { return m_freqAxislabel.Caption(); }
+    void setFLabel(const QString& text);
+    const QString& Caption() const { return m_caption; }
+    void setCaption(const QString& caption);
+    bool Visible() const { return m_visible; }
+    void setVisible(bool visible);
+
+    /// In edit mode the text boxes are outlined on the screen, and a click edits one.
+    bool EditMode() const { return m_editMode; }
+    void setEditMode(bool on);
+
+    /// Reference speeds on the speed axis.
+    void AddRef(float speed, const QString& caption);
+    void RemoveRef();
+
+    /// What has to be said of the reference speeds: a mark is measured from the left end of the
+    /// speed axis, so that it does not stand at its speed on an axis that does not begin at 0.
+    /// Empty while all marks stand at their speeds.
+    QString shiftedMarksNote() const;
+
+    /// A horizontal line at damping g across the present speed range. Both draw the plot again.
+    void AddDampLine(float g, const QString& caption);
+    void RemoveDampLine();
+
+    /// A damping line, wherever it begins and ends.
+    struct DampLine
+    {
+        float g = 0;
+        QString Caption;
+    };
+
+    /// The reference speeds and the damping lines. Setting them takes them in the place of all
+    /// others, the lines across the present speed range, and draws nothing.
+    const std::vector<RefThick>& Refs() const { return m_velAxis.marks(); }
+    void setRefs(std::vector<RefThick> marks);
+    std::vector<DampLine> DampLines() const;
+    void setDampLines(const std::vector<DampLine>& lines);
+
+    /// Copies the text boxes with their positions, the scale, and every property of `source`; its
+    /// series are not copied.
+    void Clone(const EvmPlot& source);
+
+    /// Keys "Caption" "Plot1", "ModeColor" 0, "vThicks" 7, "gThicks" 5, "fThicks" 5, "vLabel"
+    /// "V(keas)", "gLabel" "g", "fLabel" "f(Hz)".
+    void ReadProperties(const PropertyBag& bag);
+    PropertyBag WriteProperties() const;
+    const ChangedProperties& changedProperties() const { return m_changed; }
+
+    /// Size of the plot in pixels at 96 per inch; lays the parts out. `ratio`: physical pixels of
+    /// the screen for each of them.
+    void resize(QSize size, double ratio = 1);
+    QSize size() const { return m_size; }
+
+    /// The upper edge of the header's row, in twentieths of a point; 60 in a new plot. In a plot
+    /// that is too small for the header to be seen there it is shown at the nearest edge.
+    void setHeaderTop(double top);
+
+    /// Moves a text box (index as in `ertbTexts`) to a position in twentieths of a point; the
+    /// header goes back to its row. The box keeps the position, but in a plot that is too small for
+    /// all of it to be seen there it is shown, and drawn, at the nearest edge (`shownPlace`);
+    /// `geometry` of the box says where.
+    void moveBox(std::size_t index, double left, double top);
+
+    /// Sets the text of a box and lays the parts out again.
+    void setBoxText(std::size_t index, const QString& text);
+    void setBoxContent(std::size_t index, RichText content);
+    const emfRichTextBox& box(std::size_t index) const { return ertbTexts.at(index); }
+    std::size_t boxCount() const { return ertbTexts.size(); }
+
+    /// Lays the parts out again after a text box was changed from outside, and draws them.
+    void refresh();
+
+    /// The picture on the screen, opaque; parts that have changed are drawn first. Errors: those of
+    /// the parts; what could be drawn is in the next picture.
+    const QImage& Image();
+
+    /// Writes the picture as an Enhanced Metafile, whole or not at all. The file name is taken as
+    /// it stands. Errors: those of drawing and of writing a file.
+    void ExportPic(const QString& fileName);
+
+    /// The same metafile in memory.
+    QByteArray emfPicture();
+
+    /// Draws the same picture into a caller's context: white ground, axes, titles, boxes, curves.
+    void Draw(DeviceContext& context);
+
+    const ucPlot& vgPlot() const { return m_vgPlot; }
+    const ucPlot& vfPlot() const { return m_vfPlot; }
+    const xAxis& velAxis() const { return m_velAxis; }
+    const yAxis& gAxis() const { return m_gAxis; }
+    const yAxis& freqAxis() const { return m_freqAxis; }
+    const trspLabel& velAxisLabel() const { return m_velAxisLabel; }
+    const trspLabel& gAxisLabel() const { return m_gAxisLabel; }
+    const trspLabel& freqAxislabel() const { return m_freqAxislabel; }
+
+Q_SIGNALS:
+    /// The picture on the screen is no longer true.
+    void changed();
+
+    /// The plot is about to be drawn into somebody's context, saved or copied: what is being edited
+    /// belongs to it.
+    void pictureWanted();
+
+    /// The plot is about to get other contents: what is being edited, or moved, goes with the old
+    /// ones.
+    void contentsReplaced();
+
+private:
+    void WriteEmfPicture(const QString& fileName);
+    void layOut();
+    void layOutCanvases();
+    void layOutTitles();
+    void layOutBoxes();
+    void appendDampLine(float g, const QString& caption);
+    void invalidate();
+    void drawParts();
+    void compose();
+    std::array<PlotControl*, 11> partsInDrawingOrder();
+
+    ucPlot m_vgPlot;
+    ucPlot m_vfPlot;
+    xAxis m_velAxis;
+    yAxis m_gAxis;
+    yAxis m_freqAxis;
+    trspLabel m_velAxisLabel {QStringLiteral("velAxisLabel")};
+    trspLabel m_gAxisLabel {QStringLiteral("gAxisLabel")};
+    trspLabel m_freqAxislabel {QStringLiteral("freqAxislabel")};
+    std::array<emfRichTextBox, 3> ertbTexts;
+    double m_headerTop = 60; ///< twentieths of a point
+
+    PlotRows m_rows;
+    QString m_caption;
+    int m_modeColor = 0;
+    bool m_visible = true;
+    bool m_editMode = false;
+    bool m_isPlotted = false; ///< the canvases show curves
+    bool m_isStale = true; ///< parts have changed since they were drawn
+    bool m_isComposed = false;
+    QSize m_size;
+    double m_ratio = 1;
+    QImage m_image;
+    ChangedProperties m_changed;
+};
+
+} // namespace tarsil

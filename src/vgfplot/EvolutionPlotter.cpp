@@ -1,0 +1,153 @@
+#include "vgfplot/EvolutionPlotter.h"
+
+#include "base/numbers/NumberFormat.h"
+#include "model/EVM.h"
+#include "vgfplot/EvmPlot.h"
+#include "vgfplot/ScaleFit.h"
+
+#include <algorithm>
+#include <array>
+#include <set>
+
+namespace tarsil {
+
+namespace {
+
+constexpr std::size_t markersPerCurve = 4;
+constexpr qsizetype mostNames = 6; ///< more do not fit into a line
+
+/// In the order in which files take them: a long dash comes last, since dashes begin anew with
+/// every point and close points leave no room for its gap.
+constexpr std::array lineStyles = {penstyle::solid, penstyle::dot, penstyle::dashDot,
+                                   penstyle::dashDotDot, penstyle::dash};
+
+using Evolutions = std::vector<EVM*>;
+
+/// What all evolutions say alike; empty when they differ.
+template <typename Text>
+QString commonText(const Evolutions& evolutions, Text textOf)
+{
+    const std::string first = textOf(*evolutions.front());
+    const auto isSame = [&](const EVM* evolution) { return textOf(*evolution) == first; };
+    const bool isCommon = std::all_of(evolutions.begin(), evolutions.end(), isSame);
+    return isCommon ? QString::fromStdString(first) : QString();
+}
+
+/// The texts that are there, with a dash between them.
+QString joined(QStringList texts)
+{
+    texts.removeAll(QString());
+    return texts.join(QStringLiteral(" - "));
+}
+
+std::string methodText(const EVM& evolution)
+{
+    return evolution.flutterMethod.empty() ? std::string() : evolution.flutterMethod + " Method";
+}
+
+std::string machText(const EVM& evolution)
+{
+    const float mach = evolution.Param.Mach;
+    return mach > 0 ? "Mach No. " + formatNumber(mach, "0.00#") : std::string();
+}
+
+/// Airplane and mass configuration, then method and Mach number: what is the same in all files.
+QString caseText(const Evolutions& evolutions)
+{
+    const QString airplane =
+        commonText(evolutions, [](const EVM& evolution) { return evolution.Param.Airplane; });
+    const QString mass =
+        commonText(evolutions, [](const EVM& evolution) { return evolution.Param.Mass; });
+    QStringList lines = {
+        joined({airplane, mass}),
+        joined({commonText(evolutions, methodText), commonText(evolutions, machText)})};
+    lines.removeAll(QString());
+    return lines.join(QStringLiteral("\r\n"));
+}
+
+/// How many files have curves in the plot.
+std::size_t fileCount(const SeriesList& series)
+{
+    std::set<const EVM*> files;
+    for (const Series& one : series) {
+        if (one.Mode != nullptr)
+            files.insert(one.Mode->Parent);
+    }
+    return files.size();
+}
+
+std::int32_t usualSpacing(const AeMode& mode)
+{
+    return static_cast<std::int32_t>(
+        std::max<std::size_t>(mode.Points.size() / markersPerCurve, 2));
+}
+
+void addCurves(EvmPlot& plot, const EvolutionCurves& curves, const CurveMarkers& markers,
+               std::size_t file)
+{
+    for (AeMode* mode : curves.modes) {
+        Series& series = plot.addSeries(*mode);
+        series.LineStyle = lineStyles[file % lineStyles.size()];
+        series.LegendText = QString::fromStdString(curves.evolution->FileName);
+        series.MarkerStyle = markers.style;
+        series.IthMpf = markers.factor;
+        series.MarkerSize = markers.size;
+        series.MarkerForegroundColor = series.ColorIndex;
+        series.MarkerSpacing = markers.spacing.value_or(usualSpacing(*mode));
+    }
+}
+
+void fitScales(EvmPlot& plot)
+{
+    const FittedAxes axes = fitAxes(plot.SeriesCollection());
+    plot.SetScale(axes.scale);
+    plot.setVthicks(axes.thicks.v);
+    plot.setGthicks(axes.thicks.g);
+    plot.setFthicks(axes.thicks.f);
+}
+
+void fillTexts(EvmPlot& plot, const Evolutions& evolutions)
+{
+    constexpr std::size_t header = 0;
+    constexpr std::size_t subtitle = 2;
+    QStringList names;
+    for (const EVM* evolution : evolutions)
+        names.append(QString::fromStdString(evolution->FileName));
+    if (plot.box(header).isEmpty())
+        plot.setBoxText(header, caseText(evolutions));
+    if (plot.box(subtitle).isEmpty() && names.size() <= mostNames)
+        plot.setBoxText(subtitle, names.join(QStringLiteral(", ")));
+}
+
+} // namespace
+
+EvolutionCurves allCurvesOf(EVM& evolution)
+{
+    EvolutionCurves curves {&evolution, {}};
+    for (const auto& mode : evolution.Modes)
+        curves.modes.push_back(mode.get());
+    return curves;
+}
+
+std::size_t plotCurves(EvmPlot& plot, const std::vector<EvolutionCurves>& files,
+                       const CurveMarkers& markers)
+{
+    const bool isNew = plot.SeriesCollection().empty() && plot.GetScale() == EvmPlot::Scale();
+    std::size_t file = fileCount(plot.SeriesCollection());
+    Evolutions drawn;
+    for (const EvolutionCurves& curves : files) {
+        if (plot.SeriesCollection().size() + curves.modes.size() > mostCurves)
+            break;
+        addCurves(plot, curves, markers, file++);
+        drawn.push_back(curves.evolution);
+    }
+    if (drawn.empty())
+        return 0;
+    if (isNew)
+        fitScales(plot);
+    fillTexts(plot, drawn);
+    plot.plot();
+    return drawn.size();
+}
+
+} // namespace tarsil

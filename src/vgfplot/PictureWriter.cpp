@@ -1,0 +1,135 @@
+#include "vgfplot/PictureWriter.h"
+
+#include "base/user/RunTimeError.h"
+#include "surface/PainterContext.h"
+#include "surface/SvgContext.h"
+#include "vgfplot/EvmPlot.h"
+
+#include <QBuffer>
+#include <QMimeData>
+#include <QPageSize>
+#include <QPainter>
+#include <QPdfWriter>
+
+namespace tarsil {
+
+namespace {
+
+constexpr int pixelsPerInch = 96;
+constexpr double pointsPerInch = 72;
+constexpr double inchesPerMetre = 1 / 0.0254;
+constexpr double clipboardScale = 2; ///< a bitmap that still looks sharp in a printed report
+
+[[noreturn]] void fail(const char* details)
+{
+    throw RunTimeError(ErrorNumber::InvalidProcedureCall, "PictureWriter", details);
+}
+
+const QString title = QStringLiteral("V-g-f plot");
+
+void draw(EvmPlot& plot, QPaintDevice& device)
+{
+    QPainter painter;
+    if (!painter.begin(&device))
+        fail("the picture cannot be drawn");
+    PainterContext context(painter);
+    plot.Draw(context);
+    context.flush();
+    painter.end();
+}
+
+void writeSvg(EvmPlot& plot, QBuffer& buffer)
+{
+    SvgContext context(buffer, plot.size(), title);
+    plot.Draw(context);
+}
+
+QSizeF pagePoints(const EvmPlot& plot)
+{
+    return QSizeF(plot.size()) * pointsPerInch / pixelsPerInch;
+}
+
+void writePdf(EvmPlot& plot, QBuffer& buffer)
+{
+    QPdfWriter writer(&buffer);
+    writer.setResolution(pixelsPerInch);
+    writer.setTitle(title);
+    writer.setPageSize(
+        QPageSize(pagePoints(plot), QPageSize::Point, QString(), QPageSize::ExactMatch));
+    writer.setPageMargins(QMarginsF());
+    draw(plot, writer);
+}
+
+/// The toolkit rounds a page to whole points and lets the drawing begin at its upper left corner.
+/// Gives it the size it was asked for, in the place of the rounded one, so that nothing else in
+/// the file moves.
+QByteArray withExactPage(QByteArray pdf, QSizeF points)
+{
+    const QByteArray key = "/MediaBox [";
+    const qsizetype start = pdf.indexOf(key) + key.size();
+    const qsizetype length = pdf.indexOf(']', start) - start;
+    const QList<QByteArray> corners = pdf.mid(start, length).simplified().split(' ');
+    if (start < key.size() || corners.size() != 4)
+        fail("a page without a size");
+    const double top = corners[3].toDouble();
+    const auto text = [](double number) { return QByteArray::number(number, 'g', 9); };
+    const QByteArray box =
+        "0 " + text(top - points.height()) + ' ' + text(points.width()) + ' ' + text(top);
+    if (box.size() > length)
+        fail("a page size that does not fit into its place");
+    return pdf.replace(start, length, box.leftJustified(length));
+}
+
+} // namespace
+
+QImage pictureImage(EvmPlot& plot, double scale)
+{
+    QImage image(plot.size() * scale, QImage::Format_RGB32);
+    if (image.isNull())
+        fail("a bitmap of this size");
+    const int dotsPerMetre = qRound(scale * pixelsPerInch * inchesPerMetre);
+    image.setDotsPerMeterX(dotsPerMetre);
+    image.setDotsPerMeterY(dotsPerMetre);
+    image.setDevicePixelRatio(scale);
+    image.fill(Qt::white);
+    draw(plot, image);
+    image.setDevicePixelRatio(1);
+    return image;
+}
+
+QByteArray pictureBytes(EvmPlot& plot, PictureFormat format)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    switch (format) {
+    case PictureFormat::Svg:
+        writeSvg(plot, buffer);
+        break;
+    case PictureFormat::Pdf:
+        writePdf(plot, buffer);
+        return withExactPage(buffer.data(), pagePoints(plot));
+    case PictureFormat::Emf:
+        return plot.emfPicture();
+    case PictureFormat::Png:
+        if (!pictureImage(plot, 1).save(&buffer, "PNG"))
+            fail("the picture cannot be made");
+        break;
+    }
+    return buffer.data();
+}
+
+std::unique_ptr<QMimeData> pictureMimeData(EvmPlot& plot)
+{
+    auto data = std::make_unique<QMimeData>();
+    const QByteArray metafile = pictureBytes(plot, PictureFormat::Emf);
+    // One picture under the names that it goes by: there is no single one for metafiles.
+    data->setData(QStringLiteral("application/x-openoffice-emf;windows_formatname=\"Image EMF\""),
+                  metafile);
+    data->setData(QStringLiteral("image/x-emf"), metafile);
+    data->setData(QStringLiteral("image/emf"), metafile);
+    data->setData(QStringLiteral("image/svg+xml"), pictureBytes(plot, PictureFormat::Svg));
+    data->setImageData(pictureImage(plot, clipboardScale));
+    return data;
+}
+
+} // namespace tarsil

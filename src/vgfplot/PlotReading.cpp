@@ -1,0 +1,221 @@
+#include "vgfplot/PlotReading.h"
+
+#include "base/numbers/NumberFormat.h"
+#include "base/numbers/Numbers.h"
+#include "model/EVM.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace tarsil {
+
+namespace {
+
+/// The speeds within reach of a pixel.
+struct SpeedRange
+{
+    double low;
+    double high;
+};
+
+/// The range of t in which a line a + t d lies in a canvas.
+struct LinePart
+{
+    double begin = 0;
+    double end = 1;
+
+    /// Keeps the part whose coordinate from + t step is within 0 and last; false when none is left.
+    bool keepWithin(double from, double step, double last)
+    {
+        if (step == 0)
+            return from >= 0 && from <= last;
+        const double atFirst = -from / step;
+        const double atLast = (last - from) / step;
+        begin = std::max(begin, std::min(atFirst, atLast));
+        end = std::min(end, std::max(atFirst, atLast));
+        return begin <= end;
+    }
+};
+
+/// The place nearest to a pixel of all the curves that were looked at.
+struct NearestPlace
+{
+    double squaredDistance = curveReach * curveReach;
+    const Series* series = nullptr;
+    const Point* from = nullptr; ///< the points of the segment
+    const Point* to = nullptr;
+    double fraction = 0; ///< where between them, 0 to 1
+};
+
+/// Looks along the curves of one canvas.
+class CurveSearch
+{
+public:
+    CurveSearch(const ucPlot& canvas, float Point::*ordinate, QPoint pixel, SpeedRange speeds)
+        : m_canvas(canvas), m_ordinate(ordinate), m_pixel(pixel - canvas.geometry().topLeft()),
+          m_speeds(speeds)
+    { }
+
+    void lookAt(const Series& series, NearestPlace& nearest) const
+    {
+        const std::vector<Point>& points = series.Mode->Points;
+        for (std::size_t i = 1; i < points.size(); ++i) {
+            const Point& from = points[i - 1];
+            const Point& to = points[i];
+            const auto [low, high] = std::minmax(from.speed, to.speed);
+            if (high >= m_speeds.low && low <= m_speeds.high)
+                lookAt(series, from, to, nearest);
+        }
+    }
+
+private:
+    void lookAt(const Series& series, const Point& from, const Point& to,
+                NearestPlace& nearest) const
+    {
+        const QPointF start = m_canvas.pixelOf(from.speed, from.*m_ordinate);
+        const QPointF line = m_canvas.pixelOf(to.speed, to.*m_ordinate) - start;
+        LinePart part;
+        if (!part.keepWithin(start.x(), line.x(), m_canvas.Width() - 1)
+            || !part.keepWithin(start.y(), line.y(), m_canvas.Height() - 1))
+            return;
+        const double squaredLength = QPointF::dotProduct(line, line);
+        const double foot =
+            squaredLength == 0 ? 0 : QPointF::dotProduct(m_pixel - start, line) / squaredLength;
+        const double fraction = std::clamp(foot, part.begin, part.end);
+        const QPointF gap = start + fraction * line - m_pixel;
+        const double squaredDistance = QPointF::dotProduct(gap, gap);
+        if (squaredDistance <= nearest.squaredDistance)
+            nearest = {squaredDistance, &series, &from, &to, fraction};
+    }
+
+    const ucPlot& m_canvas;
+    float Point::*m_ordinate;
+    QPointF m_pixel; ///< relative to the canvas
+    SpeedRange m_speeds;
+};
+
+/// Whether a canvas draws lines for a series; it counts points in 16 bits.
+bool drawsLines(const Series& series)
+{
+    return series.Mode != nullptr && series.LineStyle != penstyle::none
+        && series.Mode->Points.size() <= std::numeric_limits<std::int16_t>::max();
+}
+
+CurveReading curveAt(const NearestPlace& place)
+{
+    const auto between = [&place](float Point::*value) {
+        return std::lerp(static_cast<double>(place.from->*value),
+                         static_cast<double>(place.to->*value), place.fraction);
+    };
+    const AeMode& mode = *place.series->Mode;
+    CurveReading reading;
+    if (mode.Parent != nullptr)
+        reading.evolution = QString::fromStdString(mode.Parent->FileName);
+    reading.mode = mode.Id;
+    reading.tag = place.series->MarkerTag;
+    reading.speed = between(&Point::speed);
+    reading.frequency = between(&Point::f);
+    reading.damping = between(&Point::G);
+    return reading;
+}
+
+std::optional<CurveReading> nearestCurve(const EvmPlot& plot, QPoint pixel, SpeedRange speeds)
+{
+    const CurveSearch frequencies(plot.vfPlot(), &Point::f, pixel, speeds);
+    const CurveSearch dampings(plot.vgPlot(), &Point::G, pixel, speeds);
+    NearestPlace nearest;
+    const auto lookAlong = [&](const CurveSearch& curves) {
+        for (const Series& series : plot.SeriesCollection()) {
+            if (drawsLines(series))
+                curves.lookAt(series, nearest);
+        }
+    };
+    if (plot.vfPlot().geometry().contains(pixel))
+        lookAlong(frequencies);
+    lookAlong(dampings);
+    if (nearest.series == nullptr)
+        return std::nullopt;
+    return curveAt(nearest);
+}
+
+QString numberText(double value, std::string_view pattern)
+{
+    return QString::fromStdString(formatNumber(value, pattern));
+}
+
+QString speedText(double speed)
+{
+    return QStringLiteral("V ") + numberText(speed, "0.0") + QStringLiteral(" KEAS");
+}
+
+QString frequencyText(double frequency)
+{
+    return QStringLiteral("f ") + numberText(frequency, "0.00") + QStringLiteral(" Hz");
+}
+
+QString dampingText(double damping)
+{
+    return QStringLiteral("g ") + numberText(damping, "0.0000");
+}
+
+QString curveText(const CurveReading& curve)
+{
+    QString text;
+    if (!curve.evolution.isEmpty())
+        text += curve.evolution + QStringLiteral(", ");
+    text += QStringLiteral("mode ") + QString::number(curve.mode);
+    if (!curve.tag.isEmpty())
+        text += QStringLiteral(" [") + curve.tag + QStringLiteral("]");
+    return text + QStringLiteral(": ")
+        + QStringList(
+              {speedText(curve.speed), frequencyText(curve.frequency), dampingText(curve.damping)})
+              .join(QStringLiteral(", "));
+}
+
+} // namespace
+
+std::optional<PlotReading> readAt(const EvmPlot& plot, QPoint pixel)
+{
+    const EvmPlot::Scale scale = plot.GetScale();
+    const bool hasEqualBounds =
+        scale.vmin == scale.vmax || scale.fmin == scale.fmax || scale.gmin == scale.gmax;
+    if (hasEqualBounds || !plot.vgPlot().geometry().contains(pixel))
+        return std::nullopt;
+    // `position`: a part of the way between two bounds, as a person reads them on the axes.
+    const auto valueAt = [](float low, float high, double position) {
+        return decimalValue(low) + position * (decimalValue(high) - decimalValue(low));
+    };
+    const auto speedAt = [&](int column) {
+        const double width = plot.vgPlot().Width();
+        return valueAt(scale.vmin, scale.vmax, (column - plot.vgPlot().Left()) / width);
+    };
+    const double half = plot.vfPlot().Height();
+    const double row = pixel.y() - plot.vfPlot().Top() - half;
+
+    PlotReading reading;
+    reading.speed = speedAt(pixel.x());
+    if (row < 0) {
+        reading.value = valueAt(scale.fmin, scale.fmax, -row / half);
+    } else {
+        reading.ordinate = PlotReading::Ordinate::Damping;
+        reading.value = valueAt(scale.gmin, scale.gmax, row / half);
+    }
+    // One pixel more, since the canvas draws on whole pixels.
+    const auto [low, high] =
+        std::minmax({speedAt(pixel.x() - curveReach - 1), speedAt(pixel.x() + curveReach + 1)});
+    reading.curve = nearestCurve(plot, pixel, {low, high});
+    return reading;
+}
+
+QString readingText(const PlotReading& reading)
+{
+    QString text = speedText(reading.speed) + QStringLiteral("   ");
+    text += reading.ordinate == PlotReading::Ordinate::Frequency ? frequencyText(reading.value)
+                                                                 : dampingText(reading.value);
+    if (reading.curve)
+        text += QStringLiteral("\n") + curveText(*reading.curve);
+    return text;
+}
+
+} // namespace tarsil

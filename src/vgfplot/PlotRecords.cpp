@@ -1,0 +1,179 @@
+#include "vgfplot/PlotRecords.h"
+
+#include "base/user/RunTimeError.h"
+#include "model/EVM.h"
+#include "plot/Series.h"
+#include "vgfplot/EvmPlot.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tarsil {
+
+namespace {
+
+// Places in `ertbTexts`.
+constexpr std::size_t header = 0;
+constexpr std::size_t legend = 1;
+constexpr std::size_t mechanism = 2;
+
+TextRecord recordOf(const emfRichTextBox& box)
+{
+    return {box.TextRTF(), BoxPosition {box.unitsLeft(), box.unitsTop()}};
+}
+
+AxisRecord axisRecord(const QString& label, float min, float max, std::int16_t ticks)
+{
+    return {label.toStdString(), min, max, ticks};
+}
+
+/// The place from 1 of a thing in a list; 0 when it is not there.
+template <typename List, typename Thing>
+std::int16_t placeIn(const List& list, const Thing* thing)
+{
+    const auto place =
+        std::find_if(list.begin(), list.end(), [thing](const auto& one) { return &*one == thing; });
+    return place == list.end() ? std::int16_t {0}
+                               : static_cast<std::int16_t>(place - list.begin() + 1);
+}
+
+SeriesRecord recordOf(const Series& series, const std::vector<const EVM*>& evolutions)
+{
+    SeriesRecord record;
+    if (series.Mode == nullptr || series.Mode->Parent == nullptr)
+        return record;
+    const EVM& evolution = *series.Mode->Parent;
+    record.evolution = placeIn(evolutions, &evolution);
+    record.mode = placeIn(evolution.Modes, series.Mode);
+    record.markerTag = series.MarkerTag.toStdString();
+    record.markerSize = series.MarkerSize;
+    record.markerSpacing = series.MarkerSpacing;
+    record.markerStyle = series.MarkerStyle;
+    record.legendText = series.LegendText.toStdString();
+    record.colorIndex = series.ColorIndex;
+    record.markerForegroundColor = series.MarkerForegroundColor;
+    record.lineStyle = series.LineStyle;
+    record.lineWidth = series.LineWidth;
+    record.factor = std::max(series.IthMpf, 1); // 0: nobody chose one
+    return record;
+}
+
+std::vector<MarkRecord> referenceSpeedsOf(const EvmPlot& plot)
+{
+    std::vector<MarkRecord> marks;
+    for (const RefThick& mark : plot.Refs())
+        marks.push_back({mark.Speed, mark.Caption.toStdString()});
+    return marks;
+}
+
+std::vector<MarkRecord> dampingLinesOf(const EvmPlot& plot)
+{
+    std::vector<MarkRecord> marks;
+    for (const EvmPlot::DampLine& line : plot.DampLines())
+        marks.push_back({line.g, line.Caption.toStdString()});
+    return marks;
+}
+
+void applyText(const TextRecord& record, std::size_t index, EvmPlot& plot)
+{
+    if (record.rtf) {
+        emfRichTextBox box;
+        box.setFont(plot.box(index).Font());
+        box.setTextRTF(*record.rtf);
+        plot.setBoxContent(index, box.content());
+    }
+    if (!record.position)
+        return;
+    if (index == header)
+        plot.setHeaderTop(record.position->top);
+    else
+        plot.moveBox(index, record.position->left, record.position->top);
+}
+
+[[noreturn]] void failAt(const SeriesRecord& record, const EvmPlot& plot, const char* what)
+{
+    throw RunTimeError(ErrorNumber::SubscriptOutOfRange, "mdlWorkSpace",
+                       "plot \"" + plot.Caption().toStdString() + "\": no " + what + " for mode "
+                           + std::to_string(record.mode) + " of modal evolution "
+                           + std::to_string(record.evolution));
+}
+
+void applySeries(const SeriesRecord& record, const std::vector<EVM*>& evolutions, EvmPlot& plot)
+{
+    const int evolutionCount = static_cast<int>(evolutions.size());
+    if (record.evolution < 1 || record.evolution > evolutionCount)
+        failAt(record, plot, "evolution");
+    EVM* const evolution = evolutions[static_cast<std::size_t>(record.evolution - 1)];
+    if (evolution == nullptr)
+        return;
+    if (record.mode < 1 || record.mode > static_cast<int>(evolution->Modes.size()))
+        failAt(record, plot, "mode");
+    Series& series = plot.addSeries(*evolution->Modes[static_cast<std::size_t>(record.mode - 1)]);
+    series.MarkerTag = QString::fromStdString(record.markerTag);
+    series.MarkerSize = record.markerSize;
+    series.MarkerSpacing = record.markerSpacing;
+    series.MarkerStyle = record.markerStyle;
+    series.LegendText = QString::fromStdString(record.legendText);
+    series.ColorIndex = record.colorIndex;
+    series.MarkerForegroundColor = record.markerForegroundColor;
+    series.LineStyle = record.lineStyle;
+    series.LineWidth = record.lineWidth;
+    series.IthMpf = record.factor;
+}
+
+/// After the scale, which says how long the damping lines are.
+void applyMarks(const PlotRecord& record, EvmPlot& plot)
+{
+    std::vector<RefThick> speeds;
+    for (const MarkRecord& mark : record.referenceSpeeds)
+        speeds.push_back({mark.value, QString::fromStdString(mark.caption)});
+    plot.setRefs(std::move(speeds));
+    std::vector<EvmPlot::DampLine> lines;
+    for (const MarkRecord& mark : record.dampingLines)
+        lines.push_back({mark.value, QString::fromStdString(mark.caption)});
+    plot.setDampLines(lines);
+}
+
+} // namespace
+
+PlotRecord recordOf(const EvmPlot& plot, const std::vector<const EVM*>& evolutions)
+{
+    PlotRecord record;
+    record.caption = plot.Caption().toStdString();
+    record.header = recordOf(plot.box(header));
+    record.legend = recordOf(plot.box(legend));
+    record.mechanism = recordOf(plot.box(mechanism));
+    const EvmPlot::Scale scale = plot.GetScale();
+    record.velAxis = axisRecord(plot.vLabel(), scale.vmin, scale.vmax, plot.vthicks());
+    record.freqAxis = axisRecord(plot.fLabel(), scale.fmin, scale.fmax, plot.fthicks());
+    record.gAxis = axisRecord(plot.gLabel(), scale.gmin, scale.gmax, plot.gthicks());
+    for (const Series& series : plot.SeriesCollection()) {
+        const SeriesRecord one = recordOf(series, evolutions);
+        if (one.evolution > 0 && one.mode > 0)
+            record.series.push_back(one);
+    }
+    record.referenceSpeeds = referenceSpeedsOf(plot);
+    record.dampingLines = dampingLinesOf(plot);
+    return record;
+}
+
+void applyRecord(const PlotRecord& record, const std::vector<EVM*>& evolutions, EvmPlot& plot)
+{
+    Q_EMIT plot.contentsReplaced();
+    applyText(record.header, header, plot);
+    applyText(record.mechanism, mechanism, plot);
+    applyText(record.legend, legend, plot);
+    plot.setVLabel(QString::fromStdString(record.velAxis.label));
+    plot.setFLabel(QString::fromStdString(record.freqAxis.label));
+    plot.setGLabel(QString::fromStdString(record.gAxis.label));
+    plot.setVthicks(record.velAxis.ticks);
+    plot.setFthicks(record.freqAxis.ticks);
+    plot.setGthicks(record.gAxis.ticks);
+    plot.SetScale(record.velAxis.min, record.velAxis.max, record.freqAxis.min, record.freqAxis.max,
+                  record.gAxis.min, record.gAxis.max);
+    applyMarks(record, plot);
+    for (const SeriesRecord& series : record.series)
+        applySeries(series, evolutions, plot);
+}
+
+} // namespace tarsil

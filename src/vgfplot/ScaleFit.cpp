@@ -1,0 +1,91 @@
+#include "vgfplot/ScaleFit.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace tarsil {
+
+namespace {
+
+constexpr double mostDamping = 0.5;
+constexpr double leastDamping = 0.02;
+constexpr double mostSteps = 10;
+constexpr double largestEnd = 1e38; ///< a single still holds it when it is rounded up
+constexpr double frequencyHeadroom = 1.02; ///< keeps the highest curve clear of the axis title
+
+bool isWhole(double number)
+{
+    return std::floor(number) == number;
+}
+
+/// The smallest round step that is not below `least`.
+double roundStep(double least, Steps steps)
+{
+    const bool onlyWhole = steps == Steps::Whole;
+    const double atLeast = onlyWhole ? std::max(least, 1.0) : least;
+    const double power = std::pow(10.0, std::floor(std::log10(atLeast)));
+    for (const double digit : {1.0, 2.0, 2.5, 5.0, 10.0}) {
+        const double step = digit * power;
+        if (step >= atLeast * (1 - 1e-9) && (!onlyWhole || isWhole(step)))
+            return step;
+    }
+    return 10 * power;
+}
+
+/// Largest speed, frequency and damping (either sign) of all points.
+struct Extent
+{
+    double speed = 0;
+    double frequency = 0;
+    double damping = 0;
+    bool hasPoints = false;
+};
+
+Extent extentOf(const SeriesList& series)
+{
+    Extent extent;
+    for (const Series& one : series) {
+        if (one.Mode == nullptr)
+            continue;
+        for (const Point& point : one.Mode->Points) {
+            extent.hasPoints = true;
+            extent.speed = std::max<double>(extent.speed, point.speed);
+            extent.frequency = std::max<double>(extent.frequency, point.f);
+            extent.damping = std::max<double>(extent.damping, std::fabs(point.G));
+        }
+    }
+    return extent;
+}
+
+} // namespace
+
+RoundRange roundRange(double low, double high, Steps steps)
+{
+    if (!(high > low))
+        high = low + 1;
+    const double step = roundStep((high - low) / mostSteps, steps);
+    const double first = std::floor(low / step + 1e-9);
+    const double last = std::ceil(high / step - 1e-9);
+    return {first * step, last * step, static_cast<int>(last - first)};
+}
+
+FittedAxes fitAxes(const SeriesList& series)
+{
+    FittedAxes axes;
+    const Extent extent = extentOf(series);
+    if (!extent.hasPoints)
+        return axes;
+    const RoundRange speed = roundRange(0, std::min(extent.speed, largestEnd), Steps::Whole);
+    const RoundRange frequency =
+        roundRange(0, std::min(frequencyHeadroom * extent.frequency, largestEnd));
+    const RoundRange damping = roundRange(0, std::clamp(extent.damping, leastDamping, mostDamping));
+    axes.scale.vmax = static_cast<float>(speed.high);
+    axes.scale.fmax = static_cast<float>(frequency.high);
+    axes.scale.gmax = -static_cast<float>(damping.high);
+    axes.thicks = {static_cast<std::int16_t>(speed.steps), static_cast<std::int16_t>(damping.steps),
+                   static_cast<std::int16_t>(frequency.steps)};
+    return axes;
+}
+
+} // namespace tarsil

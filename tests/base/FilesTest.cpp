@@ -1,0 +1,173 @@
+#include "base/files/AtomicFile.h"
+#include "base/user/RunTimeError.h"
+
+#include "support/TestFiles.h"
+
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+
+#include <filesystem>
+#include <iterator>
+#include <string>
+
+namespace tarsil {
+
+namespace {
+
+namespace fs = std::filesystem;
+using test::fileBytes;
+using test::TemporaryFolder;
+
+template <typename Action>
+int errorOf(Action action)
+{
+    try {
+        action();
+    } catch (const RunTimeError& error) {
+        return static_cast<int>(error.number());
+    }
+    return 0;
+}
+
+std::ptrdiff_t filesIn(const TemporaryFolder& folder)
+{
+    return std::distance(fs::directory_iterator(folder.path()), fs::directory_iterator());
+}
+
+TEST(AtomicFile, putsTheNewFileInPlaceOnCommit)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.write("a.txt", "old");
+    AtomicFile file(path);
+    file.write("new");
+    file.write(" text");
+    EXPECT_EQ(fileBytes(path), "old");
+    file.commit();
+    EXPECT_EQ(fileBytes(path), "new text");
+    EXPECT_EQ(filesIn(folder), 1);
+}
+
+TEST(AtomicFile, patchesWhatIsWrittenAndGoesOnBehindTheLastByte)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.file("a.txt");
+    AtomicFile file(path);
+    file.write("count ?, ");
+    file.write("first");
+    file.patch(6, "2");
+    file.write(", second");
+    file.commit();
+    EXPECT_EQ(fileBytes(path), "count 2, first, second");
+}
+
+TEST(AtomicFile, leavesTheOldFileWithoutCommit)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.write("a.txt", "old");
+    {
+        AtomicFile file(path);
+        file.write("new");
+    }
+    EXPECT_EQ(fileBytes(path), "old");
+    EXPECT_EQ(filesIn(folder), 1);
+}
+
+TEST(AtomicFile, makesAFileThatWasNotThere)
+{
+    const TemporaryFolder folder;
+    writeFile(folder.file("new file.txt"), "text");
+    EXPECT_EQ(fileBytes(folder.file("new file.txt")), "text");
+}
+
+TEST(AtomicFile, makesAnEmptyFile)
+{
+    const TemporaryFolder folder;
+    writeFile(folder.file("empty.txt"), {});
+    EXPECT_EQ(fileBytes(folder.file("empty.txt")), "");
+}
+
+TEST(AtomicFile, takesBackslashesInItsPath)
+{
+    const TemporaryFolder folder;
+    writeFile(folder.path().string() + "\\a.txt", "text");
+    EXPECT_EQ(fileBytes(folder.file("a.txt")), "text");
+}
+
+TEST(AtomicFile, refusesAReadOnlyTarget)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.write("a.txt", "old");
+    fs::permissions(path, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
+    EXPECT_EQ(errorOf([&] { writeFile(path, "new"); }), 70);
+    EXPECT_EQ(fileBytes(path), "old");
+    EXPECT_EQ(filesIn(folder), 1);
+}
+
+TEST(AtomicFile, refusesATargetMadeReadOnlyBeforeCommit)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.write("a.txt", "old");
+    AtomicFile file(path);
+    file.write("new");
+    fs::permissions(path, fs::perms::owner_read);
+    EXPECT_EQ(errorOf([&] { file.commit(); }), 70);
+    EXPECT_EQ(fileBytes(path), "old");
+}
+
+TEST(AtomicFile, refusesAFolderAsTarget)
+{
+    const TemporaryFolder folder;
+    EXPECT_EQ(errorOf([&] { writeFile(folder.path().string(), "x"); }), 75);
+    EXPECT_EQ(filesIn(folder), 0);
+}
+
+TEST(AtomicFile, refusesAPipeAndADeviceAsTarget)
+{
+    const TemporaryFolder folder;
+    const std::string pipe = folder.file("pipe");
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    EXPECT_EQ(errorOf([&] { writeFile(pipe, "x"); }), 75);
+    EXPECT_TRUE(fs::is_fifo(pipe));
+    EXPECT_EQ(errorOf([&] { writeFile("/dev/null", "x"); }), 75);
+    EXPECT_TRUE(fs::is_character_file("/dev/null"));
+}
+
+TEST(AtomicFile, takesTheLongestNameThatAFolderTakes)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.file(std::string(251, 'a') + ".txt");
+    writeFile(path, "text");
+    EXPECT_EQ(fileBytes(path), "text");
+    EXPECT_EQ(filesIn(folder), 1);
+}
+
+TEST(AtomicFile, refusesAMissingFolder)
+{
+    const TemporaryFolder folder;
+    EXPECT_EQ(errorOf([&] { writeFile(folder.file("missing") + "/a.txt", "x"); }), 76);
+}
+
+TEST(AtomicFile, keepsThePermissionsOfTheOldFile)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.write("a.txt", "old");
+    const auto permissions = fs::perms::owner_read | fs::perms::owner_write;
+    fs::permissions(path, permissions);
+    writeFile(path, "new");
+    EXPECT_EQ(fs::status(path).permissions(), permissions);
+}
+
+TEST(AtomicFile, writesThroughASymbolicLink)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.write("a.txt", "old");
+    fs::create_symlink(path, folder.file("link.txt"));
+    writeFile(folder.file("link.txt"), "new");
+    EXPECT_TRUE(fs::is_symlink(folder.file("link.txt")));
+    EXPECT_EQ(fileBytes(path), "new");
+}
+
+} // namespace
+
+} // namespace tarsil

@@ -1,0 +1,121 @@
+#include "base/files/PathNames.h"
+
+#include "support/TestFiles.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+
+namespace tarsil {
+
+namespace {
+
+using test::TemporaryFolder;
+
+TEST(PathNames, joinsWithABackslash)
+{
+    EXPECT_EQ(joinPath("/a/b", "wing 1.evm"), "/a/b\\wing 1.evm");
+    EXPECT_EQ(joinPath("", "x"), "\\x");
+}
+
+TEST(PathNames, takesBothSeparators)
+{
+    EXPECT_EQ(nativePath("a\\b/c.evm"), nativePath("a/b/c.evm"));
+    EXPECT_EQ(nativePath("/a/b\\c.evm").filename(), "c.evm");
+}
+
+TEST(PathNames, cutsAPathAtItsLastSeparator)
+{
+    const FilePath file = resolvePath("/data\\run 1/wing.evm");
+    EXPECT_EQ(file.folder, "/data/run 1");
+    EXPECT_EQ(file.name, "wing.evm");
+}
+
+TEST(PathNames, makesAPathAbsoluteAndPlain)
+{
+    const FilePath file = resolvePath("a/../wing.evm");
+    EXPECT_EQ(file.folder, pathText(std::filesystem::current_path()));
+    EXPECT_EQ(resolvePath("/data/./x/../wing.evm").folder, "/data");
+}
+
+TEST(PathNames, stepsUpFromWhereASymbolicLinkLeads)
+{
+    const TemporaryFolder folder;
+    std::filesystem::create_directories(folder.path() / "far" / "inner");
+    std::filesystem::create_directory_symlink(folder.path() / "far" / "inner", folder.file("link"));
+    folder.write("far/wing.evm", "x");
+    const FilePath file = resolvePath(folder.file("link") + "/../wing.evm");
+    EXPECT_TRUE(fileExists(joinPath(file.folder, file.name)));
+    EXPECT_EQ(resolvePath(folder.file("link") + "/a.evm").folder, folder.file("link"))
+        << "otherwise the user's own name of the folder stays";
+}
+
+TEST(PathNames, comesBackFromItsTwoPieces)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.write("wing \xC3\xBC.evm", "x");
+    const FilePath file = resolvePath(path);
+    EXPECT_TRUE(fileExists(joinPath(file.folder, file.name)));
+}
+
+TEST(PathNames, keepsNoSeparatorAtTheEndOfARootFolder)
+{
+    const FilePath file = resolvePath("/wing.evm");
+    EXPECT_EQ(file.folder, "");
+    EXPECT_EQ(nativePath(joinPath(file.folder, file.name)), "/wing.evm");
+}
+
+TEST(PathNames, showsARelativePathFromTheRootOn)
+{
+    const std::string here = std::filesystem::current_path().string();
+    EXPECT_EQ(wholePath("wing.evm"), here + "/wing.evm");
+    EXPECT_EQ(wholePath("runs\\wing.evm"), here + "/runs/wing.evm");
+    EXPECT_EQ(wholePath("/runs\\wing.evm"), "/runs/wing.evm");
+    EXPECT_EQ(wholePath("/wing.evm"), "/wing.evm");
+}
+
+TEST(PathNames, takesAFolderForNoFile)
+{
+    const TemporaryFolder folder;
+    EXPECT_FALSE(fileExists(folder.path().string()));
+    EXPECT_FALSE(fileExists(folder.file("missing")));
+    folder.write("there", "");
+    EXPECT_TRUE(fileExists(folder.file("there")));
+}
+
+TEST(PathNames, tellsAFileFromOthersWhateverThePath)
+{
+    const TemporaryFolder folder;
+    const std::string wing = folder.write("wing.evm", "x");
+    const std::string copy = folder.write("copy.evm", "x");
+    std::filesystem::create_symlink(wing, folder.file("soft.evm"));
+    std::filesystem::create_hard_link(wing, folder.file("hard.evm"));
+    const auto identity = fileIdentity(wing);
+    ASSERT_TRUE(identity);
+    EXPECT_EQ(fileIdentity(folder.file("soft.evm")), identity);
+    EXPECT_EQ(fileIdentity(folder.file("hard.evm")), identity);
+    EXPECT_EQ(fileIdentity(folder.path().string() + "\\wing.evm"), identity);
+    EXPECT_NE(fileIdentity(copy), identity);
+    EXPECT_EQ(fileIdentity(folder.file("missing")), std::nullopt);
+}
+
+TEST(PathNames, namesTheErrorOfAFailedFileOperation)
+{
+    const TemporaryFolder folder;
+    const auto numberOf = [](int code, const std::string& path) {
+        return fileError(code, "Test", path).number();
+    };
+    EXPECT_EQ(numberOf(ENOENT, folder.file("x")), ErrorNumber::FileNotFound);
+    EXPECT_EQ(numberOf(ENOENT, folder.file("missing") + "/x"), ErrorNumber::PathNotFound);
+    EXPECT_EQ(numberOf(ENOTDIR, "x"), ErrorNumber::PathNotFound);
+    EXPECT_EQ(numberOf(EACCES, "x"), ErrorNumber::PermissionDenied);
+    EXPECT_EQ(numberOf(ENOSPC, "x"), ErrorNumber::DiskFull);
+    EXPECT_EQ(numberOf(EDQUOT, "x"), ErrorNumber::DiskFull);
+    EXPECT_EQ(numberOf(EIO, "x"), ErrorNumber::DeviceInputOutput);
+    EXPECT_EQ(numberOf(EISDIR, "x"), ErrorNumber::PathFileAccess);
+    EXPECT_EQ(fileError(EACCES, "Test", "x.evm").description(), "Permission denied: x.evm");
+}
+
+} // namespace
+
+} // namespace tarsil

@@ -1,0 +1,239 @@
+// The series of a plot as rows of a grid.
+
+#include "datacontrol/SeriesGridModel.h"
+
+#include "analysis/ModeBuilder.h"
+#include "vgfplot/EvmPlot.h"
+
+#include <QAbstractItemModelTester>
+#include <QColor>
+#include <QIcon>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+using namespace tarsil;
+using ::testing::ElementsAre;
+
+namespace {
+
+class SeriesGridModelTest : public ::testing::Test
+{
+protected:
+    SeriesGridModelTest() : tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal)
+    {
+        evolution.Folder = "/runs";
+        evolution.FileName = "case.ev2";
+        for (std::int16_t id = 1; id <= 3; ++id)
+            test::addMode(evolution, id, {{100, -0.02F, 5}, {200, 0.01F, 6}});
+        addAll(plot);
+        model.setPlot(&plot);
+    }
+
+    void addAll(EvmPlot& to)
+    {
+        for (const auto& mode : evolution.Modes)
+            to.addSeries(*mode);
+        to.plot();
+    }
+    QModelIndex index(int row, SeriesColumn column)
+    {
+        return model.index(row, static_cast<int>(column));
+    }
+    std::string text(int row, SeriesColumn column, int role = Qt::DisplayRole)
+    {
+        return model.data(index(row, column), role).toString().toStdString();
+    }
+    bool type(int row, SeriesColumn column, const char* typed)
+    {
+        return model.setData(index(row, column), QString::fromLatin1(typed), Qt::EditRole);
+    }
+    /// Whether a mode number is marked as not drawn, in its colour and by a sign beside it.
+    bool isRed(int row)
+    {
+        const QModelIndex cell = index(row, SeriesColumn::Mode);
+        const bool hasSign = !model.data(cell, Qt::DecorationRole).value<QIcon>().isNull();
+        EXPECT_EQ(hasSign, !text(row, SeriesColumn::Mode, Qt::AccessibleDescriptionRole).empty());
+        return hasSign
+            && model.data(index(row, SeriesColumn::Mode), Qt::ForegroundRole).value<QColor>()
+            == QColor(Qt::red);
+    }
+
+    EVM evolution;
+    EvmPlot plot;
+    EvmPlot other;
+    SeriesGridModel model;
+    QAbstractItemModelTester tester;
+};
+
+} // namespace
+
+TEST_F(SeriesGridModelTest, namesRowsAndColumnsForAScreenReader)
+{
+    const auto heading = [this](int section, Qt::Orientation orientation, int role) {
+        return model.headerData(section, orientation, role).toString().toStdString();
+    };
+    const int line = static_cast<int>(SeriesColumn::Line);
+    EXPECT_EQ(heading(line, Qt::Horizontal, Qt::DisplayRole), "");
+    EXPECT_EQ(heading(line, Qt::Horizontal, Qt::AccessibleTextRole), "Line");
+    EXPECT_EQ(heading(3, Qt::Horizontal, Qt::AccessibleTextRole), "Mode");
+    for (const int role : {Qt::DisplayRole, Qt::AccessibleTextRole})
+        EXPECT_EQ(heading(2, Qt::Vertical, role), "Row 3");
+    EXPECT_EQ(heading(3, Qt::Vertical, Qt::DisplayRole), "") << "there are three rows";
+    EXPECT_EQ(heading(6, Qt::Horizontal, Qt::AccessibleTextRole), "");
+}
+
+TEST_F(SeriesGridModelTest, hasItsColumnsInTheirOrder)
+{
+    std::vector<std::string> headings;
+    for (int i = 0; i < model.columnCount(); ++i)
+        headings.push_back(
+            model.headerData(i, Qt::Horizontal, Qt::DisplayRole).toString().toStdString());
+    EXPECT_THAT(headings, ElementsAre("Idx", "Modal Evolution", "Tag", "Mode", "", "Legend"));
+}
+
+TEST_F(SeriesGridModelTest, showsARowForEachSeries)
+{
+    plot.SeriesCollection()[1].LegendText = QStringLiteral("torsion");
+    ASSERT_EQ(model.rowCount(), 3);
+    EXPECT_EQ(text(1, SeriesColumn::Index), "2");
+    EXPECT_EQ(text(1, SeriesColumn::Evolution), "case.ev2");
+    EXPECT_EQ(text(1, SeriesColumn::Tag), "1");
+    EXPECT_EQ(text(1, SeriesColumn::Mode), "2");
+    EXPECT_EQ(text(1, SeriesColumn::Line), "");
+    EXPECT_EQ(text(1, SeriesColumn::Legend), "torsion");
+    EXPECT_EQ(text(1, SeriesColumn::Line, Qt::AccessibleTextRole),
+              "solid, 1 px, red 0, green 0, blue 255"); // the second of the base colours
+    EXPECT_EQ(text(1, SeriesColumn::Evolution, Qt::ToolTipRole), "/runs/case.ev2");
+}
+
+TEST_F(SeriesGridModelTest, showsTextsOfFilesAsTheyStandInItsTips)
+{
+    plot.SeriesCollection()[1].LegendText = QStringLiteral("R&D");
+    EXPECT_EQ(text(1, SeriesColumn::Legend, Qt::ToolTipRole), "R&D");
+    plot.SeriesCollection()[1].LegendText = QStringLiteral("<b>x</b>");
+    EXPECT_NE(text(1, SeriesColumn::Legend, Qt::ToolTipRole).find("&lt;b&gt;x"), std::string::npos);
+    evolution.FileName = "R&D.ev2";
+    EXPECT_EQ(text(1, SeriesColumn::Evolution, Qt::ToolTipRole), "/runs/R&D.ev2");
+}
+
+TEST_F(SeriesGridModelTest, followsSeriesThatOthersAddAndRemove)
+{
+    plot.addSeries(*evolution.Modes[0]);
+    plot.plot();
+    EXPECT_EQ(model.rowCount(), 4);
+    plot.SeriesCollection().clear();
+    plot.plot();
+    EXPECT_EQ(model.rowCount(), 0);
+}
+
+TEST_F(SeriesGridModelTest, writesTagAndLegendIntoTheSeries)
+{
+    EXPECT_TRUE(type(0, SeriesColumn::Tag, "A"));
+    EXPECT_TRUE(type(0, SeriesColumn::Legend, "bending\r\n")); // as copied from a sheet
+    EXPECT_EQ(plot.SeriesCollection()[0].MarkerTag, QStringLiteral("A"));
+    EXPECT_EQ(plot.SeriesCollection()[0].LegendText, QStringLiteral("bending"));
+    EXPECT_FALSE(type(0, SeriesColumn::Index, "9"));
+    EXPECT_FALSE(type(0, SeriesColumn::Evolution, "other"));
+}
+
+TEST_F(SeriesGridModelTest, showsInRedWhatThePlotDoesNot)
+{
+    EXPECT_FALSE(isRed(0));
+    EXPECT_TRUE(type(0, SeriesColumn::Mode, "7"));
+    EXPECT_TRUE(isRed(0));
+    EXPECT_EQ(plot.SeriesCollection().size(), 2U) << "no mode, no curve";
+    EXPECT_EQ(text(0, SeriesColumn::Mode, Qt::ToolTipRole),
+              "There is no mode 7 in modal evolution case.ev2");
+    EXPECT_TRUE(type(0, SeriesColumn::Mode, "3"));
+    EXPECT_FALSE(isRed(0));
+    EXPECT_EQ(plot.SeriesCollection()[0].Mode, evolution.Modes[2].get());
+}
+
+TEST_F(SeriesGridModelTest, showsARowWithoutACurveAsTheOthers)
+{
+    EXPECT_TRUE(type(1, SeriesColumn::Mode, "0"));
+    EXPECT_TRUE(type(1, SeriesColumn::Legend, "torsion"));
+    plot.plot();
+    ASSERT_EQ(model.rowCount(), 3);
+    EXPECT_EQ(text(1, SeriesColumn::Evolution), "case.ev2");
+    EXPECT_EQ(text(1, SeriesColumn::Evolution, Qt::ToolTipRole), "/runs/case.ev2");
+    EXPECT_EQ(text(1, SeriesColumn::Tag), "1");
+    EXPECT_EQ(text(1, SeriesColumn::Mode), "0");
+    EXPECT_EQ(text(1, SeriesColumn::Legend), "torsion");
+    EXPECT_EQ(text(2, SeriesColumn::Mode), "3");
+}
+
+TEST_F(SeriesGridModelTest, raisesAndLowersARowThroughANumberThatNamesNoMode)
+{
+    evolution.na = 5; // the file declares more than it holds
+    const auto numbersOnTheWay = [this](bool up) {
+        std::vector<std::string> numbers;
+        for (int i = 0; i < 3; ++i) {
+            up ? model.raiseMode(2) : model.lowerMode(2);
+            numbers.push_back(text(2, SeriesColumn::Mode));
+        }
+        return numbers;
+    };
+    EXPECT_THAT(numbersOnTheWay(true), ElementsAre("4", "5", "5"));
+    EXPECT_EQ(plot.SeriesCollection().size(), 2U);
+    EXPECT_THAT(numbersOnTheWay(false), ElementsAre("4", "3", "2"));
+    EXPECT_EQ(plot.SeriesCollection().back().Mode, evolution.Modes[1].get());
+}
+
+TEST_F(SeriesGridModelTest, refusesAModeThatIsNoNumber)
+{
+    std::vector<std::string> reports;
+    QObject::connect(&model, &SeriesGridModel::refused,
+                     [&](const QModelIndex& cell, const QString& typed, const RunTimeError& error) {
+                         EXPECT_EQ(cell, model.index(1, static_cast<int>(SeriesColumn::Mode)));
+                         EXPECT_EQ(typed, reports.empty() ? u"two" : u"40000");
+                         reports.push_back(error.what());
+                     });
+    EXPECT_FALSE(type(1, SeriesColumn::Mode, "two"));
+    EXPECT_FALSE(type(1, SeriesColumn::Mode, "40000"));
+    EXPECT_EQ(text(1, SeriesColumn::Mode), "2");
+    ASSERT_EQ(reports.size(), 2U);
+    EXPECT_THAT(reports[0], ::testing::HasSubstr("Mode of row 2"));
+    EXPECT_THAT(reports[0], ::testing::HasSubstr("two"));
+    EXPECT_THAT(reports[1], ::testing::StartsWith("Overflow"));
+}
+
+TEST_F(SeriesGridModelTest, keepsWhatWasTypedWhileAnotherPlotIsShown)
+{
+    addAll(other);
+    EXPECT_TRUE(type(2, SeriesColumn::Mode, "8"));
+    model.setPlot(&other);
+    EXPECT_EQ(text(2, SeriesColumn::Mode), "3");
+    plot.addSeries(*evolution.Modes[0]); // meanwhile
+    model.setPlot(&plot);
+    EXPECT_EQ(text(2, SeriesColumn::Mode), "8");
+    EXPECT_EQ(text(3, SeriesColumn::Mode), "1");
+    model.setPlot(nullptr);
+    EXPECT_EQ(model.rowCount(), 0);
+}
+
+TEST_F(SeriesGridModelTest, removesAndMovesRowsWithTheirSeries)
+{
+    model.removeSeries({0, 2});
+    ASSERT_EQ(model.rowCount(), 1);
+    EXPECT_EQ(plot.SeriesCollection().front().Mode, evolution.Modes[1].get());
+    plot.addSeries(*evolution.Modes[2]);
+    plot.plot();
+    EXPECT_THAT(model.moveSeries({1}, 0), ElementsAre(0));
+    EXPECT_EQ(text(0, SeriesColumn::Mode), "3");
+    EXPECT_EQ(plot.SeriesCollection().front().Mode, evolution.Modes[2].get());
+}
+
+TEST_F(SeriesGridModelTest, saysWhenThePlotOrItsFirstSeriesAreNew)
+{
+    int replaced = 0;
+    QObject::connect(&model, &SeriesGridModel::rowsReplaced, [&replaced] { ++replaced; });
+    model.setPlot(&other);
+    EXPECT_EQ(replaced, 1);
+    addAll(other);
+    EXPECT_EQ(replaced, 2);
+    other.addSeries(*evolution.Modes[0]);
+    other.plot();
+    EXPECT_EQ(replaced, 2);
+}

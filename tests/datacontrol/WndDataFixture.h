@@ -1,0 +1,145 @@
+#pragma once
+
+#include "aircraft/AirplaneInfo.h"
+#include "analysis/ModeBuilder.h"
+#include "datacontrol/SeriesGridView.h"
+#include "datacontrol/WndData.h"
+#include "plotwindow/WndEvolPlot.h"
+#include "support/FormParts.h"
+#include "support/ScriptedUserInterface.h"
+
+#include <QAbstractItemModel>
+#include <QHeaderView>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <numeric>
+#include <string>
+#include <vector>
+
+namespace tarsil::test {
+
+using Texts = std::vector<std::string>;
+
+inline ScriptedUserInterface::Message warning(const std::string& text)
+{
+    return {text, "Tarsil", MessageIcon::Exclamation};
+}
+
+/// The Data Control window over a plot window, whose first plot is active, and an airplane with one
+/// mass configuration, two mechanisms and one envelope.
+class WndDataTest : public ::testing::Test
+{
+protected:
+    WndDataTest()
+        : plots(user), data(
+                           plots, airplane, [this] { return reference; }, user)
+    {
+        airplane.Filename = "/aircraft.inp";
+        airplane.VLTag = "VL";
+        airplane.VdTag = "Vd";
+        airplane.CeTag = "Ceiling";
+        airplane.MassConfs.push_back({"1 kg", "1", "0.1 m", "Clean wing", "clean"});
+        FlutterMechanism bending;
+        bending.ShortName = "BT";
+        bending.LongName = "Bending and torsion";
+        bending.vmin = 100;
+        bending.vmax = 400;
+        bending.vthick = 6;
+        bending.fmin = 2;
+        bending.fmax = 22;
+        bending.fthick = 4;
+        bending.gmin = 0;
+        bending.gmax = -0.5F;
+        bending.gthick = 2.5F;
+        FlutterMechanism store = bending;
+        store.ShortName = "STORE";
+        store.LongName = "Pitch of the store";
+        airplane.FlutterMechs = {bending, store};
+        airplane.FlutterEnvs.push_back({210, 180, 140, "0.78"});
+        data.fillMechanisms();
+        plots.resize(400, 300);
+        plots.ActivatePlot(plots.plots().front());
+    }
+
+    /// An evolution of `modes` modes with two points each.
+    EVM& load(const std::string& name, int modes = 3)
+    {
+        EVM& evolution = *evolutions.emplace_back(std::make_unique<EVM>());
+        evolution.Folder = "/runs";
+        evolution.FileName = name;
+        evolution.na = static_cast<std::int16_t>(modes);
+        evolution.flutterMethod = "PK";
+        evolution.Param.Airplane = "QRX200";
+        evolution.Param.Mass = "clean";
+        evolution.Param.Mach = 0.78F;
+        for (int mode = 1; mode <= modes; ++mode)
+            addMode(evolution, static_cast<std::int16_t>(mode),
+                    {{100, -0.02F, 5.0F + static_cast<float>(mode)}, {200, 0.01F, 6}});
+        return evolution;
+    }
+
+    /// Adds a mode (counted from 1) to the active plot as the explorer does.
+    void add(EVM& evolution, std::size_t mode = 1)
+    {
+        plots.AddSerie(*evolution.Modes.at(mode - 1));
+        plot().plot();
+    }
+
+    EvmPlot& plot() { return *plots.ActivePlot(); }
+    SeriesList& series() { return plot().SeriesCollection(); }
+
+    /// The numbers of the modes that the series draw.
+    std::vector<int> drawnModes()
+    {
+        std::vector<int> ids;
+        for (const Series& one : series())
+            ids.push_back(one.Mode->Id);
+        return ids;
+    }
+
+    SeriesGridView& grid() { return partOf<SeriesGridView>(data, "flxSerieViewer"); }
+    QAbstractItemModel& model() { return *grid().model(); }
+    std::string cell(int row, SeriesColumn column)
+    {
+        return model().index(row, static_cast<int>(column)).data().toString().toStdString();
+    }
+    Texts column(SeriesColumn column)
+    {
+        Texts texts;
+        for (int row = 0; row < model().rowCount(); ++row)
+            texts.push_back(cell(row, column));
+        return texts;
+    }
+    bool type(int row, SeriesColumn column, const std::string& text)
+    {
+        return model().setData(model().index(row, static_cast<int>(column)),
+                               QString::fromStdString(text), Qt::EditRole);
+    }
+    void select(std::size_t first, std::size_t count, SeriesColumn column)
+    {
+        std::vector<std::size_t> rows(count);
+        std::iota(rows.begin(), rows.end(), first);
+        grid().selectRows(rows, static_cast<int>(column));
+    }
+    /// Opens the editor of a cell and types over what stands there.
+    void startTyping(int row, SeriesColumn column, const std::string& text)
+    {
+        grid().setCurrentIndex(model().index(row, static_cast<int>(column)));
+        grid().edit(grid().currentIndex());
+        auto* const editor = openEditor(grid());
+        ASSERT_NE(editor, nullptr);
+        editor->setText(QString::fromStdString(text));
+    }
+    void click(const char* button) { test::click(data, button); }
+
+    std::vector<std::unique_ptr<EVM>> evolutions;
+    AirplaneInfo airplane;
+    const EVM* reference = nullptr;
+    ScriptedUserInterface user;
+    wndEvolPlot plots;
+    wndData data;
+};
+
+} // namespace tarsil::test

@@ -1,0 +1,85 @@
+#pragma once
+
+#include "model/EVM.h"
+#include "plotwindow/EvmPlotView.h"
+#include "plotwindow/WndEvolPlot.h"
+#include "support/ScriptedUserInterface.h"
+
+#include <QApplication>
+
+#include <gtest/gtest.h>
+
+namespace tarsil::test {
+
+/// A window with a listener that writes down what the window announces.
+class WndEvolPlotTest : public ::testing::Test
+{
+protected:
+    WndEvolPlotTest() : window(user) { window.resize(800, 600); }
+
+    void show()
+    {
+        window.show();
+        window.activateWindow();
+        QApplication::processEvents();
+    }
+
+    EvmPlot* plotAt(std::size_t place) { return window.plots().at(place); }
+    void activateFirst() { window.ActivatePlot(plotAt(0)); }
+    EvmPlot* add(const char* caption = "") { return &window.AddPlot(QString::fromLatin1(caption)); }
+
+    std::vector<std::string> captions() const
+    {
+        std::vector<std::string> result;
+        for (const EvmPlot* plot : window.plots())
+            result.push_back(plot->Caption().toStdString());
+        return result;
+    }
+
+    /// The captions of the plots that can be seen.
+    std::vector<std::string> visibleCaptions()
+    {
+        std::vector<std::string> result;
+        for (const EvmPlot* plot : window.plots()) {
+            EXPECT_EQ(plot->Visible(), !window.viewOf(*plot)->isHidden());
+            if (plot->Visible())
+                result.push_back(plot->Caption().toStdString());
+        }
+        return result;
+    }
+
+    /// What the window announces from now on, with the captions of the plots.
+    void listen()
+    {
+        const auto name = [](const EvmPlot* plot) {
+            return plot != nullptr ? plot->Caption().toStdString() : "none";
+        };
+        QObject::connect(&window, &wndEvolPlot::activePlotChanged, &window,
+                         [this, name](const EvmPlot* before, const EvmPlot* now) {
+                             EXPECT_EQ(window.ActivePlot(), now);
+                             announced.push_back("active " + name(before) + " " + name(now));
+                         });
+        QObject::connect(&window, &wndEvolPlot::plotAdded, &window,
+                         [this, name](const EvmPlot* plot) {
+                             EXPECT_EQ(window.plots().back(), plot);
+                             announced.push_back("added " + name(plot));
+                         });
+        QObject::connect(&window, &wndEvolPlot::plotAboutToBeRemoved, &window,
+                         [this, name](EvmPlot* plot) {
+                             EXPECT_NE(window.viewOf(*plot), nullptr); // still there
+                             EXPECT_NE(window.ActivePlot(), plot);
+                             announced.push_back("removed " + name(plot));
+                         });
+        QObject::connect(&window, &wndEvolPlot::plotMenuRequested, &window, [this](QPoint place) {
+            announced.push_back("menu " + std::to_string(place.x()) + ","
+                                + std::to_string(place.y()));
+        });
+    }
+
+    ScriptedUserInterface user;
+    EVM evolution;
+    wndEvolPlot window;
+    std::vector<std::string> announced;
+};
+
+} // namespace tarsil::test

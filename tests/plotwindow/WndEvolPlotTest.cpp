@@ -1,0 +1,331 @@
+// The plots of the window: which there are, which is active, and their series.
+
+#include "analysis/ModeBuilder.h"
+#include "plotwindow/WndEvolPlotFixture.h"
+#include "support/ErrorNumberOf.h"
+
+#include <gmock/gmock.h>
+
+using namespace tarsil;
+using test::errorNumberOf;
+using test::WndEvolPlotTest;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+namespace {
+
+const test::ScriptedUserInterface::Message pleaseActivate {"Please select activate a plot.",
+                                                           "Tarsil", MessageIcon::Exclamation};
+
+} // namespace
+
+TEST_F(WndEvolPlotTest, hasItsNamesAndTitle)
+{
+    EXPECT_EQ(window.objectName(), QStringLiteral("wndEvolPlot"));
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("V-g-f Plot"));
+    EXPECT_EQ(window.accessibleName(), QStringLiteral("V-g-f Plot"));
+}
+
+TEST_F(WndEvolPlotTest, namesTheActivePlotInItsTitle)
+{
+    EvmPlot* const second = add();
+    activateFirst();
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("V-g-f Plot - Plot1"));
+    window.ActivatePlot(second);
+    second->setCaption(QStringLiteral("clean %1 & [*]"));
+    plotAt(0)->setCaption(QStringLiteral("hidden"));
+    EXPECT_EQ(window.accessibleName(), QStringLiteral("V-g-f Plot - clean %1 & [*]"));
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("V-g-f Plot - clean %1 & [*][*]"))
+        << "the toolkit shows one for two";
+    window.RemovePlot(second);
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("V-g-f Plot - hidden"));
+    window.ActivatePlot(nullptr);
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("V-g-f Plot"));
+}
+
+TEST_F(WndEvolPlotTest, beginsWithPlot1AndNoActivePlot)
+{
+    show();
+    EXPECT_THAT(captions(), ElementsAre("Plot1"));
+    EXPECT_EQ(window.ActivePlot(), nullptr);
+    EXPECT_THAT(visibleCaptions(), IsEmpty());
+}
+
+TEST_F(WndEvolPlotTest, showsTheActivePlotAlone)
+{
+    show();
+    EvmPlot* const second = add();
+    activateFirst();
+    EXPECT_EQ(window.ActivePlot(), plotAt(0));
+    EXPECT_THAT(visibleCaptions(), ElementsAre("Plot1"));
+    window.ActivatePlot(second);
+    EXPECT_EQ(window.ActivePlot(), second);
+    EXPECT_THAT(visibleCaptions(), ElementsAre("Plot2"));
+    window.ActivatePlot(nullptr);
+    EXPECT_EQ(window.ActivePlot(), nullptr);
+    EXPECT_THAT(visibleCaptions(), IsEmpty());
+}
+
+TEST_F(WndEvolPlotTest, announcesWhichPlotWasActiveAndWhichIs)
+{
+    add();
+    listen();
+    activateFirst();
+    activateFirst(); // is already
+    window.ActivatePlot(plotAt(1));
+    window.ActivatePlot(nullptr);
+    window.ActivatePlot(nullptr);
+    EXPECT_THAT(announced,
+                ElementsAre("active none Plot1", "active Plot1 Plot2", "active Plot2 none"));
+}
+
+TEST_F(WndEvolPlotTest, activatesNoPlotOfAnotherWindow)
+{
+    activateFirst();
+    listen();
+    EvmPlot stranger;
+    EXPECT_EQ(errorNumberOf([&] { window.ActivatePlot(&stranger); }),
+              ErrorNumber::InvalidProcedureCall);
+    EXPECT_EQ(window.ActivePlot(), plotAt(0));
+    EXPECT_THAT(visibleCaptions(), ElementsAre("Plot1"));
+    EXPECT_THAT(announced, IsEmpty());
+}
+
+TEST_F(WndEvolPlotTest, namesANewPlotAfterItsPlace)
+{
+    listen();
+    EXPECT_EQ(add()->Caption(), QStringLiteral("Plot2"));
+    EXPECT_EQ(add("Wing")->Caption(), QStringLiteral("Wing"));
+    EXPECT_EQ(add()->Caption(), QStringLiteral("Plot4"));
+    EXPECT_THAT(captions(), ElementsAre("Plot1", "Plot2", "Wing", "Plot4"));
+    EXPECT_THAT(announced, ElementsAre("added Plot2", "added Wing", "added Plot4"));
+}
+
+TEST_F(WndEvolPlotTest, doesNotActivateANewPlot)
+{
+    show();
+    activateFirst();
+    add();
+    window.CopyPlot({});
+    EXPECT_EQ(window.ActivePlot(), plotAt(0));
+    EXPECT_THAT(visibleCaptions(), ElementsAre("Plot1"));
+}
+
+TEST_F(WndEvolPlotTest, namesACopyAfterTheActivePlotAndItsPlace)
+{
+    activateFirst();
+    listen();
+    EXPECT_EQ(window.CopyPlot({})->Caption(), QStringLiteral("Plot1(2)"));
+    EXPECT_EQ(window.CopyPlot(QStringLiteral("Wing"))->Caption(), QStringLiteral("Wing"));
+    window.ActivatePlot(plotAt(1));
+    EXPECT_EQ(window.CopyPlot({})->Caption(), QStringLiteral("Plot1(2)(4)"));
+    EXPECT_THAT(
+        announced,
+        ElementsAre("added Plot1(2)", "added Wing", "active Plot1 Plot1(2)", "added Plot1(2)(4)"));
+}
+
+TEST_F(WndEvolPlotTest, copiesTextsScaleAndPropertiesOfTheActivePlotButNoSeries)
+{
+    add();
+    window.ActivatePlot(plotAt(1));
+    EvmPlot& source = *plotAt(1);
+    source.setBoxText(0, QStringLiteral("header"));
+    source.SetScale(10, 500, 1, 40, 0.1F, -0.5F);
+    source.setVthicks(9);
+    source.setVLabel(QStringLiteral("speed"));
+    window.AddSerie(evolution.appendMode());
+    const EvmPlot& copy = *window.CopyPlot({});
+    EXPECT_EQ(copy.box(0).Text(), QStringLiteral("header"));
+    EXPECT_EQ(copy.GetScale(), (EvmPlot::Scale {10, 500, 1, 40, 0.1F, -0.5F}));
+    EXPECT_EQ(copy.vthicks(), 9);
+    EXPECT_EQ(copy.vLabel(), QStringLiteral("speed"));
+    EXPECT_TRUE(copy.SeriesCollection().empty());
+    EXPECT_EQ(source.Caption(), QStringLiteral("Plot2"));
+}
+
+TEST_F(WndEvolPlotTest, copiesNothingWithoutAnActivePlot)
+{
+    listen();
+    EXPECT_EQ(window.CopyPlot(QStringLiteral("Wing")), nullptr);
+    EXPECT_THAT(user.messages, ElementsAre(pleaseActivate));
+    EXPECT_THAT(captions(), ElementsAre("Plot1"));
+    EXPECT_THAT(announced, IsEmpty());
+}
+
+TEST_F(WndEvolPlotTest, countsTheNextIndexFromTheHighestInUse)
+{
+    EvmPlot* const second = add();
+    EvmPlot* const third = add();
+    window.RemovePlot(second);
+    EXPECT_EQ(add()->Caption(), QStringLiteral("Plot4")); // index 3, after 2
+    window.RemovePlot(plotAt(2));
+    window.RemovePlot(third);
+    EXPECT_EQ(add()->Caption(), QStringLiteral("Plot2")); // index 1, after 0
+    EXPECT_THAT(captions(), ElementsAre("Plot1", "Plot2"));
+}
+
+TEST_F(WndEvolPlotTest, overflowsAboveIndex32767)
+{
+    activateFirst();
+    EvmPlot* last = plotAt(0);
+    for (int index = 1; index <= 32767; ++index) {
+        EvmPlot* const next = add();
+        window.RemovePlot(last); // element 0 stays
+        last = next;
+    }
+    EXPECT_THAT(captions(), ElementsAre("Plot1", "Plot32768"));
+    listen();
+    EXPECT_EQ(errorNumberOf([this] { add(); }), ErrorNumber::Overflow);
+    EXPECT_EQ(errorNumberOf([this] { window.CopyPlot({}); }), ErrorNumber::Overflow);
+    EXPECT_THAT(captions(), ElementsAre("Plot1", "Plot32768"));
+    EXPECT_THAT(announced, IsEmpty());
+}
+
+TEST_F(WndEvolPlotTest, neverRemovesElement0WhetherItIsActiveOrNot)
+{
+    EvmPlot* const second = add();
+    listen();
+    for (EvmPlot* active : {second, plotAt(0)}) {
+        window.ActivatePlot(active);
+        announced.clear();
+        window.RemovePlot(plotAt(0));
+        EXPECT_THAT(captions(), ElementsAre("Plot1", "Plot2"));
+        EXPECT_EQ(window.ActivePlot(), active);
+        EXPECT_THAT(announced, IsEmpty());
+    }
+}
+
+TEST_F(WndEvolPlotTest, removesNothingForNoPlotOrAStranger)
+{
+    add();
+    listen();
+    EvmPlot stranger;
+    window.RemovePlot(nullptr);
+    window.RemovePlot(&stranger);
+    EXPECT_THAT(captions(), ElementsAre("Plot1", "Plot2"));
+    EXPECT_THAT(announced, IsEmpty());
+}
+
+TEST_F(WndEvolPlotTest, removesAPlotTogetherWithItsView)
+{
+    const auto views = [this] { return window.findChildren<EvmPlotView*>().size(); };
+    EvmPlot* const second = add();
+    ASSERT_EQ(views(), 2);
+    window.RemovePlot(second);
+    EXPECT_EQ(views(), 1);
+    EXPECT_THAT(captions(), ElementsAre("Plot1"));
+}
+
+TEST_F(WndEvolPlotTest, activatesThePredecessorOfAnActivePlotThatIsRemoved)
+{
+    show();
+    EvmPlot* const second = add();
+    EvmPlot* const third = add();
+    window.ActivatePlot(third);
+    listen();
+    window.RemovePlot(third);
+    EXPECT_EQ(window.ActivePlot(), second);
+    EXPECT_THAT(visibleCaptions(), ElementsAre("Plot2"));
+    window.RemovePlot(second);
+    EXPECT_EQ(window.ActivePlot(), plotAt(0));
+    EXPECT_THAT(visibleCaptions(), ElementsAre("Plot1"));
+    EXPECT_THAT(
+        announced,
+        ElementsAre("active Plot3 Plot2", "removed Plot3", "active Plot2 Plot1", "removed Plot2"));
+}
+
+TEST_F(WndEvolPlotTest, keepsTheActivePlotWhenAnotherIsRemoved)
+{
+    EvmPlot* const second = add();
+    activateFirst();
+    listen();
+    window.RemovePlot(second);
+    EXPECT_EQ(window.ActivePlot(), plotAt(0));
+    EXPECT_THAT(announced, ElementsAre("removed Plot2"));
+}
+
+TEST_F(WndEvolPlotTest, survivesAPlotThatIsAddedWhileOneIsRemoved)
+{
+    EvmPlot* const second = add();
+    QObject::connect(&window, &wndEvolPlot::plotAboutToBeRemoved, &window, [this] {
+        for (int i = 0; i < 20; ++i)
+            add();
+    });
+    window.RemovePlot(second);
+    ASSERT_EQ(window.plots().size(), 21U);
+    EXPECT_EQ(plotAt(1)->Caption(), QStringLiteral("Plot3"));
+}
+
+TEST_F(WndEvolPlotTest, addsASeriesToTheActivePlotOnly)
+{
+    EvmPlot* const second = add();
+    window.ActivatePlot(second);
+    AeMode& mode = evolution.appendMode();
+    window.AddSerie(mode);
+    EXPECT_TRUE(plotAt(0)->SeriesCollection().empty());
+    ASSERT_EQ(second->SeriesCollection().size(), 1U);
+    EXPECT_EQ(second->SeriesCollection()[0].Mode, &mode);
+    EXPECT_THAT(user.messages, IsEmpty());
+}
+
+TEST_F(WndEvolPlotTest, givesSeriesTheSevenColoursInTurnAndTheirNumberAsTag)
+{
+    activateFirst();
+    AeMode& mode = evolution.appendMode();
+    for (int i = 0; i < 8; ++i)
+        window.AddSerie(mode);
+    const SeriesList& series = plotAt(0)->SeriesCollection();
+    ASSERT_EQ(series.size(), 8U);
+    EXPECT_EQ(series[0].ColorIndex, rgb(128, 128, 128));
+    EXPECT_EQ(series[6].ColorIndex, rgb(191, 191, 0));
+    EXPECT_EQ(series[7].ColorIndex, rgb(128, 128, 128)); // 7 mod 7 = 0
+    EXPECT_EQ(series[0].MarkerTag, QStringLiteral("0"));
+    EXPECT_EQ(series[7].MarkerTag, QStringLiteral("7"));
+}
+
+TEST_F(WndEvolPlotTest, drawsNothingWhenASeriesIsAdded)
+{
+    show();
+    activateFirst();
+    const QImage before = plotAt(0)->Image().copy();
+    window.AddSerie(test::addMode(evolution, 1, {{100, -0.1F, 10}, {600, -0.2F, 40}}));
+    EXPECT_EQ(plotAt(0)->Image(), before);
+}
+
+TEST_F(WndEvolPlotTest, asksForAnActivePlotBeforeASeries)
+{
+    listen();
+    window.AddSerie(evolution.appendMode());
+    EXPECT_THAT(user.messages, ElementsAre(pleaseActivate));
+    EXPECT_TRUE(plotAt(0)->SeriesCollection().empty());
+    EXPECT_THAT(announced, IsEmpty());
+}
+
+TEST_F(WndEvolPlotTest, givesThePlotsThatItAddsTheAxesThatAreSet)
+{
+    activateFirst();
+    NewPlotDefaults defaults;
+    defaults.scale = EvmPlot::Scale {0, 100, 0, 10, 0, -1};
+    window.setNewPlotDefaults(defaults);
+    EXPECT_EQ(add()->GetScale(), *defaults.scale);
+    EXPECT_EQ(plotAt(1)->vthicks(), EvmPlot::Thicks().v);
+    window.setNewPlotDefaults({std::nullopt, EvmPlot::Thicks {4, 3, 2}});
+    EXPECT_EQ(add()->GetScale(), EvmPlot::Scale());
+    EXPECT_EQ(plotAt(2)->vthicks(), 4);
+    EXPECT_EQ(plotAt(2)->gthicks(), 3);
+    EXPECT_EQ(plotAt(2)->fthicks(), 2);
+    EXPECT_EQ(plotAt(0)->GetScale(), EvmPlot::Scale());
+    EXPECT_EQ(plotAt(0)->vthicks(), EvmPlot::Thicks().v);
+}
+
+TEST_F(WndEvolPlotTest, givesACopyTheAxesOfItsSource)
+{
+    activateFirst();
+    plotAt(0)->SetScale(0, 321, 0, 20, 0, -2);
+    plotAt(0)->setVthicks(9);
+    window.setNewPlotDefaults({EvmPlot::Scale {0, 100, 0, 10, 0, -1}, EvmPlot::Thicks {4, 3, 2}});
+    const EvmPlot& copy = *window.CopyPlot(QString());
+    EXPECT_EQ(copy.GetScale(), plotAt(0)->GetScale());
+    EXPECT_EQ(copy.vthicks(), 9);
+    EXPECT_EQ(copy.gthicks(), EvmPlot::Thicks().g);
+}

@@ -1,0 +1,131 @@
+// The metafile of a plot as other programs show it, where they are installed.
+
+#include "analysis/ModeBuilder.h"
+#include "support/Ink.h"
+#include "support/TestFiles.h"
+#include "vgfplot/EvmPlot.h"
+
+#include <QPainter>
+#include <QProcess>
+#include <QStandardPaths>
+
+#include <gtest/gtest.h>
+
+#include <utility>
+#include <vector>
+
+using namespace tarsil;
+using test::addMode;
+
+namespace {
+
+class EmfElsewhere : public ::testing::Test
+{
+protected:
+    EmfElsewhere()
+    {
+        plot.resize({800, 600});
+        // A curve from corner to corner shows where the canvas' clip is, and its ends where the
+        // axes are.
+        plot.addSeries(addMode(evolution, 1, {{0, -0.02F, 10}, {350, -0.1F, 20}, {700, 0.05F, 80}}))
+            .ColorIndex = rgb(0, 0, 255);
+        Series& dashed = plot.addSeries(addMode(evolution, 2, {{0, -0.2F, 45}, {700, -0.1F, 30}}));
+        dashed.ColorIndex = rgb(255, 0, 0);
+        dashed.LineStyle = penstyle::dash;
+        plot.Header().setTextRTF("{\\rtf1{\\fonttbl{\\f0 Arial;}}{\\colortbl ;\\red0\\green128"
+                                 "\\blue0;}\\f0\\fs36 The header of this plot \\cf1\\b in green"
+                                 "\\par\\plain\\fs20 second line\\par}");
+        plot.setBoxText(1, QStringLiteral("legend\nsecond"));
+        plot.setBoxText(2, QStringLiteral("below the header"));
+        plot.AddRef(352.1F, QStringLiteral("Vd"));
+        plot.AddDampLine(-0.1F, QStringLiteral("g = 10 %"));
+        plot.ExportPic(path("plot.emf"));
+    }
+
+    QString path(std::string_view name) const { return QString::fromStdString(folder.file(name)); }
+
+    /// Has a program make "plot.png" of the metafile.
+    QImage convert(const QString& program, const QStringList& arguments)
+    {
+        constexpr int patience = 120000; // milliseconds; the first start prepares a profile
+        QProcess process;
+        process.start(program, arguments);
+        EXPECT_TRUE(process.waitForFinished(patience)) << process.errorString().toStdString();
+        return QImage(path("plot.png")).convertToFormat(QImage::Format_RGB32);
+    }
+
+    /// Three pixels for rounding, for letters drawn by other means, and for a scale.
+    void expectTheScreen(const QImage& shown)
+    {
+        constexpr int tolerance = 3;
+        const QImage screen = plot.Image();
+        test::expectSameInk(shown, screen, tolerance, 0.98);
+        // Each text by itself, so that none of them can be missing.
+        const QRect canvas = plot.vgPlot().geometry();
+        const int axis = plot.velAxis().geometry().center().y();
+        const std::vector<std::pair<const char*, QRect>> parts = {
+            {"header", plot.Header().geometry()},
+            {"legend", plot.Legend().geometry()},
+            {"subtitle", plot.Mechanism().geometry()},
+            {"speed title", plot.velAxisLabel().geometry()},
+            {"damping title", plot.gAxisLabel().geometry()},
+            {"frequency title", plot.freqAxislabel().geometry()},
+            {"reference speed", {canvas.left() + 250, axis - 25, 120, 20}},
+            {"damping line", {canvas.right() - 60, canvas.top(), 60, canvas.height()}}};
+        for (const auto& [name, area] : parts)
+            EXPECT_GE(test::inkShare(screen, area, shown, tolerance), 0.9) << name;
+    }
+
+    test::TemporaryFolder folder;
+    EVM evolution;
+    EvmPlot plot;
+};
+
+/// A picture on white, as large as the plot.
+QImage laidOnWhite(const QImage& picture, QPoint corner, QSize size)
+{
+    QImage ground(size, QImage::Format_RGB32);
+    ground.fill(Qt::white);
+    QPainter(&ground).drawImage(corner, picture);
+    return ground;
+}
+
+} // namespace
+
+TEST_F(EmfElsewhere, looksLikeTheScreenInLibreOffice)
+{
+    const QString office = QStandardPaths::findExecutable(QStringLiteral("soffice"));
+    if (office.isEmpty())
+        GTEST_SKIP() << "LibreOffice is not installed";
+    const QImage page = convert(office,
+                                {QStringLiteral("-env:UserInstallation=file://") + path("profile"),
+                                 QStringLiteral("--headless"), QStringLiteral("--convert-to"),
+                                 QStringLiteral("png"), QStringLiteral("--outdir"),
+                                 QString::fromStdString(folder.path().string()), path("plot.emf")});
+    ASSERT_FALSE(page.isNull());
+    // The page is larger than the picture and shows it at a scale of its own: the inks are laid
+    // over each other.
+    const QRect onScreen = test::inkBounds(plot.Image());
+    const QRect onPage = test::inkBounds(page);
+    const double scale = double(onPage.width()) / onScreen.width();
+    EXPECT_NEAR(double(onPage.height()) / onScreen.height(), scale, 0.01 * scale);
+    const QImage ink =
+        page.copy(onPage).scaled(onScreen.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    expectTheScreen(laidOnWhite(ink, onScreen.topLeft(), plot.size()));
+}
+
+TEST_F(EmfElsewhere, looksLikeTheScreenInInkscapeAndIsAsLarge)
+{
+    const QString inkscape = QStandardPaths::findExecutable(QStringLiteral("inkscape"));
+    if (inkscape.isEmpty())
+        GTEST_SKIP() << "Inkscape is not installed";
+    const QImage picture = convert(inkscape,
+                                   {path("plot.emf"), QStringLiteral("--export-type=png"),
+                                    QStringLiteral("--export-filename=") + path("plot.png"),
+                                    QStringLiteral("--export-dpi=96")});
+    ASSERT_FALSE(picture.isNull());
+    // 96 pixels are an inch; the frame ends in the middle of the last pixel.
+    EXPECT_NEAR(picture.width(), 800, 1);
+    EXPECT_NEAR(picture.height(), 600, 1);
+    expectTheScreen(laidOnWhite(picture, {0, 0}, plot.size()));
+}

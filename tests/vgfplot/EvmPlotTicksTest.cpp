@@ -1,0 +1,183 @@
+// The axes and the canvases of a V-g-f plot agree: a point whose value is that of a tick falls on
+// the pixel of that tick, in every size, for all bounds and tick counts.
+
+#include "support/RecordingContext.h"
+#include "vgfplot/EvmPlot.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <string>
+
+using namespace tarsil;
+using test::RecordingContext;
+
+namespace {
+
+/// A plot and a record of it; tick k is the stroke after axis line, end mark and the ticks before.
+class Ticks
+{
+public:
+    Ticks(QSize size, const EvmPlot::Scale& scale, const EvmPlot::Thicks& thicks)
+        : m_scale(scale), m_thicks(thicks)
+    {
+        plot.resize(size);
+        plot.SetScale(scale);
+        plot.setVthicks(thicks.v);
+        plot.setGthicks(thicks.g);
+        plot.setFthicks(thicks.f);
+        plot.Draw(m_record);
+    }
+
+    /// Compares all ticks of the three axes with points of their values.
+    void expectAgreement() const
+    {
+        for (int k = 1; k < m_thicks.v; ++k) {
+            const float speed = tickValue(m_scale.vmin, m_scale.vmax, m_thicks.v, k);
+            for (const ucPlot* canvas : {&plot.vgPlot(), &plot.vfPlot()})
+                ASSERT_EQ(canvas->Left() + canvas->pixelOf(speed, 0).x(),
+                          tick(plot.velAxis(), k).x())
+                    << "speed " << speed;
+        }
+        for (int k = 1; k < m_thicks.f; ++k) { // Max is at the top
+            const float frequency = tickValue(m_scale.fmax, m_scale.fmin, m_thicks.f, k);
+            ASSERT_EQ(plot.vfPlot().Top() + plot.vfPlot().pixelOf(0, frequency).y(),
+                      tick(plot.freqAxis(), k).y())
+                << "frequency " << frequency;
+        }
+        for (int k = 1; k < m_thicks.g; ++k) { // Min is at the top
+            const float damping = tickValue(m_scale.gmin, m_scale.gmax, m_thicks.g, k);
+            ASSERT_EQ(plot.vgPlot().Top() + plot.vgPlot().pixelOf(0, damping).y(),
+                      tick(plot.gAxis(), k).y())
+                << "damping " << damping;
+        }
+    }
+
+    /// Where the axis line of the speed axis and damping gmin lie, in rows of the plot.
+    int speedAxisRow() const
+    {
+        return m_record.strokesFrom(plot.velAxis().geometry().topLeft())[0].from.y();
+    }
+    int rowOfDamping(double g) const
+    {
+        return plot.vgPlot().Top() + plot.vgPlot().pixelOf(0, g).y();
+    }
+
+    EvmPlot plot;
+
+private:
+    static float tickValue(double first, double last, int count, int k)
+    {
+        return static_cast<float>(first + k * ((last - first) / count));
+    }
+
+    /// The end of tick k that lies nearest to the axis' left or upper end.
+    QPoint tick(const PlotControl& axis, int k) const
+    {
+        return m_record.strokesFrom(axis.geometry().topLeft())
+            .at(static_cast<std::size_t>(k) + 1)
+            .from;
+    }
+
+    EvmPlot::Scale m_scale;
+    EvmPlot::Thicks m_thicks;
+    RecordingContext m_record;
+};
+
+/// Bounds and counts such as people type them, and others.
+class RandomPlots
+{
+public:
+    int whole(int low, int high) { return std::uniform_int_distribution<int>(low, high)(m_random); }
+    float number(double low, double high)
+    {
+        return static_cast<float>(std::uniform_real_distribution<double>(low, high)(m_random));
+    }
+    std::int16_t count() { return static_cast<std::int16_t>(whole(1, 20)); }
+    EvmPlot::Thicks counts() { return {count(), count(), count()}; }
+    QSize size() { return {whole(200, 2500), whole(150, 1600)}; }
+
+    EvmPlot::Scale roundScale()
+    {
+        const auto vmin = static_cast<float>(whole(0, 10) * 25);
+        const auto fmin = static_cast<float>(whole(0, 20));
+        return {vmin,
+                vmin + static_cast<float>(whole(1, 40) * 25),
+                fmin,
+                fmin + static_cast<float>(whole(1, 100)),
+                static_cast<float>(whole(-4, 4)) * 0.05F,
+                -static_cast<float>(whole(5, 20)) * 0.05F};
+    }
+
+    EvmPlot::Scale anyScale()
+    {
+        const float vmin = number(0, 300);
+        const float fmin = number(0, 40);
+        return {vmin,
+                vmin + number(10, 1000),
+                fmin,
+                fmin + number(1, 100),
+                number(-0.2, 0.2),
+                number(-1.5, -0.3)};
+    }
+
+private:
+    std::mt19937 m_random {20240229};
+};
+
+std::string textOf(QSize size, const EvmPlot::Scale& scale, const EvmPlot::Thicks& thicks)
+{
+    std::string text = std::to_string(size.width()) + " x " + std::to_string(size.height()) + ", ";
+    for (const float bound :
+         {scale.vmin, scale.vmax, scale.fmin, scale.fmax, scale.gmin, scale.gmax})
+        text += std::to_string(bound) + " ";
+    for (const int count : {thicks.v, thicks.g, thicks.f})
+        text += std::to_string(count) + " ";
+    return text;
+}
+
+void expectAgreement(QSize size, const EvmPlot::Scale& scale, const EvmPlot::Thicks& thicks)
+{
+    SCOPED_TRACE(textOf(size, scale, thicks));
+    Ticks(size, scale, thicks).expectAgreement();
+}
+
+} // namespace
+
+TEST(EvmPlotTicks, agreeWithTheCurvesInEverySize)
+{
+    for (int height = 150; height < 450 && !::testing::Test::HasFailure(); ++height)
+        expectAgreement({height + 100, height}, {}, {});
+}
+
+TEST(EvmPlotTicks, agreeWithTheCurvesForRoundBounds)
+{
+    RandomPlots random;
+    for (int i = 0; i < 400 && !::testing::Test::HasFailure(); ++i)
+        expectAgreement(random.size(), random.roundScale(), random.counts());
+}
+
+TEST(EvmPlotTicks, agreeWithTheCurvesForAnyBounds)
+{
+    RandomPlots random;
+    for (int i = 0; i < 400 && !::testing::Test::HasFailure(); ++i)
+        expectAgreement(random.size(), random.anyScale(), random.counts());
+}
+
+TEST(EvmPlotTicks, haveTheLowestDampingOnTheSpeedAxisInEverySize)
+{
+    RandomPlots random;
+    for (int i = 0; i < 100; ++i) {
+        const Ticks ticks(random.size(), {0, 700, 0, 50, 0.05F, -0.25F}, {});
+        ASSERT_EQ(ticks.rowOfDamping(0.05F), ticks.speedAxisRow());
+    }
+}
+
+TEST(EvmPlotTicks, showADampingBeyondTheLowestAboveTheSpeedAxis)
+{
+    const Ticks ticks({800, 600}, {}, {});
+    // The axis is row 330, and 0.25 are 252 pixels: 0.125 are 126.
+    EXPECT_EQ(ticks.speedAxisRow(), 330);
+    EXPECT_EQ(ticks.rowOfDamping(0.125), 204);
+    EXPECT_EQ(ticks.rowOfDamping(-0.125), 456);
+}

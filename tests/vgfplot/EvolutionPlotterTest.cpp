@@ -1,0 +1,152 @@
+#include "vgfplot/EvolutionPlotter.h"
+
+#include "analysis/ModeBuilder.h"
+#include "vgfplot/EvmPlot.h"
+
+#include <gtest/gtest.h>
+
+using namespace tarsil;
+using test::addMode;
+
+namespace {
+
+/// An evolution of `modes` modes, level at 10, 20, ... Hz from 100 to 600 knots.
+std::unique_ptr<EVM> evolutionOf(const std::string& name, std::int16_t modes, float mach = 0)
+{
+    auto evolution = std::make_unique<EVM>();
+    evolution->FileName = name;
+    evolution->Param.Airplane = "GOLAND WING";
+    evolution->Param.Mass = "CLEAN";
+    evolution->Param.Mach = mach;
+    evolution->flutterMethod = "PK";
+    for (std::int16_t i = 1; i <= modes; ++i) {
+        const float frequency = 10.0F * static_cast<float>(i);
+        addMode(*evolution, i, {{100, -0.125F, frequency}, {600, 0.125F, frequency}});
+    }
+    return evolution;
+}
+
+class EvolutionPlotter : public ::testing::Test
+{
+protected:
+    EvolutionPlotter() : one(evolutionOf("one.evm", 3, 0.5F)), two(evolutionOf("two.evm", 2, 0.8F))
+    { }
+
+    /// Draws every mode of these.
+    std::size_t plotAll(const std::vector<EVM*>& evolutions)
+    {
+        std::vector<EvolutionCurves> files;
+        for (EVM* evolution : evolutions)
+            files.push_back(allCurvesOf(*evolution));
+        return plotCurves(plot, files);
+    }
+
+    std::unique_ptr<EVM> one;
+    std::unique_ptr<EVM> two;
+    EvmPlot plot;
+};
+
+} // namespace
+
+TEST_F(EvolutionPlotter, drawsOneCurveForEachMode)
+{
+    plotAll({one.get(), two.get()});
+    const SeriesList& series = plot.SeriesCollection();
+    ASSERT_EQ(series.size(), 5U);
+    EXPECT_EQ(series[0].Mode->Id, 1);
+    EXPECT_EQ(series[2].Mode->Id, 3);
+    EXPECT_EQ(series[3].Mode->Id, 1);
+    EXPECT_EQ(series[0].LegendText, QStringLiteral("one.evm"));
+    EXPECT_EQ(series[4].LegendText, QStringLiteral("two.evm"));
+}
+
+TEST_F(EvolutionPlotter, fitsTheAxesOfAnEmptyPlotOnly)
+{
+    plotAll({one.get()});
+    const EvmPlot::Scale fitted = plot.GetScale();
+    EXPECT_GE(fitted.vmax, 600.0F);
+    EXPECT_GE(fitted.fmax, 30.0F);
+    EXPECT_LE(fitted.gmax, -0.125F);
+    EvmPlot::Scale own = fitted;
+    own.vmax = 123;
+    plot.SetScale(own);
+    plotAll({two.get()});
+    EXPECT_EQ(plot.GetScale(), own) << "the user's scale stays";
+}
+
+TEST_F(EvolutionPlotter, leavesAScaleAloneThatTheUserSetBefore)
+{
+    EvmPlot::Scale own;
+    own.vmax = 123;
+    plot.SetScale(own);
+    plotAll({one.get()});
+    EXPECT_EQ(plot.GetScale(), own);
+}
+
+TEST_F(EvolutionPlotter, drawsTheFirstOnesOfTooMany)
+{
+    std::vector<std::unique_ptr<EVM>> many;
+    std::vector<EVM*> evolutions;
+    for (int i = 0; i < 60; ++i) {
+        many.push_back(evolutionOf("many.evm", 10));
+        evolutions.push_back(many.back().get());
+    }
+    EXPECT_EQ(plotAll(evolutions), 50U) << "500 curves";
+    EXPECT_EQ(plot.SeriesCollection().size(), 500U);
+    EXPECT_EQ(plotAll({one.get()}), 0U);
+}
+
+TEST_F(EvolutionPlotter, headsThePlotWithItsCase)
+{
+    plotAll({one.get()});
+    EXPECT_EQ(plot.Header().Text().toStdString(),
+              "GOLAND WING - CLEAN\r\nPK Method - Mach No. 0.50");
+    EXPECT_EQ(plot.Mechanism().Text().toStdString(), "one.evm");
+}
+
+TEST_F(EvolutionPlotter, headsThePlotWithWhatAllFilesHaveInCommon)
+{
+    plotAll({one.get(), two.get()});
+    EXPECT_EQ(plot.Header().Text().toStdString(), "GOLAND WING - CLEAN\r\nPK Method");
+    EXPECT_EQ(plot.Mechanism().Text().toStdString(), "one.evm, two.evm");
+}
+
+TEST_F(EvolutionPlotter, leavesTextsOfTheUserAlone)
+{
+    plot.setBoxText(0, QStringLiteral("my header"));
+    plotAll({one.get()});
+    EXPECT_EQ(plot.Header().Text(), QStringLiteral("my header"));
+}
+
+TEST_F(EvolutionPlotter, givesEachFileALineStyleOfItsOwnAlsoWhenItComesLater)
+{
+    plotAll({one.get()});
+    plotAll({two.get()});
+    const SeriesList& series = plot.SeriesCollection();
+    ASSERT_EQ(series.size(), 5U);
+    EXPECT_EQ(series[0].LineStyle, penstyle::solid);
+    EXPECT_EQ(series[2].LineStyle, penstyle::solid);
+    EXPECT_NE(series[3].LineStyle, penstyle::solid);
+    EXPECT_EQ(series[4].LineStyle, series[3].LineStyle);
+}
+
+TEST_F(EvolutionPlotter, doesNothingWithoutEvolutions)
+{
+    plotAll({});
+    EXPECT_TRUE(plot.SeriesCollection().empty());
+    EXPECT_EQ(plot.GetScale(), EvmPlot::Scale());
+}
+
+TEST_F(EvolutionPlotter, drawsTheModesAskedForWithTheMarkersAskedFor)
+{
+    const EvolutionCurves curves {one.get(), {one->Modes[2].get(), one->Modes[0].get()}};
+    plotCurves(plot, {curves}, {markerstyle::participationFactor, 3, 7, 12});
+    const SeriesList& series = plot.SeriesCollection();
+    ASSERT_EQ(series.size(), 2U);
+    EXPECT_EQ(series[0].Mode->Id, 3);
+    EXPECT_EQ(series[1].Mode->Id, 1);
+    EXPECT_EQ(series[1].MarkerStyle, markerstyle::participationFactor);
+    EXPECT_EQ(series[1].IthMpf, 3);
+    EXPECT_EQ(series[1].MarkerSpacing, 7);
+    EXPECT_EQ(series[1].MarkerSize, 12);
+}
