@@ -29,6 +29,7 @@ function(tarsil_library name)
   set(target tarsil_${name})
   add_library(${target} STATIC ${LIB_SOURCES})
   add_library(tarsil::${name} ALIAS ${target})
+  set_property(GLOBAL APPEND PROPERTY TARSIL_LIBRARIES ${name})
   list(TRANSFORM LIB_HEADERS PREPEND ${PROJECT_SOURCE_DIR}/src/ OUTPUT_VARIABLE headers)
   target_sources(${target} PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR}/src FILES ${headers})
   target_link_libraries(

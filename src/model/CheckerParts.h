@@ -71,7 +71,6 @@ public:
 
     std::size_t modeCount() const { return m_modes; }
     std::size_t wholeModeCount() const { return m_wholeModes; }
-    bool isInsideMode() const { return m_points > 0; }
 
 private:
     bool isFull() const;

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -11,6 +12,11 @@
 namespace tarsil {
 
 namespace {
+
+std::u16string decodeCodePage(int codePage, std::string_view bytes)
+{
+    return CodePageDecoder().decode(codePage, bytes);
+}
 
 TEST(CodePages, readWindows1252WithItsUnusedBytesAsControls)
 {

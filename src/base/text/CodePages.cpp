@@ -166,9 +166,4 @@ std::u16string CodePageDecoder::decode(int codePage, std::string_view bytes)
     return table == nullptr ? decodeWindows1252(bytes) : table->decode(bytes);
 }
 
-std::u16string decodeCodePage(int codePage, std::string_view bytes)
-{
-    return CodePageDecoder().decode(codePage, bytes);
-}
-
 } // namespace tarsil

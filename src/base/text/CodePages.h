@@ -46,7 +46,4 @@ private:
     std::unordered_map<int, std::unique_ptr<Converter>> m_converters;
 };
 
-/// The same for a single text.
-std::u16string decodeCodePage(int codePage, std::string_view bytes);
-
 } // namespace tarsil
