@@ -4,6 +4,7 @@
 #include "aircraft/AirplaneInfoReader.h"
 #include "base/files/TextStream.h"
 #include "base/user/RunTimeError.h"
+#include "support/Errors.h"
 
 #include <optional>
 #include <string_view>
@@ -33,11 +34,7 @@ inline StoppedReading readUntilError(std::string_view text)
 {
     StoppedReading result;
     TextStream stream(text, "wing.inp");
-    try {
-        readAirplaneInfo(stream, result.info);
-    } catch (const RunTimeError& error) {
-        result.error = error;
-    }
+    result.error = errorOf([&] { readAirplaneInfo(stream, result.info); });
     return result;
 }
 

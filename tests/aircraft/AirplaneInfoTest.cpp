@@ -1,5 +1,6 @@
 #include "AircraftFixtures.h"
 
+#include "support/Errors.h"
 #include "support/TestFiles.h"
 
 #include <gtest/gtest.h>
@@ -8,6 +9,8 @@ namespace tarsil {
 
 namespace {
 
+using test::errorNumberOf;
+using test::errorTextOf;
 using test::readText;
 using test::TemporaryFolder;
 
@@ -15,17 +18,6 @@ constexpr std::string_view oneOfEach = //
     "[MASS CONFIG. DESCRIPTION]\nm=CLEAN|b|c|d|e\n\n"
     "[FLUTTER MECHANISM]\nWBT|b|1|2|3|4|5|6|7|8|9\n\n"
     "[FLUTTER ENVELOPE]\nTAG=VL|Vd|Ce\n0.40=1|2|3\n";
-
-/// Number of the error that `Create` raises; 0 for none.
-int createError(AirplaneInfo& info)
-{
-    try {
-        info.Create();
-    } catch (const RunTimeError& error) {
-        return static_cast<int>(error.number());
-    }
-    return 0;
-}
 
 TEST(AirplaneInfo, isCreatedFromItsFile)
 {
@@ -74,13 +66,13 @@ TEST(AirplaneInfo, staysAsItIsWhenItsFileIsMissing)
     info.Filename = folder.write("wing.inp", oneOfEach);
     info.Create();
     info.Filename = folder.file("missing.inp");
-    EXPECT_EQ(createError(info), 53);
+    EXPECT_EQ(errorNumberOf([&info] { info.Create(); }), ErrorNumber::FileNotFound);
     EXPECT_EQ(info.FlutterMechs.size(), 1U);
     EXPECT_EQ(info.CeTag, "Ce");
     info.Filename = folder.path().string();
-    EXPECT_EQ(createError(info), 75); // a folder
+    EXPECT_EQ(errorNumberOf([&info] { info.Create(); }), ErrorNumber::PathFileAccess); // a folder
     info.Filename = folder.file("no folder\\wing.inp");
-    EXPECT_EQ(createError(info), 76);
+    EXPECT_EQ(errorNumberOf([&info] { info.Create(); }), ErrorNumber::PathNotFound);
     EXPECT_EQ(info.FlutterMechs.size(), 1U);
 }
 
@@ -88,14 +80,9 @@ TEST(AirplaneInfo, keepsWhatWasReadBeforeAnError)
 {
     const TemporaryFolder folder;
     AirplaneInfo info;
-    info.Filename = folder.write("wing.inp", std::string(oneOfEach) + "0.50=4|five|6\n");
-    try {
-        info.Create();
-        FAIL() << "the entry is no envelope";
-    } catch (const RunTimeError& error) {
-        EXPECT_EQ(error.description(),
-                  "Type mismatch: " + info.Filename + ", line 10, field 1 (Vd): \"five\"");
-    }
+    info.Filename = folder.write("wing.inp", std::string(oneOfEach).append("0.50=4|five|6\n"));
+    EXPECT_EQ(errorTextOf([&info] { info.Create(); }),
+              "13 Type mismatch: " + info.Filename + ", line 10, field 1 (Vd): \"five\"");
     EXPECT_EQ(info.MassConfs.size(), 1U);
     EXPECT_EQ(info.FlutterMechs.size(), 1U);
     EXPECT_EQ(info.FlutterEnvs.size(), 1U);

@@ -2,6 +2,7 @@
 
 #include "analysis/ModeBuilder.h"
 #include "base/user/RunTimeError.h"
+#include "support/Errors.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -10,24 +11,10 @@
 
 using namespace tarsil;
 using test::addMode;
+using test::errorOf;
 using ::testing::HasSubstr;
 
-namespace {
-
-/// The run-time error of a search that must fail.
-template <typename Search>
-RunTimeError errorOf(Search search)
-{
-    try {
-        search();
-    } catch (const RunTimeError& error) {
-        return error;
-    }
-    ADD_FAILURE() << "no error";
-    return {ErrorNumber::InvalidProcedureCall, "", ""};
-}
-
-} // namespace
+namespace { } // namespace
 
 TEST(Crossings, lieWhereTheStraightLineReachesTheReference)
 {
@@ -169,10 +156,10 @@ TEST(Crossings, areRefusedBetweenTwoPointsOfTheSameSpeed)
     evolution.Folder = "folder";
     evolution.FileName = "twice.ev2";
     AeMode& mode = addMode(evolution, 7, {{100, -1, 1}, {200, 1, 2}, {300, 2, 3}, {300, -2, 4}});
-    const RunTimeError error = errorOf([&mode] { FlutterPtsCalc(mode, 0); });
-    EXPECT_EQ(error.number(), ErrorNumber::DivisionByZero);
-    EXPECT_EQ(error.source(), "AeMode");
-    EXPECT_EQ(error.description(),
+    const auto error = errorOf([&mode] { FlutterPtsCalc(mode, 0); });
+    EXPECT_EQ(error.value().number(), ErrorNumber::DivisionByZero);
+    EXPECT_EQ(error.value().source(), "AeMode");
+    EXPECT_EQ(error.value().description(),
               "Division by zero: folder/twice.ev2, mode 7, between the speeds 300 and 300");
     EXPECT_EQ(mode.flutterPoints.size(), 1U) << "what was found before stays";
 }
@@ -211,9 +198,9 @@ TEST(Crossings, refuseAValueThatNoSingleHolds)
     EVM evolution;
     const float infinite = std::numeric_limits<float>::infinity(); // read from no file
     AeMode& mode = addMode(evolution, 3, {{100, -infinite}, {200, 1}});
-    const RunTimeError error = errorOf([&mode] { FlutterPtsCalc(mode, 0); });
-    EXPECT_EQ(error.number(), ErrorNumber::Overflow);
-    EXPECT_EQ(error.description(), "Overflow: mode 3, between the speeds 100 and 200");
+    const auto error = errorOf([&mode] { FlutterPtsCalc(mode, 0); });
+    EXPECT_EQ(error.value().number(), ErrorNumber::Overflow);
+    EXPECT_EQ(error.value().description(), "Overflow: mode 3, between the speeds 100 and 200");
 }
 
 TEST(MaximumDamping, isTheLargestUpToTheSpeedLimit)
@@ -260,7 +247,7 @@ TEST(MaximumDamping, needsAPoint)
     evolution.FileName = "empty.ev2";
     const AeMode& mode = addMode(evolution, 4, {});
     double speed = -1;
-    const RunTimeError error = errorOf([&] { gMaxCalc(mode, 100, speed); });
-    EXPECT_EQ(error.number(), ErrorNumber::SubscriptOutOfRange);
-    EXPECT_THAT(error.description(), HasSubstr("empty.ev2, mode 4 has no points"));
+    const auto error = errorOf([&] { gMaxCalc(mode, 100, speed); });
+    EXPECT_EQ(error.value().number(), ErrorNumber::SubscriptOutOfRange);
+    EXPECT_THAT(error.value().description(), HasSubstr("empty.ev2, mode 4 has no points"));
 }

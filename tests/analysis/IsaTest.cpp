@@ -1,6 +1,7 @@
 #include "analysis/Isa.h"
 
 #include "base/user/RunTimeError.h"
+#include "support/Errors.h"
 
 #include <gtest/gtest.h>
 
@@ -22,16 +23,11 @@ double speedAtRatio(double delta)
     return std::sqrt(delta * squareOfSoundSpeed);
 }
 
-ErrorNumber errorOf(double eas, double mach, const char* units)
+ErrorNumber altitudeError(double eas, double mach, const char* units)
 {
-    try {
-        IsaAltitude(eas, mach, units);
-    } catch (const RunTimeError& error) {
-        EXPECT_EQ(error.source(), "ISA");
-        return error.number();
-    }
-    ADD_FAILURE() << "no error";
-    return {};
+    const auto error = test::errorOf([&] { IsaAltitude(eas, mach, units); });
+    EXPECT_EQ(error.value().source(), "ISA");
+    return error->number();
 }
 
 } // namespace
@@ -95,24 +91,24 @@ TEST(Isa, followsTheExponentialLawAboveTheTropopause)
 
 TEST(Isa, refusesMachZero)
 {
-    EXPECT_EQ(errorOf(300, 0, "knot"), ErrorNumber::DivisionByZero);
+    EXPECT_EQ(altitudeError(300, 0, "knot"), ErrorNumber::DivisionByZero);
 }
 
 TEST(Isa, refusesSpeedZero)
 {
-    EXPECT_EQ(errorOf(0, 0.5, "knot"), ErrorNumber::InvalidProcedureCall);
+    EXPECT_EQ(altitudeError(0, 0.5, "knot"), ErrorNumber::InvalidProcedureCall);
 }
 
 TEST(Isa, comparesUnitsExactly)
 {
-    EXPECT_EQ(errorOf(300, 0.5, "Knot"), ErrorNumber::InvalidProcedureCall);
-    EXPECT_EQ(errorOf(300, 0.5, "m/s"), ErrorNumber::InvalidProcedureCall);
-    EXPECT_EQ(errorOf(300, 0.5, ""), ErrorNumber::InvalidProcedureCall);
+    EXPECT_EQ(altitudeError(300, 0.5, "Knot"), ErrorNumber::InvalidProcedureCall);
+    EXPECT_EQ(altitudeError(300, 0.5, "m/s"), ErrorNumber::InvalidProcedureCall);
+    EXPECT_EQ(altitudeError(300, 0.5, ""), ErrorNumber::InvalidProcedureCall);
 }
 
 TEST(Isa, refusesWhatNoDoubleHolds)
 {
-    EXPECT_EQ(errorOf(1e200, 1, "mps"), ErrorNumber::Overflow);
-    EXPECT_EQ(errorOf(300, std::numeric_limits<double>::denorm_min(), "knot"),
+    EXPECT_EQ(altitudeError(1e200, 1, "mps"), ErrorNumber::Overflow);
+    EXPECT_EQ(altitudeError(300, std::numeric_limits<double>::denorm_min(), "knot"),
               ErrorNumber::Overflow);
 }

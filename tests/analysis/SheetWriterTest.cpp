@@ -4,6 +4,7 @@
 #include "analysis/XlsxParts.h"
 #include "analysis/XlsxReader.h"
 #include "base/user/RunTimeError.h"
+#include "support/Errors.h"
 #include "support/TestFiles.h"
 
 #include <gmock/gmock.h>
@@ -12,6 +13,7 @@
 #include <cmath>
 #include <csignal>
 #include <cstdlib>
+#include <optional>
 #include <string>
 #include <sys/resource.h>
 
@@ -35,15 +37,9 @@ Sheet example()
     return sheet;
 }
 
-RunTimeError errorOf(const Sheet& sheet, const std::string& path)
+std::optional<RunTimeError> writingError(const Sheet& sheet, const std::string& path)
 {
-    try {
-        writeSheet(sheet, path);
-    } catch (const RunTimeError& error) {
-        return error;
-    }
-    ADD_FAILURE() << "no error";
-    return {ErrorNumber::InvalidProcedureCall, "", ""};
+    return test::errorOf([&] { writeSheet(sheet, path); });
 }
 
 std::size_t fileCount(const TemporaryFolder& folder)
@@ -239,7 +235,8 @@ TEST(SheetAsXlsx, refusesMoreColumnsThanASpreadsheetHas)
     const TemporaryFolder folder;
     Sheet sheet;
     sheet.setNumber(1, 16385, 1);
-    EXPECT_EQ(errorOf(sheet, folder.file("a.xlsx")).number(), ErrorNumber::InvalidProcedureCall);
+    EXPECT_EQ(writingError(sheet, folder.file("a.xlsx"))->number(),
+              ErrorNumber::InvalidProcedureCall);
     EXPECT_EQ(fileCount(folder), 0U);
 }
 
@@ -283,8 +280,8 @@ TEST(SheetAsXlsx, refusesATextThatNoCellHolds)
     const TemporaryFolder folder;
     Sheet sheet;
     sheet.setText(1, 1, std::string(40000, 'x')); // a cell holds 32767 characters
-    const RunTimeError error = errorOf(sheet, folder.file("a.xlsx"));
-    EXPECT_EQ(error.number(), ErrorNumber::InvalidProcedureCall);
+    const auto error = writingError(sheet, folder.file("a.xlsx"));
+    EXPECT_EQ(error.value().number(), ErrorNumber::InvalidProcedureCall);
     EXPECT_EQ(fileCount(folder), 0U);
 }
 
@@ -300,24 +297,27 @@ TEST(SheetFile, isChosenByTheExtensionInAnyCase)
 TEST(SheetFile, refusesAnotherExtensionByName)
 {
     const TemporaryFolder folder;
-    const RunTimeError error = errorOf(example(), folder.file("report.ods"));
-    EXPECT_EQ(error.number(), ErrorNumber::InvalidProcedureCall);
-    EXPECT_THAT(error.description(), HasSubstr("report.ods"));
+    const auto error = writingError(example(), folder.file("report.ods"));
+    EXPECT_EQ(error.value().number(), ErrorNumber::InvalidProcedureCall);
+    EXPECT_THAT(error.value().description(), HasSubstr("report.ods"));
     EXPECT_EQ(fileCount(folder), 0U);
 }
 
 TEST(SheetFile, saysWhenTheFolderIsMissing)
 {
     const TemporaryFolder folder;
-    EXPECT_EQ(errorOf(example(), folder.file("none/a.xlsx")).number(), ErrorNumber::PathNotFound);
-    EXPECT_EQ(errorOf(example(), folder.file("none/a.csv")).number(), ErrorNumber::PathNotFound);
+    EXPECT_EQ(writingError(example(), folder.file("none/a.xlsx"))->number(),
+              ErrorNumber::PathNotFound);
+    EXPECT_EQ(writingError(example(), folder.file("none/a.csv"))->number(),
+              ErrorNumber::PathNotFound);
 }
 
 TEST(SheetFile, saysWhenTheNameIsThatOfAFolder)
 {
     const TemporaryFolder folder;
     std::filesystem::create_directory(folder.file("a.xlsx"));
-    EXPECT_EQ(errorOf(example(), folder.file("a.xlsx")).number(), ErrorNumber::PathFileAccess);
+    EXPECT_EQ(writingError(example(), folder.file("a.xlsx"))->number(),
+              ErrorNumber::PathFileAccess);
 }
 
 TEST(SheetFile, leavesAReadOnlyFileAsItIs)
@@ -326,7 +326,7 @@ TEST(SheetFile, leavesAReadOnlyFileAsItIs)
     for (const char* name : {"a.xlsx", "a.csv"}) {
         const std::string path = folder.write(name, "old");
         std::filesystem::permissions(path, std::filesystem::perms::owner_read);
-        EXPECT_EQ(errorOf(example(), path).number(), ErrorNumber::PermissionDenied);
+        EXPECT_EQ(writingError(example(), path)->number(), ErrorNumber::PermissionDenied);
         EXPECT_EQ(fileBytes(path), "old");
     }
     EXPECT_EQ(fileCount(folder), 2U);
@@ -342,7 +342,7 @@ TEST(SheetFile, leavesTheOldFileWhenTheNewOneDoesNotFit)
         const std::string path = folder.write(name, "old");
         {
             const FileSizeLimit limit(4096);
-            EXPECT_EQ(errorOf(sheet, path).number(), ErrorNumber::PathFileAccess) << name;
+            EXPECT_EQ(writingError(sheet, path)->number(), ErrorNumber::PathFileAccess) << name;
         }
         EXPECT_EQ(fileBytes(path), "old");
     }

@@ -3,6 +3,7 @@
 #include "base/files/AtomicFile.h"
 #include "base/user/RunTimeError.h"
 
+#include "support/Errors.h"
 #include "support/TestFiles.h"
 
 #include <gmock/gmock.h>
@@ -31,6 +32,7 @@ namespace tarsil {
 namespace {
 
 namespace fs = std::filesystem;
+using test::errorTextOf;
 using test::fileBytes;
 using test::TemporaryFolder;
 using ::testing::EndsWith;
@@ -92,17 +94,6 @@ bool setAccessList(const std::string& path, const char* text, acl_type_t type = 
     const bool isSet = acl_set_file(path.c_str(), type, list) == 0;
     acl_free(list);
     return isSet;
-}
-
-/// The text of the error that an action raises.
-std::string messageOf(const std::function<void()>& action)
-{
-    try {
-        action();
-    } catch (const RunTimeError& error) {
-        return std::to_string(static_cast<int>(error.number())) + " " + error.description();
-    }
-    return "no error";
 }
 
 /// Runs the action in a process of its own and returns its wait status; what the action raises is
@@ -258,7 +249,7 @@ TEST_F(SavedByAnother, blameTheFolderThatMayNotBeWritten)
     const std::string expected = "70 Permission denied: " + path + " (the folder "
         + folder.path().string() + " may not be written)";
     EXPECT_EQ(asSomebody([&] {
-                  if (messageOf([&path] { writeFile(path, "new"); }) != expected)
+                  if (errorTextOf([&path] { writeFile(path, "new"); }) != expected)
                       ::_exit(3);
               }),
               0);
@@ -269,7 +260,7 @@ TEST_F(SavedByAnother, refuseAFileThatTheUserMayNotWrite)
 {
     const std::string path = fileOf(0, 0, 0644);
     EXPECT_EQ(asSomebody([&] {
-                  if (messageOf([&path] { writeFile(path, "new"); })
+                  if (errorTextOf([&path] { writeFile(path, "new"); })
                       != "70 Permission denied: " + path)
                       ::_exit(3);
               }),
@@ -282,7 +273,7 @@ TEST_F(SavedByAnother, refuseTheFileOfAnotherInAFolderThatKeepsThemApart)
     ::chmod(folder.path().c_str(), 01777);
     const std::string path = fileOf(0, 0, 0666);
     EXPECT_EQ(asSomebody([&] {
-                  if (messageOf([&path] { writeFile(path, "new"); })
+                  if (errorTextOf([&path] { writeFile(path, "new"); })
                       != "70 Permission denied: " + path)
                       ::_exit(3);
               }),
@@ -315,10 +306,10 @@ TEST_F(SavedRights, comeWithAFileThroughALinkThatLeadsNowhereYet)
 TEST_F(SavedRights, areRefusedThroughALinkToItselfAndToAMissingFolder)
 {
     fs::create_symlink("loop", folder.file("loop"));
-    EXPECT_THAT(messageOf([this] { writeFile(folder.file("loop"), "new"); }),
+    EXPECT_THAT(errorTextOf([this] { writeFile(folder.file("loop"), "new"); }),
                 ::testing::StartsWith("75 Path/File access error: " + folder.file("loop")));
     fs::create_symlink("none/real.txt", folder.file("away"));
-    EXPECT_EQ(messageOf([this] { writeFile(folder.file("away"), "new"); }),
+    EXPECT_EQ(errorTextOf([this] { writeFile(folder.file("away"), "new"); }),
               "76 Path not found: " + folder.file("away"));
     EXPECT_EQ(filesIn(folder), 2);
 }
@@ -383,7 +374,7 @@ TEST_F(SavedUnderSignals, failsAtTheLimitOfAFilesSize)
             removeTemporariesOnSignals();
             const rlimit limit {1024, 1024};
             ::setrlimit(RLIMIT_FSIZE, &limit);
-            if (messageOf(action) != expected)
+            if (errorTextOf(action) != expected)
                 ::_exit(3);
         });
         EXPECT_EQ(status, 0);

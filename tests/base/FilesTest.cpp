@@ -1,6 +1,7 @@
 #include "base/files/AtomicFile.h"
 #include "base/user/RunTimeError.h"
 
+#include "support/Errors.h"
 #include "support/TestFiles.h"
 
 #include <gtest/gtest.h>
@@ -16,19 +17,9 @@ namespace tarsil {
 namespace {
 
 namespace fs = std::filesystem;
+using test::errorNumberOf;
 using test::fileBytes;
 using test::TemporaryFolder;
-
-template <typename Action>
-int errorOf(Action action)
-{
-    try {
-        action();
-    } catch (const RunTimeError& error) {
-        return static_cast<int>(error.number());
-    }
-    return 0;
-}
 
 std::ptrdiff_t filesIn(const TemporaryFolder& folder)
 {
@@ -99,7 +90,7 @@ TEST(AtomicFile, refusesAReadOnlyTarget)
     const TemporaryFolder folder;
     const std::string path = folder.write("a.txt", "old");
     fs::permissions(path, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
-    EXPECT_EQ(errorOf([&] { writeFile(path, "new"); }), 70);
+    EXPECT_EQ(errorNumberOf([&] { writeFile(path, "new"); }), ErrorNumber::PermissionDenied);
     EXPECT_EQ(fileBytes(path), "old");
     EXPECT_EQ(filesIn(folder), 1);
 }
@@ -111,14 +102,15 @@ TEST(AtomicFile, refusesATargetMadeReadOnlyBeforeCommit)
     AtomicFile file(path);
     file.write("new");
     fs::permissions(path, fs::perms::owner_read);
-    EXPECT_EQ(errorOf([&] { file.commit(); }), 70);
+    EXPECT_EQ(errorNumberOf([&] { file.commit(); }), ErrorNumber::PermissionDenied);
     EXPECT_EQ(fileBytes(path), "old");
 }
 
 TEST(AtomicFile, refusesAFolderAsTarget)
 {
     const TemporaryFolder folder;
-    EXPECT_EQ(errorOf([&] { writeFile(folder.path().string(), "x"); }), 75);
+    EXPECT_EQ(errorNumberOf([&] { writeFile(folder.path().string(), "x"); }),
+              ErrorNumber::PathFileAccess);
     EXPECT_EQ(filesIn(folder), 0);
 }
 
@@ -127,16 +119,16 @@ TEST(AtomicFile, refusesAPipeAndADeviceAsTarget)
     const TemporaryFolder folder;
     const std::string pipe = folder.file("pipe");
     ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
-    EXPECT_EQ(errorOf([&] { writeFile(pipe, "x"); }), 75);
+    EXPECT_EQ(errorNumberOf([&] { writeFile(pipe, "x"); }), ErrorNumber::PathFileAccess);
     EXPECT_TRUE(fs::is_fifo(pipe));
-    EXPECT_EQ(errorOf([&] { writeFile("/dev/null", "x"); }), 75);
+    EXPECT_EQ(errorNumberOf([&] { writeFile("/dev/null", "x"); }), ErrorNumber::PathFileAccess);
     EXPECT_TRUE(fs::is_character_file("/dev/null"));
 }
 
 TEST(AtomicFile, takesTheLongestNameThatAFolderTakes)
 {
     const TemporaryFolder folder;
-    const std::string path = folder.file(std::string(251, 'a') + ".txt");
+    const std::string path = folder.file(std::string(251, 'a').append(".txt"));
     writeFile(path, "text");
     EXPECT_EQ(fileBytes(path), "text");
     EXPECT_EQ(filesIn(folder), 1);
@@ -145,7 +137,8 @@ TEST(AtomicFile, takesTheLongestNameThatAFolderTakes)
 TEST(AtomicFile, refusesAMissingFolder)
 {
     const TemporaryFolder folder;
-    EXPECT_EQ(errorOf([&] { writeFile(folder.file("missing") + "/a.txt", "x"); }), 76);
+    EXPECT_EQ(errorNumberOf([&] { writeFile(folder.file("missing") + "/a.txt", "x"); }),
+              ErrorNumber::PathNotFound);
 }
 
 TEST(AtomicFile, keepsThePermissionsOfTheOldFile)

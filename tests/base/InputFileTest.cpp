@@ -2,6 +2,7 @@
 
 #include "base/user/RunTimeError.h"
 
+#include "support/Errors.h"
 #include "support/TestFiles.h"
 
 #include <gmock/gmock.h>
@@ -17,6 +18,7 @@ namespace tarsil {
 namespace {
 
 namespace fs = std::filesystem;
+using test::errorTextOf;
 using test::TemporaryFolder;
 using ::testing::HasSubstr;
 
@@ -26,21 +28,9 @@ constexpr bool endsWithoutMemory = true; // its allocator does not fail, but end
 constexpr bool endsWithoutMemory = false;
 #endif
 
-/// The description of the error that is raised, with its number before it.
-template <typename Action>
-std::string errorOf(Action action)
-{
-    try {
-        action();
-    } catch (const RunTimeError& error) {
-        return std::to_string(static_cast<int>(error.number())) + ' ' + error.description();
-    }
-    return {};
-}
-
 std::string openingError(const std::string& path)
 {
-    return errorOf([&path] { const InputFile file(path); });
+    return errorTextOf([&path] { const InputFile file(path); });
 }
 
 std::string take(InputFile& file, std::size_t count)
@@ -82,10 +72,10 @@ TEST(InputFile, thatBecomesShorterIsAnError)
     EXPECT_EQ(take(file, 10), std::string(10, 'x'));
     fs::resize_file(path, 20);
     EXPECT_EQ(take(file, 10), std::string(10, 'x')) << "these are still there";
-    const std::string error = errorOf([&file] { take(file, 1); });
+    const std::string error = errorTextOf([&file] { take(file, 1); });
     EXPECT_THAT(error, HasSubstr("75 "));
     EXPECT_THAT(error, HasSubstr(path + " (another program changed it while it was read)"));
-    EXPECT_EQ(errorOf([&file] { file.requireUnchanged(); }), error);
+    EXPECT_EQ(errorTextOf([&file] { file.requireUnchanged(); }), error);
 }
 
 TEST(InputFile, thatGrowsIsReadToItsFirstEndAndIsAnError)
@@ -96,7 +86,7 @@ TEST(InputFile, thatGrowsIsReadToItsFirstEndAndIsAnError)
     std::ofstream(path, std::ios::app) << " and more";
     EXPECT_EQ(file.bytesLeft(), 5U);
     EXPECT_EQ(take(file, 5), "first");
-    EXPECT_THAT(errorOf([&file] { file.requireUnchanged(); }), HasSubstr("75 "));
+    EXPECT_THAT(errorTextOf([&file] { file.requireUnchanged(); }), HasSubstr("75 "));
 }
 
 TEST(InputFile, thatIsWrittenAnewInTheSameSizeIsAnError)
@@ -108,7 +98,7 @@ TEST(InputFile, thatIsWrittenAnewInTheSameSizeIsAnError)
     const InputFile file(path);
     folder.write("a.txt", "other");
     fs::last_write_time(path, now);
-    EXPECT_THAT(errorOf([&file] { file.requireUnchanged(); }), HasSubstr("75 "));
+    EXPECT_THAT(errorTextOf([&file] { file.requireUnchanged(); }), HasSubstr("75 "));
 }
 
 TEST(InputFile, thatIsReplacedIsStillTheOneThatWasOpened)
@@ -149,7 +139,7 @@ TEST(FileBytes, moreThanTheMemoryHoldsAreAnError)
     fs::resize_file(path, vast, refused);
     if (refused)
         GTEST_SKIP() << "the file system has no files of this size";
-    EXPECT_THAT(errorOf([&path] { const FileBytes file(path); }), HasSubstr("75 "));
+    EXPECT_THAT(errorTextOf([&path] { const FileBytes file(path); }), HasSubstr("75 "));
 }
 
 } // namespace

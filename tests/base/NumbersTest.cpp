@@ -1,6 +1,7 @@
 #include "base/numbers/Numbers.h"
 
 #include "base/user/RunTimeError.h"
+#include "support/Errors.h"
 
 #include <gtest/gtest.h>
 
@@ -12,6 +13,9 @@
 namespace tarsil {
 
 namespace {
+
+using test::errorOf;
+using test::errorTextOf;
 
 // The compiler's own reading of a literal is the expected value everywhere in this file: it rounds
 // decimal text to the nearest single or double.
@@ -148,31 +152,18 @@ TEST(Numbers, keepsIntegersWithinSixteenBits)
 
 TEST(Numbers, raisesErrorsThatSayWhereAndWhat)
 {
-    try {
-        toSingle("****", "EVM", "wing.evm, line 5");
-        FAIL();
-    } catch (const RunTimeError& error) {
-        EXPECT_EQ(error.number(), ErrorNumber::TypeMismatch);
-        EXPECT_EQ(error.source(), "EVM");
-        EXPECT_EQ(error.description(), "Type mismatch: wing.evm, line 5: \"****\"");
-    }
-    try {
-        toDouble("1e999", "EVM", "");
-        FAIL();
-    } catch (const RunTimeError& error) {
-        EXPECT_EQ(error.number(), ErrorNumber::Overflow);
-        EXPECT_EQ(error.description(), "Overflow: \"1e999\"");
-    }
+    const auto error = errorOf([] { toSingle("****", "EVM", "wing.evm, line 5"); });
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->number(), ErrorNumber::TypeMismatch);
+    EXPECT_EQ(error->source(), "EVM");
+    EXPECT_EQ(error->description(), "Type mismatch: wing.evm, line 5: \"****\"");
+    EXPECT_EQ(errorTextOf([] { toDouble("1e999", "EVM", ""); }), "6 Overflow: \"1e999\"");
 }
 
 TEST(Numbers, cutsLongTextsInMessages)
 {
-    try {
-        toSingle(std::string(1000, 'x'), "EVM", "");
-        FAIL();
-    } catch (const RunTimeError& error) {
-        EXPECT_EQ(error.description(), "Type mismatch: \"" + std::string(60, 'x') + "...\"");
-    }
+    EXPECT_EQ(errorTextOf([] { toSingle(std::string(1000, 'x'), "EVM", ""); }),
+              "13 Type mismatch: \"" + std::string(60, 'x') + "...\"");
 }
 
 TEST(Numbers, roundsDoublesToIntegers)

@@ -1,6 +1,7 @@
 #include "base/files/TextStream.h"
 
 #include "base/user/RunTimeError.h"
+#include "support/Errors.h"
 
 #include <gtest/gtest.h>
 
@@ -58,13 +59,8 @@ TEST(TextStream, saysWhereItEnded)
     stream.readLine();
     EXPECT_EQ(stream.place(), "wing.evm, line 1");
     EXPECT_EQ(stream.rest(), "");
-    try {
-        stream.readLine();
-        FAIL();
-    } catch (const RunTimeError& error) {
-        EXPECT_EQ(error.number(), ErrorNumber::InputPastEndOfFile);
-        EXPECT_EQ(error.description(), "Input past end of file: wing.evm ends after line 1");
-    }
+    EXPECT_EQ(test::errorTextOf([&stream] { stream.readLine(); }),
+              "62 Input past end of file: wing.evm ends after line 1");
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "emf/EmfStream.h"
 #include "emf/EmfSink.h"
-#include "support/ErrorNumberOf.h"
+#include "support/Errors.h"
 
 #include <gtest/gtest.h>
 

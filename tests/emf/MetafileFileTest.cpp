@@ -1,5 +1,5 @@
 #include "emf/EmfListing.h"
-#include "support/ErrorNumberOf.h"
+#include "support/Errors.h"
 #include "support/TestFiles.h"
 
 #include <gmock/gmock.h>

@@ -1,9 +1,8 @@
 #pragma once
 
-#include "base/user/RunTimeError.h"
 #include "model/EVM.h"
+#include "support/Errors.h"
 
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -22,17 +21,5 @@ std::string ev2Row(std::size_t fields);
 void readEvmText(std::string_view text, EVM& evolution);
 void readEv2Text(std::string_view text, EVM& evolution);
 void readSemicolonText(std::string_view text, EVM& evolution);
-
-/// The error that `action` raises; none when it raises none.
-template <typename Action>
-std::optional<RunTimeError> errorOf(Action action)
-{
-    try {
-        action();
-    } catch (const RunTimeError& error) {
-        return error;
-    }
-    return std::nullopt;
-}
 
 } // namespace tarsil::test

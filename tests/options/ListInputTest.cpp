@@ -1,6 +1,7 @@
 #include "options/ListInput.h"
 
 #include "base/user/RunTimeError.h"
+#include "support/Errors.h"
 
 #include <QAction>
 #include <QLineEdit>
@@ -43,13 +44,9 @@ protected:
     /// The description of the error of the numbers.
     std::string errorText() const
     {
-        try {
-            numbers();
-        } catch (const RunTimeError& error) {
-            EXPECT_EQ(error.source(), "aModule");
-            return error.description();
-        }
-        return "no error";
+        const auto error = test::errorOf([this] { numbers(); });
+        EXPECT_TRUE(error && error->source() == "aModule");
+        return error ? error->description() : "no error";
     }
 
     QLineEdit edit;

@@ -1,6 +1,7 @@
 #include "options/OptionsStore.h"
 
 #include "base/user/RunTimeError.h"
+#include "support/Errors.h"
 #include "support/TestFiles.h"
 
 #include <gtest/gtest.h>
@@ -12,11 +13,11 @@
 
 #include <cerrno>
 #include <csignal>
-#include <functional>
-#include <optional>
 #include <system_error>
 
 using namespace tarsil;
+using test::errorNumberOf;
+using test::errorOf;
 
 namespace {
 
@@ -35,24 +36,6 @@ protected:
 OptionTexts texts(const char* file, const char* scale, const char* thicks)
 {
     return {QString::fromUtf8(file), QString::fromUtf8(scale), QString::fromUtf8(thicks)};
-}
-
-std::optional<RunTimeError> errorOf(const std::function<void()>& action)
-{
-    try {
-        action();
-    } catch (const RunTimeError& error) {
-        return error;
-    }
-    return std::nullopt;
-}
-
-ErrorNumber errorNumberOf(const std::function<void()>& action)
-{
-    const auto error = errorOf(action);
-    if (!error)
-        throw std::logic_error("no error");
-    return error->number();
 }
 
 } // namespace

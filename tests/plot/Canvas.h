@@ -2,7 +2,7 @@
 
 #include "analysis/ModeBuilder.h"
 #include "plot/UcPlot.h"
-#include "support/ErrorNumberOf.h"
+#include "support/Errors.h"
 #include "support/RecordingContext.h"
 
 #include <gmock/gmock.h>

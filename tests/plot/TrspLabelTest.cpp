@@ -1,6 +1,6 @@
 #include "plot/TrspLabel.h"
 
-#include "support/ErrorNumberOf.h"
+#include "support/Errors.h"
 #include "support/RecordingContext.h"
 #include "surface/Picture.h"
 

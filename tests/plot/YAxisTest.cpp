@@ -1,6 +1,6 @@
 #include "plot/YAxis.h"
 
-#include "support/ErrorNumberOf.h"
+#include "support/Errors.h"
 #include "support/RecordingContext.h"
 
 #include <gmock/gmock.h>

@@ -2,7 +2,7 @@
 
 #include "analysis/ModeBuilder.h"
 #include "plotwindow/WndEvolPlotFixture.h"
-#include "support/ErrorNumberOf.h"
+#include "support/Errors.h"
 
 #include <gmock/gmock.h>
 

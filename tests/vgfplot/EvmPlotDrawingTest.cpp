@@ -1,7 +1,7 @@
 // What a V-g-f plot draws, on the screen and into a caller's context.
 
 #include "analysis/ModeBuilder.h"
-#include "support/ErrorNumberOf.h"
+#include "support/Errors.h"
 #include "support/RecordingContext.h"
 #include "vgfplot/EvmPlot.h"
 

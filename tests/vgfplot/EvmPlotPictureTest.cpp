@@ -3,7 +3,7 @@
 #include "analysis/ModeBuilder.h"
 #include "emf/EmfListing.h"
 #include "emf/MetafileSurface.h"
-#include "support/ErrorNumberOf.h"
+#include "support/Errors.h"
 #include "support/Ink.h"
 #include "support/TestFiles.h"
 #include "surface/SvgSurface.h"

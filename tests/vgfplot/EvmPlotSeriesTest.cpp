@@ -1,7 +1,7 @@
 // The series of a V-g-f plot, and the frequency axis that fits them.
 
 #include "analysis/ModeBuilder.h"
-#include "support/ErrorNumberOf.h"
+#include "support/Errors.h"
 #include "vgfplot/EvmPlot.h"
 
 #include <gmock/gmock.h>

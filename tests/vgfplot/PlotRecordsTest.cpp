@@ -1,7 +1,7 @@
 #include "vgfplot/PlotRecords.h"
 
 #include "analysis/ModeBuilder.h"
-#include "support/ErrorNumberOf.h"
+#include "support/Errors.h"
 #include "vgfplot/EvmPlot.h"
 #include "workspace/WorkspaceReader.h"
 #include "workspace/WorkspaceWriter.h"

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/user/RunTimeError.h"
+#include "support/Errors.h"
 #include "workspace/WorkspaceReader.h"
 #include "workspace/WorkspaceRecord.h"
 
@@ -54,11 +55,7 @@ struct FailedReading
 inline FailedReading failedReading(std::string_view bytes)
 {
     FailedReading reading;
-    try {
-        readWorkspace(bytes, "test.tsw", reading.record);
-    } catch (const RunTimeError& error) {
-        reading.error = error;
-    }
+    reading.error = errorOf([&] { readWorkspace(bytes, "test.tsw", reading.record); });
     return reading;
 }
 
