@@ -14,8 +14,9 @@ namespace tarsil::batch {
 
 namespace {
 
-constexpr std::array<const Command*, 6> commands = {
-    &infoCommand, &checkCommand, &reportCommand, &pictureCommand, &convertCommand, &mixCommand};
+constexpr std::array<const Command*, 7> commands = {
+    &infoCommand,    &checkCommand, &reportCommand, &pictureCommand,
+    &convertCommand, &mixCommand,   &importCommand};
 
 std::string programHelp()
 {

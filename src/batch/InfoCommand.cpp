@@ -7,6 +7,7 @@
 #include "batch/JsonWriter.h"
 #include "batch/WorkspaceInfo.h"
 #include "batch/WorkspaceInput.h"
+#include "solver/SolverImport.h"
 
 #include <array>
 #include <ostream>
@@ -188,8 +189,35 @@ void refuseBesideWorkspace(const CommandLine& line)
         throw UsageError("--points: a workspace holds no points");
 }
 
+/// Whether a file that is no evolution by its name holds printed flutter summaries.
+bool isSolverOutput(const std::string& path)
+{
+    return !layoutOf(resolvePath(path).name) && fileExists(path)
+        && !solver::readSolverOutput(path).runs.empty();
+}
+
+/// Says of solver outputs what they are and how they become evolutions.
+int printSolverOutputs(const CommandLine& line, std::ostream& out)
+{
+    if (line.has("--json") || line.has("--points"))
+        throw UsageError(
+            "a printed flutter summary has no modes yet: use import, or import --json");
+    for (const std::string& path : line.operands()) {
+        const std::size_t count = solver::readSolverOutput(path).runs.size();
+        if (count == 0)
+            throw Failure(path + " is no printed flutter summary, as the other files are");
+        out << printableText(resolvePath(path).name) << '\n';
+        printLine(out, "format", "printed flutter summary");
+        printLine(out, "analyses", std::to_string(count));
+        printLine(out, "to import it", "tarsil-batch import " + path);
+    }
+    return done;
+}
+
 int runInfo(const CommandLine& line, BatchRun& run)
 {
+    if (isSolverOutput(line.operands().front()))
+        return printSolverOutputs(line, run.out());
     if (hasWorkspace(line.operands())) {
         refuseBesideWorkspace(line);
         const std::string& path = line.operands().front();

@@ -1,0 +1,308 @@
+#include "base/files/AtomicFile.h"
+#include "base/files/PathNames.h"
+#include "base/numbers/Numbers.h"
+#include "base/text/TextCodec.h"
+#include "batch/BatchRun.h"
+#include "batch/Commands.h"
+#include "batch/JsonWriter.h"
+#include "solver/SolverImport.h"
+
+#include <array>
+#include <filesystem>
+#include <ostream>
+#include <set>
+
+namespace tarsil::batch {
+
+namespace {
+
+using solver::SolverOutput;
+using solver::SolverRun;
+using solver::UnitChoice;
+
+template <typename Units>
+std::string namesOf(const Units& units)
+{
+    std::string names;
+    for (const solver::Unit& unit : units)
+        names += (names.empty() ? "" : ", ") + std::string(unit.name);
+    return names;
+}
+
+/// The units that the command line names; nothing without --speed-unit.
+std::optional<UnitChoice> unitChoice(const CommandLine& line)
+{
+    UnitChoice choice;
+    if (const auto vref = line.number("--vref")) {
+        if (!(*vref > 0))
+            throw UsageError("--vref: a number above 0 is wanted");
+        choice.vref = *vref;
+    }
+    if (const auto density = line.value("--density")) {
+        const auto unit = solver::densityUnit(*density);
+        if (!unit)
+            throw UsageError("--density: one of " + namesOf(solver::densityUnits) + " is wanted");
+        choice.density = *unit;
+    }
+    choice.isEquivalent = line.has("--equivalent");
+    const auto speed = line.value("--speed-unit");
+    if (!speed)
+        return std::nullopt;
+    const auto unit = solver::speedUnit(*speed);
+    if (!unit)
+        throw UsageError("--speed-unit: one of " + namesOf(solver::speedUnits) + " is wanted");
+    choice.speed = *unit;
+    return choice;
+}
+
+/// "subcase 1, PK, Mach 0.3, 10 roots, 21 rows, lines 800-1200".
+std::string describe(const SolverRun& run)
+{
+    std::string text;
+    if (run.key.subcase)
+        text += "subcase " + *run.key.subcase + ", ";
+    text += run.key.method;
+    if (run.key.mach)
+        text += ", Mach " + shortestText(*run.key.mach);
+    if (run.key.densityRatio)
+        text += ", density ratio " + shortestText(*run.key.densityRatio);
+    if (run.cycle > 1)
+        text += ", pass " + std::to_string(run.cycle);
+    return text + ", " + std::to_string(run.roots.size()) + " roots, "
+        + std::to_string(run.roots.front().rows.size()) + " rows, lines "
+        + std::to_string(run.firstLine) + "-" + std::to_string(run.lastLine);
+}
+
+void printProposals(std::ostream& out, const SolverOutput& output)
+{
+    out << printableText(output.path) << '\n';
+    for (std::size_t i = 0; i < output.runs.size(); ++i)
+        out << "  " << printableText(output.names[i]) << ": "
+            << printableText(describe(output.runs[i])) << '\n';
+    for (const std::string& line : solver::evidenceText(output.evidence, output.file))
+        out << "  " << printableText(line) << '\n';
+    for (const solver::LogEntry& entry : output.file.log)
+        out << "  line " << entry.line << ": " << printableText(entry.text) << '\n';
+}
+
+void writeNumber(JsonWriter& json, std::string_view name, const std::optional<double>& value)
+{
+    json.key(name);
+    if (value)
+        json.number(shortestText(*value));
+    else
+        json.null();
+}
+
+void writeRun(JsonWriter& json, const SolverOutput& output, std::size_t index)
+{
+    const SolverRun& run = output.runs[index];
+    json.beginObject();
+    json.text("name", output.names[index]);
+    json.key("subcase");
+    if (run.key.subcase)
+        json.text(*run.key.subcase);
+    else
+        json.null();
+    json.text("method", run.key.method);
+    writeNumber(json, "mach", run.key.mach);
+    writeNumber(json, "sigma_value", run.key.sigmaValue);
+    writeNumber(json, "density_ratio", run.key.densityRatio);
+    json.number("cycle", std::to_string(run.cycle));
+    json.text("banner", run.banner);
+    json.text("title", run.title);
+    json.text("subtitle", run.subtitle);
+    json.text("label", run.label);
+    json.number("first_line", std::to_string(run.firstLine));
+    json.number("last_line", std::to_string(run.lastLine));
+    json.boolean("cut_to_shortest", run.wasCut);
+    json.key("modes");
+    json.beginArray();
+    for (const solver::PrintedRoot& root : run.roots)
+        json.number(std::to_string(root.id));
+    json.endArray();
+    json.number("rows", std::to_string(run.roots.front().rows.size()));
+    json.endObject();
+}
+
+void writeTables(JsonWriter& json, const SolverOutput& output)
+{
+    json.key("tables");
+    json.beginArray();
+    for (const solver::SummaryTable& table : output.file.tables) {
+        json.beginObject();
+        json.number("point", std::to_string(table.point));
+        json.text("method", table.key.method);
+        json.number("rows", std::to_string(table.rows.size()));
+        json.boolean("density", table.carriesDensity);
+        json.number("first_line", std::to_string(table.firstLine));
+        json.number("last_line", std::to_string(table.lastLine));
+        json.endObject();
+    }
+    json.endArray();
+}
+
+void writeUnit(JsonWriter& json, std::string_view name, const std::optional<solver::Unit>& unit)
+{
+    json.key(name);
+    if (unit)
+        json.text(unit->name);
+    else
+        json.null();
+}
+
+void writeProposals(JsonWriter& json, const SolverOutput& output)
+{
+    const solver::UnitEvidence& evidence = output.evidence;
+    json.key("proposals");
+    json.beginObject();
+    writeUnit(json, "speed_unit", evidence.speed);
+    writeUnit(json, "density", evidence.density);
+    writeNumber(json, "chord", evidence.chord);
+    json.boolean("chord_consistent", evidence.isChordConsistent);
+    writeNumber(json, "speed_of_sound", evidence.speedOfSound);
+    json.key("evidence");
+    json.beginArray();
+    for (const std::string& line : solver::evidenceText(evidence, output.file))
+        json.text(line);
+    json.endArray();
+    json.endObject();
+}
+
+void writeFile(JsonWriter& json, const SolverOutput& output)
+{
+    json.beginObject();
+    json.text("file", output.path);
+    json.number("lines", std::to_string(output.file.lines));
+    writeTables(json, output);
+    json.key("groups");
+    json.beginArray();
+    for (std::size_t i = 0; i < output.runs.size(); ++i)
+        writeRun(json, output, i);
+    json.endArray();
+    writeProposals(json, output);
+    json.key("log");
+    json.beginArray();
+    for (const solver::LogEntry& entry : output.file.log) {
+        json.beginObject();
+        json.number("line", std::to_string(entry.line));
+        json.text("text", entry.text);
+        json.endObject();
+    }
+    json.endArray();
+    json.endObject();
+}
+
+int printJson(const std::vector<SolverOutput>& outputs, std::ostream& out)
+{
+    JsonWriter json(out);
+    json.beginObject();
+    json.key("files");
+    json.beginArray();
+    for (const SolverOutput& output : outputs)
+        writeFile(json, output);
+    json.endArray();
+    json.endObject();
+    out << '\n';
+    return done;
+}
+
+/// The name with "_2", "_3" ... before its extension when another source has given it already.
+std::string freeName(std::string name, std::set<std::string>& used)
+{
+    const std::string stem = name.substr(0, name.rfind('.'));
+    for (int copy = 2; !used.insert(name).second; ++copy)
+        name = stem + "_" + std::to_string(copy) + ".ev2";
+    return name;
+}
+
+/// Writes the evolutions of one output; the status says whether all could be written.
+int writeEvolutions(const SolverOutput& output, const UnitChoice& units,
+                    const solver::ImportTexts& texts, const std::string& folder,
+                    std::set<std::string>& used, BatchRun& run)
+{
+    int status = done;
+    for (std::size_t i = 0; i < output.runs.size(); ++i) {
+        try {
+            const std::string path = joinPath(folder, freeName(output.names[i], used));
+            refuseOutputOverInput(path, output.path);
+            tarsil::writeFile(path, solver::evolutionText(output, i, units, texts));
+            run.out() << printableText(shownPath(path)) << '\n';
+        } catch (const RunTimeError& error) {
+            run.complain(error.description());
+            status = failed;
+        }
+    }
+    for (const solver::LogEntry& entry : output.file.log)
+        run.complain(output.path + ", line " + std::to_string(entry.line) + ": " + entry.text);
+    return status;
+}
+
+std::string existingFolder(const CommandLine& line)
+{
+    const auto folder = line.value("--output");
+    if (!folder)
+        throw UsageError("--output is missing: the folder to write to");
+    if (!std::filesystem::is_directory(nativePath(*folder)))
+        throw Failure(*folder + " is no folder");
+    return *folder;
+}
+
+std::vector<SolverOutput> readAll(const CommandLine& line)
+{
+    std::vector<SolverOutput> outputs;
+    for (const std::string& path : line.operands()) {
+        outputs.push_back(solver::readSolverOutput(path));
+        if (outputs.back().runs.empty() && !line.has("--json"))
+            throw Failure(path + " holds no flutter summary");
+    }
+    return outputs;
+}
+
+int runImport(const CommandLine& line, BatchRun& run)
+{
+    const std::optional<UnitChoice> units = unitChoice(line);
+    const bool isJson = line.has("--json");
+    const std::string folder = units && !isJson ? existingFolder(line) : std::string();
+    const std::vector<SolverOutput> outputs = readAll(line);
+    if (isJson)
+        return printJson(outputs, run.out());
+    if (!units) {
+        for (const SolverOutput& output : outputs)
+            printProposals(run.out(), output);
+        throw UsageError("--speed-unit is missing: one of " + namesOf(solver::speedUnits));
+    }
+    solver::ImportTexts texts;
+    texts.programVersion = "tarsil-batch " TARSIL_VERSION;
+    texts.airplane = line.value("--airplane").value_or(std::string());
+    texts.massConfiguration = line.value("--mass").value_or(std::string());
+    std::set<std::string> used;
+    int status = done;
+    for (const SolverOutput& output : outputs)
+        status = std::max(status, writeEvolutions(output, *units, texts, folder, used, run));
+    return status;
+}
+
+constexpr std::array<OptionDescription, 8> options = {
+    {{"--speed-unit", "UNIT", "of the printed speeds: m/s, ft/s, in/s, mm/s or kt"},
+     {"--vref", "X", "what the printed speeds were divided by (PARAM,VREF); usually 1"},
+     {"--density", "UNIT",
+      "of the printed densities: ratio (which is usual), kg/m3,\nslug/ft3, lbf.s2/in4 or t/mm3"},
+     {"--equivalent", "", "the printed speeds are equivalent airspeeds"},
+     {"--airplane", "TEXT", "the airplane; without it the title of the analysis"},
+     {"--mass", "TEXT", "the mass configuration"},
+     {"--json", "", "prints what the files hold, and writes nothing"},
+     {"--output", "FOLDER", "where the evolutions are written"}}};
+
+} // namespace
+
+constinit const Command importCommand {
+    {"import", "FILE...", anyNumber, "turns printed flutter summaries into evolutions",
+     "Reads the flutter summaries that solvers print (.f06, .out and others) and writes\n"
+     "each analysis as an evolution (.ev2). The units of a printed speed are in no file:\n"
+     "without --speed-unit the command says what the numbers prove, writes nothing, and\n"
+     "ends with status 2.",
+     options},
+    runImport};
+
+} // namespace tarsil::batch

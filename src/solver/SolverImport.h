@@ -1,0 +1,45 @@
+#pragma once
+
+#include "solver/SolverRun.h"
+#include "solver/UnitEvidence.h"
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarsil::solver {
+
+/// What the user says of the evolutions besides the units.
+struct ImportTexts
+{
+    std::string programVersion; ///< the name and version of this program
+    std::string airplane; ///< empty: the title of the analysis
+    std::string massConfiguration;
+};
+
+/// A printed solver output that has been read: its analyses, what evolutions of them are called,
+/// and what it proves about its units.
+struct SolverOutput
+{
+    std::string path;
+    SummaryFile file;
+    std::vector<SolverRun> runs;
+    std::vector<std::string> names; ///< of the evolution files, one for each run
+    UnitEvidence evidence;
+};
+
+/// Reads a solver output. Without a flutter summary it has no runs. Errors: those of reading a
+/// file.
+SolverOutput readSolverOutput(std::string_view path);
+
+/// Whether the rows or headings of a run say which density they are for; without one its speeds
+/// can only be imported as equivalent airspeeds.
+bool carriesDensity(const SolverRun& run);
+
+/// The text of the evolution file of one run. Errors: those of `ev2Text`; 5 for a run without a
+/// density whose speeds are not equivalent.
+std::string evolutionText(const SolverOutput& output, std::size_t run, const UnitChoice& units,
+                          const ImportTexts& texts);
+
+} // namespace tarsil::solver

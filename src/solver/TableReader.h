@@ -1,0 +1,54 @@
+#pragma once
+
+#include "solver/PageHeader.h"
+#include "solver/SummaryTable.h"
+
+#include <array>
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace tarsil::solver {
+
+/// Finds the flutter summaries among the lines of a printed output, which it is given one after the
+/// other.
+class TableReader
+{
+public:
+    /// Reads the next line, with its line end, which only the last line of a file may lack.
+    void readLine(std::string_view line);
+
+    /// Counts lines that hold nothing of interest and are not given.
+    void passOver(std::size_t lines) { m_file.lines += lines; }
+
+    /// Whether the next line belongs to a table that has begun.
+    bool isInTable() const { return m_state != State::BetweenTables; }
+
+    /// Ends the last table and returns what was read.
+    SummaryFile result();
+
+private:
+    enum class State { BetweenTables, BeforePointLine, BeforeHeadings, BeforeRows, InRows };
+
+    void startTable();
+    void readPoint(std::string_view line);
+    void readHeadings(std::string_view line);
+    void readTableRow(std::string_view line, bool isWhole);
+    bool isCutRow(std::string_view line, bool isWhole) const;
+    void finishTable();
+    void leaveOut(std::string_view reason);
+    void readCard(std::string_view line);
+    void note(std::size_t line, std::string text);
+    void remember(std::string_view line);
+
+    SummaryFile m_file;
+    SummaryTable m_table; ///< the one that is being read
+    State m_state = State::BetweenTables;
+    std::size_t m_linesLeft = 0; ///< in which the next part of the heading must come
+    std::size_t m_rowLength = 0; ///< of the last row, in characters
+    std::size_t m_unlisted = 0; ///< entries that the log has no room for
+    std::array<std::string, linesAboveTitle> m_last; ///< the lines just read, as a ring
+    std::size_t m_nextOfLast = 0;
+};
+
+} // namespace tarsil::solver

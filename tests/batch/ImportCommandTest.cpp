@@ -1,0 +1,125 @@
+#include "batch/BatchFixture.h"
+#include "solver/PrintedPages.h"
+
+#include <gmock/gmock.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <filesystem>
+
+using namespace tarsil;
+using test::fileBytes;
+using test::printed;
+using test::row;
+using test::runBatch;
+using ::testing::AllOf;
+using ::testing::HasSubstr;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class ImportCommand : public test::BatchFixture
+{
+protected:
+    /// A summary of one root: 100 and 200 in the solver's unit, subcase 1, Mach 0.3.
+    std::string writeSummary(std::string_view name = "wing.f06") const
+    {
+        return folder().write(name, printed({.rows = {row("1.0E+02"), row("2.0E+02")}}));
+    }
+};
+
+} // namespace
+
+TEST_F(ImportCommand, writesEachAnalysisAsAnEvolution)
+{
+    const auto result = runBatch({"import", "--speed-unit", "m/s", "--airplane", "GLIDER", "--mass",
+                                  "EMPTY", "--output", folder().path().string(), writeSummary()});
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_THAT(result.out, HasSubstr("wing_s1_M0.30.ev2"));
+    const std::string text = fileBytes(file("wing_s1_M0.30.ev2"));
+    EXPECT_THAT(text,
+                AllOf(HasSubstr("Airplane=GLIDER\n"), HasSubstr("Mass_config=EMPTY\n"),
+                      HasSubstr("|194.384449|"), HasSubstr("|388.768898|")));
+    // The ordinary commands read it.
+    const auto info = runBatch({"info", file("wing_s1_M0.30.ev2")});
+    EXPECT_EQ(info.status, 0);
+    EXPECT_THAT(info.out, HasSubstr("GLIDER"));
+    EXPECT_EQ(runBatch({"check", file("wing_s1_M0.30.ev2")}).status, 0);
+}
+
+TEST_F(ImportCommand, asksForTheUnitWithWhatTheFileProves)
+{
+    const auto result = runBatch({"import", "--output", folder().path().string(), writeSummary()});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_THAT(result.out,
+                AllOf(HasSubstr("wing_s1_M0.30.ev2: subcase 1, PK, Mach 0.3"),
+                      HasSubstr("reference chord")));
+    EXPECT_THAT(result.err, HasSubstr("--speed-unit is missing"));
+    EXPECT_EQ(fileCount(), 1U) << "nothing is written";
+}
+
+TEST_F(ImportCommand, printsJsonOfWhatIsThere)
+{
+    const auto result = runBatch({"import", "--json", writeSummary()});
+    EXPECT_EQ(result.status, 0);
+    const QJsonObject json =
+        QJsonDocument::fromJson(QByteArray::fromStdString(result.out)).object();
+    const QJsonObject first = json["files"_L1][0].toObject();
+    EXPECT_EQ(first["tables"_L1].toArray().size(), 1);
+    const QJsonObject group = first["groups"_L1][0].toObject();
+    EXPECT_EQ(group["name"_L1].toString(), "wing_s1_M0.30.ev2"_L1);
+    EXPECT_EQ(group["mach"_L1].toDouble(), 0.3);
+    EXPECT_EQ(group["rows"_L1].toInt(), 2);
+    EXPECT_FALSE(first["proposals"_L1]["evidence"_L1].toArray().isEmpty());
+    EXPECT_EQ(fileCount(), 1U) << "nothing is written";
+}
+
+TEST_F(ImportCommand, refusesWhatHoldsNoSummary)
+{
+    const auto result = runBatch({"import", "--speed-unit", "m/s", "--output",
+                                  folder().path().string(), folder().write("x.f06", "nothing\n")});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.err, HasSubstr("holds no flutter summary"));
+}
+
+TEST_F(ImportCommand, refusesUnknownUnitsAndMissingFolders)
+{
+    const std::string path = writeSummary();
+    const std::string here = folder().path().string();
+    EXPECT_THAT(runBatch({"import", "--speed-unit", "km/h", "--output", here, path}).err,
+                HasSubstr("m/s, ft/s, in/s, mm/s, kt"));
+    EXPECT_THAT(
+        runBatch({"import", "--speed-unit", "m/s", "--density", "x", "--output", here, path}).err,
+        HasSubstr("ratio, kg/m3, slug/ft3, lbf.s2/in4, t/mm3"));
+    EXPECT_EQ(runBatch({"import", "--speed-unit", "m/s", path}).status, 2);
+    EXPECT_EQ(runBatch({"import", "--speed-unit", "m/s", "--output", file("no"), path}).status, 1);
+    EXPECT_EQ(
+        runBatch({"import", "--speed-unit", "m/s", "--vref", "0", "--output", here, path}).status,
+        2);
+    EXPECT_EQ(fileCount(), 1U);
+}
+
+TEST_F(ImportCommand, tellsNamesOfTwoSourcesApart)
+{
+    const std::filesystem::path other = folder().path() / "other";
+    std::filesystem::create_directory(other);
+    const std::string first = writeSummary();
+    const std::string second = (other / "wing.f06").string();
+    std::filesystem::copy_file(first, second);
+    EXPECT_EQ(runBatch({"import", "--speed-unit", "kt", "--output", folder().path().string(), first,
+                        second})
+                  .status,
+              0);
+    EXPECT_TRUE(std::filesystem::exists(file("wing_s1_M0.30.ev2")));
+    EXPECT_TRUE(std::filesystem::exists(file("wing_s1_M0.30_2.ev2")));
+}
+
+TEST_F(ImportCommand, isNamedByInfoOnASummary)
+{
+    const auto result = runBatch({"info", writeSummary()});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_THAT(result.out,
+                AllOf(HasSubstr("printed flutter summary"), HasSubstr("tarsil-batch import")));
+}
