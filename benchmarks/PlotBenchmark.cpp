@@ -62,6 +62,13 @@ void drawPolylines(const EvmPlot& plot, QImage& image)
     }
 }
 
+template <typename Change>
+void changeAll(EvmPlot& plot, const Change& change)
+{
+    for (const PlotRow& row : plot.rows().all())
+        plot.rows().change(row.id, change);
+}
+
 void measurePicture(EvmPlot& plot)
 {
     QImage polylines(pictureSize, QImage::Format_RGB32);
@@ -81,18 +88,16 @@ void measurePicture(EvmPlot& plot)
     };
     printRow("the same on the screen's own surfaces, composed", "one drawPolyline per curve",
              bestOfTurns(turns, onScreen, reference), "<= 3");
-    for (Series& series : plot.SeriesCollection())
-        series.LineWidth = 2;
+    changeAll(plot, [](Series& series) { series.LineWidth = 2; });
     printRow("the same picture with curves 2 pixels wide", "one drawPolyline per curve, width 1",
              bestOfTurns(turns, drawPlot, reference), "(for comparison)");
-    for (Series& series : plot.SeriesCollection()) {
+    changeAll(plot, [](Series& series) {
         series.LineWidth = 1;
         series.LineStyle = penstyle::dash;
-    }
+    });
     printRow("the same picture with dashed curves", "one drawPolyline per curve, solid",
              bestOfTurns(turns, drawPlot, reference), "(for comparison)");
-    for (Series& series : plot.SeriesCollection())
-        series.LineStyle = penstyle::solid;
+    changeAll(plot, [](Series& series) { series.LineStyle = penstyle::solid; });
 }
 
 void measureRepaint(EvmPlot& plot)

@@ -17,8 +17,8 @@ std::vector<std::string> linesOf(const EvmPlot& plot, bool withCaption)
 {
     const std::string caption = withCaption ? " of " + plot.Caption().toStdString() : std::string();
     std::vector<std::string> lines;
-    for (const std::size_t row : plot.rows().withoutSeries())
-        lines.push_back(mdlData::missingModeText(plot.rows(), row) + " (row "
+    for (const std::size_t row : plot.rows().withoutCurve())
+        lines.push_back(mdlData::missingModeText(plot.rows().at(row)) + " (row "
                         + std::to_string(row + 1) + caption + ")");
     return lines;
 }

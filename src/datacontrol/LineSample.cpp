@@ -32,14 +32,14 @@ void LineSampleDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
 {
     QStyledItemDelegate::paint(painter, option, index);
     const auto* const model = qobject_cast<const SeriesGridModel*>(index.model());
-    const Series* const series = model != nullptr ? model->look(index.row()) : nullptr;
-    if (series == nullptr)
+    const PlotRow* const row = model != nullptr ? model->row(index.row()) : nullptr;
+    if (row == nullptr)
         return;
     const QRect ground = option.rect.adjusted(2, 2, -2, -2);
     painter->fillRect(ground, Qt::white); // as the plot's
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing, false);
-    drawLineSample(*painter, ground, *series);
+    drawLineSample(*painter, ground, row->series);
     painter->restore();
 }
 

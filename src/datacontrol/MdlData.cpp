@@ -8,6 +8,8 @@
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
+#include <vector>
 
 namespace tarsil::mdlData {
 
@@ -15,42 +17,65 @@ namespace {
 
 constexpr std::size_t mostLines = 30; ///< more do not fit on a small screen
 
+/// Rows that are neighbours.
+struct Block
+{
+    std::size_t first;
+    std::size_t count;
+
+    std::size_t end() const { return first + count; }
+};
+
+std::vector<Block> blocksOf(const Indices& rows)
+{
+    std::vector<Block> blocks;
+    for (const std::size_t row : rows) {
+        if (!blocks.empty() && blocks.back().end() == row)
+            ++blocks.back().count;
+        else
+            blocks.push_back({row, 1});
+    }
+    return blocks;
+}
+
+/// `to` is the index of the first row afterwards.
+void moveBlock(EvmPlot& plot, const Block& block, std::size_t to)
+{
+    plot.SerieMove(block.first + 1, to + 1, block.count);
+}
+
+template <typename Change>
+void changeAll(PlotRows& rows, const Change& change)
+{
+    for (std::size_t row = 0; row < rows.count(); ++row)
+        rows.change(rows.at(row).id, change);
+}
+
 } // namespace
 
-std::string missingModeText(const PlotRows& rows, std::size_t row)
+std::string missingModeText(const PlotRow& row)
 {
-    const EVM* const evolution = rows.evolution(row);
-    return "There is no mode " + std::to_string(rows.mode(row)) + " in modal evolution "
-        + (evolution != nullptr ? evolution->FileName : std::string());
+    return "There is no mode " + std::to_string(row.mode) + " in modal evolution "
+        + (row.evolution != nullptr ? row.evolution->FileName : std::string());
 }
 
 std::string missingModesText(const PlotRows& rows)
 {
     std::vector<std::string> lines;
-    for (const std::size_t row : rows.withoutSeries())
-        lines.push_back(missingModeText(rows, row));
+    for (const std::size_t row : rows.withoutCurve())
+        lines.push_back(missingModeText(rows.at(row)));
     return shortList(lines, mostLines);
 }
 
 std::string buildSeries(PlotRows& rows, const MarkerOptions& markers)
 {
-    for (std::size_t row = 0; row < rows.count(); ++row)
-        setMarkers(rows.look(row), markers);
+    changeAll(rows, [&](Series& look) { markers.applyTo(look); });
     return missingModesText(rows);
-}
-
-void setMarkers(Series& series, const MarkerOptions& markers)
-{
-    series.MarkerSize = markers.size;
-    series.MarkerSpacing = markers.spacing;
-    series.MarkerStyle = markers.style;
-    series.IthMpf = markers.ithMpf;
 }
 
 void changeMarkers(PlotRows& rows, const MarkerOptions& before, const MarkerOptions& now)
 {
-    for (std::size_t row = 0; row < rows.count(); ++row) {
-        Series& look = rows.look(row);
+    changeAll(rows, [&](Series& look) {
         if (now.size != before.size)
             look.MarkerSize = now.size;
         if (now.spacing != before.spacing)
@@ -59,7 +84,7 @@ void changeMarkers(PlotRows& rows, const MarkerOptions& before, const MarkerOpti
             look.MarkerStyle = now.style;
         if (now.ithMpf != before.ithMpf)
             look.IthMpf = now.ithMpf;
-    }
+    });
 }
 
 void setColor(Series& series, ColorValue color)
@@ -71,63 +96,64 @@ void setColor(Series& series, ColorValue color)
 
 void resetColors(PlotRows& rows)
 {
-    for (std::size_t row = 0; row < rows.count(); ++row)
-        setColor(rows.look(row), BaseColors[row % BaseColors.size()]);
+    std::size_t row = 0;
+    changeAll(rows,
+              [&row](Series& look) { setColor(look, BaseColors[row++ % BaseColors.size()]); });
 }
 
 /// From the last to the first when they go down and the other way when they go up, so that no move
-/// changes the place of one that is still to come.
-Places moveRows(EvmPlot& plot, const Places& moved, std::size_t target)
+/// changes the index of one that is still to come.
+void moveRows(EvmPlot& plot, const Indices& moved, std::size_t target)
 {
-    const auto above = static_cast<std::size_t>(std::count_if(
-        moved.begin(), moved.end(), [target](std::size_t place) { return place < target; }));
-    const std::size_t first = target - above;
-    for (std::size_t i = above; i-- > 0;)
-        plot.SerieMove(moved[i] + 1, first + i + 1);
-    for (std::size_t i = above; i < moved.size(); ++i)
-        plot.SerieMove(moved[i] + 1, first + i + 1);
-    Places places(moved.size());
-    std::iota(places.begin(), places.end(), first);
-    return places;
-}
-
-Places moveRowsUp(EvmPlot& plot, const Places& moved)
-{
-    Places places = moved;
-    std::size_t top = 0; // the first place that is free to move to
-    for (std::size_t& place : places) {
-        if (place > top) {
-            plot.SerieMove(place + 1, place);
-            --place;
-        }
-        top = place + 1;
+    const auto middle = std::lower_bound(moved.begin(), moved.end(), target);
+    std::size_t end = target;
+    std::vector<Block> above = blocksOf({moved.begin(), middle});
+    std::reverse(above.begin(), above.end());
+    for (const Block& block : above) {
+        end -= block.count;
+        moveBlock(plot, block, end);
     }
-    return places;
-}
-
-Places moveRowsDown(EvmPlot& plot, const Places& moved)
-{
-    Places places = moved;
-    std::size_t end = plot.rows().count(); // behind the last place that is free to move to
-    for (std::size_t i = places.size(); i-- > 0;) {
-        if (places[i] + 1 < end) {
-            plot.SerieMove(places[i] + 1, places[i] + 2);
-            ++places[i];
-        }
-        end = places[i];
+    std::size_t first = target;
+    for (const Block& block : blocksOf({middle, moved.end()})) {
+        moveBlock(plot, block, first);
+        first += block.count;
     }
-    return places;
 }
 
-std::int32_t raisedMode(const EVM* evolution, std::int32_t number)
+void moveRowsUp(EvmPlot& plot, const Indices& moved)
 {
-    const bool canGo = evolution != nullptr && number < evolution->na;
-    return canGo ? number + 1 : number;
+    for (const Block& block : blocksOf(moved)) {
+        if (block.first > 0)
+            moveBlock(plot, block, block.first - 1);
+    }
 }
 
-std::int32_t loweredMode(std::int32_t number)
+void moveRowsDown(EvmPlot& plot, const Indices& moved)
 {
-    return number != 0 ? number - 1 : number;
+    std::vector<Block> blocks = blocksOf(moved);
+    std::reverse(blocks.begin(), blocks.end());
+    for (const Block& block : blocks) {
+        if (block.end() < plot.rows().count())
+            moveBlock(plot, block, block.first + 1);
+    }
+}
+
+void raiseModes(PlotRows& rows, const Indices& raised)
+{
+    for (const std::size_t index : raised) {
+        const PlotRow& row = rows.at(index);
+        if (row.evolution != nullptr && row.mode < row.evolution->na)
+            rows.setMode(row.id, row.mode + 1);
+    }
+}
+
+void lowerModes(PlotRows& rows, const Indices& lowered)
+{
+    for (const std::size_t index : lowered) {
+        const PlotRow& row = rows.at(index);
+        if (row.mode != 0)
+            rows.setMode(row.id, row.mode - 1);
+    }
 }
 
 QString inOneLine(QString text)
@@ -138,36 +164,34 @@ QString inOneLine(QString text)
     return text.replace(u'\n', u' ');
 }
 
-bool fillLegend(PlotRows& rows, std::size_t row, std::int32_t index)
+std::optional<QString> legendText(const PlotRow& row, std::int32_t index)
 {
-    const EVM* const evolution = rows.evolution(row);
+    const EVM* const evolution = row.evolution;
     if (evolution == nullptr)
-        return false;
-    QString& text = rows.look(row).LegendText;
-    if (index == -1) {
-        text = QString::fromStdString(evolution->FileName);
-        return true;
-    }
+        return std::nullopt;
+    if (index == -1)
+        return QString::fromStdString(evolution->FileName);
     if (index < 0 || static_cast<std::size_t>(index) >= evolution->Param.legends.size())
-        return false;
+        return std::nullopt;
     const auto& entry = evolution->Param.legends[static_cast<std::size_t>(index)];
     QStringList parts = QString::fromStdString(entry.text).split(u'|', Qt::SkipEmptyParts);
     for (QString& part : parts)
         part = part.trimmed();
-    text = parts.join(QStringLiteral("; "));
-    return true;
+    return parts.join(QStringLiteral("; "));
 }
 
-bool fillLegends(PlotRows& rows, const Places& places, std::int32_t index)
+bool fillLegends(PlotRows& rows, const Indices& filled, std::int32_t index)
 {
-    bool isThere = true;
-    if (places.empty()) {
-        for (std::size_t row = 0; row < rows.count(); ++row)
-            isThere &= fillLegend(rows, row, index);
+    Indices all(filled.empty() ? rows.count() : 0);
+    std::iota(all.begin(), all.end(), std::size_t {0});
+    bool areThere = true;
+    for (const std::size_t row : filled.empty() ? all : filled) {
+        const std::optional<QString> text = legendText(rows.at(row), index);
+        areThere &= text.has_value();
+        if (text)
+            rows.change(rows.at(row).id, [&text](Series& look) { look.LegendText = *text; });
     }
-    for (const std::size_t row : places)
-        isThere &= fillLegend(rows, row, index);
-    return isThere;
+    return areThere;
 }
 
 } // namespace tarsil::mdlData

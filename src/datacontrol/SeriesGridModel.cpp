@@ -2,6 +2,7 @@
 
 #include "base/files/PathNames.h"
 #include "base/numbers/Numbers.h"
+#include "datacontrol/MdlData.h"
 #include "model/EVM.h"
 #include "plotwindow/ToolTipText.h"
 #include "vgfplot/EvmPlot.h"
@@ -54,6 +55,27 @@ QVariant warningIcon()
     return QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
 }
 
+/// Why the number of a row is red.
+QString missingModeText(const PlotRow& row)
+{
+    return QString::fromStdString(mdlData::missingModeText(row));
+}
+
+/// What the cell does not show: the folder, the line in words, why a number is red.
+QVariant toolTip(const PlotRow& row, SeriesColumn column)
+{
+    QString tip;
+    if (column == SeriesColumn::Evolution && row.evolution != nullptr)
+        tip = QString::fromStdString(shownPath(row.evolution->path()));
+    else if (column == SeriesColumn::Line)
+        tip = lineText(row.series);
+    else if (column == SeriesColumn::Mode && !row.hasCurve())
+        tip = missingModeText(row);
+    else if (column == SeriesColumn::Legend)
+        tip = row.series.LegendText;
+    return tip.isEmpty() ? QVariant() : QVariant(toolTipText(tip));
+}
+
 } // namespace
 
 SeriesGridModel::SeriesGridModel(QObject* parent) : QAbstractTableModel(parent) { }
@@ -64,70 +86,70 @@ void SeriesGridModel::setPlot(EvmPlot* plot)
 {
     if (plot == m_plot)
         return;
+    beginResetModel();
     if (m_plot != nullptr)
-        disconnect(m_plot, nullptr, this, nullptr);
+        disconnect(&m_plot->rows(), nullptr, this, nullptr);
     m_plot = plot;
     if (plot != nullptr)
-        connect(plot, &EvmPlot::changed, this, &SeriesGridModel::follow);
-    replaceRows(rowsOfPlot());
+        follow(plot->rows());
+    endResetModel();
     Q_EMIT rowsReplaced();
 }
 
-SeriesGridModel::Row SeriesGridModel::rowOf(std::size_t row) const
+void SeriesGridModel::follow(const PlotRows& rows)
 {
-    return {m_plot->rows().look(row).Mode, m_plot->rows().evolution(row)};
+    const auto last = [](std::size_t first, std::size_t count) {
+        return static_cast<int>(first + count) - 1;
+    };
+    connect(&rows, &PlotRows::rowsAboutToBeAdded, this,
+            [this, last](std::size_t first, std::size_t count) {
+                m_wasEmpty = rowCount() == 0;
+                beginInsertRows({}, static_cast<int>(first), last(first, count));
+            });
+    connect(&rows, &PlotRows::rowsAdded, this, [this] {
+        endInsertRows();
+        if (m_wasEmpty)
+            Q_EMIT rowsReplaced();
+    });
+    connect(&rows, &PlotRows::rowsAboutToBeRemoved, this,
+            [this, last](std::size_t first, std::size_t count) {
+                beginRemoveRows({}, static_cast<int>(first), last(first, count));
+            });
+    connect(&rows, &PlotRows::rowsRemoved, this, [this] { endRemoveRows(); });
+    connect(&rows, &PlotRows::rowChanged, this, [this](std::size_t changed) {
+        const int row = static_cast<int>(changed);
+        Q_EMIT dataChanged(index(row, 0), index(row, seriesColumnCount - 1));
+    });
+    followMoves(rows);
 }
 
-SeriesGridModel::Rows SeriesGridModel::rowsOfPlot() const
+/// Rows have other numbers when rows were removed or moved before them.
+void SeriesGridModel::followMoves(const PlotRows& rows)
 {
-    Rows rows;
-    for (std::size_t row = 0; m_plot != nullptr && row < m_plot->rows().count(); ++row)
-        rows.push_back(rowOf(row));
-    return rows;
-}
-
-/// The rows may be others than before: the picture has changed.
-void SeriesGridModel::follow()
-{
-    Rows rows = rowsOfPlot();
-    const bool areBegun =
-        m_rows.size() <= rows.size() && std::equal(m_rows.begin(), m_rows.end(), rows.begin());
-    if (areBegun && m_rows.size() == rows.size())
-        return seriesChanged();
-    const bool areNew = m_rows.empty();
-    if (areBegun)
-        appendRows(std::move(rows));
-    else
-        replaceRows(std::move(rows));
-    if (areNew)
-        Q_EMIT rowsReplaced();
-}
-
-/// What is selected or being edited in the rows before stays so.
-void SeriesGridModel::appendRows(Rows rows)
-{
-    seriesChanged();
-    beginInsertRows({}, rowCount(), static_cast<int>(rows.size()) - 1);
-    m_rows = std::move(rows);
-    endInsertRows();
-}
-
-void SeriesGridModel::replaceRows(Rows rows)
-{
-    beginResetModel();
-    m_rows = std::move(rows);
-    endResetModel();
-}
-
-void SeriesGridModel::seriesChanged()
-{
-    if (!m_rows.empty())
-        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, seriesColumnCount - 1));
+    const auto renumber = [this](std::size_t first, std::size_t end) {
+        const int column = static_cast<int>(SeriesColumn::Index);
+        if (first < end)
+            Q_EMIT dataChanged(index(static_cast<int>(first), column),
+                               index(static_cast<int>(end) - 1, column));
+    };
+    connect(&rows, &PlotRows::rowsAboutToBeMoved, this,
+            [this](std::size_t first, std::size_t count, std::size_t to) {
+                const std::size_t gap = to > first ? to + count : to;
+                beginMoveRows({}, static_cast<int>(first), static_cast<int>(first + count) - 1, {},
+                              static_cast<int>(gap));
+            });
+    connect(&rows, &PlotRows::rowsMoved, this,
+            [this, renumber](std::size_t first, std::size_t count, std::size_t to) {
+                endMoveRows();
+                renumber(std::min(first, to), std::max(first, to) + count);
+            });
+    connect(&rows, &PlotRows::rowsRemoved, this,
+            [&rows, renumber](std::size_t first) { renumber(first, rows.count()); });
 }
 
 int SeriesGridModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+    return parent.isValid() || m_plot == nullptr ? 0 : static_cast<int>(m_plot->rows().count());
 }
 
 int SeriesGridModel::columnCount(const QModelIndex& parent) const
@@ -149,33 +171,27 @@ QVariant SeriesGridModel::headerData(int section, Qt::Orientation orientation, i
                               : headings[static_cast<std::size_t>(section)];
 }
 
-Series* SeriesGridModel::look(int row) const
+const PlotRow* SeriesGridModel::row(int index) const
 {
-    const bool isThere =
-        m_plot != nullptr && row >= 0 && static_cast<std::size_t>(row) < m_plot->rows().count();
-    return isThere ? &m_plot->rows().look(static_cast<std::size_t>(row)) : nullptr;
-}
-
-bool SeriesGridModel::hasSeries(int row) const
-{
-    return m_plot->rows().hasSeries(static_cast<std::size_t>(row));
+    return index >= 0 && index < rowCount() ? &m_plot->rows().at(static_cast<std::size_t>(index))
+                                            : nullptr;
 }
 
 QVariant SeriesGridModel::data(const QModelIndex& index, int role) const
 {
-    const Series* const one = index.isValid() ? look(index.row()) : nullptr;
-    if (one == nullptr)
+    const PlotRow* const shown = index.isValid() ? row(index.row()) : nullptr;
+    if (shown == nullptr)
         return {};
     const SeriesColumn column = columnOf(index);
-    const bool isMarked = column == SeriesColumn::Mode && !hasSeries(index.row());
+    const bool isMarked = column == SeriesColumn::Mode && !shown->hasCurve();
     switch (role) {
     case Qt::DisplayRole:
     case Qt::EditRole:
         return text(index.row(), column);
     case Qt::ToolTipRole:
-        return toolTip(index.row(), column);
+        return toolTip(*shown, column);
     case Qt::AccessibleTextRole:
-        return column == SeriesColumn::Line ? lineText(*one) : text(index.row(), column);
+        return column == SeriesColumn::Line ? lineText(shown->series) : text(index.row(), column);
     case Qt::TextAlignmentRole:
         return column == SeriesColumn::Index || column == SeriesColumn::Mode
             ? QVariant(static_cast<int>(Qt::AlignRight | Qt::AlignVCenter))
@@ -183,7 +199,7 @@ QVariant SeriesGridModel::data(const QModelIndex& index, int role) const
     case Qt::DecorationRole: // seen in a selected cell, too, where the colour is that of selections
         return isMarked ? warningIcon() : QVariant();
     case Qt::AccessibleDescriptionRole:
-        return isMarked ? QVariant(missingModeText(index.row())) : QVariant();
+        return isMarked ? QVariant(missingModeText(*shown)) : QVariant();
     case Qt::ForegroundRole:
         return isMarked ? QColor(Qt::red) : QVariant();
     default:
@@ -193,45 +209,23 @@ QVariant SeriesGridModel::data(const QModelIndex& index, int role) const
 
 QVariant SeriesGridModel::text(int row, SeriesColumn column) const
 {
-    const EVM* const evolution = m_plot->rows().evolution(static_cast<std::size_t>(row));
+    const PlotRow& shown = *this->row(row);
     switch (column) {
     case SeriesColumn::Index:
         return QString::number(row + 1);
     case SeriesColumn::Evolution:
-        return evolution != nullptr ? QString::fromStdString(evolution->FileName) : QString();
+        return shown.evolution != nullptr ? QString::fromStdString(shown.evolution->FileName)
+                                          : QString();
     case SeriesColumn::Tag:
-        return look(row)->MarkerTag;
+        return shown.series.MarkerTag;
     case SeriesColumn::Mode:
-        return QString::number(modeNumber(row));
+        return QString::number(shown.mode);
     case SeriesColumn::Legend:
-        return look(row)->LegendText;
+        return shown.series.LegendText;
     case SeriesColumn::Line:
         break;
     }
     return {};
-}
-
-/// What does not stand in the cell: the folder, the line in words, why a number is red.
-QVariant SeriesGridModel::toolTip(int row, SeriesColumn column) const
-{
-    const EVM* const evolution = m_plot->rows().evolution(static_cast<std::size_t>(row));
-    QString tip;
-    if (column == SeriesColumn::Evolution && evolution != nullptr)
-        tip = QString::fromStdString(shownPath(evolution->path()));
-    else if (column == SeriesColumn::Line)
-        tip = lineText(*look(row));
-    else if (column == SeriesColumn::Mode && !hasSeries(row))
-        tip = missingModeText(row);
-    else if (column == SeriesColumn::Legend)
-        tip = look(row)->LegendText;
-    return tip.isEmpty() ? QVariant() : QVariant(toolTipText(tip));
-}
-
-/// Why the number of a row is red.
-QString SeriesGridModel::missingModeText(int row) const
-{
-    return QString::fromStdString(
-        mdlData::missingModeText(m_plot->rows(), static_cast<std::size_t>(row)));
 }
 
 Qt::ItemFlags SeriesGridModel::flags(const QModelIndex& index) const
@@ -260,98 +254,44 @@ Qt::DropActions SeriesGridModel::supportedDropActions() const
 
 bool SeriesGridModel::setData(const QModelIndex& index, const QVariant& value, int role)
 {
-    Series* const one = index.isValid() && role == Qt::EditRole ? look(index.row()) : nullptr;
-    if (one == nullptr || !flags(index).testFlag(Qt::ItemIsEditable))
+    const bool isEdit = index.isValid() && role == Qt::EditRole && row(index.row()) != nullptr;
+    if (!isEdit || !flags(index).testFlag(Qt::ItemIsEditable))
         return false;
-    const SeriesColumn column = columnOf(index);
-    if (value.toString() == text(index.row(), column).toString())
+    if (value.toString() == text(index.row(), columnOf(index)).toString())
         return true;
-    if (column == SeriesColumn::Mode) {
-        if (!setModeText(index, value.toString()))
-            return false;
-    } else {
-        QString& cell = column == SeriesColumn::Tag ? one->MarkerTag : one->LegendText;
-        cell = mdlData::inOneLine(value.toString());
-        Q_EMIT dataChanged(index, index);
-    }
-    Q_EMIT edited(column);
+    if (!setText(index, value.toString()))
+        return false;
+    Q_EMIT edited(columnOf(index));
+    return true;
+}
+
+bool SeriesGridModel::setText(const QModelIndex& cell, const QString& text)
+{
+    const SeriesColumn column = columnOf(cell);
+    if (column == SeriesColumn::Mode)
+        return setModeText(cell, text);
+    m_plot->rows().change(row(cell.row())->id, [&](Series& look) {
+        QString& changed = column == SeriesColumn::Tag ? look.MarkerTag : look.LegendText;
+        changed = mdlData::inOneLine(text);
+    });
     return true;
 }
 
 bool SeriesGridModel::setModeText(const QModelIndex& cell, const QString& text)
 {
-    const int row = cell.row();
     try {
         const std::string typed = text.toStdString();
         std::int16_t number = 0;
         const NumberStatus status = parseInteger16(typed, number);
         if (status != NumberStatus::Ok)
-            throwNumberError(status, typed, "wndData", "Mode of row " + std::to_string(row + 1));
-        setModeNumber(row, number);
+            throwNumberError(status, typed, "wndData",
+                             "Mode of row " + std::to_string(cell.row() + 1));
+        m_plot->rows().setMode(row(cell.row())->id, number);
         return true;
     } catch (const RunTimeError& error) {
         Q_EMIT refused(cell, text, error);
         return false;
     }
-}
-
-std::int32_t SeriesGridModel::modeNumber(int row) const
-{
-    return m_plot->rows().mode(static_cast<std::size_t>(row));
-}
-
-void SeriesGridModel::setModeNumber(int row, std::int32_t number)
-{
-    const auto place = static_cast<std::size_t>(row);
-    m_plot->rows().setMode(place, number);
-    m_rows.at(place) = rowOf(place);
-    Q_EMIT dataChanged(index(row, 0), index(row, seriesColumnCount - 1));
-}
-
-void SeriesGridModel::raiseMode(int row)
-{
-    const EVM* const evolution = m_plot->rows().evolution(static_cast<std::size_t>(row));
-    setModeNumber(row, mdlData::raisedMode(evolution, modeNumber(row)));
-}
-
-void SeriesGridModel::lowerMode(int row)
-{
-    setModeNumber(row, mdlData::loweredMode(modeNumber(row)));
-}
-
-void SeriesGridModel::removeSeries(const Places& rows)
-{
-    beginResetModel(); // the rows after them get other numbers
-    m_plot->rows().remove(rows);
-    m_rows = rowsOfPlot();
-    endResetModel();
-}
-
-mdlData::Places SeriesGridModel::moveSeries(const Places& rows, std::size_t target)
-{
-    beginResetModel();
-    Places places = mdlData::moveRows(*m_plot, rows, target);
-    m_rows = rowsOfPlot();
-    endResetModel();
-    return places;
-}
-
-mdlData::Places SeriesGridModel::moveSeriesUp(const Places& rows)
-{
-    beginResetModel();
-    Places places = mdlData::moveRowsUp(*m_plot, rows);
-    m_rows = rowsOfPlot();
-    endResetModel();
-    return places;
-}
-
-mdlData::Places SeriesGridModel::moveSeriesDown(const Places& rows)
-{
-    beginResetModel();
-    Places places = mdlData::moveRowsDown(*m_plot, rows);
-    m_rows = rowsOfPlot();
-    endResetModel();
-    return places;
 }
 
 } // namespace tarsil

@@ -9,7 +9,6 @@
 #include <QPainter>
 
 #include <algorithm>
-#include <set>
 
 namespace tarsil {
 
@@ -52,9 +51,44 @@ void SeriesGridView::setModel(QAbstractItemModel* model)
     m_isFitting = true; // new columns have a width that is nobody's
     QTableView::setModel(model);
     m_isFitting = false;
-    connect(model, &QAbstractItemModel::modelReset, this, &SeriesGridView::fitNames);
-    connect(model, &QAbstractItemModel::rowsInserted, this, &SeriesGridView::fitNames);
+    connect(model, &QAbstractItemModel::modelReset, this, &SeriesGridView::measureAllNames);
+    connect(model, &QAbstractItemModel::rowsInserted, this,
+            [this](const QModelIndex& /*parent*/, int first, int last) { addNames(first, last); });
+    connect(
+        model, &QAbstractItemModel::rowsAboutToBeRemoved, this,
+        [this](const QModelIndex& /*parent*/, int first, int last) { removeNames(first, last); });
+    connect(model, &QAbstractItemModel::rowsRemoved, this, &SeriesGridView::fitNames);
+    measureAllNames();
+}
+
+void SeriesGridView::measureAllNames()
+{
+    m_nameWidths.clear();
+    addNames(0, model()->rowCount() - 1);
+}
+
+/// Only new names are measured, so that many rows that come one by one take no longer than all at
+/// once.
+void SeriesGridView::addNames(int first, int last)
+{
+    for (int row = first; row <= last; ++row)
+        m_nameWidths.insert(widthOfName(row));
     fitNames();
+}
+
+void SeriesGridView::removeNames(int first, int last)
+{
+    for (int row = first; row <= last; ++row) {
+        const auto width = m_nameWidths.find(widthOfName(row));
+        if (width != m_nameWidths.end())
+            m_nameWidths.erase(width);
+    }
+}
+
+int SeriesGridView::widthOfName(int row) const
+{
+    const int gridLine = showGrid() ? 1 : 0;
+    return sizeHintForIndex(model()->index(row, evolutionColumn)).width() + gridLine;
 }
 
 void SeriesGridView::resizeEvent(QResizeEvent* event)
@@ -88,7 +122,7 @@ int SeriesGridView::widthOfNames(int width) const
             room -= header.sectionSize(column);
     }
     const int least = header.sectionSizeHint(evolutionColumn);
-    const int needed = std::max(sizeHintForColumn(evolutionColumn), least);
+    const int needed = m_nameWidths.empty() ? least : std::max(*m_nameWidths.rbegin(), least);
     return std::min(needed, std::max(room, least));
 }
 

@@ -2,6 +2,7 @@
 
 #include <QTableView>
 
+#include <set>
 #include <vector>
 
 namespace tarsil {
@@ -70,11 +71,16 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void measureAllNames();
+    void addNames(int first, int last);
+    void removeNames(int first, int last);
+    int widthOfName(int row) const;
     void fitNames();
     int widthOfNames(int width) const;
     bool handleKey(const QKeyEvent& event);
 
     QString m_placeholder;
+    std::multiset<int> m_nameWidths; ///< of all rows
     bool m_isFitting = false;
     bool m_hasUsersWidth = false; ///< of the column of the evolutions
 };

@@ -54,7 +54,6 @@ wndData::wndData(wndEvolPlot& plots, const AirplaneInfo& airplane, ReferenceEvol
                 commitEdits(); // belongs to the plot before
                 m_model.setPlot(now);
             });
-    connect(&m_plots, &wndEvolPlot::seriesAdded, this, &wndData::styleNewSeries);
     m_model.setPlot(m_plots.ActivePlot());
 }
 

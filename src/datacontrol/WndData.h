@@ -82,13 +82,13 @@ private:
     void takeMarkers();
     void applyMarkers();
     void showMarkers();
-    void styleNewSeries(EvmPlot* plot);
     bool isModeSelected(const char* refusal);
-    void changeModes(bool raise);
+    using ChangeModes = void (*)(PlotRows&, const PlotRows::Indices&);
+    void changeModes(ChangeModes change);
     void moveUp();
     void moveDown();
     void moveSelectedTo(std::size_t target);
-    void afterMove(const std::vector<std::size_t>& rows, int column);
+    void showCurrentRow();
     int currentColumn() const;
     void chooseLine();
     void afterEdit(SeriesColumn column);

@@ -62,6 +62,17 @@ LineLook lookOf(const Series& series)
     return {series.ColorIndex, series.LineStyle, series.LineWidth};
 }
 
+/// Changes what differs between two looks.
+void changeLine(Series& series, const LineLook& before, const LineLook& now)
+{
+    if (now.color != before.color)
+        mdlData::setColor(series, now.color);
+    if (now.style != before.style)
+        series.LineStyle = now.style;
+    if (now.width != before.width)
+        series.LineWidth = now.width;
+}
+
 } // namespace
 
 /// The rows become the series, and the plot is drawn; then the user hears of the modes that are not
@@ -84,11 +95,10 @@ std::string wndData::rebuild(EvmPlot& plot)
 
 void wndData::afterEdit(SeriesColumn column)
 {
-    if (column != SeriesColumn::Mode && column != SeriesColumn::Tag)
-        return; // the tag may be the marker
-    m_model.plot()->plot();
+    if (column != SeriesColumn::Mode)
+        return;
     const std::string missing = mdlData::missingModesText(m_model.plot()->rows());
-    if (column == SeriesColumn::Mode && !missing.empty())
+    if (!missing.empty())
         warn(missing);
 }
 
@@ -103,28 +113,23 @@ bool wndData::isModeSelected(const char* refusal)
 void wndData::cmdIncMode_Click()
 {
     if (isModeSelected("Please select cells in \"Mode\" column."))
-        changeModes(true);
+        changeModes(mdlData::raiseModes);
 }
 
 void wndData::cmdDecMode_Click()
 {
     if (isModeSelected("You must first select cells in mode column!"))
-        changeModes(false);
+        changeModes(mdlData::lowerModes);
 }
 
-void wndData::changeModes(bool raise)
+void wndData::changeModes(ChangeModes change)
 {
     static_cast<void>(markerOptions()); // what is wrong there is reported before anything changes
-    for (const std::size_t place : m_ui->flxSerieViewer->selectedRows()) {
-        if (raise)
-            m_model.raiseMode(static_cast<int>(place));
-        else
-            m_model.lowerMode(static_cast<int>(place));
-    }
+    change(m_model.plot()->rows(), m_ui->flxSerieViewer->selectedRows());
     cmdDrawPlot_Click();
 }
 
-/// The selected rows, or the current one, or the only one; the row behind them is the next current
+/// The selected rows, or the current one, or the only one; the row after them is the next current
 /// one.
 void wndData::cmdRemove_Click()
 {
@@ -136,7 +141,7 @@ void wndData::cmdRemove_Click()
         return;
     static_cast<void>(markerOptions());
     const int column = currentColumn();
-    m_model.removeSeries(rows);
+    m_model.plot()->rows().remove(rows);
     const auto count = static_cast<std::size_t>(m_model.rowCount());
     if (count > 0)
         grid.selectRows({std::min(rows.front(), count - 1)}, column);
@@ -157,42 +162,36 @@ void wndData::moveUp()
 {
     if (m_model.rowCount() == 0)
         return;
-    const int column = currentColumn();
-    afterMove(m_model.moveSeriesUp(m_ui->flxSerieViewer->selectedOrCurrentRows()), column);
+    mdlData::moveRowsUp(*m_model.plot(), m_ui->flxSerieViewer->selectedOrCurrentRows());
+    showCurrentRow();
 }
 
 void wndData::moveDown()
 {
     if (m_model.rowCount() == 0)
         return;
-    const int column = currentColumn();
-    afterMove(m_model.moveSeriesDown(m_ui->flxSerieViewer->selectedOrCurrentRows()), column);
+    mdlData::moveRowsDown(*m_model.plot(), m_ui->flxSerieViewer->selectedOrCurrentRows());
+    showCurrentRow();
 }
 
 void wndData::moveSelectedTo(std::size_t target)
 {
     if (m_model.rowCount() == 0)
         return;
-    const int column = currentColumn();
-    afterMove(m_model.moveSeries(m_ui->flxSerieViewer->selectedOrCurrentRows(), target), column);
+    mdlData::moveRows(*m_model.plot(), m_ui->flxSerieViewer->selectedOrCurrentRows(), target);
+    showCurrentRow();
 }
 
-/// The rows stay selected at their new places.
-void wndData::afterMove(const std::vector<std::size_t>& rows, int column)
+void wndData::showCurrentRow()
 {
-    if (rows.empty())
-        return;
-    m_ui->flxSerieViewer->selectRows(rows, column);
-    m_model.plot()->plot();
+    SeriesGridView& grid = *m_ui->flxSerieViewer;
+    grid.scrollTo(grid.currentIndex());
 }
 
 void wndData::btnResColor_Click()
 {
-    EvmPlot* const plot = activePlot();
-    if (plot == nullptr)
-        return;
-    mdlData::resetColors(plot->rows());
-    plot->plot();
+    if (EvmPlot* const plot = activePlot())
+        mdlData::resetColors(plot->rows());
 }
 
 /// The colour, style and width of the lines of the selected rows; the first one says what they are.
@@ -202,21 +201,15 @@ void wndData::chooseLine()
     const std::vector<std::size_t> rows = m_ui->flxSerieViewer->selectedOrCurrentRows();
     if (rows.empty())
         return;
-    dlgSeriesStyle dialog(lookOf(*m_model.look(static_cast<int>(rows.front()))), this);
+    dlgSeriesStyle dialog(lookOf(m_model.row(static_cast<int>(rows.front()))->series), this);
     const LineLook before = dialog.look();
     if (dialog.exec() != QDialog::Accepted || dialog.look() == before)
         return;
     const LineLook now = dialog.look();
-    for (const std::size_t row : rows) {
-        Series& series = *m_model.look(static_cast<int>(row));
-        if (now.color != before.color)
-            mdlData::setColor(series, now.color);
-        if (now.style != before.style)
-            series.LineStyle = now.style;
-        if (now.width != before.width)
-            series.LineWidth = now.width;
-    }
-    m_model.plot()->plot();
+    PlotRows& plotRows = m_model.plot()->rows();
+    for (const std::size_t row : rows)
+        plotRows.change(plotRows.at(row).id,
+                        [&](Series& series) { changeLine(series, before, now); });
 }
 
 std::int32_t wndData::markerStyle() const
@@ -248,6 +241,7 @@ void wndData::takeMarkers()
     takeCount(*m_ui->mksizeInp, any, m_sizeWarning, m_markers.size);
     takeCount(*m_ui->mkspaceInp, any, m_spacingWarning, m_markers.spacing);
     takeCount(*m_ui->ithmpfInp, factorCount, m_factorWarning, m_markers.ithMpf);
+    m_plots.setNewSeriesMarkers(m_markers);
     if (m_markers.style != markerstyle::participationFactor)
         m_factorWarning.show({});
 }
@@ -262,16 +256,16 @@ void wndData::applyMarkers()
     if (plot == nullptr || m_markers == before)
         return;
     mdlData::changeMarkers(plot->rows(), before, m_markers);
-    plot->plot();
 }
 
 /// The controls show what the first series of the plot has, so that "Plot" leaves a plot as it was
 /// opened. A series without markers says nothing about their size and spacing.
 void wndData::showMarkers()
 {
-    const Series* const series = m_model.look(0);
-    if (series == nullptr)
+    const PlotRow* const first = m_model.row(0);
+    if (first == nullptr)
         return;
+    const Series* const series = &first->series;
     const QSignalBlocker quiet[] = {QSignalBlocker(m_ui->mksizeInp),
                                     QSignalBlocker(m_ui->mkspaceInp),
                                     QSignalBlocker(m_ui->ithmpfInp)}; // it is not the user's change
@@ -285,14 +279,6 @@ void wndData::showMarkers()
     if (series->IthMpf > 0)
         m_ui->ithmpfInp->setText(QString::number(series->IthMpf));
     takeMarkers();
-}
-
-/// A curve that the user adds gets the markers that stand here, in its colour.
-void wndData::styleNewSeries(EvmPlot* plot)
-{
-    Series& series = plot->SeriesCollection().back();
-    series.MarkerForegroundColor = series.ColorIndex;
-    mdlData::setMarkers(series, m_markers);
 }
 
 /// What is rounded to 0 is refused as well. The box is as before when the message comes: the

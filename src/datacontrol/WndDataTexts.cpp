@@ -47,11 +47,8 @@ double fontSizeIn(const QLineEdit& input)
 
 void wndData::btnFitFreq_Click()
 {
-    EvmPlot* const plot = activePlot();
-    if (plot == nullptr)
-        return;
-    plot->fitFreq();
-    plot->plot();
+    if (EvmPlot* const plot = activePlot())
+        plot->fitFreq();
 }
 
 void wndData::btnMakHead_Click()
@@ -86,7 +83,6 @@ void wndData::cmbFlutMech_Click()
     if (plot == nullptr)
         return;
     showMechanism(*plot, m_airplane, name, !m_ui->optFlutMecShort->isChecked());
-    plot->plot();
 }
 
 /// The user hears once of entries that are not there.
@@ -98,7 +94,6 @@ void wndData::btnFilltLeg_Click()
     const std::int32_t index = legendIndexIn(*m_ui->txtLegIdx);
     const bool areThere =
         mdlData::fillLegends(plot->rows(), m_ui->flxSerieViewer->selectedRows(), index);
-    m_model.seriesChanged();
     if (!areThere)
         warn("There is not " + std::to_string(index) + "\u00AA legend entry");
 }
@@ -111,7 +106,6 @@ void wndData::btnPlotLeg_Click()
     const double points = fontSizeIn(*m_ui->txtLegFontSize);
     const std::string missing = rebuild(*plot);
     writeLegend(*plot, points);
-    plot->plot();
     if (!missing.empty())
         warn(missing);
 }

@@ -11,8 +11,6 @@ void addCurves(wndEvolPlot& plots, const std::vector<AeMode*>& modes)
         if (plots.ActivePlot() == nullptr)
             return; // told once is enough
     }
-    if (!modes.empty())
-        plots.ActivePlot()->plot();
 }
 
 } // namespace tarsil

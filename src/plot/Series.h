@@ -36,8 +36,23 @@ struct Series
 
     /// A new series with the same mode and copies of everything else.
     Series Clone() const;
+
+    bool operator==(const Series&) const = default;
 };
 
 using SeriesList = std::vector<Series>;
+
+/// What stands at the marked points of a curve.
+struct MarkerOptions
+{
+    std::int32_t size = 8; ///< points
+    std::int32_t spacing = 10;
+    std::int32_t style = markerstyle::modeNumber;
+    std::int32_t ithMpf = 1; ///< counted from 1
+
+    void applyTo(Series& series) const;
+
+    bool operator==(const MarkerOptions&) const = default;
+};
 
 } // namespace tarsil

@@ -130,10 +130,8 @@ void wndEvolPlot::RemovePlot(EvmPlot* plot)
 
 void wndEvolPlot::AddSerie(AeMode& mode)
 {
-    if (!hasActivePlot())
-        return;
-    m_activePlot->addSeries(mode);
-    Q_EMIT seriesAdded(m_activePlot);
+    if (hasActivePlot())
+        m_activePlot->addSeries(mode, m_newSeriesMarkers);
 }
 
 void wndEvolPlot::FitPlot(EvmPlot* plot)

@@ -43,6 +43,9 @@ public:
     void setNewPlotDefaults(const NewPlotDefaults& defaults) { m_newPlotDefaults = defaults; }
     const NewPlotDefaults& newPlotDefaults() const { return m_newPlotDefaults; }
 
+    /// For series that `AddSerie` adds from now on.
+    void setNewSeriesMarkers(const MarkerOptions& markers) { m_newSeriesMarkers = markers; }
+
     /// Null when no plot is active.
     EvmPlot* ActivePlot() const { return m_activePlot; }
 
@@ -65,8 +68,8 @@ public:
     /// is not of this window is nothing to remove.
     void RemovePlot(EvmPlot* plot);
 
-    /// Appends a series for a mode to the active plot (`EvmPlot::addSeries`) and draws nothing.
-    /// Without an active plot the user gets a message and nothing changes.
+    /// Appends a series for a mode to the active plot (`EvmPlot::addSeries`). Without an active
+    /// plot the user gets a message and nothing changes.
     void AddSerie(AeMode& mode);
 
     /// Makes a plot fill the window from its upper left corner; null is nothing to fit.
@@ -87,9 +90,6 @@ Q_SIGNALS:
 
     /// A plot, which is not active any more, ends when all have heard of it.
     void plotAboutToBeRemoved(tarsil::EvmPlot* plot);
-
-    /// `AddSerie` has added a series, the last one of the plot; it is not drawn yet.
-    void seriesAdded(tarsil::EvmPlot* plot);
 
     /// The user wants the menu of the active plot, by the right button or by the keyboard.
     void plotMenuRequested(QPoint globalPosition);
@@ -122,6 +122,7 @@ private:
     std::vector<Element> evpVgf; ///< by increasing index
     EvmPlot* m_activePlot = nullptr;
     NewPlotDefaults m_newPlotDefaults;
+    std::optional<MarkerOptions> m_newSeriesMarkers;
 };
 
 } // namespace tarsil

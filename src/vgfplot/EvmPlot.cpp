@@ -62,28 +62,41 @@ EvmPlot::EvmPlot() : m_vgPlot(*this), m_vfPlot(*this)
     ReadProperties({});
     SetScale(Scale());
     resize(QSize(800, 600));
+    followRows();
 }
 
 EvmPlot::~EvmPlot() = default;
 
-Series& EvmPlot::addSeries(AeMode& mode)
+/// A change of the rows is shown without being asked for.
+void EvmPlot::followRows()
 {
-    const std::size_t count = m_rows.count();
-    Series& series = m_rows.series().emplace_back();
-    series.Mode = &mode;
-    series.ColorIndex = BaseColors[count % BaseColors.size()];
-    series.MarkerTag = QString::number(count);
-    return series;
+    const auto showCurves = [this] {
+        m_isPlotted = true;
+        invalidate();
+    };
+    connect(&m_rows, &PlotRows::rowsAdded, this, showCurves);
+    connect(&m_rows, &PlotRows::rowsRemoved, this, showCurves);
+    connect(&m_rows, &PlotRows::rowsMoved, this, showCurves);
+    connect(&m_rows, &PlotRows::rowChanged, this, showCurves);
 }
 
-void EvmPlot::SerieMove(std::size_t from, std::size_t to)
+RowId EvmPlot::addSeries(AeMode& mode, const std::optional<MarkerOptions>& markers)
 {
-    const std::size_t count = m_rows.count();
-    if (from < 1 || to < 1 || from > count || to > count)
+    Series series = newSeries(mode, m_rows.count());
+    if (markers) {
+        series.MarkerForegroundColor = series.ColorIndex;
+        markers->applyTo(series);
+    }
+    return m_rows.add(std::move(series));
+}
+
+void EvmPlot::SerieMove(std::size_t from, std::size_t to, std::size_t count)
+{
+    if (from < 1 || to < 1)
         throw RunTimeError(ErrorNumber::SubscriptOutOfRange, "EvmPlot",
                            "row " + std::to_string(from) + " to " + std::to_string(to) + " of "
-                               + std::to_string(count));
-    m_rows.move(from - 1, to - 1);
+                               + std::to_string(m_rows.count()));
+    m_rows.move(from - 1, to - 1, count);
 }
 
 void EvmPlot::fitFreq()

@@ -12,6 +12,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 namespace tarsil {
@@ -61,34 +62,33 @@ public:
     emfRichTextBox& Legend() { return ertbTexts[1]; }
     emfRichTextBox& Mechanism() { return ertbTexts[2]; }
 
-    /// The series in order of drawing. Whoever changes them calls `plot` afterwards.
-    SeriesList& SeriesCollection() { return m_rows.series(); }
-    const SeriesList& SeriesCollection() const override { return m_rows.series(); }
+    /// The series in order of drawing: those of the rows that have a curve.
+    const SeriesList& SeriesCollection() const override { return m_rows.curves(); }
 
-    /// The rows of which the series are those that have a curve. Whoever changes them calls `plot`
-    /// afterwards.
+    /// The rows of the plot. A change of them marks the picture as stale; it is drawn when it is
+    /// next asked for.
     PlotRows& rows() { return m_rows; }
     const PlotRows& rows() const { return m_rows; }
 
-    /// Appends a row with a series for a mode: in row k (counted from 0) the colour is entry k mod
-    /// 7 of `BaseColors` and the tag is k. Rows without a curve count, so that none gets the look
-    /// of another one when its curve comes back. Nothing is drawn. The reference is good until the
-    /// collection changes.
-    Series& addSeries(AeMode& mode);
+    /// Appends a row with a series for a mode (`newSeries`), with these markers in the colour of
+    /// the curve. Rows without a curve count, so that none gets the look of another one when its
+    /// curve comes back.
+    RowId addSeries(AeMode& mode, const std::optional<MarkerOptions>& markers = {});
 
-    /// Moves the row at position `from` to position `to`, both counted from 1, and its series with
-    /// it; error 9 "Subscript out of range" outside the rows.
-    void SerieMove(std::size_t from, std::size_t to);
+    /// Moves `count` rows from position `from` on, counted from 1, so that the first of them is at
+    /// position `to`; error 9 "Subscript out of range" outside the rows.
+    void SerieMove(std::size_t from, std::size_t to, std::size_t count = 1);
 
     /// Fits the frequency axis to the points of all series whose speed lies above 0.8 vmin and
     /// below vmax: 0.95 of the smallest to 1.05 of the largest, in whole Hz; 0.85 when they fall
     /// together. With no such point, or when the bounds still fall together, the scale stays.
     void fitFreq();
 
-    /// Empties both canvases and draws them, each on its own surface. Errors: those of `ucPlot`.
+    /// Empties both canvases and draws them at once, each on its own surface. Who changes something
+    /// need not call it. Errors: those of `ucPlot`.
     void plot();
 
-    /// Empties both canvases.
+    /// Empties both canvases; they stay so until `plot` or a change of the rows.
     void Cls();
 
     Scale GetScale() const;
@@ -224,6 +224,7 @@ private:
     void layOutBoxes();
     void appendDampLine(float g, const QString& caption);
     void invalidate();
+    void followRows();
     void drawParts();
     void compose();
     std::array<PlotControl*, 11> partsInDrawingOrder();

@@ -85,8 +85,9 @@ std::int32_t usualSpacing(const AeMode& mode)
 void addCurves(EvmPlot& plot, const EvolutionCurves& curves, const CurveMarkers& markers,
                std::size_t file)
 {
+    std::vector<Series> added;
     for (AeMode* mode : curves.modes) {
-        Series& series = plot.addSeries(*mode);
+        Series& series = added.emplace_back(newSeries(*mode, plot.rows().count() + added.size()));
         series.LineStyle = lineStyles[file % lineStyles.size()];
         series.LegendText = QString::fromStdString(curves.evolution->FileName);
         series.MarkerStyle = markers.style;
@@ -95,6 +96,7 @@ void addCurves(EvmPlot& plot, const EvolutionCurves& curves, const CurveMarkers&
         series.MarkerForegroundColor = series.ColorIndex;
         series.MarkerSpacing = markers.spacing.value_or(usualSpacing(*mode));
     }
+    plot.rows().add(std::move(added));
 }
 
 void fitScales(EvmPlot& plot)
@@ -146,7 +148,6 @@ std::size_t plotCurves(EvmPlot& plot, const std::vector<EvolutionCurves>& files,
     if (isNew)
         fitScales(plot);
     fillTexts(plot, drawn);
-    plot.plot();
     return drawn.size();
 }
 

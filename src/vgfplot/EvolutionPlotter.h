@@ -40,8 +40,7 @@ constexpr std::size_t mostCurves = 500;
 /// says otherwise), and each file a line style of its own, counted over all curves of the plot. A
 /// plot without curves and with the scale of a new one gets axes that fit them; an empty header or
 /// subtitle says what the files have in common and how they are called. Files that would bring the
-/// plot beyond `mostCurves` are left out; returns how many are drawn, the first ones. Errors: those
-/// of drawing.
+/// plot beyond `mostCurves` are left out; returns how many are drawn, the first ones.
 std::size_t plotCurves(EvmPlot& plot, const std::vector<EvolutionCurves>& files,
                        const CurveMarkers& markers = {});
 

@@ -98,17 +98,24 @@ void applyText(const TextRecord& record, std::size_t index, EvmPlot& plot)
                            + std::to_string(record.evolution));
 }
 
-void applySeries(const SeriesRecord& record, const std::vector<EVM*>& evolutions, EvmPlot& plot)
+/// The mode that a series of a record draws; null when its file is not there.
+AeMode* modeOf(const SeriesRecord& record, const std::vector<EVM*>& evolutions, const EvmPlot& plot)
 {
     const int evolutionCount = static_cast<int>(evolutions.size());
     if (record.evolution < 1 || record.evolution > evolutionCount)
         failAt(record, plot, "evolution");
     EVM* const evolution = evolutions[static_cast<std::size_t>(record.evolution - 1)];
     if (evolution == nullptr)
-        return;
+        return nullptr;
     if (record.mode < 1 || record.mode > static_cast<int>(evolution->Modes.size()))
         failAt(record, plot, "mode");
-    Series& series = plot.addSeries(*evolution->Modes[static_cast<std::size_t>(record.mode - 1)]);
+    return evolution->Modes[static_cast<std::size_t>(record.mode - 1)].get();
+}
+
+Series seriesOf(const SeriesRecord& record, AeMode& mode)
+{
+    Series series;
+    series.Mode = &mode;
     series.MarkerTag = QString::fromStdString(record.markerTag);
     series.MarkerSize = record.markerSize;
     series.MarkerSpacing = record.markerSpacing;
@@ -119,6 +126,23 @@ void applySeries(const SeriesRecord& record, const std::vector<EVM*>& evolutions
     series.LineStyle = record.lineStyle;
     series.LineWidth = record.lineWidth;
     series.IthMpf = record.factor;
+    return series;
+}
+
+/// All rows are added together; before an error those that come before it.
+void applySeries(const PlotRecord& record, const std::vector<EVM*>& evolutions, EvmPlot& plot)
+{
+    std::vector<Series> series;
+    try {
+        for (const SeriesRecord& one : record.series) {
+            if (AeMode* const mode = modeOf(one, evolutions, plot))
+                series.push_back(seriesOf(one, *mode));
+        }
+    } catch (const RunTimeError&) {
+        plot.rows().add(std::move(series));
+        throw;
+    }
+    plot.rows().add(std::move(series));
 }
 
 /// After the scale, which says how long the damping lines are.
@@ -172,8 +196,7 @@ void applyRecord(const PlotRecord& record, const std::vector<EVM*>& evolutions, 
     plot.SetScale(record.velAxis.min, record.velAxis.max, record.freqAxis.min, record.freqAxis.max,
                   record.gAxis.min, record.gAxis.max);
     applyMarks(record, plot);
-    for (const SeriesRecord& series : record.series)
-        applySeries(series, evolutions, plot);
+    applySeries(record, evolutions, plot);
 }
 
 } // namespace tarsil

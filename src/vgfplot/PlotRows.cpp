@@ -1,18 +1,16 @@
 #include "vgfplot/PlotRows.h"
 
+#include "base/user/RunTimeError.h"
 #include "model/EVM.h"
 
 #include <algorithm>
-#include <utility>
+#include <iterator>
+#include <string>
+#include <unordered_set>
 
 namespace tarsil {
 
 namespace {
-
-EVM* evolutionOf(const Series& series)
-{
-    return series.Mode != nullptr ? series.Mode->Parent : nullptr;
-}
 
 /// Null when the evolution has no mode of that number.
 AeMode* modeNumbered(const EVM* evolution, std::int32_t number)
@@ -34,167 +32,247 @@ std::int32_t numberOf(const AeMode* mode)
     return found == modes.end() ? 0 : static_cast<std::int32_t>(found - modes.begin() + 1);
 }
 
-/// Where a row is after another one was moved.
-std::size_t movedRow(std::size_t row, std::size_t from, std::size_t to)
+PlotRow rowOf(Series series, RowId id)
 {
-    if (row == from)
-        return to;
-    if (from < row && row <= to)
-        return row - 1;
-    if (to <= row && row < from)
-        return row + 1;
+    PlotRow row;
+    row.id = id;
+    row.evolution = series.Mode != nullptr ? series.Mode->Parent : nullptr;
+    row.mode = numberOf(series.Mode);
+    row.series = std::move(series);
     return row;
 }
 
-template <typename List>
-void moveItem(List& list, std::size_t from, std::size_t to)
+[[noreturn]] void failAt(const std::string& what, std::size_t count)
 {
-    const auto first = list.begin() + static_cast<std::ptrdiff_t>(std::min(from, to));
-    const auto end = list.begin() + static_cast<std::ptrdiff_t>(std::max(from, to)) + 1;
-    if (from < to)
-        std::rotate(first, first + 1, end);
-    else
-        std::rotate(first, end - 1, end);
+    throw RunTimeError(ErrorNumber::SubscriptOutOfRange, "EvmPlot",
+                       what + " of " + std::to_string(count));
+}
+
+template <typename List>
+auto positionIn(List& list, std::size_t index)
+{
+    return list.begin() + static_cast<std::ptrdiff_t>(index);
 }
 
 } // namespace
 
-/// Series may have been taken away by others: then the row is the last one that there can be.
-std::size_t PlotRows::rowOf(const Absent& absent) const
+bool PlotRow::hasCurve() const
 {
-    const auto index = static_cast<std::size_t>(&absent - m_absent.data());
-    return std::min(absent.row, m_series.size() + index);
+    return series.Mode != nullptr || (evolution == nullptr && mode == 0);
 }
 
-PlotRows::Place PlotRows::placeOf(std::size_t row) const
+Series newSeries(AeMode& mode, std::size_t row)
 {
-    const auto found = std::lower_bound(
-        m_absent.begin(), m_absent.end(), row,
-        [this](const Absent& absent, std::size_t sought) { return rowOf(absent) < sought; });
-    const auto absentBefore = static_cast<std::size_t>(found - m_absent.begin());
-    if (found != m_absent.end() && rowOf(*found) == row)
-        return {true, absentBefore};
-    return {false, row - absentBefore};
-}
-
-Series& PlotRows::look(std::size_t row)
-{
-    const Place place = placeOf(row);
-    return place.isAbsent ? m_absent[place.index].look : m_series.at(place.index);
-}
-
-const Series& PlotRows::look(std::size_t row) const
-{
-    const Place place = placeOf(row);
-    return place.isAbsent ? m_absent[place.index].look : m_series.at(place.index);
-}
-
-const EVM* PlotRows::evolution(std::size_t row) const
-{
-    const Place place = placeOf(row);
-    return place.isAbsent ? m_absent[place.index].evolution : evolutionOf(m_series.at(place.index));
-}
-
-std::int32_t PlotRows::mode(std::size_t row) const
-{
-    const Place place = placeOf(row);
-    return place.isAbsent ? m_absent[place.index].mode : numberOf(m_series.at(place.index).Mode);
-}
-
-void PlotRows::setMode(std::size_t row, std::int32_t number)
-{
-    if (number == this->mode(row))
-        return;
-    AeMode* const mode = modeNumbered(evolution(row), number);
-    const Place place = placeOf(row);
-    if (place.isAbsent && mode != nullptr)
-        giveSeries(row, place.index, *mode);
-    else if (place.isAbsent)
-        m_absent[place.index].mode = number;
-    else if (mode != nullptr)
-        m_series.at(place.index).Mode = mode;
-    else
-        takeSeries(row, place.index, number);
-}
-
-/// The row with the series of that index gets none.
-void PlotRows::takeSeries(std::size_t row, std::size_t index, std::int32_t number)
-{
-    const auto series = m_series.begin() + static_cast<std::ptrdiff_t>(index);
-    Absent absent {row, evolutionOf(*series), number, std::move(*series)};
-    absent.look.Mode = nullptr;
-    m_series.erase(series);
-    m_absent.insert(m_absent.begin() + static_cast<std::ptrdiff_t>(row - index), std::move(absent));
-}
-
-/// The row of that index among those without a series gets one.
-void PlotRows::giveSeries(std::size_t row, std::size_t index, AeMode& mode)
-{
-    const auto absent = m_absent.begin() + static_cast<std::ptrdiff_t>(index);
-    Series series = std::move(absent->look);
+    Series series;
     series.Mode = &mode;
-    m_absent.erase(absent);
-    m_series.insert(m_series.begin() + static_cast<std::ptrdiff_t>(row - index), std::move(series));
+    series.ColorIndex = BaseColors[row % BaseColors.size()];
+    series.MarkerTag = QString::number(row);
+    return series;
 }
 
-template <typename IsKept>
-void PlotRows::keepWhere(IsKept isKept)
+PlotRows::PlotRows() = default;
+
+PlotRows::~PlotRows() = default;
+
+std::optional<std::size_t> PlotRows::indexOf(RowId id) const
 {
-    PlotRows kept;
-    for (std::size_t row = 0; row < count(); ++row) {
-        if (!isKept(row))
-            continue;
-        const Place place = placeOf(row);
-        if (place.isAbsent) {
-            kept.m_absent.push_back(std::move(m_absent[place.index]));
-            kept.m_absent.back().row = kept.count() - 1;
-        } else {
-            kept.m_series.push_back(std::move(m_series[place.index]));
-        }
+    if (m_indices.empty()) {
+        for (std::size_t i = 0; i < m_rows.size(); ++i)
+            m_indices.emplace(m_rows[i].id, i);
     }
-    *this = std::move(kept);
+    const auto found = m_indices.find(id);
+    return found == m_indices.end() ? std::nullopt : std::optional(found->second);
 }
 
-void PlotRows::remove(const std::vector<std::size_t>& rows)
+std::size_t PlotRows::existing(RowId id) const
 {
-    keepWhere(
-        [&rows](std::size_t row) { return !std::binary_search(rows.begin(), rows.end(), row); });
+    const std::optional<std::size_t> index = indexOf(id);
+    if (!index)
+        failAt("no row with id " + std::to_string(static_cast<std::uint32_t>(id)), count());
+    return *index;
+}
+
+const SeriesList& PlotRows::curves() const
+{
+    if (!m_curves) {
+        SeriesList curves;
+        for (const PlotRow& row : m_rows) {
+            if (row.hasCurve())
+                curves.push_back(row.series);
+        }
+        m_curves = std::move(curves);
+    }
+    return *m_curves;
+}
+
+PlotRows::Indices PlotRows::withoutCurve() const
+{
+    Indices rows;
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+        if (!m_rows[i].hasCurve())
+            rows.push_back(i);
+    }
+    return rows;
+}
+
+void PlotRows::forgetIndices()
+{
+    m_curves.reset();
+    m_indices.clear();
+}
+
+RowId PlotRows::add(Series series)
+{
+    std::vector<Series> one;
+    one.push_back(std::move(series));
+    add(std::move(one));
+    return m_rows.back().id;
+}
+
+void PlotRows::add(std::vector<Series> series)
+{
+    Rows rows;
+    rows.reserve(series.size());
+    for (Series& one : series)
+        rows.push_back(rowOf(std::move(one), RowId {++m_lastId}));
+    insert(count(), std::move(rows));
+}
+
+void PlotRows::insert(std::size_t index, Rows rows)
+{
+    if (rows.empty())
+        return;
+    const std::size_t added = rows.size();
+    Q_EMIT rowsAboutToBeAdded(index, added);
+    m_rows.insert(positionIn(m_rows, index), std::make_move_iterator(rows.begin()),
+                  std::make_move_iterator(rows.end()));
+    forgetIndices();
+    Q_EMIT rowsAdded(index, added);
+}
+
+void PlotRows::removeBlock(std::size_t first, std::size_t count)
+{
+    Q_EMIT rowsAboutToBeRemoved(first, count);
+    m_rows.erase(positionIn(m_rows, first), positionIn(m_rows, first + count));
+    forgetIndices();
+    Q_EMIT rowsRemoved(first, count);
+}
+
+/// From the last row to the first, in blocks of neighbours, so that indices of rows that are still
+/// to come stay as they are.
+template <typename IsRemoved>
+void PlotRows::removeWhere(IsRemoved isRemoved)
+{
+    std::size_t end = count();
+    while (end > 0) {
+        std::size_t first = end;
+        while (first > 0 && isRemoved(first - 1))
+            --first;
+        if (first < end)
+            removeBlock(first, end - first);
+        end = first > 0 ? first - 1 : 0;
+    }
+}
+
+void PlotRows::remove(const Indices& rows)
+{
+    removeWhere(
+        [&rows](std::size_t row) { return std::binary_search(rows.begin(), rows.end(), row); });
 }
 
 std::size_t PlotRows::removeRowsOf(const EVM& evolution)
 {
     const std::size_t before = count();
-    keepWhere([this, &evolution](std::size_t row) { return this->evolution(row) != &evolution; });
+    removeWhere([&](std::size_t row) { return m_rows[row].evolution == &evolution; });
     return before - count();
 }
 
 void PlotRows::clear()
 {
-    m_series.clear();
-    m_absent.clear();
+    removeWhere([](std::size_t) { return true; });
 }
 
-void PlotRows::move(std::size_t from, std::size_t to)
+void PlotRows::move(std::size_t first, std::size_t to, std::size_t count)
 {
-    const Place place = placeOf(from);
-    for (Absent& absent : m_absent)
-        absent.row = rowOf(absent);
-    for (Absent& absent : m_absent)
-        absent.row = movedRow(absent.row, from, to);
-    const auto absentBefore = static_cast<std::size_t>(std::count_if(
-        m_absent.begin(), m_absent.end(), [to](const Absent& absent) { return absent.row < to; }));
-    if (place.isAbsent)
-        moveItem(m_absent, place.index, absentBefore);
+    const std::size_t all = m_rows.size();
+    if (count > all || first > all - count || to > all - count)
+        failAt("row " + std::to_string(first + 1) + " to " + std::to_string(to + 1), all);
+    if (first != to && count > 0)
+        moveBlock(first, to, count);
+}
+
+void PlotRows::moveBlock(std::size_t first, std::size_t to, std::size_t count)
+{
+    Q_EMIT rowsAboutToBeMoved(first, count, to);
+    const auto begin = positionIn(m_rows, std::min(first, to));
+    const auto end = positionIn(m_rows, std::max(first, to) + count);
+    if (first < to)
+        std::rotate(begin, positionIn(m_rows, first + count), end);
     else
-        moveItem(m_series, place.index, to - absentBefore);
+        std::rotate(begin, positionIn(m_rows, first), end);
+    forgetIndices();
+    Q_EMIT rowsMoved(first, count, to);
 }
 
-std::vector<std::size_t> PlotRows::withoutSeries() const
+void PlotRows::replace(std::size_t index, PlotRow row)
 {
-    std::vector<std::size_t> rows;
-    for (const Absent& absent : m_absent)
-        rows.push_back(rowOf(absent));
-    return rows;
+    if (m_rows[index] == row)
+        return;
+    m_rows[index] = std::move(row);
+    m_curves.reset();
+    Q_EMIT rowChanged(index, m_rows[index].id);
+}
+
+void PlotRows::setMode(RowId id, std::int32_t number)
+{
+    const std::size_t index = existing(id);
+    if (number == m_rows[index].mode)
+        return;
+    PlotRow row = m_rows[index];
+    row.mode = number;
+    row.series.Mode = modeNumbered(row.evolution, number);
+    replace(index, std::move(row));
+}
+
+void PlotRows::change(RowId id, Series look)
+{
+    const std::size_t index = existing(id);
+    PlotRow row = m_rows[index];
+    look.Mode = row.series.Mode;
+    row.series = std::move(look);
+    replace(index, std::move(row));
+}
+
+/// How many rows from `first` on are those of `rows` from `index` on.
+std::size_t PlotRows::lengthOfBlock(std::size_t first, const Rows& rows, std::size_t index) const
+{
+    std::size_t length = 0;
+    while (first + length < count() && index + length < rows.size()
+           && m_rows[first + length].id == rows[index + length].id)
+        ++length;
+    return length;
+}
+
+void PlotRows::restore(const Rows& rows)
+{
+    std::unordered_set<RowId> kept;
+    for (const PlotRow& row : rows)
+        kept.insert(row.id);
+    removeWhere([&](std::size_t row) { return !kept.contains(m_rows[row].id); });
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        if (lengthOfBlock(i, rows, i) > 0)
+            continue;
+        if (const std::optional<std::size_t> from = indexOf(rows[i].id)) {
+            moveBlock(*from, i, lengthOfBlock(*from, rows, i));
+            continue;
+        }
+        Rows missing;
+        for (std::size_t j = i; j < rows.size() && !indexOf(rows[j].id); ++j)
+            missing.push_back(rows[j]);
+        insert(i, std::move(missing));
+    }
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        replace(i, rows[i]);
 }
 
 } // namespace tarsil

@@ -2,84 +2,139 @@
 
 #include "plot/Series.h"
 
+#include <QObject>
+
 #include <cstddef>
 #include <cstdint>
+#include <optional>
+#include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace tarsil {
 
-/// The rows of a plot, one for each curve that was asked for: a mode number of an evolution, and
-/// the look of the curve. A row whose number names a mode has a series, and the series are in the
-/// order of their rows. A row whose number names none has no series, and with it no curve anywhere;
-/// it keeps its number and its look until another number gives it a series again.
-///
-/// Rows are counted from 0. Who holds the series may append some, which become the last rows.
-class PlotRows
+class EVM;
+
+/// Identifies a row of a plot. It stays with the row when rows move, and a row that is put back has
+/// the one it had; no other row of the plot ever gets it.
+enum class RowId : std::uint32_t {};
+
+/// One curve that was asked for: a mode number of an evolution, and the look of the curve.
+struct PlotRow
 {
+    RowId id {};
+    EVM* evolution = nullptr; ///< not owned; null for a mode that belongs to no evolution
+    std::int32_t mode = 0; ///< counted from 1 in the evolution; may name no mode
+    Series series; ///< the curve; without a mode when the number names none
+
+    /// Whether the row has a curve. A row whose number names no mode of its evolution has none.
+    bool hasCurve() const;
+
+    bool operator==(const PlotRow&) const = default;
+};
+
+/// The series that a new curve in that row has, counted from 0: entry row mod 7 of `BaseColors`,
+/// and the row as tag.
+Series newSeries(AeMode& mode, std::size_t row);
+
+/// The rows of a plot, counted from 0, in the order of drawing. A row whose number names no mode
+/// keeps its number and its look, and has its curve again as soon as another number names one.
+///
+/// Every change is announced; nobody gets a row to change by himself. The signals with "about to"
+/// come before the rows are others, the rest afterwards.
+class PlotRows : public QObject
+{
+    Q_OBJECT
+
 public:
-    SeriesList& series() { return m_series; }
-    const SeriesList& series() const { return m_series; }
+    using Rows = std::vector<PlotRow>;
+    using Indices = std::vector<std::size_t>; ///< in increasing order
 
-    std::size_t count() const { return m_series.size() + m_absent.size(); }
+    PlotRows();
+    ~PlotRows() override;
 
-    bool hasSeries(std::size_t row) const { return !placeOf(row).isAbsent; }
+    std::size_t count() const { return m_rows.size(); }
+    bool isEmpty() const { return m_rows.empty(); }
+    const PlotRow& at(std::size_t index) const { return m_rows.at(index); }
+    const Rows& all() const { return m_rows; }
 
-    /// The series of a row; for a row without one, what its series would look like, with no mode.
-    /// Good until the rows change.
-    Series& look(std::size_t row);
-    const Series& look(std::size_t row) const;
+    /// None when there is no such row.
+    std::optional<std::size_t> indexOf(RowId id) const;
 
-    /// Null for a series that belongs to no evolution.
-    const EVM* evolution(std::size_t row) const;
+    /// The series of the rows that have a curve, in their order.
+    const SeriesList& curves() const;
 
-    /// The number of the row's mode, counted from 1 in its evolution; what names no mode is as it
-    /// was set.
-    std::int32_t mode(std::size_t row) const;
+    /// The rows without a curve.
+    Indices withoutCurve() const;
 
-    /// Gives a row another number, and with it the series that it names, or none.
-    void setMode(std::size_t row, std::int32_t number);
+    /// Appends a row, with the number that the series' mode has in its evolution.
+    RowId add(Series series);
 
-    /// Removes these rows, which are in increasing order.
-    void remove(const std::vector<std::size_t>& rows);
+    /// Appends rows; announced together.
+    void add(std::vector<Series> series);
 
-    /// Removes all rows of an evolution; returns how many these were.
+    void remove(const Indices& rows);
+
+    /// Removes all rows of an evolution; returns how many there were.
     std::size_t removeRowsOf(const EVM& evolution);
 
     void clear();
 
-    /// Moves a row to another place among the rows.
-    void move(std::size_t from, std::size_t to);
+    /// Moves `count` rows from index `first` on, so that the first of them has index `to`. Error 9
+    /// "Subscript out of range" beyond the rows.
+    void move(std::size_t first, std::size_t to, std::size_t count = 1);
 
-    /// The rows without a series, in increasing order.
-    std::vector<std::size_t> withoutSeries() const;
+    /// Gives a row another number, and with it the curve that it names, or none. Error 9 when there
+    /// is no such row.
+    void setMode(RowId id, std::int32_t number);
+
+    /// Gives a row another look; which mode it draws stays. Error 9 when there is no such row.
+    void change(RowId id, Series look);
+
+    /// The same with what a function `void (Series&)` makes of the present look.
+    template <typename Change>
+    void change(RowId id, const Change& changeLook) requires std::is_invocable_v<Change, Series&>
+    {
+        Series look = at(existing(id)).series;
+        changeLook(look);
+        change(id, std::move(look));
+    }
+
+    /// Makes these the rows. Those that are there already (by their ids) stay and are moved and
+    /// changed as needed.
+    void restore(const Rows& rows);
+
+Q_SIGNALS:
+    void rowsAboutToBeAdded(std::size_t first, std::size_t count);
+    void rowsAdded(std::size_t first, std::size_t count);
+    void rowsAboutToBeRemoved(std::size_t first, std::size_t count);
+    void rowsRemoved(std::size_t first, std::size_t count);
+
+    /// `to` is the index of the first of them afterwards.
+    void rowsAboutToBeMoved(std::size_t first, std::size_t count, std::size_t to);
+    void rowsMoved(std::size_t first, std::size_t count, std::size_t to);
+
+    /// The number or the look of a row is another one.
+    void rowChanged(std::size_t index, tarsil::RowId id);
 
 private:
-    /// A row without a series.
-    struct Absent
-    {
-        std::size_t row;
-        EVM* evolution;
-        std::int32_t mode;
-        Series look;
-    };
+    std::size_t existing(RowId id) const;
+    void insert(std::size_t index, Rows rows);
+    void removeBlock(std::size_t first, std::size_t count);
+    void moveBlock(std::size_t first, std::size_t to, std::size_t count);
+    void replace(std::size_t index, PlotRow row);
+    void forgetIndices();
+    std::size_t lengthOfBlock(std::size_t first, const Rows& rows, std::size_t index) const;
 
-    /// Where a row is kept: in `m_absent` or in `m_series`.
-    struct Place
-    {
-        bool isAbsent;
-        std::size_t index;
-    };
+    template <typename IsRemoved>
+    void removeWhere(IsRemoved isRemoved);
 
-    std::size_t rowOf(const Absent& absent) const;
-    Place placeOf(std::size_t row) const;
-    void takeSeries(std::size_t row, std::size_t index, std::int32_t number);
-    void giveSeries(std::size_t row, std::size_t index, AeMode& mode);
+    Rows m_rows;
+    std::uint32_t m_lastId = 0;
 
-    template <typename IsKept>
-    void keepWhere(IsKept isKept);
-
-    SeriesList m_series;
-    std::vector<Absent> m_absent; ///< by increasing row
+    // What follows from the rows, made when it is asked for.
+    mutable std::optional<SeriesList> m_curves;
+    mutable std::unordered_map<RowId, std::size_t> m_indices;
 };
 
 } // namespace tarsil

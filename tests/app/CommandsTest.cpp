@@ -86,7 +86,7 @@ TEST_F(Commands, exportTheCurvesOfThePlotAsOneFile)
 
 TEST_F(Commands, exportNoModeOfARowWithoutACurveAndSaySo)
 {
-    plot().rows().setMode(1, 0);
+    plot().rows().setMode(plot().rows().at(1).id, 0);
     std::vector<const AeMode*> modes;
     for (const auto& mode : window.session().evolutions.front()->Modes)
         modes.push_back(mode.get());

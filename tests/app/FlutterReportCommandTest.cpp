@@ -79,8 +79,8 @@ TEST_F(FlutterReportCommandTest, leavesOutRowsWithoutACurveAndSaysWhich)
 {
     plot.addSeries(*evolution.Modes[0]);
     plot.addSeries(*evolution.Modes[0]);
-    plot.rows().setMode(0, 2);
-    plot.rows().setMode(2, 0);
+    plot.rows().setMode(plot.rows().at(0).id, 2);
+    plot.rows().setMode(plot.rows().at(2).id, 0);
     user.texts = {"-5", "1000"};
     run();
     ASSERT_EQ(user.messages.size(), 1U);

@@ -135,7 +135,8 @@ void SessionRoundTripTest::addSeries(EvmPlot& one)
     const auto& evolutions = window.session().evolutions;
     for (std::size_t left = random.below(12); left > 0; --left) {
         EVM& evolution = *evolutions[random.below(evolutions.size())];
-        Series& series = one.addSeries(*evolution.Modes[random.below(evolution.Modes.size())]);
+        Series series;
+        series.Mode = evolution.Modes[random.below(evolution.Modes.size())].get();
         series.MarkerTag = line(6);
         series.MarkerSize = static_cast<std::int32_t>(random.below(30));
         series.MarkerSpacing = static_cast<std::int32_t>(random.below(8)) - 1;
@@ -146,6 +147,7 @@ void SessionRoundTripTest::addSeries(EvmPlot& one)
         series.LineStyle = static_cast<std::int32_t>(random.below(6));
         series.LineWidth = static_cast<std::int16_t>(random.below(12));
         series.IthMpf = static_cast<std::int32_t>(1 + random.below(6)); // five are there
+        one.rows().add(series);
     }
 }
 

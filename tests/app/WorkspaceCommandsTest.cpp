@@ -5,6 +5,7 @@
 #include "app/WorkspaceCommands.h"
 #include "explorer/WndEvolExplorer.h"
 #include "model/EVM.h"
+#include "support/ChangeSeries.h"
 
 #include <QMouseEvent>
 #include <QTextEdit>
@@ -70,10 +71,11 @@ protected:
         plot().AddRef(352.1F, QStringLiteral("Vd    "));
         plot().AddRef(400, QStringLiteral("       VL"));
         plot().AddDampLine(0.01F, QStringLiteral("g = 1.00 %"));
-        Series& series = plot().SeriesCollection()[3];
-        series.LineStyle = 2;
-        series.LineWidth = 3;
-        series.IthMpf = 2;
+        test::changeSeries(plot(), 3, [](Series& series) {
+            series.LineStyle = 2;
+            series.LineWidth = 3;
+            series.IthMpf = 2;
+        });
         window.session().evolutions[0]->Param.Mass = "heavy";
         window.session().evolutions[0]->Param.Mach = 0.62F;
         window.explorer().setReference(window.session().evolutions[1].get());
@@ -263,10 +265,10 @@ TEST_F(WorkspaceCommandsTest, keepAllThatAUserMakes)
 TEST_F(WorkspaceCommandsTest, writeNothingNewWhereAUserMadeNothingNew)
 {
     work();
-    for (Series& series : plot().SeriesCollection()) {
+    test::changeAllSeries(plot(), [](Series& series) {
         series.LineStyle = 0;
         series.IthMpf = 0; // nobody chose one
-    }
+    });
     save();
     for (const char* const key : {"RefSpeed", "DampLine", "SerieLook", "Edited", "Reference"})
         EXPECT_THAT(bytes(), Not(HasSubstr(std::string("\r\n") + key))) << key;
@@ -280,9 +282,9 @@ TEST_F(WorkspaceCommandsTest, askBeforeOnlyThatIsLostWhichNewerFilesHold)
         [this] { plot().RemoveRef(); },
         [this] { plot().AddDampLine(0.02F, QStringLiteral("g")); },
         [this] { plot().RemoveDampLine(); },
-        [this] { plot().SeriesCollection()[0].LineStyle = 4; },
-        [this] { plot().SeriesCollection()[0].LineWidth = 2; },
-        [this] { plot().SeriesCollection()[0].IthMpf = 5; },
+        [this] { test::changeSeries(plot(), 0, [](Series& one) { one.LineStyle = 4; }); },
+        [this] { test::changeSeries(plot(), 0, [](Series& one) { one.LineWidth = 2; }); },
+        [this] { test::changeSeries(plot(), 0, [](Series& one) { one.IthMpf = 5; }); },
         [this] { window.session().evolutions[1]->Param.Airplane = "X"; },
         [this] { window.session().evolutions[1]->Param.Mass = "Y"; },
         [this] { window.session().evolutions[1]->Param.Mach = 0.1F; },
@@ -732,7 +734,7 @@ TEST_F(WorkspaceCommandsTest, leaveTheSessionAsItIsWhereAFileIsNoWorkspace)
 TEST_F(WorkspaceCommandsTest, keepEveryCurveHoweverLongItsLegendIs)
 {
     work();
-    plot().SeriesCollection().front().LegendText = QString(3000, u'x');
+    test::changeSeries(plot(), 0, [](Series& one) { one.LegendText = QString(3000, u'x'); });
     plot().setVLabel(QString(3000, u'v'));
     save();
     EXPECT_THAT(user.note,
@@ -824,8 +826,8 @@ TEST_F(WorkspaceCommandsTest, writesNoRowWithoutACurveAndSaysWhich)
     ASSERT_TRUE(user.messages.empty());
     EvmPlot& second = *window.evolPlot().plots().back();
     second.addSeries(*window.session().evolutions[1]->Modes[0]);
-    second.rows().setMode(0, 99);
-    plot().rows().setMode(2, 0);
+    second.rows().setMode(second.rows().at(0).id, 99);
+    plot().rows().setMode(plot().rows().at(2).id, 0);
     user.confirmations.push_back(true);
     save();
     ASSERT_EQ(user.messages.size(), 1U);
@@ -844,11 +846,11 @@ TEST_F(WorkspaceCommandsTest, asksWhenACurveIsGoneWithItsMode)
 {
     work();
     save();
-    plot().rows().setMode(2, 0);
+    plot().rows().setMode(plot().rows().at(2).id, 0);
     user.questions.clear();
     choose("mnuNewWorkspace");
     EXPECT_EQ(user.questions.size(), 1U);
-    EXPECT_FALSE(plot().rows().hasSeries(2)) << "the answer was no";
+    EXPECT_FALSE(plot().rows().at(2).hasCurve()) << "the answer was no";
     user.confirmations.push_back(true);
     choose("mnuNewWorkspace");
     EXPECT_EQ(plot().rows().count(), 0U) << "a new workspace has no rows";

@@ -3,6 +3,7 @@
 #include "datacontrol/SeriesGridModel.h"
 
 #include "analysis/ModeBuilder.h"
+#include "support/ChangeSeries.h"
 #include "vgfplot/EvmPlot.h"
 
 #include <QAbstractItemModelTester>
@@ -12,6 +13,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <optional>
+
 using namespace tarsil;
 using ::testing::ElementsAre;
 
@@ -20,8 +23,9 @@ namespace {
 class SeriesGridModelTest : public ::testing::Test
 {
 protected:
-    SeriesGridModelTest() : tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal)
+    SeriesGridModelTest()
     {
+        tester.emplace(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
         evolution.Folder = "/runs";
         evolution.FileName = "case.ev2";
         for (std::int16_t id = 1; id <= 3; ++id)
@@ -34,7 +38,6 @@ protected:
     {
         for (const auto& mode : evolution.Modes)
             to.addSeries(*mode);
-        to.plot();
     }
     QModelIndex index(int row, SeriesColumn column)
     {
@@ -63,7 +66,7 @@ protected:
     EvmPlot plot;
     EvmPlot other;
     SeriesGridModel model;
-    QAbstractItemModelTester tester;
+    std::optional<QAbstractItemModelTester> tester;
 };
 
 } // namespace
@@ -94,7 +97,7 @@ TEST_F(SeriesGridModelTest, hasItsColumnsInTheirOrder)
 
 TEST_F(SeriesGridModelTest, showsARowForEachSeries)
 {
-    plot.SeriesCollection()[1].LegendText = QStringLiteral("torsion");
+    test::changeSeries(plot, 1, [](Series& one) { one.LegendText = QStringLiteral("torsion"); });
     ASSERT_EQ(model.rowCount(), 3);
     EXPECT_EQ(text(1, SeriesColumn::Index), "2");
     EXPECT_EQ(text(1, SeriesColumn::Evolution), "case.ev2");
@@ -109,9 +112,9 @@ TEST_F(SeriesGridModelTest, showsARowForEachSeries)
 
 TEST_F(SeriesGridModelTest, showsTextsOfFilesAsTheyStandInItsTips)
 {
-    plot.SeriesCollection()[1].LegendText = QStringLiteral("R&D");
+    test::changeSeries(plot, 1, [](Series& one) { one.LegendText = QStringLiteral("R&D"); });
     EXPECT_EQ(text(1, SeriesColumn::Legend, Qt::ToolTipRole), "R&D");
-    plot.SeriesCollection()[1].LegendText = QStringLiteral("<b>x</b>");
+    test::changeSeries(plot, 1, [](Series& one) { one.LegendText = QStringLiteral("<b>x</b>"); });
     EXPECT_NE(text(1, SeriesColumn::Legend, Qt::ToolTipRole).find("&lt;b&gt;x"), std::string::npos);
     evolution.FileName = "R&D.ev2";
     EXPECT_EQ(text(1, SeriesColumn::Evolution, Qt::ToolTipRole), "/runs/R&D.ev2");
@@ -120,10 +123,8 @@ TEST_F(SeriesGridModelTest, showsTextsOfFilesAsTheyStandInItsTips)
 TEST_F(SeriesGridModelTest, followsSeriesThatOthersAddAndRemove)
 {
     plot.addSeries(*evolution.Modes[0]);
-    plot.plot();
     EXPECT_EQ(model.rowCount(), 4);
-    plot.SeriesCollection().clear();
-    plot.plot();
+    plot.rows().clear();
     EXPECT_EQ(model.rowCount(), 0);
 }
 
@@ -154,7 +155,6 @@ TEST_F(SeriesGridModelTest, showsARowWithoutACurveAsTheOthers)
 {
     EXPECT_TRUE(type(1, SeriesColumn::Mode, "0"));
     EXPECT_TRUE(type(1, SeriesColumn::Legend, "torsion"));
-    plot.plot();
     ASSERT_EQ(model.rowCount(), 3);
     EXPECT_EQ(text(1, SeriesColumn::Evolution), "case.ev2");
     EXPECT_EQ(text(1, SeriesColumn::Evolution, Qt::ToolTipRole), "/runs/case.ev2");
@@ -162,23 +162,6 @@ TEST_F(SeriesGridModelTest, showsARowWithoutACurveAsTheOthers)
     EXPECT_EQ(text(1, SeriesColumn::Mode), "0");
     EXPECT_EQ(text(1, SeriesColumn::Legend), "torsion");
     EXPECT_EQ(text(2, SeriesColumn::Mode), "3");
-}
-
-TEST_F(SeriesGridModelTest, raisesAndLowersARowThroughANumberThatNamesNoMode)
-{
-    evolution.na = 5; // the file declares more than it holds
-    const auto numbersOnTheWay = [this](bool up) {
-        std::vector<std::string> numbers;
-        for (int i = 0; i < 3; ++i) {
-            up ? model.raiseMode(2) : model.lowerMode(2);
-            numbers.push_back(text(2, SeriesColumn::Mode));
-        }
-        return numbers;
-    };
-    EXPECT_THAT(numbersOnTheWay(true), ElementsAre("4", "5", "5"));
-    EXPECT_EQ(plot.SeriesCollection().size(), 2U);
-    EXPECT_THAT(numbersOnTheWay(false), ElementsAre("4", "3", "2"));
-    EXPECT_EQ(plot.SeriesCollection().back().Mode, evolution.Modes[1].get());
 }
 
 TEST_F(SeriesGridModelTest, refusesAModeThatIsNoNumber)
@@ -213,16 +196,44 @@ TEST_F(SeriesGridModelTest, keepsWhatWasTypedWhileAnotherPlotIsShown)
     EXPECT_EQ(model.rowCount(), 0);
 }
 
-TEST_F(SeriesGridModelTest, removesAndMovesRowsWithTheirSeries)
+TEST_F(SeriesGridModelTest, keepsPositionsAtTheirRowsWhileOthersMoveAndGo)
 {
-    model.removeSeries({0, 2});
-    ASSERT_EQ(model.rowCount(), 1);
-    EXPECT_EQ(plot.SeriesCollection().front().Mode, evolution.Modes[1].get());
-    plot.addSeries(*evolution.Modes[2]);
-    plot.plot();
-    EXPECT_THAT(model.moveSeries({1}, 0), ElementsAre(0));
-    EXPECT_EQ(text(0, SeriesColumn::Mode), "3");
-    EXPECT_EQ(plot.SeriesCollection().front().Mode, evolution.Modes[2].get());
+    tester.reset(); // expects first cells to go with their rows, and these count rows
+    const QPersistentModelIndex second(index(1, SeriesColumn::Legend));
+    const QPersistentModelIndex third(index(2, SeriesColumn::Tag));
+    int resets = 0;
+    QObject::connect(&model, &QAbstractItemModel::modelReset, [&resets] { ++resets; });
+    plot.SerieMove(2, 1, 2);
+    EXPECT_EQ(second.row(), 0);
+    EXPECT_EQ(third.row(), 1);
+    plot.SerieMove(1, 3);
+    EXPECT_EQ(second.row(), 2);
+    EXPECT_EQ(third.row(), 0);
+    plot.rows().remove({1});
+    EXPECT_EQ(second.row(), 1);
+    EXPECT_EQ(text(1, SeriesColumn::Mode), "2");
+    plot.rows().setMode(plot.rows().at(1).id, 9);
+    plot.rows().remove({0});
+    EXPECT_FALSE(third.isValid());
+    EXPECT_EQ(second.row(), 0);
+    EXPECT_EQ(resets, 0);
+}
+
+TEST_F(SeriesGridModelTest, saysWhichRowsHaveOtherNumbersAndTexts)
+{
+    tester.reset(); // expects first cells to go with their rows, and these count rows
+    std::vector<std::pair<int, int>> changes; // first row, last row
+    QObject::connect(&model, &QAbstractItemModel::dataChanged,
+                     [&](const QModelIndex& from, const QModelIndex& to) {
+                         changes.emplace_back(from.row(), to.row());
+                     });
+    plot.rows().setMode(plot.rows().at(2).id, 1);
+    test::changeSeries(plot, 2, [](Series&) {}); // nothing
+    EXPECT_THAT(changes, ElementsAre(std::pair(2, 2)));
+    changes.clear();
+    plot.SerieMove(3, 2);
+    plot.rows().remove({1});
+    EXPECT_THAT(changes, ElementsAre(std::pair(1, 2), std::pair(1, 1)));
 }
 
 TEST_F(SeriesGridModelTest, saysWhenThePlotOrItsFirstSeriesAreNew)
@@ -234,6 +245,5 @@ TEST_F(SeriesGridModelTest, saysWhenThePlotOrItsFirstSeriesAreNew)
     addAll(other);
     EXPECT_EQ(replaced, 2);
     other.addSeries(*evolution.Modes[0]);
-    other.plot();
     EXPECT_EQ(replaced, 2);
 }

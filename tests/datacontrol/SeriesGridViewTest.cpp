@@ -211,8 +211,7 @@ TEST_F(SeriesGridViewTest, opensTheLineOfAllSelectedRowsByADoubleClickOnOne)
 TEST_F(SeriesGridViewTest, saysWhatToDoWhileItIsEmpty)
 {
     const auto picture = [this] { return grid().viewport()->grab().toImage(); };
-    series().clear();
-    plot().plot();
+    plot().rows().clear();
     const QImage withText = picture();
     grid().setPlaceholder(QString());
     EXPECT_NE(withText, picture());

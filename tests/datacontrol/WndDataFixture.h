@@ -5,6 +5,7 @@
 #include "datacontrol/SeriesGridView.h"
 #include "datacontrol/WndData.h"
 #include "plotwindow/WndEvolPlot.h"
+#include "support/ChangeSeries.h"
 #include "support/FormParts.h"
 #include "support/ScriptedUserInterface.h"
 
@@ -84,11 +85,17 @@ protected:
     void add(EVM& evolution, std::size_t mode = 1)
     {
         plots.AddSerie(*evolution.Modes.at(mode - 1));
-        plot().plot();
     }
 
     EvmPlot& plot() { return *plots.ActivePlot(); }
-    SeriesList& series() { return plot().SeriesCollection(); }
+    const SeriesList& series() { return plot().SeriesCollection(); }
+
+    /// Changes the look of a row as others do.
+    template <typename Change>
+    void change(std::size_t row, const Change& changeLook)
+    {
+        changeSeries(plot(), row, changeLook);
+    }
 
     /// The numbers of the modes that the series draw.
     std::vector<int> drawnModes()

@@ -14,6 +14,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <functional>
 
 using namespace tarsil;
@@ -189,6 +190,33 @@ TEST_F(WndDataSeries, movesTheSelectedRowsUpAndElsewhere)
     EXPECT_THAT(column(SeriesColumn::Tag), ElementsAre("0", "2", "3", "1"));
 }
 
+TEST_F(WndDataSeries, keepsSelectionAndCurrentCellWithTheirRows)
+{
+    addRows();
+    grid().setCurrentIndex(model().index(2, static_cast<int>(SeriesColumn::Legend)));
+    grid().selectionModel()->select(model().index(3, static_cast<int>(SeriesColumn::Tag)),
+                                    QItemSelectionModel::Select);
+    const auto selected = [this] {
+        test::Texts cells;
+        for (const QModelIndex& one : grid().selectionModel()->selectedIndexes())
+            cells.push_back(cell(one.row(), SeriesColumn::Tag) + "/"
+                            + std::to_string(one.column()));
+        std::sort(cells.begin(), cells.end());
+        return cells;
+    };
+    const auto hasMoved = [&](int currentRow) {
+        EXPECT_THAT(selected(), ElementsAre("2/5", "3/2"));
+        EXPECT_EQ(grid().currentIndex().row(), currentRow);
+        EXPECT_EQ(grid().currentIndex().column(), static_cast<int>(SeriesColumn::Legend));
+    };
+    partOf<QToolButton>(data, "btnSerieMove").click();
+    hasMoved(1);
+    plot().rows().remove({0}); // by others
+    hasMoved(0);
+    click("cmdDrawPlot");
+    hasMoved(0);
+}
+
 TEST_F(WndDataSeries, writesWhatIsBeingTypedBeforeACommand)
 {
     addRows();
@@ -219,7 +247,7 @@ TEST_F(WndDataSeries, writesWhatIsBeingTypedIntoThePlotThatWasActive)
 TEST_F(WndDataSeries, givesTheSeriesTheirColoursAgain)
 {
     addRows();
-    series()[2].ColorIndex = 5;
+    change(2, [](Series& one) { one.ColorIndex = 5; });
     click("btnResColor");
     EXPECT_EQ(series()[2].ColorIndex, BaseColors[2]);
 }
@@ -263,8 +291,10 @@ TEST_F(WndDataSeries, drawsThePlotAgainWhenTagsAreChosen)
 TEST_F(WndDataSeries, changesOnlyTheMarkerOptionThatTheUserChanges)
 {
     addRows();
-    series()[1].MarkerSpacing = 3;
-    series()[1].MarkerStyle = markerstyle::none;
+    change(1, [](Series& one) {
+        one.MarkerSpacing = 3;
+        one.MarkerStyle = markerstyle::none;
+    });
     test::type(data, "mksizeInp", "12");
     EXPECT_EQ(series()[1].MarkerSize, 12);
     EXPECT_EQ(series()[1].MarkerSpacing, 3) << "rows of a workspace may differ";
@@ -315,7 +345,8 @@ TEST_F(WndDataSeries, changesNoMarkerOfAPlotThatBecomesActive)
     addRows();
     EvmPlot& opened = plots.AddPlot({});
     for (const int spacing : {3, 4})
-        opened.addSeries(*evolutions.front()->Modes[0]).MarkerSpacing = spacing;
+        opened.rows().change(opened.addSeries(*evolutions.front()->Modes[0]),
+                             [spacing](Series& one) { one.MarkerSpacing = spacing; });
     plots.ActivatePlot(&opened);
     EXPECT_EQ(test::textIn(data, "mkspaceInp"), "3");
     EXPECT_EQ(series().back().MarkerSpacing, 4);
@@ -414,8 +445,8 @@ TEST_F(WndDataSeries, takesTheSpacingOfAFileThatMarksNearlyNothing)
 {
     EVM& evolution = load("a.ev2");
     EvmPlot& opened = plots.AddPlot({});
-    Series& one = opened.addSeries(*evolution.Modes[0]);
-    one.MarkerSpacing = 100000;
+    opened.rows().change(opened.addSeries(*evolution.Modes[0]),
+                         [](Series& one) { one.MarkerSpacing = 100000; });
     plots.ActivatePlot(&opened);
     EXPECT_TRUE(type(0, SeriesColumn::Mode, "2"));
     EXPECT_THAT(user.messages, IsEmpty());
@@ -440,11 +471,12 @@ TEST_F(WndDataSeries, showsTheMarkersOfThePlotThatBecomesActive)
 {
     EVM& evolution = load("a.ev2");
     EvmPlot& opened = plots.AddPlot({});
-    Series& one = opened.addSeries(*evolution.Modes[0]);
-    one.MarkerStyle = markerstyle::participationFactor;
-    one.MarkerSize = 14;
-    one.MarkerSpacing = 3;
-    one.IthMpf = 2;
+    opened.rows().change(opened.addSeries(*evolution.Modes[0]), [](Series& one) {
+        one.MarkerStyle = markerstyle::participationFactor;
+        one.MarkerSize = 14;
+        one.MarkerSpacing = 3;
+        one.IthMpf = 2;
+    });
     plots.ActivatePlot(&opened);
     EXPECT_EQ(test::textIn(data, "mksizeInp"), "14");
     EXPECT_EQ(test::textIn(data, "mkspaceInp"), "3");
@@ -455,7 +487,7 @@ TEST_F(WndDataSeries, showsTheMarkersOfThePlotThatBecomesActive)
 TEST_F(WndDataSeries, changesTheLineOfTheSelectedRows)
 {
     addRows();
-    series()[1].MarkerForegroundColor = series()[1].ColorIndex;
+    change(1, [](Series& one) { one.MarkerForegroundColor = one.ColorIndex; });
     select(1, 2, SeriesColumn::Line);
     inLineEditor(
         [](dlgSeriesStyle& dialog) {
@@ -478,8 +510,10 @@ TEST_F(WndDataSeries, changesTheLineOfTheSelectedRows)
 TEST_F(WndDataSeries, changesOnlyWhatTheUserChangedInTheOtherRows)
 {
     addRows();
-    series()[2].LineStyle = penstyle::dot;
-    series()[2].LineWidth = 3;
+    change(2, [](Series& one) {
+        one.LineStyle = penstyle::dot;
+        one.LineWidth = 3;
+    });
     select(1, 2, SeriesColumn::Line);
     inLineEditor([](dlgSeriesStyle& dialog) { dialog.setColor(7); }, QDialog::Accepted);
     Q_EMIT grid().styleWanted();

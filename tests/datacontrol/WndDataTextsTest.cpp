@@ -247,8 +247,8 @@ TEST_F(WndDataTexts, writesALegendTextWithALineBreakAsOneLine)
     EVM& evolution = load("a.ev2");
     add(evolution, 1);
     add(evolution, 2);
-    series()[0].LegendText = QStringLiteral("one\r\ntwo"); // of a file
-    series()[1].LegendText = QStringLiteral("three");
+    change(0, [](Series& one) { one.LegendText = QStringLiteral("one\r\ntwo"); }); // of a file
+    change(1, [](Series& one) { one.LegendText = QStringLiteral("three"); });
     click("btnPlotLeg");
     EXPECT_EQ(legend(), "[0] one two\r\n[1] three");
     EXPECT_EQ(colorAt(13), BaseColors[1]);

@@ -17,7 +17,7 @@ TEST_F(WndEvolExplorerTest, removesTheSelectedEvolutionAndItsSeriesFromEveryPlot
     plots.AddSerie(*b.Modes[0]);
     plots.ActivatePlot(&plots.AddPlot(QString()));
     plots.AddSerie(*a.Modes[0]);
-    plotAt(0).SeriesCollection().emplace_back(); // a series without a mode stays
+    plotAt(0).rows().add(Series()); // a series without a mode stays
     select(evolutionNode(a));
     choose("Remove");
     ASSERT_EQ(session.evolutions.size(), 1U);
@@ -40,7 +40,7 @@ TEST_F(WndEvolExplorerTest, removesTheRowsWithoutACurveWithTheirEvolutionFromEve
 {
     EVM& a = fill("a.evm");
     plots.AddSerie(*a.Modes[0]);
-    plotAt(0).rows().setMode(0, 9);
+    plotAt(0).rows().setMode(plotAt(0).rows().at(0).id, 9);
     plots.ActivatePlot(&plots.AddPlot(QString()));
     int changed = 0;
     QObject::connect(&plotAt(0), &EvmPlot::changed, [&changed] { ++changed; });

@@ -4,6 +4,7 @@
 
 #include "explorer/WndEvolExplorerFixture.h"
 
+#include <QApplication>
 #include <QListWidget>
 
 #include <gmock/gmock.h>
@@ -157,13 +158,21 @@ TEST_F(WndSelModes, asksOnceForAPlotWhenNoneIsActive)
     EXPECT_FALSE(dialog.isVisible());
 }
 
-TEST_F(WndSelModes, reportsAFailureOfDrawing)
+TEST_F(WndSelModes, addsAModeThatCannotBeDrawn)
 {
+    std::vector<ErrorNumber> failures;
+    QObject::connect(&plots, &wndEvolPlot::failed, &plots,
+                     [&](const RunTimeError& error) { failures.push_back(error.number()); });
+    plots.show();
     open();
     add({1});
     session.evolutions[0]->Modes[0]->Points.resize(32768); // more than a canvas draws
     test::click(dialog, "cmd_Ok");
-    ASSERT_EQ(user.messages.size(), 1U);
-    EXPECT_TRUE(user.messages[0].text.starts_with("Error # ")) << user.messages[0].text;
     EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(curves(plotAt(0)).size(), 1U);
+    for (int i = 0; i < 2; ++i) {
+        plots.grab();
+        QApplication::processEvents();
+    }
+    EXPECT_THAT(failures, ElementsAre(ErrorNumber::Overflow)) << "once";
 }

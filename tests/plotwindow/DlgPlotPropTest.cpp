@@ -130,7 +130,7 @@ TEST_F(DlgPlotProp, changesNothingWhenItIsConfirmedAsItIs)
     EXPECT_EQ(plot.WriteProperties(), EvmPlot().WriteProperties());
 }
 
-TEST_F(DlgPlotProp, drawsThePlotAgainAfterItIsConfirmed)
+TEST_F(DlgPlotProp, drawsACurveOfAClearedPlotAfterItIsConfirmed)
 {
     EVM evolution;
     AeMode& mode = evolution.appendMode();
@@ -140,7 +140,7 @@ TEST_F(DlgPlotProp, drawsThePlotAgainAfterItIsConfirmed)
         point.f = 25;
         point.G = -0.1F;
     }
-    plot.addSeries(mode).ColorIndex = rgb(255, 0, 0);
+    plot.rows().change(plot.addSeries(mode), [](Series& one) { one.ColorIndex = rgb(255, 0, 0); });
     const auto showsTheCurve = [this] {
         const QImage image = plot.Image();
         // 25 of 50 Hz is half-way up the upper canvas, which no tick reaches.
@@ -148,6 +148,7 @@ TEST_F(DlgPlotProp, drawsThePlotAgainAfterItIsConfirmed)
         return image.pixelColor(canvas.center().x(), canvas.center().y()) == QColor(255, 0, 0)
             || image.pixelColor(canvas.center().x(), canvas.center().y() + 1) == QColor(255, 0, 0);
     };
+    plot.Cls();
     EXPECT_FALSE(showsTheCurve());
     confirm();
     EXPECT_TRUE(showsTheCurve());

@@ -283,13 +283,29 @@ TEST_F(WndEvolPlotTest, givesSeriesTheSevenColoursInTurnAndTheirNumberAsTag)
     EXPECT_EQ(series[7].MarkerTag, QStringLiteral("7"));
 }
 
-TEST_F(WndEvolPlotTest, drawsNothingWhenASeriesIsAdded)
+TEST_F(WndEvolPlotTest, showsASeriesThatIsAdded)
 {
     show();
     activateFirst();
     const QImage before = plotAt(0)->Image().copy();
     window.AddSerie(test::addMode(evolution, 1, {{100, -0.1F, 10}, {600, -0.2F, 40}}));
-    EXPECT_EQ(plotAt(0)->Image(), before);
+    EXPECT_NE(plotAt(0)->Image(), before);
+}
+
+TEST_F(WndEvolPlotTest, givesNewSeriesTheMarkersThatAreSet)
+{
+    activateFirst();
+    AeMode& mode = evolution.appendMode();
+    window.AddSerie(mode);
+    window.setNewSeriesMarkers({9, 4, markerstyle::tag, 2});
+    window.AddSerie(mode);
+    const SeriesList& series = plotAt(0)->SeriesCollection();
+    EXPECT_EQ(series[0].MarkerSpacing, 0);
+    EXPECT_EQ(series[1].MarkerSize, 9);
+    EXPECT_EQ(series[1].MarkerSpacing, 4);
+    EXPECT_EQ(series[1].MarkerStyle, markerstyle::tag);
+    EXPECT_EQ(series[1].IthMpf, 2);
+    EXPECT_EQ(series[1].MarkerForegroundColor, BaseColors[1]) << "in the colour of the curve";
 }
 
 TEST_F(WndEvolPlotTest, asksForAnActivePlotBeforeASeries)

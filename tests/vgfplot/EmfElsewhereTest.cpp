@@ -1,6 +1,7 @@
 // The metafile of a plot as other programs show it, where they are installed.
 
 #include "analysis/ModeBuilder.h"
+#include "support/ChangeSeries.h"
 #include "support/Ink.h"
 #include "support/TestFiles.h"
 #include "vgfplot/EvmPlot.h"
@@ -27,11 +28,14 @@ protected:
         plot.resize({800, 600});
         // A curve from corner to corner shows where the canvas' clip is, and its ends where the
         // axes are.
-        plot.addSeries(addMode(evolution, 1, {{0, -0.02F, 10}, {350, -0.1F, 20}, {700, 0.05F, 80}}))
-            .ColorIndex = rgb(0, 0, 255);
-        Series& dashed = plot.addSeries(addMode(evolution, 2, {{0, -0.2F, 45}, {700, -0.1F, 30}}));
-        dashed.ColorIndex = rgb(255, 0, 0);
-        dashed.LineStyle = penstyle::dash;
+        plot.addSeries(
+            addMode(evolution, 1, {{0, -0.02F, 10}, {350, -0.1F, 20}, {700, 0.05F, 80}}));
+        plot.addSeries(addMode(evolution, 2, {{0, -0.2F, 45}, {700, -0.1F, 30}}));
+        test::changeSeries(plot, 0, [](Series& solid) { solid.ColorIndex = rgb(0, 0, 255); });
+        test::changeSeries(plot, 1, [](Series& dashed) {
+            dashed.ColorIndex = rgb(255, 0, 0);
+            dashed.LineStyle = penstyle::dash;
+        });
         plot.Header().setTextRTF("{\\rtf1{\\fonttbl{\\f0 Arial;}}{\\colortbl ;\\red0\\green128"
                                  "\\blue0;}\\f0\\fs36 The header of this plot \\cf1\\b in green"
                                  "\\par\\plain\\fs20 second line\\par}");

@@ -1,6 +1,7 @@
 // What a V-g-f plot draws, on the screen and into a caller's context.
 
 #include "analysis/ModeBuilder.h"
+#include "support/ChangeSeries.h"
 #include "support/Errors.h"
 #include "support/RecordingContext.h"
 #include "vgfplot/EvmPlot.h"
@@ -28,8 +29,8 @@ protected:
     EvmPlotDrawing()
     {
         plot.resize({800, 600});
-        plot.addSeries(addMode(evolution, 1, {{0, -0.125F, 25}, {700, -0.125F, 25}})).ColorIndex =
-            rgb(0, 0, 255);
+        plot.addSeries(addMode(evolution, 1, {{0, -0.125F, 25}, {700, -0.125F, 25}}));
+        test::changeSeries(plot, 0, [](Series& one) { one.ColorIndex = rgb(0, 0, 255); });
     }
 
     QColor pixel(int column, int row) { return plot.Image().pixelColor(column, row); }
@@ -79,8 +80,24 @@ TEST_F(EvmPlotDrawing, showsTheAxes)
     EXPECT_EQ(pixel(80, 500), black);
 }
 
-TEST_F(EvmPlotDrawing, showsNoCurveBeforeItIsPlotted)
+TEST_F(EvmPlotDrawing, showsACurveAsSoonAsItIsThere)
 {
+    EXPECT_EQ(pixel(400, 204), blue);
+}
+
+TEST_F(EvmPlotDrawing, followsItsRows)
+{
+    plot.Image();
+    test::changeSeries(plot, 0, [](Series& one) { one.ColorIndex = 0; });
+    EXPECT_EQ(pixel(400, 204), black);
+    plot.addSeries(addMode(evolution, 2, {{0, -0.125F, 25}, {700, -0.125F, 25}}));
+    test::changeSeries(plot, 1, [](Series& one) { one.ColorIndex = rgb(0, 0, 255); });
+    EXPECT_EQ(pixel(400, 204), blue) << "the last row is drawn last";
+    plot.SerieMove(2, 1);
+    EXPECT_EQ(pixel(400, 204), black);
+    plot.rows().setMode(plot.rows().at(1).id, 0);
+    EXPECT_EQ(pixel(400, 204), blue);
+    plot.rows().clear();
     EXPECT_EQ(pixel(400, 204), white);
 }
 
@@ -92,6 +109,8 @@ TEST_F(EvmPlotDrawing, showsNoCurveOnceItIsCleared)
     EXPECT_EQ(pixel(400, 204), white);
     EXPECT_EQ(pixel(400, 456), white);
     EXPECT_EQ(pixel(420, 330), black); // the axes stay
+    plot.plot();
+    EXPECT_EQ(pixel(400, 204), blue);
 }
 
 TEST_F(EvmPlotDrawing, showsOnlyTheCurvesOfNowWhenItIsPlottedAgain)
@@ -178,15 +197,14 @@ TEST_F(EvmPlotDrawing, putsCurveAndTickOfOneValueOnTheSamePixelsOfAScreenOfAnyRa
 {
     // Level curves at the values of ticks, 10 to 40 Hz and -0.05 to -0.2; of each, the rows of ink
     // in a column of the tick and in one of the curve.
-    SeriesList& series = plot.SeriesCollection();
-    series.clear();
+    plot.rows().clear();
     for (std::int16_t k = 1; k < 5; ++k) {
         const float part = static_cast<float>(k);
         const auto mode = static_cast<std::int16_t>(k + 1);
         plot.addSeries(addMode(evolution, mode,
-                               {{100, -0.05F * part, 10 * part}, {600, -0.05F * part, 10 * part}}))
-            .ColorIndex = 0;
+                               {{100, -0.05F * part, 10 * part}, {600, -0.05F * part, 10 * part}}));
     }
+    test::changeAllSeries(plot, [](Series& one) { one.ColorIndex = 0; });
     const auto inkedRows = [](const QImage& image, int column, int from, int to) {
         std::vector<std::pair<int, QRgb>> rows;
         for (int row = from; row < to; ++row) {
@@ -238,14 +256,14 @@ TEST_F(EvmPlotDrawing, showsEverythingAgainAfterAnErrorIsMended)
 
 TEST_F(EvmPlotDrawing, raisesTheErrorOfACurveWhenItIsPlotted)
 {
-    plot.SeriesCollection().emplace_back();
+    plot.rows().add(Series());
     EXPECT_EQ(errorNumberOf([this] { plot.plot(); }), ErrorNumber::ObjectVariableNotSet);
 }
 
 TEST_F(EvmPlotDrawing, raisesAnErrorOfPlottingOnceAlsoWhenTheScaleWasSetBefore)
 {
     plot.SetScale(0, 500, 0, 20, 0, -0.5F);
-    plot.SeriesCollection().emplace_back();
+    plot.rows().add(Series());
     EXPECT_TRUE(errorNumberOf([this] { plot.plot(); }));
     EXPECT_EQ(errorNumberOf([this] { plot.Image(); }), std::nullopt);
 }

@@ -3,6 +3,7 @@
 #include "analysis/ModeBuilder.h"
 #include "emf/EmfListing.h"
 #include "emf/MetafileSurface.h"
+#include "support/ChangeSeries.h"
 #include "support/Errors.h"
 #include "support/Ink.h"
 #include "support/TestFiles.h"
@@ -27,11 +28,14 @@ protected:
     EvmPlotPicture()
     {
         plot.resize({800, 600});
-        plot.addSeries(addMode(evolution, 1, {{0, -0.02F, 10}, {350, -0.1F, 20}, {700, 0.05F, 25}}))
-            .ColorIndex = rgb(0, 0, 255);
-        Series& dashed = plot.addSeries(addMode(evolution, 2, {{0, -0.2F, 45}, {700, -0.1F, 30}}));
-        dashed.ColorIndex = rgb(255, 0, 0);
-        dashed.LineStyle = penstyle::dash;
+        plot.addSeries(
+            addMode(evolution, 1, {{0, -0.02F, 10}, {350, -0.1F, 20}, {700, 0.05F, 25}}));
+        plot.addSeries(addMode(evolution, 2, {{0, -0.2F, 45}, {700, -0.1F, 30}}));
+        test::changeSeries(plot, 0, [](Series& solid) { solid.ColorIndex = rgb(0, 0, 255); });
+        test::changeSeries(plot, 1, [](Series& dashed) {
+            dashed.ColorIndex = rgb(255, 0, 0);
+            dashed.LineStyle = penstyle::dash;
+        });
         plot.Header().setTextRTF(
             "{\\rtf1{\\colortbl ;\\red0\\green128\\blue0;}\\fs28 header \\cf1\\b "
             "green\\par}");
@@ -187,11 +191,11 @@ TEST_F(EvmPlotPicture, isAWellFormedSvgWhateverTheTextsHold)
         plot.setFLabel(text);
         plot.AddRef(100, text);
         plot.AddDampLine(-0.1F, text);
-        for (Series& series : plot.SeriesCollection()) {
+        test::changeAllSeries(plot, [&text](Series& series) {
             series.MarkerStyle = markerstyle::tag;
             series.MarkerSpacing = 1;
             series.MarkerTag = text;
-        }
+        });
         const QByteArray svg = pictureBytes(plot, PictureFormat::Svg);
         EXPECT_NO_THROW(test::playSvg(svg)) << text.toStdString();
         EXPECT_FALSE(svg.contains("<script"));
@@ -217,9 +221,7 @@ TEST_F(EvmPlotPicture, takesNothingButNamesOfFontsIntoAnSvg)
 TEST_F(EvmPlotPicture, keepsThickPensWithinTheCanvasInAnSvg)
 {
     plot.SetScale(0, 700, 0, 20, 0, -0.1F); // both curves leave it
-    for (Series& series : plot.SeriesCollection())
-        series.LineWidth = 40;
-    plot.plot();
+    test::changeAllSeries(plot, [](Series& series) { series.LineWidth = 40; });
     const QImage svg = test::playSvg(pictureBytes(plot, PictureFormat::Svg));
     test::expectSameInk(svg, plot.Image(), 1, 1.0);
     // Left of the canvases, above the frequency axis, there is nothing but its labels.

@@ -71,8 +71,8 @@ TEST_F(EvmPlotSeries, takeTheBaseColoursInTurnAndTheirNumberAsTag)
 TEST_F(EvmPlotSeries, belongToTheModeThatTheyWereMadeFor)
 {
     AeMode& mode = evolution.appendMode();
-    const Series& added = plot.addSeries(mode);
-    EXPECT_EQ(&added, &plot.SeriesCollection().back());
+    const RowId added = plot.addSeries(mode);
+    EXPECT_EQ(plot.rows().indexOf(added), 0U);
     EXPECT_EQ(plot.SeriesCollection().back().Mode, &mode);
 }
 
@@ -104,6 +104,16 @@ TEST_F(EvmPlotSeries, stayWhereTheyAreWhenMovedOntoThemselves)
     addSeries(3);
     plot.SerieMove(2, 2);
     EXPECT_THAT(tags(), ElementsAre("0", "1", "2"));
+}
+
+TEST_F(EvmPlotSeries, moveTogether)
+{
+    addSeries(5);
+    plot.SerieMove(2, 1, 3);
+    EXPECT_THAT(tags(), ElementsAre("1", "2", "3", "0", "4"));
+    plot.SerieMove(1, 3, 3);
+    EXPECT_THAT(tags(), ElementsAre("0", "4", "1", "2", "3"));
+    EXPECT_EQ(errorNumberOf([this] { plot.SerieMove(2, 4, 3); }), ErrorNumber::SubscriptOutOfRange);
 }
 
 TEST_F(EvmPlotSeries, cannotMoveOutOfTheCollection)
@@ -170,7 +180,7 @@ TEST_F(FitFreq, leavesTheScaleWhenTheBoundsStillFallTogether)
 TEST_F(FitFreq, leavesTheScaleWhenNoPointIsInSight)
 {
     EXPECT_EQ(fit({{100, 0, 5}, {800, 0, 6}}), Bounds(0.0F, 50.0F));
-    plot.SeriesCollection().clear();
+    plot.rows().clear();
     EXPECT_EQ(fit({}), Bounds(0.0F, 50.0F));
 }
 
@@ -184,6 +194,6 @@ TEST_F(FitFreq, leavesSpeedsAndDampingsAsTheyAre)
 
 TEST_F(FitFreq, ignoresSeriesWithoutAMode)
 {
-    plot.SeriesCollection().emplace_back();
+    plot.rows().add(Series());
     EXPECT_EQ(fit({{550, 0, 20}, {600, 0, 40}}), Bounds(19.0F, 42.0F));
 }

@@ -35,22 +35,19 @@ protected:
         plot.SetScale(0, 600, 0, 63, 0, -0.252F);
     }
 
-    Series& draw(std::initializer_list<test::DrawnPoint> points)
+    RowId draw(std::initializer_list<test::DrawnPoint> points)
     {
         return plot.addSeries(addMode(evolution, nextMode++, points));
     }
 
     /// A curve of one frequency from 100 to 300 KEAS, far from the speed axis in the V-g canvas.
-    Series& drawLevel(float frequency)
+    RowId drawLevel(float frequency)
     {
         return draw({{100, -0.2F, frequency}, {300, -0.2F, frequency}});
     }
 
     /// A curve of one damping from 100 to 300 KEAS, at the upper end of the V-f canvas.
-    Series& drawLevelDamping(float damping)
-    {
-        return draw({{100, damping, 60}, {300, damping, 60}});
-    }
+    RowId drawLevelDamping(float damping) { return draw({{100, damping, 60}, {300, damping, 60}}); }
 
     std::optional<CurveReading> curveAt(int column, int row)
     {
@@ -271,8 +268,8 @@ TEST_F(PlotReadingTest, findsACurveWhoseSpeedsDecrease)
 
 TEST_F(PlotReadingTest, passesOverSeriesThatDrawNoLine)
 {
-    plot.SeriesCollection().emplace_back(); // without a mode
-    drawLevel(20).LineStyle = penstyle::none;
+    plot.rows().add(Series()); // without a mode
+    plot.rows().change(drawLevel(20), [](Series& one) { one.LineStyle = penstyle::none; });
     draw({{200, -0.1F, 20}}); // a single point
     draw({});
     EXPECT_FALSE(curveAt(280, 250).has_value());
@@ -280,7 +277,8 @@ TEST_F(PlotReadingTest, passesOverSeriesThatDrawNoLine)
 
 TEST_F(PlotReadingTest, passesOverAModeThatIsTooLongToBeDrawn)
 {
-    AeMode& mode = *drawLevel(20).Mode;
+    drawLevel(20);
+    AeMode& mode = *plot.SeriesCollection().back().Mode;
     mode.Points.resize(32767, mode.Points.back());
     EXPECT_TRUE(curveAt(280, 250).has_value());
     mode.Points.push_back(mode.Points.back());
@@ -290,7 +288,7 @@ TEST_F(PlotReadingTest, passesOverAModeThatIsTooLongToBeDrawn)
 TEST_F(PlotReadingTest, tellsWhoseCurveItIs)
 {
     drawLevel(10);
-    drawLevel(20).MarkerTag = QStringLiteral("B1");
+    plot.rows().change(drawLevel(20), [](Series& one) { one.MarkerTag = QStringLiteral("B1"); });
     const std::optional<CurveReading> curve = curveAt(280, 250);
     ASSERT_TRUE(curve.has_value());
     EXPECT_EQ(curve->evolution, QStringLiteral("goland.ev2"));
@@ -300,7 +298,8 @@ TEST_F(PlotReadingTest, tellsWhoseCurveItIs)
 
 TEST_F(PlotReadingTest, tellsNoEvolutionOfAModeOfNone)
 {
-    drawLevel(20).Mode->Parent = nullptr;
+    drawLevel(20);
+    plot.SeriesCollection().back().Mode->Parent = nullptr;
     ASSERT_TRUE(curveAt(280, 250).has_value());
     EXPECT_EQ(curveAt(280, 250)->evolution, QString());
 }

@@ -1,6 +1,7 @@
 #include "vgfplot/PlotRecords.h"
 
 #include "analysis/ModeBuilder.h"
+#include "support/ChangeSeries.h"
 #include "support/Errors.h"
 #include "vgfplot/EvmPlot.h"
 #include "workspace/WorkspaceReader.h"
@@ -35,14 +36,15 @@ protected:
         plot.setVthicks(9);
         plot.setFthicks(6);
         plot.setGthicks(4);
-        Series& series = plot.addSeries(*two.Modes[1]);
-        series.MarkerTag = QStringLiteral("7b");
-        series.MarkerSize = 9;
-        series.MarkerSpacing = 3;
-        series.MarkerStyle = markerstyle::tag;
-        series.LegendText = QStringLiteral("the second");
-        series.ColorIndex = rgb(1, 2, 3);
-        series.MarkerForegroundColor = rgb(4, 5, 6);
+        plot.rows().change(plot.addSeries(*two.Modes[1]), [](Series& series) {
+            series.MarkerTag = QStringLiteral("7b");
+            series.MarkerSize = 9;
+            series.MarkerSpacing = 3;
+            series.MarkerStyle = markerstyle::tag;
+            series.LegendText = QStringLiteral("the second");
+            series.ColorIndex = rgb(1, 2, 3);
+            series.MarkerForegroundColor = rgb(4, 5, 6);
+        });
         plot.addSeries(*one.Modes[0]);
     }
 
@@ -105,10 +107,11 @@ TEST_F(PlotRecords, keepMarksAndLooksThroughTheBytesOfAFile)
     plot.AddRef(400, QStringLiteral("       α"));
     plot.AddDampLine(0.01F, QStringLiteral("g = 1.00 %"));
     plot.AddDampLine(-0.03F, QString());
-    Series& series = plot.SeriesCollection()[0];
-    series.LineStyle = 2;
-    series.LineWidth = 4;
-    series.IthMpf = 3;
+    test::changeSeries(plot, 0, [](Series& series) {
+        series.LineStyle = 2;
+        series.LineWidth = 4;
+        series.IthMpf = 3;
+    });
     EvmPlot other;
     throughAFile(other);
     ASSERT_EQ(other.Refs().size(), 2U);
@@ -136,7 +139,7 @@ TEST_F(PlotRecords, takeTheMarksOfTheFileForThoseOfThePlot)
     const PlotRecord record = recordOf(plot, evolutions());
     plot.AddRef(1, QStringLiteral("old"));
     plot.AddDampLine(1, QStringLiteral("old"));
-    plot.SeriesCollection().clear();
+    plot.rows().clear();
     applyRecord(record, {&one, &two}, plot);
     EXPECT_TRUE(plot.Refs().empty());
     EXPECT_TRUE(plot.DampLines().empty());
