@@ -14,9 +14,9 @@ namespace tarsil::batch {
 
 namespace {
 
-constexpr std::array<const Command*, 7> commands = {
+constexpr std::array<const Command*, 8> commands = {
     &infoCommand,    &checkCommand, &reportCommand, &pictureCommand,
-    &convertCommand, &mixCommand,   &importCommand};
+    &convertCommand, &mixCommand,   &importCommand, &crossingsCommand};
 
 std::string programHelp()
 {
@@ -24,7 +24,7 @@ std::string programHelp()
                        "Does without a window what tarsil does with one. Each FILE is a modal\n"
                        "evolution (.evm or .ev2) or a workspace (.tsw).\n\n"
                        "Commands:\n";
-    constexpr std::size_t width = 9;
+    constexpr std::size_t width = 11;
     for (const Command* command : commands) {
         const std::string_view name = command->description.name;
         text.append("  ").append(name).append(width - name.size(), ' ');

@@ -21,6 +21,7 @@ extern const Command pictureCommand;
 extern const Command convertCommand;
 extern const Command mixCommand;
 extern const Command importCommand;
+extern const Command crossingsCommand;
 
 /// For commands that take as many files as there are.
 constexpr std::size_t anyNumber = static_cast<std::size_t>(-1);

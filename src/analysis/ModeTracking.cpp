@@ -1,0 +1,196 @@
+#include "analysis/ModeTracking.h"
+
+#include "analysis/Assignment.h"
+#include "model/EVM.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tarsil {
+
+namespace {
+
+constexpr double staticImaginaryPart = 1e-9; ///< rad/s; up to it a root is static
+constexpr double largestStepRatio = 2;
+constexpr double keptLabelsTolerance = 1e-9;
+constexpr double ambiguityFactor = 2;
+
+// A root that lies farther from its prediction than this has jumped.
+constexpr double jumpFactor = 3;
+constexpr double jumpPart = 0.02; ///< of the root itself
+constexpr double leastJump = 1e-3; ///< rad/s
+
+bool isStatic(std::complex<double> root)
+{
+    return std::abs(root.imag()) <= staticImaginaryPart;
+}
+
+std::size_t pointCount(const EVM& evolution)
+{
+    return evolution.Modes.empty() ? 0 : evolution.Modes.front()->Points.size();
+}
+
+/// The speeds of the first mode, when all modes have them and they rise; otherwise nothing.
+std::optional<std::vector<double>> commonRisingSpeeds(const EVM& evolution)
+{
+    std::vector<double> speeds;
+    for (const Point& point : evolution.Modes.front()->Points) {
+        if (!speeds.empty() && point.speed <= speeds.back())
+            return std::nullopt;
+        speeds.push_back(point.speed);
+    }
+    for (const auto& mode : evolution.Modes) {
+        for (std::size_t i = 0; i < speeds.size(); ++i) {
+            if (mode->Points[i].speed != static_cast<float>(speeds[i]))
+                return std::nullopt;
+        }
+    }
+    return speeds;
+}
+
+/// Whether a track would pay less than twice as much after an exchange with some other track.
+bool isAmbiguous(const CostMatrix& costs, const std::vector<std::size_t>& columns,
+                 std::size_t track)
+{
+    for (std::size_t other = 0; other < columns.size(); ++other) {
+        if (other == track)
+            continue;
+        const double exchanged = costs.at(track, columns[other]) + costs.at(other, columns[track]);
+        const double kept = costs.at(track, columns[track]) + costs.at(other, columns[other]);
+        if (exchanged < ambiguityFactor * kept)
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+ModeTracking::ModeTracking(const EVM& evolution)
+{
+    const std::size_t modes = evolution.Modes.size();
+    readRoots(evolution);
+    readArguments(evolution);
+    std::vector<std::size_t> printed(modes);
+    for (std::size_t t = 0; t < modes; ++t)
+        printed[t] = t;
+    m_modes.assign(m_roots.size(), printed);
+    m_isMarked.assign(m_roots.size(), std::vector<bool>(modes));
+    m_hasJumped.assign(modes, false);
+    if (modes < 2)
+        return;
+    for (std::size_t point = 1; point < m_roots.size(); ++point)
+        trackStep(point);
+}
+
+std::optional<std::string> ModeTracking::obstacle(const EVM& evolution)
+{
+    bool hasEigenvalues = false;
+    for (const auto& mode : evolution.Modes) {
+        if (mode->Points.size() != pointCount(evolution))
+            return "its modes have unequal numbers of points";
+        for (const Point& point : mode->Points)
+            hasEigenvalues = hasEigenvalues || point.re != 0 || point.im != 0;
+    }
+    if (!hasEigenvalues)
+        return "its points have no eigenvalues";
+    return std::nullopt;
+}
+
+void ModeTracking::readRoots(const EVM& evolution)
+{
+    m_roots.resize(pointCount(evolution));
+    for (std::size_t point = 0; point < m_roots.size(); ++point) {
+        for (const auto& mode : evolution.Modes)
+            m_roots[point].emplace_back(mode->Points[point].re, mode->Points[point].im);
+    }
+}
+
+void ModeTracking::readArguments(const EVM& evolution)
+{
+    if (m_roots.empty())
+        return;
+    if (auto speeds = commonRisingSpeeds(evolution)) {
+        m_arguments = std::move(*speeds);
+        return;
+    }
+    for (std::size_t point = 0; point < m_roots.size(); ++point)
+        m_arguments.push_back(static_cast<double>(point));
+}
+
+std::complex<double> ModeTracking::rootAt(std::size_t point, std::size_t track) const
+{
+    return m_roots[point][m_modes[point][track]];
+}
+
+/// How much longer the step to a point is than the one before it, within limits.
+double ModeTracking::stepRatio(std::size_t point) const
+{
+    return std::min((m_arguments[point] - m_arguments[point - 1])
+                        / (m_arguments[point - 1] - m_arguments[point - 2]),
+                    largestStepRatio);
+}
+
+std::complex<double> ModeTracking::predictionAt(std::size_t point, std::size_t track) const
+{
+    const std::complex<double> last = rootAt(point - 1, track);
+    if (point < 2 || m_hasJumped[track])
+        return last;
+    const std::complex<double> before = rootAt(point - 2, track);
+    if (isStatic(before) != isStatic(last))
+        return last;
+    const std::complex<double> prediction = last + (last - before) * stepRatio(point);
+    if (!isStatic(last) && prediction.imag() < 0)
+        return {prediction.real(), 0};
+    return prediction;
+}
+
+bool ModeTracking::isJump(std::size_t point, std::size_t track,
+                          std::complex<double> prediction) const
+{
+    const std::complex<double> last = rootAt(point - 1, track);
+    const double step =
+        point < 2 ? 0 : std::abs(last - rootAt(point - 2, track)) * stepRatio(point);
+    const double distance = std::abs(rootAt(point, track) - prediction);
+    return distance > jumpFactor * std::max(step, jumpPart * std::abs(last))
+        && distance > leastJump;
+}
+
+void ModeTracking::trackStep(std::size_t point)
+{
+    const std::size_t count = tracks();
+    std::vector<std::complex<double>> predictions(count);
+    CostMatrix costs(count);
+    for (std::size_t t = 0; t < count; ++t) {
+        predictions[t] = predictionAt(point, t);
+        for (std::size_t mode = 0; mode < count; ++mode)
+            costs.at(t, mode) = std::abs(m_roots[point][mode] - predictions[t]);
+    }
+    const std::vector<std::size_t>& present = m_modes[point - 1];
+    std::vector<std::size_t> best = leastCostAssignment(costs);
+    if (totalCost(costs, present)
+        <= totalCost(costs, best) * (1 + keptLabelsTolerance) + keptLabelsTolerance)
+        best = present;
+    m_modes[point] = best;
+    for (std::size_t t = 0; t < count; ++t) {
+        const TrackMark mark {point, t, isAmbiguous(costs, best, t),
+                              isJump(point, t, predictions[t])};
+        m_hasJumped[t] = mark.isJump;
+        if (!mark.isAmbiguous && !mark.isJump)
+            continue;
+        m_marks.push_back(mark);
+        m_isMarked[point - 1][t] = true;
+    }
+}
+
+bool ModeTracking::isMarked(std::size_t point, std::size_t track) const
+{
+    return m_isMarked[point][track];
+}
+
+void ModeTracking::exchange(std::size_t firstTrack, std::size_t secondTrack, std::size_t fromPoint)
+{
+    for (std::size_t point = fromPoint; point < m_modes.size(); ++point)
+        std::swap(m_modes[point][firstTrack], m_modes[point][secondTrack]);
+}
+
+} // namespace tarsil

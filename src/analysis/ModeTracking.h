@@ -1,0 +1,75 @@
+#pragma once
+
+#include <complex>
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tarsil {
+
+class EVM;
+
+/// What the tracking doubts about one step of one track.
+struct TrackMark
+{
+    std::size_t step = 0; ///< from point `step` to point `step + 1`, points counted from 1
+    std::size_t track = 0; ///< index
+    bool isAmbiguous = false; ///< an exchange with another track costs less than twice as much
+    bool isJump = false; ///< the root lies far from its prediction
+};
+
+/// Which printed root each track follows at each point. Track t starts as the printed mode of index
+/// t; numbers are never changed, only labels.
+///
+/// Solvers order oscillatory roots by frequency, so that labels swap where curves cross. Roots are
+/// followed by continuity: linear extrapolation of each eigenvalue (Desmarais and Bennett, J.
+/// Aircraft 11(2), 1974; Chen, AIAA J. 38(9), 2000) with an assignment of least total distance.
+/// Limits: coarse steps; pairs that veer (marked ambiguous); a pair that becomes two static roots
+/// of which one is printed; rigid-body roots near 0; methods K and KE at low reduced frequency.
+class ModeTracking
+{
+public:
+    /// Tracks the roots of an evolution by their eigenvalues Re + i Im. The argument of the
+    /// extrapolation is the speed when all modes share the same rising speeds, otherwise the number
+    /// of the point. O(points n^3) for n modes.
+    explicit ModeTracking(const EVM& evolution);
+
+    /// Why an evolution cannot be tracked: modes of unequal length, or points without eigenvalues;
+    /// nothing when it can. One mode alone has nothing to be tracked.
+    static std::optional<std::string> obstacle(const EVM& evolution);
+
+    std::size_t points() const { return m_modes.size(); }
+    std::size_t tracks() const { return m_modes.empty() ? 0 : m_modes.front().size(); }
+
+    /// The index of the printed mode that a track follows at a point (index).
+    std::size_t modeAt(std::size_t point, std::size_t track) const { return m_modes[point][track]; }
+
+    const std::vector<TrackMark>& marks() const { return m_marks; }
+
+    /// Whether the step from `point` (index) to the next is marked for a track.
+    bool isMarked(std::size_t point, std::size_t track) const;
+
+    /// Exchanges two tracks from a point (index) to the end, as the user says.
+    void exchange(std::size_t firstTrack, std::size_t secondTrack, std::size_t fromPoint);
+
+private:
+    using Roots = std::vector<std::complex<double>>;
+
+    void readRoots(const EVM& evolution);
+    void readArguments(const EVM& evolution);
+    void trackStep(std::size_t point);
+    std::complex<double> rootAt(std::size_t point, std::size_t track) const;
+    double stepRatio(std::size_t point) const;
+    std::complex<double> predictionAt(std::size_t point, std::size_t track) const;
+    bool isJump(std::size_t point, std::size_t track, std::complex<double> prediction) const;
+
+    std::vector<Roots> m_roots; ///< by point and printed mode
+    std::vector<double> m_arguments; ///< by point
+    std::vector<std::vector<std::size_t>> m_modes; ///< by point and track
+    std::vector<bool> m_hasJumped; ///< by track: its last step was a jump
+    std::vector<TrackMark> m_marks;
+    std::vector<std::vector<bool>> m_isMarked; ///< by point and track
+};
+
+} // namespace tarsil
