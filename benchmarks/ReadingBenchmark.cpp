@@ -5,8 +5,8 @@
 #include "RatioTable.h"
 #include "ReferenceReaders.h"
 #include "base/files/PathNames.h"
+#include "formats/EvolutionFile.h"
 #include "model/EVM.h"
-#include "model/Session.h"
 
 #include <fcntl.h>
 #include <malloc.h>
@@ -68,9 +68,9 @@ std::unique_ptr<EVM> readEvolution(const std::string& path, Layout layout)
     evolution->Folder = std::move(file.folder);
     evolution->FileName = std::move(file.name);
     if (layout == Layout::Semicolons)
-        evolution->contructFromSemicolonFile();
+        contructFromSemicolonFile(*evolution);
     else
-        evolution->Contruct();
+        Contruct(*evolution);
     return evolution;
 }
 
@@ -176,10 +176,10 @@ void runCat(std::vector<std::string>& files)
 /// Seconds for each of so many files, all held open together as in the program.
 double timePerFile(const std::vector<std::string>& files, std::size_t first, std::size_t count)
 {
-    Session session;
+    std::vector<std::unique_ptr<EVM>> evolutions;
     const double all = seconds([&] {
         for (std::size_t i = first; i < first + count; ++i)
-            session.open(files[i % files.size()]);
+            evolutions.push_back(openEvolution(files[i % files.size()]));
     });
     return all / static_cast<double>(count);
 }

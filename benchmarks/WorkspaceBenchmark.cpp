@@ -6,6 +6,7 @@
 #include "app/WorkspaceCommands.h"
 #include "base/user/UserInterface.h"
 #include "explorer/WndEvolExplorer.h"
+#include "formats/EvolutionFile.h"
 #include "model/Session.h"
 #include "plotwindow/WndEvolPlot.h"
 #include "workspace/FoundFiles.h"
@@ -90,7 +91,7 @@ struct ManyFiles
 void openAll(Session& session, const ManyFiles& many, std::size_t count)
 {
     for (std::size_t i = 0; i < count; ++i)
-        session.open(many.files[i]);
+        session.evolutions.push_back(openEvolution(many.files[i]));
 }
 
 /// What was opened before is released outside of the time.

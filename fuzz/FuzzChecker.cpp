@@ -1,8 +1,10 @@
 #include "FuzzTarget.h"
 
-#include "model/EvolutionChecker.h"
+#include "formats/EvolutionChecker.h"
+#include "formats/FormatTable.h"
 
 #include <algorithm>
+#include <string>
 
 namespace {
 
@@ -27,7 +29,7 @@ void check(std::string_view text, std::string_view fileName)
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::string_view text = tarsil::fuzz::textOf(data, size);
-    check(text, "fuzz.evm");
-    check(text, "fuzz.ev2");
+    for (const tarsil::EvolutionFormat* format : tarsil::evolutionFormats())
+        check(text, "fuzz" + std::string(format->extension));
     return 0;
 }

@@ -1,6 +1,6 @@
 #include "FuzzReader.h"
 
-#include "model/EvolutionReaders.h"
+#include "formats/SemicolonReader.h"
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {

@@ -10,8 +10,9 @@
 #include "datacontrol/WndData.h"
 #include "explorer/WndEvolExplorer.h"
 #include "explorer/WndSelModes.h"
-#include "model/EvolutionLoader.h"
-#include "model/MdlMix.h"
+#include "formats/EvolutionLoader.h"
+#include "formats/FormatTable.h"
+#include "formats/MdlMix.h"
 #include "options/DlgOptions.h"
 #include "plotwindow/DlgPlotProp.h"
 #include "plotwindow/WndEvolPlot.h"
@@ -36,9 +37,10 @@ auto mentionOf(const std::vector<std::string>& arguments, std::string_view exten
     });
 }
 
-bool isMentioned(const std::vector<std::string>& arguments, std::string_view extension)
+bool nameEvolutions(const std::vector<std::string>& arguments)
 {
-    return mentionOf(arguments, extension) != arguments.end();
+    return std::any_of(arguments.begin(), arguments.end(),
+                       [](const auto& argument) { return findFormat(argument) != nullptr; });
 }
 
 } // namespace
@@ -140,7 +142,7 @@ void wndMain::MDIForm_Load(const std::vector<std::string>& arguments)
         const auto workspace = mentionOf(arguments, ".tsw");
         if (workspace != arguments.end())
             m_workspace->OpenWorkSpace(*workspace);
-        else if (isMentioned(arguments, ".evm") || isMentioned(arguments, ".ev2"))
+        else if (nameEvolutions(arguments))
             draw(load(arguments));
     });
 }
@@ -230,7 +232,7 @@ void wndMain::popSelMultModes_Click()
 
 void wndMain::AddMenu_Click()
 {
-    load(mdlMain::OpenFileDialog(m_userInterface, mdlMain::evolutionFilter, 1, true));
+    load(mdlMain::OpenFileDialog(m_userInterface, mdlMain::evolutionFilter(), 1, true));
 }
 
 void wndMain::ExportMenu_Click()

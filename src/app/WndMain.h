@@ -43,8 +43,8 @@ public:
 
     /// Applies the options, shows the child windows in the default layout, makes the first plot
     /// active, and acts on the command line: one that holds ".tsw" anywhere names a workspace,
-    /// otherwise one that holds ".evm" or ".ev2" names evolutions to load and to draw at once. An
-    /// error is reported, and the window stays.
+    /// otherwise one that holds the extension of a format names evolutions to load and to draw at
+    /// once. An error is reported, and the window stays.
     void MDIForm_Load(const std::vector<std::string>& arguments);
 
     /// The default layout of the child windows.

@@ -10,7 +10,7 @@
 #include "base/user/RunTimeError.h"
 #include "explorer/DateText.h"
 #include "explorer/WndEvolExplorer.h"
-#include "model/EvolutionLoader.h"
+#include "formats/EvolutionLoader.h"
 #include "plotwindow/WndEvolPlot.h"
 #include "vgfplot/EvolutionRecords.h"
 #include "vgfplot/PlotRecords.h"

@@ -3,6 +3,7 @@
 #include "app/QtUserInterface.h"
 #include "app/WndMain.h"
 #include "base/files/TemporaryFile.h"
+#include "formats/FormatTable.h"
 
 #include <QCommandLineParser>
 #include <QIcon>
@@ -14,8 +15,9 @@ std::vector<std::string> filesOf(const QApplication& application)
 {
     QCommandLineParser commandLine;
     commandLine.setApplicationDescription(
-        QStringLiteral("Shows the V-g-f plots of modal evolutions (.evm and .ev2 files) and finds "
-                       "their flutter speeds. Opens workspaces (.tsw files), which keep plots."));
+        QStringLiteral("Shows the V-g-f plots of modal evolutions (%1 files) and finds "
+                       "their flutter speeds. Opens workspaces (.tsw files), which keep plots.")
+            .arg(QString::fromStdString(tarsil::formatExtensions("and"))));
     commandLine.addHelpOption();
     commandLine.addVersionOption();
     commandLine.addPositionalArgument(QStringLiteral("FILE"),

@@ -3,6 +3,7 @@
 #include "base/user/RunTimeError.h"
 #include "batch/BatchRun.h"
 #include "batch/Commands.h"
+#include "formats/FormatTable.h"
 
 #include <algorithm>
 #include <array>
@@ -22,8 +23,10 @@ std::string programHelp()
 {
     std::string text = "Usage: tarsil-batch COMMAND [OPTION]... FILE...\n\n"
                        "Does without a window what tarsil does with one. Each FILE is a modal\n"
-                       "evolution (.evm or .ev2) or a workspace (.tsw).\n\n"
-                       "Commands:\n";
+                       "evolution ("
+        + formatExtensions("or")
+        + ") or a workspace (.tsw).\n\n"
+          "Commands:\n";
     constexpr std::size_t width = 11;
     for (const Command* command : commands) {
         const std::string_view name = command->description.name;

@@ -3,6 +3,8 @@
 #include "base/files/PathNames.h"
 #include "base/text/TextCodec.h"
 #include "base/user/RunTimeError.h"
+#include "formats/EvolutionFile.h"
+#include "formats/FormatTable.h"
 
 #include <cerrno>
 #include <filesystem>
@@ -20,14 +22,14 @@ EVM& BatchRun::open(const std::string& path)
 {
     const FilePath file = resolvePath(path);
     m_names.emplace_back(shownPath(joinPath(file.folder, file.name)), path);
-    const bool tellsLayout = layoutOf(file.name).has_value();
-    if (!tellsLayout && !fileExists(path))
+    const bool hasFormat = findFormat(file.name) != nullptr;
+    if (!hasFormat && !fileExists(path))
         throw fileError(ENOENT, "tarsil-batch", path);
-    if (!tellsLayout)
-        throw Failure(path
-                      + ": a modal evolution has .evm or .ev2 in its name, and a workspace .tsw "
-                        "at its end");
-    return m_session.open(path);
+    if (!hasFormat)
+        throw Failure(path + ": a modal evolution has " + formatExtensions("or")
+                      + " in its name, and a workspace .tsw at its end");
+    m_session.evolutions.push_back(openEvolution(path));
+    return *m_session.evolutions.back();
 }
 
 std::string BatchRun::readable(std::string message) const

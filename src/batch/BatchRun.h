@@ -29,7 +29,7 @@ public:
     /// Prints "tarsil-batch: " and the message on standard error, as one line (`printableText`).
     void complain(std::string_view message);
 
-    /// Reads a modal evolution. Errors: those of `EVM::Contruct`; Failure for a name that tells no
+    /// Reads a modal evolution. Errors: those of `Contruct`; Failure for a name that selects no
     /// format.
     EVM& open(const std::string& path);
 

@@ -4,7 +4,7 @@
 #include "batch/Commands.h"
 #include "batch/WorkspaceChecker.h"
 #include "batch/WorkspaceInput.h"
-#include "model/EvolutionChecker.h"
+#include "formats/EvolutionChecker.h"
 
 #include <ostream>
 

@@ -1,6 +1,8 @@
 #include "batch/BatchRun.h"
 #include "batch/Commands.h"
 #include "batch/WorkspaceInput.h"
+#include "formats/EvmFormat.h"
+#include "formats/EvolutionFile.h"
 
 #include <array>
 
@@ -8,7 +10,7 @@ namespace tarsil::batch {
 
 namespace {
 
-constexpr std::array<std::string_view, 1> extensions = {".evm"};
+constexpr std::array extensions = {evmFormat.extension};
 
 int runConvert(const CommandLine& line, BatchRun& run)
 {
@@ -19,7 +21,7 @@ int runConvert(const CommandLine& line, BatchRun& run)
                          + " is a workspace; a modal evolution is wanted. To gather the modes "
                            "of its series use mix");
     refuseOutputOverInput(output, input);
-    run.open(input).PrintEVM(output);
+    PrintEVM(run.open(input), output);
     return done;
 }
 

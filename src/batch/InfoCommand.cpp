@@ -7,6 +7,7 @@
 #include "batch/JsonWriter.h"
 #include "batch/WorkspaceInfo.h"
 #include "batch/WorkspaceInput.h"
+#include "formats/FormatTable.h"
 #include "solver/SolverImport.h"
 
 #include <array>
@@ -72,7 +73,7 @@ void writeEvolution(JsonWriter& json, const EVM& evolution, bool withPoints)
     json.beginObject();
     json.text("file", evolution.FileName);
     json.text("folder", evolution.Folder);
-    json.text("format", evolution.isNewFormat ? "ev2" : "evm");
+    json.text("format", formatOf(evolution.FileName).name);
     json.text("airplane", evolution.Param.Airplane);
     json.text("mass", evolution.Param.Mass);
     json.number("mach", evolution.Param.Mach);
@@ -109,7 +110,7 @@ void printJson(const std::vector<const EVM*>& evolutions, bool withPoints, std::
 void printHeader(const EVM& evolution, std::ostream& out)
 {
     printLine(out, "folder", evolution.Folder);
-    printLine(out, "format", evolution.isNewFormat ? "sections (.ev2)" : "fixed columns (.evm)");
+    printLine(out, "format", std::string(formatOf(evolution.FileName).title));
     printLine(out, "airplane", evolution.Param.Airplane);
     printLine(out, "mass configuration", evolution.Param.Mass);
     printLine(out, "Mach number",
@@ -192,7 +193,7 @@ void refuseBesideWorkspace(const CommandLine& line)
 /// Whether a file that is no evolution by its name holds printed flutter summaries.
 bool isSolverOutput(const std::string& path)
 {
-    return !layoutOf(resolvePath(path).name) && fileExists(path)
+    return findFormat(resolvePath(path).name) == nullptr && fileExists(path)
         && !solver::readSolverOutput(path).runs.empty();
 }
 

@@ -3,7 +3,8 @@
 #include "batch/Commands.h"
 #include "batch/ModeList.h"
 #include "batch/WorkspaceInput.h"
-#include "model/MdlMix.h"
+#include "formats/EvolutionFile.h"
+#include "formats/MdlMix.h"
 
 #include <algorithm>
 #include <array>
@@ -101,7 +102,7 @@ int runMix(const CommandLine& line, BatchRun& run)
     }
     const std::unique_ptr<EVM> mixed = mdlMix::gather(modes);
     warnOfDifferentLengths(modes, run); // nothing may fail once the file is there
-    mixed->PrintEVM(output);
+    PrintEVM(*mixed, output);
     return isWhole ? done : failed;
 }
 

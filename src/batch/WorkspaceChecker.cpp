@@ -3,7 +3,6 @@
 #include "base/files/InputFile.h"
 #include "base/files/PathNames.h"
 #include "batch/WorkspaceInput.h"
-#include "model/CheckerParts.h"
 #include "rtf/RtfReader.h"
 #include "rtf/RtfStoredValue.h"
 #include "workspace/FoundFiles.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/EvolutionChecker.h"
+#include "formats/FindingList.h"
 
 #include <string>
 #include <vector>

@@ -1,8 +1,8 @@
 #include "explorer/EvolutionMarks.h"
 
 #include "base/user/RunTimeError.h"
+#include "formats/EvolutionChecker.h"
 #include "model/EVM.h"
-#include "model/EvolutionChecker.h"
 
 #include <QStringList>
 

@@ -1,71 +1,14 @@
 #include "model/EVM.h"
 
-#include "base/files/AtomicFile.h"
-#include "base/files/FileLines.h"
 #include "base/files/PathNames.h"
-#include "base/files/TextStream.h"
-#include "base/text/TextCodec.h"
-#include "base/user/RunTimeError.h"
-#include "model/EvolutionReaders.h"
-#include "model/EvolutionWriter.h"
 
 #include <utility>
 
 namespace tarsil {
 
-namespace {
-
-/// That another program was writing the file says more than what was found amiss in it then.
-void readContents(const std::string& path, void (*reader)(TextStream& stream, EVM& evolution),
-                  EVM& contents)
-{
-    FileLines file(path);
-    try {
-        TextStream stream(file, shownPath(path));
-        reader(stream, contents);
-    } catch (const RunTimeError&) {
-        file.requireUnchanged();
-        throw;
-    }
-    file.requireUnchanged();
-}
-
-} // namespace
-
 std::string EVM::path() const
 {
     return joinPath(Folder, FileName);
-}
-
-std::optional<EvolutionLayout> layoutOf(std::string_view fileName)
-{
-    if (fileName.find(".evm") != std::string_view::npos)
-        return EvolutionLayout::FixedColumns;
-    if (fileName.find(".ev2") != std::string_view::npos)
-        return EvolutionLayout::Sections;
-    return std::nullopt;
-}
-
-void EVM::Contruct()
-{
-    const std::optional<EvolutionLayout> layout = layoutOf(FileName);
-    if (!layout)
-        return;
-    EVM contents;
-    readContents(path(), *layout == EvolutionLayout::FixedColumns ? readEvm : readEv2, contents);
-    takeFileContents(contents);
-}
-
-void EVM::contructFromSemicolonFile()
-{
-    EVM contents;
-    readContents(path(), readSemicolonTable, contents);
-    takeFileContents(contents);
-}
-
-void EVM::PrintEVM(std::string_view path) const
-{
-    writeFile(path, encodeText(evmText(*this)));
 }
 
 void EVM::Change(const EVM& source)

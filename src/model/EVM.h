@@ -5,22 +5,10 @@
 
 #include <cstdint>
 #include <memory>
-#include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace tarsil {
-
-/// How the text of an evolution file is laid out.
-enum class EvolutionLayout {
-    FixedColumns, ///< the old format, ".evm"
-    Sections ///< the new format, ".ev2"
-};
-
-/// The layout that a file name tells: ".evm" anywhere in it is the old one, otherwise ".ev2" the
-/// new one (exact, case counts).
-std::optional<EvolutionLayout> layoutOf(std::string_view fileName);
 
 /// One modal evolution: the result of one flutter run, held by one file. `Folder` and `FileName`
 /// together identify it. It stays where it was made, since its modes refer to it.
@@ -57,20 +45,9 @@ public:
     /// The file's path in stored form: `Folder`, a backslash, `FileName`.
     std::string path() const;
 
-    /// Fills the evolution from its file; `Folder` and `FileName` must be set. The name tells the
-    /// layout (`layoutOf`); when it tells none the evolution stays empty. Errors: those
-    /// of reading a file; 13 or 6 for a field that is no number, 9 for a row with too few fields,
-    /// 62 for a file that ends before its results, 457 for a repeated key, each naming file, line
-    /// and text. After an error the evolution is as it was before.
-    void Contruct();
-
-    /// Fills the evolution from a file in the semicolon-separated layout, whatever its name.
-    void contructFromSemicolonFile();
-
-    /// Writes the evolution in the fixed-column layout to the file `path`, whole or not at all.
-    /// Errors: 5 for a value that does not fit its columns (mode, point and value are named), and
-    /// those of writing a file.
-    void PrintEVM(std::string_view path) const;
+    /// Takes over what a reader made of the evolution's file: everything but `FileName` and
+    /// `Folder`. `source` is left without modes.
+    void takeFileContents(EVM& source);
 
     /// Makes this evolution's modes independent copies of those of `source`, point by point through
     /// `Point::Clone`, with its counts and flags; the two share no point afterwards.
@@ -81,7 +58,6 @@ public:
 
 private:
     void takeContents(EVM& source);
-    void takeFileContents(EVM& source);
 
     EditableParam m_paramOfFile;
 };

@@ -3,7 +3,6 @@
 #include "model/EVM.h"
 
 #include <memory>
-#include <string_view>
 #include <vector>
 
 namespace tarsil {
@@ -13,9 +12,6 @@ class Session
 {
 public:
     std::vector<std::unique_ptr<EVM>> evolutions;
-
-    /// Reads the file and appends its evolution. After an error nothing has changed.
-    EVM& open(std::string_view path);
 };
 
 } // namespace tarsil

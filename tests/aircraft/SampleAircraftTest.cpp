@@ -1,6 +1,7 @@
 #include "aircraft/AirplaneInfo.h"
 #include "base/files/PathNames.h"
 #include "base/numbers/NumberFormat.h"
+#include "formats/EvolutionFile.h"
 #include "model/EVM.h"
 #include "support/TestFiles.h"
 
@@ -30,7 +31,7 @@ protected:
         const FilePath file = resolvePath(test::sample(GetParam()));
         evolution.Folder = file.folder;
         evolution.FileName = file.name;
-        evolution.Contruct();
+        Contruct(evolution);
     }
 
     EVM evolution;

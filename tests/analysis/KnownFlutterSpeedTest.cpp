@@ -1,9 +1,11 @@
 #include "analysis/FlutterSearch.h"
-#include "model/Session.h"
+#include "formats/EvolutionFile.h"
+#include "model/EVM.h"
 #include "support/TestFiles.h"
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <optional>
 
 using namespace tarsil;
@@ -23,9 +25,9 @@ constexpr double publishedFrequency = 70.7 / (2 * 3.14159265358979);
 /// The crossing of zero damping at the lowest speed, over all modes of a sample.
 std::optional<Point> firstFlutterPoint(const char* name)
 {
-    Session session;
+    const std::unique_ptr<EVM> evolution = openEvolution(test::sample(name));
     std::optional<Point> first;
-    for (const auto& mode : session.open(test::sample(name)).Modes) {
+    for (const auto& mode : evolution->Modes) {
         FlutterPtsCalc(*mode, 0);
         for (const Point& point : mode->flutterPoints) {
             if (!first || point.speed < first->speed)

@@ -2,7 +2,8 @@
 
 #include "app/WndMainFixture.h"
 
-#include "model/MdlMix.h"
+#include "formats/EvolutionFile.h"
+#include "formats/MdlMix.h"
 
 #include <QDialog>
 #include <QLineEdit>
@@ -78,7 +79,7 @@ TEST_F(Commands, exportTheCurvesOfThePlotAsOneFile)
     for (const Series& series : plot().SeriesCollection())
         modes.push_back(series.Mode);
     ASSERT_GT(modes.size(), 3U);
-    mdlMix::gather(modes)->PrintEVM(folder.file("expected.mix"));
+    PrintEVM(*mdlMix::gather(modes), folder.file("expected.mix"));
     EXPECT_EQ(test::fileBytes(folder.file("all.mix")),
               test::fileBytes(folder.file("expected.mix")));
     EXPECT_EQ(user.statuses.back(), "Ready");
@@ -91,7 +92,7 @@ TEST_F(Commands, exportNoModeOfARowWithoutACurveAndSaySo)
     for (const auto& mode : window.session().evolutions.front()->Modes)
         modes.push_back(mode.get());
     modes.erase(modes.begin() + 1);
-    mdlMix::gather(modes)->PrintEVM(folder.file("expected.mix"));
+    PrintEVM(*mdlMix::gather(modes), folder.file("expected.mix"));
     user.saveFiles.push_back(folder.file("all.mix"));
     choose("ExportMenu");
     ASSERT_EQ(user.messages.size(), 1U);

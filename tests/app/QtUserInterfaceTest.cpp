@@ -1,8 +1,8 @@
 #include "app/QtUserInterface.h"
 
 #include "app/StatusPanels.h"
-#include "model/EvolutionLoader.h"
-#include "model/MdlMix.h"
+#include "formats/EvolutionLoader.h"
+#include "formats/MdlMix.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -57,7 +57,7 @@ protected:
 
 TEST(NameFilters, keepTheCaptionAndThePatternApart)
 {
-    EXPECT_EQ(nameFilters(std::string(mdlMain::evolutionFilter)),
+    EXPECT_EQ(nameFilters(mdlMain::evolutionFilter()),
               QStringList({QStringLiteral("Modal Evolution Files (*.evm) (*.evm)"),
                            QStringLiteral("New Modal Evolution Files (*.ev2) (*.ev2)"),
                            QStringLiteral("All Files (*.*) (*)")}));
@@ -103,7 +103,7 @@ TEST_F(QtUserInterfaceTest, asksForATextAndOffersOne)
 
 TEST_F(QtUserInterfaceTest, offersFilesByTheWantedFilter)
 {
-    FileQuestion question {std::string(mdlMain::evolutionFilter), 2, true, {}};
+    FileQuestion question {mdlMain::evolutionFilter(), 2, true, {}};
     onDialog<QFileDialog>([](QFileDialog& dialog) {
         EXPECT_EQ(dialog.selectedNameFilter(), QStringLiteral("New Modal Evolution Files (*.ev2)"));
         EXPECT_EQ(dialog.fileMode(), QFileDialog::ExistingFiles);

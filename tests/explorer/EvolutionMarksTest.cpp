@@ -3,7 +3,7 @@
 #include "explorer/EvolutionMarks.h"
 
 #include "explorer/WndEvolExplorerFixture.h"
-#include "model/EvolutionChecker.h"
+#include "formats/EvolutionChecker.h"
 #include "support/TestFiles.h"
 
 #include <gmock/gmock.h>

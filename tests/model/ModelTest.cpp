@@ -1,9 +1,5 @@
-#include "ModelFixtures.h"
-
-#include "model/MdlMix.h"
-#include "model/Session.h"
-
-#include "support/TestFiles.h"
+#include "model/EVM.h"
+#include "support/Errors.h"
 
 #include <gtest/gtest.h>
 
@@ -11,17 +7,30 @@ namespace tarsil {
 
 namespace {
 
-using test::errorOf;
-using test::ev2Header;
-using test::ev2Row;
-using test::readEv2Text;
-
-void readTwoModes(EVM& evolution)
+void addPoint(AeMode& mode, float speed, bool hasFactors)
 {
-    readEv2Text(ev2Header("Airplane=GOLAND\nAeroel_modes=2\nNo_of_speeds=2\n") + ev2Row(21)
-                    + ev2Row(21) + "5|1|2|3|4|5|6|7\n",
-                evolution);
-    evolution.Modes[0]->Tag = "B1";
+    Point& point = mode.Points.emplace_back();
+    point.speed = speed;
+    point.G = speed + 1;
+    for (int i = 0; hasFactors && i < 5; ++i)
+        point.mpf.append(static_cast<float>(i));
+    point.Parent = &mode;
+}
+
+void makeTwoModes(EVM& evolution)
+{
+    evolution.isNewFormat = true;
+    evolution.Param.Airplane = "GOLAND";
+    evolution.na = 2;
+    evolution.numberOfSpeeds = 2;
+    AeMode& first = evolution.appendMode();
+    first.Id = 1;
+    first.Tag = "B1";
+    addPoint(first, 5, true);
+    addPoint(first, 5, true);
+    AeMode& second = evolution.appendMode();
+    second.Id = 5;
+    addPoint(second, 5, false);
 }
 
 void expectSameValues(const AeMode& a, const AeMode& b)
@@ -76,7 +85,7 @@ TEST(Point, holdsFiveFactorsAtMost)
     Point point;
     for (int i = 0; i < 5; ++i)
         point.mpf.append(static_cast<float>(i));
-    const auto error = errorOf([&] { point.mpf.append(5); });
+    const auto error = test::errorOf([&] { point.mpf.append(5); });
     ASSERT_TRUE(error);
     EXPECT_EQ(error->number(), ErrorNumber::SubscriptOutOfRange);
 }
@@ -89,7 +98,7 @@ TEST(Point, costsSixtyFourBytes)
 TEST(EVM, sharesNoPointAfterChange)
 {
     EVM source;
-    readTwoModes(source);
+    makeTwoModes(source);
     EVM changed;
     changed.FileName = "kept.evm";
     changed.Param.Airplane = "kept";
@@ -113,43 +122,11 @@ TEST(EVM, sharesNoPointAfterChange)
 TEST(EVM, mayChangeToItself)
 {
     EVM evolution;
-    readTwoModes(evolution);
+    makeTwoModes(evolution);
     evolution.Change(evolution);
     ASSERT_EQ(evolution.Modes.size(), 2U);
     EXPECT_EQ(evolution.Modes[0]->Points[1].mpf.size(), 5U);
     EXPECT_EQ(evolution.Param.Airplane, "GOLAND");
-}
-
-TEST(MdlMix, gathersIndependentCopiesInTheirOrder)
-{
-    EVM source;
-    readTwoModes(source);
-    const auto mixed =
-        mdlMix::gather({source.Modes[1].get(), source.Modes[0].get(), source.Modes[1].get()});
-    EXPECT_EQ(mixed->na, 3);
-    EXPECT_EQ(mixed->numberOfSpeeds, 2); // the longest mode's points
-    ASSERT_EQ(mixed->Modes.size(), 3U);
-    expectSameValues(*mixed->Modes[0], *source.Modes[1]);
-    expectSameValues(*mixed->Modes[1], *source.Modes[0]);
-    expectSameValues(*mixed->Modes[2], *source.Modes[1]);
-    EXPECT_EQ(mixed->Modes[0]->Parent, mixed.get());
-}
-
-TEST(MdlMix, gathersNothing)
-{
-    EXPECT_TRUE(mdlMix::gather({})->Modes.empty());
-}
-
-TEST(Session, opensFilesInOrder)
-{
-    const test::TemporaryFolder folder;
-    Session session;
-    session.open(folder.write("a b.ev2", ev2Header("") + ev2Row(8)));
-    EXPECT_TRUE(errorOf([&] { session.open(folder.file("missing.ev2")); }));
-    session.open(folder.write("c.ev2", ev2Header("") + ev2Row(8)));
-    ASSERT_EQ(session.evolutions.size(), 2U);
-    EXPECT_EQ(session.evolutions[0]->FileName, "a b.ev2");
-    EXPECT_EQ(session.evolutions[1]->FileName, "c.ev2");
 }
 
 } // namespace

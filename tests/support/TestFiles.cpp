@@ -47,6 +47,11 @@ std::string sample(std::string_view name)
     return std::string(TARSIL_SAMPLES) + "/" + std::string(name);
 }
 
+std::string projectFile(std::string_view path)
+{
+    return fileBytes(std::filesystem::path(TARSIL_PROJECT) / path);
+}
+
 std::string realResults()
 {
     return TARSIL_REAL_RESULTS;

@@ -35,6 +35,9 @@ std::string fileBytes(const std::filesystem::path& path);
 /// Path of a file of the samples.
 std::string sample(std::string_view name);
 
+/// All bytes of a file of the repository, by its path from the root of it.
+std::string projectFile(std::string_view path);
+
 /// The folder of published results of other programs, which the repository does not hold; it may be
 /// missing.
 std::string realResults();

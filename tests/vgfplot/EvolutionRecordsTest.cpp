@@ -1,5 +1,6 @@
 #include "vgfplot/EvolutionRecords.h"
 
+#include "formats/EvolutionFile.h"
 #include "model/EVM.h"
 #include "support/TestFiles.h"
 
@@ -22,7 +23,7 @@ protected:
         for (EVM* const evolution : {&one, &two}) {
             evolution->Folder = folder.path().string();
             evolution->FileName = "wing.ev2";
-            evolution->Contruct();
+            Contruct(*evolution);
         }
     }
 
@@ -71,7 +72,7 @@ TEST_F(EvolutionRecords, giveEvolutionsTheirParametersAgain)
 TEST_F(EvolutionRecords, holdWhatDiffersFromTheFileAfterItWasReadAgain)
 {
     two.Param.Mach = 0.8F;
-    two.Contruct();
+    Contruct(two);
     EXPECT_TRUE(editedRecordsOf(evolutions()).empty());
 }
 

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "formats/EvolutionFormat.h"
+
+namespace tarsil {
+
+/// Reads the fixed columns: two points a line, the damping with the opposite sign.
+void readEvm(TextStream& stream, EVM& evolution);
+
+/// The findings in a file in fixed columns.
+void checkEvm(TextStream& stream, FindingList& findings);
+
+/// The old format.
+constexpr EvolutionFormat evmFormat {"evm",
+                                     "fixed columns (.evm)",
+                                     ".evm",
+                                     "Modal Evolution Files (*.evm)|*.evm|",
+                                     readOne<readEvm>,
+                                     checkEvm};
+
+} // namespace tarsil
