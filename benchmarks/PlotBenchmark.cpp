@@ -83,7 +83,7 @@ void measurePicture(EvmPlot& plot)
     printRow("picture of 100 modes x 1000 points, 1600x1200, with axes and texts",
              "one drawPolyline per curve", bestOfTurns(turns, drawPlot, reference), "<= 3");
     const auto onScreen = [&] {
-        plot.SetScale(plot.GetScale()); // everything is drawn anew
+        plot.setAxes(plot.axes()); // everything is drawn anew
         plot.Image();
     };
     printRow("the same on the screen's own surfaces, composed", "one drawPolyline per curve",

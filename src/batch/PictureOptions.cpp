@@ -30,7 +30,7 @@ std::int16_t countOf(std::string_view text, int most, std::string_view option)
     return count;
 }
 
-std::optional<EvmPlot::Scale> scaleOf(const CommandLine& line)
+std::optional<PlotBounds> boundsOf(const CommandLine& line)
 {
     const auto text = line.value("--scale");
     if (!text)
@@ -38,10 +38,10 @@ std::optional<EvmPlot::Scale> scaleOf(const CommandLine& line)
     const std::vector<float> ends = singlesOf(*text, 6, "--scale");
     if (ends[0] == ends[1] || ends[2] == ends[3] || ends[4] == ends[5])
         throw UsageError("--scale: the two ends of an axis are the same");
-    return EvmPlot::Scale {ends[0], ends[1], ends[2], ends[3], ends[4], ends[5]};
+    return PlotBounds {ends[0], ends[1], ends[2], ends[3], ends[4], ends[5]};
 }
 
-std::optional<EvmPlot::Thicks> ticksOf(const CommandLine& line)
+std::optional<PlotTicks> ticksOf(const CommandLine& line)
 {
     const auto text = line.value("--ticks");
     if (!text)
@@ -49,10 +49,9 @@ std::optional<EvmPlot::Thicks> ticksOf(const CommandLine& line)
     const auto pieces = split(*text, ',');
     if (pieces.size() != 3)
         throw wrongValue("--ticks", *text, "three numbers separated by commas");
-    EvmPlot::Thicks ticks;
-    ticks.v = countOf(pieces[0], mostTicks, "--ticks");
-    ticks.g = countOf(pieces[1], mostTicks, "--ticks");
-    ticks.f = countOf(pieces[2], mostTicks, "--ticks");
+    PlotTicks ticks {};
+    for (std::size_t i = 0; i < ticks.size(); ++i)
+        ticks[i] = countOf(pieces[i], mostTicks, "--ticks");
     return ticks;
 }
 
@@ -144,7 +143,7 @@ PictureOptions pictureOptionsOf(const CommandLine& line)
     options.size = sizeOf(line, options.size);
     if (const auto list = line.value("--modes"))
         options.modes = modeListOf(*list);
-    options.scale = scaleOf(line);
+    options.bounds = boundsOf(line);
     options.ticks = ticksOf(line);
     options.header = line.value("--header");
     options.legend = line.value("--legend");

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "batch/ModeList.h"
-#include "vgfplot/EvmPlot.h"
+#include "model/PlotAxes.h"
 #include "vgfplot/EvolutionPlotter.h"
 
 #include <QSize>
@@ -31,8 +31,8 @@ struct PictureOptions
     std::optional<std::string> plot; ///< of a workspace; all of them when missing
     QSize size {1000, 750}; ///< pixels at 96 per inch
     std::optional<ModeList> modes;
-    std::optional<EvmPlot::Scale> scale; ///< fitted to the data, or the workspace's, when missing
-    std::optional<EvmPlot::Thicks> ticks;
+    std::optional<PlotBounds> bounds; ///< fitted to the data, or the workspace's, when missing
+    std::optional<PlotTicks> ticks;
     // Texts as given: Rich Text Format, or "\n" for a line break. A missing one leaves its box.
     std::optional<std::string> header;
     std::optional<std::string> legend;

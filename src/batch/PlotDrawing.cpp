@@ -4,6 +4,7 @@
 #include "batch/CommandLine.h"
 #include "batch/PictureOptions.h"
 #include "rtf/RtfReader.h"
+#include "vgfplot/EvmPlot.h"
 #include "vgfplot/PictureWriter.h"
 #include "vgfplot/ScaleFit.h"
 
@@ -14,16 +15,17 @@ namespace tarsil::batch {
 
 namespace {
 
-/// As many ticks as make them fall on round numbers between two ends, if there are such.
-std::int16_t roundTicks(float from, float to, Steps steps, std::int16_t otherwise)
+/// Gives an axis as many ticks as make them fall on round numbers, or the usual number of them
+/// where there are no such.
+void roundTicks(AxisValues& axis, Steps steps, std::int16_t usual)
 {
-    const double low = std::min(from, to);
-    const double high = std::max(from, to);
+    const double low = std::min(axis.min, axis.max);
+    const double high = std::max(axis.min, axis.max);
     const RoundRange range = roundRange(low, high, steps);
     const double tolerance = 1e-5 * (high - low);
     const bool fits =
         std::fabs(range.low - low) < tolerance && std::fabs(range.high - high) < tolerance;
-    return fits ? static_cast<std::int16_t>(range.steps) : otherwise;
+    axis.ticks = fits ? static_cast<std::int16_t>(range.steps) : usual;
 }
 
 /// Text in Rich Text Format keeps its fonts and colours; in other text "\n" is a line break.
@@ -47,19 +49,17 @@ bool endsIn(std::string_view path, std::string_view extension)
 
 void setScale(EvmPlot& plot, const PictureOptions& options)
 {
-    if (options.scale) {
-        const EvmPlot::Scale& scale = *options.scale;
-        const EvmPlot::Thicks usual;
-        plot.SetScale(scale);
-        plot.setVthicks(roundTicks(scale.vmin, scale.vmax, Steps::Whole, usual.v));
-        plot.setFthicks(roundTicks(scale.fmin, scale.fmax, Steps::Any, usual.f));
-        plot.setGthicks(roundTicks(scale.gmin, scale.gmax, Steps::Any, usual.g));
+    PlotAxes axes = plot.axes();
+    if (options.bounds) {
+        const PlotAxes usual;
+        axes.setBounds(*options.bounds);
+        roundTicks(axes.speed, Steps::Whole, usual.speed.ticks);
+        roundTicks(axes.frequency, Steps::Any, usual.frequency.ticks);
+        roundTicks(axes.damping, Steps::Any, usual.damping.ticks);
     }
-    if (options.ticks) {
-        plot.setVthicks(options.ticks->v);
-        plot.setFthicks(options.ticks->f);
-        plot.setGthicks(options.ticks->g);
-    }
+    if (options.ticks)
+        axes.setTicks(*options.ticks);
+    plot.setAxes(axes);
 }
 
 void setTexts(EvmPlot& plot, const PictureOptions& options)

@@ -97,11 +97,11 @@ void writeText(JsonWriter& json, std::string_view name, const TextRecord& box)
     json.endObject();
 }
 
-void writeAxis(JsonWriter& json, std::string_view name, const AxisRecord& axis)
+void writeAxis(JsonWriter& json, std::string_view name, const AxisValues& axis)
 {
     json.key(name);
     json.beginObject();
-    json.text("label", axis.label);
+    json.text("label", axis.title);
     json.number("min", axis.min);
     json.number("max", axis.max);
     json.number("ticks", std::to_string(axis.ticks));
@@ -147,9 +147,9 @@ void writePlot(JsonWriter& json, const PlotRecord& plot)
     writeText(json, "header", plot.header);
     writeText(json, "legend", plot.legend);
     writeText(json, "mechanism", plot.mechanism);
-    writeAxis(json, "speed_axis", plot.velAxis);
-    writeAxis(json, "frequency_axis", plot.freqAxis);
-    writeAxis(json, "damping_axis", plot.gAxis);
+    writeAxis(json, "speed_axis", plot.axes.speed);
+    writeAxis(json, "frequency_axis", plot.axes.frequency);
+    writeAxis(json, "damping_axis", plot.axes.damping);
     json.key("series");
     json.beginArray();
     for (const SeriesRecord& series : plot.series)
@@ -197,9 +197,9 @@ void writeReference(JsonWriter& json, std::int16_t reference)
         json.null();
 }
 
-std::string axisText(const AxisRecord& axis)
+std::string axisText(const AxisValues& axis)
 {
-    return axis.label + " from " + shortestText(axis.min) + " to " + shortestText(axis.max) + ", "
+    return axis.title + " from " + shortestText(axis.min) + " to " + shortestText(axis.max) + ", "
         + std::to_string(axis.ticks) + (axis.ticks == 1 ? " tick" : " ticks");
 }
 
@@ -259,9 +259,9 @@ void printPlot(const PlotRecord& plot, std::size_t number, std::ostream& out)
     printLine(out, "header", charactersOf(richTextOf(plot.header)));
     printLine(out, "legend", charactersOf(richTextOf(plot.legend)));
     printLine(out, "mechanism", charactersOf(richTextOf(plot.mechanism)));
-    printLine(out, "speed axis", axisText(plot.velAxis));
-    printLine(out, "frequency axis", axisText(plot.freqAxis));
-    printLine(out, "damping axis", axisText(plot.gAxis));
+    printLine(out, "speed axis", axisText(plot.axes.speed));
+    printLine(out, "frequency axis", axisText(plot.axes.frequency));
+    printLine(out, "damping axis", axisText(plot.axes.damping));
     printMarks(plot.referenceSpeeds, "reference speed", out);
     printMarks(plot.dampingLines, "damping line", out);
     printSeries(plot.series, out);

@@ -83,15 +83,14 @@ void showMechanism(EvmPlot& plot, const AirplaneInfo& airplane, const QString& s
         throw RunTimeError(ErrorNumber::InvalidProcedureCall, std::string(module),
                            "no flutter mechanism \"" + shortName.toStdString() + "\" in \""
                                + shownPath(airplane.Filename) + "\"");
-    const std::int16_t vthicks = ticks(found->vthick, *found, "speed");
-    const std::int16_t gthicks = ticks(found->gthick, *found, "damping");
-    const std::int16_t fthicks = ticks(found->fthick, *found, "frequency");
+    PlotAxes axes = plot.axes();
+    axes.setBounds({found->vmin, found->vmax, found->fmin, found->fmax, found->gmin, found->gmax});
+    axes.speed.ticks = ticks(found->vthick, *found, "speed");
+    axes.damping.ticks = ticks(found->gthick, *found, "damping");
+    axes.frequency.ticks = ticks(found->fthick, *found, "frequency");
     plot.setBoxText(mechanismBox,
                     QString::fromStdString(withLongName ? found->LongName : found->ShortName));
-    plot.SetScale(found->vmin, found->vmax, found->fmin, found->fmax, found->gmin, found->gmax);
-    plot.setVthicks(vthicks);
-    plot.setGthicks(gthicks);
-    plot.setFthicks(fthicks);
+    plot.setAxes(axes);
 }
 
 /// The lines are looked for one behind the other, so that two that are alike get their own colours.

@@ -155,7 +155,7 @@ void wndEvolExplorer::emptyPlots()
         m_plotWindow.RemovePlot(plots[i]);
     EvmPlot fresh;
     fresh.setCaption(QStringLiteral("Plot1"));
-    m_plotWindow.newPlotDefaults().applyTo(fresh);
+    fresh.setAxes(m_plotWindow.newPlotAxes());
     first.Clone(fresh);
     first.RemoveRef();
     run([&first] { first.RemoveDampLine(); }); // draws as well

@@ -11,6 +11,7 @@
 #include "options/ListInput.h"
 #include "plotwindow/InputWarning.h"
 #include "plotwindow/WndEvolPlot.h"
+#include "vgfplot/EvmPlot.h"
 
 #include <algorithm>
 #include <functional>
@@ -23,7 +24,7 @@ namespace {
 constexpr std::string_view moduleName = "dlgOptions";
 constexpr std::string_view aircraftFilter =
     "Aircraft information data file (*.inp)|*.inp|All Files (*.*)|*.*|";
-constexpr std::size_t firstThick = 6; ///< in the entries
+constexpr std::size_t firstTicks = 6; ///< in the entries
 
 std::int16_t countOf(float number, std::string_view where = {})
 {
@@ -97,7 +98,7 @@ void dlgOptions::UpDateOpt()
             countOf(thicks[i], m_thicksInput->nameOf(i)); // refuses what no axis can take
     });
     std::copy(scale.begin(), scale.end(), m_entries.begin());
-    std::copy(thicks.begin(), thicks.end(), m_entries.begin() + firstThick);
+    std::copy(thicks.begin(), thicks.end(), m_entries.begin() + firstTicks);
 }
 
 bool dlgOptions::ApplyOpt()
@@ -124,20 +125,17 @@ void dlgOptions::readAircraftFile()
 /// reported, and the options are in force all the same.
 void dlgOptions::applyAxes()
 {
-    NewPlotDefaults given;
-    if (m_scaleInput->fits())
-        given.scale = scale();
-    if (m_thicksInput->fits())
-        given.thicks = thicks();
-    NewPlotDefaults defaults = m_plots.newPlotDefaults();
-    if (given.scale || m_scaleInput->isEmpty())
-        defaults.scale = given.scale;
-    if (given.thicks || m_thicksInput->isEmpty())
-        defaults.thicks = given.thicks;
-    m_plots.setNewPlotDefaults(defaults);
+    PlotAxes ofNewPlots = m_plots.newPlotAxes();
+    if (m_scaleInput->isEmpty())
+        ofNewPlots.setBounds(PlotAxes().bounds());
+    if (m_thicksInput->isEmpty())
+        ofNewPlots.setTicks(PlotAxes().ticks());
+    m_plots.setNewPlotAxes(withEntries(ofNewPlots));
+    if (!m_scaleInput->fits() && !m_thicksInput->fits())
+        return;
     EvmPlot& plot = vgfPlot();
-    given.applyTo(plot);
-    if (plot.Visible() && (given.scale || given.thicks))
+    plot.setAxes(withEntries(plot.axes()));
+    if (plot.Visible())
         guarded(m_user, moduleName, [&plot] { plot.plot(); });
 }
 
@@ -147,22 +145,15 @@ EvmPlot& dlgOptions::vgfPlot() const
     return active != nullptr ? *active : *m_plots.plots().front();
 }
 
-EvmPlot::Scale dlgOptions::scale() const
+/// The axes with the numbers of those lists that fit.
+PlotAxes dlgOptions::withEntries(PlotAxes axes) const
 {
-    EvmPlot::Scale scale;
-    scale.vmin = m_entries[0];
-    scale.vmax = m_entries[1];
-    scale.gmin = m_entries[2];
-    scale.gmax = m_entries[3];
-    scale.fmin = m_entries[4];
-    scale.fmax = m_entries[5];
-    return scale;
-}
-
-EvmPlot::Thicks dlgOptions::thicks() const
-{
-    return {countOf(m_entries[firstThick]), countOf(m_entries[firstThick + 1]),
-            countOf(m_entries[firstThick + 2])};
+    const auto& [vmin, vmax, gmin, gmax, fmin, fmax, v, g, f] = m_entries;
+    if (m_scaleInput->fits())
+        axes.setBounds({vmin, vmax, fmin, fmax, gmin, gmax});
+    if (m_thicksInput->fits())
+        axes.setTicks({countOf(v), countOf(g), countOf(f)});
+    return axes;
 }
 
 /// The file may have come or gone since the dialog was hidden.

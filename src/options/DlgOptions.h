@@ -1,7 +1,7 @@
 #pragma once
 
+#include "model/PlotAxes.h"
 #include "options/OptionsStore.h"
-#include "vgfplot/EvmPlot.h"
 
 #include <QDialog>
 
@@ -11,6 +11,7 @@
 namespace tarsil {
 
 class AirplaneInfo;
+class EvmPlot;
 class ListInput;
 class InputWarning;
 class UserInterface;
@@ -77,8 +78,7 @@ private:
     void showWhetherFileIsThere();
     OptionTexts textsToKeep() const;
     EvmPlot& vgfPlot() const;
-    EvmPlot::Scale scale() const;
-    EvmPlot::Thicks thicks() const;
+    PlotAxes withEntries(PlotAxes axes) const;
 
     std::unique_ptr<Ui::dlgOptions> m_ui;
     AirplaneInfo& m_airplaneInfo;

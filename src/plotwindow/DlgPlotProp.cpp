@@ -45,16 +45,16 @@ dlgPlotProp::~dlgPlotProp() = default;
 
 void dlgPlotProp::Form_Load()
 {
-    const EvmPlot::Scale scale = m_plot.GetScale();
-    m_ui->inpVmin->setText(textOf(scale.vmin));
-    m_ui->inpVmax->setText(textOf(scale.vmax));
-    m_ui->inpFmin->setText(textOf(scale.fmin));
-    m_ui->inpFmax->setText(textOf(scale.fmax));
-    m_ui->inpGmin->setText(textOf(scale.gmin));
-    m_ui->inpGmax->setText(textOf(scale.gmax));
-    m_ui->inpVnthicks->setText(QString::number(m_plot.vthicks()));
-    m_ui->inpGnthicks->setText(QString::number(m_plot.gthicks()));
-    m_ui->inpFnthicks->setText(QString::number(m_plot.fthicks()));
+    const PlotAxes axes = m_plot.axes();
+    m_ui->inpVmin->setText(textOf(axes.speed.min));
+    m_ui->inpVmax->setText(textOf(axes.speed.max));
+    m_ui->inpFmin->setText(textOf(axes.frequency.min));
+    m_ui->inpFmax->setText(textOf(axes.frequency.max));
+    m_ui->inpGmin->setText(textOf(axes.damping.min));
+    m_ui->inpGmax->setText(textOf(axes.damping.max));
+    m_ui->inpVnthicks->setText(QString::number(axes.speed.ticks));
+    m_ui->inpGnthicks->setText(QString::number(axes.damping.ticks));
+    m_ui->inpFnthicks->setText(QString::number(axes.frequency.ticks));
     m_ui->inpVlabel->setText(m_plot.vLabel());
     m_ui->inpGlabel->setText(m_plot.gLabel());
     m_ui->inpFlabel->setText(m_plot.fLabel());
@@ -74,14 +74,12 @@ void dlgPlotProp::OKButton_Click()
 /// tick count, the titles. No range is checked.
 void dlgPlotProp::applyInputs()
 {
-    EvmPlot::Scale scale;
-    scale.vmin = numberIn(*m_ui->inpVmin);
-    scale.vmax = numberIn(*m_ui->inpVmax);
-    scale.fmin = numberIn(*m_ui->inpFmin);
-    scale.fmax = numberIn(*m_ui->inpFmax);
-    scale.gmin = numberIn(*m_ui->inpGmin);
-    scale.gmax = numberIn(*m_ui->inpGmax);
-    m_plot.SetScale(scale);
+    const PlotBounds bounds {numberIn(*m_ui->inpVmin), numberIn(*m_ui->inpVmax),
+                             numberIn(*m_ui->inpFmin), numberIn(*m_ui->inpFmax),
+                             numberIn(*m_ui->inpGmin), numberIn(*m_ui->inpGmax)};
+    PlotAxes axes = m_plot.axes();
+    axes.setBounds(bounds);
+    m_plot.setAxes(axes);
     m_plot.setVthicks(countIn(*m_ui->inpVnthicks));
     m_plot.setGthicks(countIn(*m_ui->inpGnthicks));
     m_plot.setFthicks(countIn(*m_ui->inpFnthicks));

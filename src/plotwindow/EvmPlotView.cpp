@@ -282,17 +282,17 @@ void EvmPlotView::letGo()
 /// The titles and numbers are filled in at once: a title may hold what looks like a place for one.
 void EvmPlotView::updateDescription()
 {
-    const EvmPlot::Scale scale = m_plot.GetScale();
-    const auto axis = [](const QString& text, const QString& title, float from, float to) {
-        return text.arg(title, QString::fromStdString(shortestText(from)),
-                        QString::fromStdString(shortestText(to)));
+    const PlotAxes axes = m_plot.axes();
+    const auto description = [](const QString& text, const AxisValues& axis) {
+        return text.arg(QString::fromStdString(axis.title),
+                        QString::fromStdString(shortestText(axis.min)),
+                        QString::fromStdString(shortestText(axis.max)));
     };
     setAccessibleName(tr("V-g-f plot %1").arg(m_plot.Caption()));
-    setAccessibleDescription(
-        tr("%1 curves; ").arg(m_plot.SeriesCollection().size())
-        + axis(tr("speed axis %1 from %2 to %3, "), m_plot.vLabel(), scale.vmin, scale.vmax)
-        + axis(tr("frequency axis %1 from %2 to %3, "), m_plot.fLabel(), scale.fmin, scale.fmax)
-        + axis(tr("damping axis %1 from %2 to %3"), m_plot.gLabel(), scale.gmin, scale.gmax));
+    setAccessibleDescription(tr("%1 curves; ").arg(m_plot.SeriesCollection().size())
+                             + description(tr("speed axis %1 from %2 to %3, "), axes.speed)
+                             + description(tr("frequency axis %1 from %2 to %3, "), axes.frequency)
+                             + description(tr("damping axis %1 from %2 to %3"), axes.damping));
 }
 
 } // namespace tarsil

@@ -23,17 +23,6 @@ QString placeText(int index)
 
 } // namespace
 
-void NewPlotDefaults::applyTo(EvmPlot& plot) const
-{
-    if (scale)
-        plot.SetScale(*scale);
-    if (!thicks)
-        return;
-    plot.setVthicks(thicks->v);
-    plot.setGthicks(thicks->g);
-    plot.setFthicks(thicks->f);
-}
-
 wndEvolPlot::wndEvolPlot(UserInterface& user, QWidget* parent) : QWidget(parent), m_user(user)
 {
     setObjectName(QStringLiteral("wndEvolPlot"));
@@ -101,7 +90,7 @@ EvmPlot& wndEvolPlot::AddPlot(const QString& caption)
     Element element = makeElement(nextIndex());
     const QString standard = QStringLiteral("Plot") + placeText(element.index);
     element.plot->setCaption(caption.isEmpty() ? standard : caption);
-    m_newPlotDefaults.applyTo(*element.plot);
+    element.plot->setAxes(m_newPlotAxes);
     return append(std::move(element));
 }
 

@@ -2,6 +2,7 @@
 
 #include "base/user/RunTimeError.h"
 #include "base/user/UserInterface.h"
+#include "model/PlotAxes.h"
 #include "vgfplot/EvmPlot.h"
 
 #include <QWidget>
@@ -13,16 +14,6 @@
 namespace tarsil {
 
 class EvmPlotView;
-
-/// The axes that a new plot begins with; what is absent is as `EvmPlot` makes it.
-struct NewPlotDefaults
-{
-    std::optional<EvmPlot::Scale> scale;
-    std::optional<EvmPlot::Thicks> thicks;
-
-    /// Gives a plot what is there.
-    void applyTo(EvmPlot& plot) const;
-};
 
 /// The window of the V-g-f plots. It owns them as an array that begins with element 0, "Plot1",
 /// which is always there. At most one plot is active: it is the only visible one, fills the window,
@@ -39,9 +30,10 @@ public:
 
     QSize sizeHint() const override;
 
-    /// For plots that are made anew from now on; those that are there, and copies, keep their own.
-    void setNewPlotDefaults(const NewPlotDefaults& defaults) { m_newPlotDefaults = defaults; }
-    const NewPlotDefaults& newPlotDefaults() const { return m_newPlotDefaults; }
+    /// The axes of plots that are made anew from now on; those that are there, and copies, keep
+    /// their own.
+    void setNewPlotAxes(const PlotAxes& axes) { m_newPlotAxes = axes; }
+    const PlotAxes& newPlotAxes() const { return m_newPlotAxes; }
 
     /// For series that `AddSerie` adds from now on.
     void setNewSeriesMarkers(const MarkerOptions& markers) { m_newSeriesMarkers = markers; }
@@ -54,7 +46,7 @@ public:
     void ActivatePlot(EvmPlot* plot);
 
     /// Appends a plot with the index after the highest one in use and does not activate it. It has
-    /// the axes of `newPlotDefaults`. An empty caption becomes "Plot" and the plot's place, its
+    /// the axes of `newPlotAxes`. An empty caption becomes "Plot" and the plot's place, its
     /// index counted from 1: "Plot2". Error 6 "Overflow" for an index above 32767.
     EvmPlot& AddPlot(const QString& caption);
 
@@ -121,7 +113,7 @@ private:
     UserInterface& m_user;
     std::vector<Element> evpVgf; ///< by increasing index
     EvmPlot* m_activePlot = nullptr;
-    NewPlotDefaults m_newPlotDefaults;
+    PlotAxes m_newPlotAxes;
     std::optional<MarkerOptions> m_newSeriesMarkers;
 };
 

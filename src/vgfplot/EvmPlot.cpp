@@ -45,6 +45,13 @@ std::optional<Range> visibleFrequencies(const SeriesList& series, float vmin, fl
     return range;
 }
 
+/// What a person reads in the bounds: -0.35, and not the -0.34999999 of the single.
+void setRange(PlotAxis& axis, float min, float max)
+{
+    axis.setMin(decimalValue(min));
+    axis.setMax(decimalValue(max));
+}
+
 } // namespace
 
 EvmPlot::EvmPlot() : m_vgPlot(*this), m_vfPlot(*this)
@@ -60,7 +67,7 @@ EvmPlot::EvmPlot() : m_vgPlot(*this), m_vfPlot(*this)
     ertbTexts[1].setPrompt(QStringLiteral("Insert Legend"));
     ertbTexts[2].setPrompt(QStringLiteral("Insert Subtitle"));
     ReadProperties({});
-    SetScale(Scale());
+    setBounds(PlotAxes().bounds());
     resize(QSize(800, 600));
     followRows();
 }
@@ -101,9 +108,9 @@ void EvmPlot::SerieMove(std::size_t from, std::size_t to, std::size_t count)
 
 void EvmPlot::fitFreq()
 {
-    const Scale scale = GetScale();
+    PlotAxes axes = this->axes();
     const std::optional<Range> range =
-        visibleFrequencies(SeriesCollection(), scale.vmin, scale.vmax);
+        visibleFrequencies(SeriesCollection(), axes.speed.min, axes.speed.max);
     if (!range)
         return;
     double fmin = std::nearbyint(static_cast<double>(range->smallest) * 0.95);
@@ -114,8 +121,9 @@ void EvmPlot::fitFreq()
     }
     if (fmin == fmax)
         return;
-    SetScale(scale.vmin, scale.vmax, static_cast<float>(fmin), static_cast<float>(fmax), scale.gmin,
-             scale.gmax);
+    axes.frequency.min = static_cast<float>(fmin);
+    axes.frequency.max = static_cast<float>(fmax);
+    setBounds(axes.bounds());
 }
 
 void EvmPlot::plot()
@@ -134,11 +142,25 @@ void EvmPlot::Cls()
     Q_EMIT changed();
 }
 
-EvmPlot::Scale EvmPlot::GetScale() const
+PlotAxes EvmPlot::axes() const
 {
-    Scale scale;
-    GetScale(scale.vmin, scale.vmax, scale.fmin, scale.fmax, scale.gmin, scale.gmax);
-    return scale;
+    const auto valuesOf = [](const PlotAxis& axis, const trspLabel& label) {
+        return AxisValues {label.Caption().toStdString(), static_cast<float>(axis.Min()),
+                           static_cast<float>(axis.Max()), axis.nThick()};
+    };
+    return {valuesOf(m_velAxis, m_velAxisLabel), valuesOf(m_freqAxis, m_freqAxislabel),
+            valuesOf(m_gAxis, m_gAxisLabel)};
+}
+
+void EvmPlot::setAxes(const PlotAxes& axes)
+{
+    setVLabel(QString::fromStdString(axes.speed.title));
+    setGLabel(QString::fromStdString(axes.damping.title));
+    setFLabel(QString::fromStdString(axes.frequency.title));
+    setVthicks(axes.speed.ticks);
+    setGthicks(axes.damping.ticks);
+    setFthicks(axes.frequency.ticks);
+    setBounds(axes.bounds());
 }
 
 void EvmPlot::GetScale(float& vmin, float& vmax, float& fmin, float& fmax, float& gmin,
@@ -152,30 +174,21 @@ void EvmPlot::GetScale(float& vmin, float& vmax, float& fmin, float& fmax, float
     gmax = static_cast<float>(m_gAxis.Max());
 }
 
-void EvmPlot::SetScale(const Scale& scale)
-{
-    // What a person reads in the bounds: -0.35, and not the -0.34999999 of the single.
-    const double vmin = decimalValue(scale.vmin);
-    const double vmax = decimalValue(scale.vmax);
-    const double fmin = decimalValue(scale.fmin);
-    const double fmax = decimalValue(scale.fmax);
-    const double gmin = decimalValue(scale.gmin);
-    const double gmax = decimalValue(scale.gmax);
-    m_velAxis.setMin(vmin);
-    m_velAxis.setMax(vmax);
-    m_freqAxis.setMin(fmin);
-    m_freqAxis.setMax(fmax);
-    m_gAxis.setMin(gmin);
-    m_gAxis.setMax(gmax);
-    // The V-g canvas spans both halves; its lower half agrees with the damping axis.
-    m_vgPlot.SetScale(vmin, 2 * gmin - gmax, vmax, gmax);
-    m_vfPlot.SetScale(vmin, fmax, vmax, fmin);
-    invalidate();
-}
-
 void EvmPlot::SetScale(float vmin, float vmax, float fmin, float fmax, float gmin, float gmax)
 {
-    SetScale(Scale {vmin, vmax, fmin, fmax, gmin, gmax});
+    setBounds({vmin, vmax, fmin, fmax, gmin, gmax});
+}
+
+void EvmPlot::setBounds(const PlotBounds& bounds)
+{
+    setRange(m_velAxis, bounds[0], bounds[1]);
+    setRange(m_freqAxis, bounds[2], bounds[3]);
+    setRange(m_gAxis, bounds[4], bounds[5]);
+    // The V-g canvas spans both halves; its lower half agrees with the damping axis.
+    m_vgPlot.SetScale(m_velAxis.Min(), 2 * m_gAxis.Min() - m_gAxis.Max(), m_velAxis.Max(),
+                      m_gAxis.Max());
+    m_vfPlot.SetScale(m_velAxis.Min(), m_freqAxis.Max(), m_velAxis.Max(), m_freqAxis.Min());
+    invalidate();
 }
 
 void EvmPlot::setModeColor(int value)
@@ -281,8 +294,8 @@ void EvmPlot::AddDampLine(float g, const QString& caption)
 
 void EvmPlot::appendDampLine(float g, const QString& caption)
 {
-    const Scale scale = GetScale();
-    m_vgPlot.AddLine(scale.vmin, g, scale.vmax, g, caption, black, penstyle::solid);
+    const AxisValues speed = axes().speed;
+    m_vgPlot.AddLine(speed.min, g, speed.max, g, caption, black, penstyle::solid);
 }
 
 void EvmPlot::RemoveDampLine()
@@ -320,26 +333,28 @@ void EvmPlot::Clone(const EvmPlot& source)
         ertbTexts[i].Clone(source.ertbTexts[i]);
     m_headerTop = source.m_headerTop;
     ReadProperties(source.WriteProperties());
-    SetScale(source.GetScale());
+    setBounds(source.axes().bounds());
 }
 
 void EvmPlot::ReadProperties(const PropertyBag& bag)
 {
-    const auto thicks = [&bag](const QString& key, int defaultValue) {
-        return static_cast<std::int16_t>(readProperty(bag, key, defaultValue));
+    const auto thicks = [&bag](const QString& key, std::int16_t usual) {
+        return static_cast<std::int16_t>(readProperty<int>(bag, key, usual));
     };
+    const auto title = [&bag](const QString& key, const std::string& usual) {
+        return readProperty(bag, key, QString::fromStdString(usual));
+    };
+    const PlotAxes usual;
     m_caption = readProperty(bag, QStringLiteral("Caption"), QStringLiteral("Plot1"));
     m_modeColor = readProperty(bag, QStringLiteral("ModeColor"), 0);
     m_vgPlot.setModeColor(m_modeColor);
     m_vfPlot.setModeColor(m_modeColor);
-    m_velAxis.setNThick(thicks(QStringLiteral("vThicks"), 7));
-    m_gAxis.setNThick(thicks(QStringLiteral("gThicks"), 5));
-    m_freqAxis.setNThick(thicks(QStringLiteral("fThicks"), 5));
-    m_velAxisLabel.setCaption(
-        readProperty(bag, QStringLiteral("vLabel"), QStringLiteral("V(keas)")));
-    m_gAxisLabel.setCaption(readProperty(bag, QStringLiteral("gLabel"), QStringLiteral("g")));
-    m_freqAxislabel.setCaption(
-        readProperty(bag, QStringLiteral("fLabel"), QStringLiteral("f(Hz)")));
+    m_velAxis.setNThick(thicks(QStringLiteral("vThicks"), usual.speed.ticks));
+    m_gAxis.setNThick(thicks(QStringLiteral("gThicks"), usual.damping.ticks));
+    m_freqAxis.setNThick(thicks(QStringLiteral("fThicks"), usual.frequency.ticks));
+    m_velAxisLabel.setCaption(title(QStringLiteral("vLabel"), usual.speed.title));
+    m_gAxisLabel.setCaption(title(QStringLiteral("gLabel"), usual.damping.title));
+    m_freqAxislabel.setCaption(title(QStringLiteral("fLabel"), usual.frequency.title));
     refresh();
 }
 

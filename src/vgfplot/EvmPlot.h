@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/PlotAxes.h"
 #include "plot/EmfRichTextBox.h"
 #include "plot/TrspLabel.h"
 #include "plot/UcPlot.h"
@@ -36,28 +37,6 @@ public:
     EvmPlot();
     ~EvmPlot() override;
 
-    /// Bounds of the axes: `gmin` is the damping at the speed axis, `gmax` the one at the lower
-    /// end.
-    struct Scale
-    {
-        float vmin = 0;
-        float vmax = 700;
-        float fmin = 0;
-        float fmax = 50;
-        float gmin = 0;
-        float gmax = -0.25F;
-
-        bool operator==(const Scale&) const = default;
-    };
-
-    /// Number of intervals of each axis.
-    struct Thicks
-    {
-        std::int16_t v = 7;
-        std::int16_t g = 5;
-        std::int16_t f = 5;
-    };
-
     emfRichTextBox& Header() { return ertbTexts[0]; }
     emfRichTextBox& Legend() { return ertbTexts[1]; }
     emfRichTextBox& Mechanism() { return ertbTexts[2]; }
@@ -91,11 +70,13 @@ public:
     /// Empties both canvases; they stay so until `plot` or a change of the rows.
     void Cls();
 
-    Scale GetScale() const;
+    /// The axes as they are. `SetScale` and the properties below set parts of them.
+    PlotAxes axes() const;
+    void setAxes(const PlotAxes& axes);
+
     void GetScale(float& vmin, float& vmax, float& fmin, float& fmax, float& gmin,
                   float& gmax) const;
     void SetScale(float vmin, float vmax, float fmin, float fmax, float gmin, float gmax);
-    void SetScale(const Scale& scale);
 
     int ModeColor() const { return m_modeColor; }
     void setModeColor(int value);
@@ -218,6 +199,7 @@ Q_SIGNALS:
 
 private:
     void WriteEmfPicture(const QString& fileName);
+    void setBounds(const PlotBounds& bounds);
     void layOut();
     void layOutCanvases();
     void layOutTitles();

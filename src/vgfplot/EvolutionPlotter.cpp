@@ -99,13 +99,14 @@ void addCurves(EvmPlot& plot, const EvolutionCurves& curves, const CurveMarkers&
     plot.rows().add(std::move(added));
 }
 
+/// The titles of the axes stay.
 void fitScales(EvmPlot& plot)
 {
-    const FittedAxes axes = fitAxes(plot.SeriesCollection());
-    plot.SetScale(axes.scale);
-    plot.setVthicks(axes.thicks.v);
-    plot.setGthicks(axes.thicks.g);
-    plot.setFthicks(axes.thicks.f);
+    const PlotAxes fitted = fitAxes(plot.SeriesCollection());
+    PlotAxes axes = plot.axes();
+    axes.setBounds(fitted.bounds());
+    axes.setTicks(fitted.ticks());
+    plot.setAxes(axes);
 }
 
 void fillTexts(EvmPlot& plot, const Evolutions& evolutions)
@@ -134,7 +135,8 @@ EvolutionCurves allCurvesOf(EVM& evolution)
 std::size_t plotCurves(EvmPlot& plot, const std::vector<EvolutionCurves>& files,
                        const CurveMarkers& markers)
 {
-    const bool isNew = plot.SeriesCollection().empty() && plot.GetScale() == EvmPlot::Scale();
+    const bool isNew =
+        plot.SeriesCollection().empty() && plot.axes().bounds() == PlotAxes().bounds();
     std::size_t file = fileCount(plot.SeriesCollection());
     Evolutions drawn;
     for (const EvolutionCurves& curves : files) {

@@ -177,18 +177,19 @@ QString curveText(const CurveReading& curve)
 
 std::optional<PlotReading> readAt(const EvmPlot& plot, QPoint pixel)
 {
-    const EvmPlot::Scale scale = plot.GetScale();
-    const bool hasEqualBounds =
-        scale.vmin == scale.vmax || scale.fmin == scale.fmax || scale.gmin == scale.gmax;
+    const PlotAxes axes = plot.axes();
+    const bool hasEqualBounds = axes.speed.min == axes.speed.max
+        || axes.frequency.min == axes.frequency.max || axes.damping.min == axes.damping.max;
     if (hasEqualBounds || !plot.vgPlot().geometry().contains(pixel))
         return std::nullopt;
     // `position`: a part of the way between two bounds, as a person reads them on the axes.
-    const auto valueAt = [](float low, float high, double position) {
-        return decimalValue(low) + position * (decimalValue(high) - decimalValue(low));
+    const auto valueAt = [](const AxisValues& axis, double position) {
+        const double first = decimalValue(axis.min);
+        return first + position * (decimalValue(axis.max) - first);
     };
     const auto speedAt = [&](int column) {
         const double width = plot.vgPlot().Width();
-        return valueAt(scale.vmin, scale.vmax, (column - plot.vgPlot().Left()) / width);
+        return valueAt(axes.speed, (column - plot.vgPlot().Left()) / width);
     };
     const double half = plot.vfPlot().Height();
     const double row = pixel.y() - plot.vfPlot().Top() - half;
@@ -196,10 +197,10 @@ std::optional<PlotReading> readAt(const EvmPlot& plot, QPoint pixel)
     PlotReading reading;
     reading.speed = speedAt(pixel.x());
     if (row < 0) {
-        reading.value = valueAt(scale.fmin, scale.fmax, -row / half);
+        reading.value = valueAt(axes.frequency, -row / half);
     } else {
         reading.ordinate = PlotReading::Ordinate::Damping;
-        reading.value = valueAt(scale.gmin, scale.gmax, row / half);
+        reading.value = valueAt(axes.damping, row / half);
     }
     // One pixel more, since the canvas draws on whole pixels.
     const auto [low, high] =

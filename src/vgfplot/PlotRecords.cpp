@@ -22,11 +22,6 @@ TextRecord recordOf(const emfRichTextBox& box)
     return {box.TextRTF(), BoxPosition {box.unitsLeft(), box.unitsTop()}};
 }
 
-AxisRecord axisRecord(const QString& label, float min, float max, std::int16_t ticks)
-{
-    return {label.toStdString(), min, max, ticks};
-}
-
 /// The place from 1 of a thing in a list; 0 when it is not there.
 template <typename List, typename Thing>
 std::int16_t placeIn(const List& list, const Thing* thing)
@@ -167,10 +162,7 @@ PlotRecord recordOf(const EvmPlot& plot, const std::vector<const EVM*>& evolutio
     record.header = recordOf(plot.box(header));
     record.legend = recordOf(plot.box(legend));
     record.mechanism = recordOf(plot.box(mechanism));
-    const EvmPlot::Scale scale = plot.GetScale();
-    record.velAxis = axisRecord(plot.vLabel(), scale.vmin, scale.vmax, plot.vthicks());
-    record.freqAxis = axisRecord(plot.fLabel(), scale.fmin, scale.fmax, plot.fthicks());
-    record.gAxis = axisRecord(plot.gLabel(), scale.gmin, scale.gmax, plot.gthicks());
+    record.axes = plot.axes();
     for (const Series& series : plot.SeriesCollection()) {
         const SeriesRecord one = recordOf(series, evolutions);
         if (one.evolution > 0 && one.mode > 0)
@@ -187,14 +179,7 @@ void applyRecord(const PlotRecord& record, const std::vector<EVM*>& evolutions, 
     applyText(record.header, header, plot);
     applyText(record.mechanism, mechanism, plot);
     applyText(record.legend, legend, plot);
-    plot.setVLabel(QString::fromStdString(record.velAxis.label));
-    plot.setFLabel(QString::fromStdString(record.freqAxis.label));
-    plot.setGLabel(QString::fromStdString(record.gAxis.label));
-    plot.setVthicks(record.velAxis.ticks);
-    plot.setFthicks(record.freqAxis.ticks);
-    plot.setGthicks(record.gAxis.ticks);
-    plot.SetScale(record.velAxis.min, record.velAxis.max, record.freqAxis.min, record.freqAxis.max,
-                  record.gAxis.min, record.gAxis.max);
+    plot.setAxes(record.axes);
     applyMarks(record, plot);
     applySeries(record, evolutions, plot);
 }

@@ -70,9 +70,9 @@ RoundRange roundRange(double low, double high, Steps steps)
     return {first * step, last * step, static_cast<int>(last - first)};
 }
 
-FittedAxes fitAxes(const SeriesList& series)
+PlotAxes fitAxes(const SeriesList& series)
 {
-    FittedAxes axes;
+    PlotAxes axes;
     const Extent extent = extentOf(series);
     if (!extent.hasPoints)
         return axes;
@@ -80,11 +80,11 @@ FittedAxes fitAxes(const SeriesList& series)
     const RoundRange frequency =
         roundRange(0, std::min(frequencyHeadroom * extent.frequency, largestEnd));
     const RoundRange damping = roundRange(0, std::clamp(extent.damping, leastDamping, mostDamping));
-    axes.scale.vmax = static_cast<float>(speed.high);
-    axes.scale.fmax = static_cast<float>(frequency.high);
-    axes.scale.gmax = -static_cast<float>(damping.high);
-    axes.thicks = {static_cast<std::int16_t>(speed.steps), static_cast<std::int16_t>(damping.steps),
-                   static_cast<std::int16_t>(frequency.steps)};
+    axes.speed.max = static_cast<float>(speed.high);
+    axes.frequency.max = static_cast<float>(frequency.high);
+    axes.damping.max = -static_cast<float>(damping.high);
+    axes.setTicks({static_cast<std::int16_t>(speed.steps), static_cast<std::int16_t>(damping.steps),
+                   static_cast<std::int16_t>(frequency.steps)});
     return axes;
 }
 

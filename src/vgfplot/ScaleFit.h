@@ -1,15 +1,9 @@
 #pragma once
 
-#include "vgfplot/EvmPlot.h"
+#include "model/PlotAxes.h"
+#include "plot/Series.h"
 
 namespace tarsil {
-
-/// Axes that suit a set of curves: bounds and tick counts, so that every tick is a round number.
-struct FittedAxes
-{
-    EvmPlot::Scale scale;
-    EvmPlot::Thicks thicks;
-};
 
 /// Which steps an axis can label: the speed axis writes whole numbers, so that between others its
 /// labels would stand at values that they do not name.
@@ -26,11 +20,11 @@ struct RoundRange
 };
 RoundRange roundRange(double low, double high, Steps steps = Steps::Any);
 
-/// The axes that show all speeds and frequencies of the series from 0 on, with a little room above
-/// the highest frequency, and their dampings to both sides of the speed axis up to 0.5 (a strongly
-/// damped mode must not squeeze the rest).
-/// Without any point, those of a new plot. The speed axis begins at 0 always: only there do
-/// reference-speed marks stand at their data position.
-FittedAxes fitAxes(const SeriesList& series);
+/// The axes, with every tick at a round number, that show all speeds and frequencies of the series
+/// from 0 on, with a little room above the highest frequency, and their dampings to both sides of
+/// the speed axis up to 0.5 (a strongly damped mode must not squeeze the rest). Without any point,
+/// those of a new plot. The speed axis begins at 0 always: only there do reference-speed marks
+/// stand at their data position.
+PlotAxes fitAxes(const SeriesList& series);
 
 } // namespace tarsil

@@ -75,7 +75,7 @@ private:
     std::vector<MarkRecord> marks(const std::string& section, std::string_view key);
     TextRecord box(std::string_view section, std::string_view textKey,
                    std::string_view positionKey);
-    AxisRecord axis(std::string_view section, std::string_view key);
+    AxisValues axis(std::string_view section, std::string_view key);
     SeriesRecord series(std::string_view section, std::string_view key);
 
     IniText m_ini;
@@ -197,11 +197,8 @@ void WorkspaceReader::readPlot(const std::string& section, PlotRecord& plot)
     plot.mechanism = box(section, keys::mechanism, keys::mechanismPosition);
     plot.legend = box(section, keys::legend, keys::legendPosition);
     // The three ranges belong together: none is taken when one is damaged.
-    AxisRecord velAxis = axis(section, keys::velAxis);
-    AxisRecord freqAxis = axis(section, keys::freqAxis);
-    plot.gAxis = axis(section, keys::gAxis);
-    plot.velAxis = std::move(velAxis);
-    plot.freqAxis = std::move(freqAxis);
+    plot.axes = {axis(section, keys::velAxis), axis(section, keys::freqAxis),
+                 axis(section, keys::gAxis)};
     const int seriesCount = count(section, keys::seriesCount);
     for (int i = 1; i <= seriesCount; ++i) {
         const std::string key = keys::numbered(keys::series, static_cast<std::size_t>(i));
@@ -244,7 +241,7 @@ TextRecord WorkspaceReader::box(std::string_view section, std::string_view textK
     return record;
 }
 
-AxisRecord WorkspaceReader::axis(std::string_view section, std::string_view key)
+AxisValues WorkspaceReader::axis(std::string_view section, std::string_view key)
 {
     const ValueFields values(fields(section, key), 4, place(section, key));
     return {values.text(0), values.single(1, "minimum"), values.single(2, "maximum"),

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/PlotAxes.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <map>
@@ -29,16 +31,6 @@ struct TextRecord
     std::optional<BoxPosition> position;
 
     bool operator==(const TextRecord&) const = default;
-};
-
-struct AxisRecord
-{
-    std::string label;
-    float min = 0; ///< knots, Hz or no dimension
-    float max = 0;
-    std::int16_t ticks = 0;
-
-    bool operator==(const AxisRecord&) const = default;
 };
 
 /// A curve of a plot. It names its mode by two numbers, which may name nothing that is there.
@@ -76,9 +68,7 @@ struct PlotRecord
     TextRecord header;
     TextRecord mechanism;
     TextRecord legend;
-    AxisRecord velAxis {"V(keas)", 0, 700, 7};
-    AxisRecord freqAxis {"f(Hz)", 0, 50, 5};
-    AxisRecord gAxis {"g", 0, -0.25F, 5};
+    PlotAxes axes {};
     std::vector<SeriesRecord> series {};
     std::vector<MarkRecord> referenceSpeeds {};
     std::vector<MarkRecord> dampingLines {};

@@ -88,7 +88,7 @@ private:
     void addPlot(const PlotRecord& plot);
     void addRichText(std::string_view key, const TextRecord& box);
     void addPosition(std::string_view key, const TextRecord& box);
-    void addAxis(std::string_view key, const AxisRecord& axis);
+    void addAxis(std::string_view key, const AxisValues& axis);
     void addSeries(std::string_view key, const SeriesRecord& series);
     void addMarks(std::string_view key, const std::vector<MarkRecord>& marks);
     void addLooks(const std::vector<SeriesRecord>& series);
@@ -193,9 +193,9 @@ void WorkspaceWriter::addPlot(const PlotRecord& plot)
     addPosition(keys::mechanismPosition, plot.mechanism);
     addRichText(keys::legend, plot.legend);
     addPosition(keys::legendPosition, plot.legend);
-    addAxis(keys::velAxis, plot.velAxis);
-    addAxis(keys::freqAxis, plot.freqAxis);
-    addAxis(keys::gAxis, plot.gAxis);
+    addAxis(keys::velAxis, plot.axes.speed);
+    addAxis(keys::freqAxis, plot.axes.frequency);
+    addAxis(keys::gAxis, plot.axes.damping);
     addCount(keys::seriesCount, plot.series.size());
     for (std::size_t i = 0; i < plot.series.size(); ++i)
         addSeries(keys::numbered(keys::series, i + 1), plot.series[i]);
@@ -217,10 +217,10 @@ void WorkspaceWriter::addPosition(std::string_view key, const TextRecord& box)
         add(key, keys::absent);
 }
 
-void WorkspaceWriter::addAxis(std::string_view key, const AxisRecord& axis)
+void WorkspaceWriter::addAxis(std::string_view key, const AxisValues& axis)
 {
     add(key,
-        joined({field(axis.label), number(key, axis.min), number(key, axis.max),
+        joined({field(axis.title), number(key, axis.min), number(key, axis.max),
                 std::to_string(axis.ticks)}));
 }
 

@@ -112,7 +112,7 @@ TEST_F(Commands, setTheScaleOfTheActivePlot)
         dialog->findChild<QPushButton*>(QStringLiteral("OKButton"))->click();
     });
     choose("popSetScale");
-    EXPECT_EQ(plot().GetScale().vmax, 123.0F);
+    EXPECT_EQ(plot().axes().speed.max, 123.0F);
 }
 
 TEST_F(Commands, addAndClearReferenceSpeedsAndDampingLines)

@@ -66,7 +66,7 @@ TEST_F(DataControl, offersTheMechanismsOfTheOptions)
     EXPECT_EQ(list.itemText(0), QStringLiteral("BEND-TORS"));
     list.setCurrentIndex(0);
     Q_EMIT list.activated(0);
-    EXPECT_EQ(plot().GetScale(), (EvmPlot::Scale {0, 450, 0, 20, 0, -0.25F}));
+    EXPECT_EQ(plot().axes().bounds(), (PlotBounds {0, 450, 0, 20, 0, -0.25F}));
     EXPECT_EQ(plot().vthicks(), 9);
     EXPECT_THAT(user.messages, IsEmpty());
 }

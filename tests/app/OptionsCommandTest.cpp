@@ -39,7 +39,7 @@ TEST_F(Options, areInForceBeforeTheChildWindowsAreShown)
 {
     keep(sample("goland.inp"), "0|100|0|-1|0|10", "4|3|2");
     load();
-    EXPECT_EQ(plot().GetScale(), (EvmPlot::Scale {0, 100, 0, 10, 0, -1}));
+    EXPECT_EQ(plot().axes().bounds(), (PlotBounds {0, 100, 0, 10, 0, -1}));
     EXPECT_EQ(plot().vthicks(), 4);
     EXPECT_EQ(window.airplaneInfo().FlutterMechs.size(), 3U);
     EXPECT_FALSE(dialog()->isVisible());
@@ -187,8 +187,8 @@ TEST_F(Options, areTheAxesOfANewWorkspaceAndOfNoneThatIsOpened)
     user.confirmations = {true, true};
     plot().SetScale(0, 321, 0, 20, 0, -2);
     choose("mnuNewWorkspace");
-    EXPECT_EQ(plot().GetScale(), (EvmPlot::Scale {0, 100, 0, 10, 0, -1}));
+    EXPECT_EQ(plot().axes().bounds(), (PlotBounds {0, 100, 0, 10, 0, -1}));
     user.openFiles.push_back({folder.file("case.tsw")});
     choose("OpenMenu");
-    EXPECT_EQ(plot().GetScale(), EvmPlot::Scale());
+    EXPECT_EQ(plot().axes().bounds(), PlotAxes().bounds());
 }

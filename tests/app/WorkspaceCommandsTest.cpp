@@ -156,7 +156,7 @@ TEST_F(WorkspaceCommandsTest, openWhatWasSavedAsItWas)
     EXPECT_EQ(plot().Header().Text(), QStringLiteral("header\r\nsecond line"));
     EXPECT_EQ(plot().SeriesCollection().size(), 14U);
     EXPECT_EQ(window.evolPlot().plots()[1]->Caption(), QStringLiteral("Second"));
-    EXPECT_EQ(window.evolPlot().plots()[1]->GetScale().vmax, 100.0F);
+    EXPECT_EQ(window.evolPlot().plots()[1]->axes().speed.max, 100.0F);
     EXPECT_EQ(window.explorer().description(), QStringLiteral("an afternoon"));
     save("again.tsw");
     EXPECT_EQ(bytes("again.tsw"), saved);

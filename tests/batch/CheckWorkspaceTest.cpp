@@ -258,7 +258,7 @@ TEST_F(CheckOfAWorkspace, findsValuesWhoseFieldsAreTooLongTogether)
     WorkspaceRecord record = settled();
     record.plots[0].series[0].legendText = std::string(1000, 'l');
     EXPECT_EQ(runBatch({"check", write(record)}).status, 1);
-    record.plots[1].velAxis.label = std::string(2000, 'v');
+    record.plots[1].axes.speed.title = std::string(2000, 'v');
     EXPECT_THAT(findings(record),
                 AllOf(HasSubstr("25: [PLOT1], Serie(1): the value has 10"),
                       HasSubstr("35: [PLOT2], velAxis: the value has 2008 bytes; the format takes "

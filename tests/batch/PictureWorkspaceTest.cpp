@@ -175,7 +175,7 @@ TEST_F(PictureOfAWorkspace, leavesOutWhatIsMissing)
 TEST_F(PictureOfAWorkspace, namesThePlotThatCannotBeDrawn)
 {
     WorkspaceRecord record = this->record();
-    record.plots[1].velAxis.ticks = 0;
+    record.plots[1].axes.speed.ticks = 0;
     const auto result = draw({write(record)});
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.err, HasSubstr("plot \"Store\""));

@@ -13,9 +13,9 @@ PlotRecord plot(const std::string& caption, const std::vector<SeriesRecord>& ser
     PlotRecord record;
     record.caption = caption;
     record.header.rtf = rtfOf("header of " + caption);
-    record.velAxis = {"V(keas)", 0, 450, 9};
-    record.freqAxis = {"f(Hz)", 0, 20, 4};
-    record.gAxis = {"g", 0, -2, 4};
+    record.axes.speed = {"V(keas)", 0, 450, 9};
+    record.axes.frequency = {"f(Hz)", 0, 20, 4};
+    record.axes.damping = {"g", 0, -2, 4};
     record.series = series;
     return record;
 }

@@ -146,7 +146,7 @@ TEST_F(WndDataTexts, showsTheMechanismThatIsChosen)
 {
     choose(1);
     EXPECT_EQ(plot().Mechanism().Text(), QStringLiteral("Pitch of the store"));
-    EXPECT_EQ(plot().GetScale(), (EvmPlot::Scale {100, 400, 2, 22, 0, -0.5F}));
+    EXPECT_EQ(plot().axes().bounds(), (PlotBounds {100, 400, 2, 22, 0, -0.5F}));
     EXPECT_EQ(plot().vthicks(), 6);
     EXPECT_EQ(plot().fthicks(), 4);
     EXPECT_EQ(plot().gthicks(), 2); // 2.5 rounds to the even number
@@ -159,7 +159,7 @@ TEST_F(WndDataTexts, showsTheMechanismThatIsChosen)
 TEST_F(WndDataTexts, doesNothingWhileNoMechanismIsChosen)
 {
     partOf<QRadioButton>(data, "optFlutMecShort").click();
-    EXPECT_EQ(plot().GetScale(), EvmPlot::Scale());
+    EXPECT_EQ(plot().axes().bounds(), PlotAxes().bounds());
     EXPECT_THAT(user.messages, IsEmpty());
 }
 
@@ -172,7 +172,7 @@ TEST_F(WndDataTexts, changesNothingForAMechanismThatIsNotThereOrWrong)
     airplane.FlutterMechs.clear();
     choose(0);
     EXPECT_THAT(user.messages.back().text, StartsWith("Error # 5 "));
-    EXPECT_EQ(plot().GetScale(), EvmPlot::Scale());
+    EXPECT_EQ(plot().axes().bounds(), PlotAxes().bounds());
     EXPECT_EQ(plot().Mechanism().Text(), QString());
 }
 
@@ -288,8 +288,8 @@ TEST_F(WndDataTexts, fitsTheFrequencyAxis)
     add(load("a.ev2"));
     click("btnFitFreq");
     // The visible points have 6 Hz: 0.85 x 6 = 5.1 and 1.05 x 6 = 6.3, in whole numbers.
-    EXPECT_EQ(plot().GetScale().fmin, 5);
-    EXPECT_EQ(plot().GetScale().fmax, 6);
+    EXPECT_EQ(plot().axes().frequency.min, 5);
+    EXPECT_EQ(plot().axes().frequency.max, 6);
 }
 
 TEST_F(WndDataTexts, savesThePictureUnderTheNameThatIsGiven)

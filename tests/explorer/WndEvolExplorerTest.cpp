@@ -182,10 +182,8 @@ TEST_F(WndEvolExplorerTest, startsAnewWithTheTreeOfTheBeginning)
 
 TEST_F(WndEvolExplorerTest, startsNewWithTheAxesThatNewPlotsHave)
 {
-    plots.setNewPlotDefaults({EvmPlot::Scale {0, 100, 0, 10, 0, -1}, EvmPlot::Thicks {4, 3, 2}});
+    const PlotAxes axes {{"V", 0, 100, 4}, {"f", 0, 10, 2}, {"g", 0, -1, 3}};
+    plots.setNewPlotAxes(axes);
     explorer.startNew();
-    EXPECT_EQ(plotAt(0).GetScale(), (EvmPlot::Scale {0, 100, 0, 10, 0, -1}));
-    EXPECT_EQ(plotAt(0).vthicks(), 4);
-    EXPECT_EQ(plotAt(0).gthicks(), 3);
-    EXPECT_EQ(plotAt(0).fthicks(), 2);
+    EXPECT_EQ(plotAt(0).axes(), axes);
 }

@@ -91,8 +91,8 @@ TEST_F(DlgOptionsTest, isCancelledByEscapeByClosingAndOnTheButton)
         EXPECT_EQ(test::textIn(*dialog, "txtAcInfo"), "gone.inp") << way;
         EXPECT_EQ(test::textIn(*dialog, "txtVgfScale"), "0|1|0|-1|0|1") << way;
     }
-    EXPECT_EQ(plot().GetScale(), EvmPlot::Scale());
-    EXPECT_EQ(plot().vthicks(), EvmPlot::Thicks().v);
+    EXPECT_EQ(plot().axes().bounds(), PlotAxes().bounds());
+    EXPECT_EQ(plot().vthicks(), PlotAxes().speed.ticks);
     EXPECT_EQ(airplane.Filename, "");
     EXPECT_EQ(mechanismsChanged, 0);
 }

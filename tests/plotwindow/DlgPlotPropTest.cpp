@@ -64,7 +64,7 @@ protected:
         {"inpVlabel", "speed"}, {"inpGmin", "0.05"},      {"inpGmax", "-0.35"},
         {"inpGnthicks", "9"},   {"inpGlabel", "damping"}, {"inpFmin", "2.5"},
         {"inpFmax", "30"},      {"inpFnthicks", "10"},    {"inpFlabel", "frequency"}};
-    const EvmPlot::Scale typedScale {100, 600, 2.5F, 30, 0.05F, -0.35F};
+    const PlotBounds typedScale {100, 600, 2.5F, 30, 0.05F, -0.35F};
 
     EvmPlot plot;
     test::ScriptedUserInterface user;
@@ -111,7 +111,7 @@ TEST_F(DlgPlotProp, appliesEveryInputAndCloses)
 {
     typeAll();
     confirm();
-    EXPECT_EQ(plot.GetScale(), typedScale);
+    EXPECT_EQ(plot.axes().bounds(), typedScale);
     EXPECT_EQ(plot.vthicks(), 8);
     EXPECT_EQ(plot.gthicks(), 9);
     EXPECT_EQ(plot.fthicks(), 10);
@@ -126,7 +126,7 @@ TEST_F(DlgPlotProp, appliesEveryInputAndCloses)
 TEST_F(DlgPlotProp, changesNothingWhenItIsConfirmedAsItIs)
 {
     confirm();
-    EXPECT_EQ(plot.GetScale(), EvmPlot::Scale());
+    EXPECT_EQ(plot.axes().bounds(), PlotAxes().bounds());
     EXPECT_EQ(plot.WriteProperties(), EvmPlot().WriteProperties());
 }
 
@@ -160,7 +160,7 @@ TEST_F(DlgPlotProp, changesNothingWhenItIsCancelled)
     test::click(dialog, "CancelButton");
     EXPECT_FALSE(dialog.isVisible());
     EXPECT_EQ(dialog.result(), QDialog::Rejected);
-    EXPECT_EQ(plot.GetScale(), EvmPlot::Scale());
+    EXPECT_EQ(plot.axes().bounds(), PlotAxes().bounds());
     EXPECT_EQ(plot.WriteProperties(), EvmPlot().WriteProperties());
 }
 
@@ -169,7 +169,7 @@ TEST_F(DlgPlotProp, changesNothingWhenEscapeClosesIt)
     typeAll();
     test::press(dialog, Qt::Key_Escape);
     EXPECT_FALSE(dialog.isVisible());
-    EXPECT_EQ(plot.GetScale(), EvmPlot::Scale());
+    EXPECT_EQ(plot.axes().bounds(), PlotAxes().bounds());
 }
 
 TEST_F(DlgPlotProp, takesEnterForOkInEveryInput)
@@ -183,8 +183,8 @@ TEST_F(DlgPlotProp, takesEnterForOkInEveryInput)
             test::type(another, "inpVmax", "800");
             test::press(input, key);
             EXPECT_FALSE(another.isVisible()) << name;
-            EXPECT_EQ(plot.GetScale().vmax, 800.0F) << name;
-            plot.SetScale(EvmPlot::Scale());
+            EXPECT_EQ(plot.axes().speed.max, 800.0F) << name;
+            plot.setAxes(PlotAxes());
         }
     }
 }
@@ -194,7 +194,7 @@ TEST_F(DlgPlotProp, takesEnterForOkOnTheForm)
     typeAll();
     test::press(dialog, Qt::Key_Return);
     EXPECT_FALSE(dialog.isVisible());
-    EXPECT_EQ(plot.GetScale(), typedScale);
+    EXPECT_EQ(plot.axes().bounds(), typedScale);
 }
 
 TEST_F(DlgPlotProp, takesEnterOnTheCancelButtonForCancel)
@@ -204,7 +204,7 @@ TEST_F(DlgPlotProp, takesEnterOnTheCancelButtonForCancel)
     cancel.setFocus();
     test::press(cancel, Qt::Key_Return);
     EXPECT_FALSE(dialog.isVisible());
-    EXPECT_EQ(plot.GetScale(), EvmPlot::Scale());
+    EXPECT_EQ(plot.axes().bounds(), PlotAxes().bounds());
 }
 
 TEST_F(DlgPlotProp, reportsAnInputOnceForOneEnter)
@@ -234,7 +234,7 @@ TEST_F(DlgPlotProp, changesNothingWhenABoundIsNoNumber)
 {
     typeAll();
     expectRefusal("inpGmax", "abc", mismatch + "Max. Scale Damping Axis: \"abc\"");
-    EXPECT_EQ(plot.GetScale(), EvmPlot::Scale());
+    EXPECT_EQ(plot.axes().bounds(), PlotAxes().bounds());
     EXPECT_EQ(plot.WriteProperties(), EvmPlot().WriteProperties());
 }
 
@@ -252,7 +252,7 @@ TEST_F(DlgPlotProp, keepsTheBoundsWhenATickCountIsNoNumber)
 {
     typeAll();
     expectRefusal("inpVnthicks", "many", mismatch + "N. of Thicks Vel. Axis: \"many\"");
-    EXPECT_EQ(plot.GetScale(), typedScale);
+    EXPECT_EQ(plot.axes().bounds(), typedScale);
     EXPECT_EQ(plot.vthicks(), 7);
     EXPECT_EQ(plot.gthicks(), 5);
     EXPECT_EQ(plot.fthicks(), 5);
@@ -263,7 +263,7 @@ TEST_F(DlgPlotProp, keepsTheTickCountsBeforeTheOneThatIsNoNumber)
 {
     typeAll();
     expectRefusal("inpFnthicks", "many", mismatch + "N. of Thicks Freq. Axis: \"many\"");
-    EXPECT_EQ(plot.GetScale(), typedScale);
+    EXPECT_EQ(plot.axes().bounds(), typedScale);
     EXPECT_EQ(plot.vthicks(), 8);
     EXPECT_EQ(plot.gthicks(), 9);
     EXPECT_EQ(plot.fthicks(), 5);
@@ -283,7 +283,7 @@ TEST_F(DlgPlotProp, canBeConfirmedAfterAnInputIsPutRight)
     type("inpVmax", "800");
     confirm();
     EXPECT_FALSE(dialog.isVisible());
-    EXPECT_EQ(plot.GetScale().vmax, 800.0F);
+    EXPECT_EQ(plot.axes().speed.max, 800.0F);
     EXPECT_EQ(user.messages.size(), 1U);
 }
 
@@ -291,8 +291,8 @@ TEST_F(DlgPlotProp, passesOnAMinimumAboveItsMaximum)
 {
     type("inpVmin", "900");
     confirm();
-    EXPECT_EQ(plot.GetScale().vmin, 900.0F);
-    EXPECT_EQ(plot.GetScale().vmax, 700.0F);
+    EXPECT_EQ(plot.axes().speed.min, 900.0F);
+    EXPECT_EQ(plot.axes().speed.max, 700.0F);
     EXPECT_FALSE(dialog.isVisible());
 }
 

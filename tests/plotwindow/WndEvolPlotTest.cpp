@@ -136,7 +136,7 @@ TEST_F(WndEvolPlotTest, copiesTextsScaleAndPropertiesOfTheActivePlotButNoSeries)
     window.AddSerie(evolution.appendMode());
     const EvmPlot& copy = *window.CopyPlot({});
     EXPECT_EQ(copy.box(0).Text(), QStringLiteral("header"));
-    EXPECT_EQ(copy.GetScale(), (EvmPlot::Scale {10, 500, 1, 40, 0.1F, -0.5F}));
+    EXPECT_EQ(copy.axes().bounds(), (PlotBounds {10, 500, 1, 40, 0.1F, -0.5F}));
     EXPECT_EQ(copy.vthicks(), 9);
     EXPECT_EQ(copy.vLabel(), QStringLiteral("speed"));
     EXPECT_TRUE(copy.SeriesCollection().empty());
@@ -320,18 +320,13 @@ TEST_F(WndEvolPlotTest, asksForAnActivePlotBeforeASeries)
 TEST_F(WndEvolPlotTest, givesThePlotsThatItAddsTheAxesThatAreSet)
 {
     activateFirst();
-    NewPlotDefaults defaults;
-    defaults.scale = EvmPlot::Scale {0, 100, 0, 10, 0, -1};
-    window.setNewPlotDefaults(defaults);
-    EXPECT_EQ(add()->GetScale(), *defaults.scale);
-    EXPECT_EQ(plotAt(1)->vthicks(), EvmPlot::Thicks().v);
-    window.setNewPlotDefaults({std::nullopt, EvmPlot::Thicks {4, 3, 2}});
-    EXPECT_EQ(add()->GetScale(), EvmPlot::Scale());
-    EXPECT_EQ(plotAt(2)->vthicks(), 4);
-    EXPECT_EQ(plotAt(2)->gthicks(), 3);
-    EXPECT_EQ(plotAt(2)->fthicks(), 2);
-    EXPECT_EQ(plotAt(0)->GetScale(), EvmPlot::Scale());
-    EXPECT_EQ(plotAt(0)->vthicks(), EvmPlot::Thicks().v);
+    const PlotAxes axes {{"V", 0, 100, 4}, {"f", 0, 10, 2}, {"g", 0, -1, 3}};
+    window.setNewPlotAxes(axes);
+    EXPECT_EQ(add()->axes(), axes);
+    window.setNewPlotAxes({});
+    EXPECT_EQ(add()->axes(), PlotAxes());
+    EXPECT_EQ(plotAt(1)->axes(), axes);
+    EXPECT_EQ(plotAt(0)->axes(), PlotAxes());
 }
 
 TEST_F(WndEvolPlotTest, givesACopyTheAxesOfItsSource)
@@ -339,9 +334,8 @@ TEST_F(WndEvolPlotTest, givesACopyTheAxesOfItsSource)
     activateFirst();
     plotAt(0)->SetScale(0, 321, 0, 20, 0, -2);
     plotAt(0)->setVthicks(9);
-    window.setNewPlotDefaults({EvmPlot::Scale {0, 100, 0, 10, 0, -1}, EvmPlot::Thicks {4, 3, 2}});
+    window.setNewPlotAxes({{"V", 0, 100, 4}, {"f", 0, 10, 2}, {"g", 0, -1, 3}});
     const EvmPlot& copy = *window.CopyPlot(QString());
-    EXPECT_EQ(copy.GetScale(), plotAt(0)->GetScale());
     EXPECT_EQ(copy.vthicks(), 9);
-    EXPECT_EQ(copy.gthicks(), EvmPlot::Thicks().g);
+    EXPECT_EQ(copy.axes(), plotAt(0)->axes());
 }

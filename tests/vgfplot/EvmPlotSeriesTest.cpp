@@ -45,7 +45,7 @@ protected:
     {
         plot.addSeries(addMode(evolution, 1, points));
         plot.fitFreq();
-        return {plot.GetScale().fmin, plot.GetScale().fmax};
+        return {plot.axes().frequency.min, plot.axes().frequency.max};
     }
 
     EVM evolution;
@@ -187,7 +187,7 @@ TEST_F(FitFreq, leavesTheScaleWhenNoPointIsInSight)
 TEST_F(FitFreq, leavesSpeedsAndDampingsAsTheyAre)
 {
     fit({{550, 0, 20}, {600, 0, 40}});
-    EXPECT_EQ(plot.GetScale(), (EvmPlot::Scale {500, 700, 19, 42, 0, -0.25F}));
+    EXPECT_EQ(plot.axes().bounds(), (PlotBounds {500, 700, 19, 42, 0, -0.25F}));
     // The canvas follows: 42 Hz at its upper edge.
     EXPECT_EQ(plot.vfPlot().pixelOf(500, 42), QPoint(0, 0));
 }

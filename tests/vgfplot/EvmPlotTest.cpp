@@ -68,13 +68,13 @@ TEST(EvmPlot, showsItsDefaultsOnItsParts)
 TEST(EvmPlot, beginsWithAScaleForStableModesBelowTheSpeedAxis)
 {
     const EvmPlot plot;
-    const EvmPlot::Scale scale = plot.GetScale();
-    EXPECT_EQ(scale.vmin, 0.0F);
-    EXPECT_EQ(scale.vmax, 700.0F);
-    EXPECT_EQ(scale.fmin, 0.0F);
-    EXPECT_EQ(scale.fmax, 50.0F);
-    EXPECT_EQ(scale.gmin, 0.0F);
-    EXPECT_EQ(scale.gmax, -0.25F);
+    const PlotAxes axes = plot.axes();
+    EXPECT_EQ(axes.speed.min, 0.0F);
+    EXPECT_EQ(axes.speed.max, 700.0F);
+    EXPECT_EQ(axes.frequency.min, 0.0F);
+    EXPECT_EQ(axes.frequency.max, 50.0F);
+    EXPECT_EQ(axes.damping.min, 0.0F);
+    EXPECT_EQ(axes.damping.max, -0.25F);
 }
 
 TEST(EvmPlot, hasPromptsForItsEmptyTextBoxes)
@@ -242,7 +242,7 @@ TEST(EvmPlot, clonesPropertiesScaleAndTextBoxes)
     EvmPlot copy;
     copy.Clone(source);
     EXPECT_EQ(copy.WriteProperties(), source.WriteProperties());
-    EXPECT_EQ(copy.GetScale(), source.GetScale());
+    EXPECT_EQ(copy.axes().bounds(), source.axes().bounds());
     for (std::size_t i = 0; i < source.boxCount(); ++i) {
         EXPECT_EQ(copy.box(i).Text(), source.box(i).Text()) << i;
         EXPECT_EQ(copy.box(i).Font(), source.box(i).Font()) << i;

@@ -18,35 +18,34 @@ namespace {
 class Ticks
 {
 public:
-    Ticks(QSize size, const EvmPlot::Scale& scale, const EvmPlot::Thicks& thicks)
-        : m_scale(scale), m_thicks(thicks)
+    Ticks(QSize size, const PlotAxes& axes) : m_axes(axes)
     {
         plot.resize(size);
-        plot.SetScale(scale);
-        plot.setVthicks(thicks.v);
-        plot.setGthicks(thicks.g);
-        plot.setFthicks(thicks.f);
+        plot.setAxes(axes);
         plot.Draw(m_record);
     }
 
     /// Compares all ticks of the three axes with points of their values.
     void expectAgreement() const
     {
-        for (int k = 1; k < m_thicks.v; ++k) {
-            const float speed = tickValue(m_scale.vmin, m_scale.vmax, m_thicks.v, k);
+        for (int k = 1; k < m_axes.speed.ticks; ++k) {
+            const float speed =
+                tickValue(m_axes.speed.min, m_axes.speed.max, m_axes.speed.ticks, k);
             for (const ucPlot* canvas : {&plot.vgPlot(), &plot.vfPlot()})
                 ASSERT_EQ(canvas->Left() + canvas->pixelOf(speed, 0).x(),
                           tick(plot.velAxis(), k).x())
                     << "speed " << speed;
         }
-        for (int k = 1; k < m_thicks.f; ++k) { // Max is at the top
-            const float frequency = tickValue(m_scale.fmax, m_scale.fmin, m_thicks.f, k);
+        for (int k = 1; k < m_axes.frequency.ticks; ++k) { // Max is at the top
+            const float frequency =
+                tickValue(m_axes.frequency.max, m_axes.frequency.min, m_axes.frequency.ticks, k);
             ASSERT_EQ(plot.vfPlot().Top() + plot.vfPlot().pixelOf(0, frequency).y(),
                       tick(plot.freqAxis(), k).y())
                 << "frequency " << frequency;
         }
-        for (int k = 1; k < m_thicks.g; ++k) { // Min is at the top
-            const float damping = tickValue(m_scale.gmin, m_scale.gmax, m_thicks.g, k);
+        for (int k = 1; k < m_axes.damping.ticks; ++k) { // Min is at the top
+            const float damping =
+                tickValue(m_axes.damping.min, m_axes.damping.max, m_axes.damping.ticks, k);
             ASSERT_EQ(plot.vgPlot().Top() + plot.vgPlot().pixelOf(0, damping).y(),
                       tick(plot.gAxis(), k).y())
                 << "damping " << damping;
@@ -79,8 +78,7 @@ private:
             .from;
     }
 
-    EvmPlot::Scale m_scale;
-    EvmPlot::Thicks m_thicks;
+    PlotAxes m_axes;
     RecordingContext m_record;
 };
 
@@ -94,10 +92,10 @@ public:
         return static_cast<float>(std::uniform_real_distribution<double>(low, high)(m_random));
     }
     std::int16_t count() { return static_cast<std::int16_t>(whole(1, 20)); }
-    EvmPlot::Thicks counts() { return {count(), count(), count()}; }
+    PlotTicks counts() { return {count(), count(), count()}; }
     QSize size() { return {whole(200, 2500), whole(150, 1600)}; }
 
-    EvmPlot::Scale roundScale()
+    PlotBounds roundBounds()
     {
         const auto vmin = static_cast<float>(whole(0, 10) * 25);
         const auto fmin = static_cast<float>(whole(0, 20));
@@ -109,7 +107,7 @@ public:
                 -static_cast<float>(whole(5, 20)) * 0.05F};
     }
 
-    EvmPlot::Scale anyScale()
+    PlotBounds anyBounds()
     {
         const float vmin = number(0, 300);
         const float fmin = number(0, 40);
@@ -125,21 +123,28 @@ private:
     std::mt19937 m_random {20240229};
 };
 
-std::string textOf(QSize size, const EvmPlot::Scale& scale, const EvmPlot::Thicks& thicks)
+std::string textOf(QSize size, const PlotAxes& axes)
 {
     std::string text = std::to_string(size.width()) + " x " + std::to_string(size.height()) + ", ";
-    for (const float bound :
-         {scale.vmin, scale.vmax, scale.fmin, scale.fmax, scale.gmin, scale.gmax})
+    for (const float bound : axes.bounds())
         text += std::to_string(bound) + " ";
-    for (const int count : {thicks.v, thicks.g, thicks.f})
+    for (const int count : axes.ticks())
         text += std::to_string(count) + " ";
     return text;
 }
 
-void expectAgreement(QSize size, const EvmPlot::Scale& scale, const EvmPlot::Thicks& thicks)
+PlotAxes axesOf(const PlotBounds& bounds, const PlotTicks& ticks)
 {
-    SCOPED_TRACE(textOf(size, scale, thicks));
-    Ticks(size, scale, thicks).expectAgreement();
+    PlotAxes axes;
+    axes.setBounds(bounds);
+    axes.setTicks(ticks);
+    return axes;
+}
+
+void expectAgreement(QSize size, const PlotAxes& axes)
+{
+    SCOPED_TRACE(textOf(size, axes));
+    Ticks(size, axes).expectAgreement();
 }
 
 } // namespace
@@ -147,35 +152,35 @@ void expectAgreement(QSize size, const EvmPlot::Scale& scale, const EvmPlot::Thi
 TEST(EvmPlotTicks, agreeWithTheCurvesInEverySize)
 {
     for (int height = 150; height < 450 && !::testing::Test::HasFailure(); ++height)
-        expectAgreement({height + 100, height}, {}, {});
+        expectAgreement({height + 100, height}, {});
 }
 
 TEST(EvmPlotTicks, agreeWithTheCurvesForRoundBounds)
 {
     RandomPlots random;
     for (int i = 0; i < 400 && !::testing::Test::HasFailure(); ++i)
-        expectAgreement(random.size(), random.roundScale(), random.counts());
+        expectAgreement(random.size(), axesOf(random.roundBounds(), random.counts()));
 }
 
 TEST(EvmPlotTicks, agreeWithTheCurvesForAnyBounds)
 {
     RandomPlots random;
     for (int i = 0; i < 400 && !::testing::Test::HasFailure(); ++i)
-        expectAgreement(random.size(), random.anyScale(), random.counts());
+        expectAgreement(random.size(), axesOf(random.anyBounds(), random.counts()));
 }
 
 TEST(EvmPlotTicks, haveTheLowestDampingOnTheSpeedAxisInEverySize)
 {
     RandomPlots random;
     for (int i = 0; i < 100; ++i) {
-        const Ticks ticks(random.size(), {0, 700, 0, 50, 0.05F, -0.25F}, {});
+        const Ticks ticks(random.size(), axesOf({0, 700, 0, 50, 0.05F, -0.25F}, {7, 5, 5}));
         ASSERT_EQ(ticks.rowOfDamping(0.05F), ticks.speedAxisRow());
     }
 }
 
 TEST(EvmPlotTicks, showADampingBeyondTheLowestAboveTheSpeedAxis)
 {
-    const Ticks ticks({800, 600}, {}, {});
+    const Ticks ticks({800, 600}, {});
     // The axis is row 330, and 0.25 are 252 pixels: 0.125 are 126.
     EXPECT_EQ(ticks.speedAxisRow(), 330);
     EXPECT_EQ(ticks.rowOfDamping(0.125), 204);

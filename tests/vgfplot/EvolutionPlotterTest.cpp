@@ -63,24 +63,24 @@ TEST_F(EvolutionPlotter, drawsOneCurveForEachMode)
 TEST_F(EvolutionPlotter, fitsTheAxesOfAnEmptyPlotOnly)
 {
     plotAll({one.get()});
-    const EvmPlot::Scale fitted = plot.GetScale();
-    EXPECT_GE(fitted.vmax, 600.0F);
-    EXPECT_GE(fitted.fmax, 30.0F);
-    EXPECT_LE(fitted.gmax, -0.125F);
-    EvmPlot::Scale own = fitted;
-    own.vmax = 123;
-    plot.SetScale(own);
+    const PlotAxes fitted = plot.axes();
+    EXPECT_GE(fitted.speed.max, 600.0F);
+    EXPECT_GE(fitted.frequency.max, 30.0F);
+    EXPECT_LE(fitted.damping.max, -0.125F);
+    PlotAxes own = fitted;
+    own.speed.max = 123;
+    plot.setAxes(own);
     plotAll({two.get()});
-    EXPECT_EQ(plot.GetScale(), own) << "the user's scale stays";
+    EXPECT_EQ(plot.axes(), own) << "the user's scale stays";
 }
 
 TEST_F(EvolutionPlotter, leavesAScaleAloneThatTheUserSetBefore)
 {
-    EvmPlot::Scale own;
-    own.vmax = 123;
-    plot.SetScale(own);
+    PlotAxes own;
+    own.speed.max = 123;
+    plot.setAxes(own);
     plotAll({one.get()});
-    EXPECT_EQ(plot.GetScale(), own);
+    EXPECT_EQ(plot.axes(), own);
 }
 
 TEST_F(EvolutionPlotter, drawsTheFirstOnesOfTooMany)
@@ -134,7 +134,7 @@ TEST_F(EvolutionPlotter, doesNothingWithoutEvolutions)
 {
     plotAll({});
     EXPECT_TRUE(plot.SeriesCollection().empty());
-    EXPECT_EQ(plot.GetScale(), EvmPlot::Scale());
+    EXPECT_EQ(plot.axes().bounds(), PlotAxes().bounds());
 }
 
 TEST_F(EvolutionPlotter, drawsTheModesAskedForWithTheMarkersAskedFor)

@@ -129,10 +129,12 @@ TEST_F(PlotReadingTest, followsAnAxisThatRunsBackwards)
 TEST_F(PlotReadingTest, isNoneWhenTheBoundsOfAnAxisAreEqual)
 {
     drawLevel(15);
-    for (const EvmPlot::Scale& scale :
-         {EvmPlot::Scale {300, 300, 0, 50, 0, -0.25F}, EvmPlot::Scale {0, 600, 20, 20, 0, -0.25F},
-          EvmPlot::Scale {0, 600, 0, 50, -0.25F, -0.25F}}) {
-        plot.SetScale(scale);
+    for (const PlotBounds& bounds :
+         {PlotBounds {300, 300, 0, 50, 0, -0.25F}, PlotBounds {0, 600, 20, 20, 0, -0.25F},
+          PlotBounds {0, 600, 0, 50, -0.25F, -0.25F}}) {
+        PlotAxes axes;
+        axes.setBounds(bounds);
+        plot.setAxes(axes);
         EXPECT_FALSE(readAt(plot, {280, 270}).has_value());
         EXPECT_FALSE(readAt(plot, {280, 430}).has_value());
     }

@@ -75,9 +75,9 @@ TEST_F(PlotRecords, holdWhatAPlotShows)
     EXPECT_EQ(record.caption, "Clean");
     EXPECT_EQ(record.legend.position, (BoxPosition {1500, 3000.5}));
     EXPECT_EQ(record.mechanism.position, (BoxPosition {-15, 4500}));
-    EXPECT_EQ(record.velAxis, (AxisRecord {"V", 10, 450, 9}));
-    EXPECT_EQ(record.freqAxis, (AxisRecord {"f", 1, 30, 6}));
-    EXPECT_EQ(record.gAxis, (AxisRecord {"damping", 0.1F, -0.5F, 4}));
+    EXPECT_EQ(record.axes.speed, (AxisValues {"V", 10, 450, 9}));
+    EXPECT_EQ(record.axes.frequency, (AxisValues {"f", 1, 30, 6}));
+    EXPECT_EQ(record.axes.damping, (AxisValues {"damping", 0.1F, -0.5F, 4}));
     ASSERT_EQ(record.series.size(), 2U);
     EXPECT_EQ(record.series[0],
               (SeriesRecord {2, 2, "7b", 9, 3, 2, "the second", rgb(1, 2, 3), rgb(4, 5, 6)}));
@@ -93,7 +93,7 @@ TEST_F(PlotRecords, makeTheSamePlotAgainThroughTheBytesOfAFile)
     EXPECT_EQ(other.Header().content(), plot.Header().content());
     EXPECT_EQ(other.Header().Text(), QStringLiteral("first\r\nsecond"));
     EXPECT_EQ(other.Legend().unitsLeft(), 1500);
-    EXPECT_EQ(other.GetScale(), plot.GetScale());
+    EXPECT_EQ(other.axes().bounds(), plot.axes().bounds());
     EXPECT_EQ(other.vthicks(), 9);
     EXPECT_EQ(other.fthicks(), 6);
     EXPECT_EQ(other.gthicks(), 4);

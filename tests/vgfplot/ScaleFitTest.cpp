@@ -34,7 +34,7 @@ void expectRoundStep(double step)
 }
 
 /// The axes that fit one mode with these points.
-FittedAxes axesOf(std::initializer_list<test::DrawnPoint> points)
+PlotAxes axesOf(std::initializer_list<test::DrawnPoint> points)
 {
     EVM evolution;
     Series series;
@@ -105,44 +105,41 @@ TEST(RoundRange, takesStepsThatAreWholeNumbersWhereTheyAreAskedFor)
 
 TEST(FitAxes, isANewPlotsScaleWithoutPoints)
 {
-    const FittedAxes axes = fitAxes({});
-    EXPECT_EQ(axes.scale, EvmPlot::Scale());
-    EXPECT_EQ(axes.thicks.v, 7);
-    EXPECT_EQ(axes.thicks.g, 5);
-    EXPECT_EQ(axes.thicks.f, 5);
-    EXPECT_EQ(axesOf({}).scale, EvmPlot::Scale());
-    EXPECT_EQ(fitAxes({Series()}).scale, EvmPlot::Scale());
+    const PlotAxes axes = fitAxes({});
+    EXPECT_EQ(axes, PlotAxes());
+    EXPECT_EQ(axesOf({}), PlotAxes());
+    EXPECT_EQ(fitAxes({Series()}), PlotAxes());
 }
 
 TEST(FitAxes, showsAllSpeedsAndFrequenciesFromZeroOn)
 {
-    const FittedAxes axes = axesOf({{100, -0.1F, 8}, {633, 0.17F, 21}});
-    EXPECT_EQ(axes.scale.vmin, 0.0F);
-    EXPECT_EQ(axes.scale.vmax, 700.0F);
-    EXPECT_EQ(axes.thicks.v, 7);
-    EXPECT_EQ(axes.scale.fmin, 0.0F);
-    EXPECT_EQ(axes.scale.fmax, 22.5F);
-    EXPECT_EQ(axes.thicks.f, 9);
+    const PlotAxes axes = axesOf({{100, -0.1F, 8}, {633, 0.17F, 21}});
+    EXPECT_EQ(axes.speed.min, 0.0F);
+    EXPECT_EQ(axes.speed.max, 700.0F);
+    EXPECT_EQ(axes.speed.ticks, 7);
+    EXPECT_EQ(axes.frequency.min, 0.0F);
+    EXPECT_EQ(axes.frequency.max, 22.5F);
+    EXPECT_EQ(axes.frequency.ticks, 9);
 }
 
 TEST(FitAxes, showsTheLargestDampingOfEitherSignOnBothSidesOfTheSpeedAxis)
 {
     for (const float damping : {0.17F, -0.17F}) {
-        const FittedAxes axes = axesOf({{100, damping, 8}, {600, 0, 20}});
-        EXPECT_EQ(axes.scale.gmin, 0.0F);
-        EXPECT_EQ(axes.scale.gmax, -0.18F);
-        EXPECT_EQ(axes.thicks.g, 9);
+        const PlotAxes axes = axesOf({{100, damping, 8}, {600, 0, 20}});
+        EXPECT_EQ(axes.damping.min, 0.0F);
+        EXPECT_EQ(axes.damping.max, -0.18F);
+        EXPECT_EQ(axes.damping.ticks, 9);
     }
 }
 
 TEST(FitAxes, doesNotLetAStronglyDampedModeSqueezeTheRest)
 {
-    EXPECT_EQ(axesOf({{100, -7, 8}, {600, 0, 20}}).scale.gmax, -0.5F);
+    EXPECT_EQ(axesOf({{100, -7, 8}, {600, 0, 20}}).damping.max, -0.5F);
 }
 
 TEST(FitAxes, doesNotMagnifyAnUndampedMode)
 {
-    EXPECT_EQ(axesOf({{100, 0, 8}, {600, 0.001F, 20}}).scale.gmax, -0.02F);
+    EXPECT_EQ(axesOf({{100, 0, 8}, {600, 0.001F, 20}}).damping.max, -0.02F);
 }
 
 TEST(FitAxes, looksAtAllSeries)
@@ -152,10 +149,10 @@ TEST(FitAxes, looksAtAllSeries)
     slow.Mode = &addMode(evolution, 1, {{100, 0, 90}});
     Series fast;
     fast.Mode = &addMode(evolution, 2, {{900, 0, 3}});
-    const FittedAxes axes = fitAxes({slow, fast});
-    EXPECT_EQ(axes.scale.vmax, 900.0F);
+    const PlotAxes axes = fitAxes({slow, fast});
+    EXPECT_EQ(axes.speed.max, 900.0F);
     // 90 Hz and the room above it, in steps of 10.
-    EXPECT_EQ(axes.scale.fmax, 100.0F);
+    EXPECT_EQ(axes.frequency.max, 100.0F);
 }
 
 TEST(FitAxes, hasARoundNumberAtEveryTick)
@@ -165,26 +162,26 @@ TEST(FitAxes, hasARoundNumberAtEveryTick)
     std::uniform_real_distribution<float> frequency(0.1F, 300);
     std::uniform_real_distribution<float> damping(-2, 2);
     for (int i = 0; i < 500; ++i) {
-        const FittedAxes axes = axesOf({{speed(random), damping(random), frequency(random)}});
-        expectRoundStep(axes.scale.vmax / axes.thicks.v);
-        expectRoundStep(axes.scale.fmax / axes.thicks.f);
-        expectRoundStep(-axes.scale.gmax / axes.thicks.g);
+        const PlotAxes axes = axesOf({{speed(random), damping(random), frequency(random)}});
+        expectRoundStep(axes.speed.max / axes.speed.ticks);
+        expectRoundStep(axes.frequency.max / axes.frequency.ticks);
+        expectRoundStep(-axes.damping.max / axes.damping.ticks);
     }
 }
 
 TEST(FitAxes, hasAWholeSpeedAtEveryTick)
 {
     for (float speed = 1; speed < 60; speed += 0.25F) {
-        const FittedAxes axes = axesOf({{speed, -0.1F, 5}});
-        EXPECT_EQ(std::fmod(axes.scale.vmax, static_cast<float>(axes.thicks.v)), 0) << speed;
-        EXPECT_GE(axes.scale.vmax, speed);
+        const PlotAxes axes = axesOf({{speed, -0.1F, 5}});
+        EXPECT_EQ(std::fmod(axes.speed.max, static_cast<float>(axes.speed.ticks)), 0) << speed;
+        EXPECT_GE(axes.speed.max, speed);
     }
 }
 
 TEST(FitAxes, holdsWhatASingleHolds)
 {
-    const FittedAxes axes = axesOf({{3.4e38F, 0.1F, 3.4e38F}});
-    EXPECT_TRUE(std::isfinite(axes.scale.vmax));
-    EXPECT_TRUE(std::isfinite(axes.scale.fmax));
-    EXPECT_GT(axes.scale.vmax, 1e37F);
+    const PlotAxes axes = axesOf({{3.4e38F, 0.1F, 3.4e38F}});
+    EXPECT_TRUE(std::isfinite(axes.speed.max));
+    EXPECT_TRUE(std::isfinite(axes.frequency.max));
+    EXPECT_GT(axes.speed.max, 1e37F);
 }

@@ -91,8 +91,8 @@ TEST(OldWorkspace, hasItsRichTextsAsTheControlGaveThem)
 TEST(OldWorkspace, hasNumbersWithoutLeadingZeroAndWithExponent)
 {
     const PlotRecord plot = readDrawn(oldWorkspace).plots.at(0);
-    EXPECT_EQ(plot.velAxis, (AxisRecord {"V(keas)", 0, 650, 14}));
-    EXPECT_EQ(plot.gAxis, (AxisRecord {"g", 0.05000001F, -0.25F, 4}));
+    EXPECT_EQ(plot.axes.speed, (AxisValues {"V(keas)", 0, 650, 14}));
+    EXPECT_EQ(plot.axes.damping, (AxisValues {"g", 0.05000001F, -0.25F, 4}));
 }
 
 TEST(OldWorkspace, staysWhatItIsWhenItIsSavedAgain)

@@ -104,7 +104,7 @@ TEST(WorkspaceReader, roundsWholeNumbersToTheNearestEvenOne)
 {
     const WorkspaceRecord record = readDrawn(with(with(whole, "g|0|-0.25|5", "g|0|-0.25|4.5"),
                                                   "=1|3||8|5|1|", "=1|3|| 8.5 |7.5|-2.5D0|"));
-    EXPECT_EQ(record.plots[0].gAxis.ticks, 4);
+    EXPECT_EQ(record.plots[0].axes.damping.ticks, 4);
     const SeriesRecord& series = record.plots[0].series[0];
     EXPECT_EQ(series.markerSize, 8);
     EXPECT_EQ(series.markerSpacing, 8);

@@ -32,7 +32,7 @@ private:
     std::string text();
     TextRecord box();
     std::vector<MarkRecord> marks();
-    AxisRecord axis() { return {field(), single(), single(), integer<std::int16_t>()}; }
+    AxisValues axis() { return {field(), single(), single(), integer<std::int16_t>()}; }
     SeriesRecord series();
     PlotRecord plot();
 
@@ -96,7 +96,7 @@ std::vector<MarkRecord> Generator::marks()
 
 PlotRecord Generator::plot()
 {
-    PlotRecord record {text(), box(), box(), box(), axis(), axis(), axis(), {}, {}, {}};
+    PlotRecord record {text(), box(), box(), box(), {axis(), axis(), axis()}, {}, {}, {}};
     for (std::size_t left = below(12); left > 0; --left)
         record.series.push_back(series());
     record.referenceSpeeds = marks();
@@ -154,7 +154,7 @@ TEST(WorkspaceRoundTrip, givesAWrittenWorkspaceAgain)
 TEST(WorkspaceRoundTrip, losesNothingWhereOnlyAllFieldsTogetherAreLong)
 {
     WorkspaceRecord record = readDrawn(wholeWorkspace);
-    record.plots[0].velAxis.label = std::string(mostStoredBytes, 'v');
+    record.plots[0].axes.speed.title = std::string(mostStoredBytes, 'v');
     record.plots[0].series[0].markerTag = std::string(mostStoredBytes, 't');
     record.plots[0].series[0].legendText = std::string(mostStoredBytes, 'l');
     const WrittenWorkspace written = writeWorkspace(record, "rivera");
@@ -168,12 +168,14 @@ TEST(WorkspaceRoundTrip, losesOnlyTheEndOfAFieldThatIsTooLong)
     const std::string longest(mostStoredBytes, 'x');
     WorkspaceRecord record = readDrawn(wholeWorkspace);
     PlotRecord& plot = record.plots[0];
-    for (std::string* const text : {&plot.velAxis.label, &plot.freqAxis.label, &plot.gAxis.label,
-                                    &plot.series[0].markerTag, &plot.series[1].legendText})
+    for (std::string* const text :
+         {&plot.axes.speed.title, &plot.axes.frequency.title, &plot.axes.damping.title,
+          &plot.series[0].markerTag, &plot.series[1].legendText})
         *text = longest;
     const WorkspaceRecord cut = record;
-    for (std::string* const text : {&plot.velAxis.label, &plot.freqAxis.label, &plot.gAxis.label,
-                                    &plot.series[0].markerTag, &plot.series[1].legendText})
+    for (std::string* const text :
+         {&plot.axes.speed.title, &plot.axes.frequency.title, &plot.axes.damping.title,
+          &plot.series[0].markerTag, &plot.series[1].legendText})
         *text += "beyond";
     const WrittenWorkspace written = writeWorkspace(record, "rivera");
     std::vector<std::string> keys;
@@ -195,7 +197,7 @@ TEST(WorkspaceRoundTrip, keepsEveryNumberHoweverLongTheTextsAre)
     for (unsigned seed = 0; seed < records; ++seed) {
         WorkspaceRecord record = Generator(seed, Kind::Clean).record();
         for (PlotRecord& plot : record.plots) {
-            plot.gAxis.label.insert(0, seed * 7, 'g');
+            plot.axes.damping.title.insert(0, seed * 7, 'g');
             for (MarkRecord& mark : plot.referenceSpeeds)
                 mark.caption.insert(0, seed * 7, 'm');
             for (SeriesRecord& series : plot.series)
@@ -204,7 +206,7 @@ TEST(WorkspaceRoundTrip, keepsEveryNumberHoweverLongTheTextsAre)
         WorkspaceRecord again = readBytes(writeWorkspace(record, "rivera").bytes);
         ASSERT_EQ(again.plots.size(), record.plots.size()) << seed;
         for (std::size_t j = 0; j < record.plots.size(); ++j) {
-            again.plots[j].gAxis.label = record.plots[j].gAxis.label;
+            again.plots[j].axes.damping.title = record.plots[j].axes.damping.title;
             ASSERT_EQ(again.plots[j].referenceSpeeds.size(),
                       record.plots[j].referenceSpeeds.size());
             for (std::size_t i = 0; i < record.plots[j].referenceSpeeds.size(); ++i)

@@ -102,9 +102,9 @@ inline WorkspaceRecord wholeRecord()
     plot.header = {"{\\rtf1 Wing\\par\r\n}\r\n", BoxPosition {1500, 120}};
     plot.mechanism = {"{\\rtf1 }", BoxPosition {1500.5, -30}};
     plot.legend = {"{\\rtf1 1\\par\r\n2\\par\r\n}\r\n", BoxPosition {9000, 600}};
-    plot.velAxis = {"V(keas)", 0, 700, 7};
-    plot.freqAxis = {"f(Hz)", 0, 50, 5};
-    plot.gAxis = {"g", 0, -0.25F, 5};
+    plot.axes.speed = {"V(keas)", 0, 700, 7};
+    plot.axes.frequency = {"f(Hz)", 0, 50, 5};
+    plot.axes.damping = {"g", 0, -0.25F, 5};
     plot.series = {{1, 3, "", 8, 5, 1, "clean", 255, 0},
                    {2, 1, "s", 10, 0, 2, "store, half full", 16711680, 32768}};
     return record;

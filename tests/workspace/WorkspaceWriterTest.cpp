@@ -106,7 +106,7 @@ TEST(WorkspaceWriter, writesEmptyForWhatIsAbsent)
 TEST(WorkspaceWriter, writesNumbersAsShortAsTheyCanBe)
 {
     WorkspaceRecord record = wholeRecord();
-    record.plots[0].gAxis = {"g", 0.1F, -1.0F / 3, -3};
+    record.plots[0].axes.damping = {"g", 0.1F, -1.0F / 3, -3};
     record.plots[0].header.position = BoxPosition {0.1, 1e6};
     const std::string bytes = written(record);
     // A single has nine digits at most; the one nearest to a third is 0.33333334.
@@ -186,7 +186,7 @@ TEST(WorkspaceWriter, writesLongValuesWholeAndNamesThem)
 TEST(WorkspaceWriter, refusesNumbersThatAreNone)
 {
     WorkspaceRecord record = wholeRecord();
-    record.plots[0].velAxis.max = std::numeric_limits<float>::infinity();
+    record.plots[0].axes.speed.max = std::numeric_limits<float>::infinity();
     expectOverflow(record, "[PLOT1], velAxis");
     record = wholeRecord();
     record.plots[0].legend.position->top = std::numeric_limits<double>::quiet_NaN();
