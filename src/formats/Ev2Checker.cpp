@@ -1,16 +1,17 @@
 #include "base/files/FileLines.h"
 #include "base/files/TextStream.h"
+#include "formats/CheckingSink.h"
 #include "formats/Ev2Format.h"
 #include "formats/Ev2Layout.h"
+#include "formats/Ev2Parser.h"
 #include "formats/FieldCountWatch.h"
 #include "formats/FindingList.h"
 #include "formats/FindingTexts.h"
-#include "formats/ModeWatch.h"
-#include "formats/ResultRow.h"
 
 #include <algorithm>
-#include <array>
+#include <map>
 #include <set>
+#include <string>
 #include <utility>
 
 namespace tarsil {
@@ -18,9 +19,6 @@ namespace tarsil {
 namespace {
 
 using ev2layout::KeyValue;
-
-constexpr std::array headers = {ev2layout::processingHeader, ev2layout::modelHeader,
-                                ev2layout::resultHeader};
 
 /// The text in capitals and without surrounding blanks: what remains when a header is spelled
 /// carelessly.
@@ -34,92 +32,61 @@ std::string plainForm(std::string_view text)
     return plain;
 }
 
-bool isAnyHeader(std::string_view line)
-{
-    return line.starts_with('[')
-        && std::find(headers.begin(), headers.end(), line) != headers.end();
-}
-
-class Ev2Checker
+class Ev2CheckingSink : public CheckingSink
 {
 public:
-    Ev2Checker(TextStream& stream, FindingList& findings)
-        : m_stream(stream), m_findings(findings),
-          m_modes(findings, ModeWatch::ModeEnds::WhenTheNumberChanges), m_fieldCounts(findings)
+    Ev2CheckingSink(TextStream& stream, FindingList& findings)
+        : CheckingSink(stream, findings, ModeWatch::ModeEnds::WhenTheNumberChanges),
+          m_searchStart(stream), m_fieldCounts(findings)
     { }
 
-    void check();
+    void startSearch() { m_searchStart = m_stream; }
+    bool findMissingSection(std::string_view header);
+    bool endsSection(std::string_view line);
+    bool acceptsModelLine(std::string_view line);
+
+    template <typename Key>
+    void setText(const Key& /*key*/, std::string_view /*value*/) const
+    { }
+    void setMach(float /*mach*/) const { }
+    void setCount(const ev2layout::CountKey& key, std::optional<std::int16_t> count);
+    void addToList(const ev2layout::ListKey& key, std::string_view index, const KeyValue& entry);
+
+    void addMissingIndex(const KeyValue& entry);
+    void addWrongValue(NumberStatus status, const KeyValue& entry);
+    void addMissingHeadings() { add("the file ends within the four heading lines of the results"); }
+
+    Point& newPoint(std::optional<std::int16_t> modeNumber);
+    void addShortRow(std::size_t fields, std::string_view line);
+    void startFactors(std::size_t fields, std::size_t step);
+    void endPoint(std::optional<std::int16_t> modeNumber, std::optional<float> speed);
+    void endRow(std::string_view line);
+    bool endRows();
+    void addRowAfterResults();
 
 private:
-    bool findHeader(std::string_view header);
-    bool readSectionLine(std::string_view& line);
-    void checkModelLine(const KeyValue& entry);
-    std::optional<std::int16_t> modelCount(const KeyValue& entry);
-    void checkListKey(std::string_view key, std::set<std::string_view>& known);
-    void checkResults();
-    void checkRow(std::string_view line);
-    void checkFactors();
-    std::optional<float> single(std::size_t index);
-    std::optional<std::int16_t> modeNumber();
-    void complain(NumberStatus status, std::size_t index);
-    void checkLineEnd(std::string_view line);
-    void compareModeCount();
-    void add(std::string text) { m_findings.add(m_stream.lineNumber(), std::move(text)); }
+    bool findSimilarHeader(std::string_view header);
 
-    TextStream& m_stream;
-    FindingList& m_findings;
-    ModeWatch m_modes;
+    TextStream m_searchStart; ///< where the search for a header began
     FieldCountWatch m_fieldCounts;
-    ResultRow m_row;
-    std::string_view m_pending; ///< a header met inside the section before it
-    std::set<std::string_view> m_modifications;
-    std::set<std::string_view> m_legends;
+    Point m_point; ///< of the row being read
+    std::map<std::string_view, std::set<std::string_view>> m_indexes; ///< of each list
     std::optional<int> m_declaredModes;
     std::size_t m_declaredModesLine = 0;
 };
 
-void Ev2Checker::check()
+/// A header that is spelled a little differently is taken after all, so that the rest is checked
+/// too. Without it the search for the next header begins where this one did.
+bool Ev2CheckingSink::findMissingSection(std::string_view header)
 {
-    std::string_view line;
-    if (findHeader(ev2layout::processingHeader)) {
-        while (readSectionLine(line)) { }
-    }
-    if (findHeader(ev2layout::modelHeader)) {
-        while (readSectionLine(line)) {
-            if (line.find('=') == std::string_view::npos)
-                add("no \"=\" stands between a key and its value: " + quotedTrimmed(line));
-            else
-                checkModelLine(ev2layout::splitAtFirstEqual(line));
-        }
-    }
-    if (findHeader(ev2layout::resultHeader))
-        checkResults();
-}
-
-/// Goes to the line after a header. One that is spelled a little differently is taken after all, so
-/// that the rest is checked too.
-bool Ev2Checker::findHeader(std::string_view header)
-{
-    if (!m_pending.empty())
-        return std::exchange(m_pending, {}) == header;
-    TextStream ahead = m_stream;
-    std::optional<TextStream> similar;
-    while (!ahead.atEndOfStream()) {
-        const std::string_view line = ahead.readLine();
-        if (line == header) {
-            m_stream = ahead;
-            return true;
-        }
-        if (!similar && line.find('[') != std::string_view::npos && plainForm(line) == header)
-            similar = ahead;
-    }
-    if (similar) {
-        m_stream = *similar;
+    const std::size_t lastLine = std::max<std::size_t>(m_stream.lineNumber(), 1);
+    m_stream = m_searchStart;
+    if (findSimilarHeader(header)) {
         add("the section header must be exactly \"" + std::string(header)
             + "\": the section is not found");
         return true;
     }
-    m_findings.add(std::max<std::size_t>(ahead.lineNumber(), 1),
+    m_findings.add(lastLine,
                    "the section \"" + std::string(header) + "\" is missing"
                        + (m_stream.lineNumber() == 0
                               ? ""
@@ -127,163 +94,119 @@ bool Ev2Checker::findHeader(std::string_view header)
     return false;
 }
 
-/// The next line of a section; false at the empty line, or the end of the file, that closes it.
-bool Ev2Checker::readSectionLine(std::string_view& line)
+/// Goes to the line after a similar header; stays where it is when there is none.
+bool Ev2CheckingSink::findSimilarHeader(std::string_view header)
 {
-    if (m_stream.atEndOfStream())
-        return false;
-    line = m_stream.readLine();
-    if (isAnyHeader(line)) {
-        add("an empty line is missing before \"" + std::string(line)
-            + "\": the section is not found");
-        m_pending = line;
-        return false;
+    TextStream ahead = m_stream;
+    while (!ahead.atEndOfStream()) {
+        const std::string_view line = ahead.readLine();
+        if (line.find('[') != std::string_view::npos && plainForm(line) == header) {
+            m_stream = ahead;
+            return true;
+        }
     }
-    return !line.empty();
+    return false;
 }
 
-void Ev2Checker::checkModelLine(const KeyValue& entry)
+bool Ev2CheckingSink::endsSection(std::string_view line)
 {
-    if (entry.key == "Mach_number") {
-        float mach = 0;
-        if (const NumberStatus status = parseSingle(entry.value, mach); status != NumberStatus::Ok)
-            add("Mach_number: the value " + numberComplaint(status, entry.value));
-    } else if (entry.key == "Struct_modes") {
-        modelCount(entry);
-    } else if (entry.key == "Aeroel_modes") {
-        m_declaredModes = modelCount(entry);
+    constexpr auto& headers = ev2layout::headers;
+    if (!line.starts_with('[') || std::find(headers.begin(), headers.end(), line) == headers.end())
+        return false;
+    add("an empty line is missing before \"" + std::string(line) + "\": the section is not found");
+    return true;
+}
+
+bool Ev2CheckingSink::acceptsModelLine(std::string_view line)
+{
+    const bool hasEqual = line.find('=') != std::string_view::npos;
+    if (!hasEqual)
+        add("no \"=\" stands between a key and its value: " + quotedTrimmed(line));
+    return hasEqual;
+}
+
+void Ev2CheckingSink::setCount(const ev2layout::CountKey& key, std::optional<std::int16_t> count)
+{
+    if (key.member == &EVM::na) {
+        m_declaredModes = count;
         m_declaredModesLine = m_stream.lineNumber();
-    } else if (entry.key == "No_of_speeds") {
-        if (const auto speeds = modelCount(entry))
-            m_modes.declareSpeeds(*speeds);
-    } else {
-        if (entry.key.find("Modif") != std::string_view::npos)
-            checkListKey(entry.key, m_modifications);
-        if (entry.key.find("Legend") != std::string_view::npos)
-            checkListKey(entry.key, m_legends);
+    } else if (key.member == &EVM::numberOfSpeeds && count) {
+        m_modes.declareSpeeds(*count);
     }
 }
 
-std::optional<std::int16_t> Ev2Checker::modelCount(const KeyValue& entry)
+void Ev2CheckingSink::addToList(const ev2layout::ListKey& key, std::string_view index,
+                                const KeyValue& entry)
 {
-    std::int16_t number = 0;
-    const NumberStatus status = parseInteger16(entry.value, number);
-    if (status == NumberStatus::Ok)
-        return number;
+    if (!m_indexes[key.name].insert(index).second)
+        add("the key " + quotedTrimmed(entry.key) + " comes twice");
+}
+
+void Ev2CheckingSink::addMissingIndex(const KeyValue& entry)
+{
+    add("the key " + quotedTrimmed(entry.key) + " has no index in parentheses");
+}
+
+void Ev2CheckingSink::addWrongValue(NumberStatus status, const KeyValue& entry)
+{
     add(std::string(entry.key) + ": the value " + numberComplaint(status, entry.value));
-    return std::nullopt;
 }
 
-void Ev2Checker::checkListKey(std::string_view key, std::set<std::string_view>& known)
+Point& Ev2CheckingSink::newPoint(std::optional<std::int16_t> /*modeNumber*/)
 {
-    const std::optional<std::string_view> index = ev2layout::entryKey(key);
-    if (!index)
-        add("the key " + quotedTrimmed(key) + " has no index in parentheses");
-    else if (!known.insert(*index).second)
-        add("the key " + quotedTrimmed(key) + " comes twice");
+    m_point = Point();
+    return m_point;
 }
 
-void Ev2Checker::checkResults()
+void Ev2CheckingSink::addShortRow(std::size_t fields, std::string_view line)
 {
-    for (std::size_t i = 0; i < ev2layout::headingLines; ++i) {
-        if (m_stream.atEndOfStream()) {
-            add("the file ends within the four heading lines of the results");
-            return;
-        }
-        m_stream.readLine();
-    }
-    std::string_view line;
-    while (readSectionLine(line)) {
-        checkRow(line);
-        checkLineEnd(line);
-    }
-    m_modes.finish();
-    m_fieldCounts.finish();
-    compareModeCount();
-    while (!m_stream.atEndOfStream()) {
-        m_row.split(m_stream.readLine(), '|');
-        if (m_row.count() > resultfield::frequency) {
-            add("this row stands after the empty line that ends the results, and is not read");
-            return;
-        }
-    }
+    add("a result row has at least 8 fields, this one only " + std::to_string(fields) + ": "
+        + quotedTrimmed(line));
 }
 
-void Ev2Checker::checkRow(std::string_view line)
+void Ev2CheckingSink::startFactors(std::size_t fields, std::size_t /*step*/)
 {
-    m_row.split(line, '|');
-    if (m_row.count() <= resultfield::frequency) {
-        add("a result row has at least 8 fields, this one only " + std::to_string(m_row.count())
-            + ": " + quotedTrimmed(line));
-        return;
-    }
-    const std::optional<std::int16_t> number = modeNumber();
-    single(resultfield::imaginaryPart);
-    single(resultfield::realPart);
-    const std::optional<float> speed = single(resultfield::speed);
-    single(resultfield::damping);
-    single(resultfield::frequency);
-    checkFactors();
-    m_modes.addPoint(m_stream.lineNumber(), number, speed);
+    m_fieldCounts.addRow(m_stream.lineNumber(), fields);
 }
 
-void Ev2Checker::checkFactors()
+void Ev2CheckingSink::endPoint(std::optional<std::int16_t> modeNumber, std::optional<float> speed)
 {
-    m_fieldCounts.addRow(m_stream.lineNumber(), m_row.count());
-    const std::size_t step = ev2layout::factorStep(m_row.count());
-    for (std::size_t i = 0; step > 0 && i < ParticipationFactors::capacity; ++i)
-        single(resultfield::firstFactor + i * step);
-}
-
-std::optional<float> Ev2Checker::single(std::size_t index)
-{
-    float value = 0;
-    const NumberStatus status = parseSingle(m_row.field(index), value);
-    if (status == NumberStatus::Ok)
-        return value;
-    complain(status, index);
-    return std::nullopt;
-}
-
-std::optional<std::int16_t> Ev2Checker::modeNumber()
-{
-    std::int16_t value = 0;
-    const NumberStatus status = parseInteger16(m_row.field(resultfield::modeNumber), value);
-    if (status == NumberStatus::Ok)
-        return value;
-    complain(status, resultfield::modeNumber);
-    return std::nullopt;
-}
-
-void Ev2Checker::complain(NumberStatus status, std::size_t index)
-{
-    add("field " + std::to_string(index) + " (" + std::string(resultfield::content(index))
-        + "): " + numberComplaint(status, m_row.field(index)));
+    m_modes.addPoint(m_stream.lineNumber(), modeNumber, speed);
 }
 
 /// A row in which the file ends may have lost the end of its last field, too.
-void Ev2Checker::checkLineEnd(std::string_view line)
+void Ev2CheckingSink::endRow(std::string_view line)
 {
-    const std::string_view last = line.substr(line.rfind('|') + 1); // all of it without a "|"
+    const std::size_t bar = line.rfind(ev2layout::separator);
+    const std::string_view last = line.substr(bar + 1); // the whole line when it has no "|"
     if (isCutOff(m_stream, line) && !isBlankText(last))
         add("the file ends in this row without an end of line: its last field, "
             + quotedTrimmed(last) + ", may be cut");
 }
 
-void Ev2Checker::compareModeCount()
+bool Ev2CheckingSink::endRows()
 {
+    m_modes.finish();
+    m_fieldCounts.finish();
     if (m_declaredModes && std::cmp_not_equal(m_modes.modeCount(), *m_declaredModes))
         m_findings.addSummary(m_declaredModesLine,
                               std::to_string(*m_declaredModes)
                                   + " aeroelastic modes are declared, but the results hold "
                                   + std::to_string(m_modes.modeCount()));
+    return true;
+}
+
+void Ev2CheckingSink::addRowAfterResults()
+{
+    add("this row stands after the empty line that ends the results, and is not read");
 }
 
 } // namespace
 
 void checkEv2(TextStream& stream, FindingList& findings)
 {
-    Ev2Checker(stream, findings).check();
+    Ev2CheckingSink sink(stream, findings);
+    Ev2Parser(stream, sink).parse();
 }
 
 } // namespace tarsil

@@ -1,22 +1,55 @@
 #pragma once
 
+#include "model/EVM.h"
+
+#include <array>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 
+/// The sections of an .ev2 file, their keys, and what each key fills.
 namespace tarsil::ev2layout {
 
 constexpr std::string_view processingHeader = "[PROCESSING DATA INFO]";
 constexpr std::string_view modelHeader = "[MODEL DATA INFO]";
 constexpr std::string_view resultHeader = "[RESULT DATA SUMMARY]";
+inline constexpr std::array headers = {processingHeader, modelHeader, resultHeader};
 constexpr std::size_t headingLines = 4;
+constexpr char separator = '|';
 
-constexpr std::size_t mostFieldsWithoutFactors = 11;
-constexpr std::size_t fieldsOfNarrowRow = 21; ///< factors in every second field from 10 on
-constexpr std::size_t fieldsOfWideRow = 26; ///< factors in every third field from 10 on
-constexpr std::size_t narrowStep = 2;
-constexpr std::size_t wideStep = 3;
+/// A key and the member of `Owner` that its value fills.
+template <typename Value, typename Owner>
+struct Key
+{
+    std::string_view name;
+    Value Owner::*member;
+};
+
+using TextKey = Key<std::string, EVM>;
+using ParameterKey = Key<std::string, Param>;
+using CountKey = Key<std::int16_t, EVM>;
+using ListKey = Key<KeyedTexts, Param>;
+
+inline constexpr std::array processingTexts = {TextKey {"Program_version", &EVM::programVersion},
+                                               TextKey {"EV2_version", &EVM::ev2Version},
+                                               TextKey {"Running_date", &EVM::runningDate}};
+
+inline constexpr std::array modelTexts = {TextKey {"Nastran_version", &EVM::solverVersion},
+                                          TextKey {"Flutter_method", &EVM::flutterMethod}};
+inline constexpr std::array parameterTexts = {ParameterKey {"Airplane", &Param::Airplane},
+                                              ParameterKey {"Script", &Param::Script},
+                                              ParameterKey {"Mass_config", &Param::Mass},
+                                              ParameterKey {"Analysis_type", &Param::AnalysisType}};
+constexpr std::string_view machKey = "Mach_number";
+inline constexpr std::array modelCounts = {CountKey {"Struct_modes", &EVM::numberOfStructuralModes},
+                                           CountKey {"Aeroel_modes", &EVM::na},
+                                           CountKey {"No_of_speeds", &EVM::numberOfSpeeds}};
+
+/// Every key that contains one of these adds its value to a list: "Modif(2)".
+inline constexpr std::array lists = {ListKey {"Modif", &Param::modifications},
+                                     ListKey {"Legend", &Param::legends}};
 
 /// A key=value line: the text before the first "=", and the text after it.
 struct KeyValue
@@ -27,15 +60,15 @@ struct KeyValue
 
 inline KeyValue splitAtFirstEqual(std::string_view line)
 {
-    const std::size_t place = line.find('=');
-    if (place == std::string_view::npos)
+    const std::size_t equal = line.find('=');
+    if (equal == std::string_view::npos)
         return {line, {}};
-    return {line.substr(0, place), line.substr(place + 1)};
+    return {line.substr(0, equal), line.substr(equal + 1)};
 }
 
 /// The index of a list entry: the text between the parentheses of its key. Either parenthesis
 /// separates, the second piece counts; none when there is no parenthesis.
-inline std::optional<std::string_view> entryKey(std::string_view key)
+inline std::optional<std::string_view> entryIndex(std::string_view key)
 {
     const std::size_t open = key.find_first_of("()");
     if (open == std::string_view::npos)
@@ -44,12 +77,16 @@ inline std::optional<std::string_view> entryKey(std::string_view key)
     return rest.substr(0, rest.find_first_of("()"));
 }
 
-/// How many fields apart the participation factors of a row of so many fields are; 0: it has none.
+constexpr std::size_t fieldsOfNarrowRow = 21; ///< factors in every second field
+constexpr std::size_t fieldsOfWideRow = 26; ///< factors in every third field
+
+/// How many fields apart the participation factors of a row with this number of fields are; 0: it
+/// has none.
 constexpr std::size_t factorStep(std::size_t fields)
 {
     if (fields == fieldsOfNarrowRow)
-        return narrowStep;
-    return fields == fieldsOfWideRow ? wideStep : 0;
+        return 2;
+    return fields == fieldsOfWideRow ? 3 : 0;
 }
 
 } // namespace tarsil::ev2layout

@@ -3,10 +3,10 @@
 #include "base/user/RunTimeError.h"
 #include "formats/Ev2Format.h"
 #include "formats/Ev2Layout.h"
-#include "formats/ResultRow.h"
+#include "formats/Ev2Parser.h"
+#include "formats/ResultReadingSink.h"
 #include "model/EVM.h"
 
-#include <algorithm>
 #include <string>
 
 namespace tarsil {
@@ -15,149 +15,93 @@ namespace {
 
 using ev2layout::KeyValue;
 
-class Ev2Reader
+/// Fills the evolution.
+class Ev2ReadingSink : public ResultReadingSink
 {
 public:
-    Ev2Reader(TextStream& stream, EVM& evolution) : m_stream(stream), m_evolution(evolution) { }
+    using ResultReadingSink::ResultReadingSink;
 
-    void read();
+    void startSearch() const { }
+    [[noreturn]] bool findMissingSection(std::string_view header) const;
+    static bool endsSection(std::string_view /*line*/) { return false; }
+    static bool acceptsModelLine(std::string_view /*line*/) { return true; }
+
+    void setText(const ev2layout::TextKey& key, std::string_view value)
+    {
+        m_evolution.*key.member = decodeText(value);
+    }
+    void setText(const ev2layout::ParameterKey& key, std::string_view value)
+    {
+        m_evolution.Param.*key.member = decodeText(value);
+    }
+    void setMach(float mach) { m_evolution.Param.Mach = mach; }
+    void setCount(const ev2layout::CountKey& key, std::optional<std::int16_t> count);
+    void addToList(const ev2layout::ListKey& key, std::string_view index, const KeyValue& entry);
+
+    [[noreturn]] void addMissingIndex(const KeyValue& entry) const;
+    [[noreturn]] void addWrongValue(NumberStatus status, const KeyValue& entry) const;
+    void addMissingHeadings() { m_stream.readLine(); } // raises the error of the end of the file
+
+    void startFactors(std::size_t fields, std::size_t step);
+    void endPoint(std::optional<std::int16_t> /*modeNumber*/, std::optional<float> /*speed*/) const
+    { }
+    void endRow(std::string_view /*line*/) const { }
+    bool endRows();
+    void addRowAfterResults() const { }
 
 private:
-    void skipTo(std::string_view header);
-    bool readSectionLine(std::string_view& line);
-    void readProcessingLine(std::string_view line);
-    void readModelLine(const KeyValue& entry);
-    bool readModelText(const KeyValue& entry);
-    bool readModelNumber(const KeyValue& entry);
-    void addToList(KeyedTexts& list, const KeyValue& entry);
-    void readResults();
-
-    TextStream& m_stream;
-    EVM& m_evolution;
+    std::string whereIs(const KeyValue& entry) const;
 };
 
-void Ev2Reader::read()
+bool Ev2ReadingSink::findMissingSection(std::string_view header) const
 {
-    std::string_view line;
-    skipTo(ev2layout::processingHeader);
-    while (readSectionLine(line))
-        readProcessingLine(line);
-    skipTo(ev2layout::modelHeader);
-    while (readSectionLine(line))
-        readModelLine(ev2layout::splitAtFirstEqual(line));
-    skipTo(ev2layout::resultHeader);
-    readResults();
-}
-
-void Ev2Reader::skipTo(std::string_view header)
-{
-    while (!m_stream.atEndOfStream()) {
-        if (m_stream.readLine() == header)
-            return;
-    }
     throw RunTimeError(ErrorNumber::InputPastEndOfFile, "EVM",
                        m_stream.place() + ": no line \"" + std::string(header) + "\"");
 }
 
-/// The next line of a section; false at the empty line, or the end of the file, that closes it.
-bool Ev2Reader::readSectionLine(std::string_view& line)
+void Ev2ReadingSink::setCount(const ev2layout::CountKey& key, std::optional<std::int16_t> count)
 {
-    if (m_stream.atEndOfStream())
-        return false;
-    line = m_stream.readLine();
-    return !line.empty();
+    m_evolution.*key.member = count.value_or(0); // never without, since a wrong number is an error
 }
 
-void Ev2Reader::readProcessingLine(std::string_view line)
+void Ev2ReadingSink::addToList(const ev2layout::ListKey& key, std::string_view index,
+                               const KeyValue& entry)
 {
-    const auto [key, rest] = ev2layout::splitAtFirstEqual(line);
-    const std::string_view value = rest.substr(0, rest.find('='));
-    if (key == "Program_version")
-        m_evolution.programVersion = decodeText(value);
-    else if (key == "EV2_version")
-        m_evolution.ev2Version = decodeText(value);
-    else if (key == "Running_date")
-        m_evolution.runningDate = decodeText(value);
+    KeyedTexts& list = m_evolution.Param.*key.member;
+    if (list.find(index) != nullptr)
+        throw RunTimeError(ErrorNumber::KeyAlreadyAssociated, "EVM", whereIs(entry));
+    list.add(decodeText(index), decodeText(entry.value));
 }
 
-void Ev2Reader::readModelLine(const KeyValue& entry)
+void Ev2ReadingSink::addMissingIndex(const KeyValue& entry) const
 {
-    if (readModelText(entry) || readModelNumber(entry))
-        return;
-    if (entry.key.find("Modif") != std::string_view::npos)
-        addToList(m_evolution.Param.modifications, entry);
-    if (entry.key.find("Legend") != std::string_view::npos)
-        addToList(m_evolution.Param.legends, entry);
+    throw RunTimeError(ErrorNumber::SubscriptOutOfRange, "EVM",
+                       whereIs(entry) + " has no index in parentheses");
 }
 
-bool Ev2Reader::readModelText(const KeyValue& entry)
+void Ev2ReadingSink::addWrongValue(NumberStatus status, const KeyValue& entry) const
 {
-    const std::pair<std::string_view, std::string*> places[] = {
-        {"Nastran_version", &m_evolution.solverVersion},
-        {"Flutter_method", &m_evolution.flutterMethod},
-        {"Airplane", &m_evolution.Param.Airplane},
-        {"Script", &m_evolution.Param.Script},
-        {"Mass_config", &m_evolution.Param.Mass},
-        {"Analysis_type", &m_evolution.Param.AnalysisType}};
-    for (const auto& [key, text] : places) {
-        if (key == entry.key) {
-            *text = decodeText(entry.value);
-            return true;
-        }
-    }
+    addWrongNumber(status, entry.value, std::string(entry.key));
+}
+
+/// The last row that has or lacks factors for certain decides for the whole file.
+void Ev2ReadingSink::startFactors(std::size_t fields, std::size_t step)
+{
+    if (fields <= resultfield::mostWithoutFactors)
+        m_evolution.hasParticipationFactors = false;
+    else if (step > 0)
+        m_evolution.hasParticipationFactors = true;
+}
+
+bool Ev2ReadingSink::endRows()
+{
+    closeMode();
     return false;
 }
 
-bool Ev2Reader::readModelNumber(const KeyValue& entry)
+std::string Ev2ReadingSink::whereIs(const KeyValue& entry) const
 {
-    const auto where = [this, &entry] { return m_stream.place() + ", " + std::string(entry.key); };
-    if (entry.key == "Mach_number") {
-        m_evolution.Param.Mach = toSingle(entry.value, "EVM", where());
-        return true;
-    }
-    const std::pair<std::string_view, std::int16_t*> places[] = {
-        {"Struct_modes", &m_evolution.numberOfStructuralModes},
-        {"Aeroel_modes", &m_evolution.na},
-        {"No_of_speeds", &m_evolution.numberOfSpeeds}};
-    for (const auto& [key, number] : places) {
-        if (key != entry.key)
-            continue;
-        const NumberStatus status = parseInteger16(entry.value, *number);
-        if (status != NumberStatus::Ok)
-            throwNumberError(status, entry.value, "EVM", where());
-        return true;
-    }
-    return false;
-}
-
-void Ev2Reader::addToList(KeyedTexts& list, const KeyValue& entry)
-{
-    const std::optional<std::string_view> key = ev2layout::entryKey(entry.key);
-    const auto where = [this, &entry] {
-        return m_stream.place() + ": \"" + std::string(entry.key) + "\"";
-    };
-    if (!key)
-        throw RunTimeError(ErrorNumber::SubscriptOutOfRange, "EVM",
-                           where() + " has no index in parentheses");
-    if (list.find(*key) != nullptr)
-        throw RunTimeError(ErrorNumber::KeyAlreadyAssociated, "EVM", where());
-    list.add(decodeText(*key), decodeText(entry.value));
-}
-
-void Ev2Reader::readResults()
-{
-    for (std::size_t i = 0; i < ev2layout::headingLines; ++i)
-        m_stream.readLine();
-    ResultTable table(m_stream, m_evolution, '|');
-    while (table.readRow()) {
-        if (table.fieldCount() <= ev2layout::mostFieldsWithoutFactors) {
-            m_evolution.hasParticipationFactors = false;
-        } else if (const std::size_t step = ev2layout::factorStep(table.fieldCount()); step > 0) {
-            table.readFactors(step);
-            m_evolution.hasParticipationFactors = true;
-        }
-    }
-    table.closeMode();
+    return m_stream.place() + ": \"" + std::string(entry.key) + "\"";
 }
 
 } // namespace
@@ -165,7 +109,8 @@ void Ev2Reader::readResults()
 void readEv2(TextStream& stream, EVM& evolution)
 {
     evolution.isNewFormat = true;
-    Ev2Reader(stream, evolution).read();
+    Ev2ReadingSink sink(stream, evolution);
+    Ev2Parser(stream, sink).parse();
 }
 
 } // namespace tarsil

@@ -1,13 +1,15 @@
 #include "base/files/FileLines.h"
 #include "base/files/TextStream.h"
+#include "formats/CheckingSink.h"
 #include "formats/EvmFormat.h"
 #include "formats/EvmLayout.h"
+#include "formats/EvmParser.h"
 #include "formats/FindingList.h"
 #include "formats/FindingTexts.h"
-#include "formats/ModeWatch.h"
 
 #include <algorithm>
 #include <array>
+#include <string>
 #include <utility>
 
 namespace tarsil {
@@ -16,19 +18,16 @@ namespace {
 
 using evmlayout::Columns;
 
-constexpr std::size_t countLine = 4;
 constexpr std::array<const Columns*, 4> decimalColumns = {
     &evmlayout::reducedFrequency, &evmlayout::speed, &evmlayout::damping, &evmlayout::frequency};
 
-constexpr std::string_view blanks = " \t\r\n";
-
 std::size_t lengthWithoutBlankTail(std::string_view text)
 {
-    return text.find_last_not_of(blanks) + 1; // 0 when there is nothing but blanks
+    return text.find_last_not_of(" \t\r\n") + 1; // 0 when there is nothing but blanks
 }
 
-/// Whether these columns can be meant as a point: most numbers of one have a decimal point, or
-/// the stars of a number that did not fit. Tags do not look so.
+/// Whether a field can be meant as a point: most numbers of one have a decimal point, or the stars
+/// of a number that did not fit. Tags do not look so.
 bool looksLikePoint(std::string_view field)
 {
     const auto numbers = std::count_if(
@@ -38,226 +37,157 @@ bool looksLikePoint(std::string_view field)
     return numbers >= 3;
 }
 
-class EvmChecker
+bool isCount(std::string_view text)
+{
+    std::int16_t number = 0;
+    return parseInteger16(text, number) == NumberStatus::Ok;
+}
+
+class EvmCheckingSink : public CheckingSink
 {
 public:
-    EvmChecker(TextStream& stream, FindingList& findings)
-        : m_stream(stream), m_findings(findings),
-          m_modes(findings, ModeWatch::ModeEnds::WhenAllSpeedsAreThere),
+    EvmCheckingSink(TextStream& stream, FindingList& findings)
+        : CheckingSink(stream, findings, ModeWatch::ModeEnds::WhenAllSpeedsAreThere),
           m_blankTail(stream.rest().size() - lengthWithoutBlankTail(stream.rest()))
     { }
 
-    void check();
+    void addMissingCounts() { add("the file ends before line 4, which holds the counts"); }
+
+    void setSpeedCount(std::int16_t count)
+    {
+        m_declaredSpeeds = usable(count, evmlayout::speedCount);
+    }
+    void setModeCount(std::int16_t count) { m_declaredModes = usable(count, evmlayout::modeCount); }
+    void endCounts(std::string_view line);
+
+    bool wantsPoint() const { return !m_isOver && !allModesRead(); }
+    bool onlyBlanksLeft() const { return m_stream.rest().size() <= m_blankTail; }
+    bool accepts(const EvmField& field);
+    Point& newPoint(const EvmField& /*field*/) { return m_point; }
+    void endPoint(const EvmField& field, std::optional<std::int16_t> modeNumber, bool hasSpeed);
+
+    bool endPoints();
+    void addFieldAfterPoints(const EvmField& field);
 
 private:
-    bool readCountLine();
-    std::optional<int> count(const Columns& columns);
-    void explainShiftedCounts();
+    std::optional<int> usable(std::int16_t count, const Columns& columns);
     bool allModesRead() const;
-    bool onlyBlanksLeft() const { return m_stream.rest().size() <= m_blankTail; }
-    bool takeHalf();
-    void checkPoint();
-    void checkLineEnd();
-    void complainNoPoint();
-    std::optional<float> single(const Columns& columns);
-    std::optional<std::int16_t> modeNumber();
-    void complain(NumberStatus status, std::string_view text, const Columns& columns);
-    void compareModeCount();
+    void complainNoPoint(const EvmField& field);
+    void checkLineEnd(const EvmField& field);
+    std::string declaredText() const;
 
-    TextStream& m_stream;
-    FindingList& m_findings;
-    ModeWatch m_modes;
-    std::size_t m_blankTail; ///< bytes after the last one that is no blank
-    std::string_view m_line;
-    std::string_view m_half; ///< the half of the line that is looked at
-    std::size_t m_offset = 0; ///< 0 or 40: where it begins
-    bool m_hasLine = false;
-    bool m_isRightAligned = false; ///< a point had its last number at the end of its columns
+    std::size_t m_blankTail; ///< bytes after the last one that is not blank
+    std::optional<int> m_declaredSpeeds;
     std::optional<int> m_declaredModes;
+    bool m_isOver = false; ///< what follows is not understood
+    bool m_isRightAligned = false; ///< a point had its last number at the end of its columns
+    Point m_point; ///< the point being read
 };
 
-void EvmChecker::check()
+/// A count as it is declared; none when it cannot be used.
+std::optional<int> EvmCheckingSink::usable(std::int16_t count, const Columns& columns)
 {
-    if (!readCountLine())
-        return;
-    while (!allModesRead() && takeHalf()) {
-        if (looksLikePoint(m_half))
-            checkPoint();
-        else if (m_declaredModes)
-            complainNoPoint();
-        else // without the counts nothing but their look tells where the points end
-            break;
-    }
-    m_modes.finish();
-    if (m_declaredModes)
-        compareModeCount();
-}
-
-bool EvmChecker::readCountLine()
-{
-    while (m_stream.lineNumber() < countLine) {
-        if (m_stream.atEndOfStream()) {
-            m_findings.add(m_stream.lineNumber(),
-                           "the file ends before line 4, which holds the counts");
-            return false;
-        }
-        m_line = m_stream.readLine();
-    }
-    const std::optional<int> speeds = count(evmlayout::speedCount);
-    m_declaredModes = count(evmlayout::modeCount);
-    if (speeds && m_declaredModes) {
-        m_modes.declareSpeeds(*speeds);
-    } else {
-        m_declaredModes.reset(); // one count alone does not tell where the points end
-        explainShiftedCounts();
-    }
-    return true;
-}
-
-/// A count; none when it cannot be used.
-std::optional<int> EvmChecker::count(const Columns& columns)
-{
-    const std::string_view text = columns.of(m_line);
-    std::int16_t number = 0;
-    const NumberStatus status = parseInteger16(text, number);
-    if (status != NumberStatus::Ok) {
-        complain(status, text, columns);
-        return std::nullopt;
-    }
-    if (number > 0)
-        return number;
-    m_findings.add(countLine,
-                   "the " + std::string(columns.content) + " is declared as "
-                       + std::to_string(number));
+    if (count > 0)
+        return count;
+    add("the " + std::string(columns.content) + " is declared as " + std::to_string(count));
     return std::nullopt;
 }
 
-void EvmChecker::explainShiftedCounts()
+void EvmCheckingSink::endCounts(std::string_view line)
 {
-    std::int16_t number = 0;
-    const auto isCount = [&number](std::string_view text) {
-        return parseInteger16(text, number) == NumberStatus::Ok;
-    };
-    if (isCount(evmlayout::writtenSpeedCount.of(m_line))
-        && isCount(evmlayout::writtenModeCount.of(m_line)))
-        m_findings.add(countLine,
-                       "the counts stand in columns 56-59 and 64-67, as in an exported file; they "
-                       "are read from columns 61-64 and 65-72");
+    if (m_declaredSpeeds && m_declaredModes) {
+        m_modes.declareSpeeds(*m_declaredSpeeds);
+        return;
+    }
+    m_declaredModes.reset(); // with one count alone it is not known where the points end
+    if (isCount(evmlayout::writtenSpeedCount.of(line))
+        && isCount(evmlayout::writtenModeCount.of(line)))
+        add("the counts stand in columns 56-59 and 64-67, as in an exported file; they are read "
+            "from columns 61-64 and 65-72");
 }
 
-bool EvmChecker::allModesRead() const
+bool EvmCheckingSink::allModesRead() const
 {
     return m_declaredModes && std::cmp_greater_equal(m_modes.modeCount(), *m_declaredModes);
 }
 
-/// Goes on to the next half of a line; false when only blanks are left in the file.
-bool EvmChecker::takeHalf()
+/// Without the counts, the points end at the first field that does not look like one.
+bool EvmCheckingSink::accepts(const EvmField& field)
 {
-    if (m_hasLine && m_offset == 0) {
-        m_offset = evmlayout::fieldWidth;
-    } else {
-        if (onlyBlanksLeft())
-            return false;
-        m_line = m_stream.readLine();
-        m_hasLine = true;
-        m_offset = 0;
-    }
-    m_half = m_offset < m_line.size() ? m_line.substr(m_offset, evmlayout::fieldWidth)
-                                      : std::string_view();
-    return true;
+    if (looksLikePoint(field.text))
+        return true;
+    if (m_declaredModes)
+        complainNoPoint(field);
+    else
+        m_isOver = true;
+    return false;
 }
 
-void EvmChecker::checkPoint()
+/// The last field of the file may be blank.
+void EvmCheckingSink::complainNoPoint(const EvmField& field)
 {
-    const std::optional<std::int16_t> number = modeNumber();
-    single(evmlayout::reducedFrequency);
-    const std::optional<float> speed = single(evmlayout::speed);
-    single(evmlayout::damping);
-    single(evmlayout::frequency);
-    m_modes.addPoint(m_stream.lineNumber(), number, speed);
-    checkLineEnd();
+    const bool isBlank = isBlankText(field.text);
+    if (isBlank && onlyBlanksLeft())
+        return;
+    add("columns " + std::to_string(field.offset + 1) + "-"
+        + std::to_string(field.offset + evmlayout::fieldWidth)
+        + (isBlank ? ": blank, though more points follow"
+                   : ": no point, though more modes are declared: " + quotedTrimmed(field.text)));
+}
+
+void EvmCheckingSink::endPoint(const EvmField& field, std::optional<std::int16_t> modeNumber,
+                               bool hasSpeed)
+{
+    m_modes.addPoint(m_stream.lineNumber(), modeNumber,
+                     hasSpeed ? std::optional(m_point.speed) : std::nullopt);
+    checkLineEnd(field);
 }
 
 /// A line that ends before the last column of a point may have lost the end of its last number.
 /// Numbers at the left of their columns end where they like, unless the file ends with them.
-void EvmChecker::checkLineEnd()
+void EvmCheckingSink::checkLineEnd(const EvmField& field)
 {
-    const std::string_view last = evmlayout::frequency.of(m_half);
-    const bool endsInside =
-        m_half.size() < evmlayout::fieldWidth && !isBlankText(m_half.substr(m_half.size() - 1));
-    const std::string column = std::to_string(m_line.size());
-    if (endsInside && isCutOff(m_stream, m_line))
-        m_findings.add(m_stream.lineNumber(),
-                       "the file ends in column " + column
-                           + " of this line without an end of line: its last number may be cut");
+    const std::string_view last = evmlayout::frequency.of(field.text);
+    const bool endsInside = field.text.size() < evmlayout::fieldWidth
+        && !isBlankText(field.text.substr(field.text.size() - 1));
+    const std::string column = std::to_string(field.line.size());
+    if (endsInside && isCutOff(m_stream, field.line))
+        add("the file ends in column " + column
+            + " of this line without an end of line: its last number may be cut");
     else if (endsInside && m_isRightAligned)
-        m_findings.add(m_stream.lineNumber(),
-                       "the line ends in column " + column + ", but the points before it in column "
-                           + std::to_string(m_offset + evmlayout::fieldWidth)
-                           + ": its last number may be cut");
+        add("the line ends in column " + column + ", but the points before it in column "
+            + std::to_string(field.offset + evmlayout::fieldWidth)
+            + ": its last number may be cut");
     if (last.size() == evmlayout::frequency.width && isBlankText(last.substr(0, 1))
         && !isBlankText(last.substr(last.size() - 1)))
         m_isRightAligned = true;
 }
 
-/// The last half of the file may be blank.
-void EvmChecker::complainNoPoint()
+std::string EvmCheckingSink::declaredText() const
 {
-    const bool blank = isBlankText(m_half);
-    if (blank && onlyBlanksLeft())
-        return;
-    m_findings.add(
-        m_stream.lineNumber(),
-        "columns " + std::to_string(m_offset + 1) + "-"
-            + std::to_string(m_offset + evmlayout::fieldWidth)
-            + (blank ? ": blank, though more points follow"
-                     : ": no point, though more modes are declared: " + quotedTrimmed(m_half)));
+    return std::to_string(*m_declaredModes) + " aeroelastic modes";
 }
 
-std::optional<float> EvmChecker::single(const Columns& columns)
+/// Compares the modes found with the count of line 4.
+bool EvmCheckingSink::endPoints()
 {
-    float value = 0;
-    const std::string_view text = columns.of(m_half);
-    const NumberStatus status = parseSingle(text, value);
-    if (status == NumberStatus::Ok)
-        return value;
-    complain(status, text, columns);
-    return std::nullopt;
-}
-
-std::optional<std::int16_t> EvmChecker::modeNumber()
-{
-    std::int16_t value = 0;
-    const std::string_view text = evmlayout::modeNumber.of(m_half);
-    const NumberStatus status = parseInteger16(text, value);
-    if (status == NumberStatus::Ok)
-        return value;
-    complain(status, text, evmlayout::modeNumber);
-    return std::nullopt;
-}
-
-void EvmChecker::complain(NumberStatus status, std::string_view text, const Columns& columns)
-{
-    const std::size_t first = m_offset + columns.first + 1;
-    m_findings.add(m_stream.lineNumber(),
-                   "columns " + std::to_string(first) + "-"
-                       + std::to_string(first + columns.width - 1) + " ("
-                       + std::string(columns.content) + "): " + numberComplaint(status, text));
-}
-
-/// Compares the modes found with the count of line 4. The tags of an exported file, which follow
-/// the points, are none.
-void EvmChecker::compareModeCount()
-{
-    const std::string declared = std::to_string(*m_declaredModes) + " aeroelastic modes";
-    if (std::cmp_less(m_modes.wholeModeCount(), *m_declaredModes))
-        m_findings.addSummary(countLine,
-                              declared + " are declared, but only "
+    m_modes.finish();
+    const bool isShort =
+        m_declaredModes && std::cmp_less(m_modes.wholeModeCount(), *m_declaredModes);
+    if (isShort)
+        m_findings.addSummary(evmlayout::countLine,
+                              declaredText() + " are declared, but only "
                                   + std::to_string(m_modes.wholeModeCount())
                                   + " in the file have the declared number of points");
-    else if (takeHalf() && looksLikePoint(m_half))
+    return m_declaredModes && !isShort;
+}
+
+/// The tags of an exported file, which follow the points, are not points.
+void EvmCheckingSink::addFieldAfterPoints(const EvmField& field)
+{
+    if (looksLikePoint(field.text))
         m_findings.addSummary(m_stream.lineNumber(),
-                              "more points follow than the " + declared
+                              "more points follow than the " + declaredText()
                                   + " declared in line 4; they are not read");
 }
 
@@ -265,7 +195,8 @@ void EvmChecker::compareModeCount()
 
 void checkEvm(TextStream& stream, FindingList& findings)
 {
-    EvmChecker(stream, findings).check();
+    EvmCheckingSink sink(stream, findings);
+    EvmParser(stream, sink).parse();
 }
 
 } // namespace tarsil

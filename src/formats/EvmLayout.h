@@ -5,9 +5,10 @@
 #include <cstddef>
 #include <string_view>
 
+/// The columns of an .evm file.
 namespace tarsil::evmlayout {
 
-/// A group of columns of the fixed-column layout: first column (counted from 0) and width.
+/// A group of columns of a line or of a field: the first one (counted from 0) and how many.
 struct Columns
 {
     std::size_t first;
@@ -25,10 +26,13 @@ struct Columns
 struct NumberColumns : Columns
 {
     shortnumber::Shape usualShape;
+    std::string_view pattern; ///< for `formatNumber`
 };
 
-constexpr std::size_t headerLines = 4;
-constexpr std::size_t fieldWidth = 40;
+constexpr std::size_t countLine = 4; ///< number of the line that holds the counts
+constexpr std::size_t fieldWidth = 40; ///< each line has two fields of one point each
+constexpr std::size_t fieldsPerLine = 2;
+constexpr std::size_t lineWidth = fieldsPerLine * fieldWidth;
 constexpr std::size_t shortestField = 32; ///< one digit in the last column group
 
 // Line 4 as the reader takes it.
@@ -38,12 +42,17 @@ constexpr Columns modeCount {64, 8, "number of aeroelastic modes"};
 // Line 4 as the writer fills it.
 constexpr Columns writtenSpeedCount {55, 4, "number of speeds"};
 constexpr Columns writtenModeCount {63, 4, "number of aeroelastic modes"};
+constexpr std::string_view countPattern = "####";
 
-// A 40-column point field.
+// A point field.
 constexpr Columns modeNumber {0, 3, "mode number"};
-constexpr NumberColumns reducedFrequency {{3, 7, "reduced frequency"}, {3, false}};
-constexpr NumberColumns speed {{10, 9, "speed"}, {3, false}};
-constexpr NumberColumns damping {{19, 12, "damping"}, {5, true}};
-constexpr NumberColumns frequency {{31, 9, "frequency"}, {3, false}};
+constexpr std::string_view modeNumberPattern = "###";
+constexpr NumberColumns reducedFrequency {{3, 7, "reduced frequency"}, {3, false}, "##0.000"};
+constexpr NumberColumns speed {{10, 9, "speed"}, {3, false}, "####0.000"};
+constexpr NumberColumns damping {{19, 12, "damping"}, {5, true}, "0.00000E+00"};
+constexpr NumberColumns frequency {{31, 9, "frequency"}, {3, false}, "####0.000"};
+
+/// The tag of a mode, as the writer puts it after the points.
+constexpr std::size_t tagWidth = 4;
 
 } // namespace tarsil::evmlayout

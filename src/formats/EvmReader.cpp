@@ -1,188 +1,61 @@
-#include "base/files/FileLines.h"
 #include "base/files/TextStream.h"
-#include "base/numbers/Numbers.h"
-#include "base/numbers/ShortNumber.h"
 #include "formats/EvmFormat.h"
 #include "formats/EvmLayout.h"
+#include "formats/EvmParser.h"
+#include "formats/ReadingSink.h"
 #include "model/EVM.h"
 
-#include <algorithm>
-#include <cstring>
-#include <string>
+#include <memory>
 #include <utility>
 
 namespace tarsil {
 
 namespace {
 
-using evmlayout::Columns;
-
-/// Reads one file: keeps the current line and which half of it comes next.
-class EvmReader
+/// Makes modes of the points: as many points as there are speeds make a mode.
+class EvmReadingSink : public ReadingSink
 {
 public:
-    EvmReader(TextStream& stream, EVM& evolution) : m_stream(stream), m_evolution(evolution) { }
+    using ReadingSink::ReadingSink;
 
-    void read();
+    void addMissingCounts() { m_stream.readLine(); } // raises the error of the end of the file
+
+    void setSpeedCount(std::int16_t count) { m_evolution.numberOfSpeeds = count; }
+    void setModeCount(std::int16_t count) { m_evolution.na = count; }
+    void endCounts(std::string_view /*line*/) const { }
+
+    bool wantsPoint() const { return std::cmp_less(m_evolution.Modes.size(), m_evolution.na); }
+    bool onlyBlanksLeft() const { return m_stream.onlyBlanksLeft(); }
+    static bool accepts(const EvmField& /*field*/) { return true; }
+    Point& newPoint(const EvmField& field);
+    void endPoint(const EvmField& field, std::optional<std::int16_t> modeNumber, bool hasSpeed);
+
+    static bool endPoints() { return false; }
+    void addFieldAfterPoints(const EvmField& /*field*/) const { }
 
 private:
-    void readCounts();
-    bool takeField(std::string_view& field);
-    void readPoint(std::string_view field, Point& point);
-    void readModeNumber(std::string_view field);
-    float single(std::string_view field, const Columns& columns);
-    [[noreturn]] void fail(NumberStatus status, std::string_view text,
-                           const Columns& columns) const;
-    std::size_t expectedPoints() const;
-
-    TextStream& m_stream;
-    EVM& m_evolution;
-    std::string_view m_line;
-    std::size_t m_offset = 0; ///< 0 or 40: where the next field begins
-    bool m_hasLine = false;
-    std::int16_t m_modeNumber = 0;
-    std::string m_modeNumberText; ///< the columns that gave it
+    std::unique_ptr<AeMode> m_mode; ///< the mode being read; null between two modes
 };
 
-/// For columns known when this is compiled, so that reading them is made for their width.
-template <const evmlayout::NumberColumns& columns>
-bool readColumns(std::string_view field, float& value)
+Point& EvmReadingSink::newPoint(const EvmField& field)
 {
-    return shortnumber::readShaped(field.data() + columns.first, columns.width, columns.usualShape,
-                                   value);
-}
-
-/// Reads the four numbers of a field that has all its columns, and numbers of the usual form in
-/// them; false when it is otherwise, so that each has to be looked at.
-bool readUsualForm(std::string_view field, Point& point)
-{
-    float damping = 0;
-    const bool isUsual = field.size() == evmlayout::fieldWidth
-        && readColumns<evmlayout::reducedFrequency>(field, point.kfreq)
-        && readColumns<evmlayout::speed>(field, point.speed)
-        && readColumns<evmlayout::damping>(field, damping)
-        && readColumns<evmlayout::frequency>(field, point.f);
-    point.G = damping * -1.0F;
-    return isUsual;
-}
-
-bool sameModeNumber(std::string_view text, std::string_view other)
-{
-    constexpr std::size_t width = evmlayout::modeNumber.width;
-    return text.size() == width && other.size() == width
-        && std::memcmp(text.data(), other.data(), width) == 0;
-}
-
-/// Whether something stands in the last column of the damping: the quickest way to see that a
-/// field is not blank.
-bool hasDamping(std::string_view field)
-{
-    constexpr std::size_t last = evmlayout::damping.first + evmlayout::damping.width - 1;
-    return field.size() > last && field[last] > ' ';
-}
-
-void EvmReader::read()
-{
-    for (std::size_t i = 0; i < evmlayout::headerLines; ++i)
-        m_line = m_stream.readLine();
-    readCounts();
-    std::string_view field;
-    std::unique_ptr<AeMode> mode;
-    while (std::cmp_less(m_evolution.Modes.size(), m_evolution.na) && takeField(field)) {
-        if (!mode) {
-            mode = std::make_unique<AeMode>();
-            mode->Points.reserve(expectedPoints());
-        }
-        Point& point = mode->Points.emplace_back();
-        readPoint(field, point);
-        point.Parent = mode.get();
-        if (std::cmp_less(mode->Points.size(), m_evolution.numberOfSpeeds))
-            continue;
-        mode->Id = m_modeNumber;
-        mode->Parent = &m_evolution;
-        m_evolution.Modes.push_back(std::exchange(mode, nullptr));
+    if (!m_mode) {
+        m_mode = std::make_unique<AeMode>();
+        m_mode->Points.reserve(expectedPoints(field.line.size(), evmlayout::shortestField));
     }
+    Point& point = m_mode->Points.emplace_back();
+    point.Parent = m_mode.get();
+    return point;
 }
 
-void EvmReader::readCounts()
+void EvmReadingSink::endPoint(const EvmField& /*field*/, std::optional<std::int16_t> modeNumber,
+                              bool /*hasSpeed*/)
 {
-    for (const auto& [columns, count] :
-         {std::pair(&evmlayout::speedCount, &m_evolution.numberOfSpeeds),
-          std::pair(&evmlayout::modeCount, &m_evolution.na)}) {
-        const std::string_view text = columns->of(m_line);
-        const NumberStatus status = parseInteger16(text, *count);
-        if (status != NumberStatus::Ok)
-            fail(status, text, *columns);
-    }
-}
-
-/// The next 40-column field; false when only blanks are left in the file.
-bool EvmReader::takeField(std::string_view& field)
-{
-    if (m_hasLine && m_offset == 0) {
-        m_offset = evmlayout::fieldWidth;
-    } else {
-        m_offset = 0;
-        m_hasLine = !m_stream.atEndOfStream();
-        if (!m_hasLine)
-            return false;
-        m_line = m_stream.readLine();
-    }
-    field = m_offset < m_line.size() ? m_line.substr(m_offset, evmlayout::fieldWidth)
-                                     : std::string_view();
-    return hasDamping(field) || !isBlankText(m_line.substr(std::min(m_offset, m_line.size())))
-        || !m_stream.onlyBlanksLeft();
-}
-
-void EvmReader::readPoint(std::string_view field, Point& point)
-{
-    readModeNumber(field);
-    if (readUsualForm(field, point))
+    if (std::cmp_less(m_mode->Points.size(), m_evolution.numberOfSpeeds))
         return;
-    point.kfreq = single(field, evmlayout::reducedFrequency);
-    point.speed = single(field, evmlayout::speed);
-    // The file holds the damping with the opposite sign.
-    point.G = single(field, evmlayout::damping) * -1.0F;
-    point.f = single(field, evmlayout::frequency);
-}
-
-/// All points of a mode carry its number, so equal columns are read once.
-void EvmReader::readModeNumber(std::string_view field)
-{
-    const std::string_view text = evmlayout::modeNumber.of(field);
-    if (sameModeNumber(text, m_modeNumberText))
-        return;
-    const NumberStatus status = parseInteger16(text, m_modeNumber);
-    if (status != NumberStatus::Ok)
-        fail(status, text, evmlayout::modeNumber);
-    m_modeNumberText = text;
-}
-
-float EvmReader::single(std::string_view field, const Columns& columns)
-{
-    float value = 0;
-    const std::string_view text = columns.of(field);
-    const NumberStatus status = parseSingle(text, value);
-    if (status != NumberStatus::Ok)
-        fail(status, text, columns);
-    return value;
-}
-
-void EvmReader::fail(NumberStatus status, std::string_view text, const Columns& columns) const
-{
-    const std::size_t first = m_offset + columns.first + 1;
-    throwNumberError(status, text, "EVM",
-                     m_stream.place() + ", columns " + std::to_string(first) + "-"
-                         + std::to_string(first + columns.width - 1) + " ("
-                         + std::string(columns.content) + ")");
-}
-
-/// How many points the next mode can have: never more than the rest of the file can hold.
-std::size_t EvmReader::expectedPoints() const
-{
-    const auto declared = static_cast<std::size_t>(std::max<int>(m_evolution.numberOfSpeeds, 1));
-    const std::size_t bytesLeft = m_line.size() + m_stream.bytesLeft();
-    return std::min(declared, bytesLeft / evmlayout::shortestField + 1);
+    m_mode->Id = modeNumber.value_or(0); // never without, since a wrong number is an error
+    m_mode->Parent = &m_evolution;
+    m_evolution.Modes.push_back(std::exchange(m_mode, nullptr));
 }
 
 } // namespace
@@ -191,7 +64,8 @@ void readEvm(TextStream& stream, EVM& evolution)
 {
     evolution.isNewFormat = false;
     evolution.hasParticipationFactors = false;
-    EvmReader(stream, evolution).read();
+    EvmReadingSink sink(stream, evolution);
+    EvmParser(stream, sink).parse();
 }
 
 } // namespace tarsil

@@ -11,10 +11,10 @@ namespace tarsil {
 
 namespace {
 
-constexpr std::size_t lineWidth = 80;
-constexpr std::size_t fieldsPerLine = 2;
-constexpr std::size_t tagWidth = 4;
-constexpr std::size_t tagsPerLine = lineWidth / tagWidth;
+using evmlayout::tagWidth;
+
+constexpr std::size_t headLines = evmlayout::countLine - 1;
+constexpr std::size_t tagsPerLine = evmlayout::lineWidth / tagWidth;
 constexpr std::string_view lineEnd = "\r\n";
 
 std::string rightAligned(std::string text, std::size_t width)
@@ -24,7 +24,7 @@ std::string rightAligned(std::string text, std::size_t width)
     return text;
 }
 
-/// Gathers pieces into lines of so many pieces; the last, shorter line is written too.
+/// Gathers pieces into lines with the same number of pieces; a shorter last line is written too.
 class LineGatherer
 {
 public:
@@ -66,18 +66,20 @@ std::string numberColumn(const Point& point, const AeMode& mode, float value,
 
 std::string pointField(const AeMode& mode, const Point& point)
 {
-    return numberColumn(point, mode, mode.Id, "###", 3)
-        + numberColumn(point, mode, point.kfreq, "##0.000", 7)
-        + numberColumn(point, mode, point.speed, "####0.000", 9)
-        + numberColumn(point, mode, point.G, "0.00000E+00", 12)
-        + numberColumn(point, mode, point.f, "####0.000", 9);
+    const auto column = [&](const evmlayout::NumberColumns& columns, float value) {
+        return numberColumn(point, mode, value, columns.pattern, columns.width);
+    };
+    return numberColumn(point, mode, mode.Id, evmlayout::modeNumberPattern,
+                        evmlayout::modeNumber.width)
+        + column(evmlayout::reducedFrequency, point.kfreq) + column(evmlayout::speed, point.speed)
+        + column(evmlayout::damping, point.G) + column(evmlayout::frequency, point.f);
 }
 
 std::string countLine(const EVM& evolution)
 {
-    std::string line(lineWidth, ' ');
+    std::string line(evmlayout::lineWidth, ' ');
     const auto put = [&line](const evmlayout::Columns& columns, std::int16_t count) {
-        const std::string text = formatNumber(static_cast<float>(count), "####");
+        const std::string text = formatNumber(static_cast<float>(count), evmlayout::countPattern);
         if (text.size() > columns.width)
             throw RunTimeError(ErrorNumber::InvalidProcedureCall, "EVM",
                                std::string(columns.content) + " " + text
@@ -120,10 +122,10 @@ std::string tagColumn(const AeMode& mode)
 std::string evmText(const EVM& evolution)
 {
     std::string text;
-    for (int i = 0; i < 3; ++i)
+    for (std::size_t i = 0; i < headLines; ++i)
         text += lineEnd;
     text.append(countLine(evolution)).append(lineEnd);
-    LineGatherer fields(text, fieldsPerLine);
+    LineGatherer fields(text, evmlayout::fieldsPerLine);
     for (const auto& mode : evolution.Modes) {
         for (const Point& point : mode->Points)
             fields.add(pointField(*mode, point));

@@ -2,6 +2,7 @@
 
 #include "formats/Ev2Layout.h"
 #include "formats/FindingList.h"
+#include "formats/ResultRow.h"
 
 namespace tarsil {
 
@@ -31,7 +32,7 @@ void FieldCountWatch::closeRun()
 {
     const bool isOther = m_fields != m_usual;
     const bool isOdd =
-        m_fields > ev2layout::mostFieldsWithoutFactors && ev2layout::factorStep(m_fields) == 0;
+        m_fields > resultfield::mostWithoutFactors && ev2layout::factorStep(m_fields) == 0;
     if (m_fields == 0 || (!isOther && !isOdd))
         return;
     std::string text = std::to_string(m_fields) + " fields";
@@ -50,7 +51,7 @@ void FieldCountWatch::followFactors(std::size_t line, std::size_t fields)
 {
     if (ev2layout::factorStep(fields) > 0) {
         m_hasFactors = true;
-    } else if (fields <= ev2layout::mostFieldsWithoutFactors && m_hasFactors) {
+    } else if (fields <= resultfield::mostWithoutFactors && m_hasFactors) {
         m_hasFactors = false;
         m_lineWithoutFactors = line;
     }

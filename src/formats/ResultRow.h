@@ -1,21 +1,10 @@
 #pragma once
 
-#include "base/numbers/Numbers.h"
-#include "base/numbers/ShortNumber.h"
-#include "model/Point.h"
-
 #include <array>
 #include <cstddef>
-#include <cstdint>
-#include <memory>
-#include <string>
 #include <string_view>
 
 namespace tarsil {
-
-class AeMode;
-class EVM;
-class TextStream;
 
 /// One row of a result table, cut at its separator. Only the first fields are kept, but all are
 /// counted.
@@ -39,7 +28,7 @@ private:
     std::size_t m_count = 0;
 };
 
-/// The fields that every result table has in the same places, counted from 0.
+/// The fields that every result table has at the same positions, counted from 0.
 namespace resultfield {
 constexpr std::size_t modeNumber = 0;
 constexpr std::size_t imaginaryPart = 2;
@@ -47,44 +36,24 @@ constexpr std::size_t realPart = 3;
 constexpr std::size_t speed = 5;
 constexpr std::size_t damping = 6;
 constexpr std::size_t frequency = 7;
+constexpr std::size_t fewest = 8; ///< fields of a row
 constexpr std::size_t firstFactor = 10;
+constexpr std::size_t mostWithoutFactors = 11; ///< fields of a row
 
 /// What a field holds, for messages.
 std::string_view content(std::size_t index);
 } // namespace resultfield
 
-/// Turns the rows of a result table into modes and points: a row of another mode number closes the
-/// mode before it.
-class ResultTable
+/// For texts of a few characters, which a loop compares sooner than a library call.
+inline bool sameShortText(std::string_view a, std::string_view b)
 {
-public:
-    ResultTable(TextStream& stream, EVM& evolution, char separator);
-
-    /// Reads the stream's next line as a row; false when it is empty or the stream has ended.
-    bool readRow();
-
-    /// Reads the participation factors of the row just read from every `step`-th field.
-    void readFactors(std::size_t step);
-
-    std::size_t fieldCount() const { return m_row.count(); }
-
-    /// Appends the mode being built, if there is one.
-    void closeMode();
-
-private:
-    void startMode(std::int16_t number);
-    float single(std::size_t index);
-    std::int16_t readModeNumber();
-    [[noreturn]] void fail(NumberStatus status, std::size_t index) const;
-
-    TextStream& m_stream;
-    EVM& m_evolution;
-    char m_separator;
-    ResultRow m_row;
-    std::unique_ptr<AeMode> m_mode;
-    std::string m_modeNumberText;
-    /// The shape of each field in the rows before: knowing it, the number needs no searching.
-    std::array<shortnumber::Shape, ResultRow::kept> m_shapes {};
-};
+    if (a.size() != b.size())
+        return false;
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        if (a[i] != b[i])
+            return false;
+    }
+    return true;
+}
 
 } // namespace tarsil

@@ -1,42 +1,106 @@
 #include "formats/SemicolonReader.h"
 
 #include "base/files/TextStream.h"
-#include "formats/Ev2Layout.h"
-#include "formats/ResultRow.h"
+#include "base/user/RunTimeError.h"
+#include "formats/ResultReadingSink.h"
+#include "formats/ResultRows.h"
 #include "model/EVM.h"
 
 #include <string>
+#include <string_view>
 
 namespace tarsil {
 
 namespace {
 
 constexpr std::string_view tableHeader = "[Result Data Summary]";
+constexpr char separator = ';';
+constexpr std::size_t factorStep = 2; ///< a factor in every second field
 
-/// The number after the last ";" of a line that contains `label`.
-void readCount(const TextStream& stream, std::string_view line, std::string_view label,
-               std::int16_t& count)
+struct CountLabel
 {
-    if (line.find(label) == std::string_view::npos)
+    std::string_view label;
+    std::int16_t EVM::*count;
+};
+
+/// A line that contains a label has its count after the last ";".
+constexpr CountLabel countLabels[] = {{"Struct. Modes:;;;", &EVM::numberOfStructuralModes},
+                                      {"Aeroel. Modes:;;;", &EVM::na},
+                                      {"No. of Speeds:;;;", &EVM::numberOfSpeeds}};
+
+class SemicolonReader
+{
+public:
+    SemicolonReader(TextStream& stream, EVM& evolution)
+        : m_stream(stream), m_evolution(evolution), m_sink(stream, evolution),
+          m_rows(m_sink, separator)
+    { }
+
+    void read();
+
+private:
+    bool readUpToTable();
+    void readCounts(std::string_view line);
+    void readFactors();
+
+    TextStream& m_stream;
+    EVM& m_evolution;
+    ResultReadingSink m_sink;
+    ResultRows<ResultReadingSink> m_rows;
+};
+
+void SemicolonReader::read()
+{
+    if (!readUpToTable() || m_stream.atEndOfStream())
         return;
-    const std::string_view text = line.substr(line.rfind(';') + 1);
-    const NumberStatus status = parseInteger16(text, count);
-    if (status != NumberStatus::Ok)
-        throwNumberError(status, text, "EVM", stream.place() + ", " + std::string(label));
+    m_stream.readLine(); // the headings
+    while (!m_stream.atEndOfStream()) {
+        const std::string_view line = m_stream.readLine();
+        if (line.empty())
+            break;
+        m_rows.read(line);
+        m_evolution.hasParticipationFactors = m_rows.fieldCount() > resultfield::mostWithoutFactors;
+        if (m_evolution.hasParticipationFactors)
+            readFactors();
+    }
+    m_sink.closeMode();
 }
 
 /// Reads the counts up to the header of the table; false when there is no table.
-bool readUpToTable(TextStream& stream, EVM& evolution)
+bool SemicolonReader::readUpToTable()
 {
-    while (!stream.atEndOfStream()) {
-        const std::string_view line = stream.readLine();
+    while (!m_stream.atEndOfStream()) {
+        const std::string_view line = m_stream.readLine();
         if (line == tableHeader)
             return true;
-        readCount(stream, line, "Struct. Modes:;;;", evolution.numberOfStructuralModes);
-        readCount(stream, line, "Aeroel. Modes:;;;", evolution.na);
-        readCount(stream, line, "No. of Speeds:;;;", evolution.numberOfSpeeds);
+        readCounts(line);
     }
     return false;
+}
+
+void SemicolonReader::readCounts(std::string_view line)
+{
+    for (const auto& [label, count] : countLabels) {
+        if (line.find(label) == std::string_view::npos)
+            continue;
+        const std::string_view text = line.substr(line.rfind(separator) + 1);
+        const NumberStatus status = parseInteger16(text, m_evolution.*count);
+        if (status != NumberStatus::Ok)
+            m_sink.addWrongNumber(status, text, std::string(label));
+    }
+}
+
+void SemicolonReader::readFactors()
+{
+    for (std::size_t i = 0; i < ParticipationFactors::capacity; ++i) {
+        const std::size_t index = resultfield::firstFactor + i * factorStep;
+        if (index >= m_rows.fieldCount())
+            throw RunTimeError(ErrorNumber::SubscriptOutOfRange, "EVM",
+                               m_stream.place() + ": no field " + std::to_string(index)
+                                   + " (participation factor) among "
+                                   + std::to_string(m_rows.fieldCount()));
+        m_rows.readFactor(index);
+    }
 }
 
 } // namespace
@@ -44,17 +108,7 @@ bool readUpToTable(TextStream& stream, EVM& evolution)
 void readSemicolonTable(TextStream& stream, EVM& evolution)
 {
     evolution.isNewFormat = true;
-    if (!readUpToTable(stream, evolution) || stream.atEndOfStream())
-        return;
-    stream.readLine(); // the headings
-    ResultTable table(stream, evolution, ';');
-    while (table.readRow()) {
-        const bool factors = table.fieldCount() > ev2layout::mostFieldsWithoutFactors;
-        if (factors)
-            table.readFactors(ev2layout::narrowStep);
-        evolution.hasParticipationFactors = factors;
-    }
-    table.closeMode();
+    SemicolonReader(stream, evolution).read();
 }
 
 } // namespace tarsil
