@@ -48,6 +48,38 @@ std::optional<std::vector<double>> commonRisingSpeeds(const EVM& evolution)
     return speeds;
 }
 
+/// |a - b|, without the care for overflow that eigenvalues do not need.
+double distance(std::complex<double> a, std::complex<double> b)
+{
+    const std::complex<double> d = a - b;
+    return std::sqrt(d.real() * d.real() + d.imag() * d.imag());
+}
+
+/// Whether each track's present root is the nearest to its prediction: then no other assignment
+/// costs less.
+bool isNearestEverywhere(const CostMatrix& costs, const std::vector<std::size_t>& columns)
+{
+    for (std::size_t row = 0; row < columns.size(); ++row) {
+        const double present = costs.at(row, columns[row]);
+        for (std::size_t column = 0; column < columns.size(); ++column) {
+            if (costs.at(row, column) < present)
+                return false;
+        }
+    }
+    return true;
+}
+
+/// The columns of least cost, or the present ones where they cost no more.
+std::vector<std::size_t> bestLabels(const CostMatrix& costs,
+                                    const std::vector<std::size_t>& present)
+{
+    if (isNearestEverywhere(costs, present))
+        return present;
+    std::vector<std::size_t> best = leastCostAssignment(costs);
+    const double limit = totalCost(costs, best) * (1 + keptLabelsTolerance) + keptLabelsTolerance;
+    return totalCost(costs, present) <= limit ? present : best;
+}
+
 /// Whether a track would pay less than twice as much after an exchange with some other track.
 bool isAmbiguous(const CostMatrix& costs, const std::vector<std::size_t>& columns,
                  std::size_t track)
@@ -148,11 +180,9 @@ bool ModeTracking::isJump(std::size_t point, std::size_t track,
                           std::complex<double> prediction) const
 {
     const std::complex<double> last = rootAt(point - 1, track);
-    const double step =
-        point < 2 ? 0 : std::abs(last - rootAt(point - 2, track)) * stepRatio(point);
-    const double distance = std::abs(rootAt(point, track) - prediction);
-    return distance > jumpFactor * std::max(step, jumpPart * std::abs(last))
-        && distance > leastJump;
+    const double step = point < 2 ? 0 : distance(last, rootAt(point - 2, track)) * stepRatio(point);
+    const double miss = distance(rootAt(point, track), prediction);
+    return miss > jumpFactor * std::max(step, jumpPart * std::abs(last)) && miss > leastJump;
 }
 
 void ModeTracking::trackStep(std::size_t point)
@@ -163,16 +193,11 @@ void ModeTracking::trackStep(std::size_t point)
     for (std::size_t t = 0; t < count; ++t) {
         predictions[t] = predictionAt(point, t);
         for (std::size_t mode = 0; mode < count; ++mode)
-            costs.at(t, mode) = std::abs(m_roots[point][mode] - predictions[t]);
+            costs.at(t, mode) = distance(m_roots[point][mode], predictions[t]);
     }
-    const std::vector<std::size_t>& present = m_modes[point - 1];
-    std::vector<std::size_t> best = leastCostAssignment(costs);
-    if (totalCost(costs, present)
-        <= totalCost(costs, best) * (1 + keptLabelsTolerance) + keptLabelsTolerance)
-        best = present;
-    m_modes[point] = best;
+    m_modes[point] = bestLabels(costs, m_modes[point - 1]);
     for (std::size_t t = 0; t < count; ++t) {
-        const TrackMark mark {point, t, isAmbiguous(costs, best, t),
+        const TrackMark mark {point, t, isAmbiguous(costs, m_modes[point], t),
                               isJump(point, t, predictions[t])};
         m_hasJumped[t] = mark.isJump;
         if (!mark.isAmbiguous && !mark.isJump)
@@ -185,6 +210,18 @@ void ModeTracking::trackStep(std::size_t point)
 bool ModeTracking::isMarked(std::size_t point, std::size_t track) const
 {
     return m_isMarked[point][track];
+}
+
+std::vector<ModeTracking::Move> ModeTracking::moves() const
+{
+    std::vector<Move> moves;
+    for (std::size_t point = 1; point < m_modes.size(); ++point) {
+        for (std::size_t track = 0; track < tracks(); ++track) {
+            if (m_modes[point][track] != m_modes[point - 1][track])
+                moves.push_back({point, track, m_modes[point - 1][track], m_modes[point][track]});
+        }
+    }
+    return moves;
 }
 
 void ModeTracking::exchange(std::size_t firstTrack, std::size_t secondTrack, std::size_t fromPoint)

@@ -53,6 +53,18 @@ public:
     /// Exchanges two tracks from a point (index) to the end, as the user says.
     void exchange(std::size_t firstTrack, std::size_t secondTrack, std::size_t fromPoint);
 
+    /// A track that follows another printed mode from a point on than before it.
+    struct Move
+    {
+        std::size_t point = 0; ///< index of the first point after the move
+        std::size_t track = 0;
+        std::size_t fromMode = 0; ///< indices of printed modes
+        std::size_t toMode = 0;
+    };
+
+    /// All moves, by point and track.
+    std::vector<Move> moves() const;
+
 private:
     using Roots = std::vector<std::complex<double>>;
 

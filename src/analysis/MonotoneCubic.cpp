@@ -52,6 +52,53 @@ double slopeAt(std::span<const CurvePoint> points, std::size_t i)
     return innerSlope(points, i);
 }
 
+/// A cubic over t in 0..1, by its values and slopes at both ends.
+class HermiteCubic
+{
+public:
+    HermiteCubic(double from, double to, double slopeFrom, double slopeTo)
+        : m_constant(from), m_linear(slopeFrom),
+          m_square(3 * (to - from) - 2 * slopeFrom - slopeTo),
+          m_cube(2 * (from - to) + slopeFrom + slopeTo)
+    { }
+
+    double value(double t) const
+    {
+        return m_constant + t * (m_linear + t * (m_square + t * m_cube));
+    }
+    double slope(double t) const { return m_linear + t * (2 * m_square + 3 * t * m_cube); }
+
+private:
+    double m_constant;
+    double m_linear;
+    double m_square;
+    double m_cube;
+};
+
+/// The zero of a cubic that rises, or falls, through it: Newton steps, and halvings of the interval
+/// where a step would leave it.
+double zeroBetween(const HermiteCubic& cubic, bool isRising)
+{
+    constexpr int mostSteps = 60;
+    constexpr double smallestStep = 1e-15;
+    double low = 0;
+    double high = 1;
+    double t = (low + high) / 2;
+    for (int i = 0; i < mostSteps; ++i) {
+        const double value = cubic.value(t);
+        if (value == 0)
+            return t;
+        ((value < 0) == isRising ? low : high) = t;
+        double next = t - value / cubic.slope(t);
+        if (!(next > low && next < high))
+            next = (low + high) / 2;
+        if (std::abs(next - t) <= smallestStep)
+            return next;
+        t = next;
+    }
+    return t;
+}
+
 } // namespace
 
 double zeroOfMonotoneCubic(std::span<const CurvePoint> points, std::size_t index)
@@ -61,24 +108,9 @@ double zeroOfMonotoneCubic(std::span<const CurvePoint> points, std::size_t index
     if (from.y == 0)
         return from.x;
     const double h = width(points, index);
-    const double slopeFrom = h * slopeAt(points, index);
-    const double slopeTo = h * slopeAt(points, index + 1);
-    const auto value = [&](double t) {
-        const double s = 1 - t;
-        return s * s * ((1 + 2 * t) * from.y + t * slopeFrom)
-            + t * t * ((3 - 2 * t) * to.y - s * slopeTo);
-    };
-    double low = 0;
-    double high = 1;
-    constexpr int halvings = 60;
-    for (int i = 0; i < halvings; ++i) {
-        const double middle = (low + high) / 2;
-        if ((value(middle) < 0) == (from.y < 0))
-            low = middle;
-        else
-            high = middle;
-    }
-    return from.x + h * (low + high) / 2;
+    const HermiteCubic cubic(from.y, to.y, h * slopeAt(points, index),
+                             h * slopeAt(points, index + 1));
+    return from.x + h * zeroBetween(cubic, from.y < 0);
 }
 
 } // namespace tarsil

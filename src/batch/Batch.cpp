@@ -15,9 +15,9 @@ namespace tarsil::batch {
 
 namespace {
 
-constexpr std::array<const Command*, 8> commands = {
-    &infoCommand,    &checkCommand, &reportCommand, &pictureCommand,
-    &convertCommand, &mixCommand,   &importCommand, &crossingsCommand};
+constexpr std::array<const Command*, 9> commands = {
+    &infoCommand, &checkCommand,  &reportCommand,    &pictureCommand, &convertCommand,
+    &mixCommand,  &importCommand, &crossingsCommand, &trackCommand};
 
 std::string programHelp()
 {

@@ -22,6 +22,7 @@ extern const Command convertCommand;
 extern const Command mixCommand;
 extern const Command importCommand;
 extern const Command crossingsCommand;
+extern const Command trackCommand;
 
 /// For commands that take as many files as there are.
 constexpr std::size_t anyNumber = static_cast<std::size_t>(-1);

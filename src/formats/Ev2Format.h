@@ -11,7 +11,7 @@ void readEv2(TextStream& stream, EVM& evolution);
 void checkEv2(TextStream& stream, FindingList& findings);
 
 /// The new format.
-constexpr EvolutionFormat ev2Format {"ev2",
+inline constexpr EvolutionFormat ev2Format {"ev2",
                                      "sections (.ev2)",
                                      ".ev2",
                                      "New Modal Evolution Files (*.ev2)|*.ev2|",

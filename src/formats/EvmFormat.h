@@ -11,7 +11,7 @@ void readEvm(TextStream& stream, EVM& evolution);
 void checkEvm(TextStream& stream, FindingList& findings);
 
 /// The old format.
-constexpr EvolutionFormat evmFormat {"evm",
+inline constexpr EvolutionFormat evmFormat {"evm",
                                      "fixed columns (.evm)",
                                      ".evm",
                                      "Modal Evolution Files (*.evm)|*.evm|",

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "analysis/ModeTracking.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarsil {
+
+class EVM;
+
+/// Two modes that the user exchanges from a speed on.
+struct ModeExchange
+{
+    std::int16_t firstMode = 0; ///< numbers of modes
+    std::int16_t secondMode = 0;
+    float aboveSpeed = 0; ///< KEAS; from the first point above it to the end
+};
+
+/// An evolution whose modes follow the roots, with what was moved.
+struct TrackedEvolution
+{
+    ModeTracking tracking;
+    std::vector<std::string> modifications; ///< a sentence for each exchange
+};
+
+/// Tracks an evolution, and then exchanges modes by hand. Error 5 for an evolution that cannot be
+/// tracked (`ModeTracking::obstacle`), for a number that names no mode or two equal ones, and for a
+/// speed that no point is above.
+TrackedEvolution trackEvolution(const EVM& evolution, const std::vector<ModeExchange>& exchanges);
+
+/// The file of a tracked evolution, made of the text of its source: numbers of points stay as they
+/// are, and each exchange is a modification in the header. Errors: those of `relabelledEv2`.
+std::string trackedText(std::string_view sourceText, const TrackedEvolution& tracked);
+
+/// The name of a tracked evolution: "wing_tracked.ev2" for "wing.ev2".
+std::string trackedName(std::string_view fileName);
+
+} // namespace tarsil

@@ -1,0 +1,144 @@
+#include "analysis/TrackedFile.h"
+#include "base/files/AtomicFile.h"
+#include "base/files/InputFile.h"
+#include "base/files/PathNames.h"
+#include "base/numbers/Numbers.h"
+#include "base/text/TextCodec.h"
+#include "batch/BatchRun.h"
+#include "batch/Commands.h"
+#include "batch/JsonWriter.h"
+#include "formats/Ev2Format.h"
+#include "formats/FormatTable.h"
+
+#include <array>
+#include <ostream>
+
+namespace tarsil::batch {
+
+namespace {
+
+constexpr std::array<std::string_view, 1> extensions = {".ev2"};
+
+std::int16_t modeNumber(std::string_view text)
+{
+    std::int16_t number = 0;
+    if (parseInteger16(text, number) != NumberStatus::Ok)
+        throw UsageError("--swap: two mode numbers and a speed are wanted, like 4,5@382.5");
+    return number;
+}
+
+/// "A,B@KEAS".
+ModeExchange exchangeOf(std::string_view text)
+{
+    const std::vector<std::string_view> parts = split(text, '@');
+    const std::vector<std::string_view> modes = split(parts.front(), ',');
+    constexpr std::size_t two = 2;
+    if (parts.size() != two || modes.size() != two)
+        throw UsageError("--swap: two mode numbers and a speed are wanted, like 4,5@382.5");
+    return {modeNumber(modes[0]), modeNumber(modes[1]),
+            static_cast<float>(numberOf(parts[1], "--swap"))};
+}
+
+std::vector<ModeExchange> exchangesOf(const CommandLine& line)
+{
+    std::vector<ModeExchange> exchanges;
+    for (const std::string& text : line.values("--swap"))
+        exchanges.push_back(exchangeOf(text));
+    return exchanges;
+}
+
+void writeMoves(JsonWriter& json, const EVM& evolution, const ModeTracking& tracking)
+{
+    const auto number = [&evolution](std::size_t mode) {
+        return std::to_string(evolution.Modes[mode]->Id);
+    };
+    json.key("moves");
+    json.beginArray();
+    for (const ModeTracking::Move& move : tracking.moves()) {
+        json.beginObject();
+        json.number("point_to", std::to_string(move.point + 1));
+        json.number("track", number(move.track));
+        json.number("from_mode", number(move.fromMode));
+        json.number("to_mode", number(move.toMode));
+        json.endObject();
+    }
+    json.endArray();
+}
+
+void writeMarks(JsonWriter& json, const EVM& evolution, const ModeTracking& tracking)
+{
+    json.key("marks");
+    json.beginArray();
+    for (const TrackMark& mark : tracking.marks()) {
+        json.beginObject();
+        json.number("point_to", std::to_string(mark.step + 1));
+        json.number("track", std::to_string(evolution.Modes[mark.track]->Id));
+        json.boolean("ambiguous", mark.isAmbiguous);
+        json.boolean("jump", mark.isJump);
+        json.endObject();
+    }
+    json.endArray();
+}
+
+void printJson(const EVM& evolution, const ModeTracking& tracking, std::ostream& out)
+{
+    JsonWriter json(out);
+    json.beginObject();
+    writeMoves(json, evolution, tracking);
+    writeMarks(json, evolution, tracking);
+    json.endObject();
+    out << '\n';
+}
+
+/// Where the tracked evolution goes: --output, or beside its source.
+std::string targetOf(const CommandLine& line, const std::string& source)
+{
+    if (line.has("--output"))
+        return outputOf(line, extensions);
+    const FilePath path = resolvePath(source);
+    return joinPath(path.folder, trackedName(path.name));
+}
+
+int runTrack(const CommandLine& line, BatchRun& run)
+{
+    const std::vector<ModeExchange> exchanges = exchangesOf(line);
+    const std::string& source = line.operands().front();
+    const bool isPrinted = line.has("--json");
+    const std::string target = targetOf(line, source);
+    refuseOutputOverInput(target, source);
+    const EVM& evolution = run.open(source);
+    if (findFormat(evolution.FileName) != &ev2Format)
+        throw Failure(source + " is no evolution with sections (.ev2), which tracking needs");
+    const TrackedEvolution tracked = trackEvolution(evolution, exchanges);
+    if (isPrinted)
+        printJson(evolution, tracked.tracking, run.out());
+    if (isPrinted && !line.has("--output"))
+        return done;
+    writeFile(target, trackedText(FileBytes(source).bytes(), tracked));
+    if (!isPrinted) {
+        run.out() << printableText(shownPath(target)) << '\n';
+        for (const std::string& modification : tracked.modifications)
+            run.out() << "  " << printableText(modification) << '\n';
+    }
+    return done;
+}
+
+constexpr std::array<OptionDescription, 3> options = {
+    {{"--json", "", "prints moves and marks; without --output nothing is written"},
+     {"--swap", "A,B@KEAS", "exchanges modes A and B above a speed, after the tracking", false,
+      true},
+     {"--output", "OUTPUT",
+      "the file to write, which ends in .ev2; without this option NAME_tracked.ev2\nbeside FILE"}}};
+
+} // namespace
+
+constinit const Command trackCommand {
+    {"track", "FILE", 1, "follows the roots where the labels of modes swap",
+     "Writes an evolution whose modes follow the roots by continuity of their\n"
+     "eigenvalues. Numbers of points stay as they are; every exchange of two modes is a\n"
+     "modification in the header. Limits: coarse steps, pairs that veer, and pairs that\n"
+     "become static roots are marked and not decided.",
+     options},
+    runTrack};
+
+} // namespace tarsil::batch
