@@ -24,7 +24,7 @@ std::vector<std::string> OpenFileDialog(UserInterface& userInterface, std::strin
 
 /// Reads modal evolutions and appends them to those of the session, in the order of `paths`. A file
 /// that is missing, or open already (also by way of another path), is skipped with a message; one
-/// that cannot be read leaves nothing behind and is reported when the others are loaded: several
+/// that cannot be read changes nothing and is reported when the others are loaded: several
 /// of them in one message, at most 8 by their reports.
 /// `refreshExplorer` is called once at the end when there are new evolutions, which are returned
 /// and stay the session's.
@@ -36,7 +36,7 @@ std::vector<EVM*> loadEvolutions(Session& session, const std::vector<std::string
 /// none.
 using ListedEvolutions = std::vector<EVM*>;
 
-/// The same for the files that a workspace lists: missing ones are told of in one message, at most
+/// The same for the files that a workspace lists: missing ones are reported in one message, at most
 /// 20 by their paths. An empty path is that of an entry which the list lacks, and missing as well.
 /// `refreshExplorer` gets what is returned.
 ListedEvolutions

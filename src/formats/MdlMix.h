@@ -19,11 +19,11 @@ constexpr std::string_view exportingStatus = "Exporting Mixed Modal Evolutions. 
 
 /// A mixed modal evolution: independent copies of the modes given, in their order. It declares as
 /// many modes as it holds and as many speeds as its longest mode has points. Error 91 for a null
-/// pointer in the place of a mode.
+/// pointer among the modes.
 std::unique_ptr<EVM> gather(const std::vector<const AeMode*>& modes);
 
 /// Asks for a file and writes the modes to it as one evolution in the fixed-column layout, whatever
-/// its name; the user is told where it is. Writes nothing when the user cancels; a failure is
+/// its name; a note tells the user where it is. Writes nothing when the user cancels; a failure is
 /// reported.
 void exportMixed(const std::vector<const AeMode*>& modes, UserInterface& userInterface);
 

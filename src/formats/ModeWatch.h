@@ -46,7 +46,7 @@ private:
     ModeEnds m_ends;
     std::optional<int> m_declaredSpeeds;
     std::map<std::int16_t, std::size_t> m_lastLineOfMode;
-    std::optional<std::int16_t> m_number; ///< of the current mode, once a point has told it
+    std::optional<std::int16_t> m_number; ///< of the current mode, once a point had one
     std::size_t m_line = 0;
     int m_points = 0; ///< of the current mode
     std::optional<float> m_speed;

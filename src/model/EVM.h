@@ -26,7 +26,7 @@ public:
     std::int16_t na = 0; ///< aeroelastic modes that the file declares
     std::int16_t numberOfSpeeds = 0; ///< points that the file declares for each mode
     std::int16_t numberOfStructuralModes = 0; ///< new format only
-    bool isNewFormat = false; ///< tells which fields of points and header mean something
+    bool isNewFormat = false; ///< which fields of points and header have a meaning
     bool hasParticipationFactors = false;
 
     // Header texts of the new format.

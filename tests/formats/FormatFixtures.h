@@ -8,13 +8,13 @@
 
 namespace tarsil::test {
 
-/// The start of an .evm file: three text lines and the line of counts, drawn as they stand in it.
+/// The start of an .evm file: three text lines and the line of counts.
 std::string evmHeader(std::string_view speeds, std::string_view modes);
 
 /// The start of an .ev2 file up to and including the four heading lines of its results.
 std::string ev2Header(std::string_view modelLines);
 
-/// An .ev2 row of so many fields: 1|1|2|3|...
+/// An .ev2 row with this number of fields: 1|1|2|3|...
 std::string ev2Row(std::size_t fields);
 
 /// What the three readers make of a text; `name` in messages is "wing.evm" and so on.
