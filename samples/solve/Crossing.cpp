@@ -20,21 +20,24 @@ Crossing crossingBetween(const FlutterPoint& left, const FlutterPoint& right)
     return crossing;
 }
 
+void appendCrossings(std::vector<Crossing>& crossings, const FlutterCurve& curve, int mode)
+{
+    for (std::size_t index = 1; index < curve.size(); ++index) {
+        if (!changesSign(curve[index - 1], curve[index]))
+            continue;
+        crossings.push_back(crossingBetween(curve[index - 1], curve[index]));
+        crossings.back().mode = mode;
+    }
+}
+
 } // namespace
 
 std::vector<Crossing> findCrossings(const FlutterCurves& curves)
 {
     std::vector<Crossing> crossings;
     int mode = 0;
-    for (const FlutterCurve& curve : curves) {
-        ++mode;
-        for (std::size_t index = 1; index < curve.size(); ++index) {
-            if (changesSign(curve[index - 1], curve[index])) {
-                crossings.push_back(crossingBetween(curve[index - 1], curve[index]));
-                crossings.back().mode = mode;
-            }
-        }
-    }
+    for (const FlutterCurve& curve : curves)
+        appendCrossings(crossings, curve, ++mode);
     return crossings;
 }
 

@@ -28,7 +28,12 @@ std::string numberedLines(const std::string& key, const std::vector<std::string>
     int number = 0;
     for (const std::string& text : texts) {
         ++number;
-        lines += key + "(" + std::to_string(number) + ")=" + text + "\n";
+        lines.append(key)
+            .append("(")
+            .append(std::to_string(number))
+            .append(")=")
+            .append(text)
+            .append("\n");
     }
     return lines;
 }

@@ -75,6 +75,28 @@ std::optional<RunTimeError> reportError(const FlutterReport& report,
     return test::errorOf([&] { report.write(rows, sheet); });
 }
 
+/// The headings of a report with up to two crossings and one factor.
+void expectHeadings(const Sheet& sheet)
+{
+    const std::vector<std::string> headings = {"Modal Evolution",
+                                               "Case",
+                                               "Mass",
+                                               "Mach No.",
+                                               "Aero Mode",
+                                               "gmax value",
+                                               "gmax speed",
+                                               "Flutter Speed",
+                                               "",
+                                               "Flutter Frequency",
+                                               "",
+                                               "Flutter Altitude",
+                                               "",
+                                               "MPF(1)",
+                                               ""};
+    for (std::size_t i = 0; i < headings.size(); ++i)
+        EXPECT_EQ(text(sheet, 1, i + 1), headings[i]) << "column " << i + 1;
+}
+
 } // namespace
 
 TEST(Report, asksInTheGivenWords)
@@ -97,23 +119,7 @@ TEST(Report, laysOutBlocksOfTheLargestNumberOfCrossings)
     Sheet sheet;
     FlutterReport(0, 350, noQuestion).write({{&first, "case A"}, {&second, "case B"}}, sheet);
 
-    const std::vector<std::string> headings = {"Modal Evolution",
-                                               "Case",
-                                               "Mass",
-                                               "Mach No.",
-                                               "Aero Mode",
-                                               "gmax value",
-                                               "gmax speed",
-                                               "Flutter Speed",
-                                               "",
-                                               "Flutter Frequency",
-                                               "",
-                                               "Flutter Altitude",
-                                               "",
-                                               "MPF(1)",
-                                               ""};
-    for (std::size_t i = 0; i < headings.size(); ++i)
-        EXPECT_EQ(text(sheet, 1, i + 1), headings[i]) << "column " << i + 1;
+    expectHeadings(sheet);
     EXPECT_EQ(sheet.rowCount(), 3U);
     EXPECT_EQ(sheet.columnCount(), 15U);
 

@@ -49,6 +49,18 @@ std::vector<std::string> linesOf(TextStream stream)
     return lines;
 }
 
+void expectWholeLines(FileLines& file, const std::string& text)
+{
+    std::string read;
+    while (file.bytesLeft() > 0) {
+        read += file.next();
+        EXPECT_EQ(read.size() + file.bytesLeft(), text.size());
+        EXPECT_TRUE(read == text || read.back() == '\n');
+    }
+    EXPECT_EQ(read, text);
+    EXPECT_EQ(file.next(), "");
+}
+
 TEST(FileLines, comeInPiecesOfWholeLines)
 {
     const TemporaryFolder folder;
@@ -57,14 +69,7 @@ TEST(FileLines, comeInPiecesOfWholeLines)
         for (const std::size_t piece : pieces) {
             SCOPED_TRACE(text + " in pieces of " + std::to_string(piece));
             FileLines file(path, piece);
-            std::string read;
-            while (file.bytesLeft() > 0) {
-                read += file.next();
-                EXPECT_EQ(read.size() + file.bytesLeft(), text.size());
-                EXPECT_TRUE(read == text || read.back() == '\n');
-            }
-            EXPECT_EQ(read, text);
-            EXPECT_EQ(file.next(), "");
+            expectWholeLines(file, text);
         }
     }
 }
