@@ -4,6 +4,7 @@
 #include "base/files/InputFile.h"
 #include "base/files/PathNames.h"
 #include "base/files/TextStream.h"
+#include "base/text/AsciiText.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -13,26 +14,9 @@ namespace tarsil {
 
 namespace {
 
-char lowered(char c)
-{
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-std::string_view withoutBlanksAround(std::string_view text)
-{
-    constexpr std::string_view blanks = " \t";
-    const std::size_t first = text.find_first_not_of(blanks);
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
-
 bool sameName(std::string_view a, std::string_view b)
 {
-    const std::string_view left = withoutBlanksAround(a);
-    const std::string_view right = withoutBlanksAround(b);
-    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-                      [](char x, char y) { return lowered(x) == lowered(y); });
+    return equalIgnoringAsciiCase(trimmed(a), trimmed(b));
 }
 
 template <typename Record>

@@ -4,6 +4,7 @@
 #include "analysis/XlsxWriter.h"
 #include "base/files/AtomicFile.h"
 #include "base/files/PathNames.h"
+#include "base/text/AsciiText.h"
 #include "base/text/TextCodec.h"
 #include "base/user/RunTimeError.h"
 
@@ -15,12 +16,7 @@ namespace {
 
 std::string lowerCaseExtension(std::string_view path)
 {
-    std::string extension = pathText(nativePath(path).extension());
-    for (char& c : extension) {
-        if (c >= 'A' && c <= 'Z')
-            c = static_cast<char>(c - 'A' + 'a');
-    }
-    return extension;
+    return asciiLower(pathText(nativePath(path).extension()));
 }
 
 std::string csvField(const std::string& text)

@@ -1,6 +1,7 @@
 #include "batch/CommandLine.h"
 
 #include "base/numbers/Numbers.h"
+#include "base/text/AsciiText.h"
 
 #include <algorithm>
 
@@ -209,11 +210,9 @@ std::string helpText(const CommandDescription& description)
 
 bool hasExtension(std::string_view path, std::span<const std::string_view> extensions)
 {
-    const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; };
-    const auto isAtEnd = [path, lower](std::string_view extension) {
+    const auto isAtEnd = [path](std::string_view extension) {
         return path.size() > extension.size()
-            && std::equal(extension.begin(), extension.end(), path.end() - extension.size(),
-                          [lower](char wanted, char found) { return wanted == lower(found); });
+            && equalIgnoringAsciiCase(path.substr(path.size() - extension.size()), extension);
     };
     return std::any_of(extensions.begin(), extensions.end(), isAtEnd);
 }

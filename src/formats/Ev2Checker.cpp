@@ -1,5 +1,5 @@
-#include "base/files/FileLines.h"
 #include "base/files/TextStream.h"
+#include "base/text/AsciiText.h"
 #include "formats/CheckingSink.h"
 #include "formats/Ev2Format.h"
 #include "formats/Ev2Layout.h"
@@ -19,18 +19,6 @@ namespace tarsil {
 namespace {
 
 using ev2layout::KeyValue;
-
-/// The text in capitals and without surrounding blanks: what remains when a header is spelled
-/// carelessly.
-std::string plainForm(std::string_view text)
-{
-    std::string plain(text);
-    plain.erase(0, plain.find_first_not_of(" \t"));
-    plain.erase(plain.find_last_not_of(" \t") + 1);
-    std::transform(plain.begin(), plain.end(), plain.begin(),
-                   [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c; });
-    return plain;
-}
 
 class Ev2CheckingSink : public CheckingSink
 {
@@ -100,7 +88,8 @@ bool Ev2CheckingSink::findSimilarHeader(std::string_view header)
     TextStream ahead = m_stream;
     while (!ahead.atEndOfStream()) {
         const std::string_view line = ahead.readLine();
-        if (line.find('[') != std::string_view::npos && plainForm(line) == header) {
+        if (line.find('[') != std::string_view::npos
+            && equalIgnoringAsciiCase(trimmed(line), header)) {
             m_stream = ahead;
             return true;
         }

@@ -1,5 +1,5 @@
-#include "base/files/FileLines.h"
 #include "base/files/TextStream.h"
+#include "base/text/AsciiText.h"
 #include "formats/CheckingSink.h"
 #include "formats/EvmFormat.h"
 #include "formats/EvmLayout.h"

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "base/files/FileLines.h"
 #include "base/files/TextStream.h"
 #include "base/numbers/Numbers.h"
 #include "base/numbers/ShortNumber.h"
+#include "base/text/AsciiText.h"
 #include "formats/EvmLayout.h"
 #include "model/Point.h"
 

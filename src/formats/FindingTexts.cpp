@@ -1,10 +1,8 @@
 #include "formats/FindingTexts.h"
 
-#include "base/files/FileLines.h"
 #include "base/files/TextStream.h"
+#include "base/text/AsciiText.h"
 #include "base/text/QuotedText.h"
-
-#include <algorithm>
 
 namespace tarsil {
 
@@ -22,8 +20,7 @@ std::string numberComplaint(NumberStatus status, std::string_view text)
 
 std::string quotedTrimmed(std::string_view text)
 {
-    text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
-    return quotedText(text.substr(0, text.find_last_not_of(" \t") + 1));
+    return quotedText(trimmed(text));
 }
 
 bool isCutOff(const TextStream& stream, std::string_view line)

@@ -14,7 +14,7 @@ namespace {
 constexpr std::string_view blanks = " \t\r\n";
 constexpr std::string_view lineEnds = "\r\n";
 
-std::string_view trimmed(std::string_view text)
+std::string_view withoutBlanksAndLineEnds(std::string_view text)
 {
     const std::size_t first = text.find_first_not_of(blanks);
     if (first == std::string_view::npos)
@@ -297,12 +297,12 @@ void SettingsText::addLine(std::size_t begin, std::size_t equals, std::size_t en
     if (text.starts_with('[')) {
         const std::size_t close = text.find(']');
         m_isWhole = m_isWhole && close != std::string_view::npos;
-        line.section = trimmed(text.substr(1, std::min(close, text.size()) - 1));
+        line.section = withoutBlanksAndLineEnds(text.substr(1, std::min(close, text.size()) - 1));
     } else if (equals == std::string_view::npos) {
         m_isWhole = false;
         return;
     } else {
-        line.key = trimmed(text.substr(0, equals - begin));
+        line.key = withoutBlanksAndLineEnds(text.substr(0, equals - begin));
     }
     m_lines.push_back(std::move(line));
     if (m_lines.back().key && !textOf(m_lines.back()))

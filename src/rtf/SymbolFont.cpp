@@ -1,5 +1,7 @@
 #include "rtf/SymbolFont.h"
 
+#include "base/text/AsciiText.h"
+
 #include <algorithm>
 #include <array>
 
@@ -39,9 +41,7 @@ char16_t ordinary(char16_t unit)
 
 bool isSymbolFace(std::string_view family)
 {
-    constexpr std::string_view name = "symbol";
-    return std::equal(family.begin(), family.end(), name.begin(), name.end(),
-                      [](char a, char b) { return (a >= 'A' && a <= 'Z' ? a + 32 : a) == b; });
+    return equalIgnoringAsciiCase(family, "symbol");
 }
 
 std::u16string ordinarySigns(std::u16string_view text)

@@ -1,6 +1,7 @@
 #include "workspace/IniText.h"
 
 #include "base/files/TextStream.h"
+#include "base/text/AsciiText.h"
 #include "base/text/TextCodec.h"
 #include "rtf/RtfStoredValue.h"
 
@@ -10,31 +11,11 @@ namespace tarsil {
 
 namespace {
 
-std::string_view withoutBlanks(std::string_view text)
-{
-    constexpr std::string_view blanks = " \t";
-    const std::size_t first = text.find_first_not_of(blanks);
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
-
 std::string_view withoutQuotes(std::string_view value)
 {
     if (value.size() >= 2 && value.front() == '"' && value.back() == '"')
         return value.substr(1, value.size() - 2);
     return value;
-}
-
-/// A name as it is compared: only the letters of ASCII have a case here.
-std::string comparable(std::string_view name)
-{
-    std::string text(name);
-    for (char& c : text) {
-        if (c >= 'A' && c <= 'Z')
-            c = static_cast<char>(c - 'A' + 'a');
-    }
-    return text;
 }
 
 bool continuesCharacter(char byte)
@@ -62,7 +43,7 @@ IniText::IniText(std::string_view bytes)
     TextStream stream(bytes, {});
     Section* current = nullptr;
     while (!stream.atEndOfStream()) {
-        const std::string_view text = withoutBlanks(stream.readLine());
+        const std::string_view text = trimmed(stream.readLine());
         addLine(text, stream.lineNumber(), current);
     }
     m_lines = stream.lineNumber();
@@ -73,7 +54,7 @@ void IniText::addLine(std::string_view text, std::size_t line, Section*& current
     if (text.starts_with('[')) {
         const std::size_t end = text.find(']');
         if (end != std::string_view::npos) {
-            const std::string name = comparable(withoutBlanks(text.substr(1, end - 1)));
+            const std::string name = asciiLower(trimmed(text.substr(1, end - 1)));
             current = &m_sections.try_emplace(name, Section {line}).first->second;
         }
         return;
@@ -82,24 +63,23 @@ void IniText::addLine(std::string_view text, std::size_t line, Section*& current
     if (current == nullptr || sign == std::string_view::npos)
         return;
     // Does nothing where the key is there already: the first one wins.
-    current->entries.try_emplace(
-        comparable(withoutBlanks(text.substr(0, sign))),
-        IniEntry {line, withoutQuotes(withoutBlanks(text.substr(sign + 1)))});
+    current->entries.try_emplace(asciiLower(trimmed(text.substr(0, sign))),
+                                 IniEntry {line, withoutQuotes(trimmed(text.substr(sign + 1)))});
 }
 
 std::optional<IniEntry> IniText::entry(std::string_view section, std::string_view key) const
 {
-    const auto found = m_sections.find(comparable(section));
+    const auto found = m_sections.find(asciiLower(section));
     if (found == m_sections.end())
         return std::nullopt;
     const auto& entries = found->second.entries;
-    const auto value = entries.find(comparable(key));
+    const auto value = entries.find(asciiLower(key));
     return value == entries.end() ? std::nullopt : std::optional(value->second);
 }
 
 std::optional<std::size_t> IniText::lineOfSection(std::string_view section) const
 {
-    const auto found = m_sections.find(comparable(section));
+    const auto found = m_sections.find(asciiLower(section));
     return found == m_sections.end() ? std::nullopt : std::optional(found->second.line);
 }
 

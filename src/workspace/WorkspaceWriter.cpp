@@ -1,6 +1,7 @@
 #include "workspace/WorkspaceWriter.h"
 
 #include "base/numbers/Numbers.h"
+#include "base/text/AsciiText.h"
 #include "base/text/TextCodec.h"
 #include "base/user/RunTimeError.h"
 #include "rtf/RtfStoredValue.h"
@@ -30,11 +31,6 @@ std::string oneLine(std::string_view text)
     std::replace_if(
         value.begin(), value.end(), [](char c) { return c == '\r' || c == '\n'; }, '\0');
     return value;
-}
-
-bool isBlank(char c)
-{
-    return c == ' ' || c == '\t';
 }
 
 /// Whether a reader would take something off the ends.

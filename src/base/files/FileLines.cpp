@@ -1,6 +1,7 @@
 #include "base/files/FileLines.h"
 
 #include "base/files/PathNames.h"
+#include "base/text/AsciiText.h"
 #include "base/user/RunTimeError.h"
 
 #include <algorithm>
@@ -62,11 +63,6 @@ bool FileLines::onlyBlanksLeft() const
             return false;
     }
     return true;
-}
-
-bool isBlankText(std::string_view text)
-{
-    return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
 }
 
 } // namespace tarsil

@@ -45,7 +45,4 @@ private:
     std::size_t m_tailSize = 0;
 };
 
-/// Whether a text has nothing but blanks, tabs and line ends.
-bool isBlankText(std::string_view text);
-
 } // namespace tarsil

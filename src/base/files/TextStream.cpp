@@ -1,6 +1,7 @@
 #include "base/files/TextStream.h"
 
 #include "base/files/FileLines.h"
+#include "base/text/AsciiText.h"
 #include "base/user/RunTimeError.h"
 
 namespace tarsil {

@@ -1,6 +1,7 @@
 #include "base/numbers/Numbers.h"
 
 #include "base/numbers/ShortNumber.h"
+#include "base/text/AsciiText.h"
 #include "base/text/QuotedText.h"
 #include "base/user/RunTimeError.h"
 
@@ -31,23 +32,9 @@ struct Decimal
     bool exact = true; ///< the mantissa holds all digits
 };
 
-bool isBlank(char c)
-{
-    return c == ' ' || c == '\t';
-}
-
 unsigned digitOf(char c)
 {
     return static_cast<unsigned>(static_cast<unsigned char>(c)) - unsigned {'0'};
-}
-
-std::string_view trimmed(std::string_view text)
-{
-    while (!text.empty() && isBlank(text.front()))
-        text.remove_prefix(1);
-    while (!text.empty() && isBlank(text.back()))
-        text.remove_suffix(1);
-    return text;
 }
 
 /// Reads the exponent that stands from `p` to the end; false when it is none.

@@ -1,5 +1,6 @@
 #include "base/text/CaseFolding.h"
 
+#include "base/text/AsciiText.h"
 #include "base/text/TextCodec.h"
 
 #include <algorithm>
@@ -57,11 +58,6 @@ char16_t smallLetter(char16_t unit)
     return isCapital ? static_cast<char16_t>(unit + 1) : unit;
 }
 
-char smallAsciiLetter(char c)
-{
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
 } // namespace
 
 std::string withoutCase(std::string_view utf8)
@@ -69,9 +65,7 @@ std::string withoutCase(std::string_view utf8)
     const bool isAscii = std::all_of(utf8.begin(), utf8.end(), [](char c) { return c >= 0; });
     if (isAscii || !isUtf8(utf8)) {
         // What is no text is compared by its bytes.
-        std::string bytes(utf8);
-        std::transform(bytes.begin(), bytes.end(), bytes.begin(), smallAsciiLetter);
-        return bytes;
+        return asciiLower(utf8);
     }
     std::u16string text = utf16FromUtf8(utf8);
     std::transform(text.begin(), text.end(), text.begin(), smallLetter);
