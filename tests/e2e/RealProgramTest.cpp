@@ -65,6 +65,30 @@ bool differs(const QImage& a, const QImage& b, const QRect& rectangle)
     return a.copy(rectangle) != b.copy(rectangle);
 }
 
+/// Opens a dialog with keys of the Tools menu; there, Return adds a mark and Escape closes.
+void addMark(const VirtualDisplay& display, Hands& hands, const char* menuKeys, const char* title)
+{
+    const QImage before = display.screen();
+    hands.press(keys(menuKeys));
+    ASSERT_TRUE(hands.focusNew(QString::fromLatin1(title))) << title;
+    hands.press(keys("Return Escape"));
+    EXPECT_TRUE(waitUntil([&] { return !hands.isShown(QString::fromLatin1(title)); }));
+    EXPECT_TRUE(display.waitForScreen([&before](const QImage& now) { return now != before; }))
+        << title << " left its mark";
+    ASSERT_TRUE(hands.focus(mainWindow));
+}
+
+void exportMixed(Hands& hands, const QString& path)
+{
+    ASSERT_TRUE(hands.focus(mainWindow));
+    hands.press(keys("alt+f e"));
+    ASSERT_TRUE(hands.focusNew(QStringLiteral("Save")));
+    hands.press(keys("ctrl+a"));
+    hands.type(path);
+    hands.press(keys("Return"));
+    EXPECT_TRUE(waitUntil([&path] { return QFile::exists(path); }));
+}
+
 } // namespace
 
 TEST(RealProgram, showsTheCurvesOfAFileOnTheScreen)
@@ -100,19 +124,8 @@ TEST(RealProgram, addsMarksWritesTheReportAndExportsByTheKeyboard)
     Hands hands(display.name());
     ASSERT_TRUE(hands.focusNew(mainWindow));
 
-    // Both dialogs, from the Tools menu; Return adds a mark and Escape closes.
-    for (const auto& [menuKeys, title] :
-         {std::pair("alt+t Return", "Add Reference Speed"),
-          std::pair("alt+t Down Down Return", "Add Damping Line")}) {
-        const QImage before = display.screen();
-        hands.press(keys(menuKeys));
-        ASSERT_TRUE(hands.focusNew(QString::fromLatin1(title))) << title;
-        hands.press(keys("Return Escape"));
-        EXPECT_TRUE(waitUntil([&] { return !hands.isShown(QString::fromLatin1(title)); }));
-        EXPECT_TRUE(display.waitForScreen([&before](const QImage& now) { return now != before; }))
-            << title << " left its mark";
-        ASSERT_TRUE(hands.focus(mainWindow));
-    }
+    addMark(display, hands, "alt+t Return", "Add Reference Speed");
+    addMark(display, hands, "alt+t Down Down Return", "Add Damping Line");
 
     // The report: two questions, and where it is, since nothing opens it here.
     hands.press(keys("alt+t Down Down Down Down Return"));
@@ -128,16 +141,7 @@ TEST(RealProgram, addsMarksWritesTheReportAndExportsByTheKeyboard)
     EXPECT_NE(table.find("Modal Evolution,Case,Mass"), std::string::npos) << table;
     EXPECT_NE(table.find("\ngoland_clean_m040.ev2,"), std::string::npos) << table;
 
-    // The mixed file.
-    ASSERT_TRUE(hands.focus(mainWindow));
-    hands.press(keys("alt+f e"));
-    ASSERT_TRUE(hands.focusNew(QStringLiteral("Save")));
-    const std::string mixed = program.home().file("all.mix");
-    hands.press(keys("ctrl+a"));
-    hands.type(QString::fromStdString(mixed));
-    hands.press(keys("Return"));
-    EXPECT_TRUE(waitUntil([&mixed] { return QFile::exists(QString::fromStdString(mixed)); }));
-
+    exportMixed(hands, QString::fromStdString(program.home().file("all.mix")));
     ASSERT_TRUE(waitUntil([&hands] { return !hands.isShown(QStringLiteral("Save")); }));
     ASSERT_TRUE(hands.focus(mainWindow));
     hands.press(keys("ctrl+q"));

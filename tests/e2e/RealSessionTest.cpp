@@ -23,6 +23,48 @@ void quit(Person& person, Program& program)
     EXPECT_EQ(program.exitStatus(), 0) << (person.isAsked() ? "it asked" : "");
 }
 
+struct Pictures
+{
+    QImage first;
+    QImage second;
+};
+
+/// Two files and two plots with texts and scales of their own, saved; the pictures of both plots.
+Pictures makeSession(const VirtualDisplay& display, const QString& file)
+{
+    Pictures pictures;
+    Program program(display, {});
+    Person person(display);
+    person.addEvolution("goland_clean_m040.ev2");
+    person.addEvolution("goland_tipstore_m050.ev2");
+    person.goToExplorer();
+    person.press("Home Down Down Down space Down space");
+    person.pushButton(selectButton, plotArea);
+    EXPECT_TRUE(person.waitForColor(blue));
+    person.selectModes();
+    EXPECT_TRUE(person.waitForColor(cyan));
+    person.typeHeader({QStringLiteral("Goland wing; two stores"), QStringLiteral("as built")});
+    person.setLargestSpeed(QStringLiteral("450"));
+
+    person.pushButton(addPlotButton, treeArea);
+    person.goToExplorer();
+    person.press("End F2 ctrl+a");
+    person.type(QStringLiteral("Second"));
+    person.press("Return");
+    person.plotWith(blue, false);
+    person.pushButton(selectButton, plotArea);
+    EXPECT_TRUE(person.waitForColor(blue));
+    person.goToExplorer();
+    person.press("End Up Return");
+    pictures.first = person.plotWith(cyan);
+    person.press("Down Return");
+    pictures.second = person.plotWith(cyan, false);
+    person.nameFile("ctrl+s", "^Save", file);
+    EXPECT_TRUE(waitUntil([&file] { return QFile::exists(file); }));
+    quit(person, program);
+    return pictures;
+}
+
 } // namespace
 
 TEST(RealSession, isThereAgainAfterARestart)
@@ -31,39 +73,7 @@ TEST(RealSession, isThereAgainAfterARestart)
     ASSERT_FALSE(display.name().isEmpty()) << "Xvfb did not start";
     const TemporaryFolder folder;
     const QString file = QString::fromStdString(folder.file("two stores.tsw"));
-    QImage first;
-    QImage second;
-    {
-        Program program(display, {});
-        Person person(display);
-        person.addEvolution("goland_clean_m040.ev2");
-        person.addEvolution("goland_tipstore_m050.ev2");
-        person.goToExplorer();
-        person.press("Home Down Down Down space Down space");
-        person.pushButton(selectButton, plotArea);
-        EXPECT_TRUE(person.waitForColor(blue));
-        person.selectModes();
-        EXPECT_TRUE(person.waitForColor(cyan));
-        person.typeHeader({QStringLiteral("Goland wing; two stores"), QStringLiteral("as built")});
-        person.setLargestSpeed(QStringLiteral("450"));
-
-        person.pushButton(addPlotButton, treeArea);
-        person.goToExplorer();
-        person.press("End F2 ctrl+a");
-        person.type(QStringLiteral("Second"));
-        person.press("Return");
-        person.plotWith(blue, false);
-        person.pushButton(selectButton, plotArea);
-        EXPECT_TRUE(person.waitForColor(blue));
-        person.goToExplorer();
-        person.press("End Up Return");
-        first = person.plotWith(cyan);
-        person.press("Down Return");
-        second = person.plotWith(cyan, false);
-        person.nameFile("ctrl+s", "^Save", file);
-        EXPECT_TRUE(waitUntil([&file] { return QFile::exists(file); }));
-        quit(person, program);
-    }
+    const auto [first, second] = makeSession(display, file);
     EXPECT_NE(first, second);
     const std::string saved = fileBytes(file.toStdString());
     EXPECT_NE(saved.find("NoOfSeries=5\r\n"), std::string::npos) << saved;
