@@ -20,7 +20,7 @@ std::string_view layoutName(Layout layout);
 /// The end that a file name of the layout has.
 std::string_view extension(Layout layout);
 
-/// Writes an evolution of so many modes and speeds; every number in it is different.
+/// Writes an evolution with these numbers of modes and speeds; every number in it is different.
 void writeEvolution(const std::string& path, Layout layout, int modes, int speeds);
 
 /// Writes one of about `bytes` bytes, 5000 speeds in each mode.

@@ -11,7 +11,7 @@ execute_process(
           ${PROGRAM} --gtest_list_tests
   OUTPUT_VARIABLE listing
   COMMAND_ERROR_IS_FATAL ANY)
-# A suite stands at the start of a line and ends with a point; its tests are indented.
+# A suite begins its line and ends with a point; its tests are indented.
 string(REGEX MATCHALL "(^|\n)[^ \n][^\n.]*\\." suites "${listing}")
 if(NOT suites)
   message(FATAL_ERROR "${PROGRAM} lists no test suite.")

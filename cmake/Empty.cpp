@@ -1,1 +1,1 @@
-// The one file of a target that stands for its precompiled headers.
+// The one source of the targets that compile precompiled headers.

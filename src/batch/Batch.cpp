@@ -44,7 +44,7 @@ std::string programHelp()
           "usage.\n";
 }
 
-/// Whether --help stands where an option can: not behind "--", and not as the value of an option.
+/// Whether --help is where an option can be: not after "--", and not as the value of an option.
 bool asksForHelp(const Command& command, std::span<const std::string> arguments)
 {
     for (std::size_t i = 0; i < arguments.size() && arguments[i] != "--"; ++i) {

@@ -46,7 +46,7 @@ std::string usageLine(const CommandDescription& description)
     return line + '\n';
 }
 
-/// An option and its help, whose lines stand below each other.
+/// An option and its help, whose lines are aligned.
 std::string optionHelp(const OptionDescription& option, std::size_t width)
 {
     std::string text = "  " + std::string(option.name);

@@ -40,8 +40,8 @@ struct CommandDescription
     std::span<const OptionDescription> options;
 };
 
-/// The options and operands of one command. An option stands anywhere, as "--name value" or
-/// "--name=value"; the value is the whole next argument, whatever it begins with. Behind "--"
+/// The options and operands of one command. An option may be at any position, as "--name value" or
+/// "--name=value"; the value is the whole next argument, whatever it begins with. After "--"
 /// everything is an operand. Raises UsageError for what the description does not know.
 class CommandLine
 {

@@ -12,7 +12,7 @@ namespace tarsil::batch {
 // terminal, are shown as question marks.
 
 /// Prints a name and its text on one line, the texts below each other; nothing for an empty text.
-/// Further lines of a text ("\n") stand below its first.
+/// Further lines of a text ("\n") are written below its first.
 void printLine(std::ostream& out, std::string_view name, const std::string& text);
 
 // Widths of columns, in characters.

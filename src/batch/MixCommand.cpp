@@ -24,7 +24,7 @@ struct Ingredient
 };
 
 /// FILE or FILE:LIST. A file that has the whole text as its name comes first. What follows the last
-/// colon is a list when it looks like one, or when a file stands before it ("C:\wing.ev2" is none).
+/// colon is a list when it looks like one, or when a file is before it ("C:\wing.ev2" is none).
 Ingredient ingredientOf(const std::string& operand)
 {
     const std::size_t colon = operand.rfind(':');

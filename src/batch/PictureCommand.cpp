@@ -53,7 +53,7 @@ bool drawEvolutions(const std::vector<std::string>& paths, const PictureOptions&
     return isWhole;
 }
 
-/// The names of so many pictures: the one given, or with a number before its extension.
+/// The names of `count` pictures: the one given, or with a number before its extension.
 std::vector<std::string> numberedOutputs(const std::string& output, std::size_t count)
 {
     if (count == 1)

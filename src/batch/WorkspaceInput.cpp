@@ -58,7 +58,7 @@ std::vector<PlotRecord> plotsAskedFor(const std::vector<PlotRecord>& plots,
     return {*captioned};
 }
 
-/// Whether a series names an evolution of a list with so many entries.
+/// Whether a series names an evolution of a list with `count` entries.
 bool namesEvolution(const SeriesRecord& series, std::size_t count)
 {
     return series.evolution >= 1 && static_cast<std::size_t>(series.evolution) <= count;

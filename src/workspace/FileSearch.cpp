@@ -35,7 +35,7 @@ Entry entryOf(const fs::directory_entry& found, const std::unordered_set<std::st
     return entry;
 }
 
-/// What is in one folder by name, at most `most` entries; `isComplete` tells whether that is all.
+/// What is in one folder by name, at most `most` entries; `isComplete` is whether that is all.
 std::vector<Entry> entriesOf(const std::string& folder,
                              const std::unordered_set<std::string>& names, std::size_t most,
                              bool& isComplete)

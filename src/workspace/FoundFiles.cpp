@@ -38,7 +38,7 @@ std::string plainText(std::string_view stored)
     return text;
 }
 
-/// How many characters of a path are its root, which its first ones tell; 0 for a relative path.
+/// How many characters of a path are its root, which it begins with; 0 for a relative path.
 std::size_t rootLength(const std::string& path)
 {
     return pathText(nativePath(path.substr(0, 3)).root_path()).size();

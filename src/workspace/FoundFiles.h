@@ -7,7 +7,7 @@ namespace tarsil {
 
 /// The files that a workspace names, in the same order: each at its stored place (`storedPlace`),
 /// or else the file of its name below the folder of the workspace that shares most of its last
-/// folders with the stored path, as `FileMatching` tells. Two stored paths never get one file; a
+/// folders with the stored path, as `FileMatching` decides. Two stored paths never get one file; a
 /// path without a file of its own is given as it is stored, as is an empty one. The folder is gone
 /// through at most once, and not to its end when it is vast.
 std::vector<std::string> foundFiles(const std::vector<std::string>& stored,

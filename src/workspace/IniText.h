@@ -8,7 +8,7 @@
 
 namespace tarsil {
 
-/// A value in its whole length, as it stands in the text.
+/// A value in its whole length, as it is in the text.
 struct IniEntry
 {
     std::size_t line; ///< counted from 1
@@ -35,7 +35,7 @@ public:
     std::optional<std::string> text(std::string_view section, std::string_view key) const;
 
     /// A value of several fields with NUL between them, in its whole length: only a field that is
-    /// longer than `mostStoredBytes` is cut, so that those behind it are not lost. Decoded like a
+    /// longer than `mostStoredBytes` is cut, so that those after it are not lost. Decoded like a
     /// text.
     std::optional<std::string> fields(std::string_view section, std::string_view key) const;
 

@@ -20,7 +20,7 @@ std::size_t longestField(std::string_view value);
 class ValueFields
 {
 public:
-    /// `place` says where the value stands. Error 9 "Subscript out of range" when there are fewer
+    /// `place` says where the value is. Error 9 "Subscript out of range" when there are fewer
     /// than `least` fields; more are passed over.
     ValueFields(std::string_view value, std::size_t least, std::string place);
 

@@ -45,10 +45,10 @@ inline constexpr std::string_view seriesLook = "SerieLook";
 
 inline constexpr std::string_view endOfFile = "END OF FILE";
 
-/// What stands for a general text or a count that is not there.
+/// The text that replaces a missing general text or count.
 inline constexpr std::string_view noText = "   ";
 
-/// What stands for a value of a plot that is not there.
+/// The text that replaces a missing value of a plot.
 inline constexpr std::string_view absent = "Empty";
 
 /// "PLOT1" and so on.

@@ -123,7 +123,7 @@ void WorkspaceReader::noteCut(std::string_view section, std::string_view key, st
         m_reading.cutValues.push_back({std::string(section), std::string(key), longest});
 }
 
-/// A text in one piece, in which NUL stands for a line break just as in rich texts.
+/// A text in one piece, in which NUL is a line break just as in rich texts.
 std::string WorkspaceReader::text(std::string_view section, std::string_view key,
                                   std::string_view otherwise)
 {

@@ -15,7 +15,7 @@ namespace tarsil {
 // `writeWorkspace`, and knows nothing of the plots and evolutions that it speaks of. Texts are
 // UTF-8, with CR LF for a line break; colours are 32-bit RGB, red in the low byte.
 
-/// Where a text box stands in its plot, in twentieths of a point.
+/// The position of a text box in its plot, in twentieths of a point.
 struct BoxPosition
 {
     double left = 0;
@@ -89,7 +89,7 @@ struct EditedRecord
 struct WorkspaceRecord
 {
     std::string description;
-    std::string dateCreated; ///< as it stands in the file
+    std::string dateCreated; ///< as it is in the file
     std::string dateModified;
     /// Full paths, in the order of the list of evolutions; empty where an entry is missing.
     std::vector<std::string> files {};

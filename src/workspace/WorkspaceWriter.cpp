@@ -147,7 +147,7 @@ void WorkspaceWriter::addFurther(std::string_view key, const std::string& value)
     addLine(key, value);
 }
 
-/// The blanks of a description that nobody gave stand as they are: what a reader takes off them, it
+/// The blanks of a description that nobody gave stay as they are: what a reader takes off them, it
 /// takes for none as well.
 void WorkspaceWriter::addDescription(const std::string& text)
 {

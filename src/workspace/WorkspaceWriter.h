@@ -20,7 +20,7 @@ struct WrittenWorkspace
 ///
 /// A line break within a value is a NUL, whatever its kind; the texts of values of several fields,
 /// which NULs separate, have a blank there. A value that would lose blanks or quotes at its
-/// ends when it is read stands in quotes; only the three blanks of a description that nobody gave
+/// ends when it is read is quoted; only the three blanks of a description that nobody gave
 /// do not. What is absent is written "Empty".
 ///
 /// Edited parameters, the reference evolution, marks, and looks of curves that are not the usual
