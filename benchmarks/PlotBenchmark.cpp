@@ -104,8 +104,8 @@ void measureRepaint(EvmPlot& plot)
 {
     EvmPlotView view(plot);
     view.resize(pictureSize);
-    for (std::size_t i = 0; i < plot.boxCount(); ++i)
-        plot.setBoxText(i, QStringLiteral("text"));
+    for (const TextBox which : allTextBoxes)
+        plot.setBoxText(which, QStringLiteral("text"));
     QImage target(pictureSize, QImage::Format_RGB32);
     view.render(&target); // draws what is not drawn yet
     const auto repaint = [&] { view.render(&target, QPoint(), QRegion(), QWidget::RenderFlags()); };

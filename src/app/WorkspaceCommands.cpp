@@ -130,7 +130,7 @@ WorkspaceCommands::WorkspaceCommands(Session& session, wndEvolPlot& plots,
 void WorkspaceCommands::takeEditsAlong()
 {
     for (EvmPlot* const plot : m_plots.plots())
-        Q_EMIT plot->pictureWanted();
+        plot->commitEdits();
 }
 
 WorkspaceRecord WorkspaceCommands::gather() const

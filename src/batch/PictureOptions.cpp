@@ -3,6 +3,9 @@
 #include "base/numbers/Numbers.h"
 #include "batch/CommandLine.h"
 #include "batch/WorkspaceInput.h"
+#include "plot/Marker.h"
+
+#include <algorithm>
 
 namespace tarsil::batch {
 
@@ -79,24 +82,42 @@ std::vector<CaptionedValue> captionedValuesOf(const CommandLine& line, std::stri
     return values;
 }
 
+/// "none, id, tag or mpf:I": what the option --marker takes.
+std::string markerNames()
+{
+    std::string names;
+    for (const MarkerTraits& traits : markerTraits) {
+        if (!names.empty())
+            names += &traits == &markerTraits.back() ? " or " : ", ";
+        names += traits.name;
+        if (traits.needsFactor)
+            names += ":I";
+    }
+    return names;
+}
+
+/// Takes the kind of marker, and its factor, when the text is of that kind.
+bool takeMarker(std::string_view text, const MarkerTraits& traits, CurveMarkers& markers)
+{
+    const std::string start = std::string(traits.name) + (traits.needsFactor ? ":" : "");
+    if (traits.needsFactor ? !text.starts_with(start) : text != start)
+        return false;
+    markers.kind = traits.kind;
+    if (traits.needsFactor)
+        markers.factor = countOf(text.substr(start.size()), ParticipationFactors::capacity,
+                                 "--marker " + std::string(traits.name));
+    return true;
+}
+
 CurveMarkers markersOf(const CommandLine& line)
 {
-    constexpr std::string_view factorPrefix = "mpf:";
     CurveMarkers markers;
     if (const auto marker = line.value("--marker")) {
-        if (*marker == "none") {
-            markers.style = markerstyle::none;
-        } else if (*marker == "id") {
-            markers.style = markerstyle::modeNumber;
-        } else if (*marker == "tag") {
-            markers.style = markerstyle::tag;
-        } else if (marker->starts_with(factorPrefix)) {
-            markers.style = markerstyle::participationFactor;
-            markers.factor = countOf(marker->substr(factorPrefix.size()),
-                                     ParticipationFactors::capacity, "--marker mpf");
-        } else {
-            throw wrongValue("--marker", *marker, "none, id, tag or mpf:I");
-        }
+        const auto fits = [&](const MarkerTraits& traits) {
+            return takeMarker(*marker, traits, markers);
+        };
+        if (std::none_of(markerTraits.begin(), markerTraits.end(), fits))
+            throw wrongValue("--marker", *marker, markerNames());
     }
     if (const auto spacing = line.value("--marker-spacing"))
         markers.spacing = countOf(*spacing, largestMarkerNumber, "--marker-spacing");

@@ -80,8 +80,8 @@ void changeMarkers(PlotRows& rows, const MarkerOptions& before, const MarkerOpti
             look.MarkerSize = now.size;
         if (now.spacing != before.spacing)
             look.MarkerSpacing = now.spacing;
-        if (now.style != before.style)
-            look.MarkerStyle = now.style;
+        if (now.kind != before.kind)
+            look.MarkerStyle = markerNumber(now.kind);
         if (now.ithMpf != before.ithMpf)
             look.IthMpf = now.ithMpf;
     });

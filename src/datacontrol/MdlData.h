@@ -1,5 +1,6 @@
 #pragma once
 
+#include "plot/Marker.h"
 #include "plot/Series.h"
 #include "vgfplot/PlotRows.h"
 

@@ -16,8 +16,6 @@ namespace tarsil {
 namespace {
 
 constexpr std::string_view module = "wndData";
-constexpr std::size_t header = 0;
-constexpr std::size_t mechanismBox = 2;
 const QString lineBreak = QStringLiteral("\r\n");
 
 std::string machText(const EVM& evolution)
@@ -88,7 +86,7 @@ void showMechanism(EvmPlot& plot, const AirplaneInfo& airplane, const QString& s
     axes.speed.ticks = ticks(found->vthick, *found, "speed");
     axes.damping.ticks = ticks(found->gthick, *found, "damping");
     axes.frequency.ticks = ticks(found->fthick, *found, "frequency");
-    plot.setBoxText(mechanismBox,
+    plot.setBoxText(TextBox::Mechanism,
                     QString::fromStdString(withLongName ? found->LongName : found->ShortName));
     plot.setAxes(axes);
 }

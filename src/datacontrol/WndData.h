@@ -11,6 +11,7 @@
 #include <vector>
 
 class QLineEdit;
+class QRadioButton;
 
 namespace tarsil {
 
@@ -77,7 +78,8 @@ private:
     EvmPlot* activePlot();
     const EVM* reference();
     void warn(const std::string& text);
-    std::int32_t markerStyle() const;
+    QRadioButton& buttonOf(MarkerKind kind) const;
+    MarkerKind markerKind() const;
     MarkerOptions markerOptions() const;
     void takeMarkers();
     void applyMarkers();

@@ -11,6 +11,7 @@
 #include "model/EVM.h"
 #include "plotwindow/WndEvolPlot.h"
 
+#include <QRadioButton>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -212,24 +213,39 @@ void wndData::chooseLine()
                         [&](Series& series) { changeLine(series, before, now); });
 }
 
-std::int32_t wndData::markerStyle() const
+QRadioButton& wndData::buttonOf(MarkerKind kind) const
 {
-    return m_ui->aemodeBtn->isChecked() ? markerstyle::modeNumber
-        : m_ui->tagBtn->isChecked()     ? markerstyle::tag
-        : m_ui->ithmpfBtn->isChecked()  ? markerstyle::participationFactor
-                                        : markerstyle::none;
+    switch (kind) {
+    case MarkerKind::None:
+        break;
+    case MarkerKind::ModeNumber:
+        return *m_ui->aemodeBtn;
+    case MarkerKind::Tag:
+        return *m_ui->tagBtn;
+    case MarkerKind::ParticipationFactor:
+        return *m_ui->ithmpfBtn;
+    }
+    return *m_ui->womkBtn;
+}
+
+MarkerKind wndData::markerKind() const
+{
+    for (const MarkerTraits& traits : markerTraits) {
+        if (buttonOf(traits.kind).isChecked())
+            return traits.kind;
+    }
+    return MarkerKind::None;
 }
 
 /// The index of the participation factor must be a number only where it is the marker.
 MarkerOptions wndData::markerOptions() const
 {
     MarkerOptions options;
-    options.style = markerStyle();
+    options.kind = markerKind();
     options.size = countIn(*m_ui->mksizeInp);
     options.spacing = countIn(*m_ui->mkspaceInp);
-    options.ithMpf = options.style == markerstyle::participationFactor
-        ? countIn(*m_ui->ithmpfInp, factorCount)
-        : m_markers.ithMpf;
+    options.ithMpf = traitsOf(options.kind).needsFactor ? countIn(*m_ui->ithmpfInp, factorCount)
+                                                        : m_markers.ithMpf;
     return options;
 }
 
@@ -237,12 +253,12 @@ MarkerOptions wndData::markerOptions() const
 void wndData::takeMarkers()
 {
     constexpr double any = std::numeric_limits<std::int32_t>::max();
-    m_markers.style = markerStyle();
+    m_markers.kind = markerKind();
     takeCount(*m_ui->mksizeInp, any, m_sizeWarning, m_markers.size);
     takeCount(*m_ui->mkspaceInp, any, m_spacingWarning, m_markers.spacing);
     takeCount(*m_ui->ithmpfInp, factorCount, m_factorWarning, m_markers.ithMpf);
     m_plots.setNewSeriesMarkers(m_markers);
-    if (m_markers.style != markerstyle::participationFactor)
+    if (!traitsOf(m_markers.kind).needsFactor)
         m_factorWarning.show({});
 }
 
@@ -269,9 +285,8 @@ void wndData::showMarkers()
     const QSignalBlocker quiet[] = {QSignalBlocker(m_ui->mksizeInp),
                                     QSignalBlocker(m_ui->mkspaceInp),
                                     QSignalBlocker(m_ui->ithmpfInp)}; // it is not the user's change
-    QRadioButton* const options[] = {m_ui->womkBtn, m_ui->aemodeBtn, m_ui->tagBtn, m_ui->ithmpfBtn};
-    if (series->MarkerStyle >= 0 && series->MarkerStyle <= markerstyle::participationFactor)
-        options[series->MarkerStyle]->setChecked(true);
+    if (const auto kind = markerOfNumber(series->MarkerStyle))
+        buttonOf(*kind).setChecked(true);
     if (series->MarkerSize > 0)
         m_ui->mksizeInp->setText(QString::number(series->MarkerSize));
     if (series->MarkerSpacing > 0)

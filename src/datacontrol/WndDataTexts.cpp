@@ -20,7 +20,6 @@ namespace {
 constexpr std::string_view module = "wndData";
 constexpr std::string_view pictureFilter =
     "Enhanced Windows Metafile (*.emf)|*.emf|All Files (*.*)|*.*|";
-constexpr std::size_t headerBox = 0;
 
 /// The number in the input of the legend's index; what stands behind ":=" explains it.
 std::int16_t legendIndexIn(const QLineEdit& input)
@@ -62,7 +61,7 @@ void wndData::btnMakHead_Click()
                     + (missing.empty() ? missing : "\n" + missing));
     }
     if (EvmPlot* const plot = activePlot())
-        plot->setBoxText(headerBox, headerText(*evolution, m_ui->txtTitle->text()));
+        plot->setBoxText(TextBox::Header, headerText(*evolution, m_ui->txtTitle->text()));
 }
 
 void wndData::btnAutoRef_Click()
@@ -124,6 +123,7 @@ void wndData::SavePic_Click()
                            "Tarsil"))
         return;
     const std::string name = answer.value_or(caption);
+    plot->commitEdits();
     plot->ExportPic(QString::fromStdString(name));
     m_user.showNote("The picture is in " + wholePath(name));
 }

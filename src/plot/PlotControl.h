@@ -34,8 +34,11 @@ public:
     /// Physical pixels of the screen for each pixel; a new ratio empties the own surface.
     void setDevicePixelRatio(double ratio);
 
-    /// Draws into `context` at the control's place; null means the control's own surface.
+    /// Draws into `context` as `drawInto` does; null means the control's own surface.
     void Draw(DeviceContext* context);
+
+    /// Draws into a caller's context at the control's position in its container.
+    void drawInto(DeviceContext& context) const;
 
     /// Empties the own surface.
     void Cls();
@@ -62,7 +65,6 @@ private:
     QRect physicalRectangle() const;
     QRect inkReach() const;
     bool prepareSurface();
-    void drawInto(DeviceContext& context) const;
     void drawOnSurface();
 
     QRect m_geometry;

@@ -10,14 +10,6 @@
 
 namespace tarsil {
 
-/// What stands at a series' marked points.
-namespace markerstyle {
-constexpr std::int32_t none = 0;
-constexpr std::int32_t modeNumber = 1;
-constexpr std::int32_t tag = 2;
-constexpr std::int32_t participationFactor = 3;
-} // namespace markerstyle
-
 /// The style of one curve and the mode that it draws. Values are stored as given.
 struct Series
 {
@@ -32,7 +24,7 @@ struct Series
     ColorValue MarkerBackgroundColor = 0; ///< kept and saved, never drawn
     ColorValue MarkerForegroundColor = 0; ///< colour of the marker text
     std::int32_t MarkerSize = 0; ///< points
-    std::int32_t MarkerStyle = 0;
+    std::int32_t MarkerStyle = 0; ///< `MarkerTraits::number`
 
     /// A new series with the same mode and copies of everything else.
     Series Clone() const;
@@ -41,18 +33,5 @@ struct Series
 };
 
 using SeriesList = std::vector<Series>;
-
-/// What stands at the marked points of a curve.
-struct MarkerOptions
-{
-    std::int32_t size = 8; ///< points
-    std::int32_t spacing = 10;
-    std::int32_t style = markerstyle::modeNumber;
-    std::int32_t ithMpf = 1; ///< counted from 1
-
-    void applyTo(Series& series) const;
-
-    bool operator==(const MarkerOptions&) const = default;
-};
 
 } // namespace tarsil

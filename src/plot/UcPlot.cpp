@@ -2,6 +2,7 @@
 
 #include "base/numbers/Numbers.h"
 #include "base/user/RunTimeError.h"
+#include "plot/Marker.h"
 #include "surface/PixelMath.h"
 
 #include <limits>
@@ -15,20 +16,6 @@ constexpr int captionShift = 30;
 constexpr double captionLinePoints = 12;
 constexpr double defaultMarkerPoints = 8;
 constexpr ColorValue black = 0;
-
-QString markerText(const Series& series, const Point& point)
-{
-    if (series.MarkerStyle == markerstyle::modeNumber)
-        return QString::number(series.Mode->Id);
-    if (series.MarkerStyle == markerstyle::tag)
-        return series.MarkerTag;
-    if (series.MarkerStyle != markerstyle::participationFactor)
-        return {};
-    const std::int32_t index = series.IthMpf;
-    if (index < 1 || static_cast<std::size_t>(index) > point.mpf.size())
-        return QStringLiteral("?");
-    return QString::fromStdString(shortestText(point.mpf[static_cast<std::size_t>(index - 1)]));
-}
 
 void drawMarker(DeviceContext& context, const Series& series, const Point& point, QPoint pixel)
 {
@@ -65,37 +52,28 @@ void ucPlot::SetScale(double x1, double y1, double x2, double y2)
 {
     if (y1 - y2 == 0)
         return;
-    m_scaleLeft = x1;
-    m_scaleTop = y1;
-    m_scaleWidth = x2 - x1;
-    m_scaleHeight = y2 - y1;
+    m_left = x1;
+    m_top = y1;
+    m_right = x2;
+    m_bottom = y2;
 }
 
-double ucPlot::columnsPerUnit() const
+ValueMap ucPlot::columns() const
 {
-    if (m_scaleWidth == 0)
+    if (m_right - m_left == 0)
         throw RunTimeError(ErrorNumber::DivisionByZero, "ucPlot",
-                           "the bounds of the horizontal scale are equal: "
-                               + shortestText(m_scaleLeft));
-    return Width() / m_scaleWidth;
+                           "the bounds of the horizontal scale are equal: " + shortestText(m_left));
+    return {m_left, m_right, static_cast<double>(Width())};
 }
 
-double ucPlot::rowsPerUnit() const
+ValueMap ucPlot::rows() const
 {
-    return Height() / m_scaleHeight;
+    return {m_top, m_bottom, static_cast<double>(Height())};
 }
 
 QPoint ucPlot::pixelOf(double x, double y) const
 {
-    // A length in user units becomes a single-precision number of pixels, like the edge it is
-    // measured from.
-    const double columns = columnsPerUnit();
-    const double rows = rowsPerUnit();
-    const auto pixels = [](double length) {
-        return static_cast<double>(static_cast<float>(length));
-    };
-    return {roundToPixel(pixels(x * columns) - pixels(m_scaleLeft * columns)),
-            roundToPixel(pixels(y * rows) - pixels(m_scaleTop * rows))};
+    return {columns().pixelOf(x), rows().pixelOf(y)};
 }
 
 RefLine& ucPlot::AddLine(float X1, float Y1, float X2, float Y2, const QString& Caption,
@@ -149,17 +127,18 @@ void ucPlot::drawSeries(DeviceContext& context, const Series& series) const
     if (points.size() < 2)
         return;
     const Pen pen {series.LineStyle, series.LineWidth, series.ColorIndex};
-    const bool marked = series.MarkerSpacing != 0 && series.MarkerStyle != markerstyle::none;
-    const auto pixelOfPoint = [this](const Point& point) {
+    const bool isMarked =
+        series.MarkerSpacing != 0 && series.MarkerStyle != markerNumber(MarkerKind::None);
+    const auto pixelOfPoint = [this, columns = columns(), rows = rows()](const Point& point) {
         const DataPoint data = dataOf(point);
-        return pixelOf(data.x, data.y);
+        return QPoint(columns.pixelOf(data.x), rows.pixelOf(data.y));
     };
     QPoint from = pixelOfPoint(points.front());
     for (std::size_t i = 1; i < points.size(); ++i) {
         const QPoint to = pixelOfPoint(points[i]);
         context.drawLine(from, to, pen);
         // The first point never carries a marker: a marker belongs to the end of a line.
-        if (marked && static_cast<std::int32_t>(i + 1) % series.MarkerSpacing == 0)
+        if (isMarked && static_cast<std::int32_t>(i + 1) % series.MarkerSpacing == 0)
             drawMarker(context, series, points[i], to);
         from = to;
     }

@@ -4,6 +4,7 @@
 #include "plot/PropertyBag.h"
 #include "plot/RefLine.h"
 #include "plot/Series.h"
+#include "plot/ValueMap.h"
 
 #include <QVariant>
 
@@ -88,8 +89,8 @@ private:
     };
 
     DataPoint dataOf(const Point& point) const;
-    double columnsPerUnit() const;
-    double rowsPerUnit() const;
+    ValueMap columns() const;
+    ValueMap rows() const;
     void drawSeries(DeviceContext& context, const Series& series) const;
     void drawLine(DeviceContext& context, const RefLine& line) const;
 
@@ -98,10 +99,10 @@ private:
     std::int32_t m_plotType = 0;
     std::int32_t m_hFont = 0;
     bool m_autoScale = false;
-    double m_scaleLeft = 0;
-    double m_scaleTop = 0;
-    double m_scaleWidth = 1;
-    double m_scaleHeight = 1;
+    double m_left = 0; ///< values at the edges
+    double m_top = 0;
+    double m_right = 1;
+    double m_bottom = 1;
     std::vector<RefLine> m_lines;
     ChangedProperties m_changed;
 };

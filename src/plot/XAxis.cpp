@@ -4,6 +4,7 @@
 #include "base/numbers/Numbers.h"
 #include "base/user/RunTimeError.h"
 #include "plot/AxisMetrics.h"
+#include "plot/ValueMap.h"
 
 namespace tarsil {
 
@@ -40,12 +41,12 @@ void xAxis::drawTicks(DeviceContext& context) const
 {
     axis::requireIntervals(nThick(), "xAxis");
     const double line = Height() / 2.0;
-    const double pixelStep = static_cast<double>(Width()) / nThick();
+    const ValueMap map(Min(), Max(), Width());
     for (int k = 1; k < nThick(); ++k) {
-        const double column = k * pixelStep;
+        const double column = map.divisionPixel(k, nThick());
         context.drawLine(pixel(column, line - thick / 2), pixel(column, line + thick / 2),
                          axis::pen);
-        const double value = axis::divisionValue(Min(), Max(), k, nThick());
+        const double value = map.divisionValue(k, nThick());
         const QString label = QString::fromStdString(formatNumber(value, "0"));
         context.drawText(pixel(column, line + thick / 2), label, Font(), axis::textColor,
                          TextAlignment::TopCenter);
@@ -54,12 +55,11 @@ void xAxis::drawTicks(DeviceContext& context) const
 
 void xAxis::drawMark(DeviceContext& context, const RefThick& mark) const
 {
-    const double range = Max() - Min();
-    if (range == 0)
+    if (Max() - Min() == 0)
         throw RunTimeError(ErrorNumber::DivisionByZero, "xAxis",
                            "the bounds of the speed axis are equal: " + shortestText(Min()));
     const double line = Height() / 2.0;
-    const double column = static_cast<double>(mark.Speed) * Width() / range;
+    const double column = ValueMap(Min(), Max(), Width()).lengthOf(static_cast<double>(mark.Speed));
     const QPoint top = pixel(column, line - 1.1 * thick);
     context.drawLine(pixel(column, line + 0.4 * thick), top, axis::pen);
     context.drawText(top, mark.Caption, Font(), axis::textColor, TextAlignment::BottomCenter);

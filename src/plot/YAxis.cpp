@@ -2,6 +2,7 @@
 
 #include "base/numbers/NumberFormat.h"
 #include "plot/AxisMetrics.h"
+#include "plot/ValueMap.h"
 
 namespace tarsil {
 
@@ -31,14 +32,14 @@ void yAxis::paint(DeviceContext& context) const
     const int farEnd = m_direction ? end : 0;
     context.drawLine(pixel(line, farEnd), pixel(line + axis::endMark, farEnd), axis::pen);
     axis::requireIntervals(nThick(), "yAxis");
-    const double pixelStep = static_cast<double>(Height()) / nThick();
     const double upper = m_direction ? Min() : Max();
     const double lower = m_direction ? Max() : Min();
+    const ValueMap map(upper, lower, Height());
     const std::string pattern = m_thickFormat.toStdString();
     for (int k = 1; k < nThick(); ++k) {
-        const double row = k * pixelStep;
+        const double row = map.divisionPixel(k, nThick());
         context.drawLine(pixel(line, row), pixel(line + thick, row), axis::pen);
-        const double value = axis::divisionValue(upper, lower, k, nThick());
+        const double value = map.divisionValue(k, nThick());
         const QString label = QString::fromStdString(formatNumber(value, pattern));
         const int height = context.textExtent(label, Font()).height();
         context.drawText(pixel(line - thick / 2, row - height / 2.0), label, Font(),

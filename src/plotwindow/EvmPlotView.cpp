@@ -18,6 +18,8 @@
 #include <QTextEdit>
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 namespace tarsil {
 
@@ -46,7 +48,7 @@ EvmPlotView::EvmPlotView(EvmPlot& plot, QWidget* parent)
     QAccessible::installFactory(plotInterface); // once, however many there are
     connect(&m_plot, &EvmPlot::changed, this, qOverload<>(&QWidget::update));
     connect(&m_plot, &EvmPlot::changed, this, &EvmPlotView::updateDescription);
-    connect(&m_plot, &EvmPlot::pictureWanted, this, [this] { finishEditing(true); });
+    connect(&m_plot, &EvmPlot::editsWanted, this, [this] { finishEditing(true); });
     connect(&m_plot, &EvmPlot::contentsReplaced, this, &EvmPlotView::letGo);
     updateDescription();
 }
@@ -114,9 +116,9 @@ void EvmPlotView::paintEvent(QPaintEvent* event)
 void EvmPlotView::paintPrompts(QPainter& painter) const
 {
     painter.setPen(Qt::gray);
-    for (std::size_t i = 0; i < m_plot.boxCount(); ++i) {
-        const emfRichTextBox& box = m_plot.box(i);
-        if (!box.isEmpty() || (m_editor != nullptr && m_editedBox == i))
+    for (const TextBox which : allTextBoxes) {
+        const emfRichTextBox& box = m_plot.box(which);
+        if (!box.isEmpty() || (m_editor != nullptr && m_editedBox == which))
             continue;
         painter.setFont(screenFont(fontOf(box.content().last)));
         painter.drawText(box.geometry(), Qt::AlignLeft | Qt::AlignTop, box.prompt());
@@ -128,9 +130,9 @@ void EvmPlotView::paintSelection(QPainter& painter) const
 {
     painter.setPen(QPen(Qt::gray, 1, Qt::DashLine));
     painter.setBrush(Qt::NoBrush);
-    for (std::size_t i = 0; i < m_plot.boxCount(); ++i) {
-        if (m_editor == nullptr && (m_plot.EditMode() || m_mover.selected() == i))
-            painter.drawRect(m_plot.box(i).geometry().adjusted(-3, -2, 2, 1));
+    for (const TextBox box : allTextBoxes) {
+        if (m_editor == nullptr && (m_plot.EditMode() || m_mover.selected() == box))
+            painter.drawRect(m_plot.box(box).geometry().adjusted(-3, -2, 2, 1));
     }
 }
 
@@ -157,7 +159,7 @@ void EvmPlotView::mouseReleaseEvent(QMouseEvent* event)
     if (event->button() == Qt::LeftButton)
         m_mover.release();
     followMovement();
-    const std::optional<std::size_t> box = m_mover.boxAt(event->pos());
+    const std::optional<TextBox> box = m_mover.boxAt(event->pos());
     if (m_plot.EditMode() && !wasMoved && box && box == m_mover.selected()
         && event->button() == Qt::LeftButton)
         startEditing(*box);
@@ -165,7 +167,7 @@ void EvmPlotView::mouseReleaseEvent(QMouseEvent* event)
 
 void EvmPlotView::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    const std::optional<std::size_t> box = m_mover.boxAt(event->pos());
+    const std::optional<TextBox> box = m_mover.boxAt(event->pos());
     if (box && event->button() == Qt::LeftButton)
         startEditing(*box);
 }
@@ -195,8 +197,7 @@ void EvmPlotView::focusOutEvent(QFocusEvent* event)
 void EvmPlotView::contextMenuEvent(QContextMenuEvent* event)
 {
     const bool isByKey = event->reason() == QContextMenuEvent::Keyboard;
-    const std::optional<std::size_t> box =
-        isByKey ? m_mover.selected() : m_mover.boxAt(event->pos());
+    const std::optional<TextBox> box = isByKey ? m_mover.selected() : m_mover.boxAt(event->pos());
     if (!box) {
         event->ignore(); // the menu of the plot belongs to whoever holds the view
         return;
@@ -205,11 +206,11 @@ void EvmPlotView::contextMenuEvent(QContextMenuEvent* event)
     showBoxMenu(*box, place);
 }
 
-void EvmPlotView::showBoxMenu(std::size_t index, QPoint position)
+void EvmPlotView::showBoxMenu(TextBox box, QPoint position)
 {
     finishEditing(true);
-    m_mover.select(index);
-    m_move->setEnabled(TextBoxMover::isMovable(index));
+    m_mover.select(box);
+    m_move->setEnabled(TextBoxMover::isMovable(box));
     update();
     m_boxMenu->popup(mapToGlobal(position));
 }
@@ -228,6 +229,7 @@ void EvmPlotView::followMovement()
 void EvmPlotView::copyPicture()
 {
     Q_EMIT commandBegun();
+    m_plot.commitEdits();
     try {
         QGuiApplication::clipboard()->setMimeData(pictureMimeData(m_plot).release());
     } catch (const RunTimeError& error) {
@@ -235,14 +237,14 @@ void EvmPlotView::copyPicture()
     }
 }
 
-void EvmPlotView::startEditing(std::size_t index)
+void EvmPlotView::startEditing(TextBox which)
 {
     finishEditing(true);
     Q_EMIT commandBegun();
-    m_mover.select(index);
+    m_mover.select(which);
     followMovement();
-    const emfRichTextBox& box = m_plot.box(index);
-    m_editedBox = index;
+    const emfRichTextBox& box = m_plot.box(which);
+    m_editedBox = which;
     m_editor = new RichTextEditor(box.content(), box.ForeColor(), this);
     m_editor->edit()->setAccessibleName(box.prompt());
     QRect place(box.geometry().topLeft(),

@@ -6,8 +6,6 @@
 
 #include <QWidget>
 
-#include <optional>
-
 class QMenu;
 
 namespace tarsil {
@@ -56,8 +54,8 @@ private:
     void makeActions();
     void paintPrompts(QPainter& painter) const;
     void paintSelection(QPainter& painter) const;
-    void showBoxMenu(std::size_t index, QPoint position);
-    void startEditing(std::size_t index);
+    void showBoxMenu(TextBox box, QPoint position);
+    void startEditing(TextBox box);
     void finishEditing(bool keep);
     void letGo();
     void followMovement();
@@ -69,7 +67,7 @@ private:
     QAction* m_edit;
     QAction* m_move;
     RichTextEditor* m_editor = nullptr;
-    std::size_t m_editedBox = 0;
+    TextBox m_editedBox = TextBox::Header;
 };
 
 } // namespace tarsil

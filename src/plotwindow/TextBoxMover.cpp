@@ -32,16 +32,16 @@ std::optional<QPoint> stepOf(const QKeyEvent& key)
 
 } // namespace
 
-std::optional<std::size_t> TextBoxMover::boxAt(QPoint position) const
+std::optional<TextBox> TextBoxMover::boxAt(QPoint position) const
 {
-    for (std::size_t i = m_plot.boxCount(); i > 0; --i) { // the last one lies on top
-        if (m_plot.box(i - 1).geometry().contains(position))
-            return i - 1;
+    for (auto box = allTextBoxes.rbegin(); box != allTextBoxes.rend(); ++box) {
+        if (m_plot.box(*box).geometry().contains(position))
+            return *box;
     }
     return std::nullopt;
 }
 
-void TextBoxMover::select(std::optional<std::size_t> box)
+void TextBoxMover::select(std::optional<TextBox> box)
 {
     m_selected = box;
     m_isHeld = false;

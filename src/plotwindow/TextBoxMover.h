@@ -1,10 +1,11 @@
 #pragma once
 
+#include "vgfplot/TextBox.h"
+
 #include <QPoint>
 #include <QPointF>
 #include <QSize>
 
-#include <cstddef>
 #include <optional>
 
 class QKeyEvent;
@@ -22,12 +23,12 @@ public:
     /// `plot` must outlive this object.
     explicit TextBoxMover(EvmPlot& plot) : m_plot(plot) { }
 
-    std::optional<std::size_t> boxAt(QPoint position) const;
-    std::optional<std::size_t> selected() const { return m_selected; }
-    void select(std::optional<std::size_t> box);
+    std::optional<TextBox> boxAt(QPoint position) const;
+    std::optional<TextBox> selected() const { return m_selected; }
+    void select(std::optional<TextBox> box);
 
     /// Whether a box of this index goes where it is moved; the header keeps its row.
-    static bool isMovable(std::size_t box) { return box != 0; }
+    static bool isMovable(TextBox box) { return box != TextBox::Header; }
 
     /// The left button goes down: selects the box there, and holds it.
     void press(QPoint position);
@@ -49,7 +50,7 @@ private:
     void takeBack();
 
     EvmPlot& m_plot;
-    std::optional<std::size_t> m_selected;
+    std::optional<TextBox> m_selected;
     QPoint m_grip; ///< where in the box the pointer holds it
     QPoint m_start; ///< the corner where the box was shown before it was moved
     QPointF m_position; ///< its position then, twentieths of a point

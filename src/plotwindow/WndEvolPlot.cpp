@@ -99,7 +99,7 @@ EvmPlot* wndEvolPlot::CopyPlot(const QString& caption)
     if (!hasActivePlot())
         return nullptr;
     Element element = makeElement(nextIndex());
-    Q_EMIT m_activePlot->pictureWanted();
+    m_activePlot->commitEdits();
     element.plot->Clone(*m_activePlot);
     const QString standard = element.plot->Caption() + u'(' + placeText(element.index) + u')';
     element.plot->setCaption(caption.isEmpty() ? standard : caption);

@@ -63,9 +63,9 @@ EvmPlot::EvmPlot() : m_vgPlot(*this), m_vfPlot(*this)
     m_freqAxis.setThickFormat(QStringLiteral("0.0#"));
     for (trspLabel* label : {&m_velAxisLabel, &m_gAxisLabel, &m_freqAxislabel})
         label->setAutoSize(true);
-    ertbTexts[0].setPrompt(QStringLiteral("Insert Header"));
-    ertbTexts[1].setPrompt(QStringLiteral("Insert Legend"));
-    ertbTexts[2].setPrompt(QStringLiteral("Insert Subtitle"));
+    Header().setPrompt(QStringLiteral("Insert Header"));
+    Legend().setPrompt(QStringLiteral("Insert Legend"));
+    Mechanism().setPrompt(QStringLiteral("Insert Subtitle"));
     ReadProperties({});
     setBounds(PlotAxes().bounds());
     resize(QSize(800, 600));
@@ -378,13 +378,6 @@ void EvmPlot::refresh()
     invalidate();
 }
 
-std::array<PlotControl*, 11> EvmPlot::partsInDrawingOrder()
-{
-    return {&m_velAxis,    &m_velAxisLabel, &m_freqAxis,   &m_freqAxislabel,
-            &m_gAxis,      &m_gAxisLabel,   &ertbTexts[0], &ertbTexts[1],
-            &ertbTexts[2], &m_vfPlot,       &m_vgPlot};
-}
-
 const QImage& EvmPlot::Image()
 {
     std::exception_ptr failure;
@@ -408,7 +401,7 @@ void EvmPlot::drawParts()
     m_isStale = false;
     m_isComposed = false;
     std::exception_ptr failure;
-    for (PlotControl* part : partsInDrawingOrder()) {
+    for (PlotControl* part : partsInDrawingOrder(*this)) {
         const bool isCanvas = part == &m_vgPlot || part == &m_vfPlot;
         if (isCanvas && !m_isPlotted)
             continue;
@@ -434,7 +427,7 @@ void EvmPlot::compose()
     if (m_image.isNull())
         return;
     QPainter painter(&m_image);
-    for (const PlotControl* part : partsInDrawingOrder()) {
+    for (const PlotControl* part : partsInDrawingOrder(*this)) {
         if (!part->surface().isNull())
             painter.drawImage(part->surfacePosition(), part->surface());
     }
@@ -442,12 +435,11 @@ void EvmPlot::compose()
     m_image.setDevicePixelRatio(m_ratio);
 }
 
-void EvmPlot::Draw(DeviceContext& context)
+void EvmPlot::Draw(DeviceContext& context) const
 {
-    Q_EMIT pictureWanted();
     context.fillRectangle({QPoint(0, 0), m_size}, white);
-    for (PlotControl* part : partsInDrawingOrder())
-        part->Draw(&context);
+    for (const PlotControl* part : partsInDrawingOrder(*this))
+        part->drawInto(context);
 }
 
 } // namespace tarsil

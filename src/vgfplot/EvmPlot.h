@@ -2,11 +2,13 @@
 
 #include "model/PlotAxes.h"
 #include "plot/EmfRichTextBox.h"
+#include "plot/Marker.h"
 #include "plot/TrspLabel.h"
 #include "plot/UcPlot.h"
 #include "plot/XAxis.h"
 #include "plot/YAxis.h"
 #include "vgfplot/PlotRows.h"
+#include "vgfplot/TextBox.h"
 
 #include <QImage>
 #include <QObject>
@@ -14,9 +16,12 @@
 #include <array>
 #include <cstdint>
 #include <optional>
+#include <type_traits>
 #include <vector>
 
 namespace tarsil {
+
+struct PlotLayout;
 
 /// The V-g-f plot of a set of modes: frequency above and damping below one speed axis, axis titles,
 /// and three text boxes. It needs no window: it lays its parts out, keeps axes and canvases in
@@ -37,9 +42,9 @@ public:
     EvmPlot();
     ~EvmPlot() override;
 
-    emfRichTextBox& Header() { return ertbTexts[0]; }
-    emfRichTextBox& Legend() { return ertbTexts[1]; }
-    emfRichTextBox& Mechanism() { return ertbTexts[2]; }
+    emfRichTextBox& Header() { return textBox(TextBox::Header); }
+    emfRichTextBox& Legend() { return textBox(TextBox::Legend); }
+    emfRichTextBox& Mechanism() { return textBox(TextBox::Mechanism); }
 
     /// The series in order of drawing: those of the rows that have a curve.
     const SeriesList& SeriesCollection() const override { return m_rows.curves(); }
@@ -147,17 +152,19 @@ public:
     /// that is too small for the header to be seen there it is shown at the nearest edge.
     void setHeaderTop(double top);
 
-    /// Moves a text box (index as in `ertbTexts`) to a position in twentieths of a point; the
-    /// header goes back to its row. The box keeps the position, but in a plot that is too small for
-    /// all of it to be seen there it is shown, and drawn, at the nearest edge (`shownPlace`);
-    /// `geometry` of the box says where.
-    void moveBox(std::size_t index, double left, double top);
+    /// Moves a text box to a position in twentieths of a point; the header goes back to its row.
+    /// The box keeps the position, but in a plot that is too small for all of it to be seen there
+    /// it is shown, and drawn, at the nearest edge (`shownPlace`); `geometry` of the box says
+    /// where.
+    void moveBox(TextBox box, double left, double top);
 
     /// Sets the text of a box and lays the parts out again.
-    void setBoxText(std::size_t index, const QString& text);
-    void setBoxContent(std::size_t index, RichText content);
-    const emfRichTextBox& box(std::size_t index) const { return ertbTexts.at(index); }
-    std::size_t boxCount() const { return ertbTexts.size(); }
+    void setBoxText(TextBox box, const QString& text);
+    void setBoxContent(TextBox box, RichText content);
+    const emfRichTextBox& box(TextBox box) const
+    {
+        return ertbTexts[static_cast<std::size_t>(box)];
+    }
 
     /// Lays the parts out again after a text box was changed from outside, and draws them.
     void refresh();
@@ -168,13 +175,15 @@ public:
 
     /// Writes the picture as an Enhanced Metafile, whole or not at all. The file name is taken as
     /// it stands. Errors: those of drawing and of writing a file.
-    void ExportPic(const QString& fileName);
-
-    /// The same metafile in memory.
-    QByteArray emfPicture();
+    void ExportPic(const QString& fileName) const;
 
     /// Draws the same picture into a caller's context: white ground, axes, titles, boxes, curves.
-    void Draw(DeviceContext& context);
+    /// What is being edited is not in it: who wants it there calls `commitEdits` first.
+    void Draw(DeviceContext& context) const;
+
+    /// Asks whoever edits a text of the plot to put into the plot what has been typed. Called
+    /// before the plot is saved, copied or made a picture.
+    void commitEdits() { Q_EMIT editsWanted(); }
 
     const ucPlot& vgPlot() const { return m_vgPlot; }
     const ucPlot& vfPlot() const { return m_vfPlot; }
@@ -189,27 +198,26 @@ Q_SIGNALS:
     /// The picture on the screen is no longer true.
     void changed();
 
-    /// The plot is about to be drawn into somebody's context, saved or copied: what is being edited
-    /// belongs to it.
-    void pictureWanted();
+    /// `commitEdits` was called.
+    void editsWanted();
 
     /// The plot is about to get other contents: what is being edited, or moved, goes with the old
     /// ones.
     void contentsReplaced();
 
 private:
-    void WriteEmfPicture(const QString& fileName);
+    void WriteEmfPicture(const QString& fileName) const;
     void setBounds(const PlotBounds& bounds);
     void layOut();
-    void layOutCanvases();
-    void layOutTitles();
-    void layOutBoxes();
+    void layOutBoxes(const PlotLayout& layout);
+    emfRichTextBox& textBox(TextBox box) { return ertbTexts[static_cast<std::size_t>(box)]; }
     void appendDampLine(float g, const QString& caption);
     void invalidate();
     void followRows();
     void drawParts();
     void compose();
-    std::array<PlotControl*, 11> partsInDrawingOrder();
+    template <typename Plot>
+    static auto partsInDrawingOrder(Plot& plot);
 
     ucPlot m_vgPlot;
     ucPlot m_vfPlot;
@@ -219,7 +227,7 @@ private:
     trspLabel m_velAxisLabel {QStringLiteral("velAxisLabel")};
     trspLabel m_gAxisLabel {QStringLiteral("gAxisLabel")};
     trspLabel m_freqAxislabel {QStringLiteral("freqAxislabel")};
-    std::array<emfRichTextBox, 3> ertbTexts;
+    std::array<emfRichTextBox, allTextBoxes.size()> ertbTexts; ///< by `TextBox`
     double m_headerTop = 60; ///< twentieths of a point
 
     PlotRows m_rows;
@@ -235,5 +243,20 @@ private:
     QImage m_image;
     ChangedProperties m_changed;
 };
+
+template <typename Plot>
+auto EvmPlot::partsInDrawingOrder(Plot& plot)
+{
+    using Part = std::conditional_t<std::is_const_v<Plot>, const PlotControl, PlotControl>;
+    std::array<Part*, 8 + allTextBoxes.size()> parts = {&plot.m_velAxis,  &plot.m_velAxisLabel,
+                                                        &plot.m_freqAxis, &plot.m_freqAxislabel,
+                                                        &plot.m_gAxis,    &plot.m_gAxisLabel};
+    Part** next = parts.data() + 6;
+    for (auto& box : plot.ertbTexts)
+        *next++ = &box;
+    *next++ = &plot.m_vfPlot;
+    *next = &plot.m_vgPlot;
+    return parts;
+}
 
 } // namespace tarsil

@@ -1,27 +1,20 @@
-// Where the parts of a V-g-f plot stand. Fractions are of the plot's own width and height.
+// How a V-g-f plot takes its layout over.
 
 #include "surface/PixelMath.h"
 #include "vgfplot/BoxReach.h"
 #include "vgfplot/EvmPlot.h"
+#include "vgfplot/PlotLayout.h"
 
-#include <algorithm>
+#include <utility>
 
 namespace tarsil {
 
 namespace {
 
-constexpr double canvasTop = 0.1 + 0.03;
-constexpr double canvasLeft = 0.1;
-constexpr double canvasWidth = 0.75;
-constexpr double canvasHeight = 0.84;
-constexpr double titleGap = 0.01;
-constexpr double headerRightGap = 0.045;
-constexpr double legendLeft = canvasLeft + canvasWidth + titleGap;
-
-// Pixels. Even, so that the line in the middle of an axis lies on a whole pixel.
-constexpr int speedAxisHeight = 64;
-constexpr int verticalAxisWidth = 120;
-constexpr int edge = 8; ///< between a text box and the plot's edge
+void place(emfRichTextBox& box, QPoint position)
+{
+    box.place(position.x() * unitsPerPixel, position.y() * unitsPerPixel);
+}
 
 /// The position of a box stays what it is, and is shown again in a plot that is large enough.
 void showWhole(emfRichTextBox& box, QSize plot)
@@ -36,7 +29,7 @@ void EvmPlot::resize(QSize size, double ratio)
 {
     m_size = size.expandedTo(QSize(1, 1));
     m_ratio = ratio;
-    for (PlotControl* part : partsInDrawingOrder()) {
+    for (PlotControl* part : partsInDrawingOrder(*this)) {
         part->setDevicePixelRatio(ratio);
         part->setContainer({QPoint(0, 0), m_size});
     }
@@ -45,63 +38,33 @@ void EvmPlot::resize(QSize size, double ratio)
 
 void EvmPlot::layOut()
 {
-    layOutCanvases();
-    layOutTitles();
-    layOutBoxes();
+    const PlotLayout layout =
+        layOutPlot(m_size,
+                   {m_velAxisLabel.geometry().size(), m_freqAxislabel.geometry().size(),
+                    m_gAxisLabel.geometry().size()});
+    m_vgPlot.setGeometry(layout.vgPlot);
+    m_vfPlot.setGeometry(layout.vfPlot);
+    m_velAxis.setGeometry(layout.velAxis);
+    m_freqAxis.setGeometry(layout.freqAxis);
+    m_gAxis.setGeometry(layout.gAxis);
+    m_velAxisLabel.setGeometry(layout.velAxisLabel);
+    m_freqAxislabel.setGeometry(layout.freqAxislabel);
+    m_gAxisLabel.setGeometry(layout.gAxisLabel);
+    layOutBoxes(layout);
 }
 
-/// The upper half is rounded to pixels and the V-g canvas is exactly two of it, so that the speed
-/// axis lies on the row of the middle, whatever the size. Half is an even number: a position
-/// half-way between two pixels then falls on the same one, counted from the canvas' upper edge (a
-/// curve) or from the speed axis (a tick).
-void EvmPlot::layOutCanvases()
+void EvmPlot::layOutBoxes(const PlotLayout& layout)
 {
-    const int left = roundToPixel(canvasLeft * m_size.width());
-    const int width = roundToPixel(canvasWidth * m_size.width());
-    const int top = roundToPixel(canvasTop * m_size.height());
-    const int half = 2 * roundToPixel(canvasHeight / 4 * m_size.height());
-    m_vgPlot.setGeometry({left, top, width, 2 * half});
-    m_vfPlot.setGeometry({left, top, width, half});
-    const int origin = top + half;
-    m_velAxis.setGeometry({0, 0, width, speedAxisHeight});
-    m_velAxis.MoveToOrigin(left, origin);
-    m_freqAxis.setGeometry({0, 0, verticalAxisWidth, half});
-    m_freqAxis.MoveToOrigin(left, origin);
-    m_gAxis.setGeometry({0, 0, verticalAxisWidth, half});
-    m_gAxis.MoveToOrigin(left, origin);
-}
-
-void EvmPlot::layOutTitles()
-{
-    const int left = m_vfPlot.Left();
-    const int origin = m_vfPlot.Top() + m_vfPlot.Height();
-    const auto put = [](trspLabel& label, int column, int middle) {
-        label.setGeometry({QPoint(column, middle - label.Height() / 2), label.geometry().size()});
-    };
-    const int gap = roundToPixel(titleGap * m_size.width());
-    put(m_velAxisLabel, m_velAxis.Width() + left + gap, origin);
-    put(m_freqAxislabel, m_freqAxis.Width() / 5 + left, m_freqAxis.Top());
-    put(m_gAxisLabel, m_gAxis.Width() / 5 + left, m_gAxis.Top() + m_gAxis.Height());
-}
-
-void EvmPlot::layOutBoxes()
-{
-    const auto units = [](int pixels) { return pixels * unitsPerPixel; };
-    const int headerLeft = m_freqAxislabel.Left() + m_freqAxislabel.Width();
-    const int headerRight = roundToPixel((1 - headerRightGap) * m_size.width());
-    Header().setUnitsWidth(units(std::max(headerRight - headerLeft, 0)));
-    Header().place(units(headerLeft), m_headerTop);
+    Header().setUnitsWidth(layout.headerWidth * unitsPerPixel);
+    Header().place(layout.headerLeft * unitsPerPixel, m_headerTop);
     const QRect row = Header().geometry();
     Header().setGeometry(row.translated(0, shownPlace(row, m_size).top() - row.top()));
-    if (!Legend().wasMoved()) { // right of the curves, as far left as its text needs
-        const int column = std::min(roundToPixel(legendLeft * m_size.width()),
-                                    m_size.width() - Legend().Width() - edge);
-        Legend().place(units(std::max(column, 0)), units(m_vfPlot.Top()));
-    }
+    if (!Legend().wasMoved())
+        place(Legend(), usualLegendPosition(m_size, layout, Legend().geometry().size()));
     if (!Mechanism().wasMoved())
-        Mechanism().place(units(headerLeft), units(Header().Top() + Header().Height()));
-    for (emfRichTextBox* box : {&Legend(), &Mechanism()})
-        showWhole(*box, m_size);
+        place(Mechanism(), usualSubtitlePosition(layout, Header().geometry()));
+    showWhole(Legend(), m_size);
+    showWhole(Mechanism(), m_size);
 }
 
 void EvmPlot::setHeaderTop(double top)
@@ -110,22 +73,22 @@ void EvmPlot::setHeaderTop(double top)
     refresh();
 }
 
-void EvmPlot::moveBox(std::size_t index, double left, double top)
+void EvmPlot::moveBox(TextBox box, double left, double top)
 {
-    if (index > 0) // the header goes back to its row
-        ertbTexts.at(index).Move(left, top);
+    if (box != TextBox::Header) // it goes back to its row
+        textBox(box).Move(left, top);
     refresh();
 }
 
-void EvmPlot::setBoxText(std::size_t index, const QString& text)
+void EvmPlot::setBoxText(TextBox box, const QString& text)
 {
-    ertbTexts.at(index).setText(text);
+    textBox(box).setText(text);
     refresh();
 }
 
-void EvmPlot::setBoxContent(std::size_t index, RichText content)
+void EvmPlot::setBoxContent(TextBox box, RichText content)
 {
-    ertbTexts.at(index).setContent(std::move(content));
+    textBox(box).setContent(std::move(content));
     refresh();
 }
 

@@ -90,7 +90,7 @@ void addCurves(EvmPlot& plot, const EvolutionCurves& curves, const CurveMarkers&
         Series& series = added.emplace_back(newSeries(*mode, plot.rows().count() + added.size()));
         series.LineStyle = lineStyles[file % lineStyles.size()];
         series.LegendText = QString::fromStdString(curves.evolution->FileName);
-        series.MarkerStyle = markers.style;
+        series.MarkerStyle = markerNumber(markers.kind);
         series.IthMpf = markers.factor;
         series.MarkerSize = markers.size;
         series.MarkerForegroundColor = series.ColorIndex;
@@ -111,15 +111,13 @@ void fitScales(EvmPlot& plot)
 
 void fillTexts(EvmPlot& plot, const Evolutions& evolutions)
 {
-    constexpr std::size_t header = 0;
-    constexpr std::size_t subtitle = 2;
     QStringList names;
     for (const EVM* evolution : evolutions)
         names.append(QString::fromStdString(evolution->FileName));
-    if (plot.box(header).isEmpty())
-        plot.setBoxText(header, caseText(evolutions));
-    if (plot.box(subtitle).isEmpty() && names.size() <= mostNames)
-        plot.setBoxText(subtitle, names.join(QStringLiteral(", ")));
+    if (plot.box(TextBox::Header).isEmpty())
+        plot.setBoxText(TextBox::Header, caseText(evolutions));
+    if (plot.box(TextBox::Mechanism).isEmpty() && names.size() <= mostNames)
+        plot.setBoxText(TextBox::Mechanism, names.join(QStringLiteral(", ")));
 }
 
 } // namespace

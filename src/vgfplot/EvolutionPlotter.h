@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plot/Series.h"
+#include "plot/Marker.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -26,8 +26,8 @@ EvolutionCurves allCurvesOf(EVM& evolution);
 /// What marks the points of curves.
 struct CurveMarkers
 {
-    std::int32_t style = markerstyle::modeNumber;
-    std::int32_t factor = 0; ///< counted from 1, for the style that shows one
+    MarkerKind kind = MarkerKind::ModeNumber;
+    std::int32_t factor = 0; ///< counted from 1, for the kind that shows one
     std::optional<std::int32_t> spacing; ///< points from one marker to the next
     std::int32_t size = 8; ///< points
 };

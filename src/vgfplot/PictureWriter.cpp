@@ -1,6 +1,8 @@
 #include "vgfplot/PictureWriter.h"
 
 #include "base/user/RunTimeError.h"
+#include "emf/EmfSink.h"
+#include "emf/MetafileContext.h"
 #include "surface/PainterContext.h"
 #include "surface/SvgContext.h"
 #include "vgfplot/EvmPlot.h"
@@ -25,9 +27,12 @@ constexpr double clipboardScale = 2; ///< a bitmap that still looks sharp in a p
     throw RunTimeError(ErrorNumber::InvalidProcedureCall, "PictureWriter", details);
 }
 
+/// The separators are the two characters backslash and zero, as every such picture has had them.
+const QString description = QStringLiteral("Tarsil\\0Created by Kestrin\\0\\0");
+
 const QString title = QStringLiteral("V-g-f plot");
 
-void draw(EvmPlot& plot, QPaintDevice& device)
+void draw(const EvmPlot& plot, QPaintDevice& device)
 {
     QPainter painter;
     if (!painter.begin(&device))
@@ -38,7 +43,7 @@ void draw(EvmPlot& plot, QPaintDevice& device)
     painter.end();
 }
 
-void writeSvg(EvmPlot& plot, QBuffer& buffer)
+void writeSvg(const EvmPlot& plot, QBuffer& buffer)
 {
     SvgContext context(buffer, plot.size(), title);
     plot.Draw(context);
@@ -49,7 +54,7 @@ QSizeF pagePoints(const EvmPlot& plot)
     return QSizeF(plot.size()) * pointsPerInch / pixelsPerInch;
 }
 
-void writePdf(EvmPlot& plot, QBuffer& buffer)
+void writePdf(const EvmPlot& plot, QBuffer& buffer)
 {
     QPdfWriter writer(&buffer);
     writer.setResolution(pixelsPerInch);
@@ -80,9 +85,23 @@ QByteArray withExactPage(QByteArray pdf, QSizeF points)
     return pdf.replace(start, length, box.leftJustified(length));
 }
 
+QByteArray metafileBytes(const EvmPlot& plot)
+{
+    EmfMemory memory;
+    writeMetafile(plot, memory);
+    return QByteArray::fromStdString(memory.bytes());
+}
+
 } // namespace
 
-QImage pictureImage(EvmPlot& plot, double scale)
+void writeMetafile(const EvmPlot& plot, EmfSink& sink)
+{
+    MetafileContext context(sink, description);
+    plot.Draw(context);
+    context.close();
+}
+
+QImage pictureImage(const EvmPlot& plot, double scale)
 {
     QImage image(plot.size() * scale, QImage::Format_RGB32);
     if (image.isNull())
@@ -97,7 +116,7 @@ QImage pictureImage(EvmPlot& plot, double scale)
     return image;
 }
 
-QByteArray pictureBytes(EvmPlot& plot, PictureFormat format)
+QByteArray pictureBytes(const EvmPlot& plot, PictureFormat format)
 {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
@@ -109,7 +128,7 @@ QByteArray pictureBytes(EvmPlot& plot, PictureFormat format)
         writePdf(plot, buffer);
         return withExactPage(buffer.data(), pagePoints(plot));
     case PictureFormat::Emf:
-        return plot.emfPicture();
+        return metafileBytes(plot);
     case PictureFormat::Png:
         if (!pictureImage(plot, 1).save(&buffer, "PNG"))
             fail("the picture cannot be made");
@@ -118,7 +137,7 @@ QByteArray pictureBytes(EvmPlot& plot, PictureFormat format)
     return buffer.data();
 }
 
-std::unique_ptr<QMimeData> pictureMimeData(EvmPlot& plot)
+std::unique_ptr<QMimeData> pictureMimeData(const EvmPlot& plot)
 {
     auto data = std::make_unique<QMimeData>();
     const QByteArray metafile = pictureBytes(plot, PictureFormat::Emf);

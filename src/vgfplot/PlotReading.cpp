@@ -1,8 +1,9 @@
 #include "vgfplot/PlotReading.h"
 
 #include "base/numbers/NumberFormat.h"
-#include "base/numbers/Numbers.h"
 #include "model/EVM.h"
+#include "plot/PlotAxis.h"
+#include "plot/ValueMap.h"
 
 #include <algorithm>
 #include <cmath>
@@ -182,25 +183,21 @@ std::optional<PlotReading> readAt(const EvmPlot& plot, QPoint pixel)
         || axes.frequency.min == axes.frequency.max || axes.damping.min == axes.damping.max;
     if (hasEqualBounds || !plot.vgPlot().geometry().contains(pixel))
         return std::nullopt;
-    // `position`: a part of the way between two bounds, as a person reads them on the axes.
-    const auto valueAt = [](const AxisValues& axis, double position) {
-        const double first = decimalValue(axis.min);
-        return first + position * (decimalValue(axis.max) - first);
+    const auto mapOf = [](const PlotAxis& axis, int length) {
+        return ValueMap(axis.Min(), axis.Max(), length);
     };
-    const auto speedAt = [&](int column) {
-        const double width = plot.vgPlot().Width();
-        return valueAt(axes.speed, (column - plot.vgPlot().Left()) / width);
-    };
-    const double half = plot.vfPlot().Height();
-    const double row = pixel.y() - plot.vfPlot().Top() - half;
+    const auto speedAt = [&plot, speeds = mapOf(plot.velAxis(), plot.vgPlot().Width())](
+                             int column) { return speeds.valueAt(column - plot.vgPlot().Left()); };
+    const int half = plot.vfPlot().Height();
+    const int row = pixel.y() - plot.vfPlot().Top() - half;
 
     PlotReading reading;
     reading.speed = speedAt(pixel.x());
     if (row < 0) {
-        reading.value = valueAt(axes.frequency, -row / half);
+        reading.value = mapOf(plot.freqAxis(), half).valueAt(-row);
     } else {
         reading.ordinate = PlotReading::Ordinate::Damping;
-        reading.value = valueAt(axes.damping, row / half);
+        reading.value = mapOf(plot.gAxis(), half).valueAt(row);
     }
     // One pixel more, since the canvas draws on whole pixels.
     const auto [low, high] =

@@ -12,11 +12,6 @@ namespace tarsil {
 
 namespace {
 
-// Places in `ertbTexts`.
-constexpr std::size_t header = 0;
-constexpr std::size_t legend = 1;
-constexpr std::size_t mechanism = 2;
-
 TextRecord recordOf(const emfRichTextBox& box)
 {
     return {box.TextRTF(), BoxPosition {box.unitsLeft(), box.unitsTop()}};
@@ -69,20 +64,20 @@ std::vector<MarkRecord> dampingLinesOf(const EvmPlot& plot)
     return marks;
 }
 
-void applyText(const TextRecord& record, std::size_t index, EvmPlot& plot)
+void applyText(const TextRecord& record, TextBox which, EvmPlot& plot)
 {
     if (record.rtf) {
         emfRichTextBox box;
-        box.setFont(plot.box(index).Font());
+        box.setFont(plot.box(which).Font());
         box.setTextRTF(*record.rtf);
-        plot.setBoxContent(index, box.content());
+        plot.setBoxContent(which, box.content());
     }
     if (!record.position)
         return;
-    if (index == header)
+    if (which == TextBox::Header)
         plot.setHeaderTop(record.position->top);
     else
-        plot.moveBox(index, record.position->left, record.position->top);
+        plot.moveBox(which, record.position->left, record.position->top);
 }
 
 [[noreturn]] void failAt(const SeriesRecord& record, const EvmPlot& plot, const char* what)
@@ -159,9 +154,9 @@ PlotRecord recordOf(const EvmPlot& plot, const std::vector<const EVM*>& evolutio
 {
     PlotRecord record;
     record.caption = plot.Caption().toStdString();
-    record.header = recordOf(plot.box(header));
-    record.legend = recordOf(plot.box(legend));
-    record.mechanism = recordOf(plot.box(mechanism));
+    record.header = recordOf(plot.box(TextBox::Header));
+    record.legend = recordOf(plot.box(TextBox::Legend));
+    record.mechanism = recordOf(plot.box(TextBox::Mechanism));
     record.axes = plot.axes();
     for (const Series& series : plot.SeriesCollection()) {
         const SeriesRecord one = recordOf(series, evolutions);
@@ -176,9 +171,9 @@ PlotRecord recordOf(const EvmPlot& plot, const std::vector<const EVM*>& evolutio
 void applyRecord(const PlotRecord& record, const std::vector<EVM*>& evolutions, EvmPlot& plot)
 {
     Q_EMIT plot.contentsReplaced();
-    applyText(record.header, header, plot);
-    applyText(record.mechanism, mechanism, plot);
-    applyText(record.legend, legend, plot);
+    applyText(record.header, TextBox::Header, plot);
+    applyText(record.mechanism, TextBox::Mechanism, plot);
+    applyText(record.legend, TextBox::Legend, plot);
     plot.setAxes(record.axes);
     applyMarks(record, plot);
     applySeries(record, evolutions, plot);

@@ -5,6 +5,7 @@
 #include "datacontrol/SeriesGridView.h"
 #include "datacontrol/WndData.h"
 #include "explorer/WndEvolExplorer.h"
+#include "plot/Marker.h"
 #include "support/FormParts.h"
 
 #include <QComboBox>
@@ -81,7 +82,7 @@ TEST_F(DataControl, showsTheCurvesThatTheExplorerAddsAndLetsGo)
     EXPECT_THAT(column(SeriesColumn::Evolution),
                 ElementsAre("goland_clean_m040.ev2", "goland_tipstore_m040.ev2"));
     EXPECT_THAT(column(SeriesColumn::Mode), ElementsAre("1", "1"));
-    EXPECT_EQ(plot().SeriesCollection().front().MarkerStyle, markerstyle::modeNumber);
+    EXPECT_EQ(plot().SeriesCollection().front().MarkerStyle, markerNumber(MarkerKind::ModeNumber));
     selectNode(0);
     window.findChild<QAction*>(QStringLiteral("Remove"))->trigger();
     EXPECT_THAT(column(SeriesColumn::Evolution), ElementsAre("goland_tipstore_m040.ev2"));

@@ -6,6 +6,7 @@
 #include "explorer/WndEvolExplorer.h"
 #include "model/EVM.h"
 #include "support/RandomTexts.h"
+#include "vgfplot/PictureWriter.h"
 
 #include <gmock/gmock.h>
 
@@ -72,7 +73,7 @@ protected:
         std::vector<QByteArray> result;
         for (EvmPlot* const one : window.evolPlot().plots()) {
             window.evolPlot().FitPlot(one);
-            result.push_back(one->emfPicture());
+            result.push_back(pictureBytes(*one, PictureFormat::Emf));
         }
         return result;
     }
@@ -112,11 +113,11 @@ void SessionRoundTripTest::fill(EvmPlot& one)
 {
     window.evolPlot().FitPlot(&one);
     addSeries(one);
-    for (std::size_t i = 0; i < one.boxCount(); ++i) {
+    for (const TextBox which : allTextBoxes) {
         if (random.below(4) != 0)
-            one.setBoxContent(i, richText());
+            one.setBoxContent(which, richText());
         if (random.below(2) == 0)
-            one.moveBox(i, bound(-100, 9000), bound(-100, 9000));
+            one.moveBox(which, bound(-100, 9000), bound(-100, 9000));
     }
     one.setVLabel(line(8));
     one.setFLabel(line(8));

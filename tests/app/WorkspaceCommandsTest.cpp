@@ -6,6 +6,7 @@
 #include "explorer/WndEvolExplorer.h"
 #include "model/EVM.h"
 #include "support/ChangeSeries.h"
+#include "vgfplot/PictureWriter.h"
 
 #include <QMouseEvent>
 #include <QTextEdit>
@@ -39,7 +40,7 @@ protected:
         for (const char* name : {"one.ev2", "two.ev2"})
             folder.write(name, test::fileBytes(sample("goland_clean_m040.ev2")));
         load({folder.file("one.ev2"), folder.file("two.ev2")});
-        plot().setBoxText(0, QStringLiteral("header\nsecond line"));
+        plot().setBoxText(TextBox::Header, QStringLiteral("header\nsecond line"));
         plot().SerieMove(1, 9);
         window.explorer().setDescription(QStringLiteral("an afternoon"));
         EvmPlot& second = window.evolPlot().AddPlot(QStringLiteral("Second"));
@@ -368,7 +369,7 @@ TEST_F(WorkspaceCommandsTest, keepEveryCharacterOfALongHeader)
 {
     work();
     for (const int length : {928, 929, 940}) {
-        plot().setBoxText(0, QString(length, u'x'));
+        plot().setBoxText(TextBox::Header, QString(length, u'x'));
         const std::string name = std::to_string(length) + ".tsw";
         save(name);
         EXPECT_EQ(user.statuses.back(), "Ready");
@@ -479,7 +480,7 @@ TEST_F(WorkspaceCommandsTest, tellOfAFileThatIsTakenByItsNameAlone)
 TEST_F(WorkspaceCommandsTest, tellOfTextsThatWereCutAndAskBeforeTheyAreLost)
 {
     work();
-    plot().setBoxText(0, QString(3000, u'x'));
+    plot().setBoxText(TextBox::Header, QString(3000, u'x'));
     save();
     const std::string whole = bytes();
     choose("mnuNewWorkspace");
@@ -518,16 +519,16 @@ TEST_F(WorkspaceCommandsTest, leaveTheOldFileWhenItCannotBeWritten)
 TEST_F(WorkspaceCommandsTest, sayWhichTextsWillBeCut)
 {
     work();
-    plot().setBoxText(1, QString(1200, u'x'));
+    plot().setBoxText(TextBox::Legend, QString(1200, u'x'));
     save();
     EXPECT_THAT(user.note, StartsWith("Legend of [PLOT1] is longer than 1023 "));
-    window.evolPlot().plots()[1]->setBoxText(0, QString(1200, u'x'));
+    window.evolPlot().plots()[1]->setBoxText(TextBox::Header, QString(1200, u'x'));
     save("both.tsw");
     EXPECT_THAT(user.note,
                 StartsWith("Legend of [PLOT1], Header of [PLOT2] are longer than 1023 "));
     for (EvmPlot* const one : window.evolPlot().plots()) {
-        one->setBoxText(0, QString());
-        one->setBoxText(1, QString());
+        one->setBoxText(TextBox::Header, QString());
+        one->setBoxText(TextBox::Legend, QString());
     }
     save("neither.tsw");
     EXPECT_EQ(user.note, "The workspace is in " + folder.file("neither.tsw"))
@@ -590,16 +591,16 @@ TEST_F(WorkspaceCommandsTest, keepThePictureOfAPlotThatWasNeverShown)
 {
     work();
     EvmPlot& hidden = *window.evolPlot().plots()[1];
-    hidden.setBoxText(1, QStringLiteral("legend"));
-    hidden.setBoxText(2, QStringLiteral("subtitle"));
+    hidden.setBoxText(TextBox::Legend, QStringLiteral("legend"));
+    hidden.setBoxText(TextBox::Mechanism, QStringLiteral("subtitle"));
     save();
     window.evolPlot().ActivatePlot(&hidden);
-    const QByteArray shown = hidden.emfPicture();
+    const QByteArray shown = pictureBytes(hidden, PictureFormat::Emf);
     choose("mnuNewWorkspace");
     open(folder.file("case.tsw"));
     EvmPlot& again = *window.evolPlot().plots()[1];
     window.evolPlot().ActivatePlot(&again);
-    EXPECT_EQ(again.emfPicture(), shown);
+    EXPECT_EQ(pictureBytes(again, PictureFormat::Emf), shown);
 }
 
 TEST_F(WorkspaceCommandsTest, keepPlotsOfOneNameApart)

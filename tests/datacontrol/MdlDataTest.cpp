@@ -58,13 +58,13 @@ protected:
 TEST_F(MdlData, givesTheSeriesOfTheRowsTheirMarkers)
 {
     setMode(2, 9);
-    EXPECT_EQ(mdlData::buildSeries(rows(), {9, 4, markerstyle::tag, 2}),
+    EXPECT_EQ(mdlData::buildSeries(rows(), {9, 4, MarkerKind::Tag, 2}),
               "There is no mode 9 in modal evolution case.ev2");
     EXPECT_THAT(order(), ElementsAre(11, 12, 14, 15));
     for (std::size_t row = 0; row < rows().count(); ++row) {
         EXPECT_EQ(look(row).MarkerSize, 9);
         EXPECT_EQ(look(row).MarkerSpacing, 4);
-        EXPECT_EQ(look(row).MarkerStyle, markerstyle::tag);
+        EXPECT_EQ(look(row).MarkerStyle, markerNumber(MarkerKind::Tag));
         EXPECT_EQ(look(row).IthMpf, 2);
     }
 }
@@ -96,11 +96,11 @@ TEST_F(MdlData, changesOnlyTheMarkerOptionsThatDiffer)
 {
     changeSeries(plot, 1, [](Series& one) { one.MarkerSpacing = 3; });
     setMode(2, 0);
-    mdlData::changeMarkers(rows(), {8, 10, markerstyle::tag, 1}, {12, 10, markerstyle::tag, 4});
+    mdlData::changeMarkers(rows(), {8, 10, MarkerKind::Tag, 1}, {12, 10, MarkerKind::Tag, 4});
     EXPECT_EQ(series()[1].MarkerSize, 12);
     EXPECT_EQ(series()[1].IthMpf, 4);
     EXPECT_EQ(series()[1].MarkerSpacing, 3);
-    EXPECT_EQ(series()[1].MarkerStyle, markerstyle::none);
+    EXPECT_EQ(series()[1].MarkerStyle, markerNumber(MarkerKind::None));
     EXPECT_EQ(look(2).MarkerSize, 12) << "its curve may come back";
 }
 

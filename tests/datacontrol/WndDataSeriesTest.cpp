@@ -3,6 +3,7 @@
 #include "WndDataFixture.h"
 
 #include "datacontrol/DlgSeriesStyle.h"
+#include "plot/Marker.h"
 #include "surface/DeviceContext.h"
 
 #include <QComboBox>
@@ -73,7 +74,7 @@ TEST_F(WndDataSeries, givesAddedCurvesTheMarkersThatStandThere)
     test::type(data, "mksizeInp", "12");
     choose("tagBtn");
     addRows();
-    EXPECT_EQ(series().front().MarkerStyle, markerstyle::tag);
+    EXPECT_EQ(series().front().MarkerStyle, markerNumber(MarkerKind::Tag));
     EXPECT_EQ(series().front().MarkerSize, 12);
     EXPECT_EQ(series().front().MarkerSpacing, 10);
     EXPECT_EQ(series()[1].MarkerForegroundColor, BaseColors[1]);
@@ -84,7 +85,7 @@ TEST_F(WndDataSeries, givesAddedCurvesPlainMarkersWhileTheOptionsAreWrong)
     addRows();
     test::type(data, "mksizeInp", "big");
     add(load("c.ev2"));
-    EXPECT_EQ(series().back().MarkerStyle, markerstyle::modeNumber);
+    EXPECT_EQ(series().back().MarkerStyle, markerNumber(MarkerKind::ModeNumber));
     EXPECT_THAT(user.messages, IsEmpty());
     click("cmdDrawPlot");
     EXPECT_EQ(user.messages.size(), 1U);
@@ -260,13 +261,13 @@ TEST_F(WndDataSeries, storesTheMarkerOptionsIntoEveryRow)
     test::type(data, "ithmpfInp", "3");
     choose("ithmpfBtn");
     for (const Series& one : series()) {
-        EXPECT_EQ(one.MarkerStyle, markerstyle::participationFactor);
+        EXPECT_EQ(one.MarkerStyle, markerNumber(MarkerKind::ParticipationFactor));
         EXPECT_EQ(one.MarkerSize, 10); // half a point rounds to the even number
         EXPECT_EQ(one.MarkerSpacing, 4);
         EXPECT_EQ(one.IthMpf, 3);
     }
     choose("womkBtn");
-    EXPECT_EQ(series().back().MarkerStyle, markerstyle::none);
+    EXPECT_EQ(series().back().MarkerStyle, markerNumber(MarkerKind::None));
     EXPECT_EQ(series().back().IthMpf, 3) << "kept for the next time";
     test::type(data, "ithmpfInp", "");
     click("cmdDrawPlot");
@@ -280,7 +281,7 @@ TEST_F(WndDataSeries, drawsThePlotAgainWhenTagsAreChosen)
     test::type(data, "mkspaceInp", "1");
     const QImage before = plot().Image();
     choose("tagBtn");
-    EXPECT_EQ(series().front().MarkerStyle, markerstyle::tag);
+    EXPECT_EQ(series().front().MarkerStyle, markerNumber(MarkerKind::Tag));
     EXPECT_NE(plot().Image(), before);
     click("cmdDrawPlot");
     const QImage plotted = plot().Image();
@@ -293,12 +294,12 @@ TEST_F(WndDataSeries, changesOnlyTheMarkerOptionThatTheUserChanges)
     addRows();
     change(1, [](Series& one) {
         one.MarkerSpacing = 3;
-        one.MarkerStyle = markerstyle::none;
+        one.MarkerStyle = markerNumber(MarkerKind::None);
     });
     test::type(data, "mksizeInp", "12");
     EXPECT_EQ(series()[1].MarkerSize, 12);
     EXPECT_EQ(series()[1].MarkerSpacing, 3) << "rows of a workspace may differ";
-    EXPECT_EQ(series()[1].MarkerStyle, markerstyle::none);
+    EXPECT_EQ(series()[1].MarkerStyle, markerNumber(MarkerKind::None));
     EXPECT_THAT(user.messages, IsEmpty());
 }
 
@@ -319,7 +320,7 @@ TEST_F(WndDataSeries, marksAMarkerOptionThatIsNoNumberAndTakesTheOthers)
         EXPECT_EQ(series().front().MarkerSize, 8) << text;
     }
     choose("tagBtn");
-    EXPECT_EQ(series().front().MarkerStyle, markerstyle::tag);
+    EXPECT_EQ(series().front().MarkerStyle, markerNumber(MarkerKind::Tag));
     test::type(data, "mksizeInp", "11");
     EXPECT_FALSE(isMarked());
     EXPECT_EQ(series().front().MarkerSize, 11);
@@ -472,7 +473,7 @@ TEST_F(WndDataSeries, showsTheMarkersOfThePlotThatBecomesActive)
     EVM& evolution = load("a.ev2");
     EvmPlot& opened = plots.AddPlot({});
     opened.rows().change(opened.addSeries(*evolution.Modes[0]), [](Series& one) {
-        one.MarkerStyle = markerstyle::participationFactor;
+        one.MarkerStyle = markerNumber(MarkerKind::ParticipationFactor);
         one.MarkerSize = 14;
         one.MarkerSpacing = 3;
         one.IthMpf = 2;

@@ -257,7 +257,7 @@ TEST_F(WndDataTexts, writesALegendTextWithALineBreakAsOneLine)
 TEST_F(WndDataTexts, writesALegendWithoutLinesAsAnEmptyBox)
 {
     add(load("a.ev2"));
-    plot().setBoxText(1, QStringLiteral("old"));
+    plot().setBoxText(TextBox::Legend, QStringLiteral("old"));
     click("btnPlotLeg");
     EXPECT_EQ(legend(), "");
 }
@@ -273,7 +273,7 @@ TEST_F(WndDataTexts, rebuildsTheRowsBeforeItWritesTheLegend)
 TEST_F(WndDataTexts, reportsAFontSizeThatIsNone)
 {
     add(load("a.ev2"));
-    plot().setBoxText(1, QStringLiteral("old"));
+    plot().setBoxText(TextBox::Legend, QStringLiteral("old"));
     for (const auto& [size, number] :
          {std::pair("", "13"), std::pair("0", "5"), std::pair("1e9", "5")}) {
         test::type(data, "txtLegFontSize", size);
@@ -320,7 +320,7 @@ TEST_F(WndDataTexts, savesThePictureUnderTheCaptionWhenTheDialogIsCancelled)
     EXPECT_GT(picture.size(), 44U);
     EXPECT_EQ(user.note, "The picture is in " + folder.file("Plot1"));
     EXPECT_THAT(user.questions, IsEmpty());
-    plot().setBoxText(0, QStringLiteral("another picture"));
+    plot().setBoxText(TextBox::Header, QStringLiteral("another picture"));
     click("SavePic");
     EXPECT_THAT(user.questions,
                 ElementsAre("The file 'Plot1' already exists. Do you want to replace it?"));

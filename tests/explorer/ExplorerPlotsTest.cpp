@@ -82,7 +82,7 @@ TEST_F(WndEvolExplorerTest, leavesNothingThatIsBeingTypedInANewWorkspace)
     QTextEdit& editor = typeLegend("typed");
     explorer.startNew();
     EXPECT_TRUE(editor.parentWidget()->isHidden());
-    plotAt(0).emfPicture(); // takes along what is being edited
+    plotAt(0).commitEdits();
     EXPECT_EQ(plotAt(0).Legend().Text().toStdString(), "");
 }
 

@@ -1,6 +1,7 @@
 // The curves and markers of a canvas.
 
 #include "plot/Canvas.h"
+#include "plot/Marker.h"
 
 using namespace tarsil;
 using test::errorNumberOf;
@@ -34,7 +35,7 @@ TEST_F(CanvasSeries, withFewerThanTwoPointsDrawNothingNotEvenAMarker)
     addCurve({{10, 0, 20}});
     for (Series& curve : series) {
         curve.MarkerSpacing = 1;
-        curve.MarkerStyle = markerstyle::modeNumber;
+        curve.MarkerStyle = markerNumber(MarkerKind::ModeNumber);
     }
     EXPECT_THAT(drawing(), IsEmpty());
 }
@@ -83,7 +84,7 @@ TEST_F(CanvasSeries, withMorePointsAreAnError)
 
 TEST_F(CanvasSeries, haveNoMarkersWhenNew)
 {
-    addLevelCurve(10).MarkerStyle = markerstyle::modeNumber;
+    addLevelCurve(10).MarkerStyle = markerNumber(MarkerKind::ModeNumber);
     EXPECT_THAT(texts(), IsEmpty());
 }
 
@@ -97,7 +98,7 @@ TEST_F(CanvasSeries, haveMarkersAtTheMultiplesOfTheSpacing)
 {
     Series& curve = addLevelCurve(10);
     curve.MarkerSpacing = 3;
-    curve.MarkerStyle = markerstyle::modeNumber;
+    curve.MarkerStyle = markerNumber(MarkerKind::ModeNumber);
     curve.MarkerSize = 9;
     // Points 3, 6 and 9 of ten. 9 points are 12 pixels, half of which stand above row 50.
     EXPECT_THAT(texts(),
@@ -110,7 +111,7 @@ TEST_F(CanvasSeries, haveNoMarkerAtTheFirstPointEvenWithASpacingOfOne)
 {
     Series& curve = addLevelCurve(3);
     curve.MarkerSpacing = 1;
-    curve.MarkerStyle = markerstyle::modeNumber;
+    curve.MarkerStyle = markerNumber(MarkerKind::ModeNumber);
     curve.MarkerSize = 9;
     EXPECT_THAT(texts(),
                 ElementsAre("text TopCenter 2,44 Arial 9 #000000 7",
@@ -121,7 +122,7 @@ TEST_F(CanvasSeries, drawAMarkerRightAfterTheLineThatLeadsToIt)
 {
     Series& curve = addLevelCurve(3);
     curve.MarkerSpacing = 2;
-    curve.MarkerStyle = markerstyle::modeNumber;
+    curve.MarkerStyle = markerNumber(MarkerKind::ModeNumber);
     curve.MarkerSize = 9;
     EXPECT_THAT(drawing(),
                 ElementsAre("line 1,50 2,50 solid 0 #000000",
@@ -133,7 +134,7 @@ TEST_F(CanvasSeries, markWithTheirTagInTheForegroundColour)
 {
     Series& curve = addLevelCurve(2);
     curve.MarkerSpacing = 2;
-    curve.MarkerStyle = markerstyle::tag;
+    curve.MarkerStyle = markerNumber(MarkerKind::Tag);
     curve.MarkerTag = QStringLiteral("first bending");
     curve.MarkerSize = 8;
     curve.ColorIndex = rgb(1, 2, 3);
@@ -147,7 +148,7 @@ TEST_F(CanvasSeries, drawNothingForAnEmptyTag)
 {
     Series& curve = addLevelCurve(2);
     curve.MarkerSpacing = 2;
-    curve.MarkerStyle = markerstyle::tag;
+    curve.MarkerStyle = markerNumber(MarkerKind::Tag);
     EXPECT_THAT(texts(), IsEmpty());
 }
 
@@ -155,7 +156,7 @@ TEST_F(CanvasSeries, roundTheTopOfAMarkerToTheEvenRow)
 {
     Series& curve = addLevelCurve(2);
     curve.MarkerSpacing = 2;
-    curve.MarkerStyle = markerstyle::modeNumber;
+    curve.MarkerStyle = markerNumber(MarkerKind::ModeNumber);
     curve.MarkerSize = 3; // 4 pixels: 50 - 2
     EXPECT_THAT(texts(), ElementsAre("text TopCenter 2,48 Arial 3 #000000 7"));
     curve.MarkerSize = 15; // 20 pixels: 50 - 10
@@ -175,7 +176,7 @@ protected:
         for (const float factor : {0.5F, 0.25F, -1e-05F})
             curve.Mode->Points[1].mpf.append(factor);
         curve.MarkerSpacing = 2;
-        curve.MarkerStyle = markerstyle::participationFactor;
+        curve.MarkerStyle = markerNumber(MarkerKind::ParticipationFactor);
         curve.MarkerSize = 9;
         curve.IthMpf = index;
         const std::string text = texts().at(0);
@@ -204,7 +205,7 @@ TEST_F(ParticipationMarkers, showAQuestionMarkWhenThePointHasNoFactors)
 {
     Series& curve = addLevelCurve(2);
     curve.MarkerSpacing = 2;
-    curve.MarkerStyle = markerstyle::participationFactor;
+    curve.MarkerStyle = markerNumber(MarkerKind::ParticipationFactor);
     curve.MarkerSize = 9;
     curve.IthMpf = 1;
     EXPECT_THAT(texts(), ElementsAre("text TopCenter 2,44 Arial 9 #000000 ?"));

@@ -1,6 +1,7 @@
 #include "plotwindow/EvmPlotView.h"
 
 #include "model/EVM.h"
+#include "vgfplot/PictureWriter.h"
 #include "vgfplot/PlotRecords.h"
 
 #include <QAccessible>
@@ -129,8 +130,8 @@ TEST_F(EvmPlotViewTest, givesThePlotItsSize)
 
 TEST_F(EvmPlotViewTest, showsThePictureOfThePlot)
 {
-    for (std::size_t i = 0; i < plot.boxCount(); ++i)
-        plot.setBoxText(i, QStringLiteral("text"));
+    for (const TextBox which : allTextBoxes)
+        plot.setBoxText(which, QStringLiteral("text"));
     EXPECT_EQ(view.grab().toImage().convertToFormat(QImage::Format_RGB32),
               plot.Image().convertToFormat(QImage::Format_RGB32));
 }
@@ -138,17 +139,18 @@ TEST_F(EvmPlotViewTest, showsThePictureOfThePlot)
 TEST_F(EvmPlotViewTest, showsThePromptsOfEmptyBoxesOnTheScreenOnly)
 {
     const QImage screen = view.grab().toImage();
-    for (const std::size_t index : {std::size_t {1}, std::size_t {2}}) {
-        const QRect place = plot.box(index).geometry();
-        EXPECT_TRUE(isInked(screen, place)) << index;
-        EXPECT_FALSE(isInked(plot.Image(), place)) << index;
+    for (const TextBox which : {TextBox::Legend, TextBox::Mechanism}) {
+        SCOPED_TRACE(static_cast<int>(which));
+        const QRect place = plot.box(which).geometry();
+        EXPECT_TRUE(isInked(screen, place));
+        EXPECT_FALSE(isInked(plot.Image(), place));
     }
 }
 
 TEST_F(EvmPlotViewTest, showsNoPromptOnceTheBoxHasAText)
 {
     const QRect place = plot.Legend().geometry();
-    plot.setBoxText(1, QStringLiteral(" "));
+    plot.setBoxText(TextBox::Legend, QStringLiteral(" "));
     EXPECT_FALSE(isInked(view.grab().toImage(), place));
 }
 
@@ -181,8 +183,8 @@ TEST_F(EvmPlotViewTest, keepsABoxInThePlotThatIsDraggedOutOfIt)
 /// elsewhere.
 TEST_F(EvmPlotViewTest, showsADraggedBoxWhereItWasDropped)
 {
-    plot.setBoxText(1, QStringLiteral("a legend\nof three\nlines"));
-    plot.moveBox(1, 15 * 300, 15 * 300);
+    plot.setBoxText(TextBox::Legend, QStringLiteral("a legend\nof three\nlines"));
+    plot.moveBox(TextBox::Legend, 15 * 300, 15 * 300);
     const QSize size = plot.Legend().geometry().size();
     const QPoint grip(5, 5);
     drag(QPoint(300, 300) + grip, QPoint(20, 20) + grip);
@@ -198,8 +200,8 @@ TEST_F(EvmPlotViewTest, showsADraggedBoxWhereItWasDropped)
 
 TEST_F(EvmPlotViewTest, movesABoxFromThePlaceWhereItIsShown)
 {
-    plot.setBoxText(1, QStringLiteral("legend"));
-    plot.moveBox(1, 15 * 1200, 15 * 100.25); // right of the plot
+    plot.setBoxText(TextBox::Legend, QStringLiteral("legend"));
+    plot.moveBox(TextBox::Legend, 15 * 1200, 15 * 100.25); // right of the plot
     const QPoint shown = plot.Legend().geometry().topLeft();
     EXPECT_EQ(shown, QPoint(800 - plot.Legend().Width(), 100));
     mouse(QEvent::MouseButtonPress, legendCentre());
@@ -249,7 +251,7 @@ TEST_F(EvmPlotViewTest, dropsTheBoxWhenTheButtonIsReleased)
 
 TEST_F(EvmPlotViewTest, opensAnEditorOnABoxByADoubleClick)
 {
-    plot.setBoxText(1, QStringLiteral("first\nsecond"));
+    plot.setBoxText(TextBox::Legend, QStringLiteral("first\nsecond"));
     doubleClick(legendCentre());
     ASSERT_NE(editor(), nullptr);
     EXPECT_EQ(editor()->toPlainText(), QStringLiteral("first\nsecond"));
@@ -292,7 +294,7 @@ TEST_F(EvmPlotViewTest, goesOnEditingWhileAnotherProgramHasTheFocus)
 
 TEST_F(EvmPlotViewTest, leavesTheTextAsItWasOnEscape)
 {
-    plot.setBoxText(1, QStringLiteral("as it was"));
+    plot.setBoxText(TextBox::Legend, QStringLiteral("as it was"));
     doubleClick(legendCentre());
     ASSERT_NE(editor(), nullptr);
     editor()->setPlainText(QStringLiteral("changed"));
@@ -317,7 +319,7 @@ TEST_F(EvmPlotViewTest, editsOneBoxAfterTheOther)
 
 TEST_F(EvmPlotViewTest, keepsFontsAndColoursOfATextThatIsEdited)
 {
-    plot.setBoxContent(1, {{{u"a", {}}, {u"b\n", redAndBold()}, {u"c", {}}}, {}});
+    plot.setBoxContent(TextBox::Legend, {{{u"a", {}}, {u"b\n", redAndBold()}, {u"c", {}}}, {}});
     const RichText before = plot.Legend().content();
     doubleClick(legendCentre());
     ASSERT_NE(editor(), nullptr);
@@ -331,7 +333,7 @@ TEST_F(EvmPlotViewTest, keepsFontsAndColoursOfATextThatIsEdited)
 
 TEST_F(EvmPlotViewTest, leavesATextAloneThatWasOnlyLookedAt)
 {
-    plot.setBoxText(1, QStringLiteral("text"));
+    plot.setBoxText(TextBox::Legend, QStringLiteral("text"));
     plot.Legend().setSelStart(2);
     doubleClick(legendCentre());
     view.setFocus();
@@ -357,7 +359,7 @@ TEST_F(EvmPlotViewTest, selectsABoxByAClickAndMovesItByArrowKeys)
 
 TEST_F(EvmPlotViewTest, outlinesTheSelectedBoxOnTheScreenOnly)
 {
-    plot.setBoxText(1, QStringLiteral("text"));
+    plot.setBoxText(TextBox::Legend, QStringLiteral("text"));
     const QRect outline = plot.Legend().geometry().adjusted(-3, -2, 2, 1);
     const QRect upperEdge(outline.topLeft(), QSize(outline.width(), 1));
     EXPECT_FALSE(isInked(view.grab().toImage(), upperEdge));
@@ -377,7 +379,7 @@ TEST_F(EvmPlotViewTest, editsTheSelectedBoxByAKey)
 
 TEST_F(EvmPlotViewTest, editsABoxByOneClickInEditMode)
 {
-    plot.setBoxText(1, QStringLiteral("text"));
+    plot.setBoxText(TextBox::Legend, QStringLiteral("text"));
     const QRect outline = plot.Legend().geometry().adjusted(-3, -2, 2, 1);
     const QRect upperEdge(outline.topLeft(), QSize(outline.width(), 1));
     plot.setEditMode(true);
@@ -443,7 +445,7 @@ TEST_F(EvmPlotViewTest, copiesThePictureInEveryFormThatReportProgramsKnow)
     view.copyPicture();
     const QMimeData* const data = QGuiApplication::clipboard()->mimeData();
     ASSERT_NE(data, nullptr);
-    EXPECT_EQ(data->data(QStringLiteral("image/x-emf")), plot.emfPicture());
+    EXPECT_EQ(data->data(QStringLiteral("image/x-emf")), pictureBytes(plot, PictureFormat::Emf));
     EXPECT_TRUE(data->data(QStringLiteral("image/svg+xml")).contains("<svg"));
     // Twice as fine as the screen, so that it is sharp in print.
     EXPECT_EQ(qvariant_cast<QImage>(data->imageData()).size(), QSize(1600, 1200));
@@ -469,12 +471,22 @@ TEST_F(EvmPlotViewTest, reportsAPictureThatCannotBeCopied)
     EXPECT_EQ(numbers.front(), ErrorNumber::DivisionByZero);
 }
 
-TEST_F(EvmPlotViewTest, takesWhatIsBeingEditedIntoAPicture)
+TEST_F(EvmPlotViewTest, leavesWhatIsBeingEditedAloneWhenThePlotIsDrawn)
 {
     doubleClick(legendCentre());
     ASSERT_NE(editor(), nullptr);
     editor()->setPlainText(QStringLiteral("typed"));
-    plot.emfPicture();
+    pictureBytes(plot, PictureFormat::Emf);
+    EXPECT_EQ(plot.Legend().Text(), QString());
+    EXPECT_NE(editor(), nullptr);
+}
+
+TEST_F(EvmPlotViewTest, putsWhatIsBeingEditedIntoThePlotWhenItIsAskedTo)
+{
+    doubleClick(legendCentre());
+    ASSERT_NE(editor(), nullptr);
+    editor()->setPlainText(QStringLiteral("typed"));
+    plot.commitEdits();
     EXPECT_EQ(plot.Legend().Text(), QStringLiteral("typed"));
     EXPECT_EQ(editor(), nullptr);
 }
@@ -482,10 +494,10 @@ TEST_F(EvmPlotViewTest, takesWhatIsBeingEditedIntoAPicture)
 TEST_F(EvmPlotViewTest, givesUpWhatIsBeingEditedWhenThePlotGetsOtherContents)
 {
     EvmPlot other;
-    other.setBoxText(1, QStringLiteral("other"));
+    other.setBoxText(TextBox::Legend, QStringLiteral("other"));
     const PlotRecord record = recordOf(other, {});
     for (const bool isCopied : {true, false}) {
-        plot.setBoxText(1, QStringLiteral("as it was"));
+        plot.setBoxText(TextBox::Legend, QStringLiteral("as it was"));
         doubleClick(legendCentre());
         ASSERT_NE(editor(), nullptr);
         editor()->setPlainText(QStringLiteral("typed"));
@@ -495,7 +507,7 @@ TEST_F(EvmPlotViewTest, givesUpWhatIsBeingEditedWhenThePlotGetsOtherContents)
             applyRecord(record, {}, plot);
         EXPECT_EQ(editor(), nullptr);
         view.setFocus();
-        plot.emfPicture();
+        plot.commitEdits();
         EXPECT_EQ(plot.Legend().Text(), QStringLiteral("other"));
     }
 }
@@ -513,8 +525,8 @@ TEST_F(EvmPlotViewTest, letsNoBoxFollowThePointerIntoOtherContents)
 
 TEST_F(EvmPlotViewTest, takesTheUppermostOfTwoBoxesAtAPlace)
 {
-    plot.setBoxText(1, QStringLiteral("legend"));
-    plot.moveBox(1, 15 * 400, 15 * 4); // in the header's row
+    plot.setBoxText(TextBox::Legend, QStringLiteral("legend"));
+    plot.moveBox(TextBox::Legend, 15 * 400, 15 * 4); // in the header's row
     drag(legendCentre(), legendCentre() + QPoint(-50, 200));
     EXPECT_EQ(plot.Legend().geometry().topLeft(), QPoint(350, 204));
 }

@@ -228,7 +228,8 @@ TEST_F(PlotReadoutTest, hidesWhenThePlotChanges)
 
 TEST_F(PlotReadoutTest, showsNothingOverAnEditor)
 {
-    plot.moveBox(1, 15 * 300, 15 * 200); // the legend into the canvas, 15 units to a pixel
+    plot.moveBox(TextBox::Legend, 15 * 300,
+                 15 * 200); // the legend into the canvas, 15 units to a pixel
     openLegendEditor();
     QTextEdit* const editor = view.findChild<QTextEdit*>();
     ASSERT_NE(editor, nullptr);

@@ -129,13 +129,13 @@ TEST_F(WndEvolPlotTest, copiesTextsScaleAndPropertiesOfTheActivePlotButNoSeries)
     add();
     window.ActivatePlot(plotAt(1));
     EvmPlot& source = *plotAt(1);
-    source.setBoxText(0, QStringLiteral("header"));
+    source.setBoxText(TextBox::Header, QStringLiteral("header"));
     source.SetScale(10, 500, 1, 40, 0.1F, -0.5F);
     source.setVthicks(9);
     source.setVLabel(QStringLiteral("speed"));
     window.AddSerie(evolution.appendMode());
     const EvmPlot& copy = *window.CopyPlot({});
-    EXPECT_EQ(copy.box(0).Text(), QStringLiteral("header"));
+    EXPECT_EQ(copy.box(TextBox::Header).Text(), QStringLiteral("header"));
     EXPECT_EQ(copy.axes().bounds(), (PlotBounds {10, 500, 1, 40, 0.1F, -0.5F}));
     EXPECT_EQ(copy.vthicks(), 9);
     EXPECT_EQ(copy.vLabel(), QStringLiteral("speed"));
@@ -297,13 +297,13 @@ TEST_F(WndEvolPlotTest, givesNewSeriesTheMarkersThatAreSet)
     activateFirst();
     AeMode& mode = evolution.appendMode();
     window.AddSerie(mode);
-    window.setNewSeriesMarkers({9, 4, markerstyle::tag, 2});
+    window.setNewSeriesMarkers({9, 4, MarkerKind::Tag, 2});
     window.AddSerie(mode);
     const SeriesList& series = plotAt(0)->SeriesCollection();
     EXPECT_EQ(series[0].MarkerSpacing, 0);
     EXPECT_EQ(series[1].MarkerSize, 9);
     EXPECT_EQ(series[1].MarkerSpacing, 4);
-    EXPECT_EQ(series[1].MarkerStyle, markerstyle::tag);
+    EXPECT_EQ(series[1].MarkerStyle, markerNumber(MarkerKind::Tag));
     EXPECT_EQ(series[1].IthMpf, 2);
     EXPECT_EQ(series[1].MarkerForegroundColor, BaseColors[1]) << "in the colour of the curve";
 }

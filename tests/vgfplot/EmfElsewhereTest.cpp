@@ -39,8 +39,8 @@ protected:
         plot.Header().setTextRTF("{\\rtf1{\\fonttbl{\\f0 Arial;}}{\\colortbl ;\\red0\\green128"
                                  "\\blue0;}\\f0\\fs36 The header of this plot \\cf1\\b in green"
                                  "\\par\\plain\\fs20 second line\\par}");
-        plot.setBoxText(1, QStringLiteral("legend\nsecond"));
-        plot.setBoxText(2, QStringLiteral("below the header"));
+        plot.setBoxText(TextBox::Legend, QStringLiteral("legend\nsecond"));
+        plot.setBoxText(TextBox::Mechanism, QStringLiteral("below the header"));
         plot.AddRef(352.1F, QStringLiteral("Vd"));
         plot.AddDampLine(-0.1F, QStringLiteral("g = 10 %"));
         plot.ExportPic(path("plot.emf"));

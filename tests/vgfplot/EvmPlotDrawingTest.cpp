@@ -171,9 +171,9 @@ TEST_F(EvmPlotDrawing, showsReferenceSpeedsAtOnce)
 
 TEST_F(EvmPlotDrawing, showsTextsAtOnce)
 {
-    plot.moveBox(1, 400 * 15, 400 * 15);
+    plot.moveBox(TextBox::Legend, 400 * 15, 400 * 15);
     plot.Image();
-    plot.setBoxText(1, QStringLiteral("HHHH"));
+    plot.setBoxText(TextBox::Legend, QStringLiteral("HHHH"));
     const QRect box = plot.Legend().geometry();
     int inked = 0;
     for (int column = box.left(); column <= box.right(); ++column)
@@ -280,15 +280,16 @@ TEST_F(EvmPlotDrawing, labelsTheDecimalNumbersOfTheBounds)
 
 TEST_F(EvmPlotDrawing, drawsAWhiteGroundAndThenItsPartsInOrder)
 {
-    plot.setBoxText(0, QStringLiteral("header"));
+    plot.setBoxText(TextBox::Header, QStringLiteral("header"));
     RecordingContext context;
     plot.Draw(context);
     EXPECT_EQ(context.calls().front(), "fill 0,0 800x600 #ffffff");
     std::vector<std::string> expected;
     for (const PlotControl* part : std::initializer_list<const PlotControl*> {
              &plot.velAxis(), &plot.velAxisLabel(), &plot.freqAxis(), &plot.freqAxislabel(),
-             &plot.gAxis(), &plot.gAxisLabel(), &plot.box(0), &plot.box(1), &plot.box(2),
-             &plot.vfPlot(), &plot.vgPlot()})
+             &plot.gAxis(), &plot.gAxisLabel(), &plot.box(TextBox::Header),
+             &plot.box(TextBox::Legend), &plot.box(TextBox::Mechanism), &plot.vfPlot(),
+             &plot.vgPlot()})
         expected.push_back(textOf(part->geometry().topLeft()));
     EXPECT_EQ(originsOf(context), expected);
     EXPECT_EQ(context.calls().back(), "origin 0,0");

@@ -144,10 +144,10 @@ TEST(EvmPlotCanvases, surviveASizeOfNothing)
 TEST(EvmPlotBoxes, stayWhereTheyWerePutInEverySize)
 {
     EvmPlot plot;
-    plot.moveBox(1, 3000, 1500);
-    plot.moveBox(2, 450, 6000);
+    plot.moveBox(TextBox::Legend, 3000, 1500);
+    plot.moveBox(TextBox::Mechanism, 450, 6000);
     plot.resize({1200, 900});
-    plot.setBoxText(1, QStringLiteral("a legend\nof two lines"));
+    plot.setBoxText(TextBox::Legend, QStringLiteral("a legend\nof two lines"));
     EXPECT_EQ(plot.Legend().unitsLeft(), 3000);
     EXPECT_EQ(plot.Legend().unitsTop(), 1500);
     EXPECT_EQ(plot.Mechanism().unitsLeft(), 450);
@@ -158,7 +158,7 @@ TEST(EvmPlotBoxes, putTheHeaderBackIntoItsRow)
 {
     EvmPlot plot;
     const QRect before = plot.Header().geometry();
-    plot.moveBox(0, 3000, 6000);
+    plot.moveBox(TextBox::Header, 3000, 6000);
     EXPECT_EQ(plot.Header().geometry(), before);
 }
 
@@ -167,9 +167,9 @@ TEST(EvmPlotBoxes, areInSightBeforeTheyAreMoved)
     EvmPlot plot;
     for (const QSize size : {QSize(800, 600), QSize(500, 400), QSize(1600, 1000)}) {
         plot.resize(size);
-        for (std::size_t i = 0; i < plot.boxCount(); ++i)
-            EXPECT_TRUE(QRect(QPoint(0, 0), size).contains(plot.box(i).geometry()))
-                << "box " << i << " at " << size.width();
+        for (const TextBox which : allTextBoxes)
+            EXPECT_TRUE(QRect(QPoint(0, 0), size).contains(plot.box(which).geometry()))
+                << "box " << static_cast<int>(which) << " at " << size.width();
     }
 }
 
@@ -177,10 +177,10 @@ TEST(EvmPlotBoxes, areShownAtTheNearestEdgeOfAPlotThatEndsBeforeTheirPosition)
 {
     EvmPlot plot;
     plot.resize({1600, 1000});
-    plot.setBoxText(1, QStringLiteral("legend"));
-    plot.setBoxText(2, QStringLiteral("subtitle"));
-    plot.moveBox(1, 15 * 1400, 15 * 300);
-    plot.moveBox(2, 15 * 200, 15 * 950.5);
+    plot.setBoxText(TextBox::Legend, QStringLiteral("legend"));
+    plot.setBoxText(TextBox::Mechanism, QStringLiteral("subtitle"));
+    plot.moveBox(TextBox::Legend, 15 * 1400, 15 * 300);
+    plot.moveBox(TextBox::Mechanism, 15 * 200, 15 * 950.5);
     const QSize legend = plot.Legend().geometry().size();
     const QSize subtitle = plot.Mechanism().geometry().size();
     for (int i = 0; i < 2; ++i) { // as often as one likes
@@ -199,20 +199,20 @@ TEST(EvmPlotBoxes, areShownAtTheNearestEdgeOfAPlotThatEndsBeforeTheirPosition)
 TEST(EvmPlotBoxes, areShownWhereTheirBeginningCanBeReadWhenTheyDoNotFit)
 {
     EvmPlot plot;
-    plot.setBoxText(1, QStringLiteral("many lines") + QString(60, u'\n'));
+    plot.setBoxText(TextBox::Legend, QStringLiteral("many lines") + QString(60, u'\n'));
     ASSERT_GT(plot.Legend().Height(), 600);
-    plot.moveBox(1, -15 * 4000, 15 * 1e9);
+    plot.moveBox(TextBox::Legend, -15 * 4000, 15 * 1e9);
     EXPECT_EQ(plot.Legend().geometry().topLeft(), QPoint(0, 0));
 }
 
 TEST(EvmPlotBoxes, areShownWholeAtTheNearestPlaceWhereTheyFit)
 {
     EvmPlot plot; // 800 x 600
-    plot.setBoxText(1, QStringLiteral("a legend\nof two lines"));
+    plot.setBoxText(TextBox::Legend, QStringLiteral("a legend\nof two lines"));
     const int right = 800 - plot.Legend().Width();
     const int bottom = 600 - plot.Legend().Height();
     const auto shownAt = [&plot](int left, int top) {
-        plot.moveBox(1, 15 * left, 15 * top);
+        plot.moveBox(TextBox::Legend, 15 * left, 15 * top);
         EXPECT_EQ(plot.Legend().unitsLeft(), 15 * left) << "the position stays";
         EXPECT_EQ(plot.Legend().unitsTop(), 15 * top);
         return plot.Legend().geometry().topLeft();
@@ -228,24 +228,19 @@ TEST(EvmPlotBoxes, ofALargerPlotAreWholeInASmallerOne)
 {
     EvmPlot large;
     large.resize({1600, 1000});
-    large.setBoxText(1, QStringLiteral("[0] goland_clean_m040.ev2\n[1] goland_clean_m050.ev2"));
+    large.setBoxText(TextBox::Legend,
+                     QStringLiteral("[0] goland_clean_m040.ev2\n[1] goland_clean_m050.ev2"));
     const int width = large.Legend().Width();
     EvmPlot small; // 800 x 600
     small.Clone(large);
-    small.moveBox(1, 15 * (800 - width + 104), 15 * 100); // 104 pixels of it would be cut off
+    small.moveBox(TextBox::Legend, 15 * (800 - width + 104),
+                  15 * 100); // 104 pixels of it would be cut off
     EXPECT_EQ(small.Legend().geometry().right() + 1, 800);
     const auto inkOf = [width](EvmPlot& plot) {
         const QRect box = plot.Legend().geometry();
         return plot.Image().copy(QRect(box.topLeft(), QSize(width, box.height())));
     };
-    large.moveBox(1, 15 * 1400, 15 * 20); // where nothing else is drawn
-    small.moveBox(1, 15 * 5000, 15 * 20);
+    large.moveBox(TextBox::Legend, 15 * 1400, 15 * 20); // where nothing else is drawn
+    small.moveBox(TextBox::Legend, 15 * 5000, 15 * 20);
     EXPECT_EQ(inkOf(small), inkOf(large));
-}
-
-TEST(EvmPlotBoxes, cannotBeMoreThanThree)
-{
-    EvmPlot plot;
-    EXPECT_THROW(plot.box(3), std::out_of_range);
-    EXPECT_THROW(plot.moveBox(3, 0, 0), std::out_of_range);
 }

@@ -3,6 +3,7 @@
 #include "analysis/ModeBuilder.h"
 #include "emf/EmfListing.h"
 #include "emf/MetafileSurface.h"
+#include "plot/Marker.h"
 #include "support/ChangeSeries.h"
 #include "support/Errors.h"
 #include "support/Ink.h"
@@ -39,13 +40,16 @@ protected:
         plot.Header().setTextRTF(
             "{\\rtf1{\\colortbl ;\\red0\\green128\\blue0;}\\fs28 header \\cf1\\b "
             "green\\par}");
-        plot.setBoxText(1, QStringLiteral("legend"));
-        plot.setBoxText(2, QStringLiteral("subtitle"));
+        plot.setBoxText(TextBox::Legend, QStringLiteral("legend"));
+        plot.setBoxText(TextBox::Mechanism, QStringLiteral("subtitle"));
         plot.AddRef(352.1F, QStringLiteral("Vd"));
         plot.AddDampLine(-0.02F, QStringLiteral("g = 2.00 %"));
     }
 
-    test::EmfContents contents() { return test::readMetafile(plot.emfPicture().toStdString()); }
+    test::EmfContents contents()
+    {
+        return test::readMetafile(pictureBytes(plot, PictureFormat::Emf).toStdString());
+    }
 
     EVM evolution;
     EvmPlot plot;
@@ -110,8 +114,8 @@ TEST_F(EvmPlotPicture, isDescribedInTheFixedWords)
 
 TEST_F(EvmPlotPicture, drawsEmptyBoxesLikeTheOthers)
 {
-    for (std::size_t i = 0; i < plot.boxCount(); ++i)
-        plot.setBoxText(i, {});
+    for (const TextBox which : allTextBoxes)
+        plot.setBoxText(which, {});
     EXPECT_FALSE(textsOf(contents()).contains(QStringLiteral("Insert Header")));
     test::expectSameInk(test::playMetafile(contents(), plot.size()), plot.Image(), 1, 1.0);
 }
@@ -119,7 +123,7 @@ TEST_F(EvmPlotPicture, drawsEmptyBoxesLikeTheOthers)
 TEST_F(EvmPlotPicture, endsAtThePlotWhateverItsTextsHold)
 {
     plot.Header().setText(QString(900, u'W'));
-    plot.moveBox(1, 15 * 780, 15 * 590);
+    plot.moveBox(TextBox::Legend, 15 * 780, 15 * 590);
     plot.refresh();
     EXPECT_EQ(contents().bounds, QRect(0, 0, 800, 600));
     test::expectSameInk(test::playMetafile(contents(), plot.size()), plot.Image(), 1, 1.0);
@@ -127,21 +131,21 @@ TEST_F(EvmPlotPicture, endsAtThePlotWhateverItsTextsHold)
 
 TEST_F(EvmPlotPicture, showsABoxWhosePlaceLiesBeyondThePlotAsTheScreenDoes)
 {
-    plot.setBoxText(1, QStringLiteral("beyond"));
-    plot.moveBox(1, 15 * 1200, 15 * 100);
+    plot.setBoxText(TextBox::Legend, QStringLiteral("beyond"));
+    plot.moveBox(TextBox::Legend, 15 * 1200, 15 * 100);
     const QRect place = plot.Legend().geometry();
     EXPECT_TRUE(plot.Image().rect().contains(place));
     EXPECT_EQ(pictureImage(plot, 1), plot.Image());
     test::expectSameInk(test::playMetafile(contents(), plot.size()), plot.Image(), 1, 1.0);
     const QImage shown = plot.Image().copy(place);
-    plot.setBoxText(1, {});
+    plot.setBoxText(TextBox::Legend, {});
     EXPECT_NE(plot.Image().copy(place), shown);
 }
 
 TEST_F(EvmPlotPicture, showsSlantedLettersAsTheScreenDoes)
 {
     plot.Legend().setTextRTF("{\\rtf\\i\\fs96 jf\\par}");
-    plot.moveBox(1, 15 * 300, 15 * 250);
+    plot.moveBox(TextBox::Legend, 15 * 300, 15 * 250);
     EXPECT_EQ(pictureImage(plot, 1), plot.Image());
 }
 
@@ -184,15 +188,15 @@ TEST_F(EvmPlotPicture, isAWellFormedSvgWhateverTheTextsHold)
         QStringLiteral("]]>&#0;&unknown;<!-- <![CDATA["),
         QString::fromUtf16(u"\x01\x1F\xFFFE\xFFFF\xD800z\xDC00\u2028\u202E")};
     for (const QString& text : hostile) {
-        for (std::size_t i = 0; i < plot.boxCount(); ++i)
-            plot.setBoxText(i, text);
+        for (const TextBox which : allTextBoxes)
+            plot.setBoxText(which, text);
         plot.setVLabel(text);
         plot.setGLabel(text);
         plot.setFLabel(text);
         plot.AddRef(100, text);
         plot.AddDampLine(-0.1F, text);
         test::changeAllSeries(plot, [&text](Series& series) {
-            series.MarkerStyle = markerstyle::tag;
+            series.MarkerStyle = markerNumber(MarkerKind::Tag);
             series.MarkerSpacing = 1;
             series.MarkerTag = text;
         });
@@ -232,7 +236,8 @@ TEST_F(EvmPlotPicture, isWrittenUnderTheVeryNameGiven)
 {
     const test::TemporaryFolder folder;
     plot.ExportPic(QString::fromStdString(folder.file("Plot1")));
-    EXPECT_EQ(test::fileBytes(folder.file("Plot1")), plot.emfPicture().toStdString());
+    EXPECT_EQ(test::fileBytes(folder.file("Plot1")),
+              pictureBytes(plot, PictureFormat::Emf).toStdString());
 }
 
 TEST_F(EvmPlotPicture, leavesTheOldFileWhenItCannotBeWritten)
@@ -266,5 +271,5 @@ TEST_F(EvmPlotPicture, hasTheSameBoxesInEveryFormat)
     const QImage png = QImage::fromData(pictureBytes(plot, PictureFormat::Png));
     EXPECT_EQ(png.convertToFormat(QImage::Format_RGB32), plot.Image());
     EXPECT_TRUE(pictureBytes(plot, PictureFormat::Pdf).startsWith("%PDF-"));
-    EXPECT_EQ(pictureBytes(plot, PictureFormat::Emf), plot.emfPicture());
+    EXPECT_TRUE(pictureBytes(plot, PictureFormat::Emf).startsWith(QByteArray("\1\0\0\0", 4)));
 }

@@ -80,20 +80,19 @@ TEST(EvmPlot, beginsWithAScaleForStableModesBelowTheSpeedAxis)
 TEST(EvmPlot, hasPromptsForItsEmptyTextBoxes)
 {
     EvmPlot plot;
-    EXPECT_EQ(plot.boxCount(), 3U);
     EXPECT_EQ(plot.Header().prompt(), QStringLiteral("Insert Header"));
     EXPECT_EQ(plot.Legend().prompt(), QStringLiteral("Insert Legend"));
     EXPECT_EQ(plot.Mechanism().prompt(), QStringLiteral("Insert Subtitle"));
-    for (std::size_t i = 0; i < plot.boxCount(); ++i)
-        EXPECT_TRUE(plot.box(i).Text().isEmpty());
+    for (const TextBox which : allTextBoxes)
+        EXPECT_TRUE(plot.box(which).Text().isEmpty());
 }
 
 TEST(EvmPlot, countsHeaderLegendAndSubtitleAsBoxes0To2)
 {
     EvmPlot plot;
-    EXPECT_EQ(&plot.Header(), &plot.box(0));
-    EXPECT_EQ(&plot.Legend(), &plot.box(1));
-    EXPECT_EQ(&plot.Mechanism(), &plot.box(2));
+    EXPECT_EQ(&plot.Header(), &plot.box(TextBox::Header));
+    EXPECT_EQ(&plot.Legend(), &plot.box(TextBox::Legend));
+    EXPECT_EQ(&plot.Mechanism(), &plot.box(TextBox::Mechanism));
 }
 
 TEST(EvmPlot, forwardsItsPropertiesToThePartsThatShowThem)
@@ -234,20 +233,21 @@ TEST(EvmPlot, clonesPropertiesScaleAndTextBoxes)
     EvmPlot source;
     setAllProperties(source);
     source.SetScale(1, 2, 3, 4, 5, 6);
-    source.setBoxText(0, QStringLiteral("header"));
-    source.setBoxText(1, QStringLiteral("legend"));
+    source.setBoxText(TextBox::Header, QStringLiteral("header"));
+    source.setBoxText(TextBox::Legend, QStringLiteral("legend"));
     source.Legend().setForeColor(rgb(1, 2, 3));
     source.Mechanism().setFont({QStringLiteral("Arial"), 14, true});
-    source.moveBox(1, 4500, 3000);
+    source.moveBox(TextBox::Legend, 4500, 3000);
     EvmPlot copy;
     copy.Clone(source);
     EXPECT_EQ(copy.WriteProperties(), source.WriteProperties());
     EXPECT_EQ(copy.axes().bounds(), source.axes().bounds());
-    for (std::size_t i = 0; i < source.boxCount(); ++i) {
-        EXPECT_EQ(copy.box(i).Text(), source.box(i).Text()) << i;
-        EXPECT_EQ(copy.box(i).Font(), source.box(i).Font()) << i;
-        EXPECT_EQ(copy.box(i).ForeColor(), source.box(i).ForeColor()) << i;
-        EXPECT_EQ(copy.box(i).geometry().topLeft(), source.box(i).geometry().topLeft()) << i;
+    for (const TextBox which : allTextBoxes) {
+        SCOPED_TRACE(static_cast<int>(which));
+        EXPECT_EQ(copy.box(which).Text(), source.box(which).Text());
+        EXPECT_EQ(copy.box(which).Font(), source.box(which).Font());
+        EXPECT_EQ(copy.box(which).ForeColor(), source.box(which).ForeColor());
+        EXPECT_EQ(copy.box(which).geometry().topLeft(), source.box(which).geometry().topLeft());
     }
 }
 
@@ -255,8 +255,8 @@ TEST(EvmPlot, clonesIntoAPlotOfAnotherSize)
 {
     EvmPlot source;
     source.resize({800, 600});
-    source.setBoxText(1, QStringLiteral("legend"));
-    source.moveBox(1, 4500, 3000);
+    source.setBoxText(TextBox::Legend, QStringLiteral("legend"));
+    source.moveBox(TextBox::Legend, 4500, 3000);
     EvmPlot copy;
     copy.resize({400, 300});
     copy.Clone(source);
@@ -297,9 +297,9 @@ TEST(EvmPlot, tellsThatItsPictureHasChanged)
     EXPECT_TRUE(countsUp());
     plot.AddRef(1, {});
     EXPECT_TRUE(countsUp());
-    plot.setBoxText(1, QStringLiteral("legend"));
+    plot.setBoxText(TextBox::Legend, QStringLiteral("legend"));
     EXPECT_TRUE(countsUp());
-    plot.moveBox(1, 100, 100);
+    plot.moveBox(TextBox::Legend, 100, 100);
     EXPECT_TRUE(countsUp());
     plot.resize({500, 400});
     EXPECT_TRUE(countsUp());

@@ -113,7 +113,7 @@ TEST_F(EvolutionPlotter, headsThePlotWithWhatAllFilesHaveInCommon)
 
 TEST_F(EvolutionPlotter, leavesTextsOfTheUserAlone)
 {
-    plot.setBoxText(0, QStringLiteral("my header"));
+    plot.setBoxText(TextBox::Header, QStringLiteral("my header"));
     plotAll({one.get()});
     EXPECT_EQ(plot.Header().Text(), QStringLiteral("my header"));
 }
@@ -140,12 +140,12 @@ TEST_F(EvolutionPlotter, doesNothingWithoutEvolutions)
 TEST_F(EvolutionPlotter, drawsTheModesAskedForWithTheMarkersAskedFor)
 {
     const EvolutionCurves curves {one.get(), {one->Modes[2].get(), one->Modes[0].get()}};
-    plotCurves(plot, {curves}, {markerstyle::participationFactor, 3, 7, 12});
+    plotCurves(plot, {curves}, {MarkerKind::ParticipationFactor, 3, 7, 12});
     const SeriesList& series = plot.SeriesCollection();
     ASSERT_EQ(series.size(), 2U);
     EXPECT_EQ(series[0].Mode->Id, 3);
     EXPECT_EQ(series[1].Mode->Id, 1);
-    EXPECT_EQ(series[1].MarkerStyle, markerstyle::participationFactor);
+    EXPECT_EQ(series[1].MarkerStyle, markerNumber(MarkerKind::ParticipationFactor));
     EXPECT_EQ(series[1].IthMpf, 3);
     EXPECT_EQ(series[1].MarkerSpacing, 7);
     EXPECT_EQ(series[1].MarkerSize, 12);

@@ -1,4 +1,5 @@
 #include "vgfplot/PlotRecords.h"
+#include "plot/Marker.h"
 
 #include "analysis/ModeBuilder.h"
 #include "support/ChangeSeries.h"
@@ -26,9 +27,9 @@ protected:
         plot.setCaption(QStringLiteral("Clean"));
         plot.Header().setTextRTF(
             "{\\rtf1{\\colortbl ;\\red255\\green0\\blue0;}first\\par\\cf1\\b second\\par}");
-        plot.setBoxText(1, QStringLiteral("legend"));
-        plot.moveBox(1, 1500, 3000.5);
-        plot.moveBox(2, -15, 4500);
+        plot.setBoxText(TextBox::Legend, QStringLiteral("legend"));
+        plot.moveBox(TextBox::Legend, 1500, 3000.5);
+        plot.moveBox(TextBox::Mechanism, -15, 4500);
         plot.setVLabel(QStringLiteral("V"));
         plot.setFLabel(QStringLiteral("f"));
         plot.setGLabel(QStringLiteral("damping"));
@@ -40,7 +41,7 @@ protected:
             series.MarkerTag = QStringLiteral("7b");
             series.MarkerSize = 9;
             series.MarkerSpacing = 3;
-            series.MarkerStyle = markerstyle::tag;
+            series.MarkerStyle = markerNumber(MarkerKind::Tag);
             series.LegendText = QStringLiteral("the second");
             series.ColorIndex = rgb(1, 2, 3);
             series.MarkerForegroundColor = rgb(4, 5, 6);
@@ -155,7 +156,7 @@ TEST_F(PlotRecords, putTheHeaderIntoTheRowOfTheFileAndKeepItsColumn)
     EXPECT_EQ(plot.Header().geometry().topLeft(), QPoint(usual.x(), 20));
     plot.resize({1200, 900});
     EXPECT_EQ(plot.Header().Top(), 20);
-    plot.moveBox(0, 15, 4500);
+    plot.moveBox(TextBox::Header, 15, 4500);
     EXPECT_EQ(plot.Header().Top(), 20) << "a dragged header goes back to its row";
     EvmPlot copy;
     copy.Clone(plot);
@@ -178,7 +179,7 @@ TEST_F(PlotRecords, keepEveryCharacterOfAHeaderThatOnlyItsShortFormHoldsWhole)
 {
     // The full form of one line in one font takes 93 characters besides the text, the short 74.
     for (int length = 925; length <= 945; ++length) {
-        plot.setBoxText(0, QString(length, u'x'));
+        plot.setBoxText(TextBox::Header, QString(length, u'x'));
         EvmPlot other;
         throughAFile(other);
         EXPECT_EQ(other.Header().Text().size(), length);
@@ -212,7 +213,7 @@ TEST_F(PlotRecords, leaveABoxAloneOfWhichTheyKnowNothing)
     PlotRecord record = recordOf(plot, evolutions());
     record.legend = {};
     EvmPlot other;
-    other.setBoxText(1, QStringLiteral("own"));
+    other.setBoxText(TextBox::Legend, QStringLiteral("own"));
     applyRecord(record, {&one, &two}, other);
     EXPECT_EQ(other.Legend().Text(), QStringLiteral("own"));
     EXPECT_FALSE(other.Legend().wasMoved());
@@ -221,8 +222,8 @@ TEST_F(PlotRecords, leaveABoxAloneOfWhichTheyKnowNothing)
 TEST_F(PlotRecords, keepPlacesThatLieBeyondASmallerPlot)
 {
     plot.resize({1600, 1000});
-    plot.moveBox(1, 15 * 1400.25, 15 * 300);
-    plot.moveBox(2, 15 * 200, 15 * 950);
+    plot.moveBox(TextBox::Legend, 15 * 1400.25, 15 * 300);
+    plot.moveBox(TextBox::Mechanism, 15 * 200, 15 * 950);
     const PlotRecord record = recordOf(plot, evolutions());
     EvmPlot smaller;
     smaller.resize({640, 480});

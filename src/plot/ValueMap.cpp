@@ -1,0 +1,59 @@
+#include "plot/ValueMap.h"
+
+#include "surface/PixelMath.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+
+namespace tarsil {
+
+namespace {
+
+/// Decimal digits that a double keeps through a few operations.
+constexpr int reliableDigits = 15;
+
+/// A length in pixels has single precision, like the edge it is measured from.
+double pixels(double length)
+{
+    return static_cast<double>(static_cast<float>(length));
+}
+
+/// The double nearest to the value written with that number of decimals.
+double roundedTo(double value, int decimals)
+{
+    std::array<char, 128> text {};
+    const auto written = std::to_chars(text.data(), text.data() + text.size(), value,
+                                       std::chars_format::fixed, decimals);
+    double rounded = value;
+    if (written.ec == std::errc())
+        std::from_chars(text.data(), written.ptr, rounded);
+    return rounded;
+}
+
+} // namespace
+
+ValueMap::ValueMap(double first, double last, double length)
+    : m_first(first), m_last(last), m_length(length), m_pixelsPerUnit(length / (last - first)),
+      m_begin(pixels(first * m_pixelsPerUnit))
+{ }
+
+int ValueMap::pixelOf(double value) const
+{
+    return roundToPixel(pixels(value * m_pixelsPerUnit) - m_begin);
+}
+
+double ValueMap::divisionValue(int k, int count) const
+{
+    const double value = m_first + k * ((m_last - m_first) / count);
+    const double largest = std::max(std::fabs(m_first), std::fabs(m_last));
+    if (largest == 0 || !std::isfinite(value))
+        return value;
+    // Counted from the larger end, as the error is: near 0 a value has fewer digits than others.
+    const int digitsBefore = static_cast<int>(std::floor(std::log10(largest))) + 1;
+    const int decimals = reliableDigits - digitsBefore;
+    return decimals < 0 ? value : roundedTo(value, decimals);
+}
+
+} // namespace tarsil

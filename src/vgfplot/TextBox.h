@@ -1,0 +1,13 @@
+#pragma once
+
+#include <array>
+
+namespace tarsil {
+
+/// The text boxes of a V-g-f plot.
+enum class TextBox { Header, Legend, Mechanism };
+
+/// In the order in which they are drawn: the last one lies on top.
+constexpr std::array allTextBoxes = {TextBox::Header, TextBox::Legend, TextBox::Mechanism};
+
+} // namespace tarsil
