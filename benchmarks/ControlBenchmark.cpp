@@ -1,10 +1,10 @@
 // What a click in the Data Control window costs with 500 rows, against drawing the plot alone.
 
 #include "RatioTable.h"
-#include "aircraft/AirplaneInfo.h"
 #include "base/user/UserInterface.h"
 #include "datacontrol/SeriesGridView.h"
 #include "datacontrol/WndData.h"
+#include "document/Document.h"
 #include "model/EVM.h"
 #include "plotwindow/WndEvolPlot.h"
 
@@ -78,13 +78,12 @@ int main(int argc, char** argv)
     const QApplication application(argc, argv);
     EVM evolution;
     fillEvolution(evolution);
-    const AirplaneInfo airplane;
+    Document document;
     SilentUser user;
-    wndEvolPlot plots(user);
+    wndEvolPlot plots(document.plots(), user);
     plots.resize(640, 720);
     plots.ActivatePlot(plots.plots().front());
-    wndData data(
-        plots, airplane, [] { return nullptr; }, user);
+    wndData data(document, user);
     data.resize(640, 560);
     for (int i = 0; i < rowCount; ++i)
         plots.AddSerie(*evolution.Modes[static_cast<std::size_t>(i % (modeCount - 2))]);

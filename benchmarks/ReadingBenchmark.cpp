@@ -176,7 +176,7 @@ void runCat(std::vector<std::string>& files)
 /// Seconds for each of so many files, all held open together as in the program.
 double timePerFile(const std::vector<std::string>& files, std::size_t first, std::size_t count)
 {
-    std::vector<std::unique_ptr<EVM>> evolutions;
+    OwnedEvolutions evolutions;
     const double all = seconds([&] {
         for (std::size_t i = first; i < first + count; ++i)
             evolutions.push_back(openEvolution(files[i % files.size()]));

@@ -5,9 +5,9 @@
 #include "RatioTable.h"
 #include "app/WorkspaceCommands.h"
 #include "base/user/UserInterface.h"
+#include "document/Document.h"
 #include "explorer/WndEvolExplorer.h"
 #include "formats/EvolutionFile.h"
-#include "model/Session.h"
 #include "plotwindow/WndEvolPlot.h"
 #include "workspace/FoundFiles.h"
 #include "workspace/WorkspaceWriter.h"
@@ -88,27 +88,27 @@ struct ManyFiles
     }
 };
 
-void openAll(Session& session, const ManyFiles& many, std::size_t count)
+void openAll(OwnedEvolutions& evolutions, const ManyFiles& many, std::size_t count)
 {
     for (std::size_t i = 0; i < count; ++i)
-        session.evolutions.push_back(openEvolution(many.files[i]));
+        evolutions.push_back(openEvolution(many.files[i]));
 }
 
 /// What was opened before is released outside of the time.
 double openingTime(const ManyFiles& many)
 {
     SilentUser user;
-    Session session;
-    wndEvolPlot plots(user);
-    wndEvolExplorer explorer(session, plots, user);
-    WorkspaceCommands commands(session, plots, explorer, user);
+    Document document;
+    wndEvolPlot plots(document.plots(), user);
+    wndEvolExplorer explorer(document, plots, user);
+    WorkspaceCommands commands(document, user);
     return seconds([&] { commands.OpenWorkSpace(many.workspace); });
 }
 
 double readingTime(const ManyFiles& many)
 {
-    Session session;
-    return seconds([&] { openAll(session, many, fileCount); });
+    OwnedEvolutions evolutions;
+    return seconds([&] { openAll(evolutions, many, fileCount); });
 }
 
 void measureOpening(const ManyFiles& many)
@@ -126,11 +126,13 @@ void measureOpening(const ManyFiles& many)
 double timePerNode(const ManyFiles& many, std::size_t count)
 {
     SilentUser user;
-    Session session;
-    wndEvolPlot plots(user);
-    wndEvolExplorer explorer(session, plots, user);
-    openAll(session, many, count);
-    return seconds([&] { explorer.FillEvolsNode(); }) / static_cast<double>(count);
+    Document document;
+    wndEvolPlot plots(document.plots(), user);
+    const wndEvolExplorer explorer(document, plots, user);
+    OwnedEvolutions evolutions;
+    openAll(evolutions, many, count);
+    return seconds([&] { document.evolutions().add(std::move(evolutions)); })
+        / static_cast<double>(count);
 }
 
 void measureNodes(const ManyFiles& many)

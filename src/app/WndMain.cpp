@@ -16,6 +16,7 @@
 #include "options/DlgOptions.h"
 #include "plotwindow/DlgPlotProp.h"
 #include "plotwindow/WndEvolPlot.h"
+#include "vgfplot/EvmPlot.h"
 #include "vgfplot/EvolutionPlotter.h"
 
 #include <QCloseEvent>
@@ -47,8 +48,8 @@ bool nameEvolutions(const std::vector<std::string>& arguments)
 
 wndMain::wndMain(UserInterface& userInterface, FlutterReportCommand::FileOpener opener,
                  OptionsStore store)
-    : m_userInterface(userInterface), m_store(std::move(store)),
-      m_report(userInterface, std::move(opener)),
+    : m_userInterface(userInterface), m_workspace(m_document, userInterface),
+      m_store(std::move(store)), m_report(userInterface, std::move(opener)),
       m_reportFolder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)),
       m_area(new QMdiArea(this)), m_statusPanels(new StatusPanels(this))
 {
@@ -64,26 +65,23 @@ wndMain::wndMain(UserInterface& userInterface, FlutterReportCommand::FileOpener 
     makeHelpKey();
 }
 
-/// The child windows go before the evolutions that their plots refer to.
+/// The child windows go before the document that they show.
 wndMain::~wndMain()
 {
     closeDialogs();
-    m_workspace.reset();
     delete m_area;
 }
 
 void wndMain::makeChildWindows()
 {
-    m_evolPlot = new wndEvolPlot(m_userInterface);
+    m_evolPlot = new wndEvolPlot(m_document.plots(), m_userInterface);
     const auto frameOf = [this](QWidget* content) {
         auto* const frame = new ChildFrame(content);
         m_area->addSubWindow(frame);
         return frame;
     };
-    m_explorer = new wndEvolExplorer(m_session, *m_evolPlot, m_userInterface);
-    m_data = new wndData(
-        *m_evolPlot, m_airplaneInfo, [this] { return m_explorer->referenceEvolution(); },
-        m_userInterface);
+    m_explorer = new wndEvolExplorer(m_document, *m_evolPlot, m_userInterface);
+    m_data = new wndData(m_document, m_userInterface);
     m_frames.data = frameOf(m_data);
     m_frames.explorer = frameOf(m_explorer);
     m_frames.plot = frameOf(m_evolPlot);
@@ -91,7 +89,8 @@ void wndMain::makeChildWindows()
         m_userInterface.showMessage(errorReport(error, "wndEvolPlot"), "Error",
                                     MessageIcon::Critical);
     });
-    connect(m_evolPlot, &wndEvolPlot::activePlotChanged, this,
+    connect(&m_document, &Document::aboutToBeSaved, m_evolPlot, &wndEvolPlot::fitAll);
+    connect(&m_document.plots(), &PlotList::activeChanged, this,
             [this](EvmPlot* before, EvmPlot* now) {
                 m_statusPanels->setEditMode(now != nullptr && now->EditMode());
                 followMarks(before, now);
@@ -99,8 +98,6 @@ void wndMain::makeChildWindows()
     connect(m_evolPlot, &wndEvolPlot::plotMenuRequested, this,
             [this](QPoint position) { m_plotMenu->popup(position); });
     connectExplorer();
-    m_workspace =
-        std::make_unique<WorkspaceCommands>(m_session, *m_evolPlot, *m_explorer, m_userInterface);
 }
 
 /// The buttons of the explorer are the commands of the File menu.
@@ -120,7 +117,7 @@ void wndMain::connectExplorer()
 void wndMain::followMarks(const EvmPlot* before, const EvmPlot* now)
 {
     const auto showNote = [this] {
-        const EvmPlot* const plot = m_evolPlot->ActivePlot();
+        const EvmPlot* const plot = m_document.plots().active();
         m_statusPanels->setPlotNote(plot == nullptr ? QString() : plot->shiftedMarksNote());
     };
     if (before != nullptr)
@@ -134,16 +131,16 @@ void wndMain::MDIForm_Load(const std::vector<std::string>& arguments)
 {
     guarded(m_userInterface, "wndMain", [&] {
         options().GetOptReg();
-        m_workspace->remember(); // the axes of the options are no change of the user's
+        m_document.markSaved(); // the axes of the options are no change of the user's
         for (ChildFrame* frame : {m_frames.data, m_frames.explorer, m_frames.plot})
             frame->bringBack();
         wndDefLayout();
-        m_evolPlot->ActivatePlot(m_evolPlot->plots().front());
+        m_document.plots().activate(&m_document.plots().first());
         const auto workspace = mentionOf(arguments, ".tsw");
         if (workspace != arguments.end())
-            m_workspace->OpenWorkSpace(*workspace);
+            m_workspace.OpenWorkSpace(*workspace);
         else if (nameEvolutions(arguments))
-            draw(load(arguments));
+            draw(m_document.load(arguments, m_userInterface));
     });
 }
 
@@ -178,15 +175,9 @@ std::vector<ChildFrame*> wndMain::frames() const
 
 EvmPlot& wndMain::activePlot() const
 {
-    if (m_evolPlot->ActivePlot() == nullptr)
+    if (m_document.plots().active() == nullptr)
         throw RunTimeError(ErrorNumber::ObjectVariableNotSet, "wndMain", "no plot is active");
-    return *m_evolPlot->ActivePlot();
-}
-
-std::vector<EVM*> wndMain::load(const std::vector<std::string>& paths)
-{
-    return mdlMain::loadEvolutions(m_session, paths, m_userInterface,
-                                   [this] { m_explorer->FillEvolsNode(); });
+    return *m_document.plots().active();
 }
 
 /// Who starts the program with files wants to see them.
@@ -207,17 +198,17 @@ void wndMain::draw(const std::vector<EVM*>& evolutions)
 
 void wndMain::mnuNewWorkspace_Click()
 {
-    m_workspace->New();
+    m_workspace.New();
 }
 
 void wndMain::OpenMenu_Click()
 {
-    m_workspace->OpenWorkSpace();
+    m_workspace.OpenWorkSpace();
 }
 
 void wndMain::mnuSaveWorkspace_Click()
 {
-    m_workspace->SaveWorkSpace();
+    m_workspace.SaveWorkSpace();
 }
 
 void wndMain::popSetRefEvol_Click()
@@ -232,7 +223,8 @@ void wndMain::popSelMultModes_Click()
 
 void wndMain::AddMenu_Click()
 {
-    load(mdlMain::OpenFileDialog(m_userInterface, mdlMain::evolutionFilter(), 1, true));
+    m_document.load(mdlMain::OpenFileDialog(m_userInterface, mdlMain::evolutionFilter(), 1, true),
+                    m_userInterface);
 }
 
 void wndMain::ExportMenu_Click()
@@ -272,7 +264,7 @@ void wndMain::mnuSetScale_Click()
 void wndMain::mnuAddRef_Click()
 {
     if (!m_refSpeed)
-        m_refSpeed = std::make_unique<dlgRefSpeed>([this] { return m_evolPlot->ActivePlot(); },
+        m_refSpeed = std::make_unique<dlgRefSpeed>([this] { return m_document.plots().active(); },
                                                    m_userInterface, this);
     m_refSpeed->show();
     m_refSpeed->raise();
@@ -287,7 +279,7 @@ void wndMain::mnuClearRef_Click()
 void wndMain::mnuAddDamp_Click()
 {
     if (!m_dampLine)
-        m_dampLine = std::make_unique<dlgDampLine>([this] { return m_evolPlot->ActivePlot(); },
+        m_dampLine = std::make_unique<dlgDampLine>([this] { return m_document.plots().active(); },
                                                    m_userInterface, this);
     m_dampLine->show();
     m_dampLine->raise();
@@ -306,12 +298,8 @@ void wndMain::mnuFlutCalc_Click()
 
 dlgOptions& wndMain::options()
 {
-    if (!m_options) {
-        m_options = std::make_unique<dlgOptions>(m_airplaneInfo, *m_evolPlot, m_userInterface,
-                                                 m_store, this);
-        connect(m_options.get(), &dlgOptions::flutterMechanismsChanged, m_data,
-                &wndData::fillMechanisms);
-    }
+    if (!m_options)
+        m_options = std::make_unique<dlgOptions>(m_document, m_userInterface, m_store, this);
     return *m_options;
 }
 
@@ -355,7 +343,7 @@ void wndMain::stBar_PanelClick(int panel)
 void wndMain::closeEvent(QCloseEvent* event)
 {
     commitEdits();
-    if (!m_workspace->mayDiscard()) {
+    if (!m_workspace.mayDiscard()) {
         event->ignore();
         return;
     }

@@ -1,11 +1,10 @@
 #pragma once
 
-#include "aircraft/AirplaneInfo.h"
 #include "app/ChildFrame.h"
 #include "app/FlutterReportCommand.h"
 #include "app/WorkspaceCommands.h"
 #include "base/user/UserInterface.h"
-#include "model/Session.h"
+#include "document/Document.h"
 #include "options/OptionsStore.h"
 
 #include <QMainWindow>
@@ -20,6 +19,7 @@ class QMenu;
 namespace tarsil {
 
 class EVM;
+class EvmPlot;
 class StatusPanels;
 class dlgDampLine;
 class dlgOptions;
@@ -28,9 +28,9 @@ class wndData;
 class wndEvolExplorer;
 class wndEvolPlot;
 
-/// The main window: menus, pop-up menus, status bar, and the three child windows. It owns what
-/// lives for the whole run, and has one implementation of each command, which menu items and their
-/// pop-up twins share.
+/// The main window: menus, pop-up menus, status bar, and the three child windows. It owns the
+/// document, and has one implementation of each command, which menu items and their pop-up twins
+/// share.
 class wndMain : public QMainWindow
 {
     Q_OBJECT
@@ -53,8 +53,7 @@ public:
     StatusPanels& stBar() { return *m_statusPanels; }
     wndEvolPlot& evolPlot() { return *m_evolPlot; }
     wndEvolExplorer& explorer() { return *m_explorer; }
-    Session& session() { return m_session; }
-    const AirplaneInfo& airplaneInfo() const { return m_airplaneInfo; }
+    Document& document() { return m_document; }
     QMenu* popEvmPlot() { return m_plotMenu; }
 
     /// Where flutter reports go: the user's documents, unless told otherwise.
@@ -91,7 +90,7 @@ private:
 
     void makeChildWindows();
     void connectExplorer();
-    void followMarks(const class EvmPlot* before, const class EvmPlot* now);
+    void followMarks(const EvmPlot* before, const EvmPlot* now);
     void makeMenuBar();
     void makePopups();
     void makeHelpKey();
@@ -124,16 +123,15 @@ private:
     void showHelp();
     void stBar_PanelClick(int panel);
 
-    std::vector<EVM*> load(const std::vector<std::string>& paths);
     void draw(const std::vector<EVM*>& evolutions);
     dlgOptions& options();
-    class EvmPlot& activePlot() const;
+    EvmPlot& activePlot() const;
     QSize innerSize() const;
     std::vector<ChildFrame*> frames() const;
 
     UserInterface& m_userInterface;
-    Session m_session;
-    AirplaneInfo m_airplaneInfo;
+    Document m_document;
+    WorkspaceCommands m_workspace;
     OptionsStore m_store;
     FlutterReportCommand m_report;
     QString m_reportFolder;
@@ -142,7 +140,6 @@ private:
     wndEvolPlot* m_evolPlot = nullptr;
     wndEvolExplorer* m_explorer = nullptr;
     wndData* m_data = nullptr;
-    std::unique_ptr<WorkspaceCommands> m_workspace;
     ChildFrames m_frames {};
     QMenu* m_plotMenu = nullptr;
     QMenu* m_explorerMenu = nullptr;

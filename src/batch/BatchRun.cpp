@@ -28,8 +28,7 @@ EVM& BatchRun::open(const std::string& path)
     if (!hasFormat)
         throw Failure(path + ": a modal evolution has " + formatExtensions("or")
                       + " in its name, and a workspace .tsw at its end");
-    m_session.evolutions.push_back(openEvolution(path));
-    return *m_session.evolutions.back();
+    return *m_evolutions.emplace_back(openEvolution(path));
 }
 
 std::string BatchRun::readable(std::string message) const

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/Session.h"
+#include "model/EVM.h"
 
 #include <iosfwd>
 #include <stdexcept>
@@ -39,7 +39,7 @@ public:
 private:
     std::ostream& m_out;
     std::ostream& m_err;
-    Session m_session;
+    OwnedEvolutions m_evolutions;
     std::vector<std::pair<std::string, std::string>> m_names; ///< stored path, name as given
 };
 

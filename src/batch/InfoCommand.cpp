@@ -7,6 +7,7 @@
 #include "batch/JsonWriter.h"
 #include "batch/WorkspaceInfo.h"
 #include "batch/WorkspaceInput.h"
+#include "document/WorkspaceSource.h"
 #include "formats/FormatTable.h"
 #include "solver/SolverImport.h"
 

@@ -1,13 +1,11 @@
 #include "batch/WorkspaceInput.h"
 
-#include "base/files/InputFile.h"
 #include "base/files/PathNames.h"
 #include "base/user/RunTimeError.h"
 #include "batch/BatchRun.h"
+#include "document/WorkspaceSource.h"
 #include "model/EVM.h"
 #include "vgfplot/EvolutionRecords.h"
-#include "workspace/FoundFiles.h"
-#include "workspace/WorkspaceReader.h"
 
 #include <algorithm>
 #include <array>
@@ -150,21 +148,16 @@ void checkWorkspaceOptions(const CommandLine& line, const std::vector<std::strin
     }
 }
 
-WorkspaceRecord readWorkspaceFile(const std::string& path)
-{
-    const FileBytes file(path);
-    WorkspaceRecord record;
-    readWorkspace(file.bytes(), shownPath(path), record);
-    return record;
-}
-
 WorkspaceInput openWorkspace(const std::string& path, const std::optional<std::string>& plot,
                              BatchRun& run)
 {
-    const WorkspaceRecord record = readWorkspaceFile(path);
+    const WorkspaceSource source = readWorkspaceSource(path);
+    if (source.reading.error)
+        throw RunTimeError(*source.reading.error);
+    const WorkspaceRecord& record = source.reading.record;
+    const std::vector<std::string>& files = source.files;
     WorkspaceInput input;
     input.plots = plotsAskedFor(record.plots, plot, path);
-    const std::vector<std::string> files = foundFiles(record.files, path);
     input.files.insert(path);
     std::copy_if(files.begin(), files.end(), std::inserter(input.files, input.files.end()),
                  fileExists);
@@ -173,12 +166,10 @@ WorkspaceInput openWorkspace(const std::string& path, const std::optional<std::s
         run.complain(path + ": the series of modal evolution " + std::to_string(place + 1)
                      + " are left out: " + why);
     };
-    for (std::size_t i = 0; i < files.size(); ++i) {
-        if (isTakenByNameAlone(record.files[i], files[i], path))
-            run.complain(path + ": modal evolution " + std::to_string(i + 1) + ", "
-                         + shownPath(record.files[i]) + ", is not there; " + shownPath(files[i])
-                         + " is taken for its name alone");
-    }
+    for (const Namesake& one : source.namesakes)
+        run.complain(path + ": modal evolution " + std::to_string(one.position + 1) + ", "
+                     + shownPath(one.stored) + ", is not there; " + shownPath(one.taken)
+                     + " is taken for its name alone");
     input.evolutions = openEvolutions(input.plots, files, run, complain);
     applyEdited(record.edited, input.evolutions);
     for (PlotRecord& one : input.plots)

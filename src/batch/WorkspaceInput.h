@@ -36,10 +36,6 @@ inline constexpr OptionDescription plotOption {
 void checkWorkspaceOptions(const CommandLine& line, const std::vector<std::string>& paths,
                            const std::vector<std::string_view>& useless);
 
-/// Reads the record of a workspace; no evolution is opened. Errors: those of opening a file and of
-/// `readWorkspace`.
-WorkspaceRecord readWorkspaceFile(const std::string& path);
-
 /// What a command takes of a workspace.
 struct WorkspaceInput
 {
@@ -53,7 +49,7 @@ struct WorkspaceInput
 /// for, by its number from 1 or else by its caption, or those of all plots. The evolutions have the
 /// parameters that were edited in the workspace. An evolution that is missing or cannot be read,
 /// and a series that names none or a mode that there is not, are complained of and left out.
-/// Errors: those of `readWorkspaceFile`; Failure for a plot that there is not.
+/// Errors: those of opening a file and of `readWorkspace`; Failure for a plot that there is not.
 WorkspaceInput openWorkspace(const std::string& path, const std::optional<std::string>& plot,
                              BatchRun& run);
 

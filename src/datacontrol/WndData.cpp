@@ -7,7 +7,8 @@
 #include "base/user/ErrorReport.h"
 #include "base/user/UserInterface.h"
 #include "datacontrol/LineSample.h"
-#include "plotwindow/WndEvolPlot.h"
+#include "document/Document.h"
+#include "vgfplot/EvmPlot.h"
 
 #include <QMenu>
 #include <QPersistentModelIndex>
@@ -35,11 +36,10 @@ std::unique_ptr<Ui::wndData> makeForm(wndData& window)
 
 } // namespace
 
-wndData::wndData(wndEvolPlot& plots, const AirplaneInfo& airplane, ReferenceEvolution reference,
-                 UserInterface& user, QWidget* parent)
+wndData::wndData(Document& document, UserInterface& user, QWidget* parent)
     : QWidget(parent), m_ui(makeForm(*this)), m_sizeWarning(*m_ui->mksizeInp),
-      m_spacingWarning(*m_ui->mkspaceInp), m_factorWarning(*m_ui->ithmpfInp), m_plots(plots),
-      m_airplane(airplane), m_reference(std::move(reference)), m_user(user)
+      m_spacingWarning(*m_ui->mkspaceInp), m_factorWarning(*m_ui->ithmpfInp), m_document(document),
+      m_user(user)
 {
     m_ui->txtLegIdx->home(false); // what it means stands at its beginning
     setFocusProxy(m_ui->flxSerieViewer);
@@ -49,12 +49,13 @@ wndData::wndData(wndEvolPlot& plots, const AirplaneInfo& airplane, ReferenceEvol
     takeMarkers();
     makeMoveMenu();
     fillMechanisms();
-    connect(&m_plots, &wndEvolPlot::activePlotChanged, this,
+    connect(&m_document, &Document::airplaneChanged, this, &wndData::fillMechanisms);
+    connect(&m_document.plots(), &PlotList::activeChanged, this,
             [this](EvmPlot* /*before*/, EvmPlot* now) {
                 commitEdits(); // belongs to the plot before
                 m_model.setPlot(now);
             });
-    m_model.setPlot(m_plots.ActivePlot());
+    m_model.setPlot(m_document.plots().active());
 }
 
 wndData::~wndData() = default;
@@ -186,20 +187,21 @@ EvmPlot* wndData::activePlot()
     return m_model.plot();
 }
 
-/// Null, after a message, when there is none.
+/// The reference evolution; null, after a message, when there is none.
 const EVM* wndData::reference()
 {
-    const EVM* const evolution = m_reference();
+    const EVM* const evolution = m_document.evolutions().reference();
     if (evolution == nullptr)
         warn("Please select a reference modal evolution.");
     return evolution;
 }
 
+/// None is chosen then.
 void wndData::fillMechanisms()
 {
     const QSignalBlocker quiet(m_ui->cmbFlutMech);
     m_ui->cmbFlutMech->clear();
-    for (const FlutterMechanism& mechanism : m_airplane.FlutterMechs)
+    for (const FlutterMechanism& mechanism : m_document.airplane().FlutterMechs)
         m_ui->cmbFlutMech->addItem(QString::fromStdString(mechanism.ShortName));
     m_ui->cmbFlutMech->setCurrentIndex(-1);
 }

@@ -19,11 +19,10 @@ namespace Ui {
 class wndData;
 }
 
-class AirplaneInfo;
+class Document;
 class EVM;
 class EvmPlot;
 class UserInterface;
-class wndEvolPlot;
 
 /// The window "Data Control": the series of the active plot as a grid, their markers, and the
 /// plot's header, legend, subtitle, reference speeds and picture. A failure of one of its commands
@@ -33,16 +32,9 @@ class wndData : public QWidget
     Q_OBJECT
 
 public:
-    /// The reference evolution, null when there is none.
-    using ReferenceEvolution = std::function<const EVM*()>;
-
     /// What is given by reference must outlive the window.
-    wndData(wndEvolPlot& plots, const AirplaneInfo& airplane, ReferenceEvolution reference,
-            UserInterface& user, QWidget* parent = nullptr);
+    wndData(Document& document, UserInterface& user, QWidget* parent = nullptr);
     ~wndData() override;
-
-    /// Fills the list of flutter mechanisms from the airplane's; none is chosen then.
-    void fillMechanisms();
 
     /// Writes what is being typed in the grid into its cell, as Enter does.
     void commitEdits();
@@ -56,6 +48,7 @@ private:
     void connectButtons();
     void connectOptions();
     void makeMoveMenu();
+    void fillMechanisms();
     void run(const std::function<void()>& action);
     std::function<void()> runs(Handler handler);
 
@@ -102,9 +95,7 @@ private:
     InputWarning m_spacingWarning;
     InputWarning m_factorWarning;
     SeriesGridModel m_model;
-    wndEvolPlot& m_plots;
-    const AirplaneInfo& m_airplane;
-    ReferenceEvolution m_reference;
+    Document& m_document;
     UserInterface& m_user;
     MarkerOptions m_markers; ///< of each option what stood in its control last and could be
 };

@@ -8,8 +8,9 @@
 #include "base/user/RunTimeError.h"
 #include "base/user/UserInterface.h"
 #include "datacontrol/DlgSeriesStyle.h"
+#include "document/Document.h"
 #include "model/EVM.h"
-#include "plotwindow/WndEvolPlot.h"
+#include "vgfplot/EvmPlot.h"
 
 #include <QRadioButton>
 #include <QSignalBlocker>
@@ -257,7 +258,7 @@ void wndData::takeMarkers()
     takeCount(*m_ui->mksizeInp, any, m_sizeWarning, m_markers.size);
     takeCount(*m_ui->mkspaceInp, any, m_spacingWarning, m_markers.spacing);
     takeCount(*m_ui->ithmpfInp, factorCount, m_factorWarning, m_markers.ithMpf);
-    m_plots.setNewSeriesMarkers(m_markers);
+    m_document.plots().setNewSeriesMarkers(m_markers);
     if (!traitsOf(m_markers.kind).needsFactor)
         m_factorWarning.show({});
 }

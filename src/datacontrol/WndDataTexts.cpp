@@ -10,8 +10,9 @@
 #include "base/user/RunTimeError.h"
 #include "base/user/UserInterface.h"
 #include "datacontrol/PlotTitles.h"
+#include "document/Document.h"
 #include "model/EVM.h"
-#include "plotwindow/WndEvolPlot.h"
+#include "vgfplot/EvmPlot.h"
 
 namespace tarsil {
 
@@ -55,8 +56,8 @@ void wndData::btnMakHead_Click()
     const EVM* const evolution = reference();
     if (evolution == nullptr)
         return;
-    if (m_airplane.massConf(evolution->Param.Mass) == nullptr) {
-        const std::string missing = missingAircraftText(m_airplane);
+    if (m_document.airplane().massConf(evolution->Param.Mass) == nullptr) {
+        const std::string missing = missingAircraftText(m_document.airplane());
         return warn("Please type a valid mass configurarion in ref. modal evolution."
                     + (missing.empty() ? missing : "\n" + missing));
     }
@@ -72,7 +73,7 @@ void wndData::btnAutoRef_Click()
     if (evolution->Param.Mach == 0)
         return warn("This reference modal evolution does not have mach number info.");
     if (EvmPlot* const plot = activePlot())
-        markEnvelope(*plot, *evolution, m_airplane);
+        markEnvelope(*plot, *evolution, m_document.airplane());
 }
 
 void wndData::cmbFlutMech_Click()
@@ -81,7 +82,7 @@ void wndData::cmbFlutMech_Click()
     EvmPlot* const plot = name.isEmpty() ? nullptr : activePlot();
     if (plot == nullptr)
         return;
-    showMechanism(*plot, m_airplane, name, !m_ui->optFlutMecShort->isChecked());
+    showMechanism(*plot, m_document.airplane(), name, !m_ui->optFlutMecShort->isChecked());
 }
 
 /// The user hears once of entries that are not there.

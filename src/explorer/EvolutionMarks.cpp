@@ -7,7 +7,7 @@
 #include <QStringList>
 
 #include <algorithm>
-#include <vector>
+#include <unordered_set>
 
 namespace tarsil {
 
@@ -51,14 +51,10 @@ void EvolutionMarks::add(EVM& evolution)
         m_pause.start(0);
 }
 
-void EvolutionMarks::forget(const EVM& evolution)
+void EvolutionMarks::forget(const std::vector<EVM*>& evolutions)
 {
-    std::erase(m_waiting, &evolution);
-}
-
-void EvolutionMarks::clear()
-{
-    m_waiting.clear();
+    const std::unordered_set<const EVM*> going(evolutions.begin(), evolutions.end());
+    std::erase_if(m_waiting, [&going](const EVM* one) { return going.contains(one); });
 }
 
 void EvolutionMarks::checkNext()

@@ -5,6 +5,7 @@
 #include <QTimer>
 
 #include <deque>
+#include <vector>
 
 namespace tarsil {
 
@@ -22,9 +23,8 @@ public:
 
     void add(EVM& evolution);
 
-    /// An evolution that ends is not looked at any more; neither is any after `clear`.
-    void forget(const EVM& evolution);
-    void clear();
+    /// Evolutions that go are not looked at any more.
+    void forget(const std::vector<EVM*>& evolutions);
 
 Q_SIGNALS:
     /// The file of an evolution holds what `findings` says, at most 20 lines.

@@ -2,11 +2,13 @@
 
 #include "base/files/PathNames.h"
 #include "base/numbers/Numbers.h"
+#include "document/EvolutionList.h"
 #include "explorer/ExplorerNode.h"
 #include "model/EVM.h"
-#include "model/Session.h"
 
 #include <QList>
+
+#include <iterator>
 
 namespace tarsil {
 
@@ -39,21 +41,53 @@ EvolutionNodes::EvolutionNodes(QTreeWidgetItem& folder, ExplorerImages& images)
     : m_folder(folder), m_images(images)
 { }
 
-std::vector<EVM*> EvolutionNodes::fill(const Session& session)
+/// Neighbours are inserted at once, so that the tree is laid out once.
+std::vector<EVM*> EvolutionNodes::fill(const EvolutionList& evolutions)
 {
     std::vector<EVM*> added;
     QList<QTreeWidgetItem*> nodes;
-    for (const auto& evolution : session.evolutions) {
-        if (m_nodes.contains(evolution.get()))
-            continue;
-        nodes.append(makeEvolution(*evolution));
-        added.push_back(evolution.get());
+    int position = 0;
+    const auto insertNodes = [&] {
+        m_folder.insertChildren(position, nodes);
+        position += static_cast<int>(nodes.size());
+        nodes.clear();
+    };
+    for (const auto& evolution : evolutions.all()) {
+        if (m_nodes.contains(evolution.get())) {
+            insertNodes();
+            ++position;
+        } else {
+            nodes.append(makeEvolution(*evolution));
+            added.push_back(evolution.get());
+        }
     }
-    m_folder.addChildren(nodes); // at once: the tree is laid out once
+    insertNodes();
     return added;
 }
 
-void EvolutionNodes::remove(EVM& evolution)
+void EvolutionNodes::remove(const std::vector<EVM*>& evolutions)
+{
+    if (evolutions.size() == static_cast<std::size_t>(m_nodes.size())) {
+        clear();
+        return;
+    }
+    for (const EVM* const evolution : evolutions)
+        remove(*evolution);
+}
+
+void EvolutionNodes::showParameters(const EVM& evolution)
+{
+    QTreeWidgetItem* const node = nodeOf(&evolution);
+    if (node == nullptr)
+        return;
+    const Param& param = evolution.Param;
+    const QString texts[] = {QString::fromStdString(param.Airplane),
+                             QString::fromStdString(param.Mass), machText(param.Mach)};
+    for (int group = 0; group < static_cast<int>(std::size(texts)); ++group)
+        node->child(group)->child(0)->setText(0, texts[group]);
+}
+
+void EvolutionNodes::remove(const EVM& evolution)
 {
     const Node node(m_nodes.take(&evolution)); // leaves the tree as it ends
     if (node != nullptr)

@@ -12,7 +12,7 @@ namespace tarsil {
 
 class EVM;
 class ExplorerImages;
-class Session;
+class EvolutionList;
 
 /// The parameter that a value under an evolution's node shows.
 enum class EvolutionValue { None, Airplane, Mass, Mach };
@@ -26,12 +26,14 @@ public:
     /// The folder and the images must outlive this.
     EvolutionNodes(QTreeWidgetItem& folder, ExplorerImages& images);
 
-    /// Appends nodes for the evolutions that have none yet, in their order, and returns them. Takes
-    /// time in proportion to the number of new ones, besides one look-up for each known one.
-    std::vector<EVM*> fill(const Session& session);
+    /// Inserts nodes for the evolutions that have none yet, at their positions, and returns them.
+    /// Takes time in proportion to the number of new ones, besides one look-up for each known one.
+    std::vector<EVM*> fill(const EvolutionList& evolutions);
 
-    void remove(EVM& evolution);
-    void clear();
+    void remove(const std::vector<EVM*>& evolutions);
+
+    /// Shows the parameters as they are now.
+    void showParameters(const EVM& evolution);
 
     /// Null for an evolution without a node.
     QTreeWidgetItem* nodeOf(const EVM* evolution) const;
@@ -49,6 +51,8 @@ private:
     QTreeWidgetItem* makeEvolution(EVM& evolution);
     void addGroups(QTreeWidgetItem& node, const EVM& evolution, const QString& key);
     QString newKey(const EVM& evolution);
+    void remove(const EVM& evolution);
+    void clear();
 
     QTreeWidgetItem& m_folder;
     ExplorerImages& m_images;

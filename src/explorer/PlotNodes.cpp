@@ -1,20 +1,24 @@
 #include "explorer/PlotNodes.h"
 
+#include "document/PlotList.h"
 #include "explorer/ExplorerNode.h"
-#include "plotwindow/WndEvolPlot.h"
+#include "vgfplot/EvmPlot.h"
+
+#include <algorithm>
+#include <vector>
 
 namespace tarsil {
 
-PlotNodes::PlotNodes(QTreeWidgetItem& folder, wndEvolPlot& plots, ExplorerImages& images,
+PlotNodes::PlotNodes(QTreeWidgetItem& folder, PlotList& plots, ExplorerImages& images,
                      QObject* parent)
-    : QObject(parent), m_folder(folder), m_images(images)
+    : QObject(parent), m_folder(folder), m_plots(plots), m_images(images)
 {
-    for (EvmPlot* const plot : plots.plots())
+    for (EvmPlot* const plot : plots.all())
         addPlot(plot);
-    markActive(nullptr, plots.ActivePlot());
-    connect(&plots, &wndEvolPlot::plotAdded, this, &PlotNodes::addPlot);
-    connect(&plots, &wndEvolPlot::plotAboutToBeRemoved, this, &PlotNodes::removePlot);
-    connect(&plots, &wndEvolPlot::activePlotChanged, this, &PlotNodes::markActive);
+    markActive(nullptr, plots.active());
+    connect(&plots, &PlotList::added, this, &PlotNodes::addPlot);
+    connect(&plots, &PlotList::aboutToBeRemoved, this, &PlotNodes::removePlot);
+    connect(&plots, &PlotList::activeChanged, this, &PlotNodes::markActive);
 }
 
 QTreeWidgetItem* PlotNodes::nodeOf(const EvmPlot* plot) const
@@ -22,26 +26,16 @@ QTreeWidgetItem* PlotNodes::nodeOf(const EvmPlot* plot) const
     return m_nodes.value(plot);
 }
 
-bool PlotNodes::isTaken(const QString& caption, const EvmPlot& plot) const
-{
-    for (int i = 0; i < m_folder.childCount(); ++i) {
-        const QTreeWidgetItem* const node = m_folder.child(i);
-        if (taggedPlot(node) != &plot && node->text(0) == caption)
-            return true;
-    }
-    return false;
-}
-
 void PlotNodes::addPlot(EvmPlot* plot)
 {
-    const QString caption = uniqueCaption(*plot);
-    if (caption != plot->Caption())
-        plot->setCaption(caption);
-    Node node = makeNode(caption, caption);
+    Node node = makeNode(plot->Caption(), plot->Caption());
     node->setFlags(node->flags() | Qt::ItemIsEditable);
     setImage(*node, m_images, QStringLiteral("plot"));
     setTag(*node, plot);
-    m_nodes.insert(plot, append(m_folder, std::move(node)));
+    m_nodes.insert(plot, node.get());
+    const std::vector<EvmPlot*> all = m_plots.all();
+    const auto position = std::find(all.begin(), all.end(), plot) - all.begin();
+    m_folder.insertChild(static_cast<int>(position), node.release());
     connect(plot, &EvmPlot::changed, this, [this, plot] { showCaption(plot); });
 }
 
@@ -66,15 +60,6 @@ void PlotNodes::showCaption(const EvmPlot* plot)
         return;
     node->setText(0, plot->Caption());
     setKey(*node, plot->Caption());
-}
-
-/// The plot's caption, with the first number from 2 on that no other plot has when it is taken.
-QString PlotNodes::uniqueCaption(const EvmPlot& plot) const
-{
-    QString caption = plot.Caption();
-    for (int number = 2; isTaken(caption, plot); ++number)
-        caption = QStringLiteral("%1(%2)").arg(plot.Caption(), QString::number(number));
-    return caption;
 }
 
 } // namespace tarsil

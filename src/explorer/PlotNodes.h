@@ -10,34 +10,30 @@ namespace tarsil {
 
 class EvmPlot;
 class ExplorerImages;
-class wndEvolPlot;
+class PlotList;
 
-/// The nodes of the plots, children of one folder. They follow the plots of the window: which there
-/// are, what they are called, and which is active. A node's text and key are its plot's caption; a
-/// plot that comes with the caption of another one gets a caption of its own.
+/// The nodes of the plots, children of one folder. They follow a list of plots: which there are,
+/// what they are called, and which is active. A node's text and key are its plot's caption.
 class PlotNodes : public QObject
 {
     Q_OBJECT
 
 public:
     /// All of them must outlive this.
-    PlotNodes(QTreeWidgetItem& folder, wndEvolPlot& plots, ExplorerImages& images,
+    PlotNodes(QTreeWidgetItem& folder, PlotList& plots, ExplorerImages& images,
               QObject* parent = nullptr);
 
     /// Null for a plot without a node.
     QTreeWidgetItem* nodeOf(const EvmPlot* plot) const;
-
-    /// Whether a plot other than `plot` has this caption.
-    bool isTaken(const QString& caption, const EvmPlot& plot) const;
 
 private:
     void addPlot(EvmPlot* plot);
     void removePlot(EvmPlot* plot);
     void markActive(EvmPlot* before, EvmPlot* now);
     void showCaption(const EvmPlot* plot);
-    QString uniqueCaption(const EvmPlot& plot) const;
 
     QTreeWidgetItem& m_folder;
+    PlotList& m_plots;
     ExplorerImages& m_images;
     QHash<const EvmPlot*, QTreeWidgetItem*> m_nodes;
 };

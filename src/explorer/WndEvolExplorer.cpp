@@ -2,12 +2,12 @@
 
 #include "base/user/ErrorGuard.h"
 #include "base/user/UserInterface.h"
+#include "document/Document.h"
 #include "explorer/ExplorerNode.h"
 #include "explorer/LabelDelegate.h"
 #include "explorer/PlotNodes.h"
 #include "model/EVM.h"
-#include "model/Session.h"
-#include "plotwindow/WndEvolPlot.h"
+#include "vgfplot/EvmPlot.h"
 
 #include <QToolBar>
 #include <QTreeWidget>
@@ -15,13 +15,13 @@
 
 namespace tarsil {
 
-wndEvolExplorer::wndEvolExplorer(Session& session, wndEvolPlot& plots, UserInterface& user,
+wndEvolExplorer::wndEvolExplorer(Document& document, wndEvolPlot& plots, UserInterface& user,
                                  QWidget* parent)
-    : QWidget(parent), m_session(session), m_plotWindow(plots), m_user(user),
+    : QWidget(parent), m_document(document), m_plotWindow(plots), m_user(user),
       m_toolBar(new QToolBar(this)), m_tree(new QTreeWidget(this)),
       m_labels(new LabelDelegate(m_tree)), m_workspace(*m_tree, m_images),
       m_evolutions(m_workspace.evolutions(), m_images),
-      m_plots(new PlotNodes(m_workspace.plots(), plots, m_images, this))
+      m_plots(new PlotNodes(m_workspace.plots(), document.plots(), m_images, this))
 {
     setObjectName(QStringLiteral("wndEvolExplorer"));
     setWindowTitle(QStringLiteral("Modal Evolutions Explorer"));
@@ -34,13 +34,29 @@ wndEvolExplorer::wndEvolExplorer(Session& session, wndEvolPlot& plots, UserInter
     layout->addWidget(m_toolBar);
     layout->addWidget(m_tree);
     setFocusProxy(m_tree);
+    followDocument();
+}
+
+void wndEvolExplorer::followDocument()
+{
     connect(&m_marks, &EvolutionMarks::found, this, [this](EVM* evolution, const QString& text) {
         warn(*m_evolutions.nodeOf(evolution), m_images, text);
     });
+    const auto showTexts = [this] { m_workspace.show(m_document.texts()); };
+    connect(&m_document, &Document::textsChanged, this, showTexts);
+    connect(&m_document, &Document::startedNew, this, [this] { m_workspace.closeFolders(); });
     // A new plot is not shown by itself, so that only its node tells of it.
-    connect(&plots, &wndEvolPlot::plotAdded, this,
+    connect(&m_document.plots(), &PlotList::added, this,
             [this] { m_workspace.plots().setExpanded(true); });
+    const EvolutionList& evolutions = m_document.evolutions();
+    connect(&evolutions, &EvolutionList::added, this, &wndEvolExplorer::FillEvolsNode);
+    connect(&evolutions, &EvolutionList::aboutToBeRemoved, this, &wndEvolExplorer::forget);
+    connect(&evolutions, &EvolutionList::referenceChanged, this, &wndEvolExplorer::showReference);
+    connect(&evolutions, &EvolutionList::parametersChanged, this,
+            [this](EVM* evolution) { m_evolutions.showParameters(*evolution); });
+    showTexts();
     FillEvolsNode();
+    showReference(nullptr, evolutions.reference());
 }
 
 /// The nodes end first, while what they refer to is still there.
@@ -88,7 +104,7 @@ void wndEvolExplorer::runCommand(const std::function<void()>& action)
 
 void wndEvolExplorer::FillEvolsNode()
 {
-    const std::vector<EVM*> added = m_evolutions.fill(m_session);
+    const std::vector<EVM*> added = m_evolutions.fill(m_document.evolutions());
     for (EVM* const evolution : added)
         m_marks.add(*evolution);
     if (!added.empty())
@@ -99,20 +115,23 @@ void wndEvolExplorer::SetAsRef()
 {
     EVM* const evolution = selectedEvolution();
     if (evolution != nullptr)
-        setReference(evolution);
+        m_document.evolutions().setReference(evolution);
     else
         m_user.showMessage("Please select a modal evolution.", "Tarsil", MessageIcon::Exclamation);
 }
 
-void wndEvolExplorer::setReference(EVM* evolution)
+void wndEvolExplorer::showReference(EVM* before, EVM* now)
 {
-    if (evolution == m_reference)
-        return;
-    if (QTreeWidgetItem* const node = m_evolutions.nodeOf(m_reference))
+    if (QTreeWidgetItem* const node = m_evolutions.nodeOf(before))
         undistinguish(*node);
-    m_reference = evolution;
-    if (QTreeWidgetItem* const node = m_evolutions.nodeOf(evolution))
+    if (QTreeWidgetItem* const node = m_evolutions.nodeOf(now))
         distinguish(*node, QStringLiteral("reference evolution"));
+}
+
+void wndEvolExplorer::forget(const std::vector<EVM*>& evolutions)
+{
+    m_marks.forget(evolutions);
+    m_evolutions.remove(evolutions);
 }
 
 EVM* wndEvolExplorer::selectedEvolution() const
@@ -125,46 +144,6 @@ EVM* wndEvolExplorer::evolutionOfSelectedNode() const
 {
     const QList<QTreeWidgetItem*> selected = m_tree->selectedItems();
     return selected.isEmpty() ? nullptr : taggedEvolution(selected.front());
-}
-
-QString wndEvolExplorer::workspaceName() const
-{
-    return m_workspace.root().text(0);
-}
-
-void wndEvolExplorer::setWorkspaceName(const QString& name)
-{
-    m_workspace.root().setText(0, name);
-}
-
-QString wndEvolExplorer::description() const
-{
-    return m_workspace.description().text(0);
-}
-
-void wndEvolExplorer::setDescription(const QString& text)
-{
-    m_workspace.description().setText(0, text);
-}
-
-QString wndEvolExplorer::dateCreated() const
-{
-    return m_workspace.dateCreated().text(0);
-}
-
-void wndEvolExplorer::setDateCreated(const QString& text)
-{
-    m_workspace.dateCreated().setText(0, text);
-}
-
-QString wndEvolExplorer::dateModified() const
-{
-    return m_workspace.dateModified().text(0);
-}
-
-void wndEvolExplorer::setDateModified(const QString& text)
-{
-    m_workspace.dateModified().setText(0, text);
 }
 
 } // namespace tarsil

@@ -9,6 +9,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 class QToolBar;
@@ -16,23 +17,23 @@ class QTreeWidget;
 
 namespace tarsil {
 
+class Document;
 class EvmPlot;
 class LabelDelegate;
 class PlotNodes;
-class Session;
 class UserInterface;
 class wndEvolPlot;
 
-/// The window "Modal Evolutions Explorer": the workspace as a tree with a toolbar. The tree is the
-/// workspace's description in memory; under it stand the loaded evolutions and the plots. What
-/// needs files goes up as a signal.
+/// The window "Modal Evolutions Explorer": the document as a tree with a toolbar. It shows the
+/// texts of the workspace, the loaded evolutions and the plots. What needs files goes up as a
+/// signal.
 class wndEvolExplorer : public QWidget
 {
     Q_OBJECT
 
 public:
     /// All three must outlive the window.
-    wndEvolExplorer(Session& session, wndEvolPlot& plots, UserInterface& user,
+    wndEvolExplorer(Document& document, wndEvolPlot& plots, UserInterface& user,
                     QWidget* parent = nullptr);
     ~wndEvolExplorer() override;
 
@@ -44,10 +45,6 @@ public:
     /// Makes the selected evolution the reference evolution; the user is told when there is none.
     void SetAsRef();
 
-    /// Shown bold in the tree. Null when there is none.
-    EVM* referenceEvolution() const { return m_reference; }
-    void setReference(EVM* evolution);
-
     /// The evolution of the selected node or of one above it; null otherwise.
     EVM* selectedEvolution() const;
 
@@ -56,20 +53,6 @@ public:
 
     /// Takes the label that is being edited as it stands, as Enter does, and closes its editor.
     void commitEdits();
-
-    /// A new, untitled workspace: no evolutions (those of the session end), one empty plot, and the
-    /// tree as it was in the beginning. Nothing is asked.
-    void startNew();
-
-    // The texts of the tree that a workspace keeps. The name is that of the root.
-    QString workspaceName() const;
-    void setWorkspaceName(const QString& name);
-    QString description() const;
-    void setDescription(const QString& text);
-    QString dateCreated() const;
-    void setDateCreated(const QString& text);
-    QString dateModified() const;
-    void setDateModified(const QString& text);
 
     QSize sizeHint() const override;
 
@@ -99,6 +82,7 @@ private:
 
     void makeToolbar();
     void makeTree();
+    void followDocument();
     void run(const std::function<void()>& action);
     void runCommand(const std::function<void()>& action);
 
@@ -110,19 +94,16 @@ private:
     void showNode(const EvmPlot& plot);
 
     std::vector<EVM*> evolutionsToSelect() const;
-    std::vector<EvmPlot*> takeRows(const EVM& evolution);
-    std::vector<EvmPlot*> forget(EVM& evolution);
-    void drawAgain(const std::vector<EvmPlot*>& plots);
-    void emptyPlots();
 
     void nodeActivated(QTreeWidgetItem* node);
     void rename(QTreeWidgetItem& node, const QString& text);
     void renamePlot(EvmPlot& plot, const QString& text);
-    void changeParameter(EVM& evolution, EvolutionValue value, QTreeWidgetItem& node,
-                         const QString& text);
-    bool changeMach(EVM& evolution, const QString& text);
+    void changeParameter(EVM& evolution, EvolutionValue value, const QString& text);
+    std::optional<float> machOf(const QString& text);
+    void forget(const std::vector<EVM*>& evolutions);
+    void showReference(EVM* before, EVM* now);
 
-    Session& m_session;
+    Document& m_document;
     wndEvolPlot& m_plotWindow;
     UserInterface& m_user;
     ExplorerImages m_images;
@@ -133,7 +114,6 @@ private:
     EvolutionNodes m_evolutions;
     EvolutionMarks m_marks;
     PlotNodes* m_plots;
-    EVM* m_reference = nullptr;
 };
 
 } // namespace tarsil

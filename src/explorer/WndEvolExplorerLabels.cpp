@@ -2,12 +2,13 @@
 
 #include "base/numbers/Numbers.h"
 #include "base/user/UserInterface.h"
+#include "document/Document.h"
 #include "explorer/ExplorerNode.h"
 #include "explorer/LabelDelegate.h"
-#include "explorer/PlotNodes.h"
 #include "explorer/WndEvolExplorer.h"
 #include "model/EVM.h"
 #include "plotwindow/WndEvolPlot.h"
+#include "vgfplot/EvmPlot.h"
 
 #include <QLineEdit>
 #include <QPointer>
@@ -48,9 +49,9 @@ void wndEvolExplorer::rename(QTreeWidgetItem& node, const QString& text)
     } else if (text == node.text(0)) {
         return;
     } else if (EVM* const evolution = m_evolutions.evolutionAt(&node)) {
-        changeParameter(*evolution, m_evolutions.valueAt(node), node, text);
-    } else {
-        node.setText(0, text);
+        changeParameter(*evolution, m_evolutions.valueAt(node), text);
+    } else if (&node == &m_workspace.description()) {
+        m_document.setDescription(text);
     }
 }
 
@@ -58,7 +59,7 @@ void wndEvolExplorer::rename(QTreeWidgetItem& node, const QString& text)
 /// that an empty one is taken for a change of mind.
 void wndEvolExplorer::renamePlot(EvmPlot& plot, const QString& text)
 {
-    if (m_plots->isTaken(text, plot)) {
+    if (m_document.plots().isTaken(text, plot)) {
         m_user.showMessage("This name already exist. Please, select another one.", "Tarsil",
                            MessageIcon::Exclamation);
         return;
@@ -68,43 +69,42 @@ void wndEvolExplorer::renamePlot(EvmPlot& plot, const QString& text)
     m_plotWindow.ActivatePlot(&plot);
 }
 
-void wndEvolExplorer::changeParameter(EVM& evolution, EvolutionValue value, QTreeWidgetItem& node,
-                                      const QString& text)
+void wndEvolExplorer::changeParameter(EVM& evolution, EvolutionValue value, const QString& text)
 {
-    QString shown = text;
+    EditableParam parameters = evolution.Param.editable();
     switch (value) {
     case EvolutionValue::Airplane:
-        evolution.Param.Airplane = text.toStdString();
+        parameters.airplane = text.toStdString();
         break;
     case EvolutionValue::Mass:
-        evolution.Param.Mass = text.toStdString();
+        parameters.mass = text.toStdString();
         break;
-    case EvolutionValue::Mach:
-        if (!changeMach(evolution, text))
+    case EvolutionValue::Mach: {
+        const std::optional<float> mach = machOf(text);
+        if (!mach)
             return;
-        shown = machText(evolution.Param.Mach);
+        parameters.mach = *mach;
         break;
+    }
     case EvolutionValue::None:
         return;
     }
-    node.setText(0, shown);
+    m_document.evolutions().setParameters(evolution, parameters);
 }
 
-/// Whether the text is a number; the user is told when it is not. Error 6 "Overflow" for one
-/// outside the range of a single.
-bool wndEvolExplorer::changeMach(EVM& evolution, const QString& text)
+/// The number of a text; none, after a message to the user, when it is no number. Error 6
+/// "Overflow" for one outside the range of a single.
+std::optional<float> wndEvolExplorer::machOf(const QString& text)
 {
     const std::string number = text.toStdString();
     float mach = 0;
     const NumberStatus status = parseSingle(number, mach);
     if (status == NumberStatus::Overflow)
         throwNumberError(status, number, "wndEvolExplorer", "Mach No.");
-    if (status != NumberStatus::Ok) {
-        m_user.showMessage("Please enter a numeric value.", "Tarsil", MessageIcon::None);
-        return false;
-    }
-    evolution.Param.Mach = mach;
-    return true;
+    if (status == NumberStatus::Ok)
+        return mach;
+    m_user.showMessage("Please enter a numeric value.", "Tarsil", MessageIcon::None);
+    return std::nullopt;
 }
 
 } // namespace tarsil

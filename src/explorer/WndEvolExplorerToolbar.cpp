@@ -2,13 +2,14 @@
 
 #include "base/user/RunTimeError.h"
 #include "base/user/UserInterface.h"
+#include "document/Document.h"
 #include "explorer/CurveAdder.h"
 #include "explorer/ExplorerNode.h"
 #include "explorer/PlotNodes.h"
 #include "explorer/WndEvolExplorer.h"
 #include "model/EVM.h"
-#include "model/Session.h"
 #include "plotwindow/WndEvolPlot.h"
+#include "vgfplot/EvmPlot.h"
 
 #include <QAction>
 #include <QToolBar>
@@ -48,6 +49,7 @@ void wndEvolExplorer::makeToolbar()
     }
 }
 
+/// A plot that cannot be drawn is reported and does not keep the others from it.
 void wndEvolExplorer::remove_Click()
 {
     EVM* const evolution = selectedEvolution();
@@ -55,9 +57,9 @@ void wndEvolExplorer::remove_Click()
         m_user.showMessage("Please select a modal evolution.", "Tarsil", MessageIcon::Exclamation);
         return;
     }
-    const std::vector<EvmPlot*> changed = forget(*evolution);
-    std::erase_if(m_session.evolutions, [=](const auto& one) { return one.get() == evolution; });
-    drawAgain(changed);
+    const Document::RemovedEvolution removed = m_document.takeOut(*evolution);
+    for (EvmPlot* const plot : removed.changedPlots)
+        run([plot] { plot->plot(); });
 }
 
 /// Everything is looked at before the first series is added, so that an error changes nothing.
@@ -102,64 +104,6 @@ void wndEvolExplorer::showNode(const EvmPlot& plot)
 void wndEvolExplorer::removePlot_Click()
 {
     m_plotWindow.RemovePlot(m_plotWindow.ActivePlot());
-}
-
-/// Takes everything away that refers to an evolution; returns the plots that had rows of it, not
-/// yet drawn again.
-std::vector<EvmPlot*> wndEvolExplorer::forget(EVM& evolution)
-{
-    std::vector<EvmPlot*> changed = takeRows(evolution);
-    if (m_reference == &evolution)
-        setReference(nullptr);
-    m_marks.forget(evolution);
-    m_evolutions.remove(evolution);
-    return changed;
-}
-
-std::vector<EvmPlot*> wndEvolExplorer::takeRows(const EVM& evolution)
-{
-    std::vector<EvmPlot*> changed;
-    for (EvmPlot* const plot : m_plotWindow.plots()) {
-        if (plot->rows().removeRowsOf(evolution) > 0)
-            changed.push_back(plot);
-    }
-    return changed;
-}
-
-/// A plot that cannot be drawn is reported and does not keep the others from it.
-void wndEvolExplorer::drawAgain(const std::vector<EvmPlot*>& plots)
-{
-    for (EvmPlot* const plot : plots)
-        run([plot] { plot->plot(); });
-}
-
-/// The rows go first, unseen: whoever called may have ended their evolutions already.
-void wndEvolExplorer::startNew()
-{
-    emptyPlots();
-    setReference(nullptr);
-    m_marks.clear();
-    m_evolutions.clear();
-    m_session.evolutions.clear();
-    m_workspace.startNew();
-}
-
-/// Leaves the plot that is always there, as a new one.
-void wndEvolExplorer::emptyPlots()
-{
-    const std::vector<EvmPlot*> plots = m_plotWindow.plots();
-    for (EvmPlot* const plot : plots)
-        plot->rows().clear();
-    EvmPlot& first = *plots.front();
-    for (std::size_t i = plots.size(); i-- > 1;)
-        m_plotWindow.RemovePlot(plots[i]);
-    EvmPlot fresh;
-    fresh.setCaption(QStringLiteral("Plot1"));
-    fresh.setAxes(m_plotWindow.newPlotAxes());
-    first.Clone(fresh);
-    first.RemoveRef();
-    run([&first] { first.RemoveDampLine(); }); // draws as well
-    m_plotWindow.ActivatePlot(&first);
 }
 
 } // namespace tarsil

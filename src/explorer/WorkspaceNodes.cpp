@@ -1,10 +1,9 @@
 #include "explorer/WorkspaceNodes.h"
 
-#include "explorer/DateText.h"
+#include "document/WorkspaceTexts.h"
 #include "explorer/ExplorerImages.h"
 #include "explorer/ExplorerNode.h"
 
-#include <QDateTime>
 #include <QTreeWidget>
 
 namespace tarsil {
@@ -34,15 +33,19 @@ WorkspaceNodes::WorkspaceNodes(QTreeWidget& tree, ExplorerImages& images) : m_im
                      [showState](QTreeWidgetItem* node) { showState(node, true); });
     QObject::connect(&tree, &QTreeWidget::itemCollapsed, &tree,
                      [showState](QTreeWidgetItem* node) { showState(node, false); });
-    startNew();
+    closeFolders();
 }
 
-void WorkspaceNodes::startNew()
+void WorkspaceNodes::show(const WorkspaceTexts& texts)
 {
-    m_root->setText(0, QStringLiteral("Untitled (Untitled.tsw)"));
-    m_description->setText(0, QStringLiteral("   "));
-    m_dateCreated->setText(0, dateText(QDateTime::currentDateTime()));
-    m_dateModified->setText(0, QString());
+    m_root->setText(0, texts.name);
+    m_description->setText(0, texts.description);
+    m_dateCreated->setText(0, texts.dateCreated);
+    m_dateModified->setText(0, texts.dateModified);
+}
+
+void WorkspaceNodes::closeFolders()
+{
     for (QTreeWidgetItem* const node : {m_description, m_dateCreated, m_dateModified})
         node->parent()->setExpanded(false);
     for (QTreeWidgetItem* const folder : {m_general, m_evolutions, m_plots})

@@ -7,10 +7,12 @@
 #include "formats/FormatTable.h"
 
 #include <algorithm>
+#include <optional>
+#include <string>
 #include <unordered_map>
 #include <utility>
 
-namespace tarsil::mdlMain {
+namespace tarsil {
 
 namespace {
 
@@ -20,9 +22,9 @@ constexpr std::string_view moduleName = "mdlMain";
 class OpenFiles
 {
 public:
-    explicit OpenFiles(const Session& session)
+    explicit OpenFiles(const OwnedEvolutions& open)
     {
-        for (const auto& evolution : session.evolutions)
+        for (const auto& evolution : open)
             add(*evolution);
     }
 
@@ -55,38 +57,31 @@ private:
 class Loader
 {
 public:
-    Loader(Session& session, UserInterface& userInterface)
-        : m_session(session), m_userInterface(userInterface), m_open(session)
+    Loader(const OwnedEvolutions& open, UserInterface& userInterface)
+        : m_userInterface(userInterface), m_open(open)
     { }
 
     /// Says of each file by itself that it is missing, or of all of them at the end.
     enum class Missing { ToldOneByOne, ToldTogether };
 
-    /// The evolution of each path; null where a file is missing or cannot be read.
-    ListedEvolutions load(const std::vector<std::string>& paths, Missing missing,
-                          const std::function<void(const ListedEvolutions&)>& refreshExplorer);
-
-    /// The evolutions that were not open before.
-    const std::vector<EVM*>& added() const { return m_added; }
+    LoadedEvolutions load(const std::vector<std::string>& paths, Missing missing);
 
 private:
     EVM* loadOne(const std::string& path, std::size_t number, Missing missing);
     void tellMissing() const;
     void tellFailures() const;
 
-    Session& m_session;
     UserInterface& m_userInterface;
     OpenFiles m_open;
-    std::vector<EVM*> m_added;
+    OwnedEvolutions m_added;
     std::vector<std::string> m_missing; ///< what they are called; not told yet
     std::vector<std::string> m_failures; ///< the reports of files that cannot be read
 };
 
-ListedEvolutions Loader::load(const std::vector<std::string>& paths, Missing missing,
-                              const std::function<void(const ListedEvolutions&)>& refreshExplorer)
+LoadedEvolutions Loader::load(const std::vector<std::string>& paths, Missing missing)
 {
-    const BusyStatus status(m_userInterface, openingStatus);
-    ListedEvolutions evolutions;
+    const BusyStatus status(m_userInterface, mdlMain::openingStatus);
+    std::vector<EVM*> evolutions;
     for (const std::string& path : paths) {
         EVM* evolution = nullptr;
         const std::size_t number = evolutions.size() + 1;
@@ -100,9 +95,7 @@ ListedEvolutions Loader::load(const std::vector<std::string>& paths, Missing mis
         tellMissing();
     if (!m_failures.empty())
         tellFailures();
-    if (!m_added.empty() && refreshExplorer)
-        guarded(m_userInterface, moduleName, [&] { refreshExplorer(evolutions); });
-    return evolutions;
+    return {std::move(m_added), std::move(evolutions)};
 }
 
 /// `number` is the place in the list, from 1.
@@ -123,11 +116,9 @@ EVM* Loader::loadOne(const std::string& path, std::size_t number, Missing missin
                                     "Tarsil", MessageIcon::Exclamation);
         return open;
     }
-    m_session.evolutions.push_back(openEvolution(path));
-    EVM* const evolution = m_session.evolutions.back().get();
-    m_open.add(*evolution);
-    m_added.push_back(evolution);
-    return evolution;
+    EVM& evolution = *m_added.emplace_back(openEvolution(path));
+    m_open.add(evolution);
+    return &evolution;
 }
 
 void Loader::tellMissing() const
@@ -157,6 +148,8 @@ void Loader::tellFailures() const
 
 } // namespace
 
+namespace mdlMain {
+
 std::string evolutionFilter()
 {
     std::string filter;
@@ -175,26 +168,19 @@ std::vector<std::string> OpenFileDialog(UserInterface& userInterface, std::strin
     return files;
 }
 
-std::vector<EVM*> loadEvolutions(Session& session, const std::vector<std::string>& paths,
-                                 UserInterface& userInterface,
-                                 const std::function<void()>& refreshExplorer)
+LoadedEvolutions loadEvolutions(const OwnedEvolutions& open, const std::vector<std::string>& paths,
+                                UserInterface& userInterface)
 {
-    Loader loader(session, userInterface);
-    const auto refresh = [&refreshExplorer](const ListedEvolutions& /*all*/) {
-        if (refreshExplorer)
-            refreshExplorer();
-    };
-    loader.load(paths, Loader::Missing::ToldOneByOne, refresh);
-    return loader.added();
+    return Loader(open, userInterface).load(paths, Loader::Missing::ToldOneByOne);
 }
 
-ListedEvolutions
-loadListedEvolutions(Session& session, const std::vector<std::string>& paths,
-                     UserInterface& userInterface,
-                     const std::function<void(const ListedEvolutions&)>& refreshExplorer)
+LoadedEvolutions loadListedEvolutions(const OwnedEvolutions& open,
+                                      const std::vector<std::string>& paths,
+                                      UserInterface& userInterface)
 {
-    return Loader(session, userInterface)
-        .load(paths, Loader::Missing::ToldTogether, refreshExplorer);
+    return Loader(open, userInterface).load(paths, Loader::Missing::ToldTogether);
 }
 
-} // namespace tarsil::mdlMain
+} // namespace mdlMain
+
+} // namespace tarsil

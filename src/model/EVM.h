@@ -62,4 +62,7 @@ private:
     EditableParam m_paramOfFile;
 };
 
+/// Evolutions with their owner, in the order in which they were loaded.
+using OwnedEvolutions = std::vector<std::unique_ptr<EVM>>;
+
 } // namespace tarsil

@@ -8,9 +8,9 @@
 #include "base/user/ErrorGuard.h"
 #include "base/user/RunTimeError.h"
 #include "base/user/UserInterface.h"
+#include "document/Document.h"
 #include "options/ListInput.h"
 #include "plotwindow/InputWarning.h"
-#include "plotwindow/WndEvolPlot.h"
 #include "vgfplot/EvmPlot.h"
 
 #include <algorithm>
@@ -44,10 +44,9 @@ void at(ListInput& list, const std::function<void()>& action)
 
 } // namespace
 
-dlgOptions::dlgOptions(AirplaneInfo& airplaneInfo, wndEvolPlot& plots, UserInterface& user,
-                       OptionsStore store, QWidget* parent)
-    : QDialog(parent), m_ui(std::make_unique<Ui::dlgOptions>()), m_airplaneInfo(airplaneInfo),
-      m_plots(plots), m_user(user), m_store(std::move(store))
+dlgOptions::dlgOptions(Document& document, UserInterface& user, OptionsStore store, QWidget* parent)
+    : QDialog(parent), m_ui(std::make_unique<Ui::dlgOptions>()), m_document(document), m_user(user),
+      m_store(std::move(store))
 {
     m_ui->setupUi(this);
     m_missingFile = std::make_unique<InputWarning>(*m_ui->txtAcInfo);
@@ -71,8 +70,11 @@ void dlgOptions::GetOptReg()
     m_ui->txtAcInfo->setText(stored.acInfoDataFile);
     m_ui->txtVgfScale->setText(stored.vgfScale);
     m_ui->txtVgfThicks->setText(stored.vgfThicks);
-    if (!ApplyOpt())
-        m_airplaneInfo.Filename = stored.acInfoDataFile.toStdString();
+    if (!ApplyOpt()) {
+        AirplaneInfo airplane = m_document.airplane();
+        airplane.Filename = stored.acInfoDataFile.toStdString();
+        m_document.setAirplane(std::move(airplane));
+    }
     m_before = textsToKeep();
 }
 
@@ -83,7 +85,7 @@ void dlgOptions::SetOptReg() const
 
 OptionTexts dlgOptions::textsToKeep() const
 {
-    return {QString::fromStdString(m_airplaneInfo.Filename), m_ui->txtVgfScale->text(),
+    return {QString::fromStdString(m_document.airplane().Filename), m_ui->txtVgfScale->text(),
             m_ui->txtVgfThicks->text()};
 }
 
@@ -115,22 +117,23 @@ void dlgOptions::readAircraftFile()
     const std::string file = m_ui->txtAcInfo->text().toStdString();
     if (file.empty())
         return;
-    m_airplaneInfo.Filename = file;
+    AirplaneInfo airplane = m_document.airplane();
+    airplane.Filename = file;
     if (fileExists(file))
-        guarded(m_user, ClassName {"AirplaneInfo"}, [this] { m_airplaneInfo.Create(); });
-    Q_EMIT flutterMechanismsChanged();
+        guarded(m_user, ClassName {"AirplaneInfo"}, [&airplane] { airplane.Create(); });
+    m_document.setAirplane(std::move(airplane));
 }
 
 /// A plot that is shown is drawn at once. What is applied may be impossible to draw: that is
 /// reported, and the options are in force all the same.
 void dlgOptions::applyAxes()
 {
-    PlotAxes ofNewPlots = m_plots.newPlotAxes();
+    PlotAxes ofNewPlots = m_document.plots().newPlotAxes();
     if (m_scaleInput->isEmpty())
         ofNewPlots.setBounds(PlotAxes().bounds());
     if (m_thicksInput->isEmpty())
         ofNewPlots.setTicks(PlotAxes().ticks());
-    m_plots.setNewPlotAxes(withEntries(ofNewPlots));
+    m_document.plots().setNewPlotAxes(withEntries(ofNewPlots));
     if (!m_scaleInput->fits() && !m_thicksInput->fits())
         return;
     EvmPlot& plot = vgfPlot();
@@ -141,8 +144,8 @@ void dlgOptions::applyAxes()
 
 EvmPlot& dlgOptions::vgfPlot() const
 {
-    EvmPlot* const active = m_plots.ActivePlot();
-    return active != nullptr ? *active : *m_plots.plots().front();
+    EvmPlot* const active = m_document.plots().active();
+    return active != nullptr ? *active : m_document.plots().first();
 }
 
 /// The axes with the numbers of those lists that fit.

@@ -10,12 +10,11 @@
 
 namespace tarsil {
 
-class AirplaneInfo;
+class Document;
 class EvmPlot;
 class ListInput;
 class InputWarning;
 class UserInterface;
-class wndEvolPlot;
 
 namespace Ui {
 class dlgOptions;
@@ -36,8 +35,8 @@ public:
     using Entries = std::array<float, 9>;
 
     /// What is handed over by reference must outlive the dialog.
-    dlgOptions(AirplaneInfo& airplaneInfo, wndEvolPlot& plots, UserInterface& user,
-               OptionsStore store, QWidget* parent = nullptr);
+    dlgOptions(Document& document, UserInterface& user, OptionsStore store,
+               QWidget* parent = nullptr);
     ~dlgOptions() override;
 
     /// Fills the inputs from the store and applies them. A store that cannot be read is reported,
@@ -61,10 +60,6 @@ public:
 
     const Entries& entries() const { return m_entries; }
 
-Q_SIGNALS:
-    /// The aircraft information may have other flutter mechanisms now.
-    void flutterMechanismsChanged();
-
 protected:
     void showEvent(QShowEvent* event) override;
 
@@ -81,8 +76,7 @@ private:
     PlotAxes withEntries(PlotAxes axes) const;
 
     std::unique_ptr<Ui::dlgOptions> m_ui;
-    AirplaneInfo& m_airplaneInfo;
-    wndEvolPlot& m_plots;
+    Document& m_document;
     UserInterface& m_user;
     OptionsStore m_store;
     std::unique_ptr<InputWarning> m_missingFile;

@@ -55,7 +55,7 @@ TEST_F(Commands, addModalEvolutionsToTheExplorerAndDrawNone)
     choose("AddMenu");
     ASSERT_EQ(user.fileQuestions.size(), 1U);
     EXPECT_TRUE(user.fileQuestions[0].takesSeveral);
-    EXPECT_EQ(window.session().evolutions.size(), 2U);
+    EXPECT_EQ(window.document().evolutions().all().size(), 2U);
     EXPECT_EQ(plot().SeriesCollection().size(), curves);
     ASSERT_EQ(user.messages.size(), 2U);
     EXPECT_EQ(user.messages[0].text, "Modal Evolution [goland_clean_m040.ev2] Already Loaded.");
@@ -65,7 +65,7 @@ TEST_F(Commands, addModalEvolutionsToTheExplorerAndDrawNone)
 TEST_F(Commands, addNothingWhenTheDialogIsCancelled)
 {
     choose("AddMenu");
-    EXPECT_EQ(window.session().evolutions.size(), 1U);
+    EXPECT_EQ(window.document().evolutions().all().size(), 1U);
     EXPECT_TRUE(user.messages.empty());
 }
 
@@ -89,7 +89,7 @@ TEST_F(Commands, exportNoModeOfARowWithoutACurveAndSaySo)
 {
     plot().rows().setMode(plot().rows().at(1).id, 0);
     std::vector<const AeMode*> modes;
-    for (const auto& mode : window.session().evolutions.front()->Modes)
+    for (const auto& mode : window.document().evolutions().all().front()->Modes)
         modes.push_back(mode.get());
     modes.erase(modes.begin() + 1);
     PrintEVM(*mdlMix::gather(modes), folder.file("expected.mix"));

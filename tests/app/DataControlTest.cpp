@@ -173,5 +173,5 @@ TEST_F(DataControl, takesALabelThatIsBeingTypedAlongToo)
     test::openEditor(tree)->setText(QStringLiteral("an hour of typing"));
     choose("mnuNewWorkspace");
     EXPECT_EQ(user.questions.size(), 1U);
-    EXPECT_EQ(window.explorer().description(), QStringLiteral("an hour of typing"));
+    EXPECT_EQ(window.document().texts().description, QStringLiteral("an hour of typing"));
 }

@@ -93,7 +93,7 @@ void SessionRoundTripTest::openEvolutions()
     paths.resize(1 + random.below(paths.size()));
     user.openFiles.push_back(paths);
     choose("AddMenu");
-    ASSERT_EQ(window.session().evolutions.size(), paths.size());
+    ASSERT_EQ(window.document().evolutions().all().size(), paths.size());
 }
 
 void SessionRoundTripTest::makeSession(unsigned seed)
@@ -101,7 +101,7 @@ void SessionRoundTripTest::makeSession(unsigned seed)
     random = RandomTexts(seed);
     openEvolutions();
     editEvolutions();
-    window.explorer().setDescription(line(20) + QStringLiteral("\r\n") + line(20));
+    window.document().setDescription(line(20) + QStringLiteral("\r\n") + line(20));
     plot().setCaption(QStringLiteral("first ") + line(10));
     for (std::size_t left = random.below(4); left > 0; --left)
         window.evolPlot().AddPlot(QStringLiteral("P") + line(10));
@@ -133,7 +133,7 @@ void SessionRoundTripTest::fill(EvmPlot& one)
 
 void SessionRoundTripTest::addSeries(EvmPlot& one)
 {
-    const auto& evolutions = window.session().evolutions;
+    const auto& evolutions = window.document().evolutions().all();
     for (std::size_t left = random.below(12); left > 0; --left) {
         EVM& evolution = *evolutions[random.below(evolutions.size())];
         Series series;
@@ -163,7 +163,7 @@ void SessionRoundTripTest::addMarks(EvmPlot& one)
 
 void SessionRoundTripTest::editEvolutions()
 {
-    for (const auto& evolution : window.session().evolutions) {
+    for (const auto& evolution : window.document().evolutions().all()) {
         if (random.below(2) == 0)
             evolution->Param.Airplane = random.line(20);
         if (random.below(2) == 0)
@@ -171,7 +171,7 @@ void SessionRoundTripTest::editEvolutions()
         if (random.below(2) == 0)
             evolution->Param.Mach = bound(0, 2);
         if (random.below(3) == 0)
-            window.explorer().setReference(evolution.get());
+            window.document().evolutions().setReference(evolution.get());
     }
 }
 
@@ -179,9 +179,9 @@ void SessionRoundTripTest::editEvolutions()
 std::vector<std::pair<EditableParam, bool>> SessionRoundTripTest::evolutions()
 {
     std::vector<std::pair<EditableParam, bool>> result;
-    for (const auto& evolution : window.session().evolutions)
+    for (const auto& evolution : window.document().evolutions().all())
         result.emplace_back(evolution->Param.editable(),
-                            window.explorer().referenceEvolution() == evolution.get());
+                            window.document().evolutions().reference() == evolution.get());
     return result;
 }
 
@@ -236,7 +236,7 @@ TEST_F(SessionRoundTripTest, givesTheSameBytesAndTheSamePictures)
         ASSERT_THAT(user.note, ::testing::Not(::testing::HasSubstr("longer than 1023")))
             << "a text of this test is too long";
         choose("mnuNewWorkspace");
-        ASSERT_TRUE(window.session().evolutions.empty());
+        ASSERT_TRUE(window.document().evolutions().all().empty());
         open(std::to_string(seed) + "a.tsw");
         ASSERT_EQ(evolutions(), parameters);
         const std::vector<QByteArray> drawnAgain = pictures();

@@ -146,7 +146,7 @@ TEST_F(WndMainTest, tellsThatAPlotTakesNoMoreCurves)
     for (int i = 0; i < 80; ++i) // of seven modes each
         many.push_back(folder.write("many" + std::to_string(i) + ".ev2", text));
     load(many);
-    EXPECT_EQ(window.session().evolutions.size(), 80U);
+    EXPECT_EQ(window.document().evolutions().all().size(), 80U);
     ASSERT_EQ(user.messages.size(), 1U);
     EXPECT_EQ(user.messages[0].text,
               "80 modal evolutions are loaded. The first 71 are drawn: a plot takes no more curves "
@@ -158,7 +158,7 @@ TEST_F(WndMainTest, tellsThatAPlotTakesNoMoreCurves)
 TEST_F(WndMainTest, loadsTheEvolutionsOfTheCommandLine)
 {
     load({sample("goland_clean_m040.ev2"), sample("goland_clean_m050.ev2")});
-    EXPECT_EQ(window.session().evolutions.size(), 2U);
+    EXPECT_EQ(window.document().evolutions().all().size(), 2U);
     EXPECT_FALSE(plot().SeriesCollection().empty());
     EXPECT_THAT(user.statuses, ::testing::Contains("Open Modal Evolutions. Please Wait ..."));
     EXPECT_EQ(user.statuses.back(), "Ready");
@@ -167,7 +167,7 @@ TEST_F(WndMainTest, loadsTheEvolutionsOfTheCommandLine)
 TEST_F(WndMainTest, startsEmptyWithACommandLineThatItDoesNotKnow)
 {
     load({"notes.txt"});
-    EXPECT_TRUE(window.session().evolutions.empty());
+    EXPECT_TRUE(window.document().evolutions().all().empty());
     EXPECT_TRUE(user.messages.empty());
     EXPECT_TRUE(frame("wndEvolPlot").isVisible());
 }
@@ -175,7 +175,7 @@ TEST_F(WndMainTest, startsEmptyWithACommandLineThatItDoesNotKnow)
 TEST_F(WndMainTest, takesAWorkspaceAloneFromACommandLineThatNamesBoth)
 {
     load({sample("goland_clean_m040.ev2"), "case.tsw"});
-    EXPECT_TRUE(window.session().evolutions.empty());
+    EXPECT_TRUE(window.document().evolutions().all().empty());
 }
 
 TEST_F(WndMainTest, tilesTheShownWindows)

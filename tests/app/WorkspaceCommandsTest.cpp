@@ -42,7 +42,7 @@ protected:
         load({folder.file("one.ev2"), folder.file("two.ev2")});
         plot().setBoxText(TextBox::Header, QStringLiteral("header\nsecond line"));
         plot().SerieMove(1, 9);
-        window.explorer().setDescription(QStringLiteral("an afternoon"));
+        window.document().setDescription(QStringLiteral("an afternoon"));
         EvmPlot& second = window.evolPlot().AddPlot(QStringLiteral("Second"));
         second.SetScale(0, 100, 0, 10, 0, -1);
     }
@@ -77,9 +77,9 @@ protected:
             series.LineWidth = 3;
             series.IthMpf = 2;
         });
-        window.session().evolutions[0]->Param.Mass = "heavy";
-        window.session().evolutions[0]->Param.Mach = 0.62F;
-        window.explorer().setReference(window.session().evolutions[1].get());
+        window.document().evolutions().all()[0]->Param.Mass = "heavy";
+        window.document().evolutions().all()[0]->Param.Mach = 0.62F;
+        window.document().evolutions().setReference(window.document().evolutions().all()[1].get());
     }
 
     void save(const std::string& name = "case.tsw")
@@ -94,7 +94,17 @@ protected:
         choose("OpenMenu");
     }
 
-    const EVM& evolution(std::size_t index) { return *window.session().evolutions.at(index); }
+    template <typename Change>
+    void setTexts(Change change)
+    {
+        WorkspaceTexts texts = window.document().texts();
+        change(texts);
+        window.document().setTexts(texts);
+    }
+    const EVM& evolution(std::size_t index)
+    {
+        return *window.document().evolutions().all().at(index);
+    }
 
     /// Double-clicks the header of the active plot and types.
     void typeHeader(const QString& text)
@@ -146,19 +156,19 @@ TEST_F(WorkspaceCommandsTest, openWhatWasSavedAsItWas)
     save();
     const std::string saved = bytes();
     EXPECT_THAT(saved, StartsWith("[GENERAL INFORMATION]\r\nUsername="));
-    EXPECT_EQ(window.explorer().workspaceName(), QStringLiteral("case"));
+    EXPECT_EQ(window.document().texts().name, QStringLiteral("case"));
     choose("mnuNewWorkspace");
-    EXPECT_TRUE(window.session().evolutions.empty());
+    EXPECT_TRUE(window.document().evolutions().all().empty());
     open(folder.file("case.tsw"));
     EXPECT_TRUE(user.messages.empty());
     EXPECT_TRUE(user.questions.empty()) << "nothing was changed, so nothing was asked";
-    EXPECT_EQ(window.session().evolutions.size(), 2U);
+    EXPECT_EQ(window.document().evolutions().all().size(), 2U);
     ASSERT_EQ(window.evolPlot().plots().size(), 2U);
     EXPECT_EQ(plot().Header().Text(), QStringLiteral("header\r\nsecond line"));
     EXPECT_EQ(plot().SeriesCollection().size(), 14U);
     EXPECT_EQ(window.evolPlot().plots()[1]->Caption(), QStringLiteral("Second"));
     EXPECT_EQ(window.evolPlot().plots()[1]->axes().speed.max, 100.0F);
-    EXPECT_EQ(window.explorer().description(), QStringLiteral("an afternoon"));
+    EXPECT_EQ(window.document().texts().description, QStringLiteral("an afternoon"));
     save("again.tsw");
     EXPECT_EQ(bytes("again.tsw"), saved);
 }
@@ -180,7 +190,7 @@ TEST_F(WorkspaceCommandsTest, writeADescriptionThatNobodyGaveAsItStands)
     const std::string saved = bytes();
     EXPECT_THAT(saved, HasSubstr("\r\nAnalysis_Description=   \r\n"));
     open(folder.file("case.tsw"));
-    EXPECT_EQ(window.explorer().description(), QStringLiteral("   "));
+    EXPECT_EQ(window.document().texts().description, QStringLiteral("   "));
     save("again.tsw");
     EXPECT_EQ(bytes("again.tsw"), saved);
 }
@@ -203,11 +213,12 @@ TEST_F(WorkspaceCommandsTest, askBeforeTheyReplaceAFile)
 TEST_F(WorkspaceCommandsTest, keepTheDateOfCreation)
 {
     work();
-    window.explorer().setDateCreated(QStringLiteral("07-Mar-2024 14:05:31"));
+    setTexts(
+        [](WorkspaceTexts& texts) { texts.dateCreated = QStringLiteral("07-Mar-2024 14:05:31"); });
     save("case");
     EXPECT_THAT(test::fileBytes(folder.file("case.tsw")),
                 HasSubstr("Date_Created=07-Mar-2024 14:05:31\r\n"));
-    EXPECT_FALSE(window.explorer().dateModified().trimmed().isEmpty());
+    EXPECT_FALSE(window.document().texts().dateModified.trimmed().isEmpty());
 }
 
 TEST_F(WorkspaceCommandsTest, askBeforeChangesAreLost)
@@ -218,7 +229,7 @@ TEST_F(WorkspaceCommandsTest, askBeforeChangesAreLost)
         choose(command);
         ASSERT_EQ(user.questions.size(), 1U) << command;
         EXPECT_THAT(user.questions[0], HasSubstr("has changed since it was last saved"));
-        EXPECT_EQ(window.session().evolutions.size(), 2U) << command;
+        EXPECT_EQ(window.document().evolutions().all().size(), 2U) << command;
         EXPECT_TRUE(window.isVisible()) << command;
     }
     save();
@@ -248,7 +259,7 @@ TEST_F(WorkspaceCommandsTest, keepAllThatAUserMakes)
     EXPECT_EQ(series.LineStyle, 2);
     EXPECT_EQ(series.LineWidth, 3);
     EXPECT_EQ(series.IthMpf, 2);
-    EXPECT_EQ(window.explorer().referenceEvolution(), &evolution(1));
+    EXPECT_EQ(window.document().evolutions().reference(), &evolution(1));
     EXPECT_EQ(evolution(0).Param.Mass, "heavy");
     EXPECT_EQ(evolution(0).Param.Mach, 0.62F);
     EXPECT_EQ(evolution(1).Param.Mach, evolution(1).paramOfFile().mach);
@@ -286,10 +297,13 @@ TEST_F(WorkspaceCommandsTest, askBeforeOnlyThatIsLostWhichNewerFilesHold)
         [this] { test::changeSeries(plot(), 0, [](Series& one) { one.LineStyle = 4; }); },
         [this] { test::changeSeries(plot(), 0, [](Series& one) { one.LineWidth = 2; }); },
         [this] { test::changeSeries(plot(), 0, [](Series& one) { one.IthMpf = 5; }); },
-        [this] { window.session().evolutions[1]->Param.Airplane = "X"; },
-        [this] { window.session().evolutions[1]->Param.Mass = "Y"; },
-        [this] { window.session().evolutions[1]->Param.Mach = 0.1F; },
-        [this] { window.explorer().setReference(window.session().evolutions[1].get()); }};
+        [this] { window.document().evolutions().all()[1]->Param.Airplane = "X"; },
+        [this] { window.document().evolutions().all()[1]->Param.Mass = "Y"; },
+        [this] { window.document().evolutions().all()[1]->Param.Mach = 0.1F; },
+        [this] {
+            window.document().evolutions().setReference(
+                window.document().evolutions().all()[1].get());
+        }};
     for (std::size_t i = 0; i < changes.size(); ++i) {
         save(std::to_string(i) + ".tsw");
         user.questions.clear();
@@ -321,7 +335,7 @@ TEST_F(WorkspaceCommandsTest, passOverWhatDoesNotFitInNewerFiles)
     EXPECT_TRUE(user.messages.empty());
     EXPECT_EQ(plot().Refs().size(), 1U);
     EXPECT_EQ(plot().SeriesCollection()[3].LineStyle, 0);
-    EXPECT_EQ(window.explorer().referenceEvolution(), nullptr);
+    EXPECT_EQ(window.document().evolutions().reference(), nullptr);
     EXPECT_EQ(evolution(0).Param.editable(), evolution(0).paramOfFile());
 }
 
@@ -339,7 +353,7 @@ TEST_F(WorkspaceCommandsTest, tellOfFilesThatAreCountedButNotListedAndOpenTheRes
     EXPECT_EQ(user.messages[0].text,
               "Modal evolution file not found:\nfile 3 of the list, which has no path\n"
               "file 4 of the list, which has no path");
-    EXPECT_EQ(window.session().evolutions.size(), 2U);
+    EXPECT_EQ(window.document().evolutions().all().size(), 2U);
     EXPECT_EQ(plot().SeriesCollection().size(), 14U);
     EXPECT_EQ(window.evolPlot().plots().size(), 2U);
 }
@@ -401,7 +415,7 @@ TEST_F(WorkspaceCommandsTest, doNothingWhenADialogIsCancelled)
     EXPECT_FALSE(std::filesystem::exists(folder.file("case.tsw")));
     user.confirmations = {true};
     choose("OpenMenu");
-    EXPECT_EQ(window.session().evolutions.size(), 2U);
+    EXPECT_EQ(window.document().evolutions().all().size(), 2U);
     EXPECT_TRUE(user.messages.empty());
 }
 
@@ -419,7 +433,7 @@ TEST_F(WorkspaceCommandsTest, findMovedFilesBesideTheWorkspaceAndBelow)
     ASSERT_EQ(user.messages.size(), 1U) << "of the file that has only its name";
     EXPECT_THAT(user.messages[0].text, HasSubstr("deep/down/two.ev2"));
     EXPECT_THAT(user.messages[0].text, Not(HasSubstr(elsewhere.file("one.ev2"))));
-    EXPECT_EQ(window.session().evolutions.size(), 2U);
+    EXPECT_EQ(window.document().evolutions().all().size(), 2U);
     EXPECT_EQ(plot().SeriesCollection().size(), 14U);
 }
 
@@ -509,11 +523,11 @@ TEST_F(WorkspaceCommandsTest, reportADamagedFileAndGoOn)
 TEST_F(WorkspaceCommandsTest, leaveTheOldFileWhenItCannotBeWritten)
 {
     work();
-    const QString before = window.explorer().dateModified();
+    const QString before = window.document().texts().dateModified;
     save("missing/case.tsw");
     ASSERT_EQ(user.messages.size(), 1U);
     EXPECT_THAT(user.messages[0].text, StartsWith("Error # 76 "));
-    EXPECT_EQ(window.explorer().dateModified(), before);
+    EXPECT_EQ(window.document().texts().dateModified, before);
 }
 
 TEST_F(WorkspaceCommandsTest, sayWhichTextsWillBeCut)
@@ -566,7 +580,7 @@ TEST_F(WorkspaceCommandsTest, giveEveryNameTheExtensionOfWorkspaces)
     work();
     save("wing m0.40");
     EXPECT_TRUE(std::filesystem::exists(folder.file("wing m0.40.tsw")));
-    EXPECT_EQ(window.explorer().workspaceName(), QStringLiteral("wing m0.40"));
+    EXPECT_EQ(window.document().texts().name, QStringLiteral("wing m0.40"));
     save("upper.TSW");
     EXPECT_TRUE(std::filesystem::exists(folder.file("upper.TSW")));
 }
@@ -658,7 +672,7 @@ TEST_F(WorkspaceCommandsTest, tellNamesakesApartByTheirFolders)
     std::filesystem::rename(folder.file("case.tsw"), folder.file("moved/case.tsw"));
     open(folder.file("moved/case.tsw"));
     EXPECT_TRUE(user.messages.empty());
-    ASSERT_EQ(window.session().evolutions.size(), 2U);
+    ASSERT_EQ(window.document().evolutions().all().size(), 2U);
     EXPECT_EQ(evolution(0).Param.Mass, masses[0]);
     EXPECT_EQ(evolution(1).Param.Mass, masses[1]);
 }
@@ -687,7 +701,7 @@ TEST_F(WorkspaceCommandsTest, bindNoCurveToTheNamesakeOfAFileThatIsMissing)
     ASSERT_EQ(user.messages.size(), 1U);
     EXPECT_EQ(user.messages[0].text,
               "Modal evolution file not found:\n" + folder.file("runs/store/case.ev2"));
-    ASSERT_EQ(window.session().evolutions.size(), 1U);
+    ASSERT_EQ(window.document().evolutions().all().size(), 1U);
     const std::vector<std::string> masses = massesOfCurves();
     ASSERT_FALSE(masses.empty());
     EXPECT_THAT(masses, Each(mass));
@@ -713,7 +727,7 @@ TEST_F(WorkspaceCommandsTest, leaveTheSessionAsItIsWhereAFileIsNoWorkspace)
 {
     work();
     save();
-    window.explorer().setDescription(QStringLiteral("an evening"));
+    window.document().setDescription(QStringLiteral("an evening"));
     for (const char* const bytes : {"", "a letter", "[GENERAL INFORMATION]\r\nUsername=x\r\n"}) {
         SCOPED_TRACE(bytes);
         user.messages.clear();
@@ -721,11 +735,11 @@ TEST_F(WorkspaceCommandsTest, leaveTheSessionAsItIsWhereAFileIsNoWorkspace)
         open(folder.write("letter.tsw", bytes));
         ASSERT_EQ(user.messages.size(), 1U);
         EXPECT_THAT(user.messages[0].text, StartsWith("Error # 13 was generated by "));
-        EXPECT_EQ(window.session().evolutions.size(), 2U);
+        EXPECT_EQ(window.document().evolutions().all().size(), 2U);
         EXPECT_EQ(window.evolPlot().plots().size(), 2U);
         EXPECT_EQ(plot().SeriesCollection().size(), 14U);
-        EXPECT_EQ(window.explorer().description(), QStringLiteral("an evening"));
-        EXPECT_EQ(window.explorer().workspaceName(), QStringLiteral("case"));
+        EXPECT_EQ(window.document().texts().description, QStringLiteral("an evening"));
+        EXPECT_EQ(window.document().texts().name, QStringLiteral("case"));
     }
     user.questions.clear();
     choose("QuitMenu");
@@ -754,7 +768,7 @@ TEST_F(WorkspaceCommandsTest, openTheFilesOfAWorkspaceWithoutPlots)
                       "[MODAL EVOLUTION FILES]\r\nNoOfFiles=1\r\nFile(1)=" + folder.file("one.ev2")
                           + "\r\n[PLOTS]\r\nNoOfPlots=0\r\n[END OF FILE]\r\n"));
     EXPECT_TRUE(user.messages.empty());
-    EXPECT_EQ(window.session().evolutions.size(), 1U);
+    EXPECT_EQ(window.document().evolutions().all().size(), 1U);
     ASSERT_EQ(window.evolPlot().plots().size(), 1U) << "the one that is always there";
     EXPECT_TRUE(plot().SeriesCollection().empty());
 }
@@ -771,14 +785,16 @@ TEST_F(WorkspaceCommandsTest, renewTheDateOfSavingAlone)
     open(folder.write("old.tsw", bytes));
     for (const char* const name : {"again.tsw", "again.tsw"}) {
         user.confirmations = {true}; // to replace it the second time
-        window.explorer().setDateModified(QStringLiteral("07-Mar-2024 14:05:31"));
+        setTexts([](WorkspaceTexts& texts) {
+            texts.dateModified = QStringLiteral("07-Mar-2024 14:05:31");
+        });
         save(name);
         const std::string saved = test::fileBytes(folder.file(name));
         EXPECT_THAT(saved, HasSubstr("\r\nDate_Created=07-Mar-2024 14:05:31\r\n"));
         EXPECT_THAT(saved, Not(HasSubstr("Date_Modified=07-Mar-2024")));
         EXPECT_THAT(saved,
-                    HasSubstr("\r\nDate_Modified=" + window.explorer().dateModified().toStdString()
-                              + "\r\n"));
+                    HasSubstr("\r\nDate_Modified="
+                              + window.document().texts().dateModified.toStdString() + "\r\n"));
     }
 }
 
@@ -786,13 +802,14 @@ TEST_F(WorkspaceCommandsTest, changeNothingWhenAFileIsNotToBeReplaced)
 {
     work();
     save();
-    window.explorer().setDateModified(QStringLiteral("07-Mar-2024 14:05:31"));
+    setTexts(
+        [](WorkspaceTexts& texts) { texts.dateModified = QStringLiteral("07-Mar-2024 14:05:31"); });
     folder.write("other.tsw", "old");
     user.questions.clear();
     save("other.tsw");
     EXPECT_EQ(user.questions.size(), 1U);
-    EXPECT_EQ(window.explorer().workspaceName(), QStringLiteral("case"));
-    EXPECT_EQ(window.explorer().dateModified(), QStringLiteral("07-Mar-2024 14:05:31"));
+    EXPECT_EQ(window.document().texts().name, QStringLiteral("case"));
+    EXPECT_EQ(window.document().texts().dateModified, QStringLiteral("07-Mar-2024 14:05:31"));
     EXPECT_EQ(test::fileBytes(folder.file("other.tsw")), "old");
 }
 
@@ -802,7 +819,7 @@ TEST_F(WorkspaceCommandsTest, openTheWorkspaceOfTheCommandLineInItsQuotes)
     save();
     choose("mnuNewWorkspace");
     load({"\"" + folder.file("case.tsw") + "\"", folder.file("one.ev2")});
-    EXPECT_EQ(window.session().evolutions.size(), 2U);
+    EXPECT_EQ(window.document().evolutions().all().size(), 2U);
     EXPECT_TRUE(user.messages.empty());
 }
 
@@ -810,7 +827,7 @@ TEST_F(WorkspaceCommandsTest, openTheSampleWhoseFilesHaveMoved)
 {
     open(sample("goland.tsw"));
     EXPECT_TRUE(user.messages.empty());
-    EXPECT_EQ(window.session().evolutions.size(), 6U);
+    EXPECT_EQ(window.document().evolutions().all().size(), 6U);
     const auto plots = window.evolPlot().plots();
     ASSERT_EQ(plots.size(), 2U);
     EXPECT_EQ(plots[0]->Caption(), QStringLiteral("Clean wing"));
@@ -826,7 +843,7 @@ TEST_F(WorkspaceCommandsTest, writesNoRowWithoutACurveAndSaysWhich)
     save();
     ASSERT_TRUE(user.messages.empty());
     EvmPlot& second = *window.evolPlot().plots().back();
-    second.addSeries(*window.session().evolutions[1]->Modes[0]);
+    second.addSeries(*window.document().evolutions().all()[1]->Modes[0]);
     second.rows().setMode(second.rows().at(0).id, 99);
     plot().rows().setMode(plot().rows().at(2).id, 0);
     user.confirmations.push_back(true);

@@ -120,7 +120,7 @@ TEST_F(SeriesGridViewTest, keepsWhatIsBeingTypedWhenThePlotChanges)
 {
     startTyping(1, SeriesColumn::Legend, "typed");
     plot().RemoveRef(); // as by a command of a menu, which takes no focus
-    add(*evolutions.front(), 2);
+    add(*evolutions().front(), 2);
     auto* const editor = test::openEditor(grid());
     ASSERT_NE(editor, nullptr);
     EXPECT_EQ(editor->text(), QStringLiteral("typed"));
@@ -190,7 +190,7 @@ TEST_F(SeriesGridViewTest, keepsTheWidthThatTheUserGivesTheNames)
 TEST_F(SeriesGridViewTest, keepsTheSelectionWhenACurveIsAdded)
 {
     select(1, 2, SeriesColumn::Mode);
-    add(*evolutions.front(), 2);
+    add(*evolutions().front(), 2);
     EXPECT_THAT(grid().selectedRows(), ElementsAre(1, 2));
 }
 

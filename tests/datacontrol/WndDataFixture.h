@@ -4,6 +4,7 @@
 #include "analysis/ModeBuilder.h"
 #include "datacontrol/SeriesGridView.h"
 #include "datacontrol/WndData.h"
+#include "document/Document.h"
 #include "plotwindow/WndEvolPlot.h"
 #include "support/ChangeSeries.h"
 #include "support/FormParts.h"
@@ -33,9 +34,7 @@ inline ScriptedUserInterface::Message warning(const std::string& text)
 class WndDataTest : public ::testing::Test
 {
 protected:
-    WndDataTest()
-        : plots(user), data(
-                           plots, airplane, [this] { return reference; }, user)
+    WndDataTest() : plots(document.plots(), user), data(document, user)
     {
         airplane.Filename = "/aircraft.inp";
         airplane.VLTag = "VL";
@@ -59,7 +58,7 @@ protected:
         store.LongName = "Pitch of the store";
         airplane.FlutterMechs = {bending, store};
         airplane.FlutterEnvs.push_back({210, 180, 140, "0.78"});
-        data.fillMechanisms();
+        document.setAirplane(airplane);
         plots.resize(400, 300);
         plots.ActivatePlot(plots.plots().front());
     }
@@ -67,7 +66,8 @@ protected:
     /// An evolution of `modes` modes with two points each.
     EVM& load(const std::string& name, int modes = 3)
     {
-        EVM& evolution = *evolutions.emplace_back(std::make_unique<EVM>());
+        OwnedEvolutions loaded;
+        EVM& evolution = *loaded.emplace_back(std::make_unique<EVM>());
         evolution.Folder = "/runs";
         evolution.FileName = name;
         evolution.na = static_cast<std::int16_t>(modes);
@@ -78,8 +78,12 @@ protected:
         for (int mode = 1; mode <= modes; ++mode)
             addMode(evolution, static_cast<std::int16_t>(mode),
                     {{100, -0.02F, 5.0F + static_cast<float>(mode)}, {200, 0.01F, 6}});
+        document.evolutions().add(std::move(loaded));
         return evolution;
     }
+
+    const OwnedEvolutions& evolutions() { return document.evolutions().all(); }
+    void setReference(EVM& evolution) { document.evolutions().setReference(&evolution); }
 
     /// Adds a mode (counted from 1) to the active plot as the explorer does.
     void add(EVM& evolution, std::size_t mode = 1)
@@ -141,9 +145,8 @@ protected:
     }
     void click(const char* button) { test::click(data, button); }
 
-    std::vector<std::unique_ptr<EVM>> evolutions;
-    AirplaneInfo airplane;
-    const EVM* reference = nullptr;
+    AirplaneInfo airplane; ///< that of the document once it is set there
+    Document document;
     ScriptedUserInterface user;
     wndEvolPlot plots;
     wndData data;

@@ -110,7 +110,7 @@ TEST_F(WndDataForm, listsTheMechanismsInTheirOrderAndChoosesNone)
     EXPECT_EQ(list.currentIndex(), -1);
     list.setCurrentIndex(1);
     airplane.FlutterMechs.pop_back();
-    data.fillMechanisms();
+    document.setAirplane(airplane);
     EXPECT_THAT(entries(), ElementsAre("BT"));
     EXPECT_EQ(list.currentIndex(), -1);
 }

@@ -346,7 +346,7 @@ TEST_F(WndDataSeries, changesNoMarkerOfAPlotThatBecomesActive)
     addRows();
     EvmPlot& opened = plots.AddPlot({});
     for (const int spacing : {3, 4})
-        opened.rows().change(opened.addSeries(*evolutions.front()->Modes[0]),
+        opened.rows().change(opened.addSeries(*evolutions().front()->Modes[0]),
                              [spacing](Series& one) { one.MarkerSpacing = spacing; });
     plots.ActivatePlot(&opened);
     EXPECT_EQ(test::textIn(data, "mkspaceInp"), "3");

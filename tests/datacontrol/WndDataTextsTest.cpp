@@ -2,6 +2,8 @@
 
 #include "WndDataFixture.h"
 
+#include "datacontrol/PlotTitles.h"
+#include "support/Errors.h"
 #include "support/TestFiles.h"
 
 #include <QComboBox>
@@ -11,6 +13,7 @@
 #include <gmock/gmock.h>
 
 using namespace tarsil;
+using test::errorNumberOf;
 using test::partOf;
 using test::warning;
 using ::testing::ElementsAre;
@@ -53,7 +56,7 @@ protected:
 
 TEST_F(WndDataTexts, writesTheHeaderOfTheReferenceEvolution)
 {
-    reference = &load("a.ev2");
+    setReference(load("a.ev2"));
     test::type(data, "txtTitle", "Symmetric");
     click("btnMakHead");
     EXPECT_EQ(header(), "QRX-200 - Configuration CLEAN\r\nPK Method - Mach No. 0.78\r\nSymmetric");
@@ -63,7 +66,7 @@ TEST_F(WndDataTexts, writesTheHeaderOfTheReferenceEvolution)
 TEST_F(WndDataTexts, leavesAnotherAirplanesNameAsItIs)
 {
     EVM& evolution = load("a.ev2");
-    reference = &evolution;
+    setReference(evolution);
     evolution.Param.Airplane = "GOLAND WING";
     evolution.Param.Mach = 0.785F;
     click("btnMakHead");
@@ -74,7 +77,7 @@ TEST_F(WndDataTexts, needsAReferenceAndItsMassConfigurationForTheHeader)
 {
     click("btnMakHead");
     EVM& evolution = load("a.ev2");
-    reference = &evolution;
+    setReference(evolution);
     evolution.Param.Mass = "loaded";
     click("btnMakHead");
     EXPECT_THAT(user.messages,
@@ -86,7 +89,7 @@ TEST_F(WndDataTexts, needsAReferenceAndItsMassConfigurationForTheHeader)
 
 TEST_F(WndDataTexts, marksTheEnvelopeInThePlaceOfOtherReferenceSpeeds)
 {
-    reference = &load("a.ev2");
+    setReference(load("a.ev2"));
     plot().AddRef(300, QStringLiteral("mine"));
     click("btnAutoRef");
     EXPECT_THAT(marks(),
@@ -99,7 +102,7 @@ TEST_F(WndDataTexts, needsAReferenceItsMachNumberAndItsEnvelopeForTheSpeeds)
     plot().AddRef(300, QStringLiteral("mine"));
     click("btnAutoRef");
     EVM& evolution = load("a.ev2");
-    reference = &evolution;
+    setReference(evolution);
     evolution.Param.Mach = 0;
     click("btnAutoRef");
     EXPECT_THAT(user.messages,
@@ -117,7 +120,7 @@ TEST_F(WndDataTexts, needsAReferenceItsMachNumberAndItsEnvelopeForTheSpeeds)
 TEST_F(WndDataTexts, sayThatNoAircraftFileIsSetWhereThatIsWhatIsMissing)
 {
     airplane = AirplaneInfo();
-    reference = &load("a.ev2");
+    setReference(load("a.ev2"));
     click("btnMakHead");
     EXPECT_EQ(user.messages.back(),
               warning("Please type a valid mass configurarion in ref. modal evolution.\n"
@@ -132,7 +135,8 @@ TEST_F(WndDataTexts, nameAnAircraftFileThatDoesNotExist)
 {
     airplane = AirplaneInfo();
     airplane.Filename = "/no/such.inp";
-    reference = &load("a.ev2");
+    document.setAirplane(airplane);
+    setReference(load("a.ev2"));
     click("btnMakHead");
     EXPECT_THAT(user.messages.back().text,
                 EndsWith("\nThe aircraft information file \"/no/such.inp\" does not exist: "
@@ -166,12 +170,13 @@ TEST_F(WndDataTexts, doesNothingWhileNoMechanismIsChosen)
 TEST_F(WndDataTexts, changesNothingForAMechanismThatIsNotThereOrWrong)
 {
     airplane.FlutterMechs[1].fthick = 1e6F;
+    document.setAirplane(airplane);
     choose(1);
     ASSERT_EQ(user.messages.size(), 1U);
     EXPECT_THAT(user.messages[0].text, StartsWith("Error # 6 "));
-    airplane.FlutterMechs.clear();
-    choose(0);
-    EXPECT_THAT(user.messages.back().text, StartsWith("Error # 5 "));
+    EXPECT_EQ(errorNumberOf(
+                  [this] { showMechanism(plot(), AirplaneInfo(), QStringLiteral("BT"), true); }),
+              ErrorNumber::InvalidProcedureCall);
     EXPECT_EQ(plot().axes().bounds(), PlotAxes().bounds());
     EXPECT_EQ(plot().Mechanism().Text(), QString());
 }

@@ -23,9 +23,7 @@ protected:
     EVM& loadFile(const std::string& name, const std::string& bytes)
     {
         folder.write(name, bytes);
-        EVM& evolution = load(name);
-        evolution.Folder = folder.path().string();
-        return evolution;
+        return load(name, {1}, folder.path().string());
     }
     std::string toolTip(const EVM& evolution)
     {
@@ -58,7 +56,6 @@ std::string repeatedRows(int count)
 TEST_F(EvolutionMarksTest, marksADoubtfulFileOnlyWhenNobodyWaits)
 {
     EVM& evolution = loadFile("a.evm", "");
-    explorer.FillEvolsNode();
     EXPECT_EQ(image(evolutionNode(evolution)), "evolution");
     settle();
     EXPECT_EQ(image(evolutionNode(evolution)), "warning");
@@ -69,7 +66,6 @@ TEST_F(EvolutionMarksTest, marksADoubtfulFileOnlyWhenNobodyWaits)
 TEST_F(EvolutionMarksTest, tellsAScreenReaderWhatTheSignTells)
 {
     EVM& evolution = loadFile("a.evm", "");
-    explorer.FillEvolsNode();
     settle();
     const auto heard = [&] {
         return evolutionNode(evolution).data(0, Qt::AccessibleDescriptionRole).toString();
@@ -79,7 +75,6 @@ TEST_F(EvolutionMarksTest, tellsAScreenReaderWhatTheSignTells)
     explorer.SetAsRef();
     EXPECT_EQ(heard().toStdString(), "reference evolution\n" + emptyFileText);
     EVM& other = loadFile("b.evm", "");
-    explorer.FillEvolsNode();
     select(evolutionNode(other));
     explorer.SetAsRef();
     EXPECT_EQ(heard().toStdString(), emptyFileText) << "no longer the reference";
@@ -88,7 +83,6 @@ TEST_F(EvolutionMarksTest, tellsAScreenReaderWhatTheSignTells)
 TEST_F(EvolutionMarksTest, leavesACleanFileUnmarked)
 {
     EVM& evolution = loadFile("a.ev2", test::fileBytes(test::sample("goland_clean_m040.ev2")));
-    explorer.FillEvolsNode();
     settle();
     EXPECT_EQ(image(evolutionNode(evolution)), "evolution");
     EXPECT_EQ(toolTip(evolution), folder.file("a.ev2"));
@@ -111,7 +105,7 @@ TEST_F(EvolutionMarksTest, looksThroughOneFileAtATimeInTheirOrder)
         EXPECT_LE(found.size(), before + 1);
     }
     EXPECT_THAT(found, ElementsAre("a.evm", "b.evm", "c.evm"));
-    marks.add(*session.evolutions[0]);
+    marks.add(*document.evolutions().all()[0]);
     settle();
     EXPECT_EQ(found.size(), 4U) << "begins again after a rest";
 }
@@ -120,21 +114,19 @@ TEST_F(EvolutionMarksTest, doesNotLookAtAnEvolutionThatHasGone)
 {
     EVM& a = loadFile("a.evm", "");
     EVM& b = loadFile("b.evm", "");
-    explorer.FillEvolsNode();
     select(evolutionNode(a));
     choose("Remove");
     settle();
     EXPECT_EQ(image(evolutionNode(b)), "warning");
     loadFile("c.evm", "");
-    explorer.FillEvolsNode();
-    explorer.startNew();
+    document.startNew();
     settle();
     EXPECT_EQ(node("Evols").childCount(), 0);
 }
 
 TEST_F(EvolutionMarksTest, marksAnEvolutionWhoseFileHasGone)
 {
-    EVM& evolution = fill("gone.evm");
+    EVM& evolution = load("gone.evm");
     settle();
     EXPECT_EQ(image(evolutionNode(evolution)), "warning");
     EXPECT_TRUE(toolTip(evolution).find("not found") != std::string::npos) << toolTip(evolution);

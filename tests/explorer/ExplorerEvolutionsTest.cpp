@@ -12,7 +12,7 @@ using ::testing::ElementsAre;
 
 TEST_F(WndEvolExplorerTest, listsAnEvolutionWithItsParameters)
 {
-    EVM& evolution = fill("a.evm", {3, 5, 9});
+    EVM& evolution = load("a.evm", {3, 5, 9});
     QTreeWidgetItem& item = evolutionNode(evolution);
     EXPECT_EQ(item.parent(), &node("Evols"));
     EXPECT_EQ(text(item), "a.evm");
@@ -35,10 +35,10 @@ TEST_F(WndEvolExplorerTest, listsAnEvolutionWithItsParameters)
 
 TEST_F(WndEvolExplorerTest, listsNoEvolutionTwice)
 {
-    fill("a.evm");
+    load("a.evm");
     explorer.FillEvolsNode();
     EXPECT_THAT(childTexts(node("Evols")), ElementsAre("a.evm"));
-    fill("b.evm");
+    load("b.evm");
     explorer.FillEvolsNode();
     EXPECT_THAT(childTexts(node("Evols")), ElementsAre("a.evm", "b.evm"));
 }
@@ -46,7 +46,7 @@ TEST_F(WndEvolExplorerTest, listsNoEvolutionTwice)
 TEST_F(WndEvolExplorerTest, listsWhatWasLoadedBeforeItself)
 {
     load("a.evm");
-    wndEvolExplorer later(session, plots, user);
+    wndEvolExplorer later(document, plots, user);
     EXPECT_EQ(test::partOf<QTreeWidget>(later, "tvwEvolExplorer")
                   .findItems(QStringLiteral("a.evm"), Qt::MatchExactly | Qt::MatchRecursive)
                   .size(),
@@ -57,7 +57,7 @@ TEST_F(WndEvolExplorerTest, keepsEvolutionsOfOnePathApart)
 {
     load("a.evm");
     load("a.evm");
-    fill("a.evm");
+    load("a.evm");
     EXPECT_THAT(childTexts(node("Evols")), ElementsAre("a.evm", "a.evm", "a.evm"));
     std::set<std::string> keys;
     for (int i = 0; i < 3; ++i)
@@ -69,7 +69,6 @@ TEST_F(WndEvolExplorerTest, listsAThousandEvolutionsInTheirOrder)
 {
     for (int i = 0; i < 1000; ++i)
         load(std::to_string(i) + ".evm");
-    explorer.FillEvolsNode();
     ASSERT_EQ(node("Evols").childCount(), 1000);
     for (const int i : {0, 1, 500, 999})
         EXPECT_EQ(text(*node("Evols").child(i)), std::to_string(i) + ".evm");
@@ -78,7 +77,7 @@ TEST_F(WndEvolExplorerTest, listsAThousandEvolutionsInTheirOrder)
 TEST_F(WndEvolExplorerTest, knowsTheEvolutionOfTheSelectedNodeOrOneAbove)
 {
     EVM& a = load("a.evm");
-    EVM& b = fill("b.evm");
+    EVM& b = load("b.evm");
     EXPECT_EQ(explorer.selectedEvolution(), nullptr) << "nothing is selected";
     select(evolutionNode(b));
     EXPECT_EQ(explorer.selectedEvolution(), &b);
@@ -97,27 +96,27 @@ TEST_F(WndEvolExplorerTest, knowsTheEvolutionOfTheSelectedNodeOrOneAbove)
 TEST_F(WndEvolExplorerTest, showsTheReferenceEvolutionBold)
 {
     EVM& a = load("a.evm");
-    EVM& b = fill("b.evm");
+    EVM& b = load("b.evm");
     select(evolutionNode(a));
     explorer.SetAsRef();
     explorer.SetAsRef(); // is already
-    EXPECT_EQ(explorer.referenceEvolution(), &a);
+    EXPECT_EQ(document.evolutions().reference(), &a);
     EXPECT_TRUE(isBold(evolutionNode(a)));
     EXPECT_FALSE(isBold(evolutionNode(b)));
     select(valueOf(b.path() + "_mass"));
     explorer.SetAsRef();
-    EXPECT_EQ(explorer.referenceEvolution(), &b);
+    EXPECT_EQ(document.evolutions().reference(), &b);
     EXPECT_FALSE(isBold(evolutionNode(a)));
     EXPECT_TRUE(isBold(evolutionNode(b)));
 }
 
 TEST_F(WndEvolExplorerTest, keepsTheReferenceEvolutionWhenNoneIsSelected)
 {
-    EVM& a = fill("a.evm");
+    EVM& a = load("a.evm");
     select(evolutionNode(a));
     explorer.SetAsRef();
     select(node("Root"));
     explorer.SetAsRef();
-    EXPECT_EQ(explorer.referenceEvolution(), &a);
+    EXPECT_EQ(document.evolutions().reference(), &a);
     EXPECT_THAT(user.messages, ElementsAre(test::noEvolution));
 }

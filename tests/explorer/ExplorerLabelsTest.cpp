@@ -12,7 +12,7 @@ using Message = test::ScriptedUserInterface::Message;
 
 TEST_F(WndEvolExplorerTest, writesTheParametersBack)
 {
-    EVM& a = fill("a.evm");
+    EVM& a = load("a.evm");
     EXPECT_TRUE(retype(valueOf(a.path() + "_airplane"), "FLYING WING"));
     EXPECT_EQ(a.Param.Airplane, "FLYING WING");
     EXPECT_TRUE(retype(valueOf(a.path() + "_mass"), "FULL"));
@@ -26,7 +26,7 @@ TEST_F(WndEvolExplorerTest, writesTheParametersBack)
 
 TEST_F(WndEvolExplorerTest, changesNothingWhenTheTextStaysTheSame)
 {
-    EVM& a = fill("a.evm");
+    EVM& a = load("a.evm");
     a.Param.Mach = 0.5F; // changed elsewhere, and not shown yet
     EXPECT_TRUE(retype(valueOf(a.path() + "_mach"), "0.78"));
     EXPECT_EQ(a.Param.Mach, 0.5F);
@@ -34,7 +34,7 @@ TEST_F(WndEvolExplorerTest, changesNothingWhenTheTextStaysTheSame)
 
 TEST_F(WndEvolExplorerTest, keepsTheMachNumberWhenTheTextIsNone)
 {
-    EVM& a = fill("a.evm");
+    EVM& a = load("a.evm");
     for (const char* const wrong : {"fast", "", "0,8", "0.8 m", "nan"}) {
         user.messages.clear();
         EXPECT_TRUE(retype(valueOf(a.path() + "_mach"), wrong));
@@ -48,7 +48,7 @@ TEST_F(WndEvolExplorerTest, keepsTheMachNumberWhenTheTextIsNone)
 
 TEST_F(WndEvolExplorerTest, reportsAMachNumberBeyondTheRangeOfNumbers)
 {
-    EVM& a = fill("a.evm");
+    EVM& a = load("a.evm");
     EXPECT_TRUE(retype(valueOf(a.path() + "_mach"), "1e39")); // a single ends at 3.4e38
     EXPECT_EQ(a.Param.Mach, 0.78F);
     EXPECT_EQ(text(valueOf(a.path() + "_mach")), "0.78");
@@ -111,15 +111,15 @@ TEST_F(WndEvolExplorerTest, leavesNoPlotWithoutAName)
 TEST_F(WndEvolExplorerTest, takesAnyTextAsDescription)
 {
     EXPECT_TRUE(retype(valueOf("AnaDesc"), "clean wing"));
-    EXPECT_EQ(explorer.description().toStdString(), "clean wing");
+    EXPECT_EQ(document.texts().description.toStdString(), "clean wing");
     EXPECT_TRUE(retype(valueOf("AnaDesc"), "clean wing"));
     EXPECT_TRUE(retype(valueOf("AnaDesc"), ""));
-    EXPECT_EQ(explorer.description().toStdString(), "");
+    EXPECT_EQ(document.texts().description.toStdString(), "");
 }
 
 TEST_F(WndEvolExplorerTest, editsNothingElse)
 {
-    const std::string key = fill("a.evm").path();
+    const std::string key = load("a.evm").path();
     for (const std::string& name :
          {std::string("Root"), std::string("Gener"), std::string("AnaDesc"),
           std::string("Date_Created"), std::string("Evols"), std::string("Plots"), key,
@@ -132,7 +132,7 @@ TEST_F(WndEvolExplorerTest, editsNothingElse)
 
 TEST_F(WndEvolExplorerTest, editsAValueThatIsActivated)
 {
-    EVM& a = fill("a.evm");
+    EVM& a = load("a.evm");
     QTreeWidgetItem& value = valueOf(a.path() + "_mass");
     Q_EMIT tree().itemActivated(&value, 0); // a double click, or Enter
     EXPECT_NE(tree().viewport()->findChild<QLineEdit*>(), nullptr);
@@ -142,7 +142,7 @@ TEST_F(WndEvolExplorerTest, takesALabelThatIsBeingTypedWhenItIsAskedTo)
 {
     openEditor(valueOf("AnaDesc")).setText(QStringLiteral("clean wing"));
     explorer.commitEdits();
-    EXPECT_EQ(explorer.description().toStdString(), "clean wing");
+    EXPECT_EQ(document.texts().description.toStdString(), "clean wing");
     EXPECT_FALSE(isEditing());
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(tree().viewport()->findChild<QLineEdit*>(), nullptr);
@@ -154,10 +154,10 @@ TEST_F(WndEvolExplorerTest, takesOneLabelAfterTheOther)
     openEditor(valueOf("AnaDesc")).setText(QStringLiteral("clean wing"));
     explorer.commitEdits();
     openEditor(node("Plot2")).setText(QStringLiteral("wing")); // the first editor has not ended yet
-    explorer.setDescription(QStringLiteral("another"));
+    document.setDescription(QStringLiteral("another"));
     explorer.commitEdits();
     EXPECT_EQ(plotAt(1).Caption().toStdString(), "wing");
-    EXPECT_EQ(explorer.description().toStdString(), "another");
+    EXPECT_EQ(document.texts().description.toStdString(), "another");
     EXPECT_FALSE(isEditing());
 }
 
@@ -177,7 +177,7 @@ TEST_F(WndEvolExplorerTest, changesNothingWhenNoLabelIsBeingTyped)
 {
     explorer.commitEdits();
     EXPECT_TRUE(retype(valueOf("AnaDesc"), "clean wing"));
-    explorer.setDescription(QStringLiteral("another"));
+    document.setDescription(QStringLiteral("another"));
     explorer.commitEdits();
-    EXPECT_EQ(explorer.description().toStdString(), "another");
+    EXPECT_EQ(document.texts().description.toStdString(), "another");
 }

@@ -34,14 +34,14 @@ TEST_F(WndEvolExplorerTest, opensTheFolderOfANewPlot)
     node("Plots").setExpanded(false);
     choose("CopyPlot");
     EXPECT_TRUE(node("Plots").isExpanded());
-    explorer.startNew();
+    document.startNew();
     EXPECT_FALSE(node("Plots").isExpanded());
 }
 
 TEST_F(WndEvolExplorerTest, scrollsToANewPlot)
 {
     for (int i = 0; i < 30; ++i)
-        fill("case" + std::to_string(i) + ".evm");
+        load("case" + std::to_string(i) + ".evm");
     explorer.resize(300, 200);
     explorer.show();
     const auto isSeen = [this](const char* caption) {
@@ -80,7 +80,7 @@ TEST_F(WndEvolExplorerTest, copiesTheTextThatIsBeingTypedIntoTheActivePlot)
 TEST_F(WndEvolExplorerTest, leavesNothingThatIsBeingTypedInANewWorkspace)
 {
     QTextEdit& editor = typeLegend("typed");
-    explorer.startNew();
+    document.startNew();
     EXPECT_TRUE(editor.parentWidget()->isHidden());
     plotAt(0).commitEdits();
     EXPECT_EQ(plotAt(0).Legend().Text().toStdString(), "");

@@ -12,7 +12,7 @@ using ::testing::IsEmpty;
 TEST_F(WndEvolExplorerTest, removesTheSelectedEvolutionAndItsSeriesFromEveryPlot)
 {
     EVM& a = load("a.evm", {1, 2});
-    EVM& b = fill("b.evm");
+    EVM& b = load("b.evm");
     plots.AddSerie(*a.Modes[1]);
     plots.AddSerie(*b.Modes[0]);
     plots.ActivatePlot(&plots.AddPlot(QString()));
@@ -20,8 +20,8 @@ TEST_F(WndEvolExplorerTest, removesTheSelectedEvolutionAndItsSeriesFromEveryPlot
     plotAt(0).rows().add(Series()); // a series without a mode stays
     select(evolutionNode(a));
     choose("Remove");
-    ASSERT_EQ(session.evolutions.size(), 1U);
-    EXPECT_EQ(session.evolutions[0].get(), &b);
+    ASSERT_EQ(document.evolutions().all().size(), 1U);
+    EXPECT_EQ(document.evolutions().all()[0].get(), &b);
     EXPECT_THAT(childTexts(node("Evols")), ElementsAre("b.evm"));
     ASSERT_EQ(plotAt(0).SeriesCollection().size(), 2U);
     EXPECT_EQ(plotAt(0).SeriesCollection()[0].Mode, b.Modes[0].get());
@@ -38,7 +38,7 @@ TEST_F(WndEvolExplorerTest, endsTheNoteOfTheCommandBefore)
 
 TEST_F(WndEvolExplorerTest, removesTheRowsWithoutACurveWithTheirEvolutionFromEveryPlot)
 {
-    EVM& a = fill("a.evm");
+    EVM& a = load("a.evm");
     plots.AddSerie(*a.Modes[0]);
     plotAt(0).rows().setMode(plotAt(0).rows().at(0).id, 9);
     plots.ActivatePlot(&plots.AddPlot(QString()));
@@ -52,7 +52,7 @@ TEST_F(WndEvolExplorerTest, removesTheRowsWithoutACurveWithTheirEvolutionFromEve
 
 TEST_F(WndEvolExplorerTest, drawsThePlotsAgainThatLostSeries)
 {
-    EVM& a = fill("a.evm");
+    EVM& a = load("a.evm");
     plots.AddSerie(*a.Modes[0]);
     plotAt(0).plot();
     const QImage withCurve = plotAt(0).Image();
@@ -64,43 +64,43 @@ TEST_F(WndEvolExplorerTest, drawsThePlotsAgainThatLostSeries)
 
 TEST_F(WndEvolExplorerTest, removesAnEvolutionAlsoWhenAPlotCannotBeDrawn)
 {
-    EVM& a = fill("a.evm");
+    EVM& a = load("a.evm");
     plots.AddSerie(*a.Modes[0]);
     plots.AddSerie(*load("long.evm").Modes[0]);
-    session.evolutions[1]->Modes[0]->Points.resize(32768); // more than a canvas draws
+    document.evolutions().all()[1]->Modes[0]->Points.resize(32768); // more than a canvas draws
     select(evolutionNode(a));
     choose("Remove");
     ASSERT_EQ(user.messages.size(), 1U);
     EXPECT_TRUE(user.messages[0].text.starts_with("Error # 6 ")) << user.messages[0].text;
-    EXPECT_EQ(session.evolutions.size(), 1U);
-    EXPECT_EQ(node("Evols").childCount(), 0);
+    EXPECT_EQ(document.evolutions().all().size(), 1U);
+    EXPECT_THAT(childTexts(node("Evols")), ElementsAre("long.evm"));
 }
 
 TEST_F(WndEvolExplorerTest, removesTheReferenceEvolutionAsSuch)
 {
-    EVM& a = fill("a.evm");
+    EVM& a = load("a.evm");
     select(evolutionNode(a));
     explorer.SetAsRef();
     choose("Remove");
-    EXPECT_EQ(explorer.referenceEvolution(), nullptr);
-    EXPECT_FALSE(isBold(evolutionNode(fill("a.evm")))) << "it has come again as any other";
+    EXPECT_EQ(document.evolutions().reference(), nullptr);
+    EXPECT_FALSE(isBold(evolutionNode(load("a.evm")))) << "it has come again as any other";
 }
 
 TEST_F(WndEvolExplorerTest, removesNothingWhenNoEvolutionIsSelected)
 {
-    fill("a.evm");
+    load("a.evm");
     select(node("Evols"));
     choose("Remove");
-    EXPECT_EQ(session.evolutions.size(), 1U);
+    EXPECT_EQ(document.evolutions().all().size(), 1U);
     EXPECT_THAT(user.messages, ElementsAre(test::noEvolution));
 }
 
 TEST_F(WndEvolExplorerTest, listsAnEvolutionAgainThatIsLoadedAgain)
 {
-    EVM& a = fill("a.evm");
+    EVM& a = load("a.evm");
     select(evolutionNode(a));
     choose("Remove");
-    fill("a.evm");
+    load("a.evm");
     EXPECT_THAT(childTexts(node("Evols")), ElementsAre("a.evm"));
 }
 
@@ -108,7 +108,7 @@ TEST_F(WndEvolExplorerTest, drawsTheFirstModeOfEachTickedEvolution)
 {
     EVM& a = load("a.evm", {7, 8});
     EVM& b = load("b.evm");
-    EVM& c = fill("c.evm", {2});
+    EVM& c = load("c.evm", {2});
     tick(evolutionNode(c));
     tick(evolutionNode(a));
     select(evolutionNode(b));
@@ -123,7 +123,7 @@ TEST_F(WndEvolExplorerTest, drawsTheFirstModeOfEachTickedEvolution)
 TEST_F(WndEvolExplorerTest, drawsTheSelectedEvolutionWhenNoneIsTicked)
 {
     load("a.evm");
-    EVM& b = fill("b.evm");
+    EVM& b = load("b.evm");
     choose("Select");
     EXPECT_THAT(curves(plotAt(0)), IsEmpty());
     select(evolutionNode(b));
@@ -134,7 +134,7 @@ TEST_F(WndEvolExplorerTest, drawsTheSelectedEvolutionWhenNoneIsTicked)
 TEST_F(WndEvolExplorerTest, addsNoCurveWhenATickedEvolutionHasNoModes)
 {
     EVM& a = load("a.evm");
-    EVM& none = fill("none.evm", {});
+    EVM& none = load("none.evm", {});
     tick(evolutionNode(a));
     tick(evolutionNode(none));
     choose("Select");
@@ -148,7 +148,7 @@ TEST_F(WndEvolExplorerTest, addsNoCurveWhenATickedEvolutionHasNoModes)
 TEST_F(WndEvolExplorerTest, asksOnceForAPlotWhenNoneIsActive)
 {
     EVM& a = load("a.evm");
-    EVM& b = fill("b.evm");
+    EVM& b = load("b.evm");
     tick(evolutionNode(a));
     tick(evolutionNode(b));
     plots.ActivatePlot(nullptr);

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "analysis/ModeBuilder.h"
+#include "document/Document.h"
 #include "explorer/ExplorerNode.h"
 #include "explorer/WndEvolExplorer.h"
-#include "model/Session.h"
 #include "plotwindow/EvmPlotView.h"
 #include "plotwindow/WndEvolPlot.h"
 #include "support/FormParts.h"
@@ -29,21 +29,23 @@ using Texts = std::vector<std::string>;
 const ScriptedUserInterface::Message noEvolution {"Please select a modal evolution.", "Tarsil",
                                                   MessageIcon::Exclamation};
 
-/// The explorer over a session and a plot window, whose first plot is active.
+/// The explorer over a document and a plot window, whose first plot is active.
 class WndEvolExplorerTest : public ::testing::Test
 {
 protected:
-    WndEvolExplorerTest() : plots(user), explorer(session, plots, user)
+    WndEvolExplorerTest() : plots(document.plots(), user), explorer(document, plots, user)
     {
         plots.resize(400, 300);
         plots.ActivatePlot(plots.plots().front());
     }
 
     /// Appends an evolution with modes of these numbers, each of two points.
-    EVM& load(const std::string& name, const std::vector<std::int16_t>& modes = {1})
+    EVM& load(const std::string& name, const std::vector<std::int16_t>& modes = {1},
+              const std::string& folder = "/runs")
     {
-        EVM& evolution = *session.evolutions.emplace_back(std::make_unique<EVM>());
-        evolution.Folder = "/runs";
+        OwnedEvolutions loaded;
+        EVM& evolution = *loaded.emplace_back(std::make_unique<EVM>());
+        evolution.Folder = folder;
         evolution.FileName = name;
         evolution.Param.Airplane = "WING";
         evolution.Param.Mass = "CLEAN";
@@ -51,13 +53,7 @@ protected:
         evolution.Param.AnalysisType = "PK";
         for (const std::int16_t mode : modes)
             addMode(evolution, mode, {{100, -0.02F, 5}, {200, 0.01F, 6}});
-        return evolution;
-    }
-
-    EVM& fill(const std::string& name, const std::vector<std::int16_t>& modes = {1})
-    {
-        EVM& evolution = load(name, modes);
-        explorer.FillEvolsNode();
+        document.evolutions().add(std::move(loaded));
         return evolution;
     }
 
@@ -151,7 +147,7 @@ protected:
     EvmPlot& plotAt(std::size_t place) { return *plots.plots().at(place); }
 
     ScriptedUserInterface user;
-    Session session;
+    Document document;
     wndEvolPlot plots;
     wndEvolExplorer explorer;
 };

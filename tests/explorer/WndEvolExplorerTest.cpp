@@ -1,6 +1,6 @@
 // The form of the explorer and the nodes that are always there.
 
-#include "explorer/DateText.h"
+#include "document/DateText.h"
 #include "explorer/ExplorerImages.h"
 #include "explorer/WndEvolExplorerFixture.h"
 
@@ -74,9 +74,9 @@ TEST_F(WndEvolExplorerTest, beginsWithTheTreeOfAnUntitledWorkspace)
 TEST_F(WndEvolExplorerTest, isCreatedNow)
 {
     const QString before = dateText(QDateTime::currentDateTime());
-    explorer.startNew();
+    document.startNew();
     const QString after = dateText(QDateTime::currentDateTime());
-    const QString created = explorer.dateCreated();
+    const QString created = document.texts().dateCreated;
     // The second may change once in between; then it is one of the two.
     EXPECT_TRUE(created == before || created == after) << created.toStdString();
     EXPECT_EQ(text(valueOf("Date_Created")), created.toStdString());
@@ -84,18 +84,12 @@ TEST_F(WndEvolExplorerTest, isCreatedNow)
 
 TEST_F(WndEvolExplorerTest, showsTheTextsOfAWorkspace)
 {
-    explorer.setWorkspaceName(QStringLiteral("wing"));
-    explorer.setDescription(QStringLiteral("clean wing"));
-    explorer.setDateCreated(QStringLiteral("a"));
-    explorer.setDateModified(QStringLiteral("b"));
+    document.setTexts({QStringLiteral("wing"), QStringLiteral("clean wing"), QStringLiteral("a"),
+                       QStringLiteral("b")});
     EXPECT_EQ(text(node("Root")), "wing");
     EXPECT_EQ(text(valueOf("AnaDesc")), "clean wing");
     EXPECT_EQ(text(valueOf("Date_Created")), "a");
     EXPECT_EQ(text(valueOf("Date_Modified")), "b");
-    EXPECT_EQ(explorer.workspaceName().toStdString(), "wing");
-    EXPECT_EQ(explorer.description().toStdString(), "clean wing");
-    EXPECT_EQ(explorer.dateCreated().toStdString(), "a");
-    EXPECT_EQ(explorer.dateModified().toStdString(), "b");
 }
 
 TEST_F(WndEvolExplorerTest, opensTheFolderInItsImage)
@@ -150,7 +144,7 @@ TEST_F(WndEvolExplorerTest, asksForItsMenuWhereTheRightButtonWas)
 
 TEST_F(WndEvolExplorerTest, startsAnewWithTheTreeOfTheBeginning)
 {
-    EVM& evolution = fill("a.evm");
+    EVM& evolution = load("a.evm");
     select(evolutionNode(evolution));
     explorer.SetAsRef();
     plots.AddSerie(*evolution.Modes[0]);
@@ -159,17 +153,16 @@ TEST_F(WndEvolExplorerTest, startsAnewWithTheTreeOfTheBeginning)
     plots.AddSerie(*evolution.Modes[0]);
     plotAt(0).setCaption(QStringLiteral("mine"));
     plotAt(0).setVthicks(3);
-    explorer.setDescription(QStringLiteral("old"));
-    explorer.setWorkspaceName(QStringLiteral("old"));
-    explorer.setDateModified(QStringLiteral("old"));
+    const QString old = QStringLiteral("old");
+    document.setTexts({old, old, old, old});
     node("Evols").setExpanded(true);
 
-    explorer.startNew();
-    EXPECT_TRUE(session.evolutions.empty());
-    EXPECT_EQ(explorer.referenceEvolution(), nullptr);
+    document.startNew();
+    EXPECT_TRUE(document.evolutions().all().empty());
+    EXPECT_EQ(document.evolutions().reference(), nullptr);
     EXPECT_EQ(text(node("Root")), "Untitled (Untitled.tsw)");
-    EXPECT_EQ(explorer.description().toStdString(), "   ");
-    EXPECT_EQ(explorer.dateModified().toStdString(), "");
+    EXPECT_EQ(text(valueOf("AnaDesc")), "   ");
+    EXPECT_EQ(text(valueOf("Date_Modified")), "");
     EXPECT_EQ(node("Evols").childCount(), 0);
     EXPECT_EQ(image(node("Evols")), "folderClosed");
     EXPECT_THAT(childTexts(node("Plots")), ElementsAre("Plot1"));
@@ -183,7 +176,7 @@ TEST_F(WndEvolExplorerTest, startsAnewWithTheTreeOfTheBeginning)
 TEST_F(WndEvolExplorerTest, startsNewWithTheAxesThatNewPlotsHave)
 {
     const PlotAxes axes {{"V", 0, 100, 4}, {"f", 0, 10, 2}, {"g", 0, -1, 3}};
-    plots.setNewPlotAxes(axes);
-    explorer.startNew();
+    document.plots().setNewPlotAxes(axes);
+    document.startNew();
     EXPECT_EQ(plotAt(0).axes(), axes);
 }

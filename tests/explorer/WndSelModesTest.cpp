@@ -24,7 +24,7 @@ protected:
     /// Opens the dialog on an evolution of modes 3, 5 and 9.
     EVM& open()
     {
-        EVM& evolution = fill("a.evm", {3, 5, 9});
+        EVM& evolution = load("a.evm", {3, 5, 9});
         select(evolutionNode(evolution));
         dialog.show();
         return evolution;
@@ -83,7 +83,7 @@ TEST_F(WndSelModes, numbersTheModesAndTellsWhichTheyAre)
 
 TEST_F(WndSelModes, isEmptyWhenTheSelectedNodeIsNoEvolution)
 {
-    EVM& evolution = fill("a.evm");
+    EVM& evolution = load("a.evm");
     for (QTreeWidgetItem* item :
          {&node("Root"), &node("Evols"), &node("Plot1"), &node(evolution.path() + "_mach")}) {
         select(*item);
@@ -135,7 +135,7 @@ TEST_F(WndSelModes, takesTheModesOfTheEvolutionThatIsSelectedNow)
 {
     open();
     add({1, 3});
-    EVM& other = fill("b.evm", {4});
+    EVM& other = load("b.evm", {4});
     select(evolutionNode(other));
     test::click(dialog, "cmd_Ok");
     EXPECT_THAT(curves(plotAt(0)), IsEmpty()) << "no part of a choice that cannot be met";
@@ -166,7 +166,7 @@ TEST_F(WndSelModes, addsAModeThatCannotBeDrawn)
     plots.show();
     open();
     add({1});
-    session.evolutions[0]->Modes[0]->Points.resize(32768); // more than a canvas draws
+    document.evolutions().all()[0]->Modes[0]->Points.resize(32768); // more than a canvas draws
     test::click(dialog, "cmd_Ok");
     EXPECT_FALSE(dialog.isVisible());
     EXPECT_EQ(curves(plotAt(0)).size(), 1U);

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "aircraft/AirplaneInfo.h"
+#include "document/Document.h"
 #include "options/DlgOptions.h"
-#include "plotwindow/WndEvolPlot.h"
 #include "support/FormParts.h"
 #include "support/ScriptedUserInterface.h"
 #include "support/TestFiles.h"
+#include "vgfplot/EvmPlot.h"
 
 #include <gtest/gtest.h>
 
@@ -15,14 +15,14 @@
 
 namespace tarsil::test {
 
-/// The dialog over a plot window without an active plot, as at the start, and a store of its own.
+/// The dialog over a document without an active plot, as at the start, and a store of its own.
 class DlgOptionsTest : public ::testing::Test
 {
 protected:
-    DlgOptionsTest() : plots(user), store(folder.file("tarsil.ini"))
+    DlgOptionsTest() : store(folder.file("tarsil.ini"))
     {
-        dialog = std::make_unique<dlgOptions>(airplane, plots, user, store);
-        QObject::connect(dialog.get(), &dlgOptions::flutterMechanismsChanged, dialog.get(),
+        dialog = std::make_unique<dlgOptions>(document, user, store);
+        QObject::connect(&document, &Document::airplaneChanged, dialog.get(),
                          [this] { ++mechanismsChanged; });
     }
 
@@ -42,8 +42,9 @@ protected:
 
     void clickButton(const char* name) const { click(*dialog, name); }
 
-    EvmPlot& plot() { return *plots.plots().front(); }
-    void activate() { plots.ActivatePlot(&plot()); }
+    PlotList& plots() { return document.plots(); }
+    EvmPlot& plot() { return plots().first(); }
+    void activate() { plots().activate(&plot()); }
 
     /// Tick counts of speed, damping and frequency axis.
     static std::vector<int> thicksOf(const EvmPlot& plot)
@@ -54,15 +55,14 @@ protected:
     std::vector<std::string> mechanisms() const
     {
         std::vector<std::string> names;
-        for (const FlutterMechanism& one : airplane.FlutterMechs)
+        for (const FlutterMechanism& one : document.airplane().FlutterMechs)
             names.push_back(one.ShortName);
         return names;
     }
 
     TemporaryFolder folder;
     ScriptedUserInterface user;
-    AirplaneInfo airplane;
-    wndEvolPlot plots;
+    Document document;
     OptionsStore store;
     std::unique_ptr<dlgOptions> dialog;
     int mechanismsChanged = 0;

@@ -93,6 +93,6 @@ TEST_F(DlgOptionsTest, isCancelledByEscapeByClosingAndOnTheButton)
     }
     EXPECT_EQ(plot().axes().bounds(), PlotAxes().bounds());
     EXPECT_EQ(plot().vthicks(), PlotAxes().speed.ticks);
-    EXPECT_EQ(airplane.Filename, "");
+    EXPECT_EQ(document.airplane().Filename, "");
     EXPECT_EQ(mechanismsChanged, 0);
 }

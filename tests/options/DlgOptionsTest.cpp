@@ -31,7 +31,7 @@ TEST_F(DlgOptionsTest, leaveThePlotAndTheAircraftAloneWhenNothingIsKept)
     EXPECT_EQ(test::textIn(*dialog, "txtAcInfo"), "");
     EXPECT_EQ(plot().axes().bounds(), PlotAxes().bounds());
     EXPECT_THAT(thicksOf(plot()), ElementsAre(7, 5, 5));
-    EXPECT_EQ(airplane.Filename, "");
+    EXPECT_EQ(document.airplane().Filename, "");
     EXPECT_EQ(mechanismsChanged, 0);
     EXPECT_THAT(user.messages, IsEmpty());
 }
@@ -51,7 +51,7 @@ TEST_F(DlgOptionsTest, applyWhatIsKeptToTheFirstPlotWhileNoneIsActive)
     EXPECT_EQ(axes.frequency.min, 1.0F);
     EXPECT_EQ(axes.frequency.max, 30.0F);
     EXPECT_THAT(thicksOf(plot()), ElementsAre(4, 3, 2));
-    EXPECT_EQ(airplane.Filename, sample("goland.inp"));
+    EXPECT_EQ(document.airplane().Filename, sample("goland.inp"));
     EXPECT_THAT(mechanisms(), ElementsAre("BEND-TORS", "STORE", "ALL"));
     EXPECT_EQ(mechanismsChanged, 1);
     EXPECT_THAT(user.messages, IsEmpty());
@@ -59,8 +59,8 @@ TEST_F(DlgOptionsTest, applyWhatIsKeptToTheFirstPlotWhileNoneIsActive)
 
 TEST_F(DlgOptionsTest, applyToTheActivePlotAlone)
 {
-    EvmPlot& second = plots.AddPlot(QString());
-    plots.ActivatePlot(&second);
+    EvmPlot& second = plots().add(QString());
+    plots().activate(&second);
     typeAll("", "0|100|0|-1|0|10", "4|3|2");
     clickButton("btnApply");
     EXPECT_EQ(second.axes().speed.max, 100.0F);
@@ -103,7 +103,7 @@ TEST_F(DlgOptionsTest, leaveAScaleThatWasSetOtherwiseWhenTheListIsIgnored)
     typeAll("", "0|100|0|-1|0", "");
     EXPECT_TRUE(dialog->ApplyOpt());
     EXPECT_EQ(plot().axes().speed.max, 321.0F);
-    EXPECT_EQ(plots.AddPlot(QString()).axes().speed.max, 100.0F); // the numbers before stay
+    EXPECT_EQ(plots().add(QString()).axes().speed.max, 100.0F); // the numbers before stay
 }
 
 TEST_F(DlgOptionsTest, sayInTheInputWhatIsNeeded)
@@ -138,8 +138,8 @@ TEST_F(DlgOptionsTest, changeNothingByAListWithSomethingThatIsNoNumberAndHide)
     EXPECT_EQ(plot().axes().bounds(), PlotAxes().bounds());
     EXPECT_THAT(thicksOf(plot()), ElementsAre(7, 5, 5));
     EXPECT_THAT(dialog->entries(), ::testing::Each(0.0F));
-    EXPECT_EQ(airplane.Filename, "");
-    EXPECT_EQ(plots.newPlotAxes(), PlotAxes());
+    EXPECT_EQ(document.airplane().Filename, "");
+    EXPECT_EQ(plots().newPlotAxes(), PlotAxes());
 }
 
 TEST_F(DlgOptionsTest, changeNothingByATickCountBeyondItsRange)
@@ -152,7 +152,7 @@ TEST_F(DlgOptionsTest, changeNothingByATickCountBeyondItsRange)
                                      "Error", MessageIcon::Critical}}));
     EXPECT_EQ(plot().axes().bounds(), PlotAxes().bounds());
     EXPECT_THAT(dialog->entries(), ::testing::Each(0.0F));
-    EXPECT_EQ(airplane.Filename, "");
+    EXPECT_EQ(document.airplane().Filename, "");
 }
 
 TEST_F(DlgOptionsTest, reportAxesThatCannotBeDrawnAndHide)
@@ -183,7 +183,7 @@ TEST_F(DlgOptionsTest, leaveThePreviousMechanismsWhenTheAircraftFileIsMissing)
     clickButton("btnApply");
     typeAll(folder.file("gone.inp"), "", "");
     clickButton("btnApply");
-    EXPECT_EQ(airplane.Filename, folder.file("gone.inp"));
+    EXPECT_EQ(document.airplane().Filename, folder.file("gone.inp"));
     EXPECT_THAT(mechanisms(), ElementsAre("BEND-TORS", "STORE", "ALL"));
     EXPECT_EQ(mechanismsChanged, 2);
     EXPECT_THAT(user.messages, IsEmpty());
@@ -229,7 +229,7 @@ TEST_F(DlgOptionsTest, askForTheAircraftFile)
     EXPECT_EQ(test::textIn(*dialog, "txtAcInfo"), "/home/me/wing.inp");
     clickButton("btnAcInfo"); // cancelled
     EXPECT_EQ(test::textIn(*dialog, "txtAcInfo"), "/home/me/wing.inp");
-    EXPECT_EQ(airplane.Filename, "");
+    EXPECT_EQ(document.airplane().Filename, "");
 }
 
 TEST_F(DlgOptionsTest, keepListsThatWereTypedButNoAircraftFileThatWasNotApplied)
@@ -287,12 +287,12 @@ TEST_F(DlgOptionsTest, areTheAxesOfPlotsMadeLater)
 {
     typeAll("", "0|100|0|-1|0|10", "4|3|2");
     clickButton("btnApply");
-    EvmPlot& later = plots.AddPlot(QString());
+    EvmPlot& later = plots().add(QString());
     EXPECT_EQ(later.axes().bounds(), plot().axes().bounds());
     EXPECT_THAT(thicksOf(later), ElementsAre(4, 3, 2));
     typeAll("", "", "");
     clickButton("btnApply");
-    EvmPlot& usual = plots.AddPlot(QString());
+    EvmPlot& usual = plots().add(QString());
     EXPECT_EQ(usual.axes().bounds(), PlotAxes().bounds());
     EXPECT_THAT(thicksOf(usual), ElementsAre(7, 5, 5));
     EXPECT_EQ(plot().axes().speed.max, 100.0F); // an empty list leaves a plot as it is

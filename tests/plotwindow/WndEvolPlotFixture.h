@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/PlotList.h"
 #include "model/EVM.h"
 #include "plotwindow/EvmPlotView.h"
 #include "plotwindow/WndEvolPlot.h"
@@ -11,11 +12,11 @@
 
 namespace tarsil::test {
 
-/// A window with a listener that writes down what the window announces.
+/// A window over a list of plots, with a listener that writes down what is announced.
 class WndEvolPlotTest : public ::testing::Test
 {
 protected:
-    WndEvolPlotTest() : window(user) { window.resize(800, 600); }
+    WndEvolPlotTest() : window(list, user) { window.resize(800, 600); }
 
     void show()
     {
@@ -48,28 +49,26 @@ protected:
         return result;
     }
 
-    /// What the window announces from now on, with the captions of the plots.
+    /// What the list and the window announce from now on, with the captions of the plots.
     void listen()
     {
         const auto name = [](const EvmPlot* plot) {
             return plot != nullptr ? plot->Caption().toStdString() : "none";
         };
-        QObject::connect(&window, &wndEvolPlot::activePlotChanged, &window,
+        QObject::connect(&list, &PlotList::activeChanged, &window,
                          [this, name](const EvmPlot* before, const EvmPlot* now) {
                              EXPECT_EQ(window.ActivePlot(), now);
                              announced.push_back("active " + name(before) + " " + name(now));
                          });
-        QObject::connect(&window, &wndEvolPlot::plotAdded, &window,
-                         [this, name](const EvmPlot* plot) {
-                             EXPECT_EQ(window.plots().back(), plot);
-                             announced.push_back("added " + name(plot));
-                         });
-        QObject::connect(&window, &wndEvolPlot::plotAboutToBeRemoved, &window,
-                         [this, name](EvmPlot* plot) {
-                             EXPECT_NE(window.viewOf(*plot), nullptr); // still there
-                             EXPECT_NE(window.ActivePlot(), plot);
-                             announced.push_back("removed " + name(plot));
-                         });
+        QObject::connect(&list, &PlotList::added, &window, [this, name](const EvmPlot* plot) {
+            EXPECT_EQ(window.plots().back(), plot);
+            announced.push_back("added " + name(plot));
+        });
+        QObject::connect(&list, &PlotList::aboutToBeRemoved, &window, [this, name](EvmPlot* plot) {
+            EXPECT_EQ(window.viewOf(*plot), nullptr);
+            EXPECT_NE(window.ActivePlot(), plot);
+            announced.push_back("removed " + name(plot));
+        });
         QObject::connect(&window, &wndEvolPlot::plotMenuRequested, &window, [this](QPoint place) {
             announced.push_back("menu " + std::to_string(place.x()) + ","
                                 + std::to_string(place.y()));
@@ -78,6 +77,7 @@ protected:
 
     ScriptedUserInterface user;
     EVM evolution;
+    PlotList list;
     wndEvolPlot window;
     std::vector<std::string> announced;
 };

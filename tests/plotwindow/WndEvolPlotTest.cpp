@@ -247,7 +247,7 @@ TEST_F(WndEvolPlotTest, keepsTheActivePlotWhenAnotherIsRemoved)
 TEST_F(WndEvolPlotTest, survivesAPlotThatIsAddedWhileOneIsRemoved)
 {
     EvmPlot* const second = add();
-    QObject::connect(&window, &wndEvolPlot::plotAboutToBeRemoved, &window, [this] {
+    QObject::connect(&list, &PlotList::aboutToBeRemoved, &window, [this] {
         for (int i = 0; i < 20; ++i)
             add();
     });
@@ -297,7 +297,7 @@ TEST_F(WndEvolPlotTest, givesNewSeriesTheMarkersThatAreSet)
     activateFirst();
     AeMode& mode = evolution.appendMode();
     window.AddSerie(mode);
-    window.setNewSeriesMarkers({9, 4, MarkerKind::Tag, 2});
+    list.setNewSeriesMarkers({9, 4, MarkerKind::Tag, 2});
     window.AddSerie(mode);
     const SeriesList& series = plotAt(0)->SeriesCollection();
     EXPECT_EQ(series[0].MarkerSpacing, 0);
@@ -321,9 +321,9 @@ TEST_F(WndEvolPlotTest, givesThePlotsThatItAddsTheAxesThatAreSet)
 {
     activateFirst();
     const PlotAxes axes {{"V", 0, 100, 4}, {"f", 0, 10, 2}, {"g", 0, -1, 3}};
-    window.setNewPlotAxes(axes);
+    list.setNewPlotAxes(axes);
     EXPECT_EQ(add()->axes(), axes);
-    window.setNewPlotAxes({});
+    list.setNewPlotAxes({});
     EXPECT_EQ(add()->axes(), PlotAxes());
     EXPECT_EQ(plotAt(1)->axes(), axes);
     EXPECT_EQ(plotAt(0)->axes(), PlotAxes());
@@ -334,7 +334,7 @@ TEST_F(WndEvolPlotTest, givesACopyTheAxesOfItsSource)
     activateFirst();
     plotAt(0)->SetScale(0, 321, 0, 20, 0, -2);
     plotAt(0)->setVthicks(9);
-    window.setNewPlotAxes({{"V", 0, 100, 4}, {"f", 0, 10, 2}, {"g", 0, -1, 3}});
+    list.setNewPlotAxes({{"V", 0, 100, 4}, {"f", 0, 10, 2}, {"g", 0, -1, 3}});
     const EvmPlot& copy = *window.CopyPlot(QString());
     EXPECT_EQ(copy.vthicks(), 9);
     EXPECT_EQ(copy.axes(), plotAt(0)->axes());

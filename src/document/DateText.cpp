@@ -1,4 +1,4 @@
-#include "explorer/DateText.h"
+#include "document/DateText.h"
 
 #include <QDateTime>
 #include <QLocale>

@@ -1,0 +1,184 @@
+// The document as a workspace file: opening, saving, and what has changed since.
+
+#include "base/files/AtomicFile.h"
+#include "base/files/PathNames.h"
+#include "base/user/RunTimeError.h"
+#include "document/DateText.h"
+#include "document/Document.h"
+#include "document/WorkspaceSource.h"
+#include "formats/EvolutionLoader.h"
+#include "vgfplot/EvmPlot.h"
+#include "vgfplot/EvolutionRecords.h"
+#include "vgfplot/PlotRecords.h"
+
+#include <QDateTime>
+
+#include <algorithm>
+#include <cstdint>
+#include <functional>
+#include <utility>
+
+namespace tarsil {
+
+namespace {
+
+QString workspaceNameOf(const std::string& path)
+{
+    QString name = QString::fromStdString(resolvePath(path).name);
+    return name.remove(QStringLiteral(".tsw"));
+}
+
+/// Runs an action; keeps its exception unless there is one already.
+void keepFirstFailure(std::exception_ptr& failure, const std::function<void()>& action)
+{
+    try {
+        action();
+    } catch (...) {
+        if (failure == nullptr)
+            failure = std::current_exception();
+    }
+}
+
+/// A count without its list is nothing.
+bool holdsNothing(const WorkspaceRecord& record)
+{
+    return record.plots.empty()
+        && std::all_of(record.files.begin(), record.files.end(),
+                       [](const std::string& file) { return file.empty(); });
+}
+
+} // namespace
+
+/// What is being typed into a text box belongs to its plot.
+void Document::commitEdits()
+{
+    for (EvmPlot* const plot : m_plots.all())
+        plot->commitEdits();
+}
+
+WorkspaceRecord Document::record() const
+{
+    WorkspaceRecord record;
+    record.description = m_texts.description.toStdString();
+    record.dateCreated = m_texts.dateCreated.toStdString();
+    record.dateModified = m_texts.dateModified.toStdString();
+    std::vector<const EVM*> evolutions;
+    for (const auto& evolution : m_evolutions.all()) {
+        evolutions.push_back(evolution.get());
+        record.files.push_back(evolution->path());
+        if (evolution.get() == m_evolutions.reference())
+            record.reference = static_cast<std::int16_t>(record.files.size());
+    }
+    record.edited = editedRecordsOf(evolutions);
+    for (const EvmPlot* const plot : m_plots.all())
+        record.plots.push_back(recordOf(*plot, evolutions));
+    return record;
+}
+
+/// What the user has made: a box that nobody moved is where the size of the window puts it, which
+/// is no change.
+WorkspaceRecord Document::state() const
+{
+    WorkspaceRecord state = record();
+    const std::vector<EvmPlot*> plots = m_plots.all();
+    for (std::size_t i = 0; i < plots.size(); ++i) {
+        state.plots[i].header.position.reset();
+        if (!plots[i]->Legend().wasMoved())
+            state.plots[i].legend.position.reset();
+        if (!plots[i]->Mechanism().wasMoved())
+            state.plots[i].mechanism.position.reset();
+    }
+    return state;
+}
+
+bool Document::isChanged()
+{
+    commitEdits();
+    return state() != m_saved;
+}
+
+void Document::markSaved()
+{
+    m_saved = state();
+}
+
+OpenedWorkspace Document::open(const std::string& path, UserInterface& user)
+{
+    WorkspaceSource source = readWorkspaceSource(path);
+    OpenedWorkspace opened;
+    if (source.reading.error)
+        opened.failure = std::make_exception_ptr(*source.reading.error);
+    if (opened.failure != nullptr && holdsNothing(source.reading.record))
+        std::rethrow_exception(opened.failure);
+    opened.namesakes = std::move(source.namesakes);
+    opened.cutValues = std::move(source.reading.cutValues);
+    const WorkspaceRecord& record = source.reading.record;
+    startNew();
+    setTexts({workspaceNameOf(path), QString::fromStdString(record.description),
+              QString::fromStdString(record.dateCreated),
+              QString::fromStdString(record.dateModified)});
+    m_path = shownPath(path);
+    const std::vector<EVM*> evolutions = loadListed(source, user);
+    opened.failure = applyPlots(record.plots, evolutions, opened.failure);
+    m_plots.activate(&m_plots.first());
+    m_isPartial = opened.failure != nullptr || !opened.cutValues.empty()
+        || !opened.namesakes.empty()
+        || std::find(evolutions.begin(), evolutions.end(), nullptr) != evolutions.end();
+    markSaved();
+    return opened;
+}
+
+/// The evolutions in the order of the list as it was saved, null for each that is not there.
+std::vector<EVM*> Document::loadListed(const WorkspaceSource& source, UserInterface& user)
+{
+    const WorkspaceRecord& record = source.reading.record;
+    LoadedEvolutions loaded = mdlMain::loadListedEvolutions(m_evolutions.all(), source.files, user);
+    applyEdited(record.edited, loaded.listed);
+    m_evolutions.add(std::move(loaded.added));
+    if (record.reference > 0)
+        m_evolutions.setReference(loaded.listed.at(static_cast<std::size_t>(record.reference - 1)));
+    return std::move(loaded.listed);
+}
+
+/// Makes the plots and draws them, all that is possible. Returns the first failure, which may be
+/// the one before.
+std::exception_ptr Document::applyPlots(const std::vector<PlotRecord>& records,
+                                        const std::vector<EVM*>& evolutions,
+                                        std::exception_ptr failure)
+{
+    for (std::size_t i = 0; i < records.size(); ++i) {
+        EvmPlot& plot = plotFor(i, QString::fromStdString(records[i].caption));
+        keepFirstFailure(failure, [&] { applyRecord(records[i], evolutions, plot); });
+        keepFirstFailure(failure, [&plot] { plot.plot(); });
+    }
+    return failure;
+}
+
+/// The first plot, which is always there, becomes the first of the file; the others are new.
+EvmPlot& Document::plotFor(std::size_t index, const QString& caption)
+{
+    if (index > 0)
+        return m_plots.add(caption);
+    m_plots.first().setCaption(caption);
+    return m_plots.first();
+}
+
+WrittenWorkspace Document::save(const std::string& path, const std::string& userName)
+{
+    commitEdits();
+    Q_EMIT aboutToBeSaved();
+    WorkspaceTexts texts = m_texts;
+    texts.name = workspaceNameOf(path);
+    texts.dateModified = dateText(QDateTime::currentDateTime());
+    WorkspaceRecord saved = record();
+    saved.dateModified = texts.dateModified.toStdString();
+    WrittenWorkspace written = writeWorkspace(saved, userName);
+    writeFile(path, written.bytes);
+    setTexts(texts);
+    m_path = shownPath(path);
+    m_isPartial = false;
+    markSaved();
+    return written;
+}
+
+} // namespace tarsil

@@ -1,0 +1,179 @@
+#include "document/PlotList.h"
+
+#include "base/user/RunTimeError.h"
+#include "vgfplot/EvmPlot.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <iterator>
+#include <limits>
+#include <string>
+#include <utility>
+
+namespace tarsil {
+
+namespace {
+
+constexpr const char* module = "wndEvolPlot"; // whose array the plots are
+
+/// An index counted from 1, as captions show it.
+QString numberText(int index)
+{
+    return QString::number(index + 1);
+}
+
+} // namespace
+
+PlotList::PlotList()
+{
+    m_plots.push_back(makeElement(0));
+}
+
+PlotList::~PlotList() = default;
+
+std::vector<EvmPlot*> PlotList::all() const
+{
+    std::vector<EvmPlot*> plots;
+    plots.reserve(m_plots.size());
+    for (const Element& element : m_plots)
+        plots.push_back(element.plot.get());
+    return plots;
+}
+
+EvmPlot& PlotList::first() const
+{
+    return *m_plots.front().plot;
+}
+
+bool PlotList::contains(const EvmPlot* plot) const
+{
+    return std::any_of(m_plots.begin(), m_plots.end(),
+                       [plot](const Element& element) { return element.plot.get() == plot; });
+}
+
+void PlotList::activate(EvmPlot* plot)
+{
+    if (plot != nullptr && !contains(plot))
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall, module,
+                           "the plot \"" + plot->Caption().toStdString()
+                               + "\" is not in this list");
+    if (plot == m_active)
+        return;
+    EvmPlot* const before = std::exchange(m_active, plot);
+    if (before != nullptr)
+        before->setVisible(false);
+    if (plot != nullptr)
+        plot->setVisible(true);
+    Q_EMIT activeChanged(before, plot);
+}
+
+EvmPlot& PlotList::add(const QString& caption)
+{
+    Element element = makeElement(nextIndex());
+    element.plot->setAxes(m_newPlotAxes);
+    const QString standard = QStringLiteral("Plot") + numberText(element.index);
+    return append(std::move(element), caption.isEmpty() ? standard : caption);
+}
+
+EvmPlot& PlotList::copyActive(const QString& caption)
+{
+    if (m_active == nullptr)
+        throw RunTimeError(ErrorNumber::ObjectVariableNotSet, module, "no plot is active");
+    Element element = makeElement(nextIndex());
+    m_active->commitEdits();
+    element.plot->Clone(*m_active);
+    const QString standard = m_active->Caption() + u'(' + numberText(element.index) + u')';
+    return append(std::move(element), caption.isEmpty() ? standard : caption);
+}
+
+TakenPlot PlotList::takeOut(EvmPlot& plot)
+{
+    const auto element = find(&plot);
+    if (element == m_plots.end() || element->index == 0)
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall, module,
+                           "the plot \"" + plot.Caption().toStdString() + "\" cannot be removed");
+    const bool wasActive = &plot == m_active;
+    if (wasActive)
+        activate(std::prev(element)->plot.get());
+    Q_EMIT aboutToBeRemoved(&plot);
+    const auto leaving = find(&plot); // plots may have been added meanwhile
+    TakenPlot taken {leaving->index, std::move(leaving->plot), wasActive};
+    m_plots.erase(leaving);
+    return taken;
+}
+
+void PlotList::putBack(TakenPlot taken)
+{
+    EvmPlot* const plot = taken.plot.get();
+    const auto isBefore = [](int index, const Element& element) { return index < element.index; };
+    m_plots.insert(std::upper_bound(m_plots.begin(), m_plots.end(), taken.index, isBefore),
+                   Element {taken.index, std::move(taken.plot)});
+    Q_EMIT added(plot);
+    if (taken.wasActive)
+        activate(plot);
+}
+
+bool PlotList::isTaken(const QString& caption, const EvmPlot& plot) const
+{
+    return std::any_of(m_plots.begin(), m_plots.end(), [&](const Element& element) {
+        return element.plot.get() != &plot && element.plot->Caption() == caption;
+    });
+}
+
+/// The rows go first, unseen: whoever called may end their evolutions next.
+void PlotList::startNew()
+{
+    for (const Element& element : m_plots)
+        element.plot->rows().clear();
+    while (m_plots.size() > 1)
+        takeOut(*m_plots.back().plot);
+    EvmPlot fresh;
+    fresh.setCaption(QStringLiteral("Plot1"));
+    fresh.setAxes(m_newPlotAxes);
+    first().Clone(fresh);
+    first().setRefs({});
+    first().setDampLines({});
+    activate(&first());
+}
+
+std::vector<PlotList::Element>::iterator PlotList::find(const EvmPlot* plot)
+{
+    return std::find_if(m_plots.begin(), m_plots.end(),
+                        [plot](const Element& element) { return element.plot.get() == plot; });
+}
+
+int PlotList::nextIndex() const
+{
+    const int index = m_plots.back().index + 1;
+    if (index > std::numeric_limits<std::int16_t>::max())
+        throw RunTimeError(ErrorNumber::Overflow, module,
+                           "plot " + std::to_string(index) + " of evpVgf");
+    return index;
+}
+
+/// A hidden plot.
+PlotList::Element PlotList::makeElement(int index) const
+{
+    auto plot = std::make_unique<EvmPlot>();
+    plot->setVisible(false);
+    return {index, std::move(plot)};
+}
+
+EvmPlot& PlotList::append(Element element, const QString& caption)
+{
+    element.plot->setCaption(uniqueCaption(caption, *element.plot));
+    EvmPlot& plot = *m_plots.emplace_back(std::move(element)).plot;
+    Q_EMIT added(&plot);
+    return plot;
+}
+
+/// The caption, with the first number from 2 on that no other plot has when it is taken.
+QString PlotList::uniqueCaption(const QString& caption, const EvmPlot& plot) const
+{
+    QString unique = caption;
+    for (int number = 2; isTaken(unique, plot); ++number)
+        unique = QStringLiteral("%1(%2)").arg(caption, QString::number(number));
+    return unique;
+}
+
+} // namespace tarsil

@@ -1,0 +1,159 @@
+// Which plots there are, what they are called, and which is active.
+
+#include "DocumentFixture.h"
+
+#include "support/Errors.h"
+
+#include <gmock/gmock.h>
+
+using namespace tarsil;
+using test::captionOf;
+using test::captionsOf;
+using test::errorNumberOf;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+namespace {
+
+/// A list with a listener that writes down what it announces.
+class PlotListTest : public ::testing::Test
+{
+protected:
+    void listen()
+    {
+        QObject::connect(&list, &PlotList::activeChanged, &list,
+                         [this](const EvmPlot* before, const EvmPlot* now) {
+                             EXPECT_EQ(list.active(), now);
+                             announced.push_back("active " + captionOf(before) + " "
+                                                 + captionOf(now));
+                         });
+        QObject::connect(&list, &PlotList::added, &list, [this](const EvmPlot* plot) {
+            EXPECT_TRUE(list.contains(plot));
+            announced.push_back("added " + captionOf(plot));
+        });
+        QObject::connect(&list, &PlotList::aboutToBeRemoved, &list, [this](const EvmPlot* plot) {
+            EXPECT_TRUE(list.contains(plot));
+            EXPECT_NE(list.active(), plot);
+            announced.push_back("removed " + captionOf(plot));
+        });
+    }
+    EvmPlot& add(const char* caption = "") { return list.add(QString::fromLatin1(caption)); }
+
+    PlotList list;
+    test::Texts announced;
+};
+
+TEST_F(PlotListTest, beginsWithPlot1AndNoActivePlot)
+{
+    EXPECT_THAT(captionsOf(list), ElementsAre("Plot1"));
+    EXPECT_EQ(list.active(), nullptr);
+    EXPECT_FALSE(list.first().Visible());
+}
+
+TEST_F(PlotListTest, makesTheActivePlotTheOnlyVisibleOne)
+{
+    EvmPlot& second = add();
+    listen();
+    list.activate(&list.first());
+    list.activate(&second);
+    list.activate(&second);
+    EXPECT_FALSE(list.first().Visible());
+    EXPECT_TRUE(second.Visible());
+    list.activate(nullptr);
+    EXPECT_FALSE(second.Visible());
+    EXPECT_THAT(announced,
+                ElementsAre("active none Plot1", "active Plot1 Plot2", "active Plot2 none"));
+}
+
+TEST_F(PlotListTest, activatesNoStranger)
+{
+    list.activate(&list.first());
+    EvmPlot stranger;
+    EXPECT_EQ(errorNumberOf([&] { list.activate(&stranger); }), ErrorNumber::InvalidProcedureCall);
+    EXPECT_EQ(list.active(), &list.first());
+}
+
+TEST_F(PlotListTest, givesEveryPlotACaptionOfItsOwn)
+{
+    list.first().setCaption(QStringLiteral("Plot2"));
+    add();
+    add("Plot2");
+    add("free");
+    EXPECT_THAT(captionsOf(list), ElementsAre("Plot2", "Plot2(2)", "Plot2(3)", "free"));
+    EXPECT_TRUE(list.isTaken(QStringLiteral("free"), list.first()));
+    EXPECT_FALSE(list.isTaken(QStringLiteral("Plot2"), list.first())) << "its own";
+}
+
+TEST_F(PlotListTest, copiesTheActivePlotAlone)
+{
+    EXPECT_EQ(errorNumberOf([this] { list.copyActive({}); }), ErrorNumber::ObjectVariableNotSet);
+    list.activate(&list.first());
+    list.first().setVthicks(3);
+    const EvmPlot& copy = list.copyActive({});
+    EXPECT_EQ(copy.vthicks(), 3);
+    EXPECT_FALSE(copy.Visible());
+    EXPECT_THAT(captionsOf(list), ElementsAre("Plot1", "Plot1(2)"));
+}
+
+TEST_F(PlotListTest, takesAPlotOutAndActivatesItsPredecessor)
+{
+    EvmPlot& second = add();
+    list.activate(&second);
+    listen();
+    const TakenPlot taken = list.takeOut(second);
+    EXPECT_EQ(taken.plot.get(), &second);
+    EXPECT_EQ(taken.index, 1);
+    EXPECT_TRUE(taken.wasActive);
+    EXPECT_FALSE(list.contains(&second));
+    EXPECT_FALSE(second.Visible());
+    EXPECT_THAT(announced, ElementsAre("active Plot2 Plot1", "removed Plot2"));
+}
+
+TEST_F(PlotListTest, takesNeitherTheFirstNorAStrangerOut)
+{
+    EvmPlot stranger;
+    for (EvmPlot* const plot : {&list.first(), &stranger})
+        EXPECT_EQ(errorNumberOf([&] { list.takeOut(*plot); }), ErrorNumber::InvalidProcedureCall);
+    EXPECT_THAT(captionsOf(list), ElementsAre("Plot1"));
+}
+
+TEST_F(PlotListTest, putsAPlotBackWhereItWas)
+{
+    EvmPlot& second = add();
+    EvmPlot& third = add();
+    list.activate(&second);
+    second.setVthicks(3);
+    TakenPlot taken = list.takeOut(second);
+    listen();
+    list.putBack(std::move(taken));
+    EXPECT_THAT(list.all(), ElementsAre(&list.first(), &second, &third));
+    EXPECT_EQ(list.active(), &second);
+    EXPECT_TRUE(second.Visible());
+    EXPECT_EQ(second.vthicks(), 3);
+    EXPECT_THAT(announced, ElementsAre("added Plot2", "active Plot1 Plot2"));
+    EXPECT_EQ(captionOf(&add()), "Plot4") << "the index counts again";
+}
+
+TEST_F(PlotListTest, startsNewWithOneEmptyPlotOfTheAxesThatAreSet)
+{
+    EVM evolution;
+    AeMode& mode = evolution.appendMode();
+    EvmPlot& first = list.first();
+    first.addSeries(mode);
+    first.setCaption(QStringLiteral("mine"));
+    first.AddRef(100, QStringLiteral("Vd"));
+    first.AddDampLine(0.02F, QStringLiteral("2 %"));
+    list.activate(&add());
+    const PlotAxes axes {{"V", 0, 100, 4}, {"f", 0, 10, 2}, {"g", 0, -1, 3}};
+    list.setNewPlotAxes(axes);
+    list.startNew();
+    EXPECT_THAT(captionsOf(list), ElementsAre("Plot1"));
+    EXPECT_EQ(&list.first(), &first) << "views keep it";
+    EXPECT_EQ(list.active(), &first);
+    EXPECT_EQ(first.rows().count(), 0U);
+    EXPECT_THAT(first.Refs(), IsEmpty());
+    EXPECT_THAT(first.DampLines(), IsEmpty());
+    EXPECT_EQ(first.axes(), axes);
+}
+
+} // namespace
