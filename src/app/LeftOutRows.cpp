@@ -2,7 +2,7 @@
 
 #include "base/text/ShortList.h"
 #include "base/user/UserInterface.h"
-#include "datacontrol/MdlData.h"
+#include "document/MdlData.h"
 #include "vgfplot/EvmPlot.h"
 
 #include <cstddef>

@@ -2,7 +2,8 @@
 
 #include "base/files/PathNames.h"
 #include "base/numbers/Numbers.h"
-#include "datacontrol/MdlData.h"
+#include "document/MdlData.h"
+#include "document/UndoHistory.h"
 #include "model/EVM.h"
 #include "plotwindow/ToolTipText.h"
 #include "vgfplot/EvmPlot.h"
@@ -78,7 +79,9 @@ QVariant toolTip(const PlotRow& row, SeriesColumn column)
 
 } // namespace
 
-SeriesGridModel::SeriesGridModel(QObject* parent) : QAbstractTableModel(parent) { }
+SeriesGridModel::SeriesGridModel(UndoHistory& history, QObject* parent)
+    : QAbstractTableModel(parent), m_history(history)
+{ }
 
 SeriesGridModel::~SeriesGridModel() = default;
 
@@ -103,7 +106,7 @@ void SeriesGridModel::follow(const PlotRows& rows)
     };
     connect(&rows, &PlotRows::rowsAboutToBeAdded, this,
             [this, last](std::size_t first, std::size_t count) {
-                m_wasEmpty = rowCount() == 0;
+                m_wasEmpty = m_plot->rows().isEmpty();
                 beginInsertRows({}, static_cast<int>(first), last(first, count));
             });
     connect(&rows, &PlotRows::rowsAdded, this, [this] {
@@ -270,9 +273,11 @@ bool SeriesGridModel::setText(const QModelIndex& cell, const QString& text)
     const SeriesColumn column = columnOf(cell);
     if (column == SeriesColumn::Mode)
         return setModeText(cell, text);
-    m_plot->rows().change(row(cell.row())->id, [&](Series& look) {
-        QString& changed = column == SeriesColumn::Tag ? look.MarkerTag : look.LegendText;
-        changed = mdlData::inOneLine(text);
+    const bool isTag = column == SeriesColumn::Tag;
+    m_history.change(*m_plot, isTag ? tr("Tag") : tr("Legend Text"), [&] {
+        m_plot->rows().change(row(cell.row())->id, [&](Series& look) {
+            (isTag ? look.MarkerTag : look.LegendText) = mdlData::inOneLine(text);
+        });
     });
     return true;
 }
@@ -286,7 +291,8 @@ bool SeriesGridModel::setModeText(const QModelIndex& cell, const QString& text)
         if (status != NumberStatus::Ok)
             throwNumberError(status, typed, "wndData",
                              "Mode of row " + std::to_string(cell.row() + 1));
-        m_plot->rows().setMode(row(cell.row())->id, number);
+        m_history.change(*m_plot, tr("Mode"),
+                         [&] { m_plot->rows().setMode(row(cell.row())->id, number); });
         return true;
     } catch (const RunTimeError& error) {
         Q_EMIT refused(cell, text, error);

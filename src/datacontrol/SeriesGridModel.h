@@ -8,6 +8,7 @@
 namespace tarsil {
 
 class EvmPlot;
+class UndoHistory;
 
 /// The columns of the grid of series.
 enum class SeriesColumn { Index, Evolution, Tag, Mode, Line, Legend };
@@ -20,7 +21,8 @@ class SeriesGridModel : public QAbstractTableModel
     Q_OBJECT
 
 public:
-    explicit SeriesGridModel(QObject* parent = nullptr);
+    /// What the user types goes through `history`, which must outlive the model.
+    explicit SeriesGridModel(UndoHistory& history, QObject* parent = nullptr);
     ~SeriesGridModel() override;
 
     /// Shows the rows of a plot, which must outlive that; null shows none.
@@ -55,6 +57,7 @@ private:
     bool setText(const QModelIndex& cell, const QString& text);
     bool setModeText(const QModelIndex& cell, const QString& text);
 
+    UndoHistory& m_history;
     EvmPlot* m_plot = nullptr;
     bool m_wasEmpty = true; ///< before the rows that are being added
 };

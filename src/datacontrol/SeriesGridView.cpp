@@ -48,7 +48,7 @@ SeriesGridView::SeriesGridView(QWidget* parent) : QTableView(parent)
 
 void SeriesGridView::setModel(QAbstractItemModel* model)
 {
-    m_isFitting = true; // new columns have a width that is nobody's
+    m_isFitting = true; // the widths of new columns are not the user's
     QTableView::setModel(model);
     m_isFitting = false;
     connect(model, &QAbstractItemModel::modelReset, this, &SeriesGridView::measureAllNames);
@@ -252,17 +252,17 @@ void SeriesGridView::editAgain(const QModelIndex& cell, const QString& text)
     QMetaObject::invokeMethod(this, open, Qt::QueuedConnection);
 }
 
-int SeriesGridView::gapAt(QPoint place) const
+int SeriesGridView::gapAt(QPoint position) const
 {
-    const QModelIndex index = indexAt(place);
+    const QModelIndex index = indexAt(position);
     if (!index.isValid())
         return model()->rowCount();
-    const bool isLowerHalf = place.y() > visualRect(index).center().y();
+    const bool isLowerHalf = position.y() > visualRect(index).center().y();
     return index.row() + (isLowerHalf ? 1 : 0);
 }
 
-/// Accepted as a copy, so that nobody removes the rows that were dragged: they are moved by whoever
-/// hears of it.
+/// Accepted as a copy, so that Qt does not remove the rows that were dragged: a slot of the signal
+/// moves them.
 void SeriesGridView::dropEvent(QDropEvent* event)
 {
     event->setDropAction(Qt::CopyAction);

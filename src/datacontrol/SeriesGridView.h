@@ -8,7 +8,7 @@
 namespace tarsil {
 
 /// The grid of series. Cells are selected as in a sheet; a row is dragged by its first column to
-/// another place. What the user wants goes up as a signal; the view changes nothing itself.
+/// another position. What the user wants is a signal; the view changes nothing itself.
 /// The column of the evolutions is as wide as their names are, as far as the other columns leave it
 /// room, until the user gives it a width; a name that is longer is shortened in its middle.
 class SeriesGridView : public QTableView
@@ -33,15 +33,15 @@ public:
     /// Writes what is being typed into its cell, as Enter does.
     void commitEditor();
 
-    /// Lets the user go on with a text that its cell did not take, as soon as the editor that it
+    /// Lets the user go on with a text that its cell refused, as soon as the editor that it
     /// was typed into has gone; unless the cell has gone, too.
     void editAgain(const QModelIndex& cell, const QString& text);
 
-    /// The gap between rows, counted by the row behind it, that is nearest to a place of the
+    /// The gap between rows, counted by the row after it, that is nearest to a position in the
     /// viewport.
-    int gapAt(QPoint place) const;
+    int gapAt(QPoint position) const;
 
-    /// What stands in the middle while there are no rows.
+    /// The text shown in the middle while there are no rows.
     void setPlaceholder(const QString& text) { m_placeholder = text; }
 
     void setModel(QAbstractItemModel* model) override;

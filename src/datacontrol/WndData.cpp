@@ -38,10 +38,10 @@ std::unique_ptr<Ui::wndData> makeForm(wndData& window)
 
 wndData::wndData(Document& document, UserInterface& user, QWidget* parent)
     : QWidget(parent), m_ui(makeForm(*this)), m_sizeWarning(*m_ui->mksizeInp),
-      m_spacingWarning(*m_ui->mkspaceInp), m_factorWarning(*m_ui->ithmpfInp), m_document(document),
-      m_user(user)
+      m_spacingWarning(*m_ui->mkspaceInp), m_factorWarning(*m_ui->ithmpfInp),
+      m_model(document.history()), m_document(document), m_user(user)
 {
-    m_ui->txtLegIdx->home(false); // what it means stands at its beginning
+    m_ui->txtLegIdx->home(false); // what it means is at its beginning
     setFocusProxy(m_ui->flxSerieViewer);
     connectGrid();
     connectButtons();

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "datacontrol/MdlData.h"
 #include "datacontrol/SeriesGridModel.h"
+#include "plot/Marker.h"
 #include "plotwindow/InputWarning.h"
 
 #include <QWidget>
@@ -78,8 +78,8 @@ private:
     void applyMarkers();
     void showMarkers();
     bool isModeSelected(const char* refusal);
-    using ChangeModes = void (*)(PlotRows&, const PlotRows::Indices&);
-    void changeModes(ChangeModes change);
+    void changePlot(const QString& name, const std::function<void(EvmPlot&)>& change);
+    void changeAndPlot(const QString& name, const std::function<void(EvmPlot&)>& change);
     void moveUp();
     void moveDown();
     void moveSelectedTo(std::size_t target);
@@ -88,7 +88,6 @@ private:
     void chooseLine();
     void afterEdit(SeriesColumn column);
     void askAgain(const QModelIndex& cell, const QString& text, const RunTimeError& error);
-    std::string rebuild(EvmPlot& plot);
 
     std::unique_ptr<Ui::wndData> m_ui;
     InputWarning m_sizeWarning;

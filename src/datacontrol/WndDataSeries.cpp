@@ -9,6 +9,8 @@
 #include "base/user/UserInterface.h"
 #include "datacontrol/DlgSeriesStyle.h"
 #include "document/Document.h"
+#include "document/MdlData.h"
+#include "document/UndoHistory.h"
 #include "model/EVM.h"
 #include "vgfplot/EvmPlot.h"
 
@@ -29,7 +31,7 @@ constexpr int factorCount = 5; ///< of a point
 
 constexpr double anyCount = std::numeric_limits<std::int32_t>::max();
 
-/// What stands in an input, as a whole number of at least 1; errors 13, 6 and 5 name the input.
+/// The text of an input as a whole number of at least 1; errors 13, 6 and 5 name the input.
 std::int32_t countIn(const QLineEdit& input, double most = anyCount)
 {
     QString name = input.accessibleName();
@@ -46,7 +48,7 @@ std::int32_t countIn(const QLineEdit& input, double most = anyCount)
     return static_cast<std::int32_t>(count);
 }
 
-/// Takes what stands in an input when it can be taken; the input shows when it cannot.
+/// Stores the number in an input when it is valid; the input shows when it is not.
 void takeCount(const QLineEdit& input, double most, InputWarning& warning, std::int32_t& count)
 {
     try {
@@ -77,22 +79,33 @@ void changeLine(Series& series, const LineLook& before, const LineLook& now)
 
 } // namespace
 
-/// The rows become the series, and the plot is drawn; then the user hears of the modes that are not
-/// there.
+/// The rows become the series, and the plot is drawn; then one message names the modes that do not
+/// exist.
 void wndData::cmdDrawPlot_Click()
 {
-    EvmPlot* const plot = activePlot();
-    if (plot == nullptr)
-        return;
-    const std::string missing = rebuild(*plot);
-    plot->plot();
-    if (!missing.empty())
-        warn(missing);
+    if (activePlot() != nullptr)
+        changeAndPlot(tr("Plot"), [](EvmPlot&) {});
 }
 
-std::string wndData::rebuild(EvmPlot& plot)
+/// Changes the plot whose rows the grid shows, as one step that can be undone.
+void wndData::changePlot(const QString& name, const std::function<void(EvmPlot&)>& change)
 {
-    return mdlData::buildSeries(plot.rows(), markerOptions());
+    EvmPlot& plot = *m_model.plot();
+    m_document.history().change(plot, name, [&] { change(plot); });
+}
+
+/// What is wrong in the marker options is reported before anything changes.
+void wndData::changeAndPlot(const QString& name, const std::function<void(EvmPlot&)>& change)
+{
+    const MarkerOptions markers = markerOptions();
+    std::string missing;
+    changePlot(name, [&](EvmPlot& plot) {
+        change(plot);
+        missing = mdlData::buildSeries(plot.rows(), markers);
+    });
+    m_model.plot()->plot();
+    if (!missing.empty())
+        warn(missing);
 }
 
 void wndData::afterEdit(SeriesColumn column)
@@ -114,21 +127,20 @@ bool wndData::isModeSelected(const char* refusal)
 
 void wndData::cmdIncMode_Click()
 {
-    if (isModeSelected("Please select cells in \"Mode\" column."))
-        changeModes(mdlData::raiseModes);
+    if (!isModeSelected("Please select cells in \"Mode\" column."))
+        return;
+    changeAndPlot(tr("Raise Modes"), [this](EvmPlot& plot) {
+        mdlData::raiseModes(plot.rows(), m_ui->flxSerieViewer->selectedRows());
+    });
 }
 
 void wndData::cmdDecMode_Click()
 {
-    if (isModeSelected("You must first select cells in mode column!"))
-        changeModes(mdlData::lowerModes);
-}
-
-void wndData::changeModes(ChangeModes change)
-{
-    static_cast<void>(markerOptions()); // what is wrong there is reported before anything changes
-    change(m_model.plot()->rows(), m_ui->flxSerieViewer->selectedRows());
-    cmdDrawPlot_Click();
+    if (!isModeSelected("You must first select cells in mode column!"))
+        return;
+    changeAndPlot(tr("Lower Modes"), [this](EvmPlot& plot) {
+        mdlData::lowerModes(plot.rows(), m_ui->flxSerieViewer->selectedRows());
+    });
 }
 
 /// The selected rows, or the current one, or the only one; the row after them is the next current
@@ -141,13 +153,13 @@ void wndData::cmdRemove_Click()
         rows = {0};
     if (rows.empty())
         return;
-    static_cast<void>(markerOptions());
     const int column = currentColumn();
-    m_model.plot()->rows().remove(rows);
-    const auto count = static_cast<std::size_t>(m_model.rowCount());
-    if (count > 0)
-        grid.selectRows({std::min(rows.front(), count - 1)}, column);
-    cmdDrawPlot_Click();
+    changeAndPlot(tr("Remove Rows"), [&](EvmPlot& plot) {
+        plot.rows().remove(rows);
+        const std::size_t count = plot.rows().count();
+        if (count > 0)
+            grid.selectRows({std::min(rows.front(), count - 1)}, column);
+    });
 }
 
 int wndData::currentColumn() const
@@ -164,7 +176,9 @@ void wndData::moveUp()
 {
     if (m_model.rowCount() == 0)
         return;
-    mdlData::moveRowsUp(*m_model.plot(), m_ui->flxSerieViewer->selectedOrCurrentRows());
+    changePlot(tr("Move Rows"), [this](EvmPlot& plot) {
+        mdlData::moveRowsUp(plot, m_ui->flxSerieViewer->selectedOrCurrentRows());
+    });
     showCurrentRow();
 }
 
@@ -172,7 +186,9 @@ void wndData::moveDown()
 {
     if (m_model.rowCount() == 0)
         return;
-    mdlData::moveRowsDown(*m_model.plot(), m_ui->flxSerieViewer->selectedOrCurrentRows());
+    changePlot(tr("Move Rows"), [this](EvmPlot& plot) {
+        mdlData::moveRowsDown(plot, m_ui->flxSerieViewer->selectedOrCurrentRows());
+    });
     showCurrentRow();
 }
 
@@ -180,7 +196,9 @@ void wndData::moveSelectedTo(std::size_t target)
 {
     if (m_model.rowCount() == 0)
         return;
-    mdlData::moveRows(*m_model.plot(), m_ui->flxSerieViewer->selectedOrCurrentRows(), target);
+    changePlot(tr("Move Rows"), [&](EvmPlot& plot) {
+        mdlData::moveRows(plot, m_ui->flxSerieViewer->selectedOrCurrentRows(), target);
+    });
     showCurrentRow();
 }
 
@@ -192,8 +210,8 @@ void wndData::showCurrentRow()
 
 void wndData::btnResColor_Click()
 {
-    if (EvmPlot* const plot = activePlot())
-        mdlData::resetColors(plot->rows());
+    if (activePlot() != nullptr)
+        changePlot(tr("Reset Colors"), [](EvmPlot& plot) { mdlData::resetColors(plot.rows()); });
 }
 
 /// The colour, style and width of the lines of the selected rows; the first one says what they are.
@@ -208,10 +226,11 @@ void wndData::chooseLine()
     if (dialog.exec() != QDialog::Accepted || dialog.look() == before)
         return;
     const LineLook now = dialog.look();
-    PlotRows& plotRows = m_model.plot()->rows();
-    for (const std::size_t row : rows)
-        plotRows.change(plotRows.at(row).id,
-                        [&](Series& series) { changeLine(series, before, now); });
+    changePlot(tr("Line Style"), [&](EvmPlot& plot) {
+        for (const std::size_t row : rows)
+            plot.rows().change(plot.rows().at(row).id,
+                               [&](Series& series) { changeLine(series, before, now); });
+    });
 }
 
 QRadioButton& wndData::buttonOf(MarkerKind kind) const
@@ -272,7 +291,10 @@ void wndData::applyMarkers()
     EvmPlot* const plot = m_model.plot();
     if (plot == nullptr || m_markers == before)
         return;
-    mdlData::changeMarkers(plot->rows(), before, m_markers);
+    m_document.history().change(
+        *plot, tr("Marker Options"),
+        [&] { mdlData::changeMarkers(plot->rows(), before, m_markers); },
+        UndoHistory::Joining::Yes);
 }
 
 /// The controls show what the first series of the plot has, so that "Plot" leaves a plot as it was
@@ -298,7 +320,7 @@ void wndData::showMarkers()
 }
 
 /// What is rounded to 0 is refused as well. The box is as before when the message comes: the
-/// message takes the focus once more.
+/// message makes the input lose the focus once more.
 void wndData::mkspaceInp_LostFocus()
 {
     double spacing = 0;

@@ -9,8 +9,9 @@
 #include "base/numbers/Numbers.h"
 #include "base/user/RunTimeError.h"
 #include "base/user/UserInterface.h"
-#include "datacontrol/PlotTitles.h"
 #include "document/Document.h"
+#include "document/MdlData.h"
+#include "document/PlotTitles.h"
 #include "model/EVM.h"
 #include "vgfplot/EvmPlot.h"
 
@@ -22,7 +23,7 @@ constexpr std::string_view module = "wndData";
 constexpr std::string_view pictureFilter =
     "Enhanced Windows Metafile (*.emf)|*.emf|All Files (*.*)|*.*|";
 
-/// The number in the input of the legend's index; what stands behind ":=" explains it.
+/// The number in the input of the legend's index; the text after ":=" explains it.
 std::int16_t legendIndexIn(const QLineEdit& input)
 {
     const std::string text = input.text().section(QStringLiteral(":="), 0, 0).toStdString();
@@ -47,8 +48,8 @@ double fontSizeIn(const QLineEdit& input)
 
 void wndData::btnFitFreq_Click()
 {
-    if (EvmPlot* const plot = activePlot())
-        plot->fitFreq();
+    if (activePlot() != nullptr)
+        changePlot(tr("Fit Frequency Axis"), [](EvmPlot& plot) { plot.fitFreq(); });
 }
 
 void wndData::btnMakHead_Click()
@@ -61,8 +62,11 @@ void wndData::btnMakHead_Click()
         return warn("Please type a valid mass configurarion in ref. modal evolution."
                     + (missing.empty() ? missing : "\n" + missing));
     }
-    if (EvmPlot* const plot = activePlot())
-        plot->setBoxText(TextBox::Header, headerText(*evolution, m_ui->txtTitle->text()));
+    if (activePlot() == nullptr)
+        return;
+    changePlot(tr("Header"), [&](EvmPlot& plot) {
+        plot.setBoxText(TextBox::Header, headerText(*evolution, m_ui->txtTitle->text()));
+    });
 }
 
 void wndData::btnAutoRef_Click()
@@ -72,45 +76,52 @@ void wndData::btnAutoRef_Click()
         return;
     if (evolution->Param.Mach == 0)
         return warn("This reference modal evolution does not have mach number info.");
-    if (EvmPlot* const plot = activePlot())
-        markEnvelope(*plot, *evolution, m_document.airplane());
+    if (activePlot() == nullptr)
+        return;
+    changePlot(tr("Reference Speeds"),
+               [&](EvmPlot& plot) { markEnvelope(plot, *evolution, m_document.airplane()); });
 }
 
 void wndData::cmbFlutMech_Click()
 {
     const QString name = m_ui->cmbFlutMech->currentText();
-    EvmPlot* const plot = name.isEmpty() ? nullptr : activePlot();
-    if (plot == nullptr)
+    if (name.isEmpty() || activePlot() == nullptr)
         return;
-    showMechanism(*plot, m_document.airplane(), name, !m_ui->optFlutMecShort->isChecked());
+    changePlot(tr("Flutter Mechanism"), [&](EvmPlot& plot) {
+        showMechanism(plot, m_document.airplane(), name, !m_ui->optFlutMecShort->isChecked());
+    });
 }
 
-/// The user hears once of entries that are not there.
+/// One message reports all entries that do not exist.
 void wndData::btnFilltLeg_Click()
 {
-    EvmPlot* const plot = activePlot();
-    if (plot == nullptr)
+    if (activePlot() == nullptr)
         return;
     const std::int32_t index = legendIndexIn(*m_ui->txtLegIdx);
-    const bool areThere =
-        mdlData::fillLegends(plot->rows(), m_ui->flxSerieViewer->selectedRows(), index);
+    bool areThere = true;
+    changePlot(tr("Fill Legend"), [&](EvmPlot& plot) {
+        areThere = mdlData::fillLegends(plot.rows(), m_ui->flxSerieViewer->selectedRows(), index);
+    });
     if (!areThere)
         warn("There is not " + std::to_string(index) + "\u00AA legend entry");
 }
 
 void wndData::btnPlotLeg_Click()
 {
-    EvmPlot* const plot = activePlot();
-    if (plot == nullptr)
+    if (activePlot() == nullptr)
         return;
     const double points = fontSizeIn(*m_ui->txtLegFontSize);
-    const std::string missing = rebuild(*plot);
-    writeLegend(*plot, points);
+    const MarkerOptions markers = markerOptions();
+    std::string missing;
+    changePlot(tr("Plot Legend"), [&](EvmPlot& plot) {
+        missing = mdlData::buildSeries(plot.rows(), markers);
+        writeLegend(plot, points);
+    });
     if (!missing.empty())
         warn(missing);
 }
 
-/// A dialog that is cancelled leaves the plot's caption standing as the name, and that is written.
+/// A dialog that is cancelled leaves the plot's caption as the name, and that is written.
 /// It has not asked before a file of that name is replaced, then.
 void wndData::SavePic_Click()
 {

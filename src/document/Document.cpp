@@ -22,6 +22,8 @@ WorkspaceTexts textsOfNewWorkspace()
 
 Document::Document() : m_texts(textsOfNewWorkspace())
 {
+    connect(&m_evolutions, &EvolutionList::aboutToBeRemoved, this, [this] { m_history.clear(); });
+    connect(&m_plots, &PlotList::aboutToBeRemoved, this, [this] { m_history.clear(); });
     markSaved();
 }
 
@@ -72,6 +74,7 @@ void Document::startNew()
 {
     m_plots.startNew();
     m_evolutions.clear();
+    m_history.clear();
     setTexts(textsOfNewWorkspace());
     m_path.clear();
     m_isPartial = false;

@@ -3,6 +3,7 @@
 #include "aircraft/AirplaneInfo.h"
 #include "document/EvolutionList.h"
 #include "document/PlotList.h"
+#include "document/UndoHistory.h"
 #include "document/WorkspaceSource.h"
 #include "document/WorkspaceTexts.h"
 #include "workspace/WorkspaceRecord.h"
@@ -43,6 +44,10 @@ public:
     const EvolutionList& evolutions() const { return m_evolutions; }
     PlotList& plots() { return m_plots; }
     const PlotList& plots() const { return m_plots; }
+
+    /// What the user has changed in the plots. It begins anew when an evolution or a plot leaves
+    /// the document, and with a new workspace.
+    UndoHistory& history() { return m_history; }
 
     /// Reads modal evolutions and appends those that were not open; returns these. The user is told
     /// of each file that cannot be opened (`mdlMain::loadEvolutions`).
@@ -119,6 +124,7 @@ private:
 
     EvolutionList m_evolutions;
     PlotList m_plots; ///< refer to evolutions, and end before them
+    UndoHistory m_history; ///< refers to both
     AirplaneInfo m_airplane;
     WorkspaceTexts m_texts;
     std::string m_path;

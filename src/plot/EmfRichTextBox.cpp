@@ -243,15 +243,25 @@ void emfRichTextBox::setPrompt(const QString& prompt)
     fitToText();
 }
 
+emfRichTextBox::State emfRichTextBox::state() const
+{
+    return {m_content, m_font, m_foreColor, m_wasMoved, m_left, m_top};
+}
+
+void emfRichTextBox::setState(const State& state)
+{
+    m_font = state.font;
+    m_foreColor = state.foreColor;
+    setContent(state.content);
+    m_wasMoved = state.wasMoved;
+    place(state.left, state.top);
+}
+
 void emfRichTextBox::Clone(const emfRichTextBox& source)
 {
-    m_font = source.m_font;
-    m_foreColor = source.m_foreColor;
     m_leastSize = source.m_leastSize;
-    setContent(source.m_content);
+    setState(source.state());
     m_selection = source.m_selection;
-    m_wasMoved = source.m_wasMoved;
-    place(source.m_left, source.m_top);
 }
 
 TextFormat emfRichTextBox::defaultFormat() const

@@ -84,6 +84,21 @@ public:
     void setContent(RichText content);
     bool isEmpty() const { return m_content.runs.empty(); }
 
+    /// What a user can change in a box.
+    struct State
+    {
+        RichText content;
+        tarsil::Font font;
+        ColorValue foreColor = 0;
+        bool wasMoved = false;
+        double left = 0; ///< twentieths of a point, like `top`
+        double top = 0;
+
+        bool operator==(const State&) const = default;
+    };
+    State state() const;
+    void setState(const State& state);
+
     /// Draws the text into a caller's context at the box's position.
     void drawEMF(DeviceContext& context) { Draw(&context); }
 

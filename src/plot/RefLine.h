@@ -19,6 +19,8 @@ struct RefLine
     float X2 = 0;
     float Y1 = 0;
     float X1 = 0;
+
+    bool operator==(const RefLine&) const = default;
 };
 
 } // namespace tarsil

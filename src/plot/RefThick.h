@@ -9,6 +9,8 @@ struct RefThick
 {
     float Speed = 0; ///< knots, in the axis' units
     QString Caption; ///< written above the mark
+
+    bool operator==(const RefThick&) const = default;
 };
 
 } // namespace tarsil

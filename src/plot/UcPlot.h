@@ -9,6 +9,7 @@
 #include <QVariant>
 
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 namespace tarsil {
@@ -54,6 +55,9 @@ public:
     /// Empties the own surface and removes every reference line.
     void RemoveLines();
     const std::vector<RefLine>& lines() const { return m_lines; }
+
+    /// Takes other reference lines in the place of all that are there; nothing is drawn.
+    void setLines(std::vector<RefLine> lines) { m_lines = std::move(lines); }
 
     /// Draws again on the own surface.
     void Refresh();

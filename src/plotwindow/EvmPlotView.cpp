@@ -291,7 +291,7 @@ void EvmPlotView::updateDescription()
                         QString::fromStdString(shortestText(axis.max)));
     };
     setAccessibleName(tr("V-g-f plot %1").arg(m_plot.Caption()));
-    setAccessibleDescription(tr("%1 curves; ").arg(m_plot.SeriesCollection().size())
+    setAccessibleDescription(tr("%1 curves; ").arg(m_plot.rows().curveCount())
                              + description(tr("speed axis %1 from %2 to %3, "), axes.speed)
                              + description(tr("frequency axis %1 from %2 to %3, "), axes.frequency)
                              + description(tr("damping axis %1 from %2 to %3"), axes.damping));

@@ -326,6 +326,12 @@ void EvmPlot::setDampLines(const std::vector<DampLine>& lines)
     invalidate();
 }
 
+void EvmPlot::restoreDampLines(const std::vector<RefLine>& lines)
+{
+    m_vgPlot.setLines(lines);
+    invalidate();
+}
+
 void EvmPlot::Clone(const EvmPlot& source)
 {
     Q_EMIT contentsReplaced();

@@ -133,6 +133,9 @@ public:
     std::vector<DampLine> DampLines() const;
     void setDampLines(const std::vector<DampLine>& lines);
 
+    /// Damping lines as they were (`vgPlot().lines()`), each with its own ends; nothing is drawn.
+    void restoreDampLines(const std::vector<RefLine>& lines);
+
     /// Copies the text boxes with their positions, the scale, and every property of `source`; its
     /// series are not copied.
     void Clone(const EvmPlot& source);

@@ -48,6 +48,12 @@ PlotRow rowOf(Series series, RowId id)
                        what + " of " + std::to_string(count));
 }
 
+std::size_t curvesIn(PlotRows::Rows::const_iterator begin, PlotRows::Rows::const_iterator end)
+{
+    return static_cast<std::size_t>(
+        std::count_if(begin, end, [](const PlotRow& row) { return row.hasCurve(); }));
+}
+
 template <typename List>
 auto positionIn(List& list, std::size_t index)
 {
@@ -144,6 +150,7 @@ void PlotRows::insert(std::size_t index, Rows rows)
         return;
     const std::size_t added = rows.size();
     Q_EMIT rowsAboutToBeAdded(index, added);
+    m_curveCount += curvesIn(rows.begin(), rows.end());
     m_rows.insert(positionIn(m_rows, index), std::make_move_iterator(rows.begin()),
                   std::make_move_iterator(rows.end()));
     forgetIndices();
@@ -153,7 +160,10 @@ void PlotRows::insert(std::size_t index, Rows rows)
 void PlotRows::removeBlock(std::size_t first, std::size_t count)
 {
     Q_EMIT rowsAboutToBeRemoved(first, count);
-    m_rows.erase(positionIn(m_rows, first), positionIn(m_rows, first + count));
+    const auto begin = positionIn(m_rows, first);
+    const auto end = positionIn(m_rows, first + count);
+    m_curveCount -= curvesIn(begin, end);
+    m_rows.erase(begin, end);
     forgetIndices();
     Q_EMIT rowsRemoved(first, count);
 }
@@ -218,6 +228,8 @@ void PlotRows::replace(std::size_t index, PlotRow row)
 {
     if (m_rows[index] == row)
         return;
+    m_curveCount -= m_rows[index].hasCurve() ? 1 : 0;
+    m_curveCount += row.hasCurve() ? 1 : 0;
     m_rows[index] = std::move(row);
     m_curves.reset();
     Q_EMIT rowChanged(index, m_rows[index].id);

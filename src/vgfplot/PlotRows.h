@@ -40,8 +40,8 @@ Series newSeries(AeMode& mode, std::size_t row);
 /// The rows of a plot, counted from 0, in the order of drawing. A row whose number names no mode
 /// keeps its number and its look, and has its curve again as soon as another number names one.
 ///
-/// Every change is announced; nobody gets a row to change by himself. The signals with "about to"
-/// come before the rows are others, the rest afterwards.
+/// Every change is announced, and rows can be changed in no other way. The signals with "about to"
+/// are emitted before the change, the others after it.
 class PlotRows : public QObject
 {
     Q_OBJECT
@@ -63,6 +63,7 @@ public:
 
     /// The series of the rows that have a curve, in their order.
     const SeriesList& curves() const;
+    std::size_t curveCount() const { return m_curveCount; }
 
     /// The rows without a curve.
     Indices withoutCurve() const;
@@ -130,6 +131,7 @@ private:
     void removeWhere(IsRemoved isRemoved);
 
     Rows m_rows;
+    std::size_t m_curveCount = 0;
     std::uint32_t m_lastId = 0;
 
     // What follows from the rows, made when it is asked for.

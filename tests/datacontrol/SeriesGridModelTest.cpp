@@ -3,6 +3,7 @@
 #include "datacontrol/SeriesGridModel.h"
 
 #include "analysis/ModeBuilder.h"
+#include "document/UndoHistory.h"
 #include "support/ChangeSeries.h"
 #include "vgfplot/EvmPlot.h"
 
@@ -65,7 +66,8 @@ protected:
     EVM evolution;
     EvmPlot plot;
     EvmPlot other;
-    SeriesGridModel model;
+    UndoHistory history;
+    SeriesGridModel model {history};
     std::optional<QAbstractItemModelTester> tester;
 };
 

@@ -5,6 +5,7 @@
 #include "datacontrol/SeriesGridView.h"
 #include "datacontrol/WndData.h"
 #include "document/Document.h"
+#include "document/UndoHistory.h"
 #include "plotwindow/WndEvolPlot.h"
 #include "support/ChangeSeries.h"
 #include "support/FormParts.h"
@@ -147,6 +148,7 @@ protected:
 
     AirplaneInfo airplane; ///< that of the document once it is set there
     Document document;
+    UndoHistory& history = document.history();
     ScriptedUserInterface user;
     wndEvolPlot plots;
     wndData data;

@@ -2,7 +2,7 @@
 
 #include "WndDataFixture.h"
 
-#include "datacontrol/PlotTitles.h"
+#include "document/PlotTitles.h"
 #include "support/Errors.h"
 #include "support/TestFiles.h"
 
@@ -119,7 +119,7 @@ TEST_F(WndDataTexts, needsAReferenceItsMachNumberAndItsEnvelopeForTheSpeeds)
 
 TEST_F(WndDataTexts, sayThatNoAircraftFileIsSetWhereThatIsWhatIsMissing)
 {
-    airplane = AirplaneInfo();
+    document.setAirplane(AirplaneInfo());
     setReference(load("a.ev2"));
     click("btnMakHead");
     EXPECT_EQ(user.messages.back(),

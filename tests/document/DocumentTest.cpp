@@ -81,6 +81,32 @@ TEST_F(DocumentTest, keepsTheRowsOfAStranger)
     EXPECT_EQ(first.rows().count(), 1U);
 }
 
+TEST_F(DocumentTest, startsItsHistoryAnewWhenWhatItRefersToLeaves)
+{
+    EvmPlot& first = document.plots().first();
+    EvmPlot* second = nullptr;
+    EVM* evolution = nullptr;
+    const auto changeBoth = [&] {
+        evolution = &addEvolution(document.evolutions(), "a");
+        second = &document.plots().add(QString());
+        for (EvmPlot* const plot : {&first, second})
+            document.history().change(*plot, QStringLiteral("Add Curve"),
+                                      [&] { plot->addSeries(*evolution->Modes[0]); });
+        EXPECT_EQ(document.history().steps().count(), 2);
+    };
+    changeBoth();
+    document.takeOut(*evolution);
+    EXPECT_EQ(document.history().steps().count(), 0);
+    changeBoth();
+    document.plots().takeOut(*second);
+    EXPECT_EQ(document.history().steps().count(), 0);
+    changeBoth();
+    document.startNew();
+    EXPECT_EQ(document.history().steps().count(), 0);
+    document.history().undo();
+    EXPECT_TRUE(first.rows().isEmpty());
+}
+
 TEST_F(DocumentTest, announcesTextsThatDiffer)
 {
     int announced = 0;

@@ -304,5 +304,6 @@ TEST_F(PlotRowsTest, areAListUnderAnyOperations)
                 modes.push_back(plain[i].number);
         }
         ASSERT_EQ(drawn(), modes) << step;
+        ASSERT_EQ(rows().curveCount(), modes.size()) << step;
     }
 }

@@ -1,6 +1,6 @@
 // How rows of the grid become series.
 
-#include "datacontrol/MdlData.h"
+#include "document/MdlData.h"
 
 #include "analysis/ModeBuilder.h"
 #include "support/ChangeSeries.h"

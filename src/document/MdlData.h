@@ -36,10 +36,10 @@ std::string buildSeries(PlotRows& rows, const MarkerOptions& markers);
 /// from each other.
 void changeMarkers(PlotRows& rows, const MarkerOptions& before, const MarkerOptions& now);
 
-/// A marker text in the curve's colour goes along with it.
+/// Sets the colour of a curve, and of its marker text when that had the curve's colour.
 void setColor(Series& series, ColorValue color);
 
-/// The colours that rows take in turn.
+/// Gives the rows their default colours in turn.
 void resetColors(PlotRows& rows);
 
 /// Moves rows to the gap before the row with index `target` (the number of rows is the end); they
@@ -57,8 +57,8 @@ void raiseModes(PlotRows& rows, const Indices& raised);
 /// Lowers the mode numbers of rows by one, down to 0.
 void lowerModes(PlotRows& rows, const Indices& lowered);
 
-/// A text with blanks in the place of line breaks, and without those at its end: what is copied
-/// from a sheet ends with one.
+/// Replaces line breaks by blanks, and drops those at the end: text copied from a sheet ends with
+/// one.
 QString inOneLine(QString text);
 
 /// The legend text of a row: the file name for index -1, else the entry of that index, counted from

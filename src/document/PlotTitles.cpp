@@ -1,11 +1,11 @@
-#include "datacontrol/PlotTitles.h"
+#include "document/PlotTitles.h"
 
 #include "aircraft/AirplaneInfo.h"
 #include "base/files/PathNames.h"
 #include "base/numbers/NumberFormat.h"
 #include "base/numbers/Numbers.h"
 #include "base/user/RunTimeError.h"
-#include "datacontrol/MdlData.h"
+#include "document/MdlData.h"
 #include "model/EVM.h"
 #include "vgfplot/EvmPlot.h"
 
@@ -91,7 +91,7 @@ void showMechanism(EvmPlot& plot, const AirplaneInfo& airplane, const QString& s
     plot.setAxes(axes);
 }
 
-/// The lines are looked for one behind the other, so that two that are alike get their own colours.
+/// Each line is searched after the one before it, so that two equal lines get their own colours.
 void writeLegend(EvmPlot& plot, double points)
 {
     QStringList lines;
@@ -111,13 +111,13 @@ void writeLegend(EvmPlot& plot, double points)
     const QString text = box.Text();
     qsizetype from = 0;
     for (qsizetype i = 0; i < lines.size(); ++i) {
-        const qsizetype place = text.indexOf(lines[i], from);
-        if (place < 0)
+        const qsizetype position = text.indexOf(lines[i], from);
+        if (position < 0)
             continue;
-        box.setSelStart(static_cast<int>(place));
+        box.setSelStart(static_cast<int>(position));
         box.setSelLength(static_cast<int>(lines[i].size()));
         box.setSelColor(colors[static_cast<std::size_t>(i)]);
-        from = place + lines[i].size();
+        from = position + lines[i].size();
     }
     box.setSelStart(0);
     plot.refresh();

@@ -1,4 +1,4 @@
-#include "datacontrol/MdlData.h"
+#include "document/MdlData.h"
 
 #include "base/text/ShortList.h"
 #include "model/EVM.h"

@@ -20,8 +20,8 @@ std::string missingAircraftText(const AirplaneInfo& airplane);
 /// user says.
 QString headerText(const EVM& evolution, const QString& lastLine);
 
-/// Marks the speeds of the flutter envelope at the evolution's Mach number in the place of the
-/// reference speeds that the plot has: ceiling, dive speed, limit speed. Error 5 when the airplane
+/// Replaces the reference speeds of a plot by those of the flutter envelope at the evolution's Mach
+/// number: ceiling, dive speed, limit speed. Error 5 when the airplane
 /// has no envelope at that Mach number; the plot is unchanged then.
 void markEnvelope(EvmPlot& plot, const EVM& evolution, const AirplaneInfo& airplane);
 

@@ -1,0 +1,363 @@
+// Changes of plots that are undone and made again.
+
+#include "document/UndoHistory.h"
+
+#include "analysis/ModeBuilder.h"
+#include "base/user/RunTimeError.h"
+#include "document/MdlData.h"
+#include "document/PlotTitles.h"
+#include "support/ChangeSeries.h"
+#include "support/Errors.h"
+#include "vgfplot/EvmPlot.h"
+#include "vgfplot/PlotRecords.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <array>
+#include <deque>
+#include <functional>
+#include <random>
+
+using namespace tarsil;
+using test::changeSeries;
+using test::errorNumberOf;
+
+namespace {
+
+/// What a workspace keeps of a plot, and its rows, of which it keeps those with a curve alone.
+struct Snapshot
+{
+    PlotRecord record;
+    PlotRows::Rows rows;
+
+    bool operator==(const Snapshot&) const = default;
+};
+
+/// Two plots with three rows each, of an evolution of five modes.
+class UndoHistoryTest : public ::testing::Test
+{
+protected:
+    UndoHistoryTest()
+    {
+        evolution.FileName = "case.ev2";
+        evolution.na = 6; // the file declares one more than it holds
+        evolution.Param.legends.add("1", "clean wing");
+        for (std::int16_t id = 1; id <= 5; ++id)
+            test::addMode(evolution, id, {{100, -0.02F, 5}, {600, 0.01F, 6}});
+        for (EvmPlot& one : plots) {
+            one.resize({800, 600});
+            for (std::size_t i = 0; i < 3; ++i)
+                one.addSeries(*evolution.Modes[i], MarkerOptions());
+        }
+    }
+
+    Snapshot snapshotOf(const EvmPlot& one) const
+    {
+        return {recordOf(one, {&evolution}), one.rows().all()};
+    }
+    std::vector<Snapshot> snapshot() const { return {snapshotOf(plots[0]), snapshotOf(plots[1])}; }
+    /// Changes the first plot.
+    void change(const char* name, const UndoHistory::Change& how,
+                UndoHistory::Joining joining = UndoHistory::Joining::No)
+    {
+        history.change(plot, QString::fromLatin1(name), how, joining);
+    }
+    RowId id(std::size_t row) { return plot.rows().at(row).id; }
+
+    EVM evolution;
+    std::array<EvmPlot, 2> plots;
+    EvmPlot& plot = plots[0];
+    UndoHistory history;
+};
+
+/// A user who does anything, in any order.
+class RandomUser
+{
+public:
+    RandomUser(EVM& evolution, unsigned seed) : m_evolution(evolution), m_random(seed) { }
+
+    std::size_t below(std::size_t end) { return m_random() % end; }
+
+    /// Changes something in a plot.
+    void change(EvmPlot& plot)
+    {
+        const std::size_t kind = below(3);
+        if (kind == 0 && plot.rows().count() < 12)
+            plot.addSeries(*m_evolution.Modes[below(5)]);
+        else if (kind == 1)
+            changePlot(plot);
+        else
+            changeRows(plot, someRows(plot));
+    }
+
+private:
+    PlotRows::Indices someRows(const EvmPlot& plot)
+    {
+        PlotRows::Indices rows;
+        for (std::size_t row = 0; row < plot.rows().count(); ++row) {
+            if (below(3) == 0)
+                rows.push_back(row);
+        }
+        return rows;
+    }
+
+    QString text() { return QString::number(below(1000)); }
+    std::int32_t number() { return static_cast<std::int32_t>(below(8)); } // not all are modes
+    float value() { return 0.25F * static_cast<float>(1 + below(400)); }
+
+    void changeRows(EvmPlot& plot, const PlotRows::Indices& rows)
+    {
+        const std::array<std::function<void()>, 10> changes = {
+            [&] { mdlData::raiseModes(plot.rows(), rows); },
+            [&] { mdlData::lowerModes(plot.rows(), rows); },
+            [&] { plot.rows().remove(rows); },
+            [&] { mdlData::moveRowsUp(plot, rows); },
+            [&] { mdlData::moveRowsDown(plot, rows); },
+            [&] { mdlData::moveRows(plot, rows, below(plot.rows().count() + 1)); },
+            [&] { mdlData::fillLegends(plot.rows(), rows, number() - 1); },
+            [&] { mdlData::resetColors(plot.rows()); },
+            [&] {
+                const MarkerKind kind = markerTraits[below(markerTraits.size())].kind;
+                mdlData::changeMarkers(plot.rows(), {}, {number(), number(), kind, 2});
+            },
+            [&] {
+                for (const std::size_t row : rows)
+                    changeRow(plot, row);
+            }};
+        changes[below(changes.size())]();
+    }
+
+    void changeRow(EvmPlot& plot, std::size_t row)
+    {
+        plot.rows().setMode(plot.rows().at(row).id, number());
+        changeSeries(plot, row, [this](Series& one) {
+            one.MarkerTag = text();
+            one.LegendText = text();
+            one.LineStyle = number();
+            one.LineWidth = static_cast<std::int16_t>(number());
+            mdlData::setColor(one, number());
+        });
+    }
+
+    void changePlot(EvmPlot& plot)
+    {
+        const std::array<std::function<void()>, 10> changes = {
+            [&] { plot.setBoxText(allTextBoxes[below(allTextBoxes.size())], text()); },
+            [&] {
+                plot.moveBox(allTextBoxes[below(allTextBoxes.size())], value() * 100,
+                             value() * 100);
+            },
+            [&] { plot.setHeaderTop(value()); },
+            [&] { writeLegend(plot, 8 + value()); },
+            [&] { plot.setCaption(text()); },
+            [&] { plot.SetScale(0, 100 + value(), 0, value(), 0, -value()); },
+            [&] { plot.fitFreq(); },
+            [&] { plot.AddRef(value(), text()); },
+            [&] {
+                plot.setDampLines({{value(), text()}, {value(), text()}});
+            },
+            [&] {
+                plot.RemoveRef();
+                plot.setVthicks(static_cast<std::int16_t>(1 + below(9)));
+                plot.setVLabel(text());
+            }};
+        changes[below(changes.size())]();
+    }
+
+    EVM& m_evolution;
+    std::mt19937 m_random;
+};
+
+} // namespace
+
+TEST_F(UndoHistoryTest, takesStepsBackAndMakesThemAgain)
+{
+    change("Raise Modes", [&] { mdlData::raiseModes(plot.rows(), {0, 2}); });
+    change("Type Mode", [&] { plot.rows().setMode(id(1), 99); });
+    EXPECT_EQ(history.steps().undoText(), QStringLiteral("Type Mode"));
+    history.undo();
+    history.undo();
+    EXPECT_FALSE(history.steps().canUndo());
+    EXPECT_EQ(plot.rows().at(0).mode, 1);
+    EXPECT_EQ(history.steps().redoText(), QStringLiteral("Raise Modes"));
+    history.undo(); // there is nothing more
+    history.redo();
+    EXPECT_EQ(plot.rows().at(0).mode, 2);
+    EXPECT_EQ(plot.rows().at(1).mode, 2);
+    history.redo();
+    EXPECT_FALSE(plot.rows().at(1).hasCurve());
+    history.redo();
+    EXPECT_FALSE(history.steps().canRedo());
+}
+
+TEST_F(UndoHistoryTest, putsRowsBackWithTheirIdsAndLooks)
+{
+    changeSeries(plot, 1, [](Series& one) { one.LineWidth = 7; });
+    plot.rows().setMode(id(2), 42);
+    const PlotRows::Rows before = plot.rows().all();
+    change("Remove", [&] { plot.rows().remove({1, 2}); });
+    history.undo();
+    EXPECT_EQ(plot.rows().all(), before);
+}
+
+TEST_F(UndoHistoryTest, makesOneStepOfAllThatAChangeDoes)
+{
+    change("Fill Legend", [&] {
+        mdlData::fillLegends(plot.rows(), {}, 0);
+        change("within", [&] { plot.setBoxText(TextBox::Legend, QStringLiteral("legend")); });
+    });
+    EXPECT_EQ(history.steps().count(), 1);
+    history.undo();
+    EXPECT_EQ(plot.SeriesCollection()[2].LegendText, QString());
+    EXPECT_TRUE(plot.Legend().isEmpty());
+}
+
+TEST_F(UndoHistoryTest, makesNoStepOfAChangeThatChangesNothing)
+{
+    change("Lower Modes", [] {});
+    change("Reset Colors", [&] { mdlData::resetColors(plot.rows()); });
+    EXPECT_EQ(history.steps().count(), 0);
+}
+
+TEST_F(UndoHistoryTest, leavesNothingOfAChangeThatFails)
+{
+    change("Raise Modes", [&] { mdlData::raiseModes(plot.rows(), {0}); });
+    history.undo();
+    const auto before = snapshot();
+    EXPECT_EQ(errorNumberOf([&] {
+                  change("Move", [&] {
+                      plot.rows().remove({0});
+                      plot.AddRef(300, QStringLiteral("Vd"));
+                      plot.setBoxText(TextBox::Header, QStringLiteral("header"));
+                      plot.SerieMove(1, 9);
+                  });
+              }),
+              ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(snapshot(), before);
+    EXPECT_TRUE(history.steps().canRedo()) << "what was undone can still be made again";
+    history.redo();
+    EXPECT_EQ(plot.rows().at(0).mode, 2);
+}
+
+TEST_F(UndoHistoryTest, joinsChangesThatBelongTogether)
+{
+    const auto type = [&](int size) {
+        change(
+            "Marker Size",
+            [&, size] { changeSeries(plot, 0, [size](Series& one) { one.MarkerSize = size; }); },
+            UndoHistory::Joining::Yes);
+    };
+    type(1);
+    type(12);
+    EXPECT_EQ(history.steps().count(), 1);
+    change("Remove", [&] { plot.rows().remove({2}); });
+    type(13);
+    EXPECT_EQ(history.steps().count(), 3) << "something else came between";
+    history.undo();
+    history.undo();
+    EXPECT_EQ(plot.SeriesCollection()[0].MarkerSize, 12);
+    history.undo();
+    EXPECT_EQ(plot.SeriesCollection()[0].MarkerSize, 8);
+    type(7);
+    type(8); // as before
+    EXPECT_EQ(history.steps().count(), 0);
+}
+
+TEST_F(UndoHistoryTest, makesStepsOfChangesThatAreMadePastIt)
+{
+    change("Raise Modes", [&] { mdlData::raiseModes(plot.rows(), {0}); });
+    const auto raised = snapshot();
+    plot.setCaption(QStringLiteral("past the history"));
+    const auto renamed = snapshot();
+    history.undo();
+    EXPECT_EQ(snapshot(), raised);
+    history.redo();
+    EXPECT_EQ(snapshot(), renamed);
+    plot.AddRef(300, QStringLiteral("Vd"));
+    change("Raise Modes", [&] { mdlData::raiseModes(plot.rows(), {1}); });
+    EXPECT_EQ(history.steps().count(), 4);
+    history.undo();
+    history.undo();
+    EXPECT_EQ(snapshot(), renamed);
+    history.undo();
+    plot.AddRef(400, QStringLiteral("VL")); // the plot goes on from here
+    history.redo();
+    EXPECT_EQ(plot.Refs().size(), 1U);
+    EXPECT_FALSE(history.steps().canRedo());
+    history.undo();
+    EXPECT_EQ(snapshot(), raised);
+}
+
+TEST_F(UndoHistoryTest, goesOnWhenOnlyTheSizeOfThePlotIsAnother)
+{
+    change("Raise Modes", [&] { mdlData::raiseModes(plot.rows(), {0}); });
+    plot.resize({1200, 500});
+    history.undo();
+    EXPECT_EQ(plot.rows().at(0).mode, 1);
+}
+
+TEST_F(UndoHistoryTest, bringsTheSamePictureBack)
+{
+    plot.AddDampLine(-0.02F, QStringLiteral("g"));
+    const QImage before = plot.Image().copy();
+    change("Everything", [&] {
+        plot.SetScale(0, 300, 0, 9, 0, -0.1F); // the damping line keeps its ends
+        mdlData::resetColors(plot.rows());
+        plot.rows().remove({0});
+        plot.setBoxText(TextBox::Legend, QStringLiteral("legend"));
+        plot.moveBox(TextBox::Legend, 3000, 3000);
+        plot.setHeaderTop(900);
+        plot.AddRef(200, QStringLiteral("Vd"));
+    });
+    const QImage after = plot.Image().copy();
+    EXPECT_NE(after, before);
+    history.undo();
+    EXPECT_EQ(plot.Image(), before);
+    history.redo();
+    EXPECT_EQ(plot.Image(), after);
+}
+
+/// Ten thousand changes of two plots, some of which fail, beside a list of what they were.
+TEST_F(UndoHistoryTest, isExactUnderAnyChanges)
+{
+    constexpr std::size_t mostSteps = 200;
+    for (const unsigned seed : {1U, 20261122U}) {
+        history.clear();
+        RandomUser user(evolution, seed);
+        std::deque<std::vector<Snapshot>> states {snapshot()};
+        std::size_t now = 0; // index of the present state
+        for (int i = 0; i < 5000; ++i) {
+            const std::size_t action = user.below(6);
+            if (action == 0) {
+                history.undo();
+                now -= now > 0 ? 1 : 0;
+            } else if (action == 1) {
+                history.redo();
+                now += now + 1 < states.size() ? 1 : 0;
+            } else {
+                EvmPlot& changed = plots[user.below(2)];
+                const bool fails = action == 2;
+                const auto error = errorNumberOf([&] {
+                    history.change(changed, QStringLiteral("any"), [&] {
+                        user.change(changed);
+                        if (fails)
+                            throw RunTimeError(ErrorNumber::Overflow, "test", "on purpose");
+                    });
+                });
+                ASSERT_EQ(error.has_value(), fails) << seed << " " << i;
+                if (!fails && snapshot() != states[now]) {
+                    states.resize(now + 1);
+                    states.push_back(snapshot());
+                    now = states.size() - 1;
+                }
+            }
+            if (states.size() > mostSteps + 1) {
+                states.pop_front();
+                --now;
+            }
+            ASSERT_EQ(snapshot(), states[now]) << seed << " " << i;
+            ASSERT_EQ(static_cast<std::size_t>(history.steps().index()), now) << seed << " " << i;
+        }
+    }
+}
