@@ -81,6 +81,21 @@ std::string listOf(const std::vector<std::int16_t>& modes)
     return text;
 }
 
+/// Adds what the real stretches of a root say.
+void judge(const RootStretches& root, StabilityVerdict& verdict)
+{
+    for (const Stretch& stretch : root.found.stretches) {
+        if (stretch.height != StretchHeight::Real)
+            continue;
+        if (!stretch.start) {
+            verdict.unstableFromFirst.push_back(root.mode);
+        } else if (!verdict.lowest || stretch.start->speed < verdict.lowest->speed) {
+            verdict.lowest = stretch.start;
+            verdict.lowestMode = root.mode;
+        }
+    }
+}
+
 } // namespace
 
 std::vector<RootStretches> stabilityOf(const EVM& evolution, const StabilitySettings& settings)
@@ -100,18 +115,8 @@ StabilityVerdict verdictOf(const std::vector<RootStretches>& roots, float level)
     StabilityVerdict verdict;
     verdict.level = level;
     for (const RootStretches& root : roots) {
-        if (root.level != level)
-            continue;
-        for (const Stretch& stretch : root.found.stretches) {
-            if (stretch.height != StretchHeight::Real)
-                continue;
-            if (!stretch.start) {
-                verdict.unstableFromFirst.push_back(root.mode);
-            } else if (!verdict.lowest || stretch.start->speed < verdict.lowest->speed) {
-                verdict.lowest = stretch.start;
-                verdict.lowestMode = root.mode;
-            }
-        }
+        if (root.level == level)
+            judge(root, verdict);
     }
     return verdict;
 }

@@ -38,7 +38,9 @@ public:
     std::optional<std::int16_t> modeNumber() const { return m_modeNumber; }
     std::optional<float> speed() const
     {
-        return m_hasSpeed ? std::optional(m_point->speed) : std::nullopt;
+        if (!m_hasSpeed)
+            return std::nullopt;
+        return m_point->speed;
     }
 
 private:
