@@ -26,11 +26,11 @@ struct EvolutionFormat
     /// Reads all evolutions of a file from its first line on. Errors: those of the stream, and the
     /// first thing that is wrong in the file. A file that is cut short, or disagrees with its
     /// counts, is read as far as it goes.
-    Evolutions (*read)(TextStream& stream);
+    Evolutions (&read)(TextStream& stream);
 
     /// Collects what is doubtful in a file. The stream must hold the whole text, which is not
     /// empty.
-    void (*check)(TextStream& stream, FindingList& findings);
+    void (&check)(TextStream& stream, FindingList& findings);
 };
 
 /// `EvolutionFormat::read` of a format with one evolution in each file; `fill` reads it into an

@@ -24,7 +24,7 @@ constexpr bool hasFilterOfItsExtension(const EvolutionFormat& format)
 constexpr bool isComplete(const EvolutionFormat& format)
 {
     return !format.name.empty() && !format.title.empty() && format.extension.starts_with('.')
-        && hasFilterOfItsExtension(format) && format.read != nullptr && format.check != nullptr;
+        && hasFilterOfItsExtension(format);
 }
 
 constexpr bool areComplete()
@@ -49,7 +49,7 @@ constexpr bool areDistinct()
     return true;
 }
 
-static_assert(areComplete(), "a format lacks a member, or its filter shows another extension");
+static_assert(areComplete(), "a format lacks a text, or its filter shows another extension");
 static_assert(areDistinct(), "a format is hidden by one before it");
 
 } // namespace
