@@ -12,10 +12,10 @@ void checkEv2(TextStream& stream, FindingList& findings);
 
 /// The new format.
 inline constexpr EvolutionFormat ev2Format {"ev2",
-                                     "sections (.ev2)",
-                                     ".ev2",
-                                     "New Modal Evolution Files (*.ev2)|*.ev2|",
-                                     readOne<readEv2>,
-                                     checkEv2};
+                                            "sections (.ev2)",
+                                            ".ev2",
+                                            "New Modal Evolution Files (*.ev2)|*.ev2|",
+                                            readOne<readEv2>,
+                                            checkEv2};
 
 } // namespace tarsil

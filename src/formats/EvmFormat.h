@@ -12,10 +12,10 @@ void checkEvm(TextStream& stream, FindingList& findings);
 
 /// The old format.
 inline constexpr EvolutionFormat evmFormat {"evm",
-                                     "fixed columns (.evm)",
-                                     ".evm",
-                                     "Modal Evolution Files (*.evm)|*.evm|",
-                                     readOne<readEvm>,
-                                     checkEvm};
+                                            "fixed columns (.evm)",
+                                            ".evm",
+                                            "Modal Evolution Files (*.evm)|*.evm|",
+                                            readOne<readEvm>,
+                                            checkEvm};
 
 } // namespace tarsil
