@@ -150,7 +150,7 @@ ImportedRun importRun(const SolverRun& run, const UnitChoice& units)
         for (ImportedMode& mode : imported.modes)
             sortByFallingReducedFrequency(mode);
         if (std::any_of(imported.modes.begin(), imported.modes.end(), turnsBack))
-            imported.log.push_back("speeds turn back in some roots: the solver's order is kept");
+            imported.log.emplace_back("speeds turn back in some roots: the solver's order is kept");
     } else {
         dropRepeatedRows(imported);
         for (ImportedMode& mode : imported.modes)
