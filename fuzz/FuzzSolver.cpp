@@ -40,14 +40,15 @@ void requireRun(const SolverRun& run)
 {
     for (const PrintedRoot& root : run.roots)
         fuzz::require(root.rows.size() == run.roots.front().rows.size(), "roots of equal length");
-    const ImportedRun imported = importRun(run, {});
-    for (const ImportedMode& mode : imported.modes)
-        fuzz::require(mode.points.size() == imported.modes.front().points.size(),
-                      "modes of equal length");
     try {
+        const ImportedRun imported = importRun(run, {});
+        for (const ImportedMode& mode : imported.modes)
+            fuzz::require(mode.points.size() == imported.modes.front().points.size(),
+                          "modes of equal length");
         fuzz::require(!ev2Text({}, imported.modes).empty(), "an evolution has a text");
     } catch (const RunTimeError& error) {
-        fuzz::require(error.number() == ErrorNumber::Overflow, "only counts are too large");
+        fuzz::require(error.number() == ErrorNumber::Overflow,
+                      "only counts and speeds are too large");
     }
 }
 

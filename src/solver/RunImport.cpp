@@ -1,7 +1,10 @@
 #include "solver/SolverRun.h"
 
+#include "base/user/RunTimeError.h"
+
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <map>
 #include <numbers>
 #include <string>
@@ -21,6 +24,15 @@ double sigmaOf(const SummaryRow& row, const SolverRun& run, const UnitChoice& un
     return density * units.density.factor;
 }
 
+/// Error 6 for a speed that no evolution can hold: of a negative density, or beyond a single.
+void requireSpeed(double keas, const SummaryRow& row)
+{
+    if (!(keas <= std::numeric_limits<float>::max()))
+        throw RunTimeError(ErrorNumber::Overflow, "solver",
+                           "line " + std::to_string(row.line)
+                               + ": speed and density give no equivalent airspeed");
+}
+
 ImportedPoint importRow(const SummaryRow& row, const SolverRun& run, const UnitChoice& units)
 {
     ImportedPoint point;
@@ -30,6 +42,7 @@ ImportedPoint importRow(const SummaryRow& row, const SolverRun& run, const UnitC
     point.mach = std::isnan(row.mach) ? run.key.mach.value_or(notPrinted) : row.mach;
     point.sigma = sigmaOf(row, run, units);
     point.keas = equivalentAirspeed(row.speed, std::isnan(point.sigma) ? 1 : point.sigma, units);
+    requireSpeed(point.keas, row);
     if (isReducedFrequencyMethod(run.key.method)) {
         // What these methods print as eigenvalue is scaled by the speed.
         point.re = std::numbers::pi * row.frequency * row.damping;

@@ -75,7 +75,8 @@ struct ImportedRun
 /// Converts speeds to KEAS. PK and PKNL: rows that repeat density, Mach number and speed (within
 /// 5e-4 of it) of an earlier one are dropped, and the others sorted by speed. K and KE: rows are in
 /// order of falling reduced frequency, nothing is dropped, and speeds may turn back. The solver's
-/// damping is kept, also where a root is static (frequency 0).
+/// damping is kept, also where a root is static (frequency 0). Error 6 "Overflow" for a row whose
+/// speed and density give no equivalent airspeed.
 ImportedRun importRun(const SolverRun& run, const UnitChoice& units);
 
 } // namespace tarsil::solver

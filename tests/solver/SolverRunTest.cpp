@@ -2,6 +2,7 @@
 
 #include "solver/PrintedPages.h"
 #include "solver/SummaryReader.h"
+#include "support/Errors.h"
 
 #include <gtest/gtest.h>
 
@@ -166,6 +167,14 @@ TEST(ImportedRun, ofMethodKeDropsNothingAndFollowsFallingReducedFrequency)
     // The printed eigenvalue is scaled by the speed: Re = pi f g, Im = 2 pi f.
     EXPECT_NEAR(imported.modes[0].points[1].re, std::numbers::pi * 4 * 0.02, 1e-12);
     EXPECT_NEAR(imported.modes[0].points[1].im, 2 * std::numbers::pi * 4, 1e-12);
+}
+
+TEST(ImportedRun, refusesSpeedsThatNoEvolutionCanHold)
+{
+    const auto negative = runsOfText(page(pointLine(1, "0.3000", "-1.0000E+00"), twoRows));
+    EXPECT_EQ(errorNumberOf([&] { importRun(negative.at(0), {}); }), ErrorNumber::Overflow);
+    const auto huge = runsOfText(page(pointLine(1), {row("1.0E+99")}));
+    EXPECT_EQ(errorNumberOf([&] { importRun(huge.at(0), {}); }), ErrorNumber::Overflow);
 }
 
 TEST(ImportedRun, keepsTheDampingOfStaticRoots)
