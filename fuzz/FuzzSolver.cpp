@@ -4,6 +4,7 @@
 
 #include "base/text/TextCodec.h"
 #include "base/user/RunTimeError.h"
+#include "model/EVM.h"
 #include "solver/Ev2Text.h"
 #include "solver/RunNames.h"
 #include "solver/SummaryReader.h"
@@ -45,7 +46,7 @@ void requireRun(const SolverRun& run)
         for (const ImportedMode& mode : imported.modes)
             fuzz::require(mode.points.size() == imported.modes.front().points.size(),
                           "modes of equal length");
-        fuzz::require(!ev2Text({}, imported.modes).empty(), "an evolution has a text");
+        fuzz::require(!ev2Text(EVM(), imported.modes).empty(), "an evolution has a text");
     } catch (const RunTimeError& error) {
         fuzz::require(error.number() == ErrorNumber::Overflow,
                       "only counts and speeds are too large");

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "model/EVM.h"
+#include "model/Param.h"
+#include "model/Provenance.h"
 
 #include <array>
 #include <cstddef>
@@ -29,12 +31,24 @@ struct Key
 
 using TextKey = Key<std::string, EVM>;
 using ParameterKey = Key<std::string, Param>;
+using ProvenanceKey = Key<std::string, Provenance>;
 using CountKey = Key<std::int16_t, EVM>;
 using ListKey = Key<KeyedTexts, Param>;
 
 inline constexpr std::array processingTexts = {TextKey {"Program_version", &EVM::programVersion},
                                                TextKey {"EV2_version", &EVM::ev2Version},
                                                TextKey {"Running_date", &EVM::runningDate}};
+
+/// Keys of imported evolutions, in the same section. With the first three of them the rows have
+/// Mach number and density in their fields 8 and 9, where other files hold other things.
+inline constexpr std::array provenanceTexts = {
+    ProvenanceKey {"Source", &Provenance::source},
+    ProvenanceKey {"Speed_unit", &Provenance::speedUnit},
+    ProvenanceKey {"Density", &Provenance::density},
+    ProvenanceKey {"Source_lines", &Provenance::sourceLines},
+    ProvenanceKey {"Vref", &Provenance::vref},
+    ProvenanceKey {"Import_log", &Provenance::log}};
+constexpr std::size_t keysOfImports = 3;
 
 inline constexpr std::array modelTexts = {TextKey {"Nastran_version", &EVM::solverVersion},
                                           TextKey {"Flutter_method", &EVM::flutterMethod}};
@@ -46,6 +60,8 @@ constexpr std::string_view machKey = "Mach_number";
 inline constexpr std::array modelCounts = {CountKey {"Struct_modes", &EVM::numberOfStructuralModes},
                                            CountKey {"Aeroel_modes", &EVM::na},
                                            CountKey {"No_of_speeds", &EVM::numberOfSpeeds}};
+
+constexpr std::string_view modificationCountKey = "No_of_modif"; ///< which readers ignore
 
 /// Every key that contains one of these adds its value to a list: "Modif(2)".
 inline constexpr std::array lists = {ListKey {"Modif", &Param::modifications},

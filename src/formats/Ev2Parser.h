@@ -7,6 +7,7 @@
 #include "formats/ResultRows.h"
 #include "model/Point.h"
 
+#include <bitset>
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
@@ -37,6 +38,7 @@ concept Ev2Sink = requires(Sink sink, std::string_view text, const ev2layout::Ke
         } -> std::same_as<bool>; // false: the line is passed over
     sink.setText(ev2layout::processingTexts[0], text);
     sink.setText(ev2layout::parameterTexts[0], text);
+    sink.setText(ev2layout::provenanceTexts[0], text);
     sink.setMach(float {});
     sink.setCount(ev2layout::modelCounts[0], number);
     sink.addToList(ev2layout::lists[0], text, entry); // its index
@@ -85,6 +87,7 @@ private:
     Sink& m_sink;
     ResultRows<Sink> m_rows;
     std::string_view m_headerMet; ///< a header met inside the section before it
+    std::bitset<ev2layout::keysOfImports> m_importKeys; ///< those met
 };
 
 template <Ev2Sink Sink>
@@ -133,12 +136,19 @@ bool Ev2Parser<Sink>::nextSectionLine(std::string_view& line)
     return false;
 }
 
-/// Here a second "=" ends the value.
+/// Here a second "=" ends the value, but for the keys of imports, whose values may be paths.
 template <Ev2Sink Sink>
 void Ev2Parser<Sink>::parseProcessingLine(const ev2layout::KeyValue& entry)
 {
     const auto [key, rest] = entry;
-    parseText(ev2layout::processingTexts, {key, rest.substr(0, rest.find('='))});
+    if (!parseText(ev2layout::provenanceTexts, entry)) {
+        parseText(ev2layout::processingTexts, {key, rest.substr(0, rest.find('='))});
+        return;
+    }
+    for (std::size_t i = 0; i < m_importKeys.size(); ++i) {
+        if (ev2layout::provenanceTexts[i].name == key)
+            m_importKeys.set(i);
+    }
 }
 
 template <Ev2Sink Sink>
@@ -247,6 +257,8 @@ void Ev2Parser<Sink>::parseRow(std::string_view line)
 {
     if (!m_rows.read(line))
         return;
+    if (m_importKeys.all())
+        m_rows.readConditions();
     const std::size_t step = ev2layout::factorStep(m_rows.fieldCount());
     m_sink.startFactors(m_rows.fieldCount(), step);
     for (std::size_t i = 0; step > 0 && i < ParticipationFactors::capacity; ++i)

@@ -34,6 +34,10 @@ public:
     {
         m_evolution.Param.*key.member = decodeText(value);
     }
+    void setText(const ev2layout::ProvenanceKey& key, std::string_view value)
+    {
+        m_evolution.provenance.*key.member = decodeText(value);
+    }
     void setMach(float mach) { m_evolution.Param.Mach = mach; }
     void setCount(const ev2layout::CountKey& key, std::optional<std::int16_t> count);
     void addToList(const ev2layout::ListKey& key, std::string_view index, const KeyValue& entry);

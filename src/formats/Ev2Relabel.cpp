@@ -12,8 +12,8 @@ namespace tarsil {
 
 namespace {
 
-constexpr std::string_view countKey = "No_of_modif";
-constexpr std::string_view listKey = "Modif";
+constexpr std::string_view countKey = ev2layout::modificationCountKey;
+constexpr std::string_view listKey = ev2layout::lists[0].name;
 
 /// Rows of one mode: their texts without the mode number, which is the same in all.
 struct ModeRows

@@ -45,6 +45,10 @@ std::string_view resultfield::content(std::size_t index)
         return "damping";
     case frequency:
         return "frequency";
+    case mach:
+        return "Mach number";
+    case sigma:
+        return "density ratio";
     default:
         return "participation factor";
     }

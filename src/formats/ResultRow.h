@@ -37,6 +37,8 @@ constexpr std::size_t speed = 5;
 constexpr std::size_t damping = 6;
 constexpr std::size_t frequency = 7;
 constexpr std::size_t fewest = 8; ///< fields of a row
+constexpr std::size_t mach = 8; ///< of imported evolutions
+constexpr std::size_t sigma = 9; ///< of imported evolutions
 constexpr std::size_t firstFactor = 10;
 constexpr std::size_t mostWithoutFactors = 11; ///< fields of a row
 

@@ -31,6 +31,9 @@ public:
     /// Reads a row except for its participation factors; false when it has too few fields.
     bool read(std::string_view line);
 
+    /// Reads Mach number and density of the row just read, those that it has.
+    void readConditions();
+
     /// Reads one more participation factor of the row just read; its field must be there.
     void readFactor(std::size_t index);
 
@@ -46,6 +49,7 @@ public:
 private:
     std::optional<std::int16_t> readModeNumber();
     bool single(std::size_t index, float& value);
+    void singleIfPresent(std::size_t index, float& value);
     void addWrongNumber(NumberStatus status, std::size_t index);
 
     Sink& m_sink;
@@ -76,6 +80,13 @@ bool ResultRows<Sink>::read(std::string_view line)
     single(resultfield::damping, point.G);
     single(resultfield::frequency, point.f);
     return true;
+}
+
+template <typename Sink>
+void ResultRows<Sink>::readConditions()
+{
+    singleIfPresent(resultfield::mach, m_point->mach);
+    singleIfPresent(resultfield::sigma, m_point->sigma);
 }
 
 template <typename Sink>
@@ -116,6 +127,13 @@ bool ResultRows<Sink>::single(std::size_t index, float& value)
     if (status != NumberStatus::Ok)
         addWrongNumber(status, index);
     return status == NumberStatus::Ok;
+}
+
+template <typename Sink>
+void ResultRows<Sink>::singleIfPresent(std::size_t index, float& value)
+{
+    if (index < m_row.count() && !m_row.field(index).empty())
+        single(index, value);
 }
 
 template <typename Sink>

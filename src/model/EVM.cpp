@@ -27,6 +27,7 @@ void EVM::Change(const EVM& source)
     copy.solverVersion = solverVersion;
     copy.flutterMethod = flutterMethod;
     copy.Param = Param;
+    copy.provenance = provenance;
     takeContents(copy);
 }
 
@@ -53,6 +54,7 @@ void EVM::takeContents(EVM& source)
     solverVersion = std::move(source.solverVersion);
     flutterMethod = std::move(source.flutterMethod);
     Param = std::move(source.Param);
+    provenance = std::move(source.provenance);
 }
 
 void EVM::takeFileContents(EVM& source)

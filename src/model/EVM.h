@@ -2,6 +2,7 @@
 
 #include "model/AeMode.h"
 #include "model/Param.h"
+#include "model/Provenance.h"
 
 #include <cstdint>
 #include <memory>
@@ -37,6 +38,9 @@ public:
     std::string flutterMethod;
 
     tarsil::Param Param;
+
+    /// Where an imported evolution comes from; the points of one carry Mach number and density.
+    Provenance provenance;
 
     /// What the file said of the parameters that users may change; `Param` has them as they are
     /// now.

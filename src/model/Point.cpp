@@ -20,8 +20,8 @@ void Point::Clone(const Point& source)
     speed = source.speed;
     G = source.G;
     f = source.f;
-    spare1 = source.spare1;
-    spare2 = source.spare2;
+    mach = source.mach;
+    sigma = source.sigma;
     ParticipationFactors factors;
     for (const float factor : source.mpf)
         factors.append(factor);

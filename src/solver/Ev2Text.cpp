@@ -1,13 +1,20 @@
 #include "solver/Ev2Text.h"
 
+#include "base/numbers/Numbers.h"
 #include "base/text/TextCodec.h"
 #include "base/user/RunTimeError.h"
+#include "formats/Ev2Layout.h"
+#include "model/EVM.h"
 
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <iterator>
 #include <limits>
 #include <string_view>
+#include <utility>
 
 namespace tarsil::solver {
 
@@ -49,10 +56,18 @@ public:
         m_text.append(key).append("=").append(encodeText(value)).push_back('\n');
     }
 
-    void list(std::string_view key, const std::vector<std::string>& texts)
+    /// A line for each of the keys, with the values that they have in `owner`.
+    template <typename Keys, typename Owner>
+    void texts(const Keys& keys, const Owner& owner)
     {
-        for (std::size_t i = 0; i < texts.size(); ++i)
-            keyValue(std::string(key) + "(" + std::to_string(i + 1) + ")", texts[i]);
+        for (const auto& key : keys)
+            keyValue(key.name, owner.*key.member);
+    }
+
+    void list(const ev2layout::ListKey& key, const Param& parameters)
+    {
+        for (const KeyedTexts::Entry& entry : parameters.*key.member)
+            keyValue(std::string(key.name) + "(" + entry.key + ")", entry.text);
     }
 
     void field(double value)
@@ -74,39 +89,29 @@ private:
     std::string m_text;
 };
 
-void writeProcessing(Ev2Writer& writer, const Ev2Header& header)
+void writeProcessing(Ev2Writer& writer, const EVM& header)
 {
-    writer.line("[PROCESSING DATA INFO]");
-    writer.keyValue("Program_version", header.programVersion);
-    writer.keyValue("EV2_version", "2");
-    writer.keyValue("Running_date", header.runningDate);
-    for (const auto& [key, value] : header.furtherKeys)
-        writer.keyValue(key, value);
+    writer.line(ev2layout::processingHeader);
+    writer.texts(ev2layout::processingTexts, header);
+    writer.texts(ev2layout::provenanceTexts, header.provenance);
     writer.line("");
 }
 
-void writeModel(Ev2Writer& writer, const Ev2Header& header, const std::vector<ImportedMode>& modes)
+void writeModel(Ev2Writer& writer, const EVM& header, const std::vector<ImportedMode>& modes)
 {
-    const std::string modeCount = std::to_string(modes.size());
-    writer.line("[MODEL DATA INFO]");
-    writer.keyValue("Nastran_version", header.solverVersion);
-    writer.keyValue("Flutter_method", header.flutterMethod);
-    writer.keyValue("Airplane", header.airplane);
-    writer.keyValue("Script", header.script);
-    writer.keyValue("Mass_config", header.massConfiguration);
-    if (header.mach) {
-        Ev2Writer number;
-        number.field(*header.mach);
-        writer.keyValue("Mach_number", number.text().substr(0, number.text().size() - 1));
-    }
-    writer.keyValue("Struct_modes", modeCount);
-    writer.keyValue("Aeroel_modes", modeCount);
-    writer.keyValue("No_of_speeds",
-                    std::to_string(modes.empty() ? 0 : modes.front().points.size()));
-    writer.keyValue("Analysis_type", header.analysisType);
-    writer.keyValue("No_of_modif", std::to_string(header.modifications.size()));
-    writer.list("Modif", header.modifications);
-    writer.list("Legend", header.legends);
+    const std::size_t speeds = modes.empty() ? 0 : modes.front().points.size();
+    writer.line(ev2layout::modelHeader);
+    writer.texts(ev2layout::modelTexts, header);
+    writer.texts(ev2layout::parameterTexts, header.Param);
+    if (header.Param.Mach != 0)
+        writer.keyValue(ev2layout::machKey, shortestText(header.Param.Mach));
+    for (const ev2layout::CountKey& key : ev2layout::modelCounts)
+        writer.keyValue(key.name,
+                        std::to_string(key.member == &EVM::numberOfSpeeds ? speeds : modes.size()));
+    writer.keyValue(ev2layout::modificationCountKey,
+                    std::to_string(header.Param.modifications.size()));
+    for (const ev2layout::ListKey& key : ev2layout::lists)
+        writer.list(key, header.Param);
     writer.line("");
 }
 
@@ -123,7 +128,7 @@ void writeRow(Ev2Writer& writer, const ImportedMode& mode, std::size_t index)
 
 } // namespace
 
-std::string ev2Text(const Ev2Header& header, const std::vector<ImportedMode>& modes)
+std::string ev2Text(const EVM& header, const std::vector<ImportedMode>& modes)
 {
     requireCountable(modes);
     constexpr std::string_view headings =
@@ -132,7 +137,7 @@ std::string ev2Text(const Ev2Header& header, const std::vector<ImportedMode>& mo
     Ev2Writer writer;
     writeProcessing(writer, header);
     writeModel(writer, header, modes);
-    writer.line("[RESULT DATA SUMMARY]");
+    writer.line(ev2layout::resultHeader);
     writer.line(std::string(headings.size(), '-'));
     writer.line(headings);
     writer.line(units);

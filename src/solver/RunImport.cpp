@@ -24,13 +24,28 @@ double sigmaOf(const SummaryRow& row, const SolverRun& run, const UnitChoice& un
     return density * units.density.factor;
 }
 
-/// Error 6 for a speed that no evolution can hold: of a negative density, or beyond a single.
-void requireSpeed(double keas, const SummaryRow& row)
+[[noreturn]] void refuse(const SummaryRow& row, const std::string& reason)
 {
-    if (!(keas <= std::numeric_limits<float>::max()))
-        throw RunTimeError(ErrorNumber::Overflow, "solver",
-                           "line " + std::to_string(row.line)
-                               + ": speed and density give no equivalent airspeed");
+    throw RunTimeError(ErrorNumber::Overflow, "solver",
+                       "line " + std::to_string(row.line) + ": " + reason);
+}
+
+bool isBeyondSingles(double value)
+{
+    return std::abs(value) > std::numeric_limits<float>::max();
+}
+
+/// Error 6 for what no evolution can hold: the speed of a negative density, or a value beyond
+/// singles.
+void requireSingles(const ImportedPoint& point, const SummaryRow& row)
+{
+    if (std::isnan(point.keas) || isBeyondSingles(point.keas))
+        refuse(row, "speed and density give no equivalent airspeed");
+    for (const double value :
+         {point.re, point.im, point.damping, point.frequency, point.mach, point.sigma}) {
+        if (isBeyondSingles(value))
+            refuse(row, "a value is too large for an evolution");
+    }
 }
 
 ImportedPoint importRow(const SummaryRow& row, const SolverRun& run, const UnitChoice& units)
@@ -42,7 +57,6 @@ ImportedPoint importRow(const SummaryRow& row, const SolverRun& run, const UnitC
     point.mach = std::isnan(row.mach) ? run.key.mach.value_or(notPrinted) : row.mach;
     point.sigma = sigmaOf(row, run, units);
     point.keas = equivalentAirspeed(row.speed, std::isnan(point.sigma) ? 1 : point.sigma, units);
-    requireSpeed(point.keas, row);
     if (isReducedFrequencyMethod(run.key.method)) {
         // What these methods print as eigenvalue is scaled by the speed.
         point.re = std::numbers::pi * row.frequency * row.damping;
@@ -51,6 +65,7 @@ ImportedPoint importRow(const SummaryRow& row, const SolverRun& run, const UnitC
         point.re = row.re;
         point.im = row.im;
     }
+    requireSingles(point, row);
     return point;
 }
 

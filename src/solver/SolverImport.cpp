@@ -3,6 +3,8 @@
 #include "base/files/PathNames.h"
 #include "base/numbers/Numbers.h"
 #include "base/user/RunTimeError.h"
+#include "model/EVM.h"
+#include "model/Provenance.h"
 #include "solver/Ev2Text.h"
 #include "solver/RunNames.h"
 #include "solver/SummaryReader.h"
@@ -29,14 +31,6 @@ std::optional<double> commonMach(const ImportedRun& imported)
     return mach;
 }
 
-std::string joined(const std::vector<std::string>& lines)
-{
-    std::string text;
-    for (const std::string& line : lines)
-        text += (text.empty() ? "" : "; ") + line;
-    return text;
-}
-
 /// The log of the file's lines that belong to a run, then those of the run.
 std::vector<std::string> logOf(const SolverOutput& output, const SolverRun& run,
                                const ImportedRun& imported)
@@ -59,29 +53,36 @@ std::string legendOf(const SolverRun& run)
     return run.label + ", " + subcase;
 }
 
-Ev2Header headerOf(const SolverOutput& output, const SolverRun& run, const ImportedRun& imported,
-                   const UnitChoice& units, const ImportTexts& texts)
+void fillHeader(const SolverRun& run, const ImportedRun& imported, const ImportTexts& texts,
+                EVM& header)
 {
-    Ev2Header header;
     header.programVersion = texts.programVersion;
+    header.ev2Version = "2";
     header.runningDate = run.date;
     header.solverVersion = run.banner;
     header.flutterMethod = run.key.method;
-    header.airplane = texts.airplane.empty() ? run.title : texts.airplane;
-    header.script = run.subtitle;
-    header.massConfiguration = texts.massConfiguration;
-    header.mach = commonMach(imported);
-    header.analysisType = "Flutter";
+    header.Param.Airplane = texts.airplane.empty() ? run.title : texts.airplane;
+    header.Param.Script = run.subtitle;
+    header.Param.Mass = texts.massConfiguration;
+    header.Param.Mach = static_cast<float>(commonMach(imported).value_or(0));
+    header.Param.AnalysisType = "Flutter";
     if (const std::string legend = legendOf(run); !legend.empty())
-        header.legends.push_back(legend);
-    header.furtherKeys = {
-        {"Source", output.path},
-        {"Source_lines", std::to_string(run.firstLine) + "-" + std::to_string(run.lastLine)},
-        {"Speed_unit", std::string(units.speed.name) + (units.isEquivalent ? " (equivalent)" : "")},
-        {"Vref", shortestText(units.vref)},
-        {"Density", std::string(units.density.name)},
-        {"Import_log", joined(logOf(output, run, imported))}};
-    return header;
+        header.Param.legends.add("1", legend);
+}
+
+Provenance provenanceOf(const SolverOutput& output, const SolverRun& run,
+                        const ImportedRun& imported, const UnitChoice& units)
+{
+    Provenance provenance;
+    provenance.source = output.path;
+    provenance.sourceLines = std::to_string(run.firstLine) + "-" + std::to_string(run.lastLine);
+    provenance.speedUnit = units.speed.name;
+    if (units.isEquivalent)
+        provenance.speedUnit += " (equivalent)";
+    provenance.vref = shortestText(units.vref);
+    provenance.density = units.density.name;
+    provenance.setLogEntries(logOf(output, run, imported));
+    return provenance;
 }
 
 std::string stemOf(std::string_view path)
@@ -123,7 +124,10 @@ std::string evolutionText(const SolverOutput& output, std::size_t run, const Uni
                                + ": the summary has no density, so that its speeds cannot be "
                                  "turned into equivalent airspeeds");
     const ImportedRun imported = importRun(source, units);
-    return ev2Text(headerOf(output, source, imported, units, texts), imported.modes);
+    EVM header;
+    fillHeader(source, imported, texts, header);
+    header.provenance = provenanceOf(output, source, imported, units);
+    return ev2Text(header, imported.modes);
 }
 
 } // namespace tarsil::solver

@@ -76,7 +76,7 @@ struct ImportedRun
 /// 5e-4 of it) of an earlier one are dropped, and the others sorted by speed. K and KE: rows are in
 /// order of falling reduced frequency, nothing is dropped, and speeds may turn back. The solver's
 /// damping is kept, also where a root is static (frequency 0). Error 6 "Overflow" for a row whose
-/// speed and density give no equivalent airspeed.
+/// speed and density give no equivalent airspeed, or with a value that no single can hold.
 ImportedRun importRun(const SolverRun& run, const UnitChoice& units);
 
 } // namespace tarsil::solver

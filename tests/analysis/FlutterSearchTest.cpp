@@ -94,7 +94,7 @@ TEST(Crossings, interpolateRealPartReducedFrequencyAndFactorsOnly)
     after.kfreq = 0.75F;
     before.im = 3;
     after.im = 5;
-    before.spare1 = before.spare2 = after.spare1 = after.spare2 = 7;
+    before.mach = before.sigma = after.mach = after.sigma = 7;
     before.mpf.append(10);
     before.mpf.append(0.5F);
     after.mpf.append(20);
@@ -109,8 +109,8 @@ TEST(Crossings, interpolateRealPartReducedFrequencyAndFactorsOnly)
     EXPECT_EQ(found.mpf[1], 1.0F);
     EXPECT_EQ(found.im, 0.0F);
     EXPECT_EQ(found.G, 0.0F);
-    EXPECT_EQ(found.spare1, 0.0F);
-    EXPECT_EQ(found.spare2, 0.0F);
+    EXPECT_EQ(found.mach, 0.0F);
+    EXPECT_EQ(found.sigma, 0.0F);
 }
 
 TEST(Crossings, takeTheFactorsThatBothPointsHave)

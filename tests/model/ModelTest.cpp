@@ -56,8 +56,8 @@ TEST(Point, copiesItsEightValuesFactorsAndParentOnClone)
     source.speed = 4;
     source.G = 5;
     source.f = 6;
-    source.spare1 = 7;
-    source.spare2 = 8;
+    source.mach = 7;
+    source.sigma = 8;
     source.mpf.append(0.5F);
     source.mpf.append(0.25F);
     source.Parent = &mode;
@@ -70,8 +70,8 @@ TEST(Point, copiesItsEightValuesFactorsAndParentOnClone)
     EXPECT_EQ(copy.speed, 4);
     EXPECT_EQ(copy.G, 5);
     EXPECT_EQ(copy.f, 6);
-    EXPECT_EQ(copy.spare1, 7);
-    EXPECT_EQ(copy.spare2, 8);
+    EXPECT_EQ(copy.mach, 7);
+    EXPECT_EQ(copy.sigma, 8);
     ASSERT_EQ(copy.mpf.size(), 2U);
     EXPECT_EQ(copy.mpf[0], 0.5F);
     EXPECT_EQ(copy.mpf[1], 0.25F);

@@ -1,7 +1,6 @@
 #include "solver/SolverImport.h"
 
 #include "base/user/RunTimeError.h"
-#include "solver/Ev2Text.h"
 #include "solver/PrintedPages.h"
 #include "support/TestFiles.h"
 
@@ -127,14 +126,4 @@ TEST(UnitEvidence, isNothingWithoutATable)
     EXPECT_THAT(output.runs, IsEmpty());
     EXPECT_FALSE(output.evidence.chord);
     EXPECT_THAT(evidenceText(output.evidence, output.file), IsEmpty());
-}
-
-TEST(Ev2Text, refusesWhatAnEvolutionCannotCount)
-{
-    std::vector<ImportedMode> modes(1);
-    modes[0].id = 40000;
-    EXPECT_THROW(ev2Text({}, modes), RunTimeError);
-    modes[0].id = 1;
-    modes[0].points.resize(40000);
-    EXPECT_THROW(ev2Text({}, modes), RunTimeError);
 }
