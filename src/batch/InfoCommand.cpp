@@ -31,7 +31,25 @@ void writeTexts(JsonWriter& json, std::string_view name, const KeyedTexts& texts
     json.endArray();
 }
 
-void writePoint(JsonWriter& json, const Point& point)
+/// Where an imported evolution comes from.
+void writeProvenance(JsonWriter& json, const Provenance& provenance)
+{
+    json.key("imported");
+    json.beginObject();
+    json.text("source", provenance.source);
+    json.text("source_lines", provenance.sourceLines);
+    json.text("speed_unit", provenance.speedUnit);
+    json.text("vref", provenance.vref);
+    json.text("density", provenance.density);
+    json.key("log");
+    json.beginArray();
+    for (const std::string& entry : provenance.logEntries())
+        json.text(entry);
+    json.endArray();
+    json.endObject();
+}
+
+void writePoint(JsonWriter& json, const Point& point, bool isImported)
 {
     json.beginObject();
     json.number("speed", point.speed);
@@ -40,6 +58,10 @@ void writePoint(JsonWriter& json, const Point& point)
     json.number("kfreq", point.kfreq);
     json.number("re", point.re);
     json.number("im", point.im);
+    if (isImported) {
+        json.number("mach", point.mach);
+        json.number("sigma", point.sigma);
+    }
     json.key("mpf");
     json.beginArray();
     for (const float factor : point.mpf)
@@ -59,7 +81,7 @@ void writeModes(JsonWriter& json, const EVM& evolution, bool withPoints)
         if (withPoints) {
             json.beginArray();
             for (const Point& point : mode->Points)
-                writePoint(json, point);
+                writePoint(json, point, evolution.provenance.isImported());
             json.endArray();
         } else {
             json.number(std::to_string(mode->Points.size()));
@@ -89,6 +111,8 @@ void writeEvolution(JsonWriter& json, const EVM& evolution, bool withPoints)
     json.number("aeroel_modes", std::to_string(evolution.na));
     json.number("speeds", std::to_string(evolution.numberOfSpeeds));
     json.boolean("participation_factors", evolution.hasParticipationFactors);
+    if (evolution.provenance.isImported())
+        writeProvenance(json, evolution.provenance);
     writeTexts(json, "modifications", evolution.Param.modifications);
     writeTexts(json, "legends", evolution.Param.legends);
     writeModes(json, evolution, withPoints);
@@ -106,6 +130,16 @@ void printJson(const std::vector<const EVM*>& evolutions, bool withPoints, std::
     json.endArray();
     json.endObject();
     out << '\n';
+}
+
+void printProvenance(const Provenance& provenance, std::ostream& out)
+{
+    printLine(out, "imported from", provenance.source);
+    printLine(out, "its lines", provenance.sourceLines);
+    printLine(out, "printed speeds", provenance.speedUnit + ", vref " + provenance.vref);
+    printLine(out, "printed densities", provenance.density);
+    for (const std::string& entry : provenance.logEntries())
+        printLine(out, "import", entry);
 }
 
 void printHeader(const EVM& evolution, std::ostream& out)
@@ -128,23 +162,30 @@ void printHeader(const EVM& evolution, std::ostream& out)
     printLine(out, "modes declared", std::to_string(evolution.na));
     printLine(out, "speeds declared", std::to_string(evolution.numberOfSpeeds));
     printLine(out, "participation factors", evolution.hasParticipationFactors ? "yes" : "no");
+    if (evolution.provenance.isImported())
+        printProvenance(evolution.provenance, out);
     for (const KeyedTexts::Entry& entry : evolution.Param.modifications)
         printLine(out, "modification " + entry.key, entry.text);
     for (const KeyedTexts::Entry& entry : evolution.Param.legends)
         printLine(out, "legend " + entry.key, entry.text);
 }
 
-void printPoints(const AeMode& mode, bool hasFactors, std::ostream& out)
+void printPoints(const EVM& evolution, const AeMode& mode, std::ostream& out)
 {
+    const bool isImported = evolution.provenance.isImported();
     std::vector<std::string> headings = {"speed (KEAS)",  "g",         "f (Hz)",
                                          "reduced freq.", "real part", "imag. part"};
-    if (hasFactors)
+    if (isImported)
+        headings.insert(headings.end(), {"Mach number", "density ratio"});
+    if (evolution.hasParticipationFactors)
         headings.insert(headings.end(), {"MPF(1)", "MPF(2)", "MPF(3)", "MPF(4)", "MPF(5)"});
     printRow(out, wideColumn, headings);
     for (const Point& point : mode.Points) {
         std::vector<std::string> cells;
         for (const float value : {point.speed, point.G, point.f, point.kfreq, point.re, point.im})
             cells.push_back(shortestText(value));
+        if (isImported)
+            cells.insert(cells.end(), {shortestText(point.mach), shortestText(point.sigma)});
         for (const float factor : point.mpf)
             cells.push_back(shortestText(factor));
         printRow(out, wideColumn, cells);
@@ -167,7 +208,7 @@ void printModes(const EVM& evolution, bool withPoints, std::ostream& out)
         }
         out << "\n  position " << ++position << ", mode " << number << ", " << count
             << (count == "1" ? " point\n" : " points\n");
-        printPoints(*mode, evolution.hasParticipationFactors, out);
+        printPoints(evolution, *mode, out);
     }
 }
 

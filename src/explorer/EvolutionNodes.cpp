@@ -5,10 +5,12 @@
 #include "document/EvolutionList.h"
 #include "explorer/ExplorerNode.h"
 #include "model/EVM.h"
+#include "model/Provenance.h"
 
 #include <QList>
 
 #include <iterator>
+#include <string>
 
 namespace tarsil {
 
@@ -19,6 +21,10 @@ constexpr QLatin1String massSuffix("_mass");
 constexpr QLatin1String machSuffix("_mach");
 constexpr QLatin1String methodSuffix("_method");
 constexpr QLatin1String legendSuffix("_legend");
+constexpr QLatin1String sourceSuffix("_source");
+constexpr QLatin1String solverSuffix("_solver");
+constexpr QLatin1String unitsSuffix("_units");
+constexpr QLatin1String importLogSuffix("_importlog");
 
 QTreeWidgetItem* addGroup(QTreeWidgetItem& node, const QString& key, const char* text)
 {
@@ -28,6 +34,31 @@ QTreeWidgetItem* addGroup(QTreeWidgetItem& node, const QString& key, const char*
 void addValue(QTreeWidgetItem& group, const QString& text, bool isEditable)
 {
     append(group, makeValueNode(text, isEditable));
+}
+
+void addValue(QTreeWidgetItem& group, const std::string& text)
+{
+    addValue(group, QString::fromStdString(text), false);
+}
+
+/// The groups that only imported evolutions have.
+void addProvenance(QTreeWidgetItem& node, const EVM& evolution, const QString& key)
+{
+    const Provenance& provenance = evolution.provenance;
+    QTreeWidgetItem& source = *addGroup(node, key + sourceSuffix, "Imported From");
+    addValue(source, shownPath(provenance.source));
+    addValue(source, "lines " + provenance.sourceLines);
+    addValue(*addGroup(node, key + solverSuffix, "Solver"), evolution.solverVersion);
+    QTreeWidgetItem& units = *addGroup(node, key + unitsSuffix, "Printed Units");
+    addValue(units, "speed: " + provenance.speedUnit);
+    addValue(units, "vref: " + provenance.vref);
+    addValue(units, "density: " + provenance.density);
+    const std::vector<std::string> entries = provenance.logEntries();
+    if (entries.empty())
+        return;
+    QTreeWidgetItem& log = *addGroup(node, key + importLogSuffix, "Import Log");
+    for (const std::string& entry : entries)
+        addValue(log, entry);
 }
 
 } // namespace
@@ -166,6 +197,8 @@ void EvolutionNodes::addGroups(QTreeWidgetItem& node, const EVM& evolution, cons
     QTreeWidgetItem* const legend = addGroup(node, key + legendSuffix, "Legend");
     for (const auto& mode : evolution.Modes)
         addValue(*legend, QStringLiteral("Mode %1").arg(mode->Id), false);
+    if (evolution.provenance.isImported())
+        addProvenance(node, evolution, key);
 }
 
 /// The evolution's path. Who adds evolutions keeps paths apart; should two be the same all the

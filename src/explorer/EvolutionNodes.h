@@ -18,7 +18,8 @@ class EvolutionList;
 enum class EvolutionValue { None, Airplane, Mass, Mach };
 
 /// The nodes of the modal evolutions, children of one folder. Each has a check box and, under it,
-/// the groups "Airplane", "Mass Conf.", "Mach No.", "Method" and "Legend" with their values. An
+/// the groups "Airplane", "Mass Conf.", "Mach No.", "Method" and "Legend" with their values; an
+/// imported one also has "Imported From", "Solver", "Printed Units" and "Import Log". An
 /// evolution's key is its path; the keys of its groups are that with a suffix.
 class EvolutionNodes
 {

@@ -40,8 +40,8 @@ public:
     float speed = 0; ///< equivalent airspeed, knots (KEAS)
     float G = 0; ///< damping g, dimensionless; negative is stable
     float f = 0; ///< frequency, Hz
-    float mach = 0; ///< Mach number, and
-    float sigma = 0; ///< density over that at sea level; of imported evolutions; else 0
+    float mach = 0; ///< Mach number; imported evolutions only
+    float sigma = 0; ///< density over that at sea level; imported evolutions only, 0: not printed
     ParticipationFactors mpf;
     AeMode* Parent = nullptr; ///< the mode that holds this point; not owned
 

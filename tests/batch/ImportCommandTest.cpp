@@ -45,8 +45,24 @@ TEST_F(ImportCommand, writesEachAnalysisAsAnEvolution)
     // The ordinary commands read it.
     const auto info = runBatch({"info", file("wing_s1_M0.30.ev2")});
     EXPECT_EQ(info.status, 0);
-    EXPECT_THAT(info.out, HasSubstr("GLIDER"));
+    EXPECT_THAT(info.out,
+                AllOf(HasSubstr("GLIDER"), HasSubstr("wing.f06"), HasSubstr("m/s, vref 1")));
     EXPECT_EQ(runBatch({"check", file("wing_s1_M0.30.ev2")}).status, 0);
+}
+
+TEST_F(ImportCommand, keepsMachNumberAndDensityOfEachPoint)
+{
+    runBatch(
+        {"import", "--speed-unit", "m/s", "--output", folder().path().string(), writeSummary()});
+    const auto info = runBatch({"info", "--json", "--points", file("wing_s1_M0.30.ev2")});
+    const QJsonObject evolution = QJsonDocument::fromJson(QByteArray::fromStdString(info.out))
+                                      .object()["files"_L1][0]
+                                      .toObject();
+    const QJsonValue point = evolution["modes"_L1][0]["points"_L1][1];
+    EXPECT_EQ(point["mach"_L1].toDouble(), 0.3);
+    EXPECT_EQ(point["sigma"_L1].toDouble(), 1.0);
+    EXPECT_EQ(evolution["imported"_L1]["speed_unit"_L1].toString(), "m/s"_L1);
+    EXPECT_EQ(evolution["imported"_L1]["source_lines"_L1].toString(), "4-12"_L1);
 }
 
 TEST_F(ImportCommand, asksForTheUnitWithWhatTheFileProves)

@@ -33,6 +33,26 @@ TEST_F(WndEvolExplorerTest, listsAnEvolutionWithItsParameters)
     EXPECT_EQ(taggedEvolution(&node(key + "_mach")), nullptr);
 }
 
+TEST_F(WndEvolExplorerTest, listsWhereAnImportedEvolutionComesFrom)
+{
+    OwnedEvolutions loaded;
+    EVM& evolution = *loaded.emplace_back(std::make_unique<EVM>());
+    evolution.FileName = "wing_s1.ev2";
+    evolution.solverVersion = "MSC Nastran  3/11/18";
+    evolution.provenance = {"/runs/wing.f06", "12-480", "ft/s", "1", "ratio", "a row; a cut"};
+    document.evolutions().add(std::move(loaded));
+    EXPECT_THAT(childTexts(evolutionNode(evolution)),
+                ElementsAre("Airplane", "Mass Conf.", "Mach No.", "Method", "Legend",
+                            "Imported From", "Solver", "Printed Units", "Import Log"));
+    const std::string key = evolution.path();
+    EXPECT_THAT(childTexts(node(key + "_source")), ElementsAre("/runs/wing.f06", "lines 12-480"));
+    EXPECT_THAT(childTexts(node(key + "_solver")), ElementsAre("MSC Nastran  3/11/18"));
+    EXPECT_THAT(childTexts(node(key + "_units")),
+                ElementsAre("speed: ft/s", "vref: 1", "density: ratio"));
+    EXPECT_THAT(childTexts(node(key + "_importlog")), ElementsAre("a row", "a cut"));
+    EXPECT_FALSE(retype(valueOf(key + "_source"), "elsewhere"));
+}
+
 TEST_F(WndEvolExplorerTest, listsNoEvolutionTwice)
 {
     load("a.evm");
