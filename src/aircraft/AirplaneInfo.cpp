@@ -4,6 +4,7 @@
 #include "base/files/InputFile.h"
 #include "base/files/PathNames.h"
 #include "base/files/TextStream.h"
+#include "base/numbers/NumberFormat.h"
 #include "base/text/AsciiText.h"
 
 #include <algorithm>
@@ -34,6 +35,11 @@ const Record* findNamed(const std::vector<Record>& records, std::string Record::
 
 } // namespace
 
+std::string envelopeName(float mach)
+{
+    return formatNumber(static_cast<double>(mach), "0.00#");
+}
+
 void AirplaneInfo::Create()
 {
     const FileBytes file(Filename);
@@ -57,6 +63,11 @@ const FlutterMechanism* AirplaneInfo::flutterMechanism(std::string_view shortNam
 const FlutterEnvelope* AirplaneInfo::flutterEnvelope(std::string_view name) const
 {
     return findNamed(FlutterEnvs, &FlutterEnvelope::name, name);
+}
+
+const FlutterEnvelope* AirplaneInfo::envelopeAtMach(float mach) const
+{
+    return flutterEnvelope(envelopeName(mach));
 }
 
 } // namespace tarsil

@@ -50,6 +50,9 @@ struct FlutterEnvelope
     bool operator==(const FlutterEnvelope&) const = default;
 };
 
+/// The name of the envelope of a Mach number.
+std::string envelopeName(float mach);
+
 /// What an aircraft information file (.inp) says about the aircraft whose flutter is examined. The
 /// collections are in file order and may hold a name more than once.
 class AirplaneInfo
@@ -77,6 +80,9 @@ public:
     const MassConf* massConf(std::string_view shortName) const;
     const FlutterMechanism* flutterMechanism(std::string_view shortName) const;
     const FlutterEnvelope* flutterEnvelope(std::string_view name) const;
+
+    /// The envelope of a Mach number, by its name (`envelopeName`).
+    const FlutterEnvelope* envelopeAtMach(float mach) const;
 };
 
 } // namespace tarsil

@@ -15,7 +15,14 @@ constexpr double squareOfSoundSpeed = 115794.8064; // at sea level, (m/s)^2
 constexpr double tropopauseRatio = 0.223358;
 constexpr double tropopauseAltitude = 36089; // ft
 constexpr double pressureExponent = 5.2561;
+constexpr double densityExponent = pressureExponent - 1;
 constexpr double zeroTemperatureAltitude = 288.15 / 0.0019812; // temperature over lapse rate, ft
+
+/// What the logarithm of the pressure, and so of the density, loses per foot above the tropopause.
+double decayPerFoot()
+{
+    return -4.8063 * std::pow(10.0, -5.0);
+}
 
 double metresPerSecond(double speed, std::string_view units)
 {
@@ -48,8 +55,16 @@ double IsaAltitude(double eas, double mach, std::string_view units)
         return (1 - std::pow(delta, 1 / pressureExponent)) * zeroTemperatureAltitude;
     if (delta == 0)
         fail(ErrorNumber::InvalidProcedureCall, eas, mach, units);
-    const double decay = -4.8063 * std::pow(10.0, -5.0); // per foot
-    return std::log(delta / tropopauseRatio) / decay + tropopauseAltitude;
+    return std::log(delta / tropopauseRatio) / decayPerFoot() + tropopauseAltitude;
+}
+
+double densityAltitude(double densityRatio)
+{
+    const double tropopauseTheta = 1 - tropopauseAltitude / zeroTemperatureAltitude;
+    const double atTropopause = std::pow(tropopauseTheta, densityExponent);
+    if (densityRatio > atTropopause)
+        return (1 - std::pow(densityRatio, 1 / densityExponent)) * zeroTemperatureAltitude;
+    return std::log(densityRatio / atTropopause) / decayPerFoot() + tropopauseAltitude;
 }
 
 } // namespace tarsil::ISA

@@ -15,4 +15,10 @@ namespace tarsil::ISA {
 /// for Mach 0, 5 for speed 0 (logarithm of 0), 6 for a ratio beyond the range of a double.
 double IsaAltitude(double eas, double mach, std::string_view units);
 
+/// The density altitude in feet: where the standard atmosphere has this density as a ratio to that
+/// at sea level, which must be greater than 0. Density is pressure over temperature of the same
+/// atmosphere: sigma = theta^4.2561 below the tropopause, 0.29707 exp(-4.8063e-5 (h - 36089))
+/// above.
+double densityAltitude(double densityRatio);
+
 } // namespace tarsil::ISA

@@ -17,6 +17,20 @@ void Sheet::setNumber(std::size_t row, std::size_t column, double number)
     reach(row, column) = number;
 }
 
+void Sheet::setRowStyle(std::size_t row, CellStyle style)
+{
+    if (row == 0)
+        throw RunTimeError(ErrorNumber::SubscriptOutOfRange, "Sheet", "row 0");
+    if (m_styles.size() < row)
+        m_styles.resize(row, CellStyle::Plain);
+    m_styles[row - 1] = style;
+}
+
+CellStyle Sheet::rowStyle(std::size_t row) const
+{
+    return row - 1 < m_styles.size() ? m_styles[row - 1] : CellStyle::Plain;
+}
+
 const Sheet::Cell& Sheet::cell(std::size_t row, std::size_t column) const
 {
     static const Cell empty;

@@ -66,11 +66,17 @@ std::string csvText(const Sheet& sheet)
 
 void writeSheet(const Sheet& sheet, std::string_view path)
 {
+    const Sheet* const only = &sheet;
+    writeSheets({&only, 1}, path);
+}
+
+void writeSheets(std::span<const Sheet* const> sheets, std::string_view path)
+{
     const std::string extension = lowerCaseExtension(path);
     if (extension == ".xlsx")
-        writeXlsx(sheet, path);
+        writeXlsx(sheets, path);
     else if (extension == ".csv")
-        writeFile(path, encodeText(csvText(sheet)));
+        writeFile(path, encodeText(csvText(*sheets.front())));
     else
         throw RunTimeError(ErrorNumber::InvalidProcedureCall, "SheetWriter",
                            std::string(path) + " ends neither in .xlsx nor in .csv");

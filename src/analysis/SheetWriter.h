@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string_view>
 
 namespace tarsil {
@@ -9,8 +10,9 @@ class Sheet;
 /// Writes the sheet to a file, whole or not at all. The extension of `path`, in any case, chooses
 /// the form:
 ///
-///     .xlsx  one sheet; numbers as numbers, every text as text (also one that begins with "=");
-///            the first row in bold and frozen; equal sheets give equal bytes
+///     .xlsx  numbers as numbers, every text as text (also one that begins with "="); rows in the
+///            colours of their styles; the first row in bold and frozen; equal sheets give equal
+///            bytes
 ///     .csv   commas between the cells, CR LF behind each row, double quotes around a text that
 ///            holds a comma, a quote or a line end; an apostrophe before a text that begins with
 ///            = + - @, a tab or a carriage return, so that it is shown and not run; a decimal
@@ -19,5 +21,9 @@ class Sheet;
 /// Errors: 5 for another extension, or a sheet or text beyond what a spreadsheet can hold; those of
 /// writing a file (57, 61, 70, 75, 76).
 void writeSheet(const Sheet& sheet, std::string_view path);
+
+/// The same for several sheets: a spreadsheet has all of them as pages, in their order; a text with
+/// commas, which has room for one table, has the first one.
+void writeSheets(std::span<const Sheet* const> sheets, std::string_view path);
 
 } // namespace tarsil

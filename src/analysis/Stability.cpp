@@ -1,63 +1,65 @@
 #include "analysis/Stability.h"
 
 #include "analysis/ModeTracking.h"
-#include "base/numbers/NumberFormat.h"
 #include "base/numbers/Numbers.h"
 #include "base/user/RunTimeError.h"
 #include "model/EVM.h"
 
 #include <algorithm>
-#include <cmath>
-#include <iterator>
 
 namespace tarsil {
 
 namespace {
 
-using RootPoints = std::vector<StabilityPoint>;
-
-StabilityPoint stabilityPoint(const Point& point)
+/// One root, with the points of the evolution that it follows.
+struct Root
 {
-    return {point.speed, point.G, point.f, false};
-}
+    std::vector<StabilityPoint> points;
+    std::vector<const Point*> sources;
 
-std::vector<RootPoints> printedRoots(const EVM& evolution)
+    void add(const Point& point)
+    {
+        points.push_back({point.speed, point.G, point.f, false});
+        sources.push_back(&point);
+    }
+};
+
+std::vector<Root> printedRoots(const EVM& evolution)
 {
-    std::vector<RootPoints> roots;
+    std::vector<Root> roots;
     for (const auto& mode : evolution.Modes) {
-        RootPoints& points = roots.emplace_back();
-        std::transform(mode->Points.begin(), mode->Points.end(), std::back_inserter(points),
-                       stabilityPoint);
+        Root& root = roots.emplace_back();
+        for (const Point& point : mode->Points)
+            root.add(point);
     }
     return roots;
 }
 
 /// Marks each step of a printed mode that the track which held it leaves, or doubts.
-void markJumps(const ModeTracking& tracking, std::vector<RootPoints>& roots)
+void markJumps(const ModeTracking& tracking, std::vector<Root>& roots)
 {
     for (std::size_t i = 0; i + 1 < tracking.points(); ++i) {
         for (std::size_t track = 0; track < tracking.tracks(); ++track) {
             const std::size_t mode = tracking.modeAt(i, track);
-            roots[mode][i].jumpsToNext =
+            roots[mode].points[i].jumpsToNext =
                 tracking.isMarked(i, track) || tracking.modeAt(i + 1, track) != mode;
         }
     }
 }
 
-std::vector<RootPoints> trackedRoots(const EVM& evolution, const ModeTracking& tracking)
+std::vector<Root> trackedRoots(const EVM& evolution, const ModeTracking& tracking)
 {
-    std::vector<RootPoints> roots(tracking.tracks());
+    std::vector<Root> roots(tracking.tracks());
     for (std::size_t track = 0; track < tracking.tracks(); ++track) {
         for (std::size_t i = 0; i < tracking.points(); ++i) {
-            const AeMode& mode = *evolution.Modes[tracking.modeAt(i, track)];
-            roots[track].push_back(stabilityPoint(mode.Points[i]));
-            roots[track].back().jumpsToNext = tracking.isMarked(i, track);
+            roots[track].add(evolution.Modes[tracking.modeAt(i, track)]->Points[i]);
+            roots[track].points.back().jumpsToNext = tracking.isMarked(i, track);
         }
     }
     return roots;
 }
 
-std::vector<RootPoints> rootsOf(const EVM& evolution, bool isTracked)
+std::vector<Root> rootsOf(const EVM& evolution, bool isTracked)
 {
     const std::optional<std::string> obstacle = ModeTracking::obstacle(evolution);
     if (obstacle && isTracked)
@@ -68,17 +70,31 @@ std::vector<RootPoints> rootsOf(const EVM& evolution, bool isTracked)
     const ModeTracking tracking(evolution);
     if (isTracked)
         return trackedRoots(evolution, tracking);
-    std::vector<RootPoints> roots = printedRoots(evolution);
+    std::vector<Root> roots = printedRoots(evolution);
     markJumps(tracking, roots);
     return roots;
 }
 
-std::string listOf(const std::vector<std::int16_t>& modes)
+/// Adds what the points beside a crossing say of it.
+void describe(std::optional<Crossing>& crossing, const Root& root, float mach)
 {
-    std::string text;
-    for (const std::int16_t mode : modes)
-        text += (text.empty() ? "" : ", ") + std::to_string(mode);
-    return text;
+    if (!crossing || !hasSpeed(*crossing))
+        return;
+    const Point& from = *root.sources[crossing->lower];
+    const Point& to = *root.sources[crossing->lower + 1];
+    crossing->condition = conditionBetween(from, to, crossing->part, crossing->speed, mach);
+    crossing->dominant = dominantFactorBetween(from, to, crossing->part);
+}
+
+LevelStretches describedStretches(const Root& root, float level, const StretchLimits& limits,
+                                  float mach)
+{
+    LevelStretches found = stretchesAbove(root.points, level, limits);
+    for (Stretch& stretch : found.stretches) {
+        describe(stretch.start, root, mach);
+        describe(stretch.end, root, mach);
+    }
+    return found;
 }
 
 /// Adds what the real stretches of a root say.
@@ -98,16 +114,42 @@ void judge(const RootStretches& root, StabilityVerdict& verdict)
 
 } // namespace
 
-std::vector<RootStretches> stabilityOf(const EVM& evolution, const StabilitySettings& settings)
+std::vector<float> levelsOf(std::string_view text)
 {
-    const std::vector<RootPoints> roots = rootsOf(evolution, settings.isTracked);
+    std::vector<float> levels;
+    while (true) {
+        const std::size_t end = std::min(text.find(','), text.size());
+        const float level = toSingle(text.substr(0, end), "Stability", "level of damping");
+        if (std::find(levels.begin(), levels.end(), level) == levels.end())
+            levels.push_back(level);
+        if (end == text.size())
+            return levels;
+        text.remove_prefix(end + 1);
+    }
+}
+
+std::vector<RootStretches> stabilityOf(const EVM& evolution, const StabilitySettings& settings,
+                                       float mach)
+{
+    const std::vector<Root> roots = rootsOf(evolution, settings.isTracked);
+    const float usedMach = evolution.Param.Mach > 0 ? evolution.Param.Mach : mach;
     std::vector<RootStretches> result;
     for (const float level : settings.levels) {
         for (std::size_t i = 0; i < roots.size(); ++i)
-            result.push_back(
-                {evolution.Modes[i]->Id, level, stretchesAbove(roots[i], level, settings.limits)});
+            result.push_back({evolution.Modes[i]->Id, level,
+                              describedStretches(roots[i], level, settings.limits, usedMach)});
     }
     return result;
+}
+
+float lastSpeedOf(const EVM& evolution)
+{
+    float last = 0;
+    for (const auto& mode : evolution.Modes) {
+        for (const Point& point : mode->Points)
+            last = std::max(last, point.speed);
+    }
+    return last;
 }
 
 StabilityVerdict verdictOf(const std::vector<RootStretches>& roots, float level)
@@ -119,67 +161,6 @@ StabilityVerdict verdictOf(const std::vector<RootStretches>& roots, float level)
             judge(root, verdict);
     }
     return verdict;
-}
-
-std::string verdictText(const StabilityVerdict& verdict, float lastSpeed)
-{
-    if (!verdict.unstableFromFirst.empty())
-        return "unstable from the first speed: modes " + listOf(verdict.unstableFromFirst);
-    if (!verdict.lowest)
-        return "no instability up to " + speedText(lastSpeed) + " KEAS";
-    const Crossing& start = *verdict.lowest;
-    const std::string mode =
-        ", mode " + std::to_string(verdict.lowestMode) + " (" + nameOf(start.confidence) + ")";
-    if (start.kind == CrossingKind::Mixed || start.jumps)
-        return "between " + speedText(start.fromSpeed) + " and " + speedText(start.toSpeed)
-            + " KEAS, different roots" + mode;
-    return formatNumber(start.speed, "0.00") + " KEAS, " + formatNumber(start.frequency, "0.00")
-        + " Hz, " + nameOf(start.kind) + mode;
-}
-
-std::string speedText(double speed)
-{
-    constexpr double hundredths = 100;
-    return shortestText(std::round(speed * hundredths) / hundredths);
-}
-
-std::string nameOf(CrossingKind kind)
-{
-    switch (kind) {
-    case CrossingKind::Flutter:
-        return "flutter";
-    case CrossingKind::Divergence:
-        return "divergence";
-    case CrossingKind::Mixed:
-        return "mixed";
-    }
-    return {};
-}
-
-std::string nameOf(Confidence confidence)
-{
-    switch (confidence) {
-    case Confidence::A:
-        return "A";
-    case Confidence::B:
-        return "B";
-    case Confidence::C:
-        return "C";
-    }
-    return {};
-}
-
-std::string nameOf(StretchHeight height)
-{
-    switch (height) {
-    case StretchHeight::Noise:
-        return "noise";
-    case StretchHeight::Weak:
-        return "weak";
-    case StretchHeight::Real:
-        return "real";
-    }
-    return {};
 }
 
 } // namespace tarsil

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tarsil {
@@ -18,6 +19,10 @@ struct StabilitySettings
     bool isTracked = false; ///< follow the roots instead of the printed modes
 };
 
+/// The levels in a text with commas between them, each once, in its order. Error 13 for a part that
+/// is no number, 6 for one that no single can hold; both name the part.
+std::vector<float> levelsOf(std::string_view text);
+
 /// The stretches of one root above one level.
 struct RootStretches
 {
@@ -28,9 +33,15 @@ struct RootStretches
 
 /// Where the roots of an evolution are above each level: level by level, in order of the modes.
 /// Crossings jump where the tracking continues the root elsewhere or doubts its step; an evolution
-/// that cannot be tracked has no jumps. Error 5 when tracked roots are asked for and the evolution
-/// cannot be tracked (`ModeTracking::obstacle`).
-std::vector<RootStretches> stabilityOf(const EVM& evolution, const StabilitySettings& settings);
+/// that cannot be tracked has no jumps. Those with a speed (`hasSpeed`) have their flight condition
+/// and their dominant factor; `mach` is the Mach number of an evolution that holds none, 0 when it
+/// is not known. Error 5 when tracked roots are asked for and the evolution cannot be tracked
+/// (`ModeTracking::obstacle`).
+std::vector<RootStretches> stabilityOf(const EVM& evolution, const StabilitySettings& settings,
+                                       float mach = 0);
+
+/// The largest speed (KEAS) of all points; 0 when there is none.
+float lastSpeedOf(const EVM& evolution);
 
 /// What the stretches of a level say of a whole evolution.
 struct StabilityVerdict
@@ -43,17 +54,5 @@ struct StabilityVerdict
 
 /// The verdict on one level; stretches that are weak or noise do not count.
 StabilityVerdict verdictOf(const std::vector<RootStretches>& roots, float level);
-
-/// The verdict in a line: "266.24 KEAS, 11.15 Hz, mode 2 (A)", "unstable from the first speed:
-/// modes 2, 3" or "no instability up to 420 KEAS".
-std::string verdictText(const StabilityVerdict& verdict, float lastSpeed);
-
-/// A speed of a point in KEAS, to a hundredth: "266.5".
-std::string speedText(double speed);
-
-/// "flutter", "divergence", "mixed"; "A", "B", "C"; "noise", "weak", "real".
-std::string nameOf(CrossingKind kind);
-std::string nameOf(Confidence confidence);
-std::string nameOf(StretchHeight height);
 
 } // namespace tarsil

@@ -1,11 +1,15 @@
 #include "analysis/StabilitySheet.h"
 
 #include "analysis/Sheet.h"
+#include "analysis/StabilityTexts.h"
+#include "base/files/FileFacts.h"
+#include "base/files/PathNames.h"
 #include "base/numbers/Numbers.h"
+#include "base/user/RunTimeError.h"
 #include "model/EVM.h"
 
-#include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace tarsil {
 
@@ -13,73 +17,61 @@ namespace {
 
 enum Column : std::size_t {
     File = 1,
-    Mode,
     Level,
-    StartSpeed,
-    StartFrequency,
+    Mode,
+    Finding,
     Kind,
+    StartSpeed,
+    Doubt,
+    StartFrequency,
     ConfidenceClass,
+    Altitude,
+    AltitudeSource,
+    Mach,
     EndSpeed,
     EndFrequency,
     Peak,
     PeakSpeed,
+    PeakFrequency,
+    Factor,
+    FactorValue,
     Remark
 };
 
 constexpr std::array<std::string_view, Remark> headings = {
-    "File",       "Mode",       "Level",    "Start (KEAS)", "Start (Hz)", "Kind",
-    "Confidence", "End (KEAS)", "End (Hz)", "Peak g",       "at (KEAS)",  "Remark"};
+    "File",          "Level (g)", "Mode",        "Finding",    "Kind",
+    "Start (KEAS)",  "+- (KEAS)", "Start (Hz)",  "Confidence", "Altitude (ft)",
+    "Altitude from", "Mach No.",  "End (KEAS)",  "End (Hz)",   "Peak (g)",
+    "Peak (KEAS)",   "Peak (Hz)", "Largest MPF", "MPF value",  "Remark"};
 
-/// A stretch with the root and level that it belongs to.
-struct Line
+/// What the words and colours mean, a row each.
+struct Explanation
 {
-    const RootStretches* root;
-    const Stretch* stretch;
+    std::string_view word;
+    std::string_view meaning;
+    CellStyle style = CellStyle::Quiet;
 };
 
-double startOf(const Line& line)
-{
-    return line.stretch->start ? line.stretch->start->speed : -1;
-}
-
-float lastSpeedOf(const EVM& evolution)
-{
-    float last = 0;
-    for (const auto& mode : evolution.Modes) {
-        for (const Point& point : mode->Points)
-            last = std::max(last, point.speed);
-    }
-    return last;
-}
-
-bool hasNumber(const Crossing& crossing)
-{
-    return crossing.kind != CrossingKind::Mixed && !crossing.jumps;
-}
-
-std::string intervalText(std::string_view what, const Crossing& crossing)
-{
-    return std::string(what) + " between " + speedText(crossing.fromSpeed) + " and "
-        + speedText(crossing.toSpeed) + " KEAS, different roots";
-}
-
-/// What the cells of a stretch do not say.
-std::string remarkOf(const Stretch& stretch)
-{
-    std::vector<std::string> parts;
-    if (!stretch.start)
-        parts.emplace_back("unstable from the first speed");
-    else if (!hasNumber(*stretch.start))
-        parts.push_back(intervalText("starts", *stretch.start));
-    if (!stretch.end)
-        parts.emplace_back("up to the last speed");
-    else
-        parts.push_back(hasNumber(*stretch.end) ? "hump" : intervalText("ends", *stretch.end));
-    std::string text;
-    for (const std::string& part : parts)
-        text += (text.empty() ? "" : "; ") + part;
-    return text;
-}
+constexpr std::array<Explanation, 16> explanations = {{
+    {"all modes", "Every mode of a file is judged here, drawn in a plot or not."},
+    {"stretch", "Speeds in which one mode has more damping g than a level; g > 0 is unstable."},
+    {"becomes unstable", "The stretch has a start and goes up to the last speed."},
+    {"hump", "The stretch has a start and an end: the mode becomes stable again."},
+    {"becomes stable", "Unstable from the first speed on, up to the end of the stretch.",
+     CellStyle::Bad},
+    {"unstable throughout", "Unstable at every speed.", CellStyle::Bad},
+    {"flutter, divergence", "The root oscillates on both sides of the start, or on neither."},
+    {"mixed", "It oscillates on one side only: nothing can be interpolated.", CellStyle::Warning},
+    {"A", "The points beside the start are near, and a curve and a straight line agree."},
+    {"B", "They are far apart, or curve and line differ; +- is by how much."},
+    {"C", "The root jumps or changes its kind: different roots, only the interval holds.",
+     CellStyle::Warning},
+    {"altitude from density", "Where the standard atmosphere has the density of the points."},
+    {"altitude from Mach", "Where the start's speed belongs to the Mach number."},
+    {"outside", "Beyond -2,000 to 65,617 ft: no flight has this speed and Mach number."},
+    {"noise, weak", "Stretches that rise no higher than the two limits; counted, not listed."},
+    {"Flutter (first sheet)", "Lists every crossing, up and down, noise and jumps as well."},
+}};
 
 class StabilityWriter
 {
@@ -87,12 +79,17 @@ public:
     explicit StabilityWriter(Sheet& sheet) : m_sheet(sheet) { }
 
     void writeHeadings();
-    void write(const EVM& evolution, const StabilitySettings& settings);
+    void write(const EvolutionStability& stability);
+    void writeOrigin(const StabilityReport& report);
 
 private:
-    void writeVerdict(const EVM& evolution, const StabilityVerdict& verdict);
-    void writeLine(const EVM& evolution, const Line& line);
-    void writeCrossing(const Crossing& crossing, std::size_t speedColumn);
+    void writeVerdict(const EvolutionStability& stability, const StabilityVerdict& verdict);
+    void writeMargin(const EvolutionStability& stability);
+    void writeLine(const EvolutionStability& stability, const StabilityLine& line);
+    void writeStart(const Crossing& start);
+    void writeSource(const EVM& evolution);
+    void beginRow(std::string_view first, CellStyle style);
+    void writeNote(std::string_view first, std::string_view text, CellStyle style);
 
     Sheet& m_sheet;
     std::size_t m_row = 1;
@@ -104,77 +101,152 @@ void StabilityWriter::writeHeadings()
         m_sheet.setText(m_row, i + 1, headings[i]);
 }
 
-void StabilityWriter::writeVerdict(const EVM& evolution, const StabilityVerdict& verdict)
+void StabilityWriter::beginRow(std::string_view first, CellStyle style)
 {
     ++m_row;
-    m_sheet.setText(m_row, File, evolution.FileName);
+    m_sheet.setText(m_row, File, first);
+    m_sheet.setRowStyle(m_row, style);
+}
+
+void StabilityWriter::writeNote(std::string_view first, std::string_view text, CellStyle style)
+{
+    beginRow(first, style);
+    m_sheet.setText(m_row, Finding, text);
+}
+
+CellStyle styleOf(const StabilityVerdict& verdict)
+{
+    if (!verdict.unstableFromFirst.empty())
+        return CellStyle::Bad;
+    return verdict.lowest ? CellStyle::Strong : CellStyle::Good;
+}
+
+void StabilityWriter::writeVerdict(const EvolutionStability& stability,
+                                   const StabilityVerdict& verdict)
+{
+    writeNote(stability.evolution->FileName, verdictText(verdict, stability.lastSpeed),
+              styleOf(verdict));
     m_sheet.setNumber(m_row, Level, decimalValue(verdict.level));
-    m_sheet.setText(m_row, Remark, verdictText(verdict, lastSpeedOf(evolution)));
 }
 
-void StabilityWriter::writeCrossing(const Crossing& crossing, std::size_t speedColumn)
+void StabilityWriter::writeMargin(const EvolutionStability& stability)
 {
-    if (!hasNumber(crossing))
+    const Margin& margin = *stability.margin;
+    writeNote(stability.evolution->FileName, marginText(margin),
+              margin.passes ? CellStyle::Good : CellStyle::Bad);
+    m_sheet.setNumber(m_row, Level, decimalValue(margin.required.requirement.level));
+}
+
+std::string altitudeSource(const FlightCondition& condition)
+{
+    const std::string source = condition.isFromDensity ? "density" : "Mach";
+    return isOutsideAtmosphere(*condition.altitude) ? source + ", outside" : source;
+}
+
+void StabilityWriter::writeStart(const Crossing& start)
+{
+    m_sheet.setText(m_row, Kind, nameOf(start.kind));
+    m_sheet.setText(m_row, ConfidenceClass, nameOf(start.confidence));
+    if (!hasSpeed(start))
         return;
-    m_sheet.setNumber(m_row, speedColumn, crossing.speed);
-    m_sheet.setNumber(m_row, speedColumn + 1, crossing.frequency);
+    m_sheet.setNumber(m_row, StartSpeed, start.speed);
+    m_sheet.setNumber(m_row, Doubt, std::fabs(start.speedOnCurve - start.speed));
+    m_sheet.setNumber(m_row, StartFrequency, start.frequency);
+    if (start.condition.altitude) {
+        m_sheet.setNumber(m_row, Altitude, *start.condition.altitude);
+        m_sheet.setText(m_row, AltitudeSource, altitudeSource(start.condition));
+    }
+    if (start.condition.mach)
+        m_sheet.setNumber(m_row, Mach, *start.condition.mach);
+    if (start.dominant) {
+        m_sheet.setNumber(m_row, Factor, static_cast<double>(start.dominant->number));
+        m_sheet.setNumber(m_row, FactorValue, start.dominant->value);
+    }
 }
 
-void StabilityWriter::writeLine(const EVM& evolution, const Line& line)
+CellStyle styleOf(const Stretch& stretch)
 {
-    const Stretch& stretch = *line.stretch;
-    ++m_row;
-    m_sheet.setText(m_row, File, evolution.FileName);
-    m_sheet.setNumber(m_row, Mode, line.root->mode);
-    m_sheet.setNumber(m_row, Level, decimalValue(line.root->level));
-    if (stretch.start) {
-        writeCrossing(*stretch.start, StartSpeed);
-        m_sheet.setText(m_row, Kind, nameOf(stretch.start->kind));
-        m_sheet.setText(m_row, ConfidenceClass, nameOf(stretch.start->confidence));
-    }
-    if (stretch.end)
-        writeCrossing(*stretch.end, EndSpeed);
-    m_sheet.setNumber(m_row, Peak, stretch.peak);
-    m_sheet.setNumber(m_row, PeakSpeed, stretch.peakSpeed);
-    m_sheet.setText(m_row, Remark, remarkOf(stretch));
+    if (!stretch.start)
+        return CellStyle::Bad;
+    return hasSpeed(*stretch.start) ? CellStyle::Plain : CellStyle::Warning;
 }
 
-void StabilityWriter::write(const EVM& evolution, const StabilitySettings& settings)
+void StabilityWriter::writeLine(const EvolutionStability& stability, const StabilityLine& line)
 {
-    const std::vector<RootStretches> roots = stabilityOf(evolution, settings);
-    std::vector<Line> lines;
-    std::size_t noise = 0;
-    std::size_t weak = 0;
-    for (const RootStretches& root : roots) {
-        for (const Stretch& stretch : root.found.stretches) {
-            if (stretch.height == StretchHeight::Real)
-                lines.push_back({&root, &stretch});
-            else
-                ++(stretch.height == StretchHeight::Noise ? noise : weak);
-        }
+    const Stretch& stretch = line.stretch;
+    writeNote(stability.evolution->FileName, directionText(stretch), styleOf(stretch));
+    m_sheet.setNumber(m_row, Mode, line.mode);
+    m_sheet.setNumber(m_row, Level, decimalValue(line.level));
+    if (stretch.start)
+        writeStart(*stretch.start);
+    if (stretch.end && hasSpeed(*stretch.end)) {
+        m_sheet.setNumber(m_row, EndSpeed, stretch.end->speed);
+        m_sheet.setNumber(m_row, EndFrequency, stretch.end->frequency);
     }
-    for (const float level : settings.levels)
-        writeVerdict(evolution, verdictOf(roots, level));
-    std::stable_sort(lines.begin(), lines.end(),
-                     [](const Line& a, const Line& b) { return startOf(a) < startOf(b); });
-    for (const Line& line : lines)
-        writeLine(evolution, line);
+    m_sheet.setNumber(m_row, Peak, decimalValue(static_cast<float>(stretch.peak)));
+    m_sheet.setNumber(m_row, PeakSpeed, decimalValue(static_cast<float>(stretch.peakSpeed)));
+    m_sheet.setNumber(m_row, PeakFrequency,
+                      decimalValue(static_cast<float>(stretch.peakFrequency)));
+    m_sheet.setText(m_row, Remark, remarkText(stretch));
+}
+
+void StabilityWriter::write(const EvolutionStability& stability)
+{
+    const std::string& file = stability.evolution->FileName;
+    if (!stability.obstacle.empty()) {
+        writeNote(file, "cannot be tracked: " + stability.obstacle, CellStyle::Warning);
+        return;
+    }
+    for (const StabilityVerdict& verdict : stability.verdicts)
+        writeVerdict(stability, verdict);
+    if (stability.margin)
+        writeMargin(stability);
+    for (const StabilityLine& line : stability.lines)
+        writeLine(stability, line);
+    writeNote(file, leftOutText(stability.noise, stability.weak), CellStyle::Quiet);
+}
+
+/// The file as it is now; why not, where it cannot be read.
+std::string factsText(const EVM& evolution)
+{
+    try {
+        const FileFacts facts = factsOf(evolution.path());
+        return std::to_string(facts.size) + " bytes, " + facts.modified + " UTC, SHA-256 "
+            + facts.sha256;
+    } catch (const RunTimeError& error) {
+        return error.description();
+    }
+}
+
+void StabilityWriter::writeSource(const EVM& evolution)
+{
+    writeNote(evolution.FileName, factsText(evolution), CellStyle::Quiet);
+    m_sheet.setText(m_row, Remark, wholePath(evolution.path()));
+}
+
+void StabilityWriter::writeOrigin(const StabilityReport& report)
+{
     ++m_row;
-    m_sheet.setText(m_row, File, evolution.FileName);
-    m_sheet.setText(m_row, Remark,
-                    std::to_string(noise) + " noise, " + std::to_string(weak)
-                        + " weak stretches left out");
+    writeNote("Settings", settingsText(report.settings), CellStyle::Strong);
+    writeNote("Program", report.program, CellStyle::Strong);
+    writeNote("Source files", "as they are now", CellStyle::Strong);
+    for (const EvolutionStability& stability : report.evolutions)
+        writeSource(*stability.evolution);
+    ++m_row;
+    writeNote("How to read this", "", CellStyle::Strong);
+    for (const Explanation& explanation : explanations)
+        writeNote(explanation.word, explanation.meaning, explanation.style);
 }
 
 } // namespace
 
-void writeStability(const std::vector<const EVM*>& evolutions, const StabilitySettings& settings,
-                    Sheet& sheet)
+void writeStability(const StabilityReport& report, Sheet& sheet)
 {
     StabilityWriter writer(sheet);
     writer.writeHeadings();
-    for (const EVM* evolution : evolutions)
-        writer.write(*evolution, settings);
+    for (const EvolutionStability& stability : report.evolutions)
+        writer.write(stability);
+    writer.writeOrigin(report);
 }
 
 } // namespace tarsil

@@ -95,14 +95,16 @@ Crossing StretchSearch::crossing(std::size_t before, std::size_t after) const
     Crossing result;
     result.fromSpeed = from.speed;
     result.toSpeed = to.speed;
+    result.lower = before;
     if (after - before > 1) {
+        result.part = 1;
         result.speed = m_points[before + 1].speed;
         result.frequency = m_points[before + 1].frequency;
     } else {
-        const double part = above(before) / (above(before) - above(after));
-        result.speed = from.speed + part * (static_cast<double>(to.speed) - from.speed);
+        result.part = above(before) / (above(before) - above(after));
+        result.speed = from.speed + result.part * (static_cast<double>(to.speed) - from.speed);
         result.frequency =
-            from.frequency + part * (static_cast<double>(to.frequency) - from.frequency);
+            from.frequency + result.part * (static_cast<double>(to.frequency) - from.frequency);
     }
     result.speedOnCurve = speedOnCurve(after, result.speed);
     if (isStatic(before) != isStatic(after))

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "analysis/FlightCondition.h"
+
 #include <cstddef>
 #include <optional>
 #include <span>
@@ -37,11 +39,21 @@ struct Crossing
     double frequency = 0; ///< Hz, likewise
     double fromSpeed = 0; ///< of the point before
     double toSpeed = 0; ///< of the point after
+    std::size_t lower = 0; ///< index of the point from which the straight line goes to the next one
+    double part = 0; ///< of the way between the two, 0 to 1
     double speedOnCurve = 0; ///< a yardstick for the straight line, never the answer
     CrossingKind kind = CrossingKind::Flutter;
     Confidence confidence = Confidence::B;
     bool jumps = false;
+    FlightCondition condition; ///< for those who know more of the points (`stabilityOf`)
+    std::optional<DominantFactor> dominant; ///< likewise
 };
+
+/// Whether the speed of a crossing may be shown; between different roots only its interval may.
+inline bool hasSpeed(const Crossing& crossing)
+{
+    return crossing.kind != CrossingKind::Mixed && !crossing.jumps;
+}
 
 /// How far a stretch rises above its level.
 enum class StretchHeight { Noise, Weak, Real };

@@ -8,7 +8,9 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <iterator>
 #include <map>
+#include <utility>
 
 namespace tarsil {
 
@@ -19,7 +21,8 @@ constexpr std::size_t mostRows = 1048576;
 constexpr std::size_t mostColumns = 16384;
 constexpr std::size_t longestText = 32767; ///< in UTF-16
 
-constexpr const char* contentTypes = R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>
+/// Ends after the part of the workbook itself; the pages follow.
+constexpr const char* contentTypesBegin = R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>
 <Types xmlns="http://schemas.openxmlformats.org/package/2006/content-types">
 <Default Extension="rels" ContentType="application/vnd.openxmlformats-package.relationships+xml"/>
 <Default Extension="xml" ContentType="application/xml"/>
@@ -28,8 +31,6 @@ constexpr const char* contentTypes = R"(<?xml version="1.0" encoding="UTF-8" sta
 <Override PartName="/xl/workbook.xml" ContentType="application/vnd.openxmlformats-officedocument.spreadsheetml.sheet.main+xml"/>
 <Override PartName="/xl/styles.xml" ContentType="application/vnd.openxmlformats-officedocument.spreadsheetml.styles+xml"/>
 <Override PartName="/xl/sharedStrings.xml" ContentType="application/vnd.openxmlformats-officedocument.spreadsheetml.sharedStrings+xml"/>
-<Override PartName="/xl/worksheets/sheet1.xml" ContentType="application/vnd.openxmlformats-officedocument.spreadsheetml.worksheet+xml"/>
-</Types>
 )";
 
 constexpr const char* packageRelations = R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>
@@ -53,45 +54,54 @@ constexpr const char* description = R"(<?xml version="1.0" encoding="UTF-8" stan
 </cp:coreProperties>
 )";
 
-constexpr const char* workbook = R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>
+constexpr const char* workbookBegin = R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>
 <workbook xmlns="http://schemas.openxmlformats.org/spreadsheetml/2006/main" xmlns:r="http://schemas.openxmlformats.org/officeDocument/2006/relationships">
-<sheets><sheet name="Flutter" sheetId="1" r:id="rId1"/></sheets>
-</workbook>
 )";
 
-constexpr const char* workbookRelations = R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>
+constexpr const char* workbookRelationsBegin =
+    R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>
 <Relationships xmlns="http://schemas.openxmlformats.org/package/2006/relationships">
-<Relationship Id="rId1" Type="http://schemas.openxmlformats.org/officeDocument/2006/relationships/worksheet" Target="worksheets/sheet1.xml"/>
-<Relationship Id="rId2" Type="http://schemas.openxmlformats.org/officeDocument/2006/relationships/styles" Target="styles.xml"/>
-<Relationship Id="rId3" Type="http://schemas.openxmlformats.org/officeDocument/2006/relationships/sharedStrings" Target="sharedStrings.xml"/>
-</Relationships>
+<Relationship Id="styles" Type="http://schemas.openxmlformats.org/officeDocument/2006/relationships/styles" Target="styles.xml"/>
+<Relationship Id="texts" Type="http://schemas.openxmlformats.org/officeDocument/2006/relationships/sharedStrings" Target="sharedStrings.xml"/>
 )";
 
-/// Style 0 is the usual one, style 1 that of the headings.
+/// One style for each `CellStyle`, in their order.
 constexpr const char* styles = R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>
 <styleSheet xmlns="http://schemas.openxmlformats.org/spreadsheetml/2006/main">
-<fonts count="2">
+<fonts count="3">
 <font><sz val="11"/><name val="Calibri"/><family val="2"/></font>
 <font><b/><sz val="11"/><name val="Calibri"/><family val="2"/></font>
+<font><sz val="11"/><color rgb="FF5F5F5F"/><name val="Calibri"/><family val="2"/></font>
 </fonts>
-<fills count="2">
+<fills count="5">
 <fill><patternFill patternType="none"/></fill>
 <fill><patternFill patternType="gray125"/></fill>
+<fill><patternFill patternType="solid"><fgColor rgb="FFC6EFCE"/></patternFill></fill>
+<fill><patternFill patternType="solid"><fgColor rgb="FFFFEB9C"/></patternFill></fill>
+<fill><patternFill patternType="solid"><fgColor rgb="FFFFC7CE"/></patternFill></fill>
 </fills>
 <borders count="1"><border><left/><right/><top/><bottom/><diagonal/></border></borders>
 <cellStyleXfs count="1"><xf numFmtId="0" fontId="0" fillId="0" borderId="0"/></cellStyleXfs>
-<cellXfs count="2">
+<cellXfs count="6">
 <xf numFmtId="0" fontId="0" fillId="0" borderId="0" xfId="0"/>
 <xf numFmtId="0" fontId="1" fillId="0" borderId="0" xfId="0" applyFont="1"/>
+<xf numFmtId="0" fontId="0" fillId="2" borderId="0" xfId="0" applyFill="1"/>
+<xf numFmtId="0" fontId="0" fillId="3" borderId="0" xfId="0" applyFill="1"/>
+<xf numFmtId="0" fontId="0" fillId="4" borderId="0" xfId="0" applyFill="1"/>
+<xf numFmtId="0" fontId="2" fillId="0" borderId="0" xfId="0" applyFont="1"/>
 </cellXfs>
 <cellStyles count="1"><cellStyle name="Normal" xfId="0" builtinId="0"/></cellStyles>
 </styleSheet>
 )";
 
-/// The first row stays in sight.
 constexpr const char* pageBegin = R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>
 <worksheet xmlns="http://schemas.openxmlformats.org/spreadsheetml/2006/main">
-<sheetViews><sheetView tabSelected="1" workbookViewId="0">
+<sheetViews><sheetView )";
+
+constexpr const char* firstPageOnly = R"(tabSelected="1" )";
+
+/// The first row stays in sight.
+constexpr const char* pageView = R"(workbookViewId="0">
 <pane ySplit="1" topLeftCell="A2" activePane="bottomLeft" state="frozen"/>
 <selection pane="bottomLeft"/>
 </sheetView></sheetViews>
@@ -166,36 +176,74 @@ double widthOf(const Sheet& sheet, std::size_t column)
     return static_cast<double>(width) + margin;
 }
 
-/// Writes the page with the cells, and gathers the texts that they refer to by position.
-class PageWriter
+[[noreturn]] void fail(std::string_view path, const char* what)
+{
+    throw RunTimeError(ErrorNumber::InvalidProcedureCall, "SheetWriter",
+                       std::string(path) + ": " + what);
+}
+
+/// The texts of a workbook, to which the cells of all its pages refer by position.
+class SharedTexts
 {
 public:
-    PageWriter(const Sheet& sheet, std::string_view path) : m_sheet(sheet), m_path(path) { }
+    explicit SharedTexts(std::string_view path) : m_path(path) { }
 
-    std::string page();
+    std::size_t positionOf(const std::string& text);
 
-    /// Of the page that has been written.
-    std::string texts() const;
+    /// Of all texts that were asked for.
+    std::string xml() const;
 
 private:
-    std::string columns() const;
-    std::string rows();
-    std::string cell(std::size_t row, std::size_t column);
-    std::size_t positionOf(const std::string& text);
-    [[noreturn]] void fail(const char* what) const;
-
-    const Sheet& m_sheet;
     std::string_view m_path;
     std::map<std::string, std::size_t> m_positions;
     std::vector<std::string> m_texts;
     std::size_t m_uses = 0;
 };
 
-std::string PageWriter::page()
+std::size_t SharedTexts::positionOf(const std::string& text)
 {
-    if (m_sheet.rowCount() > mostRows || m_sheet.columnCount() > mostColumns)
-        fail("more rows or columns than a spreadsheet holds");
-    return pageBegin + columns() + "<sheetData>" + rows() + "</sheetData></worksheet>\n";
+    ++m_uses;
+    const auto [known, isNew] = m_positions.try_emplace(text, m_texts.size());
+    if (isNew) {
+        const std::string utf8 = decodeText(text);
+        if (utf16FromUtf8(utf8).size() > longestText)
+            fail(m_path, "a text longer than 32767 characters, which no cell holds");
+        m_texts.push_back(xlsxText(utf8));
+    }
+    return known->second;
+}
+
+std::string SharedTexts::xml() const
+{
+    std::string xml = textsBegin;
+    xml.append(" count=\"").append(textOf(m_uses)).append("\" uniqueCount=\"");
+    xml.append(textOf(m_texts.size())).append("\">");
+    for (const std::string& text : m_texts)
+        xml.append("<si>").append(text).append("</si>");
+    return xml + "</sst>\n";
+}
+
+/// Writes a page with its cells.
+class PageWriter
+{
+public:
+    PageWriter(const Sheet& sheet, SharedTexts& texts) : m_sheet(sheet), m_texts(texts) { }
+
+    std::string page(bool isFirst);
+
+private:
+    std::string columns() const;
+    std::string rows();
+    std::string cell(std::size_t row, std::size_t column);
+
+    const Sheet& m_sheet;
+    SharedTexts& m_texts;
+};
+
+std::string PageWriter::page(bool isFirst)
+{
+    return pageBegin + std::string(isFirst ? firstPageOnly : "") + pageView + columns()
+        + "<sheetData>" + rows() + "</sheetData></worksheet>\n";
 }
 
 std::string PageWriter::columns() const
@@ -222,11 +270,16 @@ std::string PageWriter::rows()
     return xml;
 }
 
+std::string styleAttribute(CellStyle style)
+{
+    return style == CellStyle::Plain ? "" : " s=\"" + textOf(static_cast<int>(style)) + "\"";
+}
+
 std::string PageWriter::cell(std::size_t row, std::size_t column)
 {
     const Sheet::Cell& cell = m_sheet.cell(row, column);
     const std::string begin =
-        "<c r=\"" + referenceOf(row, column) + (row == 1 ? "\" s=\"1\"" : "\"");
+        "<c r=\"" + referenceOf(row, column) + "\"" + styleAttribute(m_sheet.rowStyle(row));
     if (const auto* number = std::get_if<double>(&cell)) {
         if (!std::isfinite(*number)) // the spreadsheet's own value for it
             return begin + " t=\"e\"><v>#NUM!</v></c>";
@@ -235,36 +288,45 @@ std::string PageWriter::cell(std::size_t row, std::size_t column)
     const auto* text = std::get_if<std::string>(&cell);
     if (text == nullptr || text->empty())
         return {};
-    return begin + " t=\"s\"><v>" + textOf(positionOf(*text)) + "</v></c>";
+    return begin + " t=\"s\"><v>" + textOf(m_texts.positionOf(*text)) + "</v></c>";
 }
 
-std::size_t PageWriter::positionOf(const std::string& text)
+/// Writes the parts that name each page, as page after page is added.
+class WorkbookWriter
 {
-    ++m_uses;
-    const auto [known, isNew] = m_positions.try_emplace(text, m_texts.size());
-    if (isNew) {
-        const std::string utf8 = decodeText(text);
-        if (utf16FromUtf8(utf8).size() > longestText)
-            fail("a text longer than 32767 characters, which no cell holds");
-        m_texts.push_back(xlsxText(utf8));
+public:
+    void addPage(const Sheet& sheet);
+
+    std::size_t pageCount() const { return m_count; }
+    std::string types() const { return contentTypesBegin + m_types + "</Types>\n"; }
+    std::string relations() const
+    {
+        return workbookRelationsBegin + m_relations + "</Relationships>\n";
     }
-    return known->second;
-}
+    std::string workbook() const
+    {
+        return workbookBegin + ("<sheets>" + m_pages + "</sheets>\n</workbook>\n");
+    }
 
-std::string PageWriter::texts() const
-{
-    std::string xml = textsBegin;
-    xml.append(" count=\"").append(textOf(m_uses)).append("\" uniqueCount=\"");
-    xml.append(textOf(m_texts.size())).append("\">");
-    for (const std::string& text : m_texts)
-        xml.append("<si>").append(text).append("</si>");
-    return xml + "</sst>\n";
-}
+private:
+    std::size_t m_count = 0;
+    std::string m_types;
+    std::string m_relations;
+    std::string m_pages;
+};
 
-void PageWriter::fail(const char* what) const
+void WorkbookWriter::addPage(const Sheet& sheet)
 {
-    throw RunTimeError(ErrorNumber::InvalidProcedureCall, "SheetWriter",
-                       std::string(m_path) + ": " + what);
+    const std::string number = textOf(++m_count);
+    m_types += "<Override PartName=\"/xl/worksheets/sheet" + number
+        + ".xml\" ContentType=\"application/vnd.openxmlformats-officedocument.spreadsheetml."
+          "worksheet+xml\"/>\n";
+    m_relations += "<Relationship Id=\"page" + number
+        + "\" Type=\"http://schemas.openxmlformats.org/officeDocument/2006/relationships/"
+          "worksheet\" Target=\"worksheets/sheet"
+        + number + ".xml\"/>\n";
+    m_pages += "<sheet name=\"" + sheet.title() + "\" sheetId=\"" + number + "\" r:id=\"page"
+        + number + "\"/>";
 }
 
 } // namespace
@@ -288,19 +350,28 @@ std::string xlsxText(std::string_view utf8)
     return runs.empty() ? rest : runs + "<r>" + rest + "</r>";
 }
 
-std::vector<ArchivePart> xlsxParts(const Sheet& sheet, std::string_view path)
+std::vector<ArchivePart> xlsxParts(std::span<const Sheet* const> sheets, std::string_view path)
 {
-    PageWriter writer(sheet, path);
-    std::string page = writer.page();
-    return {{"[Content_Types].xml", contentTypes},
-            {"_rels/.rels", packageRelations},
-            {"docProps/app.xml", program},
-            {"docProps/core.xml", description},
-            {"xl/workbook.xml", workbook},
-            {"xl/_rels/workbook.xml.rels", workbookRelations},
-            {"xl/styles.xml", styles},
-            {"xl/sharedStrings.xml", writer.texts()},
-            {"xl/worksheets/sheet1.xml", std::move(page)}};
+    WorkbookWriter workbook;
+    SharedTexts texts(path);
+    std::vector<ArchivePart> pages;
+    for (const Sheet* sheet : sheets) {
+        if (sheet->rowCount() > mostRows || sheet->columnCount() > mostColumns)
+            fail(path, "more rows or columns than a spreadsheet holds");
+        workbook.addPage(*sheet);
+        pages.push_back({"xl/worksheets/sheet" + textOf(workbook.pageCount()) + ".xml",
+                         PageWriter(*sheet, texts).page(pages.empty())});
+    }
+    std::vector<ArchivePart> parts = {{"[Content_Types].xml", workbook.types()},
+                                      {"_rels/.rels", packageRelations},
+                                      {"docProps/app.xml", program},
+                                      {"docProps/core.xml", description},
+                                      {"xl/workbook.xml", workbook.workbook()},
+                                      {"xl/_rels/workbook.xml.rels", workbook.relations()},
+                                      {"xl/styles.xml", styles},
+                                      {"xl/sharedStrings.xml", texts.xml()}};
+    std::move(pages.begin(), pages.end(), std::back_inserter(parts));
+    return parts;
 }
 
 } // namespace tarsil

@@ -2,6 +2,7 @@
 
 #include "analysis/ZipArchive.h"
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,9 +11,9 @@ namespace tarsil {
 
 class Sheet;
 
-/// The parts that a workbook (Office Open XML, ECMA-376) with this one sheet is made of. Raises
-/// error 5, whose description holds `path`, for a sheet or text beyond what a spreadsheet can hold.
-std::vector<ArchivePart> xlsxParts(const Sheet& sheet, std::string_view path);
+/// The parts that a workbook (Office Open XML, ECMA-376) with these sheets is made of. Raises error
+/// 5, whose description holds `path`, for a sheet or text beyond what a spreadsheet can hold.
+std::vector<ArchivePart> xlsxParts(std::span<const Sheet* const> sheets, std::string_view path);
 
 /// A text as an item of the workbook's strings. What looks like a spreadsheet's escape of a
 /// character ("_x0041_") is cut into two runs after its first "_": that is no escape to those that

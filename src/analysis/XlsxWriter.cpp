@@ -7,10 +7,10 @@
 namespace tarsil {
 
 /// The target is opened first: what is wrong with it is found before any work.
-void writeXlsx(const Sheet& sheet, std::string_view path)
+void writeXlsx(std::span<const Sheet* const> sheets, std::string_view path)
 {
     AtomicFile file(path);
-    file.write(zipArchive(xlsxParts(sheet, path), "SheetWriter"));
+    file.write(zipArchive(xlsxParts(sheets, path), "SheetWriter"));
     file.commit();
 }
 

@@ -1,7 +1,9 @@
 #include "app/FlutterReportCommand.h"
 
+#include "aircraft/AirplaneInfo.h"
 #include "analysis/FlutterReport.h"
 #include "analysis/SheetWriter.h"
+#include "analysis/StabilitySheet.h"
 #include "app/LeftOutRows.h"
 #include "base/numbers/Numbers.h"
 #include "base/user/BusyStatus.h"
@@ -9,10 +11,13 @@
 #include "model/EVM.h"
 #include "vgfplot/EvmPlot.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 
+#include <algorithm>
+#include <array>
 #include <optional>
 
 namespace tarsil {
@@ -44,27 +49,41 @@ std::vector<ReportRow> rowsOf(const EvmPlot& plot)
     return rows;
 }
 
+/// The evolutions of the curves, each once, in the order of the curves.
+std::vector<const EVM*> evolutionsOf(const EvmPlot& plot)
+{
+    std::vector<const EVM*> evolutions;
+    for (const ReportRow& row : rowsOf(plot)) {
+        const EVM* const evolution = row.mode->Parent;
+        if (std::find(evolutions.begin(), evolutions.end(), evolution) == evolutions.end())
+            evolutions.push_back(evolution);
+    }
+    return evolutions;
+}
+
 } // namespace
 
-void FlutterReportCommand::run(const EvmPlot& plot, const QString& folder)
+void FlutterReportCommand::run(const EvmPlot& plot, const AirplaneInfo& airplane,
+                               const QString& folder)
 {
     guarded(m_userInterface, module, [&] {
         tellOfLeftOutRows({&plot}, "the flutter report", m_userInterface);
-        const auto damping = ask(FlutterReport::dampingPrompt);
-        if (!damping || damping->empty())
+        const auto dampingText = ask(FlutterReport::dampingPrompt);
+        if (!dampingText || dampingText->empty())
             return;
-        const auto limit = ask(FlutterReport::speedLimitPrompt);
-        if (!limit || limit->empty())
+        const auto limitText = ask(FlutterReport::speedLimitPrompt);
+        if (!limitText || limitText->empty())
             return;
-        write(plot, toDouble(*damping, module, "reference damping"),
-              toDouble(*limit, module, "speed limit"), folder);
+        const double damping = toDouble(*dampingText, module, "reference damping");
+        const double limit = toDouble(*limitText, module, "speed limit");
+        const BusyStatus status(m_userInterface, busy);
+        const Sheet table = flutterTable(plot, damping, limit);
+        open(write(table, stabilityTable(plot, airplane, damping), folder));
     });
 }
 
-void FlutterReportCommand::write(const EvmPlot& plot, double damping, double speedLimit,
-                                 const QString& folder)
+Sheet FlutterReportCommand::flutterTable(const EvmPlot& plot, double damping, double speedLimit)
 {
-    const BusyStatus status(m_userInterface, busy);
     Sheet sheet;
     guarded(m_userInterface, module, [&] {
         const auto askHere = [this](const AeMode& mode, std::string_view prompt) {
@@ -72,9 +91,46 @@ void FlutterReportCommand::write(const EvmPlot& plot, double damping, double spe
         };
         FlutterReport(damping, speedLimit, askHere).write(rowsOf(plot), sheet);
     });
+    return sheet;
+}
+
+Sheet FlutterReportCommand::stabilityTable(const EvmPlot& plot, const AirplaneInfo& airplane,
+                                           double damping) const
+{
+    const std::string program = "Tarsil " + QCoreApplication::applicationVersion().toStdString();
+    StabilityReport report {{}, reportSettings(damping), program};
+    for (const EVM* evolution : evolutionsOf(plot)) {
+        StabilityInput input {evolution, answeredMach(*evolution), std::nullopt};
+        if (!airplane.FlutterEnvs.empty())
+            input.required = requiredSpeed(*evolution, airplane, Requirement());
+        report.evolutions.push_back(judged(input, report.settings));
+    }
+    Sheet sheet(stabilitySheetTitle);
+    writeStability(report, sheet);
+    return sheet;
+}
+
+/// The Mach number that the user last gave for an evolution; 0 when there is none.
+float FlutterReportCommand::answeredMach(const EVM& evolution) const
+{
+    const auto answer = m_machAnswers.find(evolution.path());
+    float mach = 0;
+    if (answer == m_machAnswers.end() || parseSingle(answer->second, mach) != NumberStatus::Ok)
+        return 0;
+    return mach;
+}
+
+QString FlutterReportCommand::write(const Sheet& table, const Sheet& stability,
+                                    const QString& folder) const
+{
     QDir().mkpath(folder);
     const QString path = freeName(folder);
-    writeSheet(sheet, path.toStdString());
+    writeSheets(std::array {&table, &stability}, path.toStdString());
+    return path;
+}
+
+void FlutterReportCommand::open(const QString& path)
+{
     if (!m_opener(path))
         m_userInterface.showMessage("The flutter report is in the file\n" + path.toStdString()
                                         + "\nNo program to open it was found.",

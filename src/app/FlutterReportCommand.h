@@ -1,5 +1,6 @@
 #pragma once
 
+#include "analysis/Sheet.h"
 #include "base/user/UserInterface.h"
 
 #include <functional>
@@ -12,11 +13,15 @@ class QString;
 namespace tarsil {
 
 class AeMode;
+class AirplaneInfo;
+class EVM;
 class EvmPlot;
 
 /// The command "Calculate Flutter Speeds": asks for the reference damping and the speed limit,
 /// writes the flutter table of the active plot's series as a workbook of its own into the user's
-/// documents, and opens it in the system's spreadsheet program.
+/// documents, and opens it in the system's spreadsheet program. A second sheet says of each
+/// evolution where its modes are unstable and how sure that is, with the margin to the dive speed
+/// where the airplane has envelopes.
 class FlutterReportCommand
 {
 public:
@@ -29,14 +34,18 @@ public:
 
     /// Tells first which rows of the plot have no curve and so none in the table. An empty answer
     /// to one of the two questions ends the command without a workbook. After an error, which is
-    /// reported in module "wndMain", the cells written so far are in the workbook all the same.
-    /// `folder` is where it goes.
-    void run(const EvmPlot& plot, const QString& folder);
+    /// reported in module "wndMain", the cells written so far are in the workbook all the same, and
+    /// the second sheet is whole. `folder` is where it goes.
+    void run(const EvmPlot& plot, const AirplaneInfo& airplane, const QString& folder);
 
 private:
     std::optional<std::string> ask(std::string_view prompt);
     std::optional<std::string> askMach(const AeMode& mode, std::string_view prompt);
-    void write(const EvmPlot& plot, double damping, double speedLimit, const QString& folder);
+    Sheet flutterTable(const EvmPlot& plot, double damping, double speedLimit);
+    Sheet stabilityTable(const EvmPlot& plot, const AirplaneInfo& airplane, double damping) const;
+    float answeredMach(const EVM& evolution) const;
+    QString write(const Sheet& table, const Sheet& stability, const QString& folder) const;
+    void open(const QString& path);
 
     UserInterface& m_userInterface;
     FileOpener m_opener;

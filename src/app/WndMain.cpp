@@ -293,7 +293,7 @@ void wndMain::mnuClearDamp_Click()
 
 void wndMain::mnuFlutCalc_Click()
 {
-    m_report.run(activePlot(), m_reportFolder);
+    m_report.run(activePlot(), m_document.airplane(), m_reportFolder);
 }
 
 dlgOptions& wndMain::options()

@@ -19,6 +19,16 @@ UsageError notANumber(std::string_view text, std::string_view option)
     return UsageError(std::string(option) + ": " + inQuotes(text) + " is not a number");
 }
 
+/// "--mach M", "--require[=FACTOR]" or "--json".
+std::string nameWithValue(const OptionDescription& option)
+{
+    const std::string name(option.name);
+    if (option.value.empty())
+        return name;
+    const std::string value(option.value);
+    return option.isValueOptional ? name + "[=" + value + "]" : name + " " + value;
+}
+
 std::string usageLine(const CommandDescription& description)
 {
     std::string line = "Usage: tarsil-batch " + std::string(description.name);
@@ -33,9 +43,7 @@ std::string usageLine(const CommandDescription& description)
         width += piece.size() + 1;
     };
     for (const OptionDescription& option : description.options) {
-        std::string piece(option.name);
-        if (!option.value.empty())
-            piece.append(" ").append(option.value);
+        std::string piece = nameWithValue(option);
         if (!option.isRequired)
             piece.insert(0, "[").append("]");
         if (option.mayRepeat)
@@ -49,9 +57,7 @@ std::string usageLine(const CommandDescription& description)
 /// An option and its help, whose lines are aligned.
 std::string optionHelp(const OptionDescription& option, std::size_t width)
 {
-    std::string text = "  " + std::string(option.name);
-    if (!option.value.empty())
-        text.append(" ").append(option.value);
+    std::string text = "  " + nameWithValue(option);
     text.append(width - std::min(width, text.size()), ' ');
     bool isFirst = true;
     for (const std::string_view line : split(option.help, '\n')) {
@@ -67,7 +73,7 @@ std::size_t columnOfHelp(std::span<const OptionDescription> options)
 {
     std::size_t width = 0;
     for (const OptionDescription& option : options)
-        width = std::max(width, option.name.size() + option.value.size() + 1);
+        width = std::max(width, nameWithValue(option).size());
     return width + 4;
 }
 
@@ -111,6 +117,8 @@ std::size_t CommandLine::takeOption(std::span<const std::string> arguments, std:
         m_values.emplace_back(option->name, "");
     } else if (equal != std::string::npos) {
         m_values.emplace_back(option->name, argument.substr(equal + 1));
+    } else if (option->isValueOptional) {
+        m_values.emplace_back(option->name, "");
     } else {
         if (++index == arguments.size())
             throw UsageError(name + " needs a value");
@@ -159,8 +167,9 @@ std::optional<double> CommandLine::number(std::string_view option) const
 bool takesNextArgument(const CommandDescription& description, std::string_view argument)
 {
     return std::any_of(
-        description.options.begin(), description.options.end(),
-        [argument](const auto& known) { return known.name == argument && !known.value.empty(); });
+        description.options.begin(), description.options.end(), [argument](const auto& known) {
+            return known.name == argument && !known.value.empty() && !known.isValueOptional;
+        });
 }
 
 double numberOf(std::string_view text, std::string_view option)

@@ -27,6 +27,7 @@ struct OptionDescription
     std::string_view help; ///< lines separated by "\n"
     bool isRequired = false;
     bool mayRepeat = false;
+    bool isValueOptional = false; ///< the value, if any, is given as "--name=value" only
 };
 
 /// What a command takes from its command line.

@@ -1,16 +1,17 @@
+#include "aircraft/AirplaneInfo.h"
+#include "analysis/ModeTracking.h"
 #include "analysis/Sheet.h"
 #include "analysis/SheetWriter.h"
-#include "analysis/Stability.h"
 #include "analysis/StabilitySheet.h"
 #include "base/files/AtomicFile.h"
-#include "base/numbers/Numbers.h"
+#include "base/files/PathNames.h"
+#include "base/user/RunTimeError.h"
 #include "batch/BatchRun.h"
 #include "batch/Commands.h"
-#include "batch/JsonWriter.h"
+#include "batch/StabilityJson.h"
 #include "batch/WorkspaceInput.h"
 
 #include <array>
-#include <sstream>
 
 namespace tarsil::batch {
 
@@ -27,19 +28,20 @@ double atLeastZero(const CommandLine& line, std::string_view option, double usua
     return value;
 }
 
-std::vector<float> levelsOf(const std::string& text)
+std::vector<float> levelsOption(const std::string& text)
 {
-    std::vector<float> levels;
-    for (const std::string_view part : split(text, ','))
-        levels.push_back(static_cast<float>(numberOf(part, "--levels")));
-    return levels;
+    try {
+        return levelsOf(text);
+    } catch (const RunTimeError& error) {
+        throw UsageError("--levels: " + error.description());
+    }
 }
 
 StabilitySettings settingsOf(const CommandLine& line)
 {
     StabilitySettings settings;
     if (const auto levels = line.value("--levels"))
-        settings.levels = levelsOf(*levels);
+        settings.levels = levelsOption(*levels);
     StretchLimits& limits = settings.limits;
     limits.tolerance = atLeastZero(line, "--tolerance", limits.tolerance);
     limits.noise = atLeastZero(line, "--noise", limits.noise);
@@ -48,86 +50,64 @@ StabilitySettings settingsOf(const CommandLine& line)
     return settings;
 }
 
-void number(JsonWriter& json, std::string_view name, double value)
+/// What --require asks for, with the airplane whose envelopes give the speeds.
+struct RequirementOption
 {
-    json.number(name, shortestText(value));
+    Requirement requirement;
+    AirplaneInfo airplane;
+};
+
+std::optional<RequirementOption> requirementOf(const CommandLine& line)
+{
+    const auto factor = line.value("--require");
+    const auto aircraft = line.value("--aircraft");
+    if (!factor && !aircraft && !line.has("--require-level"))
+        return std::nullopt;
+    if (!factor || !aircraft)
+        throw UsageError("--require and --aircraft are wanted together");
+    RequirementOption option;
+    if (!factor->empty())
+        option.requirement.factor = numberOf(*factor, "--require");
+    if (!(option.requirement.factor > 0))
+        throw UsageError("--require: a factor greater than 0 is wanted");
+    if (const auto level = line.value("--require-level"))
+        option.requirement.level = singlesOf(*level, 1, "--require-level").front();
+    option.airplane.Filename = *aircraft;
+    option.airplane.Create();
+    return option;
 }
 
-void writeCrossing(JsonWriter& json, std::string_view name, const std::optional<Crossing>& crossing)
+void refuseUntrackable(const EVM& evolution, const StabilitySettings& settings)
 {
-    json.key(name);
-    if (!crossing) {
-        json.null();
+    if (!settings.isTracked)
+        return;
+    if (const auto obstacle = ModeTracking::obstacle(evolution))
+        throw Failure(evolution.FileName + " cannot be tracked: " + *obstacle);
+}
+
+void writeReport(const StabilityReport& report, const std::string& output)
+{
+    if (hasExtension(output, jsonExtension)) {
+        writeFile(output, stabilityJson(report));
         return;
     }
-    json.beginObject();
-    number(json, "speed", crossing->speed);
-    number(json, "frequency", crossing->frequency);
-    number(json, "from_speed", crossing->fromSpeed);
-    number(json, "to_speed", crossing->toSpeed);
-    json.text("kind", nameOf(crossing->kind));
-    json.text("confidence", nameOf(crossing->confidence));
-    json.boolean("jump", crossing->jumps);
-    number(json, "speed_curve", crossing->speedOnCurve);
-    json.endObject();
+    Sheet sheet(stabilitySheetTitle);
+    writeStability(report, sheet);
+    writeSheet(sheet, output);
 }
 
-void writeStretch(JsonWriter& json, const RootStretches& root, const Stretch& stretch)
+/// Complains of each evolution that does not meet the requirement; whether all do.
+bool allPass(const StabilityReport& report, BatchRun& run)
 {
-    json.beginObject();
-    json.number("mode", std::to_string(root.mode));
-    json.number("level", shortestText(root.level));
-    writeCrossing(json, "start", stretch.start);
-    writeCrossing(json, "end", stretch.end);
-    number(json, "peak", stretch.peak);
-    number(json, "peak_speed", stretch.peakSpeed);
-    number(json, "peak_frequency", stretch.peakFrequency);
-    json.text("height_class", nameOf(stretch.height));
-    json.boolean("hump", stretch.end.has_value());
-    json.boolean("static", stretch.isStatic);
-    json.endObject();
-}
-
-void writeEvolution(JsonWriter& json, const EVM& evolution, const StabilitySettings& settings)
-{
-    const std::vector<RootStretches> roots = stabilityOf(evolution, settings);
-    json.beginObject();
-    json.text("name", evolution.FileName);
-    json.key("stretches");
-    json.beginArray();
-    for (const RootStretches& root : roots) {
-        for (const Stretch& stretch : root.found.stretches)
-            writeStretch(json, root, stretch);
+    bool pass = true;
+    for (const EvolutionStability& stability : report.evolutions) {
+        if (!stability.margin || stability.margin->passes)
+            continue;
+        run.complain(shownPath(stability.evolution->FileName) + ": "
+                     + marginText(*stability.margin));
+        pass = false;
     }
-    json.endArray();
-    json.key("touches");
-    json.beginArray();
-    for (const RootStretches& root : roots) {
-        for (const Touch& touch : root.found.touches) {
-            json.beginObject();
-            json.number("mode", std::to_string(root.mode));
-            json.number("level", shortestText(root.level));
-            number(json, "speed", touch.speed);
-            json.endObject();
-        }
-    }
-    json.endArray();
-    json.endObject();
-}
-
-std::string jsonText(const std::vector<const EVM*>& evolutions, const StabilitySettings& settings)
-{
-    std::ostringstream text;
-    JsonWriter json(text);
-    json.beginObject();
-    json.key("evolutions");
-    json.beginArray();
-    for (const EVM* evolution : evolutions)
-        writeEvolution(json, *evolution, settings);
-    json.endArray();
-    json.endObject();
-    text << '\n';
-    return text.str();
+    return pass;
 }
 
 int runCrossings(const CommandLine& line, BatchRun& run)
@@ -136,28 +116,32 @@ int runCrossings(const CommandLine& line, BatchRun& run)
     const StabilitySettings settings = settingsOf(line);
     if (hasWorkspace(line.operands()))
         throw UsageError("a workspace is given; modal evolutions are wanted");
-    std::vector<const EVM*> evolutions;
+    const auto required = requirementOf(line);
+    StabilityReport report {{}, settings, "tarsil-batch " TARSIL_VERSION};
     for (const std::string& path : line.operands()) {
         refuseOutputOverInput(output, path);
-        evolutions.push_back(&run.open(path));
+        const EVM& evolution = run.open(path);
+        refuseUntrackable(evolution, settings);
+        StabilityInput input {&evolution, 0, std::nullopt};
+        if (required)
+            input.required = requiredSpeed(evolution, required->airplane, required->requirement);
+        report.evolutions.push_back(judged(input, settings));
     }
-    if (hasExtension(output, jsonExtension)) {
-        writeFile(output, jsonText(evolutions, settings));
-        return done;
-    }
-    Sheet sheet;
-    writeStability(evolutions, settings, sheet);
-    writeSheet(sheet, output);
-    return done;
+    writeReport(report, output);
+    return allPass(report, run) ? done : failed;
 }
 
-constexpr std::array<OptionDescription, 6> options = {
+constexpr std::array<OptionDescription, 9> options = {
     {{"--levels", "LIST",
       "levels of damping, with commas between them; 0,0.01,0.02,0.03\nwithout this option"},
      {"--tolerance", "G", "a stretch that rises no higher above its level is weak; 0.001"},
      {"--noise", "G", "a stretch that rises no higher is numerical noise; 1e-6"},
      {"--static", "F", "a root is static below this frequency in Hz; 0.1"},
      {"--tracked", "", "follows the roots instead of the printed modes"},
+     {"--aircraft", "FILE", "aircraft file (.inp) whose envelopes hold the dive speeds"},
+     {"--require", "FACTOR",
+      "the margin to this factor times the dive speed; 1.15 without a factor", false, false, true},
+     {"--require-level", "G", "damping at which the requirement is judged; 0.03"},
      {"--output", "OUTPUT", "the file to write, which ends in .json, .csv or .xlsx", true}}};
 
 } // namespace
@@ -167,7 +151,12 @@ constinit const Command crossingsCommand {
      "Lists each stretch of speed in which a mode is above a level of damping: where it\n"
      "begins and ends, whether that is flutter or divergence, how high it rises, and how\n"
      "well the points tell it. Tables list the real ones and count noise and weak ones;\n"
-     "JSON has all.",
+     "JSON has all. Each says which settings, program and source files it comes from.\n"
+     "\n"
+     "With --require each evolution is compared with the factor times the dive speed of\n"
+     "the envelope of its Mach number. One that starts to be unstable below it, whose\n"
+     "speeds end below it, or that has no envelope is named on standard error; the\n"
+     "output is written all the same, and the exit status is 1.",
      options},
     runCrossings};
 

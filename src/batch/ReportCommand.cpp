@@ -1,5 +1,6 @@
 #include "analysis/FlutterReport.h"
 #include "analysis/SheetWriter.h"
+#include "analysis/StabilitySheet.h"
 #include "base/files/PathNames.h"
 #include "base/user/RunTimeError.h"
 #include "batch/BatchRun.h"
@@ -76,6 +77,29 @@ private:
     std::set<std::string> m_errors;
 };
 
+/// The stability of each evolution that has a row, all its modes.
+StabilityReport stabilityOfRows(const std::vector<ReportRow>& rows, double damping,
+                                const std::optional<std::string>& mach)
+{
+    StabilityReport report {{}, reportSettings(damping), "tarsil-batch " TARSIL_VERSION};
+    const float givenMach = mach ? singlesOf(*mach, 1, "--mach").front() : 0;
+    std::set<const EVM*> known;
+    for (const ReportRow& row : rows) {
+        const EVM* const evolution = row.mode->Parent;
+        if (known.insert(evolution).second)
+            report.evolutions.push_back(
+                judged({evolution, givenMach, std::nullopt}, report.settings));
+    }
+    return report;
+}
+
+void writeOutput(const Sheet& table, const StabilityReport& stability, const std::string& output)
+{
+    Sheet second(stabilitySheetTitle);
+    writeStability(stability, second);
+    writeSheets(std::array {&table, static_cast<const Sheet*>(&second)}, output);
+}
+
 int runReport(const CommandLine& line, BatchRun& run)
 {
     RowSource source {outputOf(line, extensions), std::nullopt, line.value(plotOption.name)};
@@ -105,7 +129,7 @@ int runReport(const CommandLine& line, BatchRun& run)
     FlutterReport(damping, speedLimit, answerMach)
         .writeWhatCan(rows, sheet,
                       [&complaints](const RunTimeError& error) { complaints.add(error); });
-    writeSheet(sheet, source.output);
+    writeOutput(sheet, stabilityOfRows(rows, damping, mach), source.output);
     return isWhole && complaints.areNone() ? done : failed;
 }
 
@@ -125,6 +149,9 @@ constinit const Command reportCommand {
      "Writes the flutter table: of each mode the maximum damping up to the speed\n"
      "limit, and every crossing of the reference damping with its speed, frequency,\n"
      "altitude and first participation factor.\n"
+     "\n"
+     "A workbook has a second sheet, \"Stability\": for each file where modes are unstable,\n"
+     "and how sure that is, as \"tarsil-batch crossings\" writes it.\n"
      "\n"
      "What cannot be computed of a mode, such as a crossing between two points of the\n"
      "same speed, leaves its cells empty with a message; the rest is written, and the\n"

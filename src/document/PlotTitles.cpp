@@ -2,7 +2,6 @@
 
 #include "aircraft/AirplaneInfo.h"
 #include "base/files/PathNames.h"
-#include "base/numbers/NumberFormat.h"
 #include "base/numbers/Numbers.h"
 #include "base/user/RunTimeError.h"
 #include "document/MdlData.h"
@@ -17,11 +16,6 @@ namespace {
 
 constexpr std::string_view module = "wndData";
 const QString lineBreak = QStringLiteral("\r\n");
-
-std::string machText(const EVM& evolution)
-{
-    return formatNumber(static_cast<double>(evolution.Param.Mach), "0.00#");
-}
 
 std::int16_t ticks(float count, const FlutterMechanism& mechanism, std::string_view axis)
 {
@@ -51,20 +45,20 @@ QString headerText(const EVM& evolution, const QString& lastLine)
     const QString mass = QString::fromStdString(evolution.Param.Mass).toUpper();
     const QString method = QString::fromStdString(evolution.flutterMethod);
     return airplane + QStringLiteral(" - Configuration ") + mass + lineBreak + method
-        + QStringLiteral(" Method - Mach No. ") + QString::fromStdString(machText(evolution))
-        + lineBreak + lastLine;
+        + QStringLiteral(" Method - Mach No. ")
+        + QString::fromStdString(envelopeName(evolution.Param.Mach)) + lineBreak + lastLine;
 }
 
 void markEnvelope(EvmPlot& plot, const EVM& evolution, const AirplaneInfo& airplane)
 {
-    const std::string mach = machText(evolution);
-    const FlutterEnvelope* const envelope = airplane.flutterEnvelope(mach);
+    const FlutterEnvelope* const envelope = airplane.envelopeAtMach(evolution.Param.Mach);
     if (envelope == nullptr) {
         const std::string missing = missingAircraftText(airplane);
         const std::string where =
             missing.empty() ? " in \"" + shownPath(airplane.Filename) + "\"" : ". " + missing;
         throw RunTimeError(ErrorNumber::InvalidProcedureCall, std::string(module),
-                           "no flutter envelope for Mach number " + mach + where);
+                           "no flutter envelope for Mach number "
+                               + envelopeName(evolution.Param.Mach) + where);
     }
     // The blanks set the captions off from each other where the speeds are close.
     plot.RemoveRef();

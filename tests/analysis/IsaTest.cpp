@@ -39,6 +39,16 @@ TEST(Isa, givesTheAltitudeOfAKnownSpeedAndMachNumber)
     EXPECT_NEAR(IsaAltitude(300, 0.5, "knot"), 5298, 1);
 }
 
+TEST(Isa, givesTheAltitudeOfADensity)
+{
+    // ISO 2533:1975: density over 1.225 kg/m3 at geopotential altitudes in metres.
+    EXPECT_NEAR(ISA::densityAltitude(1), 0, 1e-9);
+    EXPECT_NEAR(ISA::densityAltitude(1.11164 / 1.225), 1000 * feetPerMetre, 3);
+    EXPECT_NEAR(ISA::densityAltitude(0.736116 / 1.225), 5000 * feetPerMetre, 5);
+    EXPECT_NEAR(ISA::densityAltitude(0.363918 / 1.225), 11000 * feetPerMetre, 10);
+    EXPECT_NEAR(ISA::densityAltitude(0.0880349 / 1.225), 20000 * feetPerMetre, 20);
+}
+
 TEST(Isa, takesMetresPerSecond)
 {
     EXPECT_DOUBLE_EQ(IsaAltitude(300 / knots, 0.5, "mps"), IsaAltitude(300, 0.5, "knot"));

@@ -10,6 +10,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
 #include <csignal>
 #include <cstdlib>
@@ -148,6 +149,31 @@ TEST(SheetAsXlsx, hasABoldFrozenHeadingAndATitle)
     EXPECT_THAT(test::zipPart(folder.file("a.xlsx"), "xl/styles.xml"), HasSubstr("<b/>"));
     EXPECT_THAT(test::zipPart(folder.file("a.xlsx"), "docProps/core.xml"),
                 HasSubstr("<dc:title>Flutter speeds</dc:title>"));
+}
+
+TEST(SheetAsXlsx, holdsSeveralSheetsWithTheirTitlesAndColours)
+{
+    const TemporaryFolder folder;
+    Sheet second("Stability");
+    second.setText(1, 1, "Modal Evolution"); // a text that the first one has as well
+    second.setText(2, 1, "unstable");
+    second.setRowStyle(2, CellStyle::Bad);
+    const Sheet first = example();
+    writeSheets(std::array {&first, static_cast<const Sheet*>(&second)}, folder.file("a.xlsx"));
+    writeSheet(first, folder.file("one.xlsx"));
+    EXPECT_EQ(test::zipPart(folder.file("a.xlsx"), "xl/worksheets/sheet1.xml"),
+              test::zipPart(folder.file("one.xlsx"), "xl/worksheets/sheet1.xml"));
+    const Sheet back = test::readXlsx(folder.file("a.xlsx"), 2);
+    EXPECT_EQ(test::readXlsx(folder.file("a.xlsx")).title(), "Flutter");
+    EXPECT_EQ(back.title(), "Stability");
+    EXPECT_EQ(back.cell(1, 1), second.cell(1, 1));
+    EXPECT_EQ(back.cell(2, 1), second.cell(2, 1));
+    // Style 4 is that of CellStyle::Bad.
+    EXPECT_THAT(test::zipPart(folder.file("a.xlsx"), "xl/worksheets/sheet2.xml"),
+                HasSubstr("<c r=\"A2\" s=\"4\""));
+    writeSheets(std::array {&first, static_cast<const Sheet*>(&second)}, folder.file("a.csv"));
+    writeSheet(first, folder.file("one.csv"));
+    EXPECT_EQ(fileBytes(folder.file("a.csv")), fileBytes(folder.file("one.csv")));
 }
 
 TEST(SheetAsXlsx, givesEqualBytesForEqualSheets)

@@ -35,6 +35,19 @@ std::vector<std::string> sharedTexts(const std::string& path)
     return texts;
 }
 
+std::string titleOf(const std::string& path, int number)
+{
+    QXmlStreamReader xml(xmlPart(path, "xl/workbook.xml"));
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement || xml.name() != u"sheet")
+            continue;
+        if (xml.attributes().value(QStringLiteral("sheetId")).toInt() == number)
+            return xml.attributes().value(QStringLiteral("name")).toString().toStdString();
+    }
+    ADD_FAILURE() << "no sheet " << number << " in " << path;
+    return {};
+}
+
 struct Place
 {
     std::size_t row = 0;
@@ -80,11 +93,11 @@ std::string zipPart(const std::string& path, const std::string& part)
     return bytes;
 }
 
-Sheet readXlsx(const std::string& path)
+Sheet readXlsx(const std::string& path, int number)
 {
-    Sheet sheet;
+    Sheet sheet(titleOf(path, number));
     const std::vector<std::string> texts = sharedTexts(path);
-    QXmlStreamReader xml(xmlPart(path, "xl/worksheets/sheet1.xml"));
+    QXmlStreamReader xml(xmlPart(path, "xl/worksheets/sheet" + std::to_string(number) + ".xml"));
     Place place;
     bool isText = false;
     while (!xml.atEnd()) {

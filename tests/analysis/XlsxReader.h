@@ -10,7 +10,8 @@ namespace tarsil::test {
 /// expectation, and empty, when there is none.
 std::string zipPart(const std::string& path, const std::string& part);
 
-/// The cells of the first sheet of a spreadsheet, read back without the library that wrote it.
-Sheet readXlsx(const std::string& path);
+/// The cells of a sheet of a spreadsheet, by its number from 1, with its title; read back without
+/// the library that wrote it.
+Sheet readXlsx(const std::string& path, int number = 1);
 
 } // namespace tarsil::test

@@ -1,5 +1,6 @@
 #include "app/FlutterReportCommand.h"
 
+#include "aircraft/AirplaneInfo.h"
 #include "analysis/FlutterReport.h"
 #include "analysis/ModeBuilder.h"
 #include "analysis/XlsxReader.h"
@@ -36,7 +37,7 @@ protected:
             opened.append(file);
             return canOpen;
         });
-        command.run(plot, documents());
+        command.run(plot, airplane, documents());
     }
 
     QString documents() { return QString::fromStdString(folder.file("documents")); }
@@ -46,6 +47,7 @@ protected:
     test::ScriptedUserInterface user;
     EVM evolution;
     EvmPlot plot;
+    AirplaneInfo airplane;
     QStringList opened;
     bool canOpen = true;
 };
@@ -75,6 +77,36 @@ TEST_F(FlutterReportCommandTest, asksWritesAndOpensTheWorkbook)
     EXPECT_EQ(workbooks().size(), 1);
 }
 
+TEST_F(FlutterReportCommandTest, writesTheStabilityOfWholeEvolutionsOnASecondSheet)
+{
+    addMode(evolution, 2, {{200, 1, 4}, {300, -1, 4}}); // not in the plot
+    evolution.Param.Mach = 0.5F;
+    airplane.FlutterEnvs.push_back({100, 200, 150, "0.50"});
+    plot.addSeries(*evolution.Modes[0]);
+    user.texts = {"0", "1000"};
+    run();
+    const std::string path = opened[0].toStdString();
+    EXPECT_EQ(Sheet::textOf(test::readXlsx(path).cell(2, 8)), "250") << "the first sheet";
+    const Sheet sheet = test::readXlsx(path, 2);
+    EXPECT_EQ(sheet.title(), "Stability");
+    EXPECT_EQ(Sheet::textOf(sheet.cell(2, 4)), "unstable from the first speed: modes 2");
+    // Four levels, then the margin to 1.15 x 200.
+    EXPECT_EQ(Sheet::textOf(sheet.cell(6, 4)),
+              "fail: unstable from the first speed; required is 1.15 x 200 = 230 KEAS at g = 0.03");
+    EXPECT_EQ(Sheet::textOf(sheet.cell(7, 4)), "becomes stable");
+    EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(FlutterReportCommandTest, judgesAtTheReferenceDampingAsWell)
+{
+    user.texts = {"0.5", "1000", "0.5", "0.5"};
+    run();
+    const Sheet sheet = test::readXlsx(opened[0].toStdString(), 2);
+    EXPECT_EQ(Sheet::textOf(sheet.cell(6, 2)), "0.5");
+    // Three quarters of the way from -1 to 1, at Mach 0.5 as it was answered.
+    EXPECT_EQ(Sheet::textOf(sheet.cell(6, 4)), "275.00 KEAS, 5.50 Hz, flutter, mode 1 (B)");
+}
+
 TEST_F(FlutterReportCommandTest, leavesOutRowsWithoutACurveAndSaysWhich)
 {
     plot.addSeries(*evolution.Modes[0]);
@@ -96,9 +128,9 @@ TEST_F(FlutterReportCommandTest, offersNoAnswerThatWasNoNumber)
 {
     FlutterReportCommand command(user, [](const QString&) { return true; });
     user.texts = {"0", "1000", "0.5", "fast"};
-    command.run(plot, documents());
+    command.run(plot, airplane, documents());
     user.texts = {"0", "1000", "", ""};
-    command.run(plot, documents());
+    command.run(plot, airplane, documents());
     EXPECT_EQ(user.initials.back(), "0.5");
 }
 
@@ -157,6 +189,9 @@ TEST_F(FlutterReportCommandTest, keepsTheCellsWrittenSoFarAfterAnError)
     const Sheet sheet = test::readXlsx(opened[0].toStdString());
     EXPECT_EQ(Sheet::textOf(sheet.cell(2, 8)), "250");
     EXPECT_EQ(Sheet::textOf(sheet.cell(2, 9)), "");
+    EXPECT_EQ(Sheet::textOf(test::readXlsx(opened[0].toStdString(), 2).cell(2, 4)),
+              "250.00 KEAS, 5.00 Hz, flutter, mode 1 (B)")
+        << "the second sheet is whole";
 }
 
 TEST_F(FlutterReportCommandTest, reportsAnAnswerThatIsNoNumber)

@@ -51,7 +51,63 @@ TEST_F(CrossingsCommand, writesATable)
     EXPECT_EQ(result.status, 0) << result.err;
     const std::string text = fileBytes(file("out.csv"));
     EXPECT_THAT(text, HasSubstr("\"250.00 KEAS, 9.00 Hz, flutter, mode 5 (B)\""));
-    EXPECT_THAT(text, HasSubstr("wing.ev2,3,0,350,5,flutter,B,,,1,400,up to the last speed"));
+    EXPECT_THAT(text, HasSubstr("wing.ev2,0,3,becomes unstable,flutter,350,0,5,B,"));
+}
+
+TEST_F(CrossingsCommand, tracesTheNumbersToTheirSource)
+{
+    const std::string path = folder().write("none.ev2", fileBytes(writeEv2()));
+    ASSERT_EQ(runBatch({"crossings", "--output", file("out.json"), path}).status, 0);
+    const QJsonObject json =
+        QJsonDocument::fromJson(QByteArray::fromStdString(fileBytes(file("out.json")))).object();
+    EXPECT_TRUE(json["program"_L1].toString().startsWith("tarsil-batch "_L1));
+    const QJsonObject source = json["sources"_L1][0].toObject();
+    EXPECT_EQ(source["size"_L1].toInt(), static_cast<int>(fileBytes(path).size()));
+    EXPECT_EQ(source["sha256"_L1].toString().size(), 64);
+    EXPECT_EQ(json["settings"_L1]["levels"_L1].toArray().size(), 4);
+    const QJsonObject evolution = json["evolutions"_L1][0].toObject();
+    EXPECT_EQ(evolution["verdicts"_L1][0]["text"_L1].toString(),
+              "250.00 KEAS, 9.00 Hz, flutter, mode 5 (B)"_L1);
+    const QJsonObject start = evolution["stretches"_L1][0]["start"_L1].toObject();
+    EXPECT_NEAR(start["mach"_L1].toDouble(), 0.78, 1e-6);
+    EXPECT_EQ(start["altitude_from"_L1].toString(), "mach"_L1);
+    // The first factors are 40 and 60 at the two points.
+    EXPECT_EQ(start["largest_factor"_L1]["number"_L1].toInt(), 1);
+    EXPECT_EQ(start["largest_factor"_L1]["value"_L1].toDouble(), 50);
+}
+
+TEST_F(CrossingsCommand, endsWithStatusOneWhereAMarginIsMissing)
+{
+    const std::string aircraft =
+        folder().write("wing.inp", "[FLUTTER ENVELOPE]\n0.78=100|200|150\n");
+    const auto require = [&](const std::string& option) {
+        return runBatch({"crossings", option, "--aircraft", aircraft, "--require-level", "0",
+                         "--output", file("out.csv"), writeEv2()});
+    };
+    EXPECT_EQ(require("--require").status, 0) << "250 KEAS is above 1.15 x 200";
+    EXPECT_THAT(fileBytes(file("out.csv")),
+                HasSubstr("pass: 20 KEAS above 1.15 x 200 = 230 KEAS at g = 0"));
+    const auto result = require("--require=1.5");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.err, HasSubstr("wing.ev2: fail: 50 KEAS below 1.5 x 200 = 300 KEAS"));
+    EXPECT_THAT(fileBytes(file("out.csv")), HasSubstr("fail: 50 KEAS below"));
+}
+
+TEST_F(CrossingsCommand, refusesARequirementWithoutItsParts)
+{
+    const std::string path = writeEv2();
+    const std::string aircraft = folder().write("wing.inp", "");
+    const auto status = [&](std::vector<std::string> options) {
+        options.insert(options.begin(), "crossings");
+        options.insert(options.end(), {"--output", file("out.csv"), path});
+        return runBatch(options).status;
+    };
+    EXPECT_EQ(status({"--require"}), 2);
+    EXPECT_EQ(status({"--aircraft", aircraft}), 2);
+    EXPECT_EQ(status({"--require=0", "--aircraft", aircraft}), 2);
+    EXPECT_EQ(status({"--require=much", "--aircraft", aircraft}), 2);
+    EXPECT_EQ(status({"--require", "--aircraft", file("none.inp")}), 1);
+    EXPECT_EQ(status({"--require", "--aircraft", aircraft}), 1) << "no envelope is no pass";
 }
 
 TEST_F(CrossingsCommand, refusesWordsForNumbersAndOtherOutputs)

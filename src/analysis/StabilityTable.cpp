@@ -1,0 +1,71 @@
+#include "analysis/StabilityTable.h"
+
+#include "analysis/ModeTracking.h"
+#include "model/EVM.h"
+
+#include <algorithm>
+
+namespace tarsil {
+
+namespace {
+
+/// Stretches without a start come first.
+double startOf(const StabilityLine& line)
+{
+    return line.stretch.start ? line.stretch.start->speed : -1;
+}
+
+void sortOut(EvolutionStability& result)
+{
+    for (const RootStretches& root : result.roots) {
+        for (const Stretch& stretch : root.found.stretches) {
+            if (stretch.height == StretchHeight::Real)
+                result.lines.push_back({root.mode, root.level, stretch});
+            else
+                ++(stretch.height == StretchHeight::Noise ? result.noise : result.weak);
+        }
+    }
+    std::stable_sort(result.lines.begin(), result.lines.end(),
+                     [](const auto& a, const auto& b) { return startOf(a) < startOf(b); });
+}
+
+Margin marginAt(const StabilityInput& input, StabilitySettings settings, float lastSpeed)
+{
+    const float level = input.required->requirement.level;
+    settings.levels = {level};
+    const StabilityVerdict verdict = verdictOf(stabilityOf(*input.evolution, settings), level);
+    return marginOf(verdict, lastSpeed, *input.required);
+}
+
+} // namespace
+
+StabilitySettings reportSettings(double referenceDamping)
+{
+    StabilitySettings settings;
+    const auto level = static_cast<float>(referenceDamping);
+    if (std::find(settings.levels.begin(), settings.levels.end(), level) == settings.levels.end())
+        settings.levels.push_back(level);
+    return settings;
+}
+
+EvolutionStability judged(const StabilityInput& input, const StabilitySettings& settings)
+{
+    EvolutionStability result;
+    result.evolution = input.evolution;
+    result.lastSpeed = lastSpeedOf(*input.evolution);
+    if (settings.isTracked) {
+        if (const auto obstacle = ModeTracking::obstacle(*input.evolution)) {
+            result.obstacle = *obstacle;
+            return result;
+        }
+    }
+    result.roots = stabilityOf(*input.evolution, settings, input.mach);
+    for (const float level : settings.levels)
+        result.verdicts.push_back(verdictOf(result.roots, level));
+    sortOut(result);
+    if (input.required)
+        result.margin = marginAt(input, settings, result.lastSpeed);
+    return result;
+}
+
+} // namespace tarsil
