@@ -90,6 +90,7 @@ private:
     void writeSource(const EVM& evolution);
     void beginRow(std::string_view first, CellStyle style);
     void writeNote(std::string_view first, std::string_view text, CellStyle style);
+    void setSingle(Column column, double number);
 
     Sheet& m_sheet;
     std::size_t m_row = 1;
@@ -112,6 +113,12 @@ void StabilityWriter::writeNote(std::string_view first, std::string_view text, C
 {
     beginRow(first, style);
     m_sheet.setText(m_row, Finding, text);
+}
+
+/// As a person reads it in a single, which is what the flutter table shows.
+void StabilityWriter::setSingle(Column column, double number)
+{
+    m_sheet.setNumber(m_row, column, decimalValue(static_cast<float>(number)));
 }
 
 CellStyle styleOf(const StabilityVerdict& verdict)
@@ -149,18 +156,18 @@ void StabilityWriter::writeStart(const Crossing& start)
     m_sheet.setText(m_row, ConfidenceClass, nameOf(start.confidence));
     if (!hasSpeed(start))
         return;
-    m_sheet.setNumber(m_row, StartSpeed, start.speed);
-    m_sheet.setNumber(m_row, Doubt, std::fabs(start.speedOnCurve - start.speed));
-    m_sheet.setNumber(m_row, StartFrequency, start.frequency);
+    setSingle(StartSpeed, start.speed);
+    setSingle(Doubt, std::fabs(start.speedOnCurve - start.speed));
+    setSingle(StartFrequency, start.frequency);
     if (start.condition.altitude) {
         m_sheet.setNumber(m_row, Altitude, *start.condition.altitude);
         m_sheet.setText(m_row, AltitudeSource, altitudeSource(start.condition));
     }
     if (start.condition.mach)
-        m_sheet.setNumber(m_row, Mach, *start.condition.mach);
+        setSingle(Mach, *start.condition.mach);
     if (start.dominant) {
         m_sheet.setNumber(m_row, Factor, static_cast<double>(start.dominant->number));
-        m_sheet.setNumber(m_row, FactorValue, start.dominant->value);
+        setSingle(FactorValue, start.dominant->value);
     }
 }
 
@@ -180,13 +187,12 @@ void StabilityWriter::writeLine(const EvolutionStability& stability, const Stabi
     if (stretch.start)
         writeStart(*stretch.start);
     if (stretch.end && hasSpeed(*stretch.end)) {
-        m_sheet.setNumber(m_row, EndSpeed, stretch.end->speed);
-        m_sheet.setNumber(m_row, EndFrequency, stretch.end->frequency);
+        setSingle(EndSpeed, stretch.end->speed);
+        setSingle(EndFrequency, stretch.end->frequency);
     }
-    m_sheet.setNumber(m_row, Peak, decimalValue(static_cast<float>(stretch.peak)));
-    m_sheet.setNumber(m_row, PeakSpeed, decimalValue(static_cast<float>(stretch.peakSpeed)));
-    m_sheet.setNumber(m_row, PeakFrequency,
-                      decimalValue(static_cast<float>(stretch.peakFrequency)));
+    setSingle(Peak, stretch.peak);
+    setSingle(PeakSpeed, stretch.peakSpeed);
+    setSingle(PeakFrequency, stretch.peakFrequency);
     m_sheet.setText(m_row, Remark, remarkText(stretch));
 }
 
@@ -207,10 +213,10 @@ void StabilityWriter::write(const EvolutionStability& stability)
 }
 
 /// The file as it is now; why not, where it cannot be read.
-std::string factsText(const EVM& evolution)
+std::string factsText(std::string_view path)
 {
     try {
-        const FileFacts facts = factsOf(evolution.path());
+        const FileFacts facts = factsOf(path);
         return std::to_string(facts.size) + " bytes, " + facts.modified + " UTC, SHA-256 "
             + facts.sha256;
     } catch (const RunTimeError& error) {
@@ -220,8 +226,16 @@ std::string factsText(const EVM& evolution)
 
 void StabilityWriter::writeSource(const EVM& evolution)
 {
-    writeNote(evolution.FileName, factsText(evolution), CellStyle::Quiet);
+    writeNote(evolution.FileName, factsText(evolution.path()), CellStyle::Quiet);
     m_sheet.setText(m_row, Remark, wholePath(evolution.path()));
+    const Provenance& provenance = evolution.provenance;
+    if (!provenance.isImported())
+        return;
+    writeNote("imported from", factsText(provenance.source), CellStyle::Quiet);
+    m_sheet.setText(m_row, Remark,
+                    provenance.source + ", lines " + provenance.sourceLines + ", speeds in "
+                        + provenance.speedUnit + " x " + provenance.vref + ", density in "
+                        + provenance.density);
 }
 
 void StabilityWriter::writeOrigin(const StabilityReport& report)

@@ -39,8 +39,8 @@ std::string verdictText(const StabilityVerdict& verdict, float lastSpeed)
         ", mode " + std::to_string(verdict.lowestMode) + " (" + nameOf(start.confidence) + ")";
     if (!hasSpeed(start))
         return intervalText(start) + mode;
-    return formatNumber(start.speed, "0.00") + " KEAS, " + formatNumber(start.frequency, "0.00")
-        + " Hz, " + nameOf(start.kind) + mode;
+    return formatNumber(start.speed, "0.00") + " +- " + doubtText(start) + " KEAS, "
+        + formatNumber(start.frequency, "0.00") + " Hz, " + nameOf(start.kind) + mode;
 }
 
 std::string speedText(double speed)

@@ -6,8 +6,8 @@
 
 namespace tarsil {
 
-/// The verdict in a line: "266.24 KEAS, 11.15 Hz, flutter, mode 2 (A)", "unstable from the first
-/// speed: modes 2, 3" or "no instability up to 420 KEAS".
+/// The verdict in a line: "266.24 +- 0.01 KEAS, 11.15 Hz, flutter, mode 2 (A)", "unstable from the
+/// first speed: modes 2, 3" or "no instability up to 420 KEAS".
 std::string verdictText(const StabilityVerdict& verdict, float lastSpeed);
 
 /// A speed of a point in KEAS, to a hundredth: "266.5".

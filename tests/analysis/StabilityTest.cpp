@@ -48,7 +48,7 @@ TEST(Stability, namesTheLowestRealStart)
     EVM evolution;
     addMode(evolution, 3, {{300, -0.125F, 8}, {400, 0.375F, 10}});
     addMode(evolution, 5, {{300, -1, 8}, {350, 0.0001F, 8}, {360, -1, 10}});
-    EXPECT_EQ(verdictAtZero(evolution), "325.00 KEAS, 8.50 Hz, flutter, mode 3 (B)")
+    EXPECT_EQ(verdictAtZero(evolution), "325.00 +- 0.00 KEAS, 8.50 Hz, flutter, mode 3 (B)")
         << "the weak one of mode 5 does not count";
 }
 
@@ -271,7 +271,7 @@ TEST_F(StabilitySheetTest, listsVerdictsThenRealStretchesAndCountsTheOthers)
     addMode(evolution, 3, {{300, -0.5F, 8}, {320, 1e-8F, 10}, {340, -0.5F, 10}});
     const Sheet sheet = write();
     EXPECT_EQ(textAt(sheet, 1, 1), "File");
-    EXPECT_EQ(textAt(sheet, 2, 4), "310.00 KEAS, 9.00 Hz, flutter, mode 2 (B)");
+    EXPECT_EQ(textAt(sheet, 2, 4), "310.00 +- 0.00 KEAS, 9.00 Hz, flutter, mode 2 (B)");
     EXPECT_EQ(textAt(sheet, 3, 3), "2");
     EXPECT_EQ(textAt(sheet, 3, 4), "hump");
     EXPECT_EQ(textAt(sheet, 3, 5), "flutter");

@@ -42,7 +42,9 @@ TEST(Sha256, givesTheDigestsOfTheStandard)
 
 TEST(Sha256, isTheSameWhateverThePieces)
 {
-    const std::string text = std::string(150, 'x') + "abc" + std::string(200, 'y');
+    std::string text(150, 'x');
+    text += "abc";
+    text.append(200, 'y');
     const std::string whole = digestOf(text);
     for (const std::size_t size : {1U, 3U, 55U, 56U, 63U, 64U, 65U, 128U}) {
         Sha256 digest;

@@ -45,6 +45,21 @@ TEST(Arguments, takeValuesBehindABlankOrAnEqualSign)
     EXPECT_FALSE(parse({"f"}).has("--number"));
 }
 
+TEST(Arguments, mayGoWithoutAValueThatIsOptional)
+{
+    static constexpr std::array<OptionDescription, 1> choice = {
+        {{"--choice", "N", "a number", false, false, true}}};
+    static constexpr CommandDescription chooser {"try", "FILE...", 2, "tries", "Tries.", choice};
+    const auto line = [](const std::vector<std::string>& arguments) {
+        return CommandLine(chooser, arguments);
+    };
+    EXPECT_EQ(line({"--choice", "f"}).value("--choice"), "");
+    EXPECT_THAT(line({"--choice", "f"}).operands(), ElementsAre("f"));
+    EXPECT_EQ(line({"--choice=2", "f"}).value("--choice"), "2");
+    EXPECT_FALSE(takesNextArgument(chooser, "--choice"));
+    EXPECT_THAT(helpText(chooser), HasSubstr("[--choice[=N]]"));
+}
+
 TEST(Arguments, takeANegativeNumberAsAValue)
 {
     EXPECT_EQ(parse({"--number", "-0.02", "f"}).number("--number"), -0.02);
