@@ -40,7 +40,7 @@ enum Column : std::size_t {
 
 constexpr std::array<std::string_view, Remark> headings = {
     "File",          "Level (g)", "Mode",        "Finding",    "Kind",
-    "Start (KEAS)",  "+- (KEAS)", "Start (Hz)",  "Confidence", "Altitude (ft)",
+    "Start (KEAS)",  "Curve +-", "Start (Hz)",  "Confidence", "Altitude (ft)",
     "Altitude from", "Mach No.",  "End (KEAS)",  "End (Hz)",   "Peak (g)",
     "Peak (KEAS)",   "Peak (Hz)", "Largest MPF", "MPF value",  "Remark"};
 
