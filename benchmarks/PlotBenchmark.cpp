@@ -52,12 +52,12 @@ void drawPolylines(const EvmPlot& plot, QImage& image)
     image.fill(Qt::white);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    for (const ucPlot* canvas : {&plot.vfPlot(), &plot.vgPlot()}) {
+    for (const ucPlot* canvas : {&plot.parts().vfPlot, &plot.parts().vgPlot}) {
         for (const Series& series : plot.SeriesCollection()) {
             const ColorValue color = series.ColorIndex;
             painter.setPen(
                 QPen(QColor(color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF), 1));
-            painter.drawPolyline(curve(*canvas, *series.Mode, canvas == &plot.vgPlot()));
+            painter.drawPolyline(curve(*canvas, *series.Mode, canvas == &plot.parts().vgPlot));
         }
     }
 }
@@ -105,7 +105,7 @@ void measureRepaint(EvmPlot& plot)
     EvmPlotView view(plot);
     view.resize(pictureSize);
     for (const TextBox which : allTextBoxes)
-        plot.setBoxText(which, QStringLiteral("text"));
+        plot.texts().setText(which, QStringLiteral("text"));
     QImage target(pictureSize, QImage::Format_RGB32);
     view.render(&target); // draws what is not drawn yet
     const auto repaint = [&] { view.render(&target, QPoint(), QRegion(), QWidget::RenderFlags()); };
@@ -127,7 +127,7 @@ int main(int argc, char** argv)
     EvmPlot plot;
     plot.resize(pictureSize);
     for (const auto& mode : evolution.Modes)
-        plot.addSeries(*mode);
+        plot.rows().add(*mode);
     plot.plot();
     measurePicture(plot);
     measureRepaint(plot);

@@ -75,7 +75,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
     makeApplication();
     EvmPlot plot;
     plot.resize(QSize(400, 500));
-    plot.Header().setTextRTF(fuzz::textOf(data, size));
+    plot.texts().setTextRTF(TextBox::Header, fuzz::textOf(data, size));
     requireWellFormed(pictureBytes(plot, PictureFormat::Svg));
     requireRecords(pictureBytes(plot, PictureFormat::Emf));
     return 0;

@@ -102,8 +102,9 @@ void dlgDampLine::sdampInp_LostFocus()
 void dlgDampLine::sdampBtn_Click()
 {
     m_isLeft = false;
-    addMark(*m_ui->sdampInp, moduleName,
-            [this](EvmPlot& plot, float g) { plot.AddDampLine(g, m_ui->captionInp->text()); });
+    addMark(*m_ui->sdampInp, moduleName, [this](EvmPlot& plot, float g) {
+        plot.marks().AddDampLine(g, m_ui->captionInp->text());
+    });
 }
 
 } // namespace tarsil

@@ -27,8 +27,9 @@ void dlgRefSpeed::fillDefaults()
 
 void dlgRefSpeed::AddRefBtn_Click()
 {
-    addMark(*m_ui->posInp, "dlgRefSpeed",
-            [this](EvmPlot& plot, float speed) { plot.AddRef(speed, m_ui->capInp->text()); });
+    addMark(*m_ui->posInp, "dlgRefSpeed", [this](EvmPlot& plot, float speed) {
+        plot.marks().AddRef(speed, m_ui->capInp->text());
+    });
 }
 
 } // namespace tarsil

@@ -15,7 +15,8 @@ constexpr std::size_t mostLines = 30; ///< more do not fit on a small screen
 
 std::vector<std::string> linesOf(const EvmPlot& plot, bool withCaption)
 {
-    const std::string caption = withCaption ? " of " + plot.Caption().toStdString() : std::string();
+    const std::string caption =
+        withCaption ? " of " + plot.properties().Caption().toStdString() : std::string();
     std::vector<std::string> lines;
     for (const std::size_t row : plot.rows().withoutCurve())
         lines.push_back(mdlData::missingModeText(plot.rows().at(row)) + " (row "

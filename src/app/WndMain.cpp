@@ -92,7 +92,7 @@ void wndMain::makeChildWindows()
     connect(&m_document, &Document::aboutToBeSaved, m_evolPlot, &wndEvolPlot::fitAll);
     connect(&m_document.plots(), &PlotList::activeChanged, this,
             [this](EvmPlot* before, EvmPlot* now) {
-                m_statusPanels->setEditMode(now != nullptr && now->EditMode());
+                m_statusPanels->setEditMode(now != nullptr && now->texts().EditMode());
                 followMarks(before, now);
             });
     connect(m_evolPlot, &wndEvolPlot::plotMenuRequested, this,
@@ -118,7 +118,7 @@ void wndMain::followMarks(const EvmPlot* before, const EvmPlot* now)
 {
     const auto showNote = [this] {
         const EvmPlot* const plot = m_document.plots().active();
-        m_statusPanels->setPlotNote(plot == nullptr ? QString() : plot->shiftedMarksNote());
+        m_statusPanels->setPlotNote(plot == nullptr ? QString() : plot->marks().shiftNote());
     };
     if (before != nullptr)
         disconnect(before, &EvmPlot::changed, this, nullptr);
@@ -273,7 +273,7 @@ void wndMain::mnuAddRef_Click()
 
 void wndMain::mnuClearRef_Click()
 {
-    activePlot().RemoveRef();
+    activePlot().marks().RemoveRef();
 }
 
 void wndMain::mnuAddDamp_Click()
@@ -288,7 +288,7 @@ void wndMain::mnuAddDamp_Click()
 
 void wndMain::mnuClearDamp_Click()
 {
-    activePlot().RemoveDampLine();
+    activePlot().marks().RemoveDampLine();
 }
 
 void wndMain::mnuFlutCalc_Click()
@@ -334,8 +334,8 @@ void wndMain::stBar_PanelClick(int panel)
     m_userInterface.beginCommand();
     guarded(m_userInterface, "wndMain", [this] {
         EvmPlot& plot = activePlot();
-        plot.setEditMode(!plot.EditMode());
-        m_statusPanels->setEditMode(plot.EditMode());
+        plot.texts().setEditMode(!plot.texts().EditMode());
+        m_statusPanels->setEditMode(plot.texts().EditMode());
     });
 }
 

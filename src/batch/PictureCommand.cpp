@@ -18,7 +18,7 @@ void finish(EvmPlot& plot, const PictureOptions& options, const std::string& out
     setTexts(plot, options);
     plot.resize(options.size);
     writePicture(plot, output);
-    if (const QString note = plot.shiftedMarksNote(); !note.isEmpty())
+    if (const QString note = plot.marks().shiftNote(); !note.isEmpty())
         run.complain(output + ": " + note.toStdString());
 }
 
@@ -71,7 +71,7 @@ void drawPlot(const PlotRecord& record, const std::vector<EVM*>& evolutions,
 {
     try {
         EvmPlot plot;
-        plot.setCaption(QString::fromStdString(record.caption));
+        plot.properties().setCaption(QString::fromStdString(record.caption));
         applyRecord(record, evolutions, plot);
         finish(plot, options, output, run);
     } catch (const RunTimeError& error) {

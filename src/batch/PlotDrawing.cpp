@@ -29,14 +29,15 @@ void roundTicks(AxisValues& axis, Steps steps, std::int16_t usual)
 }
 
 /// Text in Rich Text Format keeps its fonts and colours; in other text "\n" is a line break.
-void setText(emfRichTextBox& box, const std::optional<std::string>& text)
+void setText(EvmPlot& plot, TextBox box, const std::optional<std::string>& text)
 {
     if (!text)
         return;
     if (looksLikeRtf(*text))
-        box.setTextRTF(*text);
+        plot.texts().setTextRTF(box, *text);
     else
-        box.setText(
+        plot.texts().setText(
+            box,
             QString::fromStdString(*text).replace(QStringLiteral("\\n"), QStringLiteral("\n")));
 }
 
@@ -64,13 +65,13 @@ void setScale(EvmPlot& plot, const PictureOptions& options)
 
 void setTexts(EvmPlot& plot, const PictureOptions& options)
 {
-    setText(plot.Header(), options.header);
-    setText(plot.Legend(), options.legend);
-    setText(plot.Mechanism(), options.subtitle);
+    setText(plot, TextBox::Header, options.header);
+    setText(plot, TextBox::Legend, options.legend);
+    setText(plot, TextBox::Mechanism, options.subtitle);
     for (const CaptionedValue& reference : options.referenceSpeeds)
-        plot.AddRef(reference.value, reference.caption);
+        plot.marks().AddRef(reference.value, reference.caption);
     for (const CaptionedValue& damping : options.dampingLines)
-        plot.AddDampLine(damping.value, damping.caption);
+        plot.marks().AddDampLine(damping.value, damping.caption);
 }
 
 void writePicture(EvmPlot& plot, const std::string& path)

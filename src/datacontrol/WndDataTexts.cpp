@@ -65,7 +65,7 @@ void wndData::btnMakHead_Click()
     if (activePlot() == nullptr)
         return;
     changePlot(tr("Header"), [&](EvmPlot& plot) {
-        plot.setBoxText(TextBox::Header, headerText(*evolution, m_ui->txtTitle->text()));
+        plot.texts().setText(TextBox::Header, headerText(*evolution, m_ui->txtTitle->text()));
     });
 }
 
@@ -128,7 +128,7 @@ void wndData::SavePic_Click()
     EvmPlot* const plot = activePlot();
     if (plot == nullptr)
         return;
-    const std::string caption = plot->Caption().toStdString();
+    const std::string caption = plot->properties().Caption().toStdString();
     const auto answer = m_user.askSaveFile({std::string(pictureFilter), 1, false, caption, true});
     if (!answer && fileExists(caption)
         && !m_user.confirm("The file '" + caption + "' already exists. Do you want to replace it?",

@@ -39,14 +39,12 @@ std::vector<EVM*> Document::load(const std::vector<std::string>& paths, UserInte
     return added;
 }
 
-Document::RemovedEvolution Document::takeOut(EVM& evolution)
+TakenEvolution Document::takeOut(EVM& evolution)
 {
-    RemovedEvolution removed {m_evolutions.takeOut(evolution), {}};
-    for (EvmPlot* const plot : m_plots.all()) {
-        if (plot->rows().removeRowsOf(evolution) > 0)
-            removed.changedPlots.push_back(plot);
-    }
-    return removed;
+    TakenEvolution taken = m_evolutions.takeOut(evolution);
+    for (EvmPlot* const plot : m_plots.all())
+        plot->rows().removeRowsOf(evolution);
+    return taken;
 }
 
 void Document::setAirplane(AirplaneInfo airplane)

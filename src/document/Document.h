@@ -53,15 +53,8 @@ public:
     /// of each file that cannot be opened (`mdlMain::loadEvolutions`).
     std::vector<EVM*> load(const std::vector<std::string>& paths, UserInterface& user);
 
-    /// An evolution that has left the document.
-    struct RemovedEvolution
-    {
-        TakenEvolution taken;
-        std::vector<EvmPlot*> changedPlots; ///< those that had rows of it; not drawn again yet
-    };
-
     /// Takes an evolution out, and its rows from all plots. Error 5 for one that is not there.
-    RemovedEvolution takeOut(EVM& evolution);
+    TakenEvolution takeOut(EVM& evolution);
 
     const AirplaneInfo& airplane() const { return m_airplane; }
 

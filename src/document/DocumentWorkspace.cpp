@@ -159,7 +159,7 @@ EvmPlot& Document::plotFor(std::size_t index, const QString& caption)
 {
     if (index > 0)
         return m_plots.add(caption);
-    m_plots.first().setCaption(caption);
+    m_plots.first().properties().setCaption(caption);
     return m_plots.first();
 }
 

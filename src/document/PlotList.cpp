@@ -55,7 +55,7 @@ void PlotList::activate(EvmPlot* plot)
 {
     if (plot != nullptr && !contains(plot))
         throw RunTimeError(ErrorNumber::InvalidProcedureCall, module,
-                           "the plot \"" + plot->Caption().toStdString()
+                           "the plot \"" + plot->properties().Caption().toStdString()
                                + "\" is not in this list");
     if (plot == m_active)
         return;
@@ -82,7 +82,8 @@ EvmPlot& PlotList::copyActive(const QString& caption)
     Element element = makeElement(nextIndex());
     m_active->commitEdits();
     element.plot->Clone(*m_active);
-    const QString standard = m_active->Caption() + u'(' + numberText(element.index) + u')';
+    const QString standard =
+        m_active->properties().Caption() + u'(' + numberText(element.index) + u')';
     return append(std::move(element), caption.isEmpty() ? standard : caption);
 }
 
@@ -91,7 +92,8 @@ TakenPlot PlotList::takeOut(EvmPlot& plot)
     const auto element = find(&plot);
     if (element == m_plots.end() || element->index == 0)
         throw RunTimeError(ErrorNumber::InvalidProcedureCall, module,
-                           "the plot \"" + plot.Caption().toStdString() + "\" cannot be removed");
+                           "the plot \"" + plot.properties().Caption().toStdString()
+                               + "\" cannot be removed");
     const bool wasActive = &plot == m_active;
     if (wasActive)
         activate(std::prev(element)->plot.get());
@@ -116,7 +118,7 @@ void PlotList::putBack(TakenPlot taken)
 bool PlotList::isTaken(const QString& caption, const EvmPlot& plot) const
 {
     return std::any_of(m_plots.begin(), m_plots.end(), [&](const Element& element) {
-        return element.plot.get() != &plot && element.plot->Caption() == caption;
+        return element.plot.get() != &plot && element.plot->properties().Caption() == caption;
     });
 }
 
@@ -128,11 +130,11 @@ void PlotList::startNew()
     while (m_plots.size() > 1)
         takeOut(*m_plots.back().plot);
     EvmPlot fresh;
-    fresh.setCaption(QStringLiteral("Plot1"));
+    fresh.properties().setCaption(QStringLiteral("Plot1"));
     fresh.setAxes(m_newPlotAxes);
     first().Clone(fresh);
-    first().setRefs({});
-    first().setDampLines({});
+    first().marks().setReferenceSpeeds({});
+    first().marks().setDampingLines({});
     activate(&first());
 }
 
@@ -161,7 +163,7 @@ PlotList::Element PlotList::makeElement(int index) const
 
 EvmPlot& PlotList::append(Element element, const QString& caption)
 {
-    element.plot->setCaption(uniqueCaption(caption, *element.plot));
+    element.plot->properties().setCaption(uniqueCaption(caption, *element.plot));
     EvmPlot& plot = *m_plots.emplace_back(std::move(element)).plot;
     Q_EMIT added(&plot);
     return plot;

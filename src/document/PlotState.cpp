@@ -10,8 +10,8 @@ namespace {
 
 void restoreAxes(EvmPlot& plot, const PlotState& state)
 {
-    if (plot.WriteProperties() != state.properties)
-        plot.ReadProperties(state.properties);
+    if (plot.properties().WriteProperties() != state.properties)
+        plot.properties().ReadProperties(state.properties);
     if (plot.axes() != state.axes)
         plot.setAxes(state.axes);
 }
@@ -19,7 +19,7 @@ void restoreAxes(EvmPlot& plot, const PlotState& state)
 /// The text and look of a box, and of its position what does not follow from the layout.
 emfRichTextBox::State boxStateOf(const EvmPlot& plot, TextBox box)
 {
-    emfRichTextBox::State state = plot.box(box).state();
+    emfRichTextBox::State state = plot.parts().box(box).state();
     const bool isHeader = box == TextBox::Header; // keeps its row
     if (isHeader || !state.wasMoved)
         state.left = 0;
@@ -30,15 +30,14 @@ emfRichTextBox::State boxStateOf(const EvmPlot& plot, TextBox box)
 
 void restoreTexts(EvmPlot& plot, const PlotState& state)
 {
-    const std::array boxes = {&plot.Header(), &plot.Legend(), &plot.Mechanism()};
-    for (std::size_t i = 0; i < boxes.size(); ++i) {
-        if (boxStateOf(plot, allTextBoxes[i]) == state.boxes[i])
+    for (std::size_t i = 0; i < allTextBoxes.size(); ++i) {
+        const emfRichTextBox::State& wanted = state.boxes[i];
+        if (boxStateOf(plot, allTextBoxes[i]) == wanted)
             continue;
-        boxes[i]->setState(state.boxes[i]);
+        plot.texts().change(allTextBoxes[i],
+                            [&wanted](emfRichTextBox& box) { box.setState(wanted); });
         if (allTextBoxes[i] == TextBox::Header)
-            plot.setHeaderTop(state.boxes[i].top); // lays out again
-        else
-            plot.refresh();
+            plot.texts().setHeaderTop(wanted.top);
     }
 }
 
@@ -50,10 +49,10 @@ PlotState stateOf(const EvmPlot& plot)
     state.rows = plot.rows().all();
     for (std::size_t i = 0; i < state.boxes.size(); ++i)
         state.boxes[i] = boxStateOf(plot, allTextBoxes[i]);
-    state.properties = plot.WriteProperties();
+    state.properties = plot.properties().WriteProperties();
     state.axes = plot.axes();
-    state.referenceSpeeds = plot.Refs();
-    state.dampingLines = plot.vgPlot().lines();
+    state.referenceSpeeds = plot.marks().referenceSpeeds();
+    state.dampingLines = plot.marks().dampingLines();
     return state;
 }
 
@@ -62,10 +61,10 @@ void restore(EvmPlot& plot, const PlotState& state)
     plot.rows().restore(state.rows);
     restoreAxes(plot, state);
     restoreTexts(plot, state);
-    if (plot.Refs() != state.referenceSpeeds)
-        plot.setRefs(state.referenceSpeeds);
-    if (plot.vgPlot().lines() != state.dampingLines)
-        plot.restoreDampLines(state.dampingLines);
+    if (plot.marks().referenceSpeeds() != state.referenceSpeeds)
+        plot.marks().setReferenceSpeeds(state.referenceSpeeds);
+    if (plot.marks().dampingLines() != state.dampingLines)
+        plot.marks().restoreDampingLines(state.dampingLines);
 }
 
 } // namespace tarsil

@@ -24,6 +24,24 @@ std::int16_t ticks(float count, const FlutterMechanism& mechanism, std::string_v
                                 + mechanism.ShortName);
 }
 
+/// Each line is searched after the one before it, so that two equal lines get their own colours.
+void colorLines(emfRichTextBox& box, const QStringList& lines,
+                const std::vector<ColorValue>& colors)
+{
+    const QString text = box.Text();
+    qsizetype from = 0;
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        const qsizetype position = text.indexOf(lines[i], from);
+        if (position < 0)
+            continue;
+        box.setSelStart(static_cast<int>(position));
+        box.setSelLength(static_cast<int>(lines[i].size()));
+        box.setSelColor(colors[static_cast<std::size_t>(i)]);
+        from = position + lines[i].size();
+    }
+    box.setSelStart(0);
+}
+
 } // namespace
 
 std::string missingAircraftText(const AirplaneInfo& airplane)
@@ -61,10 +79,10 @@ void markEnvelope(EvmPlot& plot, const EVM& evolution, const AirplaneInfo& airpl
                                + envelopeName(evolution.Param.Mach) + where);
     }
     // The blanks set the captions off from each other where the speeds are close.
-    plot.RemoveRef();
-    plot.AddRef(envelope->Ceiling, QString::fromStdString(airplane.CeTag));
-    plot.AddRef(envelope->Vd, QString::fromStdString(airplane.VdTag + "    "));
-    plot.AddRef(envelope->VL, QString::fromStdString("       " + airplane.VLTag));
+    plot.marks().RemoveRef();
+    plot.marks().AddRef(envelope->Ceiling, QString::fromStdString(airplane.CeTag));
+    plot.marks().AddRef(envelope->Vd, QString::fromStdString(airplane.VdTag + "    "));
+    plot.marks().AddRef(envelope->VL, QString::fromStdString("       " + airplane.VLTag));
 }
 
 void showMechanism(EvmPlot& plot, const AirplaneInfo& airplane, const QString& shortName,
@@ -80,12 +98,11 @@ void showMechanism(EvmPlot& plot, const AirplaneInfo& airplane, const QString& s
     axes.speed.ticks = ticks(found->vthick, *found, "speed");
     axes.damping.ticks = ticks(found->gthick, *found, "damping");
     axes.frequency.ticks = ticks(found->fthick, *found, "frequency");
-    plot.setBoxText(TextBox::Mechanism,
-                    QString::fromStdString(withLongName ? found->LongName : found->ShortName));
+    plot.texts().setText(TextBox::Mechanism,
+                         QString::fromStdString(withLongName ? found->LongName : found->ShortName));
     plot.setAxes(axes);
 }
 
-/// Each line is searched after the one before it, so that two equal lines get their own colours.
 void writeLegend(EvmPlot& plot, double points)
 {
     QStringList lines;
@@ -97,24 +114,13 @@ void writeLegend(EvmPlot& plot, double points)
             mdlData::inOneLine(u'[' + series.MarkerTag + QStringLiteral("] ") + series.LegendText));
         colors.push_back(series.ColorIndex);
     }
-    emfRichTextBox& box = plot.Legend();
-    Font font = box.Font();
-    font.points = points;
-    box.setFont(font);
-    box.setText(lines.join(lineBreak));
-    const QString text = box.Text();
-    qsizetype from = 0;
-    for (qsizetype i = 0; i < lines.size(); ++i) {
-        const qsizetype position = text.indexOf(lines[i], from);
-        if (position < 0)
-            continue;
-        box.setSelStart(static_cast<int>(position));
-        box.setSelLength(static_cast<int>(lines[i].size()));
-        box.setSelColor(colors[static_cast<std::size_t>(i)]);
-        from = position + lines[i].size();
-    }
-    box.setSelStart(0);
-    plot.refresh();
+    plot.texts().change(TextBox::Legend, [&](emfRichTextBox& box) {
+        Font font = box.Font();
+        font.points = points;
+        box.setFont(font);
+        box.setText(lines.join(lineBreak));
+        colorLines(box, lines, colors);
+    });
 }
 
 } // namespace tarsil

@@ -28,7 +28,7 @@ QTreeWidgetItem* PlotNodes::nodeOf(const EvmPlot* plot) const
 
 void PlotNodes::addPlot(EvmPlot* plot)
 {
-    Node node = makeNode(plot->Caption(), plot->Caption());
+    Node node = makeNode(plot->properties().Caption(), plot->properties().Caption());
     node->setFlags(node->flags() | Qt::ItemIsEditable);
     setImage(*node, m_images, QStringLiteral("plot"));
     setTag(*node, plot);
@@ -56,10 +56,10 @@ void PlotNodes::markActive(EvmPlot* before, EvmPlot* now)
 void PlotNodes::showCaption(const EvmPlot* plot)
 {
     QTreeWidgetItem* const node = nodeOf(plot);
-    if (node == nullptr || node->text(0) == plot->Caption())
+    if (node == nullptr || node->text(0) == plot->properties().Caption())
         return;
-    node->setText(0, plot->Caption());
-    setKey(*node, plot->Caption());
+    node->setText(0, plot->properties().Caption());
+    setKey(*node, plot->properties().Caption());
 }
 
 } // namespace tarsil

@@ -65,7 +65,7 @@ void wndEvolExplorer::renamePlot(EvmPlot& plot, const QString& text)
         return;
     }
     if (!text.trimmed().isEmpty())
-        plot.setCaption(text);
+        plot.properties().setCaption(text);
     m_plotWindow.ActivatePlot(&plot);
 }
 

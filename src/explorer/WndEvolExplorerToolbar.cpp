@@ -9,7 +9,6 @@
 #include "explorer/WndEvolExplorer.h"
 #include "model/EVM.h"
 #include "plotwindow/WndEvolPlot.h"
-#include "vgfplot/EvmPlot.h"
 
 #include <QAction>
 #include <QToolBar>
@@ -49,7 +48,6 @@ void wndEvolExplorer::makeToolbar()
     }
 }
 
-/// A plot that cannot be drawn is reported and does not keep the others from it.
 void wndEvolExplorer::remove_Click()
 {
     EVM* const evolution = selectedEvolution();
@@ -57,9 +55,7 @@ void wndEvolExplorer::remove_Click()
         m_user.showMessage("Please select a modal evolution.", "Tarsil", MessageIcon::Exclamation);
         return;
     }
-    const Document::RemovedEvolution removed = m_document.takeOut(*evolution);
-    for (EvmPlot* const plot : removed.changedPlots)
-        run([plot] { plot->plot(); });
+    m_document.takeOut(*evolution);
 }
 
 /// Everything is looked at before the first series is added, so that an error changes nothing.

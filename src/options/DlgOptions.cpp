@@ -124,8 +124,6 @@ void dlgOptions::readAircraftFile()
     m_document.setAirplane(std::move(airplane));
 }
 
-/// A plot that is shown is drawn at once. What is applied may be impossible to draw: that is
-/// reported, and the options are in force all the same.
 void dlgOptions::applyAxes()
 {
     PlotAxes ofNewPlots = m_document.plots().newPlotAxes();
@@ -138,8 +136,6 @@ void dlgOptions::applyAxes()
         return;
     EvmPlot& plot = vgfPlot();
     plot.setAxes(withEntries(plot.axes()));
-    if (plot.Visible())
-        guarded(m_user, moduleName, [&plot] { plot.plot(); });
 }
 
 EvmPlot& dlgOptions::vgfPlot() const

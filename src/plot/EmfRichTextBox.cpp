@@ -283,12 +283,11 @@ void emfRichTextBox::fitToText()
             return metrics.extent(text, font);
         },
         [&metrics](const tarsil::Font& font) { return metrics.ascent(font); }};
-    QSize size = layOutRichText(m_content, m_foreColor, measure).size;
-    if (isEmpty())
-        size = metrics.extent(m_prompt, fontOf(m_content.last));
+    m_textSize = isEmpty() ? metrics.extent(m_prompt, fontOf(m_content.last))
+                           : layOutRichText(m_content, m_foreColor, measure).size;
     const QPoint position(roundToPixel(m_left / unitsPerPixel),
                           roundToPixel(m_top / unitsPerPixel));
-    setGeometry({position, size.expandedTo(m_leastSize)});
+    setGeometry({position, m_textSize.expandedTo(m_leastSize)});
 }
 
 void emfRichTextBox::paint(DeviceContext& context) const

@@ -70,6 +70,10 @@ public:
     void setUnitsWidth(double width);
     double unitsHeight() const;
     void setUnitsHeight(double height);
+
+    /// The size that the text needs, or the prompt of an empty box, in pixels.
+    QSize textSize() const { return m_textSize; }
+
     void Move(double left, double top);
 
     /// Whether somebody gave the box its position; until then its container places it.
@@ -138,6 +142,7 @@ private:
     double m_left = 0;
     double m_top = 0;
     bool m_wasMoved = false;
+    QSize m_textSize;
     QSize m_leastSize; ///< pixels
     ChangedProperties m_changed;
 };

@@ -55,19 +55,16 @@ void dlgPlotProp::Form_Load()
     m_ui->inpVnthicks->setText(QString::number(axes.speed.ticks));
     m_ui->inpGnthicks->setText(QString::number(axes.damping.ticks));
     m_ui->inpFnthicks->setText(QString::number(axes.frequency.ticks));
-    m_ui->inpVlabel->setText(m_plot.vLabel());
-    m_ui->inpGlabel->setText(m_plot.gLabel());
-    m_ui->inpFlabel->setText(m_plot.fLabel());
+    m_ui->inpVlabel->setText(m_plot.properties().vLabel());
+    m_ui->inpGlabel->setText(m_plot.properties().gLabel());
+    m_ui->inpFlabel->setText(m_plot.properties().fLabel());
 }
 
-/// Applies the inputs and closes the dialog; it stays open when one of them is no number. What is
-/// applied may be impossible to draw: that is reported, and the dialog closes all the same.
+/// Applies the inputs and closes the dialog; it stays open when one of them is no number.
 void dlgPlotProp::OKButton_Click()
 {
-    if (!guarded(m_userInterface, moduleName, [this] { applyInputs(); }))
-        return;
-    guarded(m_userInterface, moduleName, [this] { m_plot.plot(); });
-    accept();
+    if (guarded(m_userInterface, moduleName, [this] { applyInputs(); }))
+        accept();
 }
 
 /// In this order, so that a failure leaves in force what comes before it: all bounds together, each
@@ -80,12 +77,12 @@ void dlgPlotProp::applyInputs()
     PlotAxes axes = m_plot.axes();
     axes.setBounds(bounds);
     m_plot.setAxes(axes);
-    m_plot.setVthicks(countIn(*m_ui->inpVnthicks));
-    m_plot.setGthicks(countIn(*m_ui->inpGnthicks));
-    m_plot.setFthicks(countIn(*m_ui->inpFnthicks));
-    m_plot.setVLabel(m_ui->inpVlabel->text());
-    m_plot.setGLabel(m_ui->inpGlabel->text());
-    m_plot.setFLabel(m_ui->inpFlabel->text());
+    m_plot.properties().setVthicks(countIn(*m_ui->inpVnthicks));
+    m_plot.properties().setGthicks(countIn(*m_ui->inpGnthicks));
+    m_plot.properties().setFthicks(countIn(*m_ui->inpFnthicks));
+    m_plot.properties().setVLabel(m_ui->inpVlabel->text());
+    m_plot.properties().setGLabel(m_ui->inpGlabel->text());
+    m_plot.properties().setFLabel(m_ui->inpFlabel->text());
 }
 
 } // namespace tarsil

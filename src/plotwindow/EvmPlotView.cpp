@@ -117,7 +117,7 @@ void EvmPlotView::paintPrompts(QPainter& painter) const
 {
     painter.setPen(Qt::gray);
     for (const TextBox which : allTextBoxes) {
-        const emfRichTextBox& box = m_plot.box(which);
+        const emfRichTextBox& box = m_plot.parts().box(which);
         if (!box.isEmpty() || (m_editor != nullptr && m_editedBox == which))
             continue;
         painter.setFont(screenFont(fontOf(box.content().last)));
@@ -131,8 +131,8 @@ void EvmPlotView::paintSelection(QPainter& painter) const
     painter.setPen(QPen(Qt::gray, 1, Qt::DashLine));
     painter.setBrush(Qt::NoBrush);
     for (const TextBox box : allTextBoxes) {
-        if (m_editor == nullptr && (m_plot.EditMode() || m_mover.selected() == box))
-            painter.drawRect(m_plot.box(box).geometry().adjusted(-3, -2, 2, 1));
+        if (m_editor == nullptr && (m_plot.texts().EditMode() || m_mover.selected() == box))
+            painter.drawRect(m_plot.parts().box(box).geometry().adjusted(-3, -2, 2, 1));
     }
 }
 
@@ -160,7 +160,7 @@ void EvmPlotView::mouseReleaseEvent(QMouseEvent* event)
         m_mover.release();
     followMovement();
     const std::optional<TextBox> box = m_mover.boxAt(event->pos());
-    if (m_plot.EditMode() && !wasMoved && box && box == m_mover.selected()
+    if (m_plot.texts().EditMode() && !wasMoved && box && box == m_mover.selected()
         && event->button() == Qt::LeftButton)
         startEditing(*box);
 }
@@ -202,7 +202,7 @@ void EvmPlotView::contextMenuEvent(QContextMenuEvent* event)
         event->ignore(); // the menu of the plot belongs to whoever holds the view
         return;
     }
-    const QPoint place = isByKey ? m_plot.box(*box).geometry().bottomLeft() : event->pos();
+    const QPoint place = isByKey ? m_plot.parts().box(*box).geometry().bottomLeft() : event->pos();
     showBoxMenu(*box, place);
 }
 
@@ -243,7 +243,7 @@ void EvmPlotView::startEditing(TextBox which)
     Q_EMIT commandBegun();
     m_mover.select(which);
     followMovement();
-    const emfRichTextBox& box = m_plot.box(which);
+    const emfRichTextBox& box = m_plot.parts().box(which);
     m_editedBox = which;
     m_editor = new RichTextEditor(box.content(), box.ForeColor(), this);
     m_editor->edit()->setAccessibleName(box.prompt());
@@ -266,8 +266,8 @@ void EvmPlotView::finishEditing(bool keep)
         return;
     RichTextEditor* const editor = m_editor;
     m_editor = nullptr;
-    if (RichText text = editor->text(); keep && text != m_plot.box(m_editedBox).content())
-        m_plot.setBoxContent(m_editedBox, std::move(text));
+    if (RichText text = editor->text(); keep && text != m_plot.parts().box(m_editedBox).content())
+        m_plot.texts().setContent(m_editedBox, std::move(text));
     editor->hide();
     editor->deleteLater();
     update();
@@ -290,7 +290,7 @@ void EvmPlotView::updateDescription()
                         QString::fromStdString(shortestText(axis.min)),
                         QString::fromStdString(shortestText(axis.max)));
     };
-    setAccessibleName(tr("V-g-f plot %1").arg(m_plot.Caption()));
+    setAccessibleName(tr("V-g-f plot %1").arg(m_plot.properties().Caption()));
     setAccessibleDescription(tr("%1 curves; ").arg(m_plot.rows().curveCount())
                              + description(tr("speed axis %1 from %2 to %3, "), axes.speed)
                              + description(tr("frequency axis %1 from %2 to %3, "), axes.frequency)

@@ -1,8 +1,8 @@
 #include "plotwindow/TextBoxMover.h"
 
 #include "surface/PixelMath.h"
-#include "vgfplot/BoxReach.h"
 #include "vgfplot/EvmPlot.h"
+#include "vgfplot/PlotLayout.h"
 
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -35,7 +35,7 @@ std::optional<QPoint> stepOf(const QKeyEvent& key)
 std::optional<TextBox> TextBoxMover::boxAt(QPoint position) const
 {
     for (auto box = allTextBoxes.rbegin(); box != allTextBoxes.rend(); ++box) {
-        if (m_plot.box(*box).geometry().contains(position))
+        if (m_plot.parts().box(*box).geometry().contains(position))
             return *box;
     }
     return std::nullopt;
@@ -49,8 +49,8 @@ void TextBoxMover::select(std::optional<TextBox> box)
     m_isFollowing = false;
     if (!box)
         return;
-    m_start = m_plot.box(*box).geometry().topLeft();
-    m_position = {m_plot.box(*box).unitsLeft(), m_plot.box(*box).unitsTop()};
+    m_start = m_plot.parts().box(*box).geometry().topLeft();
+    m_position = {m_plot.parts().box(*box).unitsLeft(), m_plot.parts().box(*box).unitsTop()};
 }
 
 void TextBoxMover::press(QPoint position)
@@ -87,7 +87,7 @@ void TextBoxMover::follow()
     if (!m_selected)
         return;
     select(m_selected);
-    const QSize size = m_plot.box(*m_selected).geometry().size();
+    const QSize size = m_plot.parts().box(*m_selected).geometry().size();
     m_grip = QPoint(size.width() / 2, size.height() / 2);
     m_isFollowing = true;
 }
@@ -97,7 +97,7 @@ bool TextBoxMover::press(const QKeyEvent& key)
     if (!m_selected)
         return false;
     if (const auto step = stepOf(key)) {
-        moveTo(m_plot.box(*m_selected).geometry().topLeft() + *step);
+        moveTo(m_plot.parts().box(*m_selected).geometry().topLeft() + *step);
         return true;
     }
     if (key.key() == Qt::Key_Escape && isMoving()) {
@@ -118,14 +118,14 @@ bool TextBoxMover::press(const QKeyEvent& key)
 /// The box ends where it is shown, so that its position is the one that the user sees.
 void TextBoxMover::moveTo(QPoint corner)
 {
-    const QSize size = m_plot.box(*m_selected).geometry().size();
+    const QSize size = m_plot.parts().box(*m_selected).geometry().size();
     const QPoint place = shownPlace({corner, size}, m_plot.size()).topLeft();
-    m_plot.moveBox(*m_selected, place.x() * unitsPerPixel, place.y() * unitsPerPixel);
+    m_plot.texts().move(*m_selected, place.x() * unitsPerPixel, place.y() * unitsPerPixel);
 }
 
 void TextBoxMover::takeBack()
 {
-    m_plot.moveBox(*m_selected, m_position.x(), m_position.y());
+    m_plot.texts().move(*m_selected, m_position.x(), m_position.y());
     select(m_selected);
 }
 

@@ -60,7 +60,7 @@ void wndEvolPlot::RemovePlot(EvmPlot* plot)
 void wndEvolPlot::AddSerie(AeMode& mode)
 {
     if (hasActivePlot())
-        ActivePlot()->addSeries(mode, m_plots.newSeriesMarkers());
+        ActivePlot()->rows().add(mode, m_plots.newSeriesMarkers());
 }
 
 void wndEvolPlot::FitPlot(EvmPlot* plot)
@@ -151,7 +151,7 @@ void wndEvolPlot::updateTitle()
 {
     QString title = QStringLiteral("V-g-f Plot");
     if (ActivePlot() != nullptr)
-        title += QStringLiteral(" - ") + ActivePlot()->Caption();
+        title += QStringLiteral(" - ") + ActivePlot()->properties().Caption();
     if (title == accessibleName())
         return;
     setAccessibleName(title);

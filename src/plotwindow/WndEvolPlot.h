@@ -44,7 +44,7 @@ public:
     /// to remove.
     void RemovePlot(EvmPlot* plot);
 
-    /// Appends a series for a mode to the active plot (`EvmPlot::addSeries`). Without an active
+    /// Appends a series for a mode to the active plot (`PlotRows::add`). Without an active
     /// plot the user gets a message and nothing changes.
     void AddSerie(AeMode& mode);
 

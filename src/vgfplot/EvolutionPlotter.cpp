@@ -114,10 +114,10 @@ void fillTexts(EvmPlot& plot, const Evolutions& evolutions)
     QStringList names;
     for (const EVM* evolution : evolutions)
         names.append(QString::fromStdString(evolution->FileName));
-    if (plot.box(TextBox::Header).isEmpty())
-        plot.setBoxText(TextBox::Header, caseText(evolutions));
-    if (plot.box(TextBox::Mechanism).isEmpty() && names.size() <= mostNames)
-        plot.setBoxText(TextBox::Mechanism, names.join(QStringLiteral(", ")));
+    if (plot.parts().box(TextBox::Header).isEmpty())
+        plot.texts().setText(TextBox::Header, caseText(evolutions));
+    if (plot.parts().box(TextBox::Mechanism).isEmpty() && names.size() <= mostNames)
+        plot.texts().setText(TextBox::Mechanism, names.join(QStringLiteral(", ")));
 }
 
 } // namespace

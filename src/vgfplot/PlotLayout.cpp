@@ -66,30 +66,58 @@ void layOutTitles(QSize plot, const TitleSizes& titles, PlotLayout& layout)
         titleAt(besideAxis, layout.gAxis.top() + layout.gAxis.height(), titles.damping);
 }
 
+/// The nearest position to `position` at which an extent lies within the plot, or covers it.
+int shownPosition(int position, int extent, int plot)
+{
+    const int room = plot - extent; // negative for a box that does not fit
+    return std::clamp(position, std::min(room, 0), std::max(room, 0));
+}
+
+void layOutHeader(QSize plot, const BoxSizes& boxes, PlotLayout& layout)
+{
+    const int left = layout.freqAxislabel.left() + layout.freqAxislabel.width();
+    const int right = roundToPixel((1 - headerRightGap) * plot.width());
+    const QSize size = boxes.header.expandedTo({std::max(right - left, 0), 0});
+    const int top = shownPosition(boxes.headerTop, size.height(), plot.height());
+    layout.header = {{left, boxes.headerTop}, {QPoint(left, top), size}};
+}
+
+QPoint usualLegendPosition(QSize plot, int width, const PlotLayout& layout)
+{
+    const int column =
+        std::min(roundToPixel(legendLeft * plot.width()), plot.width() - width - edge);
+    return {std::max(column, 0), layout.vfPlot.top()};
+}
+
+QPoint usualSubtitlePosition(const QRect& header)
+{
+    return {header.left(), header.top() + header.height()};
+}
+
 } // namespace
 
-PlotLayout layOutPlot(QSize plot, const TitleSizes& titles)
+QRect shownPlace(const QRect& box, QSize plot)
+{
+    return {QPoint(shownPosition(box.left(), box.width(), plot.width()),
+                   shownPosition(box.top(), box.height(), plot.height())),
+            box.size()};
+}
+
+PlotLayout layOutPlot(QSize plot, const TitleSizes& titles, const BoxSizes& boxes)
 {
     PlotLayout layout;
     layOutCanvases(plot, layout);
     layOutAxes(layout);
     layOutTitles(plot, titles, layout);
-    layout.headerLeft = layout.freqAxislabel.left() + layout.freqAxislabel.width();
-    const int headerRight = roundToPixel((1 - headerRightGap) * plot.width());
-    layout.headerWidth = std::max(headerRight - layout.headerLeft, 0);
+    layOutHeader(plot, boxes, layout);
+    const auto placed = [plot](const PlacedBox& box, QPoint usual) {
+        const QPoint position = box.position.value_or(usual);
+        return BoxLayout {position, shownPlace({position, box.size}, plot)};
+    };
+    layout.legend =
+        placed(boxes.legend, usualLegendPosition(plot, boxes.legend.size.width(), layout));
+    layout.mechanism = placed(boxes.mechanism, usualSubtitlePosition(layout.header.shown));
     return layout;
-}
-
-QPoint usualLegendPosition(QSize plot, const PlotLayout& layout, QSize legend)
-{
-    const int column =
-        std::min(roundToPixel(legendLeft * plot.width()), plot.width() - legend.width() - edge);
-    return {std::max(column, 0), layout.vfPlot.top()};
-}
-
-QPoint usualSubtitlePosition(const PlotLayout& layout, const QRect& header)
-{
-    return {layout.headerLeft, header.top() + header.height()};
 }
 
 } // namespace tarsil

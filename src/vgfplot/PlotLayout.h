@@ -4,6 +4,8 @@
 #include <QRect>
 #include <QSize>
 
+#include <optional>
+
 namespace tarsil {
 
 /// The sizes of the axis titles, pixels.
@@ -12,6 +14,30 @@ struct TitleSizes
     QSize speed;
     QSize frequency;
     QSize damping;
+};
+
+/// A text box that can be moved: the size that its text needs, and the position that the user has
+/// given it, pixels of the plot.
+struct PlacedBox
+{
+    QSize size;
+    std::optional<QPoint> position;
+};
+
+/// What the layout depends on of the text boxes, pixels of the plot.
+struct BoxSizes
+{
+    QSize header; ///< the size that its text needs
+    int headerTop = 0; ///< the upper edge of its row
+    PlacedBox legend;
+    PlacedBox mechanism;
+};
+
+/// Where a text box is.
+struct BoxLayout
+{
+    QPoint position; ///< the one given to it, or the usual one of a box that nobody has moved
+    QRect shown; ///< the nearest rectangle to it that lies in the plot
 };
 
 /// Where the parts of a V-g-f plot are, in pixels of the plot.
@@ -25,18 +51,18 @@ struct PlotLayout
     QRect velAxisLabel;
     QRect freqAxislabel;
     QRect gAxisLabel;
-    int headerLeft = 0;
-    int headerWidth = 0; ///< the least one; the text may need more
+    BoxLayout header; ///< from the frequency title to the right edge, or as wide as its text
+    BoxLayout legend; ///< usually right of the curves, as far left of that as its text needs
+    BoxLayout mechanism; ///< usually below the header
 };
 
-/// The layout of a plot of that size.
-PlotLayout layOutPlot(QSize plot, const TitleSizes& titles);
+/// The nearest position of a text box at which as much of it as possible lies in the plot: a box
+/// that fits is shown whole, and one that is larger than the plot, in either direction, covers it
+/// in that direction. All lengths are pixels of the plot.
+QRect shownPlace(const QRect& box, QSize plot);
 
-/// The position of a legend that nobody has moved: right of the curves, and as far left of that as
-/// its text needs.
-QPoint usualLegendPosition(QSize plot, const PlotLayout& layout, QSize legend);
-
-/// The position of a subtitle that nobody has moved: below the header.
-QPoint usualSubtitlePosition(const PlotLayout& layout, const QRect& header);
+/// The layout of a plot of that size. Text boxes are shown as `shownPlace` says, but the header is
+/// moved up and down only.
+PlotLayout layOutPlot(QSize plot, const TitleSizes& titles, const BoxSizes& boxes);
 
 } // namespace tarsil

@@ -123,8 +123,8 @@ CurveReading curveAt(const NearestPlace& place)
 
 std::optional<CurveReading> nearestCurve(const EvmPlot& plot, QPoint pixel, SpeedRange speeds)
 {
-    const CurveSearch frequencies(plot.vfPlot(), &Point::f, pixel, speeds);
-    const CurveSearch dampings(plot.vgPlot(), &Point::G, pixel, speeds);
+    const CurveSearch frequencies(plot.parts().vfPlot, &Point::f, pixel, speeds);
+    const CurveSearch dampings(plot.parts().vgPlot, &Point::G, pixel, speeds);
     NearestPlace nearest;
     const auto lookAlong = [&](const CurveSearch& curves) {
         for (const Series& series : plot.SeriesCollection()) {
@@ -132,7 +132,7 @@ std::optional<CurveReading> nearestCurve(const EvmPlot& plot, QPoint pixel, Spee
                 curves.lookAt(series, nearest);
         }
     };
-    if (plot.vfPlot().geometry().contains(pixel))
+    if (plot.parts().vfPlot.geometry().contains(pixel))
         lookAlong(frequencies);
     lookAlong(dampings);
     if (nearest.series == nullptr)
@@ -181,23 +181,25 @@ std::optional<PlotReading> readAt(const EvmPlot& plot, QPoint pixel)
     const PlotAxes axes = plot.axes();
     const bool hasEqualBounds = axes.speed.min == axes.speed.max
         || axes.frequency.min == axes.frequency.max || axes.damping.min == axes.damping.max;
-    if (hasEqualBounds || !plot.vgPlot().geometry().contains(pixel))
+    if (hasEqualBounds || !plot.parts().vgPlot.geometry().contains(pixel))
         return std::nullopt;
     const auto mapOf = [](const PlotAxis& axis, int length) {
         return ValueMap(axis.Min(), axis.Max(), length);
     };
-    const auto speedAt = [&plot, speeds = mapOf(plot.velAxis(), plot.vgPlot().Width())](
-                             int column) { return speeds.valueAt(column - plot.vgPlot().Left()); };
-    const int half = plot.vfPlot().Height();
-    const int row = pixel.y() - plot.vfPlot().Top() - half;
+    const auto speedAt =
+        [&plot, speeds = mapOf(plot.parts().velAxis, plot.parts().vgPlot.Width())](int column) {
+            return speeds.valueAt(column - plot.parts().vgPlot.Left());
+        };
+    const int half = plot.parts().vfPlot.Height();
+    const int row = pixel.y() - plot.parts().vfPlot.Top() - half;
 
     PlotReading reading;
     reading.speed = speedAt(pixel.x());
     if (row < 0) {
-        reading.value = mapOf(plot.freqAxis(), half).valueAt(-row);
+        reading.value = mapOf(plot.parts().freqAxis, half).valueAt(-row);
     } else {
         reading.ordinate = PlotReading::Ordinate::Damping;
-        reading.value = mapOf(plot.gAxis(), half).valueAt(row);
+        reading.value = mapOf(plot.parts().gAxis, half).valueAt(row);
     }
     // One pixel more, since the canvas draws on whole pixels.
     const auto [low, high] =

@@ -51,7 +51,7 @@ SeriesRecord recordOf(const Series& series, const std::vector<const EVM*>& evolu
 std::vector<MarkRecord> referenceSpeedsOf(const EvmPlot& plot)
 {
     std::vector<MarkRecord> marks;
-    for (const RefThick& mark : plot.Refs())
+    for (const RefThick& mark : plot.marks().referenceSpeeds())
         marks.push_back({mark.Speed, mark.Caption.toStdString()});
     return marks;
 }
@@ -59,8 +59,8 @@ std::vector<MarkRecord> referenceSpeedsOf(const EvmPlot& plot)
 std::vector<MarkRecord> dampingLinesOf(const EvmPlot& plot)
 {
     std::vector<MarkRecord> marks;
-    for (const EvmPlot::DampLine& line : plot.DampLines())
-        marks.push_back({line.g, line.Caption.toStdString()});
+    for (const RefLine& line : plot.marks().dampingLines())
+        marks.push_back({line.Y1, line.Caption.toStdString()});
     return marks;
 }
 
@@ -68,23 +68,23 @@ void applyText(const TextRecord& record, TextBox which, EvmPlot& plot)
 {
     if (record.rtf) {
         emfRichTextBox box;
-        box.setFont(plot.box(which).Font());
+        box.setFont(plot.parts().box(which).Font());
         box.setTextRTF(*record.rtf);
-        plot.setBoxContent(which, box.content());
+        plot.texts().setContent(which, box.content());
     }
     if (!record.position)
         return;
     if (which == TextBox::Header)
-        plot.setHeaderTop(record.position->top);
+        plot.texts().setHeaderTop(record.position->top);
     else
-        plot.moveBox(which, record.position->left, record.position->top);
+        plot.texts().move(which, record.position->left, record.position->top);
 }
 
 [[noreturn]] void failAt(const SeriesRecord& record, const EvmPlot& plot, const char* what)
 {
     throw RunTimeError(ErrorNumber::SubscriptOutOfRange, "mdlWorkSpace",
-                       "plot \"" + plot.Caption().toStdString() + "\": no " + what + " for mode "
-                           + std::to_string(record.mode) + " of modal evolution "
+                       "plot \"" + plot.properties().Caption().toStdString() + "\": no " + what
+                           + " for mode " + std::to_string(record.mode) + " of modal evolution "
                            + std::to_string(record.evolution));
 }
 
@@ -141,11 +141,11 @@ void applyMarks(const PlotRecord& record, EvmPlot& plot)
     std::vector<RefThick> speeds;
     for (const MarkRecord& mark : record.referenceSpeeds)
         speeds.push_back({mark.value, QString::fromStdString(mark.caption)});
-    plot.setRefs(std::move(speeds));
-    std::vector<EvmPlot::DampLine> lines;
+    plot.marks().setReferenceSpeeds(std::move(speeds));
+    std::vector<PlotMarks::DampLine> lines;
     for (const MarkRecord& mark : record.dampingLines)
         lines.push_back({mark.value, QString::fromStdString(mark.caption)});
-    plot.setDampLines(lines);
+    plot.marks().setDampingLines(lines);
 }
 
 } // namespace
@@ -153,10 +153,10 @@ void applyMarks(const PlotRecord& record, EvmPlot& plot)
 PlotRecord recordOf(const EvmPlot& plot, const std::vector<const EVM*>& evolutions)
 {
     PlotRecord record;
-    record.caption = plot.Caption().toStdString();
-    record.header = recordOf(plot.box(TextBox::Header));
-    record.legend = recordOf(plot.box(TextBox::Legend));
-    record.mechanism = recordOf(plot.box(TextBox::Mechanism));
+    record.caption = plot.properties().Caption().toStdString();
+    record.header = recordOf(plot.parts().box(TextBox::Header));
+    record.legend = recordOf(plot.parts().box(TextBox::Legend));
+    record.mechanism = recordOf(plot.parts().box(TextBox::Mechanism));
     record.axes = plot.axes();
     for (const Series& series : plot.SeriesCollection()) {
         const SeriesRecord one = recordOf(series, evolutions);

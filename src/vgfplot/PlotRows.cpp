@@ -127,6 +127,16 @@ void PlotRows::forgetIndices()
     m_indices.clear();
 }
 
+RowId PlotRows::add(AeMode& mode, const std::optional<MarkerOptions>& markers)
+{
+    Series series = newSeries(mode, count());
+    if (markers) {
+        series.MarkerForegroundColor = series.ColorIndex;
+        markers->applyTo(series);
+    }
+    return add(std::move(series));
+}
+
 RowId PlotRows::add(Series series)
 {
     std::vector<Series> one;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "plot/Marker.h"
 #include "plot/Series.h"
 
 #include <QObject>
@@ -70,6 +71,11 @@ public:
 
     /// Appends a row, with the number that the series' mode has in its evolution.
     RowId add(Series series);
+
+    /// Appends a row with a series for a mode (`newSeries`), with these markers in the colour of
+    /// the curve. Rows without a curve count, so that none gets the look of another one when its
+    /// curve comes back.
+    RowId add(AeMode& mode, const std::optional<MarkerOptions>& markers = {});
 
     /// Appends rows; announced together.
     void add(std::vector<Series> series);

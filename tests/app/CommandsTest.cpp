@@ -122,17 +122,17 @@ TEST_F(Commands, addAndClearReferenceSpeedsAndDampingLines)
     ASSERT_NE(refSpeed, nullptr);
     EXPECT_TRUE(refSpeed->isVisible());
     refSpeed->findChild<QPushButton*>(QStringLiteral("AddRefBtn"))->click();
-    EXPECT_EQ(plot().velAxis().marks().size(), 1U);
+    EXPECT_EQ(plot().parts().velAxis.marks().size(), 1U);
     choose("popClearRef");
-    EXPECT_TRUE(plot().velAxis().marks().empty());
+    EXPECT_TRUE(plot().parts().velAxis.marks().empty());
 
     choose("popAddDamp");
     auto* const dampLine = window.findChild<QDialog*>(QStringLiteral("dlgDampLine"));
     ASSERT_NE(dampLine, nullptr);
     dampLine->findChild<QPushButton*>(QStringLiteral("sdampBtn"))->click();
-    EXPECT_EQ(plot().vgPlot().lines().size(), 1U);
+    EXPECT_EQ(plot().parts().vgPlot.lines().size(), 1U);
     choose("mnuClearDamp");
-    EXPECT_TRUE(plot().vgPlot().lines().empty());
+    EXPECT_TRUE(plot().parts().vgPlot.lines().empty());
     EXPECT_TRUE(user.messages.empty());
 }
 

@@ -68,7 +68,7 @@ TEST_F(DataControl, offersTheMechanismsOfTheOptions)
     list.setCurrentIndex(0);
     Q_EMIT list.activated(0);
     EXPECT_EQ(plot().axes().bounds(), (PlotBounds {0, 450, 0, 20, 0, -0.25F}));
-    EXPECT_EQ(plot().vthicks(), 9);
+    EXPECT_EQ(plot().properties().vthicks(), 9);
     EXPECT_THAT(user.messages, IsEmpty());
 }
 
@@ -100,10 +100,10 @@ TEST_F(DataControl, headsAndMarksThePlotAfterTheReferenceEvolution)
               QStringLiteral("GOLAND WING - Configuration TIP_STORE\r\n"
                              "PK Method - Mach No. 0.40\r\n"));
     // Of samples/goland.inp: the ceiling at Mach 0.40, the dive speed and the limit speed.
-    ASSERT_EQ(plot().velAxis().marks().size(), 3U);
-    EXPECT_EQ(plot().velAxis().marks()[0].Speed, 113.8F);
-    EXPECT_EQ(plot().velAxis().marks()[1].Speed, 210);
-    EXPECT_EQ(plot().velAxis().marks()[2].Caption, QStringLiteral("       VL"));
+    ASSERT_EQ(plot().parts().velAxis.marks().size(), 3U);
+    EXPECT_EQ(plot().parts().velAxis.marks()[0].Speed, 113.8F);
+    EXPECT_EQ(plot().parts().velAxis.marks()[1].Speed, 210);
+    EXPECT_EQ(plot().parts().velAxis.marks()[2].Caption, QStringLiteral("       VL"));
 }
 
 TEST_F(DataControl, losesTheReferenceWithItsEvolution)

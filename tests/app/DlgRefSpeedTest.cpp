@@ -22,7 +22,7 @@ protected:
     DlgRefSpeed() : dialog([this] { return active; }, user) { dialog.show(); }
 
     void add() { test::click(dialog, "AddRefBtn"); }
-    const std::vector<RefThick>& marks() const { return plot.velAxis().marks(); }
+    const std::vector<RefThick>& marks() const { return plot.parts().velAxis.marks(); }
 
     EvmPlot plot;
     EvmPlot* active = &plot;
@@ -87,7 +87,7 @@ TEST_F(DlgRefSpeed, addsToThePlotThatIsActiveThen)
     active = &other;
     add();
     EXPECT_TRUE(marks().empty());
-    EXPECT_EQ(other.velAxis().marks().size(), 1U);
+    EXPECT_EQ(other.parts().velAxis.marks().size(), 1U);
 }
 
 TEST_F(DlgRefSpeed, addsOneMarkForEnterInAnInputOnTheButtonOrOnTheForm)

@@ -28,7 +28,7 @@ protected:
     FlutterReportCommandTest()
     {
         evolution.FileName = "wing.evm";
-        plot.addSeries(addMode(evolution, 1, {{200, -1, 4}, {300, 1, 6}, {400, -1, 8}}));
+        plot.rows().add(addMode(evolution, 1, {{200, -1, 4}, {300, 1, 6}, {400, -1, 8}}));
     }
 
     void run()
@@ -82,7 +82,7 @@ TEST_F(FlutterReportCommandTest, writesTheStabilityOfWholeEvolutionsOnASecondShe
     addMode(evolution, 2, {{200, 1, 4}, {300, -1, 4}}); // not in the plot
     evolution.Param.Mach = 0.5F;
     airplane.FlutterEnvs.push_back({100, 200, 150, "0.50"});
-    plot.addSeries(*evolution.Modes[0]);
+    plot.rows().add(*evolution.Modes[0]);
     user.texts = {"0", "1000"};
     run();
     const std::string path = opened[0].toStdString();
@@ -109,8 +109,8 @@ TEST_F(FlutterReportCommandTest, judgesAtTheReferenceDampingAsWell)
 
 TEST_F(FlutterReportCommandTest, leavesOutRowsWithoutACurveAndSaysWhich)
 {
-    plot.addSeries(*evolution.Modes[0]);
-    plot.addSeries(*evolution.Modes[0]);
+    plot.rows().add(*evolution.Modes[0]);
+    plot.rows().add(*evolution.Modes[0]);
     plot.rows().setMode(plot.rows().at(0).id, 2);
     plot.rows().setMode(plot.rows().at(2).id, 0);
     user.texts = {"-5", "1000"};
@@ -146,7 +146,7 @@ TEST_F(FlutterReportCommandTest, saysThatItTakesTimeAndWhoseMachNumberIsAsked)
 
 TEST_F(FlutterReportCommandTest, saysInTheTitleOfWhichModeTheMachNumberIsAsked)
 {
-    plot.addSeries(addMode(evolution, 7, {{200, -1, 4}, {300, 1, 6}}));
+    plot.rows().add(addMode(evolution, 7, {{200, -1, 4}, {300, 1, 6}}));
     user.texts = {"0", "1000", "0.5", "0.5", "0.5"};
     run();
     EXPECT_THAT(user.titles,

@@ -40,7 +40,7 @@ TEST_F(Options, areInForceBeforeTheChildWindowsAreShown)
     keep(sample("goland.inp"), "0|100|0|-1|0|10", "4|3|2");
     load();
     EXPECT_EQ(plot().axes().bounds(), (PlotBounds {0, 100, 0, 10, 0, -1}));
-    EXPECT_EQ(plot().vthicks(), 4);
+    EXPECT_EQ(plot().properties().vthicks(), 4);
     EXPECT_EQ(window.document().airplane().FlutterMechs.size(), 3U);
     EXPECT_FALSE(dialog()->isVisible());
     EXPECT_THAT(user.messages, IsEmpty());

@@ -102,7 +102,7 @@ void SessionRoundTripTest::makeSession(unsigned seed)
     openEvolutions();
     editEvolutions();
     window.document().setDescription(line(20) + QStringLiteral("\r\n") + line(20));
-    plot().setCaption(QStringLiteral("first ") + line(10));
+    plot().properties().setCaption(QStringLiteral("first ") + line(10));
     for (std::size_t left = random.below(4); left > 0; --left)
         window.evolPlot().AddPlot(QStringLiteral("P") + line(10));
     for (EvmPlot* const one : window.evolPlot().plots())
@@ -115,16 +115,16 @@ void SessionRoundTripTest::fill(EvmPlot& one)
     addSeries(one);
     for (const TextBox which : allTextBoxes) {
         if (random.below(4) != 0)
-            one.setBoxContent(which, richText());
+            one.texts().setContent(which, richText());
         if (random.below(2) == 0)
-            one.moveBox(which, bound(-100, 9000), bound(-100, 9000));
+            one.texts().move(which, bound(-100, 9000), bound(-100, 9000));
     }
-    one.setVLabel(line(8));
-    one.setFLabel(line(8));
-    one.setGLabel(line(8));
-    one.setVthicks(static_cast<std::int16_t>(1 + random.below(20)));
-    one.setFthicks(static_cast<std::int16_t>(1 + random.below(20)));
-    one.setGthicks(static_cast<std::int16_t>(1 + random.below(20)));
+    one.properties().setVLabel(line(8));
+    one.properties().setFLabel(line(8));
+    one.properties().setGLabel(line(8));
+    one.properties().setVthicks(static_cast<std::int16_t>(1 + random.below(20)));
+    one.properties().setFthicks(static_cast<std::int16_t>(1 + random.below(20)));
+    one.properties().setGthicks(static_cast<std::int16_t>(1 + random.below(20)));
     one.SetScale(bound(0, 99), bound(100, 900), bound(0, 9), bound(10, 90), bound(-0.1F, 0.1F),
                  bound(-1, -0.2F));
     addMarks(one);
@@ -156,9 +156,9 @@ void SessionRoundTripTest::addSeries(EvmPlot& one)
 void SessionRoundTripTest::addMarks(EvmPlot& one)
 {
     for (std::size_t left = random.below(4); left > 0; --left)
-        one.AddRef(bound(-100, 900), line(20));
+        one.marks().AddRef(bound(-100, 900), line(20));
     for (std::size_t left = random.below(4); left > 0; --left)
-        one.AddDampLine(bound(-1, 1), line(random.below(4) == 0 ? 120 : 20));
+        one.marks().AddDampLine(bound(-1, 1), line(random.below(4) == 0 ? 120 : 20));
 }
 
 void SessionRoundTripTest::editEvolutions()

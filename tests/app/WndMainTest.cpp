@@ -115,7 +115,7 @@ TEST_F(WndMainTest, startsWithTheChildWindowsInTheDefaultLayout)
     EXPECT_EQ(frame("wndData").windowTitle().toStdString(), "Data Control");
     EXPECT_EQ(frame("wndEvolExplorer").windowTitle().toStdString(), "Modal Evolutions Explorer");
     EXPECT_EQ(frame("wndEvolPlot").windowTitle().toStdString(), "V-g-f Plot - Plot1");
-    plot().setCaption(QStringLiteral("Clean"));
+    plot().properties().setCaption(QStringLiteral("Clean"));
     EXPECT_EQ(frame("wndEvolPlot").windowTitle().toStdString(), "V-g-f Plot - Clean");
     EXPECT_EQ(frame("wndEvolPlot").accessibleName().toStdString(), "V-g-f Plot - Clean");
 }
@@ -136,7 +136,7 @@ TEST_F(WndMainTest, startsWithTheFirstPlotActive)
     EXPECT_EQ(window.evolPlot().ActivePlot(), nullptr);
     load();
     ASSERT_NE(window.evolPlot().ActivePlot(), nullptr);
-    EXPECT_EQ(plot().Caption(), QStringLiteral("Plot1"));
+    EXPECT_EQ(plot().properties().Caption(), QStringLiteral("Plot1"));
 }
 
 TEST_F(WndMainTest, tellsThatAPlotTakesNoMoreCurves)
@@ -221,11 +221,11 @@ TEST_F(WndMainTest, togglesTheEditModeByItsPanelOnly)
     load();
     Q_EMIT window.stBar().panelClicked(1);
     Q_EMIT window.stBar().panelClicked(2);
-    EXPECT_FALSE(plot().EditMode());
+    EXPECT_FALSE(plot().texts().EditMode());
     Q_EMIT window.stBar().panelClicked(3);
-    EXPECT_TRUE(plot().EditMode());
+    EXPECT_TRUE(plot().texts().EditMode());
     Q_EMIT window.stBar().panelClicked(3);
-    EXPECT_FALSE(plot().EditMode());
+    EXPECT_FALSE(plot().texts().EditMode());
 }
 
 TEST_F(WndMainTest, saysInTheStatusBarWhereReferenceSpeedsStandElsewhere)
@@ -239,7 +239,7 @@ TEST_F(WndMainTest, saysInTheStatusBarWhereReferenceSpeedsStandElsewhere)
     };
     plot().SetScale(100, 700, 0, 50, 0, -0.25F);
     EXPECT_EQ(shown(), QString());
-    plot().AddRef(352.1F, QStringLiteral("Vd"));
+    plot().marks().AddRef(352.1F, QStringLiteral("Vd"));
     EXPECT_EQ(shown(), note);
     window.stBar().setNote(QStringLiteral("The picture is in ..."));
     EXPECT_EQ(shown(), note);
@@ -273,7 +273,7 @@ TEST_F(WndMainTest, showsThePopupOfThePlotWhereTheUserAsksForIt)
 TEST_F(WndMainTest, reportsAPlotThatCannotBeDrawnAndGoesOn)
 {
     load();
-    plot().setVthicks(0);
+    plot().properties().setVthicks(0);
     window.evolPlot().repaint();
     QApplication::processEvents();
     ASSERT_EQ(user.messages.size(), 1U);

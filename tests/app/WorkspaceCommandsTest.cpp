@@ -40,7 +40,7 @@ protected:
         for (const char* name : {"one.ev2", "two.ev2"})
             folder.write(name, test::fileBytes(sample("goland_clean_m040.ev2")));
         load({folder.file("one.ev2"), folder.file("two.ev2")});
-        plot().setBoxText(TextBox::Header, QStringLiteral("header\nsecond line"));
+        plot().texts().setText(TextBox::Header, QStringLiteral("header\nsecond line"));
         plot().SerieMove(1, 9);
         window.document().setDescription(QStringLiteral("an afternoon"));
         EvmPlot& second = window.evolPlot().AddPlot(QStringLiteral("Second"));
@@ -69,9 +69,9 @@ protected:
     /// Reference speeds, a damping line, a line of its own, edited parameters and a reference.
     void makeWhatOnlyNewerFilesHold()
     {
-        plot().AddRef(352.1F, QStringLiteral("Vd    "));
-        plot().AddRef(400, QStringLiteral("       VL"));
-        plot().AddDampLine(0.01F, QStringLiteral("g = 1.00 %"));
+        plot().marks().AddRef(352.1F, QStringLiteral("Vd    "));
+        plot().marks().AddRef(400, QStringLiteral("       VL"));
+        plot().marks().AddDampLine(0.01F, QStringLiteral("g = 1.00 %"));
         test::changeSeries(plot(), 3, [](Series& series) {
             series.LineStyle = 2;
             series.LineWidth = 3;
@@ -166,7 +166,7 @@ TEST_F(WorkspaceCommandsTest, openWhatWasSavedAsItWas)
     ASSERT_EQ(window.evolPlot().plots().size(), 2U);
     EXPECT_EQ(plot().Header().Text(), QStringLiteral("header\r\nsecond line"));
     EXPECT_EQ(plot().SeriesCollection().size(), 14U);
-    EXPECT_EQ(window.evolPlot().plots()[1]->Caption(), QStringLiteral("Second"));
+    EXPECT_EQ(window.evolPlot().plots()[1]->properties().Caption(), QStringLiteral("Second"));
     EXPECT_EQ(window.evolPlot().plots()[1]->axes().speed.max, 100.0F);
     EXPECT_EQ(window.document().texts().description, QStringLiteral("an afternoon"));
     save("again.tsw");
@@ -249,12 +249,12 @@ TEST_F(WorkspaceCommandsTest, keepAllThatAUserMakes)
     EXPECT_TRUE(user.messages.empty());
     const std::string saved = bytes();
     choose("mnuNewWorkspace");
-    EXPECT_TRUE(plot().Refs().empty());
+    EXPECT_TRUE(plot().marks().referenceSpeeds().empty());
     open(folder.file("case.tsw"));
-    ASSERT_EQ(plot().Refs().size(), 2U);
-    EXPECT_EQ(plot().Refs()[1].Caption, QStringLiteral("       VL"));
-    ASSERT_EQ(plot().DampLines().size(), 1U);
-    EXPECT_EQ(plot().DampLines()[0].g, 0.01F);
+    ASSERT_EQ(plot().marks().referenceSpeeds().size(), 2U);
+    EXPECT_EQ(plot().marks().referenceSpeeds()[1].Caption, QStringLiteral("       VL"));
+    ASSERT_EQ(plot().marks().dampingLines().size(), 1U);
+    EXPECT_EQ(plot().marks().dampingLines()[0].Y1, 0.01F);
     const Series& series = plot().SeriesCollection()[3];
     EXPECT_EQ(series.LineStyle, 2);
     EXPECT_EQ(series.LineWidth, 3);
@@ -290,10 +290,10 @@ TEST_F(WorkspaceCommandsTest, askBeforeOnlyThatIsLostWhichNewerFilesHold)
 {
     work();
     const std::vector<std::function<void()>> changes = {
-        [this] { plot().AddRef(300, QStringLiteral("Vc")); },
-        [this] { plot().RemoveRef(); },
-        [this] { plot().AddDampLine(0.02F, QStringLiteral("g")); },
-        [this] { plot().RemoveDampLine(); },
+        [this] { plot().marks().AddRef(300, QStringLiteral("Vc")); },
+        [this] { plot().marks().RemoveRef(); },
+        [this] { plot().marks().AddDampLine(0.02F, QStringLiteral("g")); },
+        [this] { plot().marks().RemoveDampLine(); },
         [this] { test::changeSeries(plot(), 0, [](Series& one) { one.LineStyle = 4; }); },
         [this] { test::changeSeries(plot(), 0, [](Series& one) { one.LineWidth = 2; }); },
         [this] { test::changeSeries(plot(), 0, [](Series& one) { one.IthMpf = 5; }); },
@@ -333,7 +333,7 @@ TEST_F(WorkspaceCommandsTest, passOverWhatDoesNotFitInNewerFiles)
     choose("mnuNewWorkspace");
     open(folder.file("damaged.tsw"));
     EXPECT_TRUE(user.messages.empty());
-    EXPECT_EQ(plot().Refs().size(), 1U);
+    EXPECT_EQ(plot().marks().referenceSpeeds().size(), 1U);
     EXPECT_EQ(plot().SeriesCollection()[3].LineStyle, 0);
     EXPECT_EQ(window.document().evolutions().reference(), nullptr);
     EXPECT_EQ(evolution(0).Param.editable(), evolution(0).paramOfFile());
@@ -383,7 +383,7 @@ TEST_F(WorkspaceCommandsTest, keepEveryCharacterOfALongHeader)
 {
     work();
     for (const int length : {928, 929, 940}) {
-        plot().setBoxText(TextBox::Header, QString(length, u'x'));
+        plot().texts().setText(TextBox::Header, QString(length, u'x'));
         const std::string name = std::to_string(length) + ".tsw";
         save(name);
         EXPECT_EQ(user.statuses.back(), "Ready");
@@ -396,16 +396,16 @@ TEST_F(WorkspaceCommandsTest, keepEveryCharacterOfALongHeader)
 TEST_F(WorkspaceCommandsTest, sayWhichCaptionsWillBeCut)
 {
     work();
-    plot().AddRef(300, QString(1024, u'x'));
-    plot().AddDampLine(0, QString(1023, u'x'));
+    plot().marks().AddRef(300, QString(1024, u'x'));
+    plot().marks().AddDampLine(0, QString(1023, u'x'));
     save();
     EXPECT_THAT(user.note, StartsWith("RefSpeed(1) of [PLOT1] is longer than 1023 "));
     choose("mnuNewWorkspace");
     open(folder.file("case.tsw"));
     EXPECT_EQ(user.note,
               "RefSpeed(1) of [PLOT1] is cut: the format takes 1023 characters of each.");
-    EXPECT_EQ(plot().Refs().at(0).Caption.size(), 1023);
-    EXPECT_EQ(plot().DampLines().at(0).Caption.size(), 1023);
+    EXPECT_EQ(plot().marks().referenceSpeeds().at(0).Caption.size(), 1023);
+    EXPECT_EQ(plot().marks().dampingLines().at(0).Caption.size(), 1023);
 }
 
 TEST_F(WorkspaceCommandsTest, doNothingWhenADialogIsCancelled)
@@ -494,7 +494,7 @@ TEST_F(WorkspaceCommandsTest, tellOfAFileThatIsTakenByItsNameAlone)
 TEST_F(WorkspaceCommandsTest, tellOfTextsThatWereCutAndAskBeforeTheyAreLost)
 {
     work();
-    plot().setBoxText(TextBox::Header, QString(3000, u'x'));
+    plot().texts().setText(TextBox::Header, QString(3000, u'x'));
     save();
     const std::string whole = bytes();
     choose("mnuNewWorkspace");
@@ -533,16 +533,16 @@ TEST_F(WorkspaceCommandsTest, leaveTheOldFileWhenItCannotBeWritten)
 TEST_F(WorkspaceCommandsTest, sayWhichTextsWillBeCut)
 {
     work();
-    plot().setBoxText(TextBox::Legend, QString(1200, u'x'));
+    plot().texts().setText(TextBox::Legend, QString(1200, u'x'));
     save();
     EXPECT_THAT(user.note, StartsWith("Legend of [PLOT1] is longer than 1023 "));
-    window.evolPlot().plots()[1]->setBoxText(TextBox::Header, QString(1200, u'x'));
+    window.evolPlot().plots()[1]->texts().setText(TextBox::Header, QString(1200, u'x'));
     save("both.tsw");
     EXPECT_THAT(user.note,
                 StartsWith("Legend of [PLOT1], Header of [PLOT2] are longer than 1023 "));
     for (EvmPlot* const one : window.evolPlot().plots()) {
-        one->setBoxText(TextBox::Header, QString());
-        one->setBoxText(TextBox::Legend, QString());
+        one->texts().setText(TextBox::Header, QString());
+        one->texts().setText(TextBox::Legend, QString());
     }
     save("neither.tsw");
     EXPECT_EQ(user.note, "The workspace is in " + folder.file("neither.tsw"))
@@ -605,8 +605,8 @@ TEST_F(WorkspaceCommandsTest, keepThePictureOfAPlotThatWasNeverShown)
 {
     work();
     EvmPlot& hidden = *window.evolPlot().plots()[1];
-    hidden.setBoxText(TextBox::Legend, QStringLiteral("legend"));
-    hidden.setBoxText(TextBox::Mechanism, QStringLiteral("subtitle"));
+    hidden.texts().setText(TextBox::Legend, QStringLiteral("legend"));
+    hidden.texts().setText(TextBox::Mechanism, QStringLiteral("subtitle"));
     save();
     window.evolPlot().ActivatePlot(&hidden);
     const QByteArray shown = pictureBytes(hidden, PictureFormat::Emf);
@@ -624,8 +624,8 @@ TEST_F(WorkspaceCommandsTest, keepPlotsOfOneNameApart)
     EXPECT_TRUE(user.messages.empty());
     const std::vector<EvmPlot*> plots = window.evolPlot().plots();
     ASSERT_EQ(plots.size(), 2U);
-    EXPECT_EQ(plots[0]->Caption(), QStringLiteral("wing"));
-    EXPECT_EQ(plots[1]->Caption(), QStringLiteral("wing(2)"));
+    EXPECT_EQ(plots[0]->properties().Caption(), QStringLiteral("wing"));
+    EXPECT_EQ(plots[1]->properties().Caption(), QStringLiteral("wing(2)"));
 }
 
 TEST_F(WorkspaceCommandsTest, reportOnceWhateverFails)
@@ -750,7 +750,7 @@ TEST_F(WorkspaceCommandsTest, keepEveryCurveHoweverLongItsLegendIs)
 {
     work();
     test::changeSeries(plot(), 0, [](Series& one) { one.LegendText = QString(3000, u'x'); });
-    plot().setVLabel(QString(3000, u'v'));
+    plot().properties().setVLabel(QString(3000, u'v'));
     save();
     EXPECT_THAT(user.note,
                 StartsWith("velAxis of [PLOT1], Serie(1) of [PLOT1] are longer than 1023 "));
@@ -830,7 +830,7 @@ TEST_F(WorkspaceCommandsTest, openTheSampleWhoseFilesHaveMoved)
     EXPECT_EQ(window.document().evolutions().all().size(), 6U);
     const auto plots = window.evolPlot().plots();
     ASSERT_EQ(plots.size(), 2U);
-    EXPECT_EQ(plots[0]->Caption(), QStringLiteral("Clean wing"));
+    EXPECT_EQ(plots[0]->properties().Caption(), QStringLiteral("Clean wing"));
     EXPECT_EQ(plots[0]->SeriesCollection().size(), 6U);
     EXPECT_EQ(plots[1]->SeriesCollection().size(), 6U);
     EXPECT_EQ(plots[1]->SeriesCollection()[5].Mode->Parent->FileName, "goland_tipstore_m060.ev2");
@@ -843,7 +843,7 @@ TEST_F(WorkspaceCommandsTest, writesNoRowWithoutACurveAndSaysWhich)
     save();
     ASSERT_TRUE(user.messages.empty());
     EvmPlot& second = *window.evolPlot().plots().back();
-    second.addSeries(*window.document().evolutions().all()[1]->Modes[0]);
+    second.rows().add(*window.document().evolutions().all()[1]->Modes[0]);
     second.rows().setMode(second.rows().at(0).id, 99);
     plot().rows().setMode(plot().rows().at(2).id, 0);
     user.confirmations.push_back(true);

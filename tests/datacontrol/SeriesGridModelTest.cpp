@@ -38,7 +38,7 @@ protected:
     void addAll(EvmPlot& to)
     {
         for (const auto& mode : evolution.Modes)
-            to.addSeries(*mode);
+            to.rows().add(*mode);
     }
     QModelIndex index(int row, SeriesColumn column)
     {
@@ -124,7 +124,7 @@ TEST_F(SeriesGridModelTest, showsTextsOfFilesAsTheyStandInItsTips)
 
 TEST_F(SeriesGridModelTest, followsSeriesThatOthersAddAndRemove)
 {
-    plot.addSeries(*evolution.Modes[0]);
+    plot.rows().add(*evolution.Modes[0]);
     EXPECT_EQ(model.rowCount(), 4);
     plot.rows().clear();
     EXPECT_EQ(model.rowCount(), 0);
@@ -190,7 +190,7 @@ TEST_F(SeriesGridModelTest, keepsWhatWasTypedWhileAnotherPlotIsShown)
     EXPECT_TRUE(type(2, SeriesColumn::Mode, "8"));
     model.setPlot(&other);
     EXPECT_EQ(text(2, SeriesColumn::Mode), "3");
-    plot.addSeries(*evolution.Modes[0]); // meanwhile
+    plot.rows().add(*evolution.Modes[0]); // meanwhile
     model.setPlot(&plot);
     EXPECT_EQ(text(2, SeriesColumn::Mode), "8");
     EXPECT_EQ(text(3, SeriesColumn::Mode), "1");
@@ -246,6 +246,6 @@ TEST_F(SeriesGridModelTest, saysWhenThePlotOrItsFirstSeriesAreNew)
     EXPECT_EQ(replaced, 1);
     addAll(other);
     EXPECT_EQ(replaced, 2);
-    other.addSeries(*evolution.Modes[0]);
+    other.rows().add(*evolution.Modes[0]);
     EXPECT_EQ(replaced, 2);
 }

@@ -119,7 +119,7 @@ TEST_F(SeriesGridViewTest, editsACellInPlace)
 TEST_F(SeriesGridViewTest, keepsWhatIsBeingTypedWhenThePlotChanges)
 {
     startTyping(1, SeriesColumn::Legend, "typed");
-    plot().RemoveRef(); // as by a command of a menu, which takes no focus
+    plot().marks().RemoveRef(); // as by a command of a menu, which takes no focus
     add(*evolutions().front(), 2);
     auto* const editor = test::openEditor(grid());
     ASSERT_NE(editor, nullptr);

@@ -346,7 +346,7 @@ TEST_F(WndDataSeries, changesNoMarkerOfAPlotThatBecomesActive)
     addRows();
     EvmPlot& opened = plots.AddPlot({});
     for (const int spacing : {3, 4})
-        opened.rows().change(opened.addSeries(*evolutions().front()->Modes[0]),
+        opened.rows().change(opened.rows().add(*evolutions().front()->Modes[0]),
                              [spacing](Series& one) { one.MarkerSpacing = spacing; });
     plots.ActivatePlot(&opened);
     EXPECT_EQ(test::textIn(data, "mkspaceInp"), "3");
@@ -446,7 +446,7 @@ TEST_F(WndDataSeries, takesTheSpacingOfAFileThatMarksNearlyNothing)
 {
     EVM& evolution = load("a.ev2");
     EvmPlot& opened = plots.AddPlot({});
-    opened.rows().change(opened.addSeries(*evolution.Modes[0]),
+    opened.rows().change(opened.rows().add(*evolution.Modes[0]),
                          [](Series& one) { one.MarkerSpacing = 100000; });
     plots.ActivatePlot(&opened);
     EXPECT_TRUE(type(0, SeriesColumn::Mode, "2"));
@@ -472,7 +472,7 @@ TEST_F(WndDataSeries, showsTheMarkersOfThePlotThatBecomesActive)
 {
     EVM& evolution = load("a.ev2");
     EvmPlot& opened = plots.AddPlot({});
-    opened.rows().change(opened.addSeries(*evolution.Modes[0]), [](Series& one) {
+    opened.rows().change(opened.rows().add(*evolution.Modes[0]), [](Series& one) {
         one.MarkerStyle = markerNumber(MarkerKind::ParticipationFactor);
         one.MarkerSize = 14;
         one.MarkerSpacing = 3;

@@ -40,14 +40,16 @@ protected:
     std::vector<std::pair<float, std::string>> marks()
     {
         std::vector<std::pair<float, std::string>> all;
-        for (const RefThick& mark : plot().velAxis().marks())
+        for (const RefThick& mark : plot().parts().velAxis.marks())
             all.emplace_back(mark.Speed, mark.Caption.toStdString());
         return all;
     }
     ColorValue colorAt(int position)
     {
-        plot().Legend().setSelStart(position);
-        plot().Legend().setSelLength(1);
+        plot().texts().change(TextBox::Legend, [position](emfRichTextBox& box) {
+            box.setSelStart(position);
+            box.setSelLength(1);
+        });
         return plot().Legend().SelColor();
     }
 };
@@ -90,7 +92,7 @@ TEST_F(WndDataTexts, needsAReferenceAndItsMassConfigurationForTheHeader)
 TEST_F(WndDataTexts, marksTheEnvelopeInThePlaceOfOtherReferenceSpeeds)
 {
     setReference(load("a.ev2"));
-    plot().AddRef(300, QStringLiteral("mine"));
+    plot().marks().AddRef(300, QStringLiteral("mine"));
     click("btnAutoRef");
     EXPECT_THAT(marks(),
                 ElementsAre(std::pair(140.0F, "Ceiling"), std::pair(180.0F, "Vd    "),
@@ -99,7 +101,7 @@ TEST_F(WndDataTexts, marksTheEnvelopeInThePlaceOfOtherReferenceSpeeds)
 
 TEST_F(WndDataTexts, needsAReferenceItsMachNumberAndItsEnvelopeForTheSpeeds)
 {
-    plot().AddRef(300, QStringLiteral("mine"));
+    plot().marks().AddRef(300, QStringLiteral("mine"));
     click("btnAutoRef");
     EVM& evolution = load("a.ev2");
     setReference(evolution);
@@ -151,9 +153,9 @@ TEST_F(WndDataTexts, showsTheMechanismThatIsChosen)
     choose(1);
     EXPECT_EQ(plot().Mechanism().Text(), QStringLiteral("Pitch of the store"));
     EXPECT_EQ(plot().axes().bounds(), (PlotBounds {100, 400, 2, 22, 0, -0.5F}));
-    EXPECT_EQ(plot().vthicks(), 6);
-    EXPECT_EQ(plot().fthicks(), 4);
-    EXPECT_EQ(plot().gthicks(), 2); // 2.5 rounds to the even number
+    EXPECT_EQ(plot().properties().vthicks(), 6);
+    EXPECT_EQ(plot().properties().fthicks(), 4);
+    EXPECT_EQ(plot().properties().gthicks(), 2); // 2.5 rounds to the even number
     partOf<QRadioButton>(data, "optFlutMecShort").click();
     EXPECT_EQ(plot().Mechanism().Text(), QStringLiteral("STORE"));
     partOf<QRadioButton>(data, "optFlutMecLong").click();
@@ -262,7 +264,7 @@ TEST_F(WndDataTexts, writesALegendTextWithALineBreakAsOneLine)
 TEST_F(WndDataTexts, writesALegendWithoutLinesAsAnEmptyBox)
 {
     add(load("a.ev2"));
-    plot().setBoxText(TextBox::Legend, QStringLiteral("old"));
+    plot().texts().setText(TextBox::Legend, QStringLiteral("old"));
     click("btnPlotLeg");
     EXPECT_EQ(legend(), "");
 }
@@ -278,7 +280,7 @@ TEST_F(WndDataTexts, rebuildsTheRowsBeforeItWritesTheLegend)
 TEST_F(WndDataTexts, reportsAFontSizeThatIsNone)
 {
     add(load("a.ev2"));
-    plot().setBoxText(TextBox::Legend, QStringLiteral("old"));
+    plot().texts().setText(TextBox::Legend, QStringLiteral("old"));
     for (const auto& [size, number] :
          {std::pair("", "13"), std::pair("0", "5"), std::pair("1e9", "5")}) {
         test::type(data, "txtLegFontSize", size);
@@ -325,7 +327,7 @@ TEST_F(WndDataTexts, savesThePictureUnderTheCaptionWhenTheDialogIsCancelled)
     EXPECT_GT(picture.size(), 44U);
     EXPECT_EQ(user.note, "The picture is in " + folder.file("Plot1"));
     EXPECT_THAT(user.questions, IsEmpty());
-    plot().setBoxText(TextBox::Header, QStringLiteral("another picture"));
+    plot().texts().setText(TextBox::Header, QStringLiteral("another picture"));
     click("SavePic");
     EXPECT_THAT(user.questions,
                 ElementsAre("The file 'Plot1' already exists. Do you want to replace it?"));

@@ -48,13 +48,13 @@ inline Texts captionsOf(const PlotList& list)
 {
     Texts captions;
     for (const EvmPlot* const plot : list.all())
-        captions.push_back(plot->Caption().toStdString());
+        captions.push_back(plot->properties().Caption().toStdString());
     return captions;
 }
 
 inline std::string captionOf(const EvmPlot* plot)
 {
-    return plot == nullptr ? "none" : plot->Caption().toStdString();
+    return plot == nullptr ? "none" : plot->properties().Caption().toStdString();
 }
 
 inline std::string nameOf(const EVM* evolution)

@@ -59,13 +59,12 @@ TEST_F(DocumentTest, takesAnEvolutionOutWithItsRows)
     EVM& b = addEvolution(document.evolutions(), "b");
     EvmPlot& first = document.plots().first();
     EvmPlot& second = document.plots().add({});
-    first.addSeries(*a.Modes[0]);
+    first.rows().add(*a.Modes[0]);
     first.rows().setMode(first.rows().at(0).id, 9); // names no mode
-    first.addSeries(*b.Modes[0]);
-    second.addSeries(*b.Modes[0]);
-    const Document::RemovedEvolution removed = document.takeOut(a);
-    EXPECT_EQ(removed.taken.evolution.get(), &a);
-    EXPECT_THAT(removed.changedPlots, ElementsAre(&first));
+    first.rows().add(*b.Modes[0]);
+    second.rows().add(*b.Modes[0]);
+    const TakenEvolution taken = document.takeOut(a);
+    EXPECT_EQ(taken.evolution.get(), &a);
     EXPECT_EQ(first.rows().count(), 1U);
     EXPECT_EQ(second.rows().count(), 1U);
     EXPECT_THAT(namesOf(document.evolutions()), ElementsAre("b"));
@@ -75,7 +74,7 @@ TEST_F(DocumentTest, keepsTheRowsOfAStranger)
 {
     EVM stranger;
     EvmPlot& first = document.plots().first();
-    first.addSeries(stranger.appendMode());
+    first.rows().add(stranger.appendMode());
     EXPECT_EQ(errorNumberOf([&] { document.takeOut(stranger); }),
               ErrorNumber::InvalidProcedureCall);
     EXPECT_EQ(first.rows().count(), 1U);
@@ -91,7 +90,7 @@ TEST_F(DocumentTest, startsItsHistoryAnewWhenWhatItRefersToLeaves)
         second = &document.plots().add(QString());
         for (EvmPlot* const plot : {&first, second})
             document.history().change(*plot, QStringLiteral("Add Curve"),
-                                      [&] { plot->addSeries(*evolution->Modes[0]); });
+                                      [&] { plot->rows().add(*evolution->Modes[0]); });
         EXPECT_EQ(document.history().steps().count(), 2);
     };
     changeBoth();
@@ -132,8 +131,8 @@ TEST_F(DocumentTest, startsNewWithNothingOfTheOldWorkspace)
 {
     EVM& a = addEvolution(document.evolutions(), "a");
     document.evolutions().setReference(&a);
-    document.plots().first().addSeries(*a.Modes[0]);
-    document.plots().add(QStringLiteral("second")).addSeries(*a.Modes[0]);
+    document.plots().first().rows().add(*a.Modes[0]);
+    document.plots().add(QStringLiteral("second")).rows().add(*a.Modes[0]);
     document.setDescription(QStringLiteral("old"));
     int announced = 0;
     QObject::connect(&document, &Document::startedNew, &document, [&] {

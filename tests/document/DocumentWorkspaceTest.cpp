@@ -31,9 +31,9 @@ protected:
             folder.write(name, test::fileBytes(sample("goland_clean_m040.ev2")));
         const std::vector<EVM*> loaded =
             document.load({folder.file("one.ev2"), folder.file("two.ev2")}, user);
-        document.plots().first().addSeries(*loaded.at(0)->Modes.at(0));
-        document.plots().first().addSeries(*loaded.at(1)->Modes.at(1));
-        document.plots().add(QStringLiteral("Second")).addSeries(*loaded.at(1)->Modes.at(2));
+        document.plots().first().rows().add(*loaded.at(0)->Modes.at(0));
+        document.plots().first().rows().add(*loaded.at(1)->Modes.at(1));
+        document.plots().add(QStringLiteral("Second")).rows().add(*loaded.at(1)->Modes.at(2));
         document.evolutions().setReference(loaded.at(1));
         document.evolutions().setParameters(*loaded.at(0), {"WING", "heavy", 0.62F});
         document.setDescription(QStringLiteral("an afternoon"));

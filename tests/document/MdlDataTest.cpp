@@ -24,7 +24,7 @@ protected:
     {
         evolution.FileName = "case.ev2";
         for (std::int16_t id = 11; id <= 15; ++id)
-            plot.addSeries(test::addMode(evolution, id, {{100, -0.02F, 5}, {200, 0.01F, 6}}));
+            plot.rows().add(test::addMode(evolution, id, {{100, -0.02F, 5}, {200, 0.01F, 6}}));
     }
 
     const SeriesList& series() { return plot.SeriesCollection(); }
@@ -84,7 +84,7 @@ TEST_F(MdlData, namesAllModesThatAreNotThereALineEach)
 TEST_F(MdlData, makesNoBoxThatIsHigherThanTheScreen)
 {
     for (int i = 0; i < 40; ++i) {
-        plot.addSeries(*evolution.Modes[0]);
+        plot.rows().add(*evolution.Modes[0]);
         setMode(rows().count() - 1, 100);
     }
     const std::string text = mdlData::missingModesText(rows());
@@ -107,7 +107,7 @@ TEST_F(MdlData, changesOnlyTheMarkerOptionsThatDiffer)
 TEST_F(MdlData, resetsColoursToThoseOfThePlaces)
 {
     for (int i = 0; i < 3; ++i)
-        plot.addSeries(*evolution.Modes[0]);
+        plot.rows().add(*evolution.Modes[0]);
     changeAllSeries(plot, [](Series& one) { one.ColorIndex = 77; });
     changeSeries(plot, 1, [](Series& one) { one.MarkerForegroundColor = 77; }); // goes along
     changeSeries(plot, 2, [](Series& one) { one.MarkerForegroundColor = 5; }); // the user's own
@@ -135,7 +135,7 @@ TEST_F(MdlData, movesRowsTogetherToAGap)
           Case {{1}, 2, {11, 12, 13, 14, 15}}}) {
         rows().clear();
         for (const auto& mode : evolution.Modes)
-            plot.addSeries(*mode);
+            plot.rows().add(*mode);
         mdlData::moveRows(plot, one.moved, one.target);
         EXPECT_EQ(order(), one.order);
     }

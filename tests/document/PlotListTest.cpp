@@ -75,7 +75,7 @@ TEST_F(PlotListTest, activatesNoStranger)
 
 TEST_F(PlotListTest, givesEveryPlotACaptionOfItsOwn)
 {
-    list.first().setCaption(QStringLiteral("Plot2"));
+    list.first().properties().setCaption(QStringLiteral("Plot2"));
     add();
     add("Plot2");
     add("free");
@@ -88,9 +88,9 @@ TEST_F(PlotListTest, copiesTheActivePlotAlone)
 {
     EXPECT_EQ(errorNumberOf([this] { list.copyActive({}); }), ErrorNumber::ObjectVariableNotSet);
     list.activate(&list.first());
-    list.first().setVthicks(3);
+    list.first().properties().setVthicks(3);
     const EvmPlot& copy = list.copyActive({});
-    EXPECT_EQ(copy.vthicks(), 3);
+    EXPECT_EQ(copy.properties().vthicks(), 3);
     EXPECT_FALSE(copy.Visible());
     EXPECT_THAT(captionsOf(list), ElementsAre("Plot1", "Plot1(2)"));
 }
@@ -122,14 +122,14 @@ TEST_F(PlotListTest, putsAPlotBackWhereItWas)
     EvmPlot& second = add();
     EvmPlot& third = add();
     list.activate(&second);
-    second.setVthicks(3);
+    second.properties().setVthicks(3);
     TakenPlot taken = list.takeOut(second);
     listen();
     list.putBack(std::move(taken));
     EXPECT_THAT(list.all(), ElementsAre(&list.first(), &second, &third));
     EXPECT_EQ(list.active(), &second);
     EXPECT_TRUE(second.Visible());
-    EXPECT_EQ(second.vthicks(), 3);
+    EXPECT_EQ(second.properties().vthicks(), 3);
     EXPECT_THAT(announced, ElementsAre("added Plot2", "active Plot1 Plot2"));
     EXPECT_EQ(captionOf(&add()), "Plot4") << "the index counts again";
 }
@@ -139,10 +139,10 @@ TEST_F(PlotListTest, startsNewWithOneEmptyPlotOfTheAxesThatAreSet)
     EVM evolution;
     AeMode& mode = evolution.appendMode();
     EvmPlot& first = list.first();
-    first.addSeries(mode);
-    first.setCaption(QStringLiteral("mine"));
-    first.AddRef(100, QStringLiteral("Vd"));
-    first.AddDampLine(0.02F, QStringLiteral("2 %"));
+    first.rows().add(mode);
+    first.properties().setCaption(QStringLiteral("mine"));
+    first.marks().AddRef(100, QStringLiteral("Vd"));
+    first.marks().AddDampLine(0.02F, QStringLiteral("2 %"));
     list.activate(&add());
     const PlotAxes axes {{"V", 0, 100, 4}, {"f", 0, 10, 2}, {"g", 0, -1, 3}};
     list.setNewPlotAxes(axes);
@@ -151,8 +151,8 @@ TEST_F(PlotListTest, startsNewWithOneEmptyPlotOfTheAxesThatAreSet)
     EXPECT_EQ(&list.first(), &first) << "views keep it";
     EXPECT_EQ(list.active(), &first);
     EXPECT_EQ(first.rows().count(), 0U);
-    EXPECT_THAT(first.Refs(), IsEmpty());
-    EXPECT_THAT(first.DampLines(), IsEmpty());
+    EXPECT_THAT(first.marks().referenceSpeeds(), IsEmpty());
+    EXPECT_THAT(first.marks().dampingLines(), IsEmpty());
     EXPECT_EQ(first.axes(), axes);
 }
 

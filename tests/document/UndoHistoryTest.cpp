@@ -48,7 +48,7 @@ protected:
         for (EvmPlot& one : plots) {
             one.resize({800, 600});
             for (std::size_t i = 0; i < 3; ++i)
-                one.addSeries(*evolution.Modes[i], MarkerOptions());
+                one.rows().add(*evolution.Modes[i], MarkerOptions());
         }
     }
 
@@ -84,7 +84,7 @@ public:
     {
         const std::size_t kind = below(3);
         if (kind == 0 && plot.rows().count() < 12)
-            plot.addSeries(*m_evolution.Modes[below(5)]);
+            plot.rows().add(*m_evolution.Modes[below(5)]);
         else if (kind == 1)
             changePlot(plot);
         else
@@ -143,24 +143,24 @@ private:
     void changePlot(EvmPlot& plot)
     {
         const std::array<std::function<void()>, 10> changes = {
-            [&] { plot.setBoxText(allTextBoxes[below(allTextBoxes.size())], text()); },
+            [&] { plot.texts().setText(allTextBoxes[below(allTextBoxes.size())], text()); },
             [&] {
-                plot.moveBox(allTextBoxes[below(allTextBoxes.size())], value() * 100,
-                             value() * 100);
+                plot.texts().move(allTextBoxes[below(allTextBoxes.size())], value() * 100,
+                                  value() * 100);
             },
-            [&] { plot.setHeaderTop(value()); },
+            [&] { plot.texts().setHeaderTop(value()); },
             [&] { writeLegend(plot, 8 + value()); },
-            [&] { plot.setCaption(text()); },
+            [&] { plot.properties().setCaption(text()); },
             [&] { plot.SetScale(0, 100 + value(), 0, value(), 0, -value()); },
             [&] { plot.fitFreq(); },
-            [&] { plot.AddRef(value(), text()); },
+            [&] { plot.marks().AddRef(value(), text()); },
             [&] {
-                plot.setDampLines({{value(), text()}, {value(), text()}});
+                plot.marks().setDampingLines({{value(), text()}, {value(), text()}});
             },
             [&] {
-                plot.RemoveRef();
-                plot.setVthicks(static_cast<std::int16_t>(1 + below(9)));
-                plot.setVLabel(text());
+                plot.marks().RemoveRef();
+                plot.properties().setVthicks(static_cast<std::int16_t>(1 + below(9)));
+                plot.properties().setVLabel(text());
             }};
         changes[below(changes.size())]();
     }
@@ -205,7 +205,7 @@ TEST_F(UndoHistoryTest, makesOneStepOfAllThatAChangeDoes)
 {
     change("Fill Legend", [&] {
         mdlData::fillLegends(plot.rows(), {}, 0);
-        change("within", [&] { plot.setBoxText(TextBox::Legend, QStringLiteral("legend")); });
+        change("within", [&] { plot.texts().setText(TextBox::Legend, QStringLiteral("legend")); });
     });
     EXPECT_EQ(history.steps().count(), 1);
     history.undo();
@@ -228,8 +228,8 @@ TEST_F(UndoHistoryTest, leavesNothingOfAChangeThatFails)
     EXPECT_EQ(errorNumberOf([&] {
                   change("Move", [&] {
                       plot.rows().remove({0});
-                      plot.AddRef(300, QStringLiteral("Vd"));
-                      plot.setBoxText(TextBox::Header, QStringLiteral("header"));
+                      plot.marks().AddRef(300, QStringLiteral("Vd"));
+                      plot.texts().setText(TextBox::Header, QStringLiteral("header"));
                       plot.SerieMove(1, 9);
                   });
               }),
@@ -268,22 +268,22 @@ TEST_F(UndoHistoryTest, makesStepsOfChangesThatAreMadePastIt)
 {
     change("Raise Modes", [&] { mdlData::raiseModes(plot.rows(), {0}); });
     const auto raised = snapshot();
-    plot.setCaption(QStringLiteral("past the history"));
+    plot.properties().setCaption(QStringLiteral("past the history"));
     const auto renamed = snapshot();
     history.undo();
     EXPECT_EQ(snapshot(), raised);
     history.redo();
     EXPECT_EQ(snapshot(), renamed);
-    plot.AddRef(300, QStringLiteral("Vd"));
+    plot.marks().AddRef(300, QStringLiteral("Vd"));
     change("Raise Modes", [&] { mdlData::raiseModes(plot.rows(), {1}); });
     EXPECT_EQ(history.steps().count(), 4);
     history.undo();
     history.undo();
     EXPECT_EQ(snapshot(), renamed);
     history.undo();
-    plot.AddRef(400, QStringLiteral("VL")); // the plot goes on from here
+    plot.marks().AddRef(400, QStringLiteral("VL")); // the plot goes on from here
     history.redo();
-    EXPECT_EQ(plot.Refs().size(), 1U);
+    EXPECT_EQ(plot.marks().referenceSpeeds().size(), 1U);
     EXPECT_FALSE(history.steps().canRedo());
     history.undo();
     EXPECT_EQ(snapshot(), raised);
@@ -299,16 +299,16 @@ TEST_F(UndoHistoryTest, goesOnWhenOnlyTheSizeOfThePlotIsAnother)
 
 TEST_F(UndoHistoryTest, bringsTheSamePictureBack)
 {
-    plot.AddDampLine(-0.02F, QStringLiteral("g"));
+    plot.marks().AddDampLine(-0.02F, QStringLiteral("g"));
     const QImage before = plot.Image().copy();
     change("Everything", [&] {
         plot.SetScale(0, 300, 0, 9, 0, -0.1F); // the damping line keeps its ends
         mdlData::resetColors(plot.rows());
         plot.rows().remove({0});
-        plot.setBoxText(TextBox::Legend, QStringLiteral("legend"));
-        plot.moveBox(TextBox::Legend, 3000, 3000);
-        plot.setHeaderTop(900);
-        plot.AddRef(200, QStringLiteral("Vd"));
+        plot.texts().setText(TextBox::Legend, QStringLiteral("legend"));
+        plot.texts().move(TextBox::Legend, 3000, 3000);
+        plot.texts().setHeaderTop(900);
+        plot.marks().AddRef(200, QStringLiteral("Vd"));
     });
     const QImage after = plot.Image().copy();
     EXPECT_NE(after, before);

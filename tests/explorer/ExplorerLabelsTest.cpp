@@ -62,7 +62,7 @@ TEST_F(WndEvolExplorerTest, renamesAPlotAndMakesItTheActiveOne)
 {
     choose("AddPlot");
     EXPECT_TRUE(retype(node("Plot2"), "wing"));
-    EXPECT_EQ(plotAt(1).Caption().toStdString(), "wing");
+    EXPECT_EQ(plotAt(1).properties().Caption().toStdString(), "wing");
     EXPECT_EQ(text(node("wing")), "wing") << "the text is the key as well";
     EXPECT_EQ(plots.ActivePlot(), &plotAt(1));
     EXPECT_TRUE(isBold(node("wing")));
@@ -77,8 +77,8 @@ TEST_F(WndEvolExplorerTest, refusesTheNameOfAnotherPlot)
                 ElementsAre(Message {"This name already exist. Please, select another one.",
                                      "Tarsil", MessageIcon::Exclamation}));
     EXPECT_THAT(childTexts(node("Plots")), ElementsAre("Plot1", "Plot2"));
-    EXPECT_EQ(plotAt(0).Caption().toStdString(), "Plot1");
-    EXPECT_EQ(plotAt(1).Caption().toStdString(), "Plot2");
+    EXPECT_EQ(plotAt(0).properties().Caption().toStdString(), "Plot1");
+    EXPECT_EQ(plotAt(1).properties().Caption().toStdString(), "Plot2");
     EXPECT_EQ(plots.ActivePlot(), &plotAt(0));
 }
 
@@ -103,7 +103,7 @@ TEST_F(WndEvolExplorerTest, leavesNoPlotWithoutAName)
 {
     for (const char* const blank : {"", "   "}) {
         EXPECT_TRUE(retype(node("Plot1"), blank));
-        EXPECT_EQ(plotAt(0).Caption().toStdString(), "Plot1");
+        EXPECT_EQ(plotAt(0).properties().Caption().toStdString(), "Plot1");
         EXPECT_EQ(text(node("Plot1")), "Plot1");
     }
 }
@@ -156,7 +156,7 @@ TEST_F(WndEvolExplorerTest, takesOneLabelAfterTheOther)
     openEditor(node("Plot2")).setText(QStringLiteral("wing")); // the first editor has not ended yet
     document.setDescription(QStringLiteral("another"));
     explorer.commitEdits();
-    EXPECT_EQ(plotAt(1).Caption().toStdString(), "wing");
+    EXPECT_EQ(plotAt(1).properties().Caption().toStdString(), "wing");
     EXPECT_EQ(document.texts().description.toStdString(), "another");
     EXPECT_FALSE(isEditing());
 }
@@ -169,7 +169,7 @@ TEST_F(WndEvolExplorerTest, refusesALabelThatIsBeingTypedAsAfterEnter)
     EXPECT_THAT(user.messages,
                 ElementsAre(Message {"This name already exist. Please, select another one.",
                                      "Tarsil", MessageIcon::Exclamation}));
-    EXPECT_EQ(plotAt(1).Caption().toStdString(), "Plot2");
+    EXPECT_EQ(plotAt(1).properties().Caption().toStdString(), "Plot2");
     EXPECT_FALSE(isEditing());
 }
 

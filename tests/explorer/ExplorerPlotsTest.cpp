@@ -59,10 +59,10 @@ TEST_F(WndEvolExplorerTest, scrollsToANewPlot)
 
 TEST_F(WndEvolExplorerTest, copiesTheActivePlot)
 {
-    plotAt(0).setVthicks(3);
+    plotAt(0).properties().setVthicks(3);
     choose("CopyPlot");
     EXPECT_THAT(childTexts(node("Plots")), ElementsAre("Plot1", "Plot1(2)"));
-    EXPECT_EQ(plotAt(1).vthicks(), 3);
+    EXPECT_EQ(plotAt(1).properties().vthicks(), 3);
     plots.ActivatePlot(nullptr);
     choose("CopyPlot");
     EXPECT_EQ(node("Plots").childCount(), 2);
@@ -104,19 +104,19 @@ TEST_F(WndEvolExplorerTest, removesTheActivePlotButNotTheFirst)
 
 TEST_F(WndEvolExplorerTest, givesAPlotACaptionOfItsOwn)
 {
-    plotAt(0).setCaption(QStringLiteral("Plot2"));
+    plotAt(0).properties().setCaption(QStringLiteral("Plot2"));
     choose("AddPlot"); // would be Plot2 as well
     EXPECT_THAT(childTexts(node("Plots")), ElementsAre("Plot2", "Plot2(2)"));
-    EXPECT_EQ(plotAt(1).Caption().toStdString(), "Plot2(2)");
+    EXPECT_EQ(plotAt(1).properties().Caption().toStdString(), "Plot2(2)");
     plots.AddPlot(QStringLiteral("Plot2"));
-    EXPECT_EQ(plotAt(2).Caption().toStdString(), "Plot2(3)");
+    EXPECT_EQ(plotAt(2).properties().Caption().toStdString(), "Plot2(3)");
     plots.AddPlot(QStringLiteral("free"));
-    EXPECT_EQ(plotAt(3).Caption().toStdString(), "free");
+    EXPECT_EQ(plotAt(3).properties().Caption().toStdString(), "free");
 }
 
 TEST_F(WndEvolExplorerTest, followsTheCaptionsOfThePlots)
 {
-    plotAt(0).setCaption(QStringLiteral("first"));
+    plotAt(0).properties().setCaption(QStringLiteral("first"));
     EXPECT_THAT(childTexts(node("Plots")), ElementsAre("first"));
     EXPECT_EQ(taggedPlot(&node("first")), &plotAt(0));
 }

@@ -151,8 +151,8 @@ TEST_F(WndEvolExplorerTest, startsAnewWithTheTreeOfTheBeginning)
     plots.AddPlot(QStringLiteral("second"));
     plots.ActivatePlot(&plotAt(1));
     plots.AddSerie(*evolution.Modes[0]);
-    plotAt(0).setCaption(QStringLiteral("mine"));
-    plotAt(0).setVthicks(3);
+    plotAt(0).properties().setCaption(QStringLiteral("mine"));
+    plotAt(0).properties().setVthicks(3);
     const QString old = QStringLiteral("old");
     document.setTexts({old, old, old, old});
     node("Evols").setExpanded(true);
@@ -169,7 +169,7 @@ TEST_F(WndEvolExplorerTest, startsAnewWithTheTreeOfTheBeginning)
     EXPECT_TRUE(isBold(node("Plot1")));
     ASSERT_EQ(plots.plots().size(), 1U);
     EXPECT_TRUE(plotAt(0).SeriesCollection().empty());
-    EXPECT_EQ(plotAt(0).vthicks(), 7) << "as in a new plot";
+    EXPECT_EQ(plotAt(0).properties().vthicks(), 7) << "as in a new plot";
     EXPECT_TRUE(user.questions.empty());
 }
 

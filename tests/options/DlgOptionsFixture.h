@@ -49,7 +49,8 @@ protected:
     /// Tick counts of speed, damping and frequency axis.
     static std::vector<int> thicksOf(const EvmPlot& plot)
     {
-        return {plot.vthicks(), plot.gthicks(), plot.fthicks()};
+        return {plot.properties().vthicks(), plot.properties().gthicks(),
+                plot.properties().fthicks()};
     }
 
     std::vector<std::string> mechanisms() const

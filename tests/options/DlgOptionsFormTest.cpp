@@ -58,14 +58,14 @@ TEST_F(DlgOptionsTest, isOkOnEnterInAnyInput)
 {
     for (const char* const name : {"txtAcInfo", "txtVgfScale", "txtVgfThicks"}) {
         for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
-            plot().setVthicks(7);
+            plot().properties().setVthicks(7);
             dialog->show();
             typeAll("", "", "4|5|6");
             auto& input = partOf<QWidget>(*dialog, name);
             input.setFocus();
             test::press(input, key);
             EXPECT_FALSE(dialog->isVisible()) << name;
-            EXPECT_EQ(plot().vthicks(), 4) << name;
+            EXPECT_EQ(plot().properties().vthicks(), 4) << name;
         }
     }
 }
@@ -92,7 +92,7 @@ TEST_F(DlgOptionsTest, isCancelledByEscapeByClosingAndOnTheButton)
         EXPECT_EQ(test::textIn(*dialog, "txtVgfScale"), "0|1|0|-1|0|1") << way;
     }
     EXPECT_EQ(plot().axes().bounds(), PlotAxes().bounds());
-    EXPECT_EQ(plot().vthicks(), PlotAxes().speed.ticks);
+    EXPECT_EQ(plot().properties().vthicks(), PlotAxes().speed.ticks);
     EXPECT_EQ(document.airplane().Filename, "");
     EXPECT_EQ(mechanismsChanged, 0);
 }

@@ -131,7 +131,7 @@ TEST_F(EvmPlotViewTest, givesThePlotItsSize)
 TEST_F(EvmPlotViewTest, showsThePictureOfThePlot)
 {
     for (const TextBox which : allTextBoxes)
-        plot.setBoxText(which, QStringLiteral("text"));
+        plot.texts().setText(which, QStringLiteral("text"));
     EXPECT_EQ(view.grab().toImage().convertToFormat(QImage::Format_RGB32),
               plot.Image().convertToFormat(QImage::Format_RGB32));
 }
@@ -141,7 +141,7 @@ TEST_F(EvmPlotViewTest, showsThePromptsOfEmptyBoxesOnTheScreenOnly)
     const QImage screen = view.grab().toImage();
     for (const TextBox which : {TextBox::Legend, TextBox::Mechanism}) {
         SCOPED_TRACE(static_cast<int>(which));
-        const QRect place = plot.box(which).geometry();
+        const QRect place = plot.parts().box(which).geometry();
         EXPECT_TRUE(isInked(screen, place));
         EXPECT_FALSE(isInked(plot.Image(), place));
     }
@@ -150,7 +150,7 @@ TEST_F(EvmPlotViewTest, showsThePromptsOfEmptyBoxesOnTheScreenOnly)
 TEST_F(EvmPlotViewTest, showsNoPromptOnceTheBoxHasAText)
 {
     const QRect place = plot.Legend().geometry();
-    plot.setBoxText(TextBox::Legend, QStringLiteral(" "));
+    plot.texts().setText(TextBox::Legend, QStringLiteral(" "));
     EXPECT_FALSE(isInked(view.grab().toImage(), place));
 }
 
@@ -183,8 +183,8 @@ TEST_F(EvmPlotViewTest, keepsABoxInThePlotThatIsDraggedOutOfIt)
 /// elsewhere.
 TEST_F(EvmPlotViewTest, showsADraggedBoxWhereItWasDropped)
 {
-    plot.setBoxText(TextBox::Legend, QStringLiteral("a legend\nof three\nlines"));
-    plot.moveBox(TextBox::Legend, 15 * 300, 15 * 300);
+    plot.texts().setText(TextBox::Legend, QStringLiteral("a legend\nof three\nlines"));
+    plot.texts().move(TextBox::Legend, 15 * 300, 15 * 300);
     const QSize size = plot.Legend().geometry().size();
     const QPoint grip(5, 5);
     drag(QPoint(300, 300) + grip, QPoint(20, 20) + grip);
@@ -200,8 +200,8 @@ TEST_F(EvmPlotViewTest, showsADraggedBoxWhereItWasDropped)
 
 TEST_F(EvmPlotViewTest, movesABoxFromThePlaceWhereItIsShown)
 {
-    plot.setBoxText(TextBox::Legend, QStringLiteral("legend"));
-    plot.moveBox(TextBox::Legend, 15 * 1200, 15 * 100.25); // right of the plot
+    plot.texts().setText(TextBox::Legend, QStringLiteral("legend"));
+    plot.texts().move(TextBox::Legend, 15 * 1200, 15 * 100.25); // right of the plot
     const QPoint shown = plot.Legend().geometry().topLeft();
     EXPECT_EQ(shown, QPoint(800 - plot.Legend().Width(), 100));
     mouse(QEvent::MouseButtonPress, legendCentre());
@@ -251,7 +251,7 @@ TEST_F(EvmPlotViewTest, dropsTheBoxWhenTheButtonIsReleased)
 
 TEST_F(EvmPlotViewTest, opensAnEditorOnABoxByADoubleClick)
 {
-    plot.setBoxText(TextBox::Legend, QStringLiteral("first\nsecond"));
+    plot.texts().setText(TextBox::Legend, QStringLiteral("first\nsecond"));
     doubleClick(legendCentre());
     ASSERT_NE(editor(), nullptr);
     EXPECT_EQ(editor()->toPlainText(), QStringLiteral("first\nsecond"));
@@ -294,7 +294,7 @@ TEST_F(EvmPlotViewTest, goesOnEditingWhileAnotherProgramHasTheFocus)
 
 TEST_F(EvmPlotViewTest, leavesTheTextAsItWasOnEscape)
 {
-    plot.setBoxText(TextBox::Legend, QStringLiteral("as it was"));
+    plot.texts().setText(TextBox::Legend, QStringLiteral("as it was"));
     doubleClick(legendCentre());
     ASSERT_NE(editor(), nullptr);
     editor()->setPlainText(QStringLiteral("changed"));
@@ -319,7 +319,8 @@ TEST_F(EvmPlotViewTest, editsOneBoxAfterTheOther)
 
 TEST_F(EvmPlotViewTest, keepsFontsAndColoursOfATextThatIsEdited)
 {
-    plot.setBoxContent(TextBox::Legend, {{{u"a", {}}, {u"b\n", redAndBold()}, {u"c", {}}}, {}});
+    plot.texts().setContent(TextBox::Legend,
+                            {{{u"a", {}}, {u"b\n", redAndBold()}, {u"c", {}}}, {}});
     const RichText before = plot.Legend().content();
     doubleClick(legendCentre());
     ASSERT_NE(editor(), nullptr);
@@ -333,8 +334,8 @@ TEST_F(EvmPlotViewTest, keepsFontsAndColoursOfATextThatIsEdited)
 
 TEST_F(EvmPlotViewTest, leavesATextAloneThatWasOnlyLookedAt)
 {
-    plot.setBoxText(TextBox::Legend, QStringLiteral("text"));
-    plot.Legend().setSelStart(2);
+    plot.texts().setText(TextBox::Legend, QStringLiteral("text"));
+    plot.texts().change(TextBox::Legend, [](emfRichTextBox& box) { box.setSelStart(2); });
     doubleClick(legendCentre());
     view.setFocus();
     EXPECT_EQ(plot.Legend().SelStart(), 2) << "nothing was set";
@@ -359,7 +360,7 @@ TEST_F(EvmPlotViewTest, selectsABoxByAClickAndMovesItByArrowKeys)
 
 TEST_F(EvmPlotViewTest, outlinesTheSelectedBoxOnTheScreenOnly)
 {
-    plot.setBoxText(TextBox::Legend, QStringLiteral("text"));
+    plot.texts().setText(TextBox::Legend, QStringLiteral("text"));
     const QRect outline = plot.Legend().geometry().adjusted(-3, -2, 2, 1);
     const QRect upperEdge(outline.topLeft(), QSize(outline.width(), 1));
     EXPECT_FALSE(isInked(view.grab().toImage(), upperEdge));
@@ -379,10 +380,10 @@ TEST_F(EvmPlotViewTest, editsTheSelectedBoxByAKey)
 
 TEST_F(EvmPlotViewTest, editsABoxByOneClickInEditMode)
 {
-    plot.setBoxText(TextBox::Legend, QStringLiteral("text"));
+    plot.texts().setText(TextBox::Legend, QStringLiteral("text"));
     const QRect outline = plot.Legend().geometry().adjusted(-3, -2, 2, 1);
     const QRect upperEdge(outline.topLeft(), QSize(outline.width(), 1));
-    plot.setEditMode(true);
+    plot.texts().setEditMode(true);
     EXPECT_TRUE(isInked(view.grab().toImage(), upperEdge));
     mouse(QEvent::MouseButtonPress, legendCentre());
     mouse(QEvent::MouseButtonRelease, legendCentre());
@@ -390,7 +391,7 @@ TEST_F(EvmPlotViewTest, editsABoxByOneClickInEditMode)
     press(editor(), Qt::Key_Escape);
     drag(legendCentre(), legendCentre() + QPoint(-100, 50));
     EXPECT_EQ(editor(), nullptr) << "a movement is no click";
-    plot.setEditMode(false);
+    plot.texts().setEditMode(false);
     mouse(QEvent::MouseButtonPress, legendCentre());
     mouse(QEvent::MouseButtonRelease, legendCentre());
     EXPECT_EQ(editor(), nullptr);
@@ -465,7 +466,7 @@ TEST_F(EvmPlotViewTest, reportsAPictureThatCannotBeCopied)
     std::vector<ErrorNumber> numbers;
     QObject::connect(&view, &EvmPlotView::failed, &view,
                      [&](const RunTimeError& error) { numbers.push_back(error.number()); });
-    plot.setGthicks(0);
+    plot.properties().setGthicks(0);
     view.copyPicture();
     ASSERT_FALSE(numbers.empty());
     EXPECT_EQ(numbers.front(), ErrorNumber::DivisionByZero);
@@ -494,10 +495,10 @@ TEST_F(EvmPlotViewTest, putsWhatIsBeingEditedIntoThePlotWhenItIsAskedTo)
 TEST_F(EvmPlotViewTest, givesUpWhatIsBeingEditedWhenThePlotGetsOtherContents)
 {
     EvmPlot other;
-    other.setBoxText(TextBox::Legend, QStringLiteral("other"));
+    other.texts().setText(TextBox::Legend, QStringLiteral("other"));
     const PlotRecord record = recordOf(other, {});
     for (const bool isCopied : {true, false}) {
-        plot.setBoxText(TextBox::Legend, QStringLiteral("as it was"));
+        plot.texts().setText(TextBox::Legend, QStringLiteral("as it was"));
         doubleClick(legendCentre());
         ASSERT_NE(editor(), nullptr);
         editor()->setPlainText(QStringLiteral("typed"));
@@ -525,8 +526,8 @@ TEST_F(EvmPlotViewTest, letsNoBoxFollowThePointerIntoOtherContents)
 
 TEST_F(EvmPlotViewTest, takesTheUppermostOfTwoBoxesAtAPlace)
 {
-    plot.setBoxText(TextBox::Legend, QStringLiteral("legend"));
-    plot.moveBox(TextBox::Legend, 15 * 400, 15 * 4); // in the header's row
+    plot.texts().setText(TextBox::Legend, QStringLiteral("legend"));
+    plot.texts().move(TextBox::Legend, 15 * 400, 15 * 4); // in the header's row
     drag(legendCentre(), legendCentre() + QPoint(-50, 200));
     EXPECT_EQ(plot.Legend().geometry().topLeft(), QPoint(350, 204));
 }
@@ -536,7 +537,7 @@ TEST_F(EvmPlotViewTest, reportsAFailureOnceAndNotAtEveryRepaint)
     std::vector<ErrorNumber> numbers;
     QObject::connect(&view, &EvmPlotView::failed, &view,
                      [&numbers](const RunTimeError& error) { numbers.push_back(error.number()); });
-    plot.setGthicks(0);
+    plot.properties().setGthicks(0);
     for (int i = 0; i < 3; ++i) {
         view.grab();
         QApplication::processEvents();
@@ -547,15 +548,15 @@ TEST_F(EvmPlotViewTest, reportsAFailureOnceAndNotAtEveryRepaint)
 TEST_F(EvmPlotViewTest, describesItselfToAScreenReader)
 {
     EVM evolution;
-    plot.addSeries(evolution.appendMode());
+    plot.rows().add(evolution.appendMode());
     plot.SetScale(0, 650, 5, 45, 0, -0.5F);
     EXPECT_EQ(view.accessibleName(), QStringLiteral("V-g-f plot Plot1"));
     EXPECT_EQ(
         view.accessibleDescription(),
         QStringLiteral("1 curves; speed axis V(keas) from 0 to 650, frequency axis f(Hz) from 5 "
                        "to 45, damping axis g from 0 to -0.5"));
-    plot.setCaption(QStringLiteral("Clean"));
-    plot.setVLabel(QStringLiteral("V (m/s)"));
+    plot.properties().setCaption(QStringLiteral("Clean"));
+    plot.properties().setVLabel(QStringLiteral("V (m/s)"));
     EXPECT_EQ(view.accessibleName(), QStringLiteral("V-g-f plot Clean"));
     EXPECT_TRUE(view.accessibleDescription().contains(QStringLiteral("speed axis V (m/s) from")));
     plot.SetScale(0, 1000000, 5, 45, 0, -0.5F);
@@ -564,10 +565,10 @@ TEST_F(EvmPlotViewTest, describesItselfToAScreenReader)
 
 TEST_F(EvmPlotViewTest, describesTitlesThatLookLikePlacesOfTheText)
 {
-    plot.setCaption(QStringLiteral("%2 and %1"));
-    plot.setVLabel(QStringLiteral("%4 V"));
-    plot.setFLabel(QStringLiteral("%1%"));
-    plot.setGLabel(QStringLiteral("g %3"));
+    plot.properties().setCaption(QStringLiteral("%2 and %1"));
+    plot.properties().setVLabel(QStringLiteral("%4 V"));
+    plot.properties().setFLabel(QStringLiteral("%1%"));
+    plot.properties().setGLabel(QStringLiteral("g %3"));
     plot.SetScale(0, 650, 5, 45, 0, -0.5F);
     EXPECT_EQ(view.accessibleName(), QStringLiteral("V-g-f plot %2 and %1"));
     EXPECT_EQ(view.accessibleDescription(),

@@ -112,7 +112,7 @@ TEST_F(PlotReadoutTest, showsTheValuesWhereThePointerMoves)
 TEST_F(PlotReadoutTest, showsTheNearestCurveInASecondLine)
 {
     evolution.FileName = "a<b>&c.ev2";
-    plot.addSeries(test::addMode(evolution, 2, {{100, -0.2F, 15}, {300, -0.2F, 15}}));
+    plot.rows().add(test::addMode(evolution, 2, {{100, -0.2F, 15}, {300, -0.2F, 15}}));
     moveTo({280, 270});
     EXPECT_EQ(box().text(),
               QStringLiteral("V 200.0 KEAS   f 15.00 Hz\n"
@@ -228,8 +228,8 @@ TEST_F(PlotReadoutTest, hidesWhenThePlotChanges)
 
 TEST_F(PlotReadoutTest, showsNothingOverAnEditor)
 {
-    plot.moveBox(TextBox::Legend, 15 * 300,
-                 15 * 200); // the legend into the canvas, 15 units to a pixel
+    plot.texts().move(TextBox::Legend, 15 * 300,
+                      15 * 200); // the legend into the canvas, 15 units to a pixel
     openLegendEditor();
     QTextEdit* const editor = view.findChild<QTextEdit*>();
     ASSERT_NE(editor, nullptr);
@@ -289,7 +289,7 @@ TEST_F(PlotReadoutTest, standsRightBelowThePointerAndOnTheOtherSideNearAnEdge)
 TEST_F(PlotReadoutTest, beginsAtTheLeftEdgeWhenItIsWiderThanTheView)
 {
     evolution.FileName = std::string(300, 'w');
-    plot.addSeries(test::addMode(evolution, 2, {{100, -0.2F, 15}, {300, -0.2F, 15}}));
+    plot.rows().add(test::addMode(evolution, 2, {{100, -0.2F, 15}, {300, -0.2F, 15}}));
     moveTo({280, 270});
     ASSERT_GT(box().width(), view.width());
     EXPECT_EQ(box().geometry().left(), 0);

@@ -33,7 +33,7 @@ protected:
     {
         std::vector<std::string> result;
         for (const EvmPlot* plot : window.plots())
-            result.push_back(plot->Caption().toStdString());
+            result.push_back(plot->properties().Caption().toStdString());
         return result;
     }
 
@@ -44,7 +44,7 @@ protected:
         for (const EvmPlot* plot : window.plots()) {
             EXPECT_EQ(plot->Visible(), !window.viewOf(*plot)->isHidden());
             if (plot->Visible())
-                result.push_back(plot->Caption().toStdString());
+                result.push_back(plot->properties().Caption().toStdString());
         }
         return result;
     }
@@ -53,7 +53,7 @@ protected:
     void listen()
     {
         const auto name = [](const EvmPlot* plot) {
-            return plot != nullptr ? plot->Caption().toStdString() : "none";
+            return plot != nullptr ? plot->properties().Caption().toStdString() : "none";
         };
         QObject::connect(&list, &PlotList::activeChanged, &window,
                          [this, name](const EvmPlot* before, const EvmPlot* now) {

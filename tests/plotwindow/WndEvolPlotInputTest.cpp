@@ -189,7 +189,7 @@ TEST_F(WndEvolPlotInput, passesOnTheFailureOfAPlot)
                      [&numbers](const RunTimeError& error) { numbers.push_back(error.number()); });
     EvmPlot* const second = add();
     window.ActivatePlot(second);
-    second->setGthicks(0);
+    second->properties().setGthicks(0);
     show();
     window.grab();
     QApplication::processEvents();

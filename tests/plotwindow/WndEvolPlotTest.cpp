@@ -32,8 +32,8 @@ TEST_F(WndEvolPlotTest, namesTheActivePlotInItsTitle)
     activateFirst();
     EXPECT_EQ(window.windowTitle(), QStringLiteral("V-g-f Plot - Plot1"));
     window.ActivatePlot(second);
-    second->setCaption(QStringLiteral("clean %1 & [*]"));
-    plotAt(0)->setCaption(QStringLiteral("hidden"));
+    second->properties().setCaption(QStringLiteral("clean %1 & [*]"));
+    plotAt(0)->properties().setCaption(QStringLiteral("hidden"));
     EXPECT_EQ(window.accessibleName(), QStringLiteral("V-g-f Plot - clean %1 & [*]"));
     EXPECT_EQ(window.windowTitle(), QStringLiteral("V-g-f Plot - clean %1 & [*][*]"))
         << "the toolkit shows one for two";
@@ -94,9 +94,9 @@ TEST_F(WndEvolPlotTest, activatesNoPlotOfAnotherWindow)
 TEST_F(WndEvolPlotTest, namesANewPlotAfterItsPlace)
 {
     listen();
-    EXPECT_EQ(add()->Caption(), QStringLiteral("Plot2"));
-    EXPECT_EQ(add("Wing")->Caption(), QStringLiteral("Wing"));
-    EXPECT_EQ(add()->Caption(), QStringLiteral("Plot4"));
+    EXPECT_EQ(add()->properties().Caption(), QStringLiteral("Plot2"));
+    EXPECT_EQ(add("Wing")->properties().Caption(), QStringLiteral("Wing"));
+    EXPECT_EQ(add()->properties().Caption(), QStringLiteral("Plot4"));
     EXPECT_THAT(captions(), ElementsAre("Plot1", "Plot2", "Wing", "Plot4"));
     EXPECT_THAT(announced, ElementsAre("added Plot2", "added Wing", "added Plot4"));
 }
@@ -115,10 +115,11 @@ TEST_F(WndEvolPlotTest, namesACopyAfterTheActivePlotAndItsPlace)
 {
     activateFirst();
     listen();
-    EXPECT_EQ(window.CopyPlot({})->Caption(), QStringLiteral("Plot1(2)"));
-    EXPECT_EQ(window.CopyPlot(QStringLiteral("Wing"))->Caption(), QStringLiteral("Wing"));
+    EXPECT_EQ(window.CopyPlot({})->properties().Caption(), QStringLiteral("Plot1(2)"));
+    EXPECT_EQ(window.CopyPlot(QStringLiteral("Wing"))->properties().Caption(),
+              QStringLiteral("Wing"));
     window.ActivatePlot(plotAt(1));
-    EXPECT_EQ(window.CopyPlot({})->Caption(), QStringLiteral("Plot1(2)(4)"));
+    EXPECT_EQ(window.CopyPlot({})->properties().Caption(), QStringLiteral("Plot1(2)(4)"));
     EXPECT_THAT(
         announced,
         ElementsAre("added Plot1(2)", "added Wing", "active Plot1 Plot1(2)", "added Plot1(2)(4)"));
@@ -129,18 +130,18 @@ TEST_F(WndEvolPlotTest, copiesTextsScaleAndPropertiesOfTheActivePlotButNoSeries)
     add();
     window.ActivatePlot(plotAt(1));
     EvmPlot& source = *plotAt(1);
-    source.setBoxText(TextBox::Header, QStringLiteral("header"));
+    source.texts().setText(TextBox::Header, QStringLiteral("header"));
     source.SetScale(10, 500, 1, 40, 0.1F, -0.5F);
-    source.setVthicks(9);
-    source.setVLabel(QStringLiteral("speed"));
+    source.properties().setVthicks(9);
+    source.properties().setVLabel(QStringLiteral("speed"));
     window.AddSerie(evolution.appendMode());
     const EvmPlot& copy = *window.CopyPlot({});
-    EXPECT_EQ(copy.box(TextBox::Header).Text(), QStringLiteral("header"));
+    EXPECT_EQ(copy.parts().box(TextBox::Header).Text(), QStringLiteral("header"));
     EXPECT_EQ(copy.axes().bounds(), (PlotBounds {10, 500, 1, 40, 0.1F, -0.5F}));
-    EXPECT_EQ(copy.vthicks(), 9);
-    EXPECT_EQ(copy.vLabel(), QStringLiteral("speed"));
+    EXPECT_EQ(copy.properties().vthicks(), 9);
+    EXPECT_EQ(copy.properties().vLabel(), QStringLiteral("speed"));
     EXPECT_TRUE(copy.SeriesCollection().empty());
-    EXPECT_EQ(source.Caption(), QStringLiteral("Plot2"));
+    EXPECT_EQ(source.properties().Caption(), QStringLiteral("Plot2"));
 }
 
 TEST_F(WndEvolPlotTest, copiesNothingWithoutAnActivePlot)
@@ -157,10 +158,10 @@ TEST_F(WndEvolPlotTest, countsTheNextIndexFromTheHighestInUse)
     EvmPlot* const second = add();
     EvmPlot* const third = add();
     window.RemovePlot(second);
-    EXPECT_EQ(add()->Caption(), QStringLiteral("Plot4")); // index 3, after 2
+    EXPECT_EQ(add()->properties().Caption(), QStringLiteral("Plot4")); // index 3, after 2
     window.RemovePlot(plotAt(2));
     window.RemovePlot(third);
-    EXPECT_EQ(add()->Caption(), QStringLiteral("Plot2")); // index 1, after 0
+    EXPECT_EQ(add()->properties().Caption(), QStringLiteral("Plot2")); // index 1, after 0
     EXPECT_THAT(captions(), ElementsAre("Plot1", "Plot2"));
 }
 
@@ -253,7 +254,7 @@ TEST_F(WndEvolPlotTest, survivesAPlotThatIsAddedWhileOneIsRemoved)
     });
     window.RemovePlot(second);
     ASSERT_EQ(window.plots().size(), 21U);
-    EXPECT_EQ(plotAt(1)->Caption(), QStringLiteral("Plot3"));
+    EXPECT_EQ(plotAt(1)->properties().Caption(), QStringLiteral("Plot3"));
 }
 
 TEST_F(WndEvolPlotTest, addsASeriesToTheActivePlotOnly)
@@ -333,9 +334,9 @@ TEST_F(WndEvolPlotTest, givesACopyTheAxesOfItsSource)
 {
     activateFirst();
     plotAt(0)->SetScale(0, 321, 0, 20, 0, -2);
-    plotAt(0)->setVthicks(9);
+    plotAt(0)->properties().setVthicks(9);
     list.setNewPlotAxes({{"V", 0, 100, 4}, {"f", 0, 10, 2}, {"g", 0, -1, 3}});
     const EvmPlot& copy = *window.CopyPlot(QString());
-    EXPECT_EQ(copy.vthicks(), 9);
+    EXPECT_EQ(copy.properties().vthicks(), 9);
     EXPECT_EQ(copy.axes(), plotAt(0)->axes());
 }

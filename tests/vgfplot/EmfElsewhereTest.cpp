@@ -28,21 +28,22 @@ protected:
         plot.resize({800, 600});
         // A curve from corner to corner shows where the canvas' clip is, and its ends where the
         // axes are.
-        plot.addSeries(
+        plot.rows().add(
             addMode(evolution, 1, {{0, -0.02F, 10}, {350, -0.1F, 20}, {700, 0.05F, 80}}));
-        plot.addSeries(addMode(evolution, 2, {{0, -0.2F, 45}, {700, -0.1F, 30}}));
+        plot.rows().add(addMode(evolution, 2, {{0, -0.2F, 45}, {700, -0.1F, 30}}));
         test::changeSeries(plot, 0, [](Series& solid) { solid.ColorIndex = rgb(0, 0, 255); });
         test::changeSeries(plot, 1, [](Series& dashed) {
             dashed.ColorIndex = rgb(255, 0, 0);
             dashed.LineStyle = penstyle::dash;
         });
-        plot.Header().setTextRTF("{\\rtf1{\\fonttbl{\\f0 Arial;}}{\\colortbl ;\\red0\\green128"
-                                 "\\blue0;}\\f0\\fs36 The header of this plot \\cf1\\b in green"
-                                 "\\par\\plain\\fs20 second line\\par}");
-        plot.setBoxText(TextBox::Legend, QStringLiteral("legend\nsecond"));
-        plot.setBoxText(TextBox::Mechanism, QStringLiteral("below the header"));
-        plot.AddRef(352.1F, QStringLiteral("Vd"));
-        plot.AddDampLine(-0.1F, QStringLiteral("g = 10 %"));
+        plot.texts().setTextRTF(TextBox::Header,
+                                "{\\rtf1{\\fonttbl{\\f0 Arial;}}{\\colortbl ;\\red0\\green128"
+                                "\\blue0;}\\f0\\fs36 The header of this plot \\cf1\\b in green"
+                                "\\par\\plain\\fs20 second line\\par}");
+        plot.texts().setText(TextBox::Legend, QStringLiteral("legend\nsecond"));
+        plot.texts().setText(TextBox::Mechanism, QStringLiteral("below the header"));
+        plot.marks().AddRef(352.1F, QStringLiteral("Vd"));
+        plot.marks().AddDampLine(-0.1F, QStringLiteral("g = 10 %"));
         plot.ExportPic(path("plot.emf"));
     }
 
@@ -65,15 +66,15 @@ protected:
         const QImage screen = plot.Image();
         test::expectSameInk(shown, screen, tolerance, 0.98);
         // Each text by itself, so that none of them can be missing.
-        const QRect canvas = plot.vgPlot().geometry();
-        const int axis = plot.velAxis().geometry().center().y();
+        const QRect canvas = plot.parts().vgPlot.geometry();
+        const int axis = plot.parts().velAxis.geometry().center().y();
         const std::vector<std::pair<const char*, QRect>> parts = {
             {"header", plot.Header().geometry()},
             {"legend", plot.Legend().geometry()},
             {"subtitle", plot.Mechanism().geometry()},
-            {"speed title", plot.velAxisLabel().geometry()},
-            {"damping title", plot.gAxisLabel().geometry()},
-            {"frequency title", plot.freqAxislabel().geometry()},
+            {"speed title", plot.parts().velAxisLabel.geometry()},
+            {"damping title", plot.parts().gAxisLabel.geometry()},
+            {"frequency title", plot.parts().freqAxislabel.geometry()},
             {"reference speed", {canvas.left() + 250, axis - 25, 120, 20}},
             {"damping line", {canvas.right() - 60, canvas.top(), 60, canvas.height()}}};
         for (const auto& [name, area] : parts)

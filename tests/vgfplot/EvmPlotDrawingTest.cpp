@@ -29,7 +29,7 @@ protected:
     EvmPlotDrawing()
     {
         plot.resize({800, 600});
-        plot.addSeries(addMode(evolution, 1, {{0, -0.125F, 25}, {700, -0.125F, 25}}));
+        plot.rows().add(addMode(evolution, 1, {{0, -0.125F, 25}, {700, -0.125F, 25}}));
         test::changeSeries(plot, 0, [](Series& one) { one.ColorIndex = rgb(0, 0, 255); });
     }
 
@@ -90,7 +90,7 @@ TEST_F(EvmPlotDrawing, followsItsRows)
     plot.Image();
     test::changeSeries(plot, 0, [](Series& one) { one.ColorIndex = 0; });
     EXPECT_EQ(pixel(400, 204), black);
-    plot.addSeries(addMode(evolution, 2, {{0, -0.125F, 25}, {700, -0.125F, 25}}));
+    plot.rows().add(addMode(evolution, 2, {{0, -0.125F, 25}, {700, -0.125F, 25}}));
     test::changeSeries(plot, 1, [](Series& one) { one.ColorIndex = rgb(0, 0, 255); });
     EXPECT_EQ(pixel(400, 204), blue) << "the last row is drawn last";
     plot.SerieMove(2, 1);
@@ -154,26 +154,26 @@ TEST_F(EvmPlotDrawing, showsAnUnstableModeAboveTheSpeedAxis)
 
 TEST_F(EvmPlotDrawing, showsDampingLinesAtOnce)
 {
-    plot.AddDampLine(-0.0625F, {});
+    plot.marks().AddDampLine(-0.0625F, {});
     EXPECT_EQ(pixel(400, 330 + 63), black);
-    plot.RemoveDampLine();
+    plot.marks().RemoveDampLine();
     EXPECT_EQ(pixel(400, 330 + 63), white);
 }
 
 TEST_F(EvmPlotDrawing, showsReferenceSpeedsAtOnce)
 {
     plot.Image();
-    plot.AddRef(350, {}); // at 80 + 300; the mark reaches 12 rows above the axis
+    plot.marks().AddRef(350, {}); // at 80 + 300; the mark reaches 12 rows above the axis
     EXPECT_EQ(pixel(380, 330 - 8), black);
-    plot.RemoveRef();
+    plot.marks().RemoveRef();
     EXPECT_EQ(pixel(380, 330 - 8), white);
 }
 
 TEST_F(EvmPlotDrawing, showsTextsAtOnce)
 {
-    plot.moveBox(TextBox::Legend, 400 * 15, 400 * 15);
+    plot.texts().move(TextBox::Legend, 400 * 15, 400 * 15);
     plot.Image();
-    plot.setBoxText(TextBox::Legend, QStringLiteral("HHHH"));
+    plot.texts().setText(TextBox::Legend, QStringLiteral("HHHH"));
     const QRect box = plot.Legend().geometry();
     int inked = 0;
     for (int column = box.left(); column <= box.right(); ++column)
@@ -201,8 +201,8 @@ TEST_F(EvmPlotDrawing, putsCurveAndTickOfOneValueOnTheSamePixelsOfAScreenOfAnyRa
     for (std::int16_t k = 1; k < 5; ++k) {
         const float part = static_cast<float>(k);
         const auto mode = static_cast<std::int16_t>(k + 1);
-        plot.addSeries(addMode(evolution, mode,
-                               {{100, -0.05F * part, 10 * part}, {600, -0.05F * part, 10 * part}}));
+        plot.rows().add(addMode(
+            evolution, mode, {{100, -0.05F * part, 10 * part}, {600, -0.05F * part, 10 * part}}));
     }
     test::changeAllSeries(plot, [](Series& one) { one.ColorIndex = 0; });
     const auto inkedRows = [](const QImage& image, int column, int from, int to) {
@@ -219,11 +219,12 @@ TEST_F(EvmPlotDrawing, putsCurveAndTickOfOneValueOnTheSamePixelsOfAScreenOfAnyRa
             plot.plot();
             const QImage& image = plot.Image();
             const auto pixels = [ratio](int length) { return static_cast<int>(length * ratio); };
-            const int tick = pixels(plot.vfPlot().Left() + 6);
-            const int curve = pixels(plot.vfPlot().Left() + plot.vfPlot().Width() / 2);
-            const int top = pixels(plot.vfPlot().Top() + 10);
-            const int bottom = pixels(plot.vgPlot().Top() + plot.vgPlot().Height() - 10);
-            const int middle = pixels(plot.vfPlot().Top() + plot.vfPlot().Height());
+            const int tick = pixels(plot.parts().vfPlot.Left() + 6);
+            const int curve = pixels(plot.parts().vfPlot.Left() + plot.parts().vfPlot.Width() / 2);
+            const int top = pixels(plot.parts().vfPlot.Top() + 10);
+            const int bottom =
+                pixels(plot.parts().vgPlot.Top() + plot.parts().vgPlot.Height() - 10);
+            const int middle = pixels(plot.parts().vfPlot.Top() + plot.parts().vfPlot.Height());
             for (const auto& [from, to] :
                  {std::pair(top, middle - pixels(20)), std::pair(middle + pixels(20), bottom)})
                 EXPECT_EQ(inkedRows(image, tick, from, to), inkedRows(image, curve, from, to))
@@ -235,7 +236,7 @@ TEST_F(EvmPlotDrawing, putsCurveAndTickOfOneValueOnTheSamePixelsOfAScreenOfAnyRa
 TEST_F(EvmPlotDrawing, raisesTheErrorOfAPartOnceAndShowsTheOthers)
 {
     plot.plot();
-    plot.setVthicks(0);
+    plot.properties().setVthicks(0);
     EXPECT_EQ(errorNumberOf([this] { plot.Image(); }), ErrorNumber::DivisionByZero);
     EXPECT_EQ(errorNumberOf([this] { plot.Image(); }), std::nullopt);
     EXPECT_EQ(pixel(400, 204), blue);
@@ -246,9 +247,9 @@ TEST_F(EvmPlotDrawing, raisesTheErrorOfAPartOnceAndShowsTheOthers)
 TEST_F(EvmPlotDrawing, showsEverythingAgainAfterAnErrorIsMended)
 {
     plot.plot();
-    plot.setVthicks(0);
+    plot.properties().setVthicks(0);
     EXPECT_TRUE(errorNumberOf([this] { plot.Image(); }));
-    plot.setVthicks(7);
+    plot.properties().setVthicks(7);
     EXPECT_EQ(errorNumberOf([this] { plot.Image(); }), std::nullopt);
     EXPECT_EQ(pixel(420, 330), black);
     EXPECT_EQ(pixel(400, 204), blue);
@@ -271,7 +272,7 @@ TEST_F(EvmPlotDrawing, raisesAnErrorOfPlottingOnceAlsoWhenTheScaleWasSetBefore)
 TEST_F(EvmPlotDrawing, labelsTheDecimalNumbersOfTheBounds)
 {
     plot.SetScale(0, 500, 0, 20, 0, -0.35F);
-    plot.setGthicks(4);
+    plot.properties().setGthicks(4);
     RecordingContext context;
     plot.Draw(context);
     // -0.35 / 4 = -0.0875, half-way: away from zero. The single is -0.34999999.
@@ -280,16 +281,16 @@ TEST_F(EvmPlotDrawing, labelsTheDecimalNumbersOfTheBounds)
 
 TEST_F(EvmPlotDrawing, drawsAWhiteGroundAndThenItsPartsInOrder)
 {
-    plot.setBoxText(TextBox::Header, QStringLiteral("header"));
+    plot.texts().setText(TextBox::Header, QStringLiteral("header"));
     RecordingContext context;
     plot.Draw(context);
     EXPECT_EQ(context.calls().front(), "fill 0,0 800x600 #ffffff");
     std::vector<std::string> expected;
     for (const PlotControl* part : std::initializer_list<const PlotControl*> {
-             &plot.velAxis(), &plot.velAxisLabel(), &plot.freqAxis(), &plot.freqAxislabel(),
-             &plot.gAxis(), &plot.gAxisLabel(), &plot.box(TextBox::Header),
-             &plot.box(TextBox::Legend), &plot.box(TextBox::Mechanism), &plot.vfPlot(),
-             &plot.vgPlot()})
+             &plot.parts().velAxis, &plot.parts().velAxisLabel, &plot.parts().freqAxis,
+             &plot.parts().freqAxislabel, &plot.parts().gAxis, &plot.parts().gAxisLabel,
+             &plot.parts().box(TextBox::Header), &plot.parts().box(TextBox::Legend),
+             &plot.parts().box(TextBox::Mechanism), &plot.parts().vfPlot, &plot.parts().vgPlot})
         expected.push_back(textOf(part->geometry().topLeft()));
     EXPECT_EQ(originsOf(context), expected);
     EXPECT_EQ(context.calls().back(), "origin 0,0");

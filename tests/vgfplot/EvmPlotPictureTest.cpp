@@ -29,21 +29,22 @@ protected:
     EvmPlotPicture()
     {
         plot.resize({800, 600});
-        plot.addSeries(
+        plot.rows().add(
             addMode(evolution, 1, {{0, -0.02F, 10}, {350, -0.1F, 20}, {700, 0.05F, 25}}));
-        plot.addSeries(addMode(evolution, 2, {{0, -0.2F, 45}, {700, -0.1F, 30}}));
+        plot.rows().add(addMode(evolution, 2, {{0, -0.2F, 45}, {700, -0.1F, 30}}));
         test::changeSeries(plot, 0, [](Series& solid) { solid.ColorIndex = rgb(0, 0, 255); });
         test::changeSeries(plot, 1, [](Series& dashed) {
             dashed.ColorIndex = rgb(255, 0, 0);
             dashed.LineStyle = penstyle::dash;
         });
-        plot.Header().setTextRTF(
+        plot.texts().setTextRTF(
+            TextBox::Header,
             "{\\rtf1{\\colortbl ;\\red0\\green128\\blue0;}\\fs28 header \\cf1\\b "
             "green\\par}");
-        plot.setBoxText(TextBox::Legend, QStringLiteral("legend"));
-        plot.setBoxText(TextBox::Mechanism, QStringLiteral("subtitle"));
-        plot.AddRef(352.1F, QStringLiteral("Vd"));
-        plot.AddDampLine(-0.02F, QStringLiteral("g = 2.00 %"));
+        plot.texts().setText(TextBox::Legend, QStringLiteral("legend"));
+        plot.texts().setText(TextBox::Mechanism, QStringLiteral("subtitle"));
+        plot.marks().AddRef(352.1F, QStringLiteral("Vd"));
+        plot.marks().AddDampLine(-0.02F, QStringLiteral("g = 2.00 %"));
     }
 
     test::EmfContents contents()
@@ -115,46 +116,47 @@ TEST_F(EvmPlotPicture, isDescribedInTheFixedWords)
 TEST_F(EvmPlotPicture, drawsEmptyBoxesLikeTheOthers)
 {
     for (const TextBox which : allTextBoxes)
-        plot.setBoxText(which, {});
+        plot.texts().setText(which, {});
     EXPECT_FALSE(textsOf(contents()).contains(QStringLiteral("Insert Header")));
     test::expectSameInk(test::playMetafile(contents(), plot.size()), plot.Image(), 1, 1.0);
 }
 
 TEST_F(EvmPlotPicture, endsAtThePlotWhateverItsTextsHold)
 {
-    plot.Header().setText(QString(900, u'W'));
-    plot.moveBox(TextBox::Legend, 15 * 780, 15 * 590);
-    plot.refresh();
+    plot.texts().setText(TextBox::Header, QString(900, u'W'));
+    plot.texts().move(TextBox::Legend, 15 * 780, 15 * 590);
     EXPECT_EQ(contents().bounds, QRect(0, 0, 800, 600));
     test::expectSameInk(test::playMetafile(contents(), plot.size()), plot.Image(), 1, 1.0);
 }
 
 TEST_F(EvmPlotPicture, showsABoxWhosePlaceLiesBeyondThePlotAsTheScreenDoes)
 {
-    plot.setBoxText(TextBox::Legend, QStringLiteral("beyond"));
-    plot.moveBox(TextBox::Legend, 15 * 1200, 15 * 100);
+    plot.texts().setText(TextBox::Legend, QStringLiteral("beyond"));
+    plot.texts().move(TextBox::Legend, 15 * 1200, 15 * 100);
     const QRect place = plot.Legend().geometry();
     EXPECT_TRUE(plot.Image().rect().contains(place));
     EXPECT_EQ(pictureImage(plot, 1), plot.Image());
     test::expectSameInk(test::playMetafile(contents(), plot.size()), plot.Image(), 1, 1.0);
     const QImage shown = plot.Image().copy(place);
-    plot.setBoxText(TextBox::Legend, {});
+    plot.texts().setText(TextBox::Legend, {});
     EXPECT_NE(plot.Image().copy(place), shown);
 }
 
 TEST_F(EvmPlotPicture, showsSlantedLettersAsTheScreenDoes)
 {
-    plot.Legend().setTextRTF("{\\rtf\\i\\fs96 jf\\par}");
-    plot.moveBox(TextBox::Legend, 15 * 300, 15 * 250);
+    plot.texts().setTextRTF(TextBox::Legend, "{\\rtf\\i\\fs96 jf\\par}");
+    plot.texts().move(TextBox::Legend, 15 * 300, 15 * 250);
     EXPECT_EQ(pictureImage(plot, 1), plot.Image());
 }
 
 TEST_F(EvmPlotPicture, showsTheSameOnScreenAndInFilesAtEverySize)
 {
     // Wide plots have room beside the axes for long captions and labels.
-    plot.AddRef(690, QStringLiteral("a caption that reaches far beyond the right end of the axis"));
-    plot.AddRef(5, QStringLiteral("a caption that reaches far beyond the left end of the axis"));
-    plot.setVLabel(QStringLiteral("V(keas) with a long title"));
+    plot.marks().AddRef(
+        690, QStringLiteral("a caption that reaches far beyond the right end of the axis"));
+    plot.marks().AddRef(
+        5, QStringLiteral("a caption that reaches far beyond the left end of the axis"));
+    plot.properties().setVLabel(QStringLiteral("V(keas) with a long title"));
     plot.SetScale(0, 700, 0, 9e9F, 0, -9e9F);
     for (const QSize size :
          {QSize(700, 500), QSize(1067, 700), QSize(1500, 900), QSize(2600, 1400)}) {
@@ -167,9 +169,9 @@ TEST_F(EvmPlotPicture, showsTheSameOnScreenAndInFilesAtEverySize)
 TEST_F(EvmPlotPicture, drawsFacesOfOneScriptAsTheFaceItself)
 {
     const auto shown = [this](const char* face) {
-        plot.Header().setTextRTF(std::string("{\\rtf1{\\fonttbl{\\f0 ") + face
-                                 + ";}}\\f0\\fs40 Wing\\par}");
-        plot.refresh();
+        plot.texts().setTextRTF(TextBox::Header,
+                                std::string("{\\rtf1{\\fonttbl{\\f0 ") + face
+                                    + ";}}\\f0\\fs40 Wing\\par}");
         return plot.Image().copy();
     };
     const QImage arial = shown("Arial");
@@ -189,12 +191,12 @@ TEST_F(EvmPlotPicture, isAWellFormedSvgWhateverTheTextsHold)
         QString::fromUtf16(u"\x01\x1F\xFFFE\xFFFF\xD800z\xDC00\u2028\u202E")};
     for (const QString& text : hostile) {
         for (const TextBox which : allTextBoxes)
-            plot.setBoxText(which, text);
-        plot.setVLabel(text);
-        plot.setGLabel(text);
-        plot.setFLabel(text);
-        plot.AddRef(100, text);
-        plot.AddDampLine(-0.1F, text);
+            plot.texts().setText(which, text);
+        plot.properties().setVLabel(text);
+        plot.properties().setGLabel(text);
+        plot.properties().setFLabel(text);
+        plot.marks().AddRef(100, text);
+        plot.marks().AddDampLine(-0.1F, text);
         test::changeAllSeries(plot, [&text](Series& series) {
             series.MarkerStyle = markerNumber(MarkerKind::Tag);
             series.MarkerSpacing = 1;
@@ -209,9 +211,9 @@ TEST_F(EvmPlotPicture, isAWellFormedSvgWhateverTheTextsHold)
 TEST_F(EvmPlotPicture, takesNothingButNamesOfFontsIntoAnSvg)
 {
     const auto svgWith = [this](const char* face) {
-        plot.Header().setTextRTF(std::string("{\\rtf1{\\fonttbl{\\f0 ") + face
-                                 + ";}}\\f0 header\\par}");
-        plot.refresh();
+        plot.texts().setTextRTF(TextBox::Header,
+                                std::string("{\\rtf1{\\fonttbl{\\f0 ") + face
+                                    + ";}}\\f0 header\\par}");
         const QByteArray svg = pictureBytes(plot, PictureFormat::Svg);
         EXPECT_NO_THROW(test::playSvg(svg)) << face;
         return svg;
@@ -256,7 +258,7 @@ TEST_F(EvmPlotPicture, leavesTheOldFileWhenDrawingFails)
 {
     const test::TemporaryFolder folder;
     const std::string old = folder.write("old.emf", "old");
-    plot.setVthicks(0);
+    plot.properties().setVthicks(0);
     EXPECT_EQ(test::errorNumberOf([&] { plot.ExportPic(QString::fromStdString(old)); }),
               ErrorNumber::DivisionByZero);
     EXPECT_EQ(test::fileBytes(old), "old");

@@ -20,7 +20,7 @@ protected:
     void addSeries(int count)
     {
         for (int i = 0; i < count; ++i)
-            plot.addSeries(evolution.appendMode());
+            plot.rows().add(evolution.appendMode());
     }
 
     std::vector<std::string> tags() const
@@ -43,7 +43,7 @@ protected:
     /// The frequency bounds after a fit to these points.
     std::pair<float, float> fit(std::initializer_list<test::DrawnPoint> points)
     {
-        plot.addSeries(addMode(evolution, 1, points));
+        plot.rows().add(addMode(evolution, 1, points));
         plot.fitFreq();
         return {plot.axes().frequency.min, plot.axes().frequency.max};
     }
@@ -71,7 +71,7 @@ TEST_F(EvmPlotSeries, takeTheBaseColoursInTurnAndTheirNumberAsTag)
 TEST_F(EvmPlotSeries, belongToTheModeThatTheyWereMadeFor)
 {
     AeMode& mode = evolution.appendMode();
-    const RowId added = plot.addSeries(mode);
+    const RowId added = plot.rows().add(mode);
     EXPECT_EQ(plot.rows().indexOf(added), 0U);
     EXPECT_EQ(plot.SeriesCollection().back().Mode, &mode);
 }
@@ -143,7 +143,7 @@ TEST_F(FitFreq, roundsTiesToEven)
 
 TEST_F(FitFreq, looksAtAllSeries)
 {
-    plot.addSeries(addMode(evolution, 1, {{600, 0, 100}}));
+    plot.rows().add(addMode(evolution, 1, {{600, 0, 100}}));
     // 20 * 0.95 = 19 and 100 * 1.05 = 105.
     EXPECT_EQ(fit({{600, 0, 20}}), Bounds(19.0F, 105.0F));
 }
@@ -189,7 +189,7 @@ TEST_F(FitFreq, leavesSpeedsAndDampingsAsTheyAre)
     fit({{550, 0, 20}, {600, 0, 40}});
     EXPECT_EQ(plot.axes().bounds(), (PlotBounds {500, 700, 19, 42, 0, -0.25F}));
     // The canvas follows: 42 Hz at its upper edge.
-    EXPECT_EQ(plot.vfPlot().pixelOf(500, 42), QPoint(0, 0));
+    EXPECT_EQ(plot.parts().vfPlot.pixelOf(500, 42), QPoint(0, 0));
 }
 
 TEST_F(FitFreq, ignoresSeriesWithoutAMode)

@@ -31,23 +31,23 @@ public:
         for (int k = 1; k < m_axes.speed.ticks; ++k) {
             const float speed =
                 tickValue(m_axes.speed.min, m_axes.speed.max, m_axes.speed.ticks, k);
-            for (const ucPlot* canvas : {&plot.vgPlot(), &plot.vfPlot()})
+            for (const ucPlot* canvas : {&plot.parts().vgPlot, &plot.parts().vfPlot})
                 ASSERT_EQ(canvas->Left() + canvas->pixelOf(speed, 0).x(),
-                          tick(plot.velAxis(), k).x())
+                          tick(plot.parts().velAxis, k).x())
                     << "speed " << speed;
         }
         for (int k = 1; k < m_axes.frequency.ticks; ++k) { // Max is at the top
             const float frequency =
                 tickValue(m_axes.frequency.max, m_axes.frequency.min, m_axes.frequency.ticks, k);
-            ASSERT_EQ(plot.vfPlot().Top() + plot.vfPlot().pixelOf(0, frequency).y(),
-                      tick(plot.freqAxis(), k).y())
+            ASSERT_EQ(plot.parts().vfPlot.Top() + plot.parts().vfPlot.pixelOf(0, frequency).y(),
+                      tick(plot.parts().freqAxis, k).y())
                 << "frequency " << frequency;
         }
         for (int k = 1; k < m_axes.damping.ticks; ++k) { // Min is at the top
             const float damping =
                 tickValue(m_axes.damping.min, m_axes.damping.max, m_axes.damping.ticks, k);
-            ASSERT_EQ(plot.vgPlot().Top() + plot.vgPlot().pixelOf(0, damping).y(),
-                      tick(plot.gAxis(), k).y())
+            ASSERT_EQ(plot.parts().vgPlot.Top() + plot.parts().vgPlot.pixelOf(0, damping).y(),
+                      tick(plot.parts().gAxis, k).y())
                 << "damping " << damping;
         }
     }
@@ -55,11 +55,11 @@ public:
     /// Where the axis line of the speed axis and damping gmin lie, in rows of the plot.
     int speedAxisRow() const
     {
-        return m_record.strokesFrom(plot.velAxis().geometry().topLeft())[0].from.y();
+        return m_record.strokesFrom(plot.parts().velAxis.geometry().topLeft())[0].from.y();
     }
     int rowOfDamping(double g) const
     {
-        return plot.vgPlot().Top() + plot.vgPlot().pixelOf(0, g).y();
+        return plot.parts().vgPlot.Top() + plot.parts().vgPlot.pixelOf(0, g).y();
     }
 
     EvmPlot plot;

@@ -113,7 +113,7 @@ TEST_F(EvolutionPlotter, headsThePlotWithWhatAllFilesHaveInCommon)
 
 TEST_F(EvolutionPlotter, leavesTextsOfTheUserAlone)
 {
-    plot.setBoxText(TextBox::Header, QStringLiteral("my header"));
+    plot.texts().setText(TextBox::Header, QStringLiteral("my header"));
     plotAll({one.get()});
     EXPECT_EQ(plot.Header().Text(), QStringLiteral("my header"));
 }

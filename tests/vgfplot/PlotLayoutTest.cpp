@@ -2,19 +2,29 @@
 
 #include <gtest/gtest.h>
 
+using tarsil::BoxSizes;
 using tarsil::layOutPlot;
 using tarsil::PlotLayout;
+using tarsil::shownPlace;
 using tarsil::TitleSizes;
-using tarsil::usualLegendPosition;
-using tarsil::usualSubtitlePosition;
 
 namespace {
 
 constexpr TitleSizes titles {{40, 12}, {30, 14}, {10, 16}};
 
+const BoxSizes boxes {{100, 20}, 4, {{50, 30}, std::nullopt}, {{60, 10}, std::nullopt}};
+
 PlotLayout layoutOf(QSize plot)
 {
-    return layOutPlot(plot, titles);
+    return layOutPlot(plot, titles, boxes);
+}
+
+/// The upper left corner of a legend that nobody has moved.
+QPoint usualLegend(QSize plot, QSize legend)
+{
+    BoxSizes sizes = boxes;
+    sizes.legend.size = legend;
+    return layOutPlot(plot, titles, sizes).legend.position;
 }
 
 } // namespace
@@ -53,24 +63,60 @@ TEST(PlotLayout, putsTheTitlesAtTheEndsOfTheirAxes)
     EXPECT_EQ(layout.gAxisLabel, QRect(80 + 24, 582 - 8, 10, 16));
 }
 
-TEST(PlotLayout, beginsTheHeaderAfterTheFrequencyTitle)
+TEST(PlotLayout, runsTheHeaderFromTheFrequencyTitleToTheRightEdge)
 {
-    const PlotLayout layout = layoutOf({800, 600});
-    EXPECT_EQ(layout.headerLeft, 134);
-    EXPECT_EQ(layout.headerLeft + layout.headerWidth, 764); // 0.955 of 800
-    EXPECT_EQ(layOutPlot({800, 600}, {{40, 12}, {900, 14}, {10, 16}}).headerWidth, 0);
+    const QRect header = layoutOf({800, 600}).header.shown;
+    EXPECT_EQ(header.topLeft(), QPoint(134, 4));
+    EXPECT_EQ(header.left() + header.width(), 764); // 0.955 of 800
+    EXPECT_EQ(header.height(), 20);
+}
+
+TEST(PlotLayout, makesTheHeaderAsWideAsItsText)
+{
+    BoxSizes wide = boxes;
+    wide.header = {1000, 20};
+    EXPECT_EQ(layOutPlot({800, 600}, titles, wide).header.shown, QRect(134, 4, 1000, 20));
+    const TitleSizes longTitle {{40, 12}, {900, 14}, {10, 16}};
+    EXPECT_EQ(layOutPlot({800, 600}, longTitle, boxes).header.shown, QRect(1004, 4, 100, 20));
+}
+
+TEST(PlotLayout, showsTheHeaderWithinAPlotThatIsLowerThanItsRow)
+{
+    BoxSizes low = boxes;
+    low.headerTop = 590;
+    const PlotLayout layout = layOutPlot({800, 600}, titles, low);
+    EXPECT_EQ(layout.header.position, QPoint(134, 590));
+    EXPECT_EQ(layout.header.shown.topLeft(), QPoint(134, 580));
+    EXPECT_EQ(layout.mechanism.position, QPoint(134, 600)) << "below the header as it is shown";
+    EXPECT_EQ(layout.mechanism.shown.topLeft(), QPoint(134, 590));
 }
 
 TEST(PlotLayout, putsTheLegendRightOfTheCurvesAsFarAsItFits)
 {
-    const QSize plot(800, 600);
-    const PlotLayout layout = layoutOf(plot);
-    EXPECT_EQ(usualLegendPosition(plot, layout, {50, 30}), QPoint(688, 78)); // 0.86 of 800
-    EXPECT_EQ(usualLegendPosition(plot, layout, {200, 30}), QPoint(592, 78)); // 8 from the edge
-    EXPECT_EQ(usualLegendPosition(plot, layout, {900, 30}), QPoint(0, 78));
+    EXPECT_EQ(usualLegend({800, 600}, {50, 30}), QPoint(688, 78)); // 0.86 of 800
+    EXPECT_EQ(usualLegend({800, 600}, {200, 30}), QPoint(592, 78)); // 8 from the edge
+    EXPECT_EQ(usualLegend({800, 600}, {900, 30}), QPoint(0, 78));
 }
 
 TEST(PlotLayout, putsTheSubtitleBelowTheHeader)
 {
-    EXPECT_EQ(usualSubtitlePosition(layoutOf({800, 600}), {134, 4, 630, 40}), QPoint(134, 44));
+    EXPECT_EQ(layoutOf({800, 600}).mechanism.shown, QRect(134, 24, 60, 10));
+}
+
+TEST(PlotLayout, showsAMovedBoxAtItsPositionOrTheNearestOneInThePlot)
+{
+    BoxSizes moved = boxes;
+    moved.legend.position = QPoint(300, 200);
+    moved.mechanism.position = QPoint(790, -50);
+    const PlotLayout layout = layOutPlot({800, 600}, titles, moved);
+    EXPECT_EQ(layout.legend.shown, QRect(300, 200, 50, 30));
+    EXPECT_EQ(layout.mechanism.position, QPoint(790, -50));
+    EXPECT_EQ(layout.mechanism.shown, QRect(740, 0, 60, 10));
+}
+
+TEST(PlotLayout, coversThePlotWithABoxThatIsLarger)
+{
+    EXPECT_EQ(shownPlace({-150, 500, 1000, 200}, {800, 600}), QRect(-150, 400, 1000, 200));
+    EXPECT_EQ(shownPlace({-500, 500, 1000, 200}, {800, 600}), QRect(-200, 400, 1000, 200));
+    EXPECT_EQ(shownPlace({50, 500, 1000, 200}, {800, 600}), QRect(0, 400, 1000, 200));
 }

@@ -37,7 +37,7 @@ protected:
 
     RowId draw(std::initializer_list<test::DrawnPoint> points)
     {
-        return plot.addSeries(addMode(evolution, nextMode++, points));
+        return plot.rows().add(addMode(evolution, nextMode++, points));
     }
 
     /// A curve of one frequency from 100 to 300 KEAS, far from the speed axis in the V-g canvas.

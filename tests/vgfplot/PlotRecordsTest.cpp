@@ -24,20 +24,21 @@ protected:
             addMode(*evolution, 11, {{100, -1, 1}, {200, 1, 2}});
             addMode(*evolution, 12, {{100, -1, 3}, {200, 1, 4}});
         }
-        plot.setCaption(QStringLiteral("Clean"));
-        plot.Header().setTextRTF(
+        plot.properties().setCaption(QStringLiteral("Clean"));
+        plot.texts().setTextRTF(
+            TextBox::Header,
             "{\\rtf1{\\colortbl ;\\red255\\green0\\blue0;}first\\par\\cf1\\b second\\par}");
-        plot.setBoxText(TextBox::Legend, QStringLiteral("legend"));
-        plot.moveBox(TextBox::Legend, 1500, 3000.5);
-        plot.moveBox(TextBox::Mechanism, -15, 4500);
-        plot.setVLabel(QStringLiteral("V"));
-        plot.setFLabel(QStringLiteral("f"));
-        plot.setGLabel(QStringLiteral("damping"));
+        plot.texts().setText(TextBox::Legend, QStringLiteral("legend"));
+        plot.texts().move(TextBox::Legend, 1500, 3000.5);
+        plot.texts().move(TextBox::Mechanism, -15, 4500);
+        plot.properties().setVLabel(QStringLiteral("V"));
+        plot.properties().setFLabel(QStringLiteral("f"));
+        plot.properties().setGLabel(QStringLiteral("damping"));
         plot.SetScale(10, 450, 1, 30, 0.1F, -0.5F);
-        plot.setVthicks(9);
-        plot.setFthicks(6);
-        plot.setGthicks(4);
-        plot.rows().change(plot.addSeries(*two.Modes[1]), [](Series& series) {
+        plot.properties().setVthicks(9);
+        plot.properties().setFthicks(6);
+        plot.properties().setGthicks(4);
+        plot.rows().change(plot.rows().add(*two.Modes[1]), [](Series& series) {
             series.MarkerTag = QStringLiteral("7b");
             series.MarkerSize = 9;
             series.MarkerSpacing = 3;
@@ -46,7 +47,7 @@ protected:
             series.ColorIndex = rgb(1, 2, 3);
             series.MarkerForegroundColor = rgb(4, 5, 6);
         });
-        plot.addSeries(*one.Modes[0]);
+        plot.rows().add(*one.Modes[0]);
     }
 
     std::vector<const EVM*> evolutions() const { return {&one, &two}; }
@@ -59,7 +60,7 @@ protected:
         saved.plots = {recordOf(plot, evolutions())};
         WorkspaceRecord read;
         readWorkspace(writeWorkspace(saved, "user").bytes, "test.tsw", read);
-        other.setCaption(QString::fromStdString(read.plots[0].caption));
+        other.properties().setCaption(QString::fromStdString(read.plots[0].caption));
         applyRecord(read.plots[0], {&one, &two}, other);
     }
 
@@ -95,19 +96,19 @@ TEST_F(PlotRecords, makeTheSamePlotAgainThroughTheBytesOfAFile)
     EXPECT_EQ(other.Header().Text(), QStringLiteral("first\r\nsecond"));
     EXPECT_EQ(other.Legend().unitsLeft(), 1500);
     EXPECT_EQ(other.axes().bounds(), plot.axes().bounds());
-    EXPECT_EQ(other.vthicks(), 9);
-    EXPECT_EQ(other.fthicks(), 6);
-    EXPECT_EQ(other.gthicks(), 4);
-    EXPECT_EQ(other.gLabel(), QStringLiteral("damping"));
+    EXPECT_EQ(other.properties().vthicks(), 9);
+    EXPECT_EQ(other.properties().fthicks(), 6);
+    EXPECT_EQ(other.properties().gthicks(), 4);
+    EXPECT_EQ(other.properties().gLabel(), QStringLiteral("damping"));
     EXPECT_EQ(other.SeriesCollection()[0].IthMpf, 1) << "the first, where nobody chose one";
 }
 
 TEST_F(PlotRecords, keepMarksAndLooksThroughTheBytesOfAFile)
 {
-    plot.AddRef(352.1F, QStringLiteral("Vd    "));
-    plot.AddRef(400, QStringLiteral("       α"));
-    plot.AddDampLine(0.01F, QStringLiteral("g = 1.00 %"));
-    plot.AddDampLine(-0.03F, QString());
+    plot.marks().AddRef(352.1F, QStringLiteral("Vd    "));
+    plot.marks().AddRef(400, QStringLiteral("       α"));
+    plot.marks().AddDampLine(0.01F, QStringLiteral("g = 1.00 %"));
+    plot.marks().AddDampLine(-0.03F, QString());
     test::changeSeries(plot, 0, [](Series& series) {
         series.LineStyle = 2;
         series.LineWidth = 4;
@@ -115,11 +116,11 @@ TEST_F(PlotRecords, keepMarksAndLooksThroughTheBytesOfAFile)
     });
     EvmPlot other;
     throughAFile(other);
-    ASSERT_EQ(other.Refs().size(), 2U);
-    EXPECT_EQ(other.Refs()[0].Speed, 352.1F);
-    EXPECT_EQ(other.Refs()[0].Caption, QStringLiteral("Vd    "));
-    EXPECT_EQ(other.Refs()[1].Caption, QStringLiteral("       α"));
-    const std::vector<RefLine>& lines = other.vgPlot().lines();
+    ASSERT_EQ(other.marks().referenceSpeeds().size(), 2U);
+    EXPECT_EQ(other.marks().referenceSpeeds()[0].Speed, 352.1F);
+    EXPECT_EQ(other.marks().referenceSpeeds()[0].Caption, QStringLiteral("Vd    "));
+    EXPECT_EQ(other.marks().referenceSpeeds()[1].Caption, QStringLiteral("       α"));
+    const std::vector<RefLine>& lines = other.parts().vgPlot.lines();
     ASSERT_EQ(lines.size(), 2U);
     EXPECT_EQ(lines[0].Caption, QStringLiteral("g = 1.00 %"));
     EXPECT_EQ(lines[0].Y1, 0.01F);
@@ -138,12 +139,12 @@ TEST_F(PlotRecords, keepMarksAndLooksThroughTheBytesOfAFile)
 TEST_F(PlotRecords, takeTheMarksOfTheFileForThoseOfThePlot)
 {
     const PlotRecord record = recordOf(plot, evolutions());
-    plot.AddRef(1, QStringLiteral("old"));
-    plot.AddDampLine(1, QStringLiteral("old"));
+    plot.marks().AddRef(1, QStringLiteral("old"));
+    plot.marks().AddDampLine(1, QStringLiteral("old"));
     plot.rows().clear();
     applyRecord(record, {&one, &two}, plot);
-    EXPECT_TRUE(plot.Refs().empty());
-    EXPECT_TRUE(plot.DampLines().empty());
+    EXPECT_TRUE(plot.marks().referenceSpeeds().empty());
+    EXPECT_TRUE(plot.marks().dampingLines().empty());
 }
 
 TEST_F(PlotRecords, putTheHeaderIntoTheRowOfTheFileAndKeepItsColumn)
@@ -156,7 +157,7 @@ TEST_F(PlotRecords, putTheHeaderIntoTheRowOfTheFileAndKeepItsColumn)
     EXPECT_EQ(plot.Header().geometry().topLeft(), QPoint(usual.x(), 20));
     plot.resize({1200, 900});
     EXPECT_EQ(plot.Header().Top(), 20);
-    plot.moveBox(TextBox::Header, 15, 4500);
+    plot.texts().move(TextBox::Header, 15, 4500);
     EXPECT_EQ(plot.Header().Top(), 20) << "a dragged header goes back to its row";
     EvmPlot copy;
     copy.Clone(plot);
@@ -179,7 +180,7 @@ TEST_F(PlotRecords, keepEveryCharacterOfAHeaderThatOnlyItsShortFormHoldsWhole)
 {
     // The full form of one line in one font takes 93 characters besides the text, the short 74.
     for (int length = 925; length <= 945; ++length) {
-        plot.setBoxText(TextBox::Header, QString(length, u'x'));
+        plot.texts().setText(TextBox::Header, QString(length, u'x'));
         EvmPlot other;
         throughAFile(other);
         EXPECT_EQ(other.Header().Text().size(), length);
@@ -213,7 +214,7 @@ TEST_F(PlotRecords, leaveABoxAloneOfWhichTheyKnowNothing)
     PlotRecord record = recordOf(plot, evolutions());
     record.legend = {};
     EvmPlot other;
-    other.setBoxText(TextBox::Legend, QStringLiteral("own"));
+    other.texts().setText(TextBox::Legend, QStringLiteral("own"));
     applyRecord(record, {&one, &two}, other);
     EXPECT_EQ(other.Legend().Text(), QStringLiteral("own"));
     EXPECT_FALSE(other.Legend().wasMoved());
@@ -222,8 +223,8 @@ TEST_F(PlotRecords, leaveABoxAloneOfWhichTheyKnowNothing)
 TEST_F(PlotRecords, keepPlacesThatLieBeyondASmallerPlot)
 {
     plot.resize({1600, 1000});
-    plot.moveBox(TextBox::Legend, 15 * 1400.25, 15 * 300);
-    plot.moveBox(TextBox::Mechanism, 15 * 200, 15 * 950);
+    plot.texts().move(TextBox::Legend, 15 * 1400.25, 15 * 300);
+    plot.texts().move(TextBox::Mechanism, 15 * 200, 15 * 950);
     const PlotRecord record = recordOf(plot, evolutions());
     EvmPlot smaller;
     smaller.resize({640, 480});

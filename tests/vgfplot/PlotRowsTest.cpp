@@ -31,7 +31,7 @@ protected:
         fill(evolution, 5);
         fill(other, 2);
         for (const auto& mode : evolution.Modes)
-            plot.addSeries(*mode);
+            plot.rows().add(*mode);
     }
 
     static void fill(EVM& evolution, std::int16_t modes)
@@ -122,7 +122,7 @@ TEST_F(PlotRowsTest, getTheirCurveBackWithItsLookInItsPlace)
 TEST_F(PlotRowsTest, countWithTheirLookWhetherTheyHaveACurveOrNot)
 {
     setMode(4, 0);
-    plot.addSeries(*other.Modes[0]);
+    plot.rows().add(*other.Modes[0]);
     EXPECT_THAT(numbers(), ElementsAre(1, 2, 3, 4, 0, 1));
     EXPECT_EQ(tags(), "012345") << "the row without a curve counts";
     EXPECT_EQ(plot.SeriesCollection().back().ColorIndex, BaseColors[5]);
@@ -130,8 +130,8 @@ TEST_F(PlotRowsTest, countWithTheirLookWhetherTheyHaveACurveOrNot)
 
 TEST_F(PlotRowsTest, goTogetherWithTheirEvolution)
 {
-    plot.addSeries(*other.Modes[0]);
-    plot.addSeries(*other.Modes[1]);
+    plot.rows().add(*other.Modes[0]);
+    plot.rows().add(*other.Modes[1]);
     setMode(1, 9);
     setMode(6, 9);
     EXPECT_EQ(rows().removeRowsOf(evolution), 5U);
@@ -182,7 +182,7 @@ TEST_F(PlotRowsTest, keepTheirIdsWhereverTheyGo)
     EXPECT_EQ(rows().indexOf(before[0]), std::nullopt);
     EXPECT_EQ(errorNumberOf([&] { rows().setMode(before[0], 1); }),
               ErrorNumber::SubscriptOutOfRange);
-    const RowId added = plot.addSeries(*other.Modes[0]);
+    const RowId added = plot.rows().add(*other.Modes[0]);
     EXPECT_THAT(before, Not(::testing::Contains(added))) << "an id is never given twice";
     EXPECT_EQ(rows().indexOf(added), 3U);
 }
@@ -192,7 +192,7 @@ TEST_F(PlotRowsTest, areRestoredWithTheirIdsAndLooks)
     const PlotRows::Rows before = rows().all();
     rows().move(4, 1);
     rows().remove({0, 3});
-    plot.addSeries(*other.Modes[0]);
+    plot.rows().add(*other.Modes[0]);
     setMode(1, 99);
     rows().change(row(0).id, [](Series& one) { one.LineWidth = 7; });
     const PlotRows::Rows after = rows().all();
@@ -278,7 +278,7 @@ TEST_F(PlotRowsTest, areAListUnderAnyOperations)
         const std::size_t to = plain.empty() ? 0 : upTo(plain.size());
         const auto operation = plain.empty() ? 0 : upTo(8);
         if (operation == 0 && plain.size() < 12) {
-            rows().change(plot.addSeries(*evolution.Modes[0]),
+            rows().change(plot.rows().add(*evolution.Modes[0]),
                           [step](Series& one) { one.MarkerTag = QString::number(step); });
             plain.push_back({std::to_string(step), 1});
         } else if (operation == 1) {

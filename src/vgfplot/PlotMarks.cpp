@@ -1,0 +1,86 @@
+#include "vgfplot/PlotMarks.h"
+
+#include "base/numbers/Numbers.h"
+#include "surface/DeviceContext.h"
+#include "vgfplot/PlotParts.h"
+#include "vgfplot/PlotPicture.h"
+
+#include <cmath>
+#include <utility>
+
+namespace tarsil {
+
+void PlotMarks::AddRef(float speed, const QString& caption)
+{
+    m_picture.composeAgain();
+    m_parts.velAxis.AddRef(speed, caption);
+}
+
+void PlotMarks::RemoveRef()
+{
+    m_picture.composeAgain();
+    m_parts.velAxis.RemoveRef();
+}
+
+const std::vector<RefThick>& PlotMarks::referenceSpeeds() const
+{
+    return m_parts.velAxis.marks();
+}
+
+void PlotMarks::setReferenceSpeeds(std::vector<RefThick> marks)
+{
+    m_parts.velAxis.setMarks(std::move(marks));
+    m_picture.invalidate();
+}
+
+QString PlotMarks::shiftNote() const
+{
+    const double begin = m_parts.velAxis.Min();
+    if (referenceSpeeds().empty() || begin == 0)
+        return {};
+    const QString side = begin > 0 ? QStringLiteral("right") : QStringLiteral("left");
+    const auto text = [](double speed) { return QString::fromStdString(shortestText(speed)); };
+    return QStringLiteral("Reference speeds stand ") + text(std::fabs(begin))
+        + QStringLiteral(" knots too far ") + side + QStringLiteral(": the speed axis begins at ")
+        + text(begin);
+}
+
+void PlotMarks::AddDampLine(float g, const QString& caption)
+{
+    append(g, caption);
+    m_picture.plot();
+}
+
+void PlotMarks::append(float g, const QString& caption)
+{
+    constexpr ColorValue black = 0;
+    const AxisValues speed = m_parts.axes().speed;
+    m_parts.vgPlot.AddLine(speed.min, g, speed.max, g, caption, black, penstyle::solid);
+}
+
+void PlotMarks::RemoveDampLine()
+{
+    m_parts.vgPlot.RemoveLines();
+    m_picture.plot();
+}
+
+const std::vector<RefLine>& PlotMarks::dampingLines() const
+{
+    return m_parts.vgPlot.lines();
+}
+
+void PlotMarks::setDampingLines(const std::vector<DampLine>& lines)
+{
+    m_parts.vgPlot.RemoveLines();
+    for (const DampLine& line : lines)
+        append(line.g, line.Caption);
+    m_picture.invalidate();
+}
+
+void PlotMarks::restoreDampingLines(std::vector<RefLine> lines)
+{
+    m_parts.vgPlot.setLines(std::move(lines));
+    m_picture.invalidate();
+}
+
+} // namespace tarsil

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "model/PlotAxes.h"
+#include "plot/EmfRichTextBox.h"
+#include "plot/TrspLabel.h"
+#include "plot/UcPlot.h"
+#include "plot/XAxis.h"
+#include "plot/YAxis.h"
+#include "vgfplot/TextBox.h"
+
+#include <QSize>
+
+#include <array>
+#include <cstddef>
+
+namespace tarsil {
+
+/// The drawn items of a V-g-f plot. Their scales and positions are set together, so that axes and
+/// canvases agree.
+///
+///     f(Hz) |  V-f curves            vfPlot (upper half), freqAxis
+///           |
+///     ------+----------------- V     velAxis
+///           |  V-g curves            vgPlot (both halves), gAxis
+///         g |
+struct PlotParts
+{
+    /// The canvases draw the series of `curves`, which must outlive them.
+    explicit PlotParts(const PlotContainer& curves);
+
+    emfRichTextBox& box(TextBox box) { return ertbTexts[static_cast<std::size_t>(box)]; }
+    const emfRichTextBox& box(TextBox box) const
+    {
+        return ertbTexts[static_cast<std::size_t>(box)];
+    }
+
+    static constexpr std::size_t count = 8 + allTextBoxes.size();
+
+    /// All items; what is drawn last lies on top.
+    std::array<PlotControl*, count> inDrawingOrder();
+    std::array<const PlotControl*, count> inDrawingOrder() const;
+
+    /// The ends, tick counts and titles that the axes and labels have.
+    PlotAxes axes() const;
+
+    /// Sets the scales of axes and canvases. The V-g canvas spans both halves; its lower half
+    /// agrees with the damping axis.
+    void setBounds(const PlotBounds& bounds);
+
+    /// Gives every item its position in a plot of that size (`layOutPlot`).
+    void layOut(QSize plot);
+
+    ucPlot vgPlot;
+    ucPlot vfPlot;
+    xAxis velAxis;
+    yAxis gAxis;
+    yAxis freqAxis;
+    trspLabel velAxisLabel;
+    trspLabel gAxisLabel;
+    trspLabel freqAxislabel;
+    std::array<emfRichTextBox, allTextBoxes.size()> ertbTexts; ///< by `TextBox`
+    double headerTop = 60; ///< upper edge of the header's row, twentieths of a point
+};
+
+} // namespace tarsil

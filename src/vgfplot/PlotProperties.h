@@ -1,0 +1,59 @@
+#pragma once
+
+#include "model/PlotAxes.h"
+#include "plot/PropertyBag.h"
+
+#include <QString>
+
+#include <cstdint>
+
+namespace tarsil {
+
+class PlotPicture;
+struct PlotParts;
+
+/// The properties of a V-g-f plot that a property bag keeps: caption, colour scheme, and tick count
+/// and title of each axis. Setting one passes it to the parts that show it.
+class PlotProperties
+{
+public:
+    /// Both must outlive the object. The properties get their defaults (`ReadProperties`).
+    PlotProperties(PlotParts& parts, PlotPicture& picture);
+
+    const QString& Caption() const { return m_caption; }
+    void setCaption(const QString& caption);
+    int ModeColor() const { return m_modeColor; }
+    void setModeColor(int value);
+    std::int16_t vthicks() const;
+    void setVthicks(std::int16_t count);
+    std::int16_t gthicks() const;
+    void setGthicks(std::int16_t count);
+    std::int16_t fthicks() const;
+    void setFthicks(std::int16_t count);
+    const QString& vLabel() const;
+    void setVLabel(const QString& text);
+    const QString& gLabel() const;
+    void setGLabel(const QString& text);
+    const QString& fLabel() const;
+    void setFLabel(const QString& text);
+
+    /// Sets the tick counts and the titles of all axes.
+    void setAxes(const PlotAxes& axes);
+
+    /// Keys "Caption" "Plot1", "ModeColor" 0, "vThicks" 7, "gThicks" 5, "fThicks" 5, "vLabel"
+    /// "V(keas)", "gLabel" "g", "fLabel" "f(Hz)".
+    void ReadProperties(const PropertyBag& bag);
+    PropertyBag WriteProperties() const;
+    const ChangedProperties& changedProperties() const { return m_changed; }
+
+private:
+    void showModeColor();
+
+    PlotParts& m_parts;
+    PlotPicture& m_picture;
+    QString m_caption;
+    int m_modeColor = 0;
+    ChangedProperties m_changed;
+};
+
+} // namespace tarsil

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "rtf/RichText.h"
+#include "vgfplot/TextBox.h"
+
+#include <QString>
+
+#include <functional>
+#include <string_view>
+
+namespace tarsil {
+
+class PlotPicture;
+class emfRichTextBox;
+struct PlotParts;
+
+/// Changes the text boxes of a V-g-f plot. Every change lays the parts out again and marks the
+/// picture as stale.
+class PlotTexts
+{
+public:
+    /// Both must outlive the object.
+    PlotTexts(PlotParts& parts, PlotPicture& picture) : m_parts(parts), m_picture(picture) { }
+
+    void setText(TextBox box, const QString& text);
+    void setTextRTF(TextBox box, std::string_view rtf);
+    void setContent(TextBox box, RichText content);
+
+    /// Any other change of a box.
+    void change(TextBox box, const std::function<void(emfRichTextBox&)>& change);
+
+    /// Moves a box to a position in twentieths of a point; the header goes back to its row. The box
+    /// keeps the position, but in a plot that is too small for all of it to be seen there it is
+    /// shown, and drawn, at the nearest edge (`shownPlace`); `geometry` of the box is that
+    /// rectangle.
+    void move(TextBox box, double left, double top);
+
+    /// The upper edge of the header's row, in twentieths of a point; 60 in a new plot. In a plot
+    /// that is too small for the header to be seen there it is shown at the nearest edge.
+    void setHeaderTop(double top);
+
+    /// In edit mode the boxes are outlined on the screen, and a click edits one.
+    bool EditMode() const { return m_editMode; }
+    void setEditMode(bool on);
+
+private:
+    PlotParts& m_parts;
+    PlotPicture& m_picture;
+    bool m_editMode = false;
+};
+
+} // namespace tarsil

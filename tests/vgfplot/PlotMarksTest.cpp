@@ -1,0 +1,106 @@
+// The reference speeds and the damping lines of a V-g-f plot.
+
+#include "support/Errors.h"
+#include "vgfplot/EvmPlot.h"
+
+#include <gtest/gtest.h>
+
+using namespace tarsil;
+using test::errorNumberOf;
+
+TEST(PlotMarks, keepReferenceSpeedsOnTheSpeedAxis)
+{
+    EvmPlot plot;
+    plot.marks().AddRef(350, QStringLiteral("Vd"));
+    plot.marks().AddRef(400, QStringLiteral("1.15 Vd"));
+    ASSERT_EQ(plot.parts().velAxis.marks().size(), 2U);
+    EXPECT_EQ(plot.parts().velAxis.marks()[1].Speed, 400.0F);
+    EXPECT_EQ(plot.parts().velAxis.marks()[1].Caption, QStringLiteral("1.15 Vd"));
+    plot.marks().RemoveRef();
+    EXPECT_TRUE(plot.parts().velAxis.marks().empty());
+}
+
+TEST(PlotMarks, addDampingLinesAcrossTheWholeSpeedRange)
+{
+    EvmPlot plot;
+    plot.SetScale(50, 650, 0, 50, 0, -0.25F);
+    plot.marks().AddDampLine(0.02F, QStringLiteral("g = 2 %"));
+    ASSERT_EQ(plot.parts().vgPlot.lines().size(), 1U);
+    const RefLine& line = plot.parts().vgPlot.lines()[0];
+    EXPECT_EQ(line.X1, 50.0F);
+    EXPECT_EQ(line.X2, 650.0F);
+    EXPECT_EQ(line.Y1, 0.02F);
+    EXPECT_EQ(line.Y2, 0.02F);
+    EXPECT_EQ(line.Caption, QStringLiteral("g = 2 %"));
+    EXPECT_EQ(line.LineWidth, 0);
+    EXPECT_TRUE(plot.parts().vfPlot.lines().empty());
+}
+
+TEST(PlotMarks, removeAllDampingLines)
+{
+    EvmPlot plot;
+    plot.marks().AddDampLine(0.02F, {});
+    plot.marks().AddDampLine(0.03F, {});
+    plot.marks().RemoveDampLine();
+    EXPECT_TRUE(plot.parts().vgPlot.lines().empty());
+    plot.marks().RemoveDampLine();
+}
+
+TEST(PlotMarks, reportReferenceSpeedsThatAreNotAtTheirSpeeds)
+{
+    EvmPlot plot;
+    plot.SetScale(100, 500, 0, 20, 0, -0.5F);
+    EXPECT_EQ(plot.marks().shiftNote(), QString()) << "there is none";
+    plot.marks().AddRef(350, QStringLiteral("VD"));
+    // On an axis from 100 to 500 the mark of 350 stands 350 / 400 of the way along, where 450 is.
+    EXPECT_EQ(
+        plot.marks().shiftNote(),
+        QStringLiteral("Reference speeds stand 100 knots too far right: the speed axis begins "
+                       "at 100"));
+    plot.SetScale(-52.5F, 500, 0, 20, 0, -0.5F);
+    EXPECT_EQ(
+        plot.marks().shiftNote(),
+        QStringLiteral("Reference speeds stand 52.5 knots too far left: the speed axis begins "
+                       "at -52.5"));
+    plot.SetScale(0, 500, 0, 20, 0, -0.5F);
+    EXPECT_EQ(plot.marks().shiftNote(), QString());
+}
+
+TEST(PlotMarks, areReplacedTogether)
+{
+    EvmPlot plot;
+    plot.SetScale(50, 650, 0, 50, 0, -0.25F);
+    plot.marks().AddRef(100, QStringLiteral("old"));
+    plot.marks().AddDampLine(0.02F, QStringLiteral("old"));
+    const std::vector<RefThick> speeds = {{350, QStringLiteral("Vd")}, {400, {}}};
+    plot.marks().setReferenceSpeeds(speeds);
+    plot.marks().setDampingLines({{0.01F, QStringLiteral("g")}, {0.03F, {}}});
+    EXPECT_EQ(plot.marks().referenceSpeeds(), speeds);
+    ASSERT_EQ(plot.marks().dampingLines().size(), 2U);
+    EXPECT_EQ(plot.marks().dampingLines()[0].Caption, QStringLiteral("g"));
+    EXPECT_EQ(plot.marks().dampingLines()[1].Y1, 0.03F);
+    EXPECT_EQ(plot.marks().dampingLines()[1].X2, 650.0F);
+}
+
+TEST(PlotMarks, giveDampingLinesBackWithTheirOwnEnds)
+{
+    EvmPlot plot;
+    plot.marks().AddDampLine(0.02F, QStringLiteral("g"));
+    const std::vector<RefLine> lines = plot.marks().dampingLines();
+    plot.SetScale(50, 650, 0, 50, 0, -0.25F);
+    plot.marks().setDampingLines({});
+    plot.marks().restoreDampingLines(lines);
+    EXPECT_EQ(plot.marks().dampingLines(), lines);
+    EXPECT_EQ(plot.marks().dampingLines()[0].X2, 700.0F);
+}
+
+TEST(PlotMarks, raiseTheErrorOfAnAxisThatCannotBeDrawnOnce)
+{
+    EvmPlot plot;
+    plot.properties().setVthicks(0);
+    EXPECT_TRUE(errorNumberOf([&plot] { plot.Image(); }));
+    EXPECT_EQ(errorNumberOf([&plot] { plot.marks().AddRef(350, {}); }),
+              ErrorNumber::DivisionByZero);
+    EXPECT_EQ(plot.marks().referenceSpeeds().size(), 1U);
+    EXPECT_EQ(errorNumberOf([&plot] { plot.Image(); }), std::nullopt);
+}
