@@ -42,6 +42,10 @@ public:
     }
     std::vector<std::string> askOpenFiles(const FileQuestion&) override { return {}; }
     std::optional<std::string> askSaveFile(const FileQuestion&) override { return std::nullopt; }
+    std::optional<std::string> askFolder(const std::string& /*initial*/) override
+    {
+        return std::nullopt;
+    }
     void showStatus(std::string_view) override { }
     void showNote(std::string_view) override { }
     void beginCommand() override { }

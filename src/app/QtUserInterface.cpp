@@ -150,6 +150,17 @@ std::optional<std::string> QtUserInterface::askSaveFile(const FileQuestion& ques
     return files.empty() ? std::nullopt : std::optional(files.front());
 }
 
+std::optional<std::string> QtUserInterface::askFolder(const std::string& initial)
+{
+    QWidget* const window = asker();
+    QFileDialog dialog(window);
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    dialog.setDirectory(QString::fromStdString(initial));
+    const std::vector<std::string> folders = chosenFiles(window, dialog);
+    return folders.empty() ? std::nullopt : std::optional(folders.front());
+}
+
 void QtUserInterface::showStatus(std::string_view text)
 {
     if (m_panels != nullptr)

@@ -27,6 +27,7 @@ public:
                                        const std::string& initial) override;
     std::vector<std::string> askOpenFiles(const FileQuestion& question) override;
     std::optional<std::string> askSaveFile(const FileQuestion& question) override;
+    std::optional<std::string> askFolder(const std::string& initial) override;
     void showStatus(std::string_view text) override;
     void showNote(std::string_view text) override;
     void beginCommand() override;

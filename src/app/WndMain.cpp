@@ -4,6 +4,7 @@
 #include "app/DlgRefSpeed.h"
 #include "app/LeftOutRows.h"
 #include "app/StatusPanels.h"
+#include "base/files/PathNames.h"
 #include "base/user/ErrorGuard.h"
 #include "base/user/ErrorReport.h"
 #include "base/user/RunTimeError.h"
@@ -13,6 +14,8 @@
 #include "formats/EvolutionLoader.h"
 #include "formats/FormatTable.h"
 #include "formats/MdlMix.h"
+#include "importing/DlgImport.h"
+#include "importing/DroppedFiles.h"
 #include "options/DlgOptions.h"
 #include "plotwindow/DlgPlotProp.h"
 #include "plotwindow/WndEvolPlot.h"
@@ -20,15 +23,20 @@
 #include "vgfplot/EvolutionPlotter.h"
 
 #include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QMdiArea>
 #include <QMenu>
 #include <QStandardPaths>
 
 #include <algorithm>
+#include <iterator>
 
 namespace tarsil {
 
 namespace {
+
+constexpr std::string_view workspaceExtension = ".tsw";
 
 /// The first argument that mentions an extension; the end when none does.
 auto mentionOf(const std::vector<std::string>& arguments, std::string_view extension)
@@ -44,6 +52,26 @@ bool nameEvolutions(const std::vector<std::string>& arguments)
                        [](const auto& argument) { return findFormat(argument) != nullptr; });
 }
 
+/// Whether an argument names a file that is neither a workspace nor an evolution.
+bool namesOutput(const std::string& argument)
+{
+    return argument.find(workspaceExtension) == std::string::npos && findFormat(argument) == nullptr
+        && fileExists(argument);
+}
+
+std::vector<std::string> outputsAmong(const std::vector<std::string>& arguments)
+{
+    std::vector<std::string> outputs;
+    std::copy_if(arguments.begin(), arguments.end(), std::back_inserter(outputs), namesOutput);
+    return outputs;
+}
+
+std::vector<std::string> withoutOutputs(std::vector<std::string> arguments)
+{
+    std::erase_if(arguments, namesOutput);
+    return arguments;
+}
+
 } // namespace
 
 wndMain::wndMain(UserInterface& userInterface, FlutterReportCommand::FileOpener opener,
@@ -57,6 +85,7 @@ wndMain::wndMain(UserInterface& userInterface, FlutterReportCommand::FileOpener 
     setWindowTitle(QStringLiteral("Tarsil 4.0"));
     setAccessibleName(windowTitle());
     setCentralWidget(m_area);
+    setAcceptDrops(true);
     setStatusBar(m_statusPanels);
     connect(m_statusPanels, &StatusPanels::panelClicked, this, &wndMain::stBar_PanelClick);
     makeChildWindows();
@@ -136,11 +165,12 @@ void wndMain::MDIForm_Load(const std::vector<std::string>& arguments)
             frame->bringBack();
         wndDefLayout();
         m_document.plots().activate(&m_document.plots().first());
-        const auto workspace = mentionOf(arguments, ".tsw");
+        const auto workspace = mentionOf(arguments, workspaceExtension);
         if (workspace != arguments.end())
             m_workspace.OpenWorkSpace(*workspace);
         else if (nameEvolutions(arguments))
-            draw(m_document.load(arguments, m_userInterface));
+            draw(m_document.load(withoutOutputs(arguments), m_userInterface));
+        importResults(outputsAmong(arguments));
     });
 }
 
@@ -225,6 +255,60 @@ void wndMain::AddMenu_Click()
 {
     m_document.load(mdlMain::OpenFileDialog(m_userInterface, mdlMain::evolutionFilter(), 1, true),
                     m_userInterface);
+}
+
+void wndMain::ImportMenu_Click()
+{
+    importResults(mdlMain::OpenFileDialog(m_userInterface, dlgImport::fileFilter, 1, true));
+}
+
+/// Files that come while the dialog is open are added to it.
+void wndMain::importResults(const std::vector<std::string>& paths)
+{
+    if (paths.empty())
+        return;
+    if (m_import && m_import->isVisible()) {
+        m_import->addFiles(paths);
+        return;
+    }
+    m_import = std::make_unique<dlgImport>(m_document, m_userInterface, m_store, this);
+    if (m_import->addFiles(paths))
+        m_import->open();
+}
+
+/// Files from another program: a workspace in place of what is there, or what adds to it.
+void wndMain::open(const std::vector<std::string>& paths)
+{
+    const auto workspace = mentionOf(paths, workspaceExtension);
+    if (workspace != paths.end()) {
+        if (m_workspace.mayDiscard())
+            m_workspace.OpenWorkSpace(*workspace);
+        return;
+    }
+    if (nameEvolutions(paths))
+        m_document.load(withoutOutputs(paths), m_userInterface);
+    importResults(outputsAmong(paths));
+}
+
+void wndMain::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!droppedFiles(*event->mimeData()).empty())
+        event->acceptProposedAction();
+}
+
+/// The program that the files come from waits for the end of a drop, so that the dialogs come after
+/// it.
+void wndMain::dropEvent(QDropEvent* event)
+{
+    event->acceptProposedAction();
+    QMetaObject::invokeMethod(
+        this,
+        [this, paths = droppedFiles(*event->mimeData())] {
+            commitEdits();
+            m_userInterface.beginCommand();
+            guarded(m_userInterface, "wndMain", [&] { open(paths); });
+        },
+        Qt::QueuedConnection);
 }
 
 void wndMain::ExportMenu_Click()
@@ -358,6 +442,7 @@ void wndMain::closeDialogs()
     m_refSpeed.reset();
     m_dampLine.reset();
     m_options.reset();
+    m_import.reset();
 }
 
 } // namespace tarsil

@@ -22,6 +22,7 @@ class EVM;
 class EvmPlot;
 class StatusPanels;
 class dlgDampLine;
+class dlgImport;
 class dlgOptions;
 class dlgRefSpeed;
 class wndData;
@@ -44,7 +45,8 @@ public:
     /// Applies the options, shows the child windows in the default layout, makes the first plot
     /// active, and acts on the command line: one that holds ".tsw" anywhere names a workspace,
     /// otherwise one that holds the extension of a format names evolutions to load and to draw at
-    /// once. An error is reported, and the window stays.
+    /// once. Other files are taken for solver outputs to import. An error is reported, and the
+    /// window stays.
     void MDIForm_Load(const std::vector<std::string>& arguments);
 
     /// The default layout of the child windows.
@@ -61,6 +63,8 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     using Handler = void (wndMain::*)();
@@ -103,6 +107,7 @@ private:
     void OpenMenu_Click();
     void mnuSaveWorkspace_Click();
     void AddMenu_Click();
+    void ImportMenu_Click();
     void ExportMenu_Click();
     void QuitMenu_Click();
     void mnuDataControl_Click();
@@ -123,6 +128,8 @@ private:
     void showHelp();
     void stBar_PanelClick(int panel);
 
+    void open(const std::vector<std::string>& paths);
+    void importResults(const std::vector<std::string>& paths);
     void draw(const std::vector<EVM*>& evolutions);
     dlgOptions& options();
     EvmPlot& activePlot() const;
@@ -146,6 +153,7 @@ private:
     std::unique_ptr<dlgRefSpeed> m_refSpeed; ///< made when it is first wanted
     std::unique_ptr<dlgDampLine> m_dampLine;
     std::unique_ptr<dlgOptions> m_options;
+    std::unique_ptr<dlgImport> m_import; ///< of the last import
 };
 
 } // namespace tarsil

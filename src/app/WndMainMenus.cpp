@@ -19,6 +19,7 @@ std::vector<wndMain::CommandMenu> wndMain::commandTable()
           {"mnuSaveWorkspace", nullptr, "&Save Worspace", &wndMain::mnuSaveWorkspace_Click,
            "Ctrl+S"},
           {"AddMenu", nullptr, "&Add Modal Evolution ...", &wndMain::AddMenu_Click, "Ctrl+Shift+O"},
+          {"ImportMenu", nullptr, "&Import Solver Results ...", &wndMain::ImportMenu_Click},
           {"ExportMenu", nullptr, "&Export Mix File ...", &wndMain::ExportMenu_Click},
           {"QuitMenu", nullptr, "Quit", &wndMain::QuitMenu_Click, "Ctrl+Q"}}},
         {"mnuView",
@@ -110,6 +111,7 @@ void wndMain::showHelp()
     m_userInterface.showMessage(
         "Ctrl+N, Ctrl+O, Ctrl+S  begin, open and save a workspace\n"
         "Ctrl+Shift+O  adds modal evolutions\n"
+        "Files dropped on the window are opened, those of solvers imported\n"
         "Ctrl+C  on a plot copies its picture\n"
         "Ctrl+Q  ends the program\n\n"
         "Texts of a plot: double click or F2 to edit one; click and drag legend or subtitle, or "

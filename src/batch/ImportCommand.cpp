@@ -1,16 +1,14 @@
-#include "base/files/AtomicFile.h"
 #include "base/files/PathNames.h"
 #include "base/numbers/Numbers.h"
 #include "base/text/TextCodec.h"
 #include "batch/BatchRun.h"
 #include "batch/Commands.h"
 #include "batch/JsonWriter.h"
-#include "solver/SolverImport.h"
+#include "solver/ImportPlan.h"
 
 #include <array>
 #include <filesystem>
 #include <ostream>
-#include <set>
 
 namespace tarsil::batch {
 
@@ -207,35 +205,17 @@ int printJson(const std::vector<SolverOutput>& outputs, std::ostream& out)
     return done;
 }
 
-/// The name with "_2", "_3" ... before its extension when another source has given it already.
-std::string freeName(std::string name, std::set<std::string>& used)
+/// Writes the evolutions; the status says whether all could be written.
+int writeEvolutions(const solver::ImportPlan& plan, BatchRun& run)
 {
-    const std::string stem = name.substr(0, name.rfind('.'));
-    for (int copy = 2; !used.insert(name).second; ++copy)
-        name = stem + "_" + std::to_string(copy) + ".ev2";
-    return name;
-}
-
-/// Writes the evolutions of one output; the status says whether all could be written.
-int writeEvolutions(const SolverOutput& output, const UnitChoice& units,
-                    const solver::ImportTexts& texts, const std::string& folder,
-                    std::set<std::string>& used, BatchRun& run)
-{
-    int status = done;
-    for (std::size_t i = 0; i < output.runs.size(); ++i) {
-        try {
-            const std::string path = joinPath(folder, freeName(output.names[i], used));
-            refuseOutputOverInput(path, output.path);
-            tarsil::writeFile(path, solver::evolutionText(output, i, units, texts));
-            run.out() << printableText(shownPath(path)) << '\n';
-        } catch (const RunTimeError& error) {
-            run.complain(error.description());
-            status = failed;
-        }
-    }
-    for (const solver::LogEntry& entry : output.file.log)
-        run.complain(output.path + ", line " + std::to_string(entry.line) + ": " + entry.text);
-    return status;
+    const solver::WrittenFiles written = plan.write();
+    for (const std::string& path : written.paths)
+        run.out() << printableText(shownPath(path)) << '\n';
+    for (const std::string& failure : written.failures)
+        run.complain(failure);
+    for (const std::string& finding : plan.findings())
+        run.complain(finding);
+    return written.failures.empty() ? done : failed;
 }
 
 std::string existingFolder(const CommandLine& line)
@@ -251,36 +231,39 @@ std::string existingFolder(const CommandLine& line)
 std::vector<SolverOutput> readAll(const CommandLine& line)
 {
     std::vector<SolverOutput> outputs;
-    for (const std::string& path : line.operands()) {
+    for (const std::string& path : line.operands())
         outputs.push_back(solver::readSolverOutput(path));
-        if (outputs.back().runs.empty() && !line.has("--json"))
-            throw Failure(path + " holds no flutter summary");
-    }
     return outputs;
+}
+
+solver::ImportPlan planOf(const CommandLine& line)
+{
+    solver::ImportPlan plan;
+    for (const std::string& path : line.operands()) {
+        plan.add(path);
+        if (!plan.refusals().empty())
+            throw Failure(plan.refusals().front());
+    }
+    plan.setTexts({"tarsil-batch " TARSIL_VERSION, line.value("--airplane").value_or(std::string()),
+                   line.value("--mass").value_or(std::string())});
+    return plan;
 }
 
 int runImport(const CommandLine& line, BatchRun& run)
 {
     const std::optional<UnitChoice> units = unitChoice(line);
-    const bool isJson = line.has("--json");
-    const std::string folder = units && !isJson ? existingFolder(line) : std::string();
-    const std::vector<SolverOutput> outputs = readAll(line);
-    if (isJson)
-        return printJson(outputs, run.out());
+    if (line.has("--json"))
+        return printJson(readAll(line), run.out());
+    const std::string folder = units ? existingFolder(line) : std::string();
+    solver::ImportPlan plan = planOf(line);
     if (!units) {
-        for (const SolverOutput& output : outputs)
+        for (const SolverOutput& output : plan.outputs())
             printProposals(run.out(), output);
         throw UsageError("--speed-unit is missing: one of " + namesOf(solver::speedUnits));
     }
-    solver::ImportTexts texts;
-    texts.programVersion = "tarsil-batch " TARSIL_VERSION;
-    texts.airplane = line.value("--airplane").value_or(std::string());
-    texts.massConfiguration = line.value("--mass").value_or(std::string());
-    std::set<std::string> used;
-    int status = done;
-    for (const SolverOutput& output : outputs)
-        status = std::max(status, writeEvolutions(output, *units, texts, folder, used, run));
-    return status;
+    plan.setUnits(*units);
+    plan.setFolder(folder);
+    return writeEvolutions(plan, run);
 }
 
 constexpr std::array<OptionDescription, 8> options = {

@@ -8,11 +8,13 @@
 
 #include <QStandardPaths>
 
+#include <algorithm>
 #include <array>
 #include <filesystem>
 #include <string_view>
 #include <system_error>
 #include <utility>
+#include <vector>
 
 namespace tarsil {
 
@@ -22,6 +24,7 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view source = "OptionsStore";
 constexpr std::string_view section = "Options";
+constexpr std::string_view importSection = "Import";
 
 struct Key
 {
@@ -45,6 +48,28 @@ std::string bytesOf(const std::string& path)
         throw RunTimeError(error.number(), std::string(source),
                            "cannot read the settings in " + shownPath(path));
     }
+}
+
+struct FolderUnits
+{
+    QString folder;
+    QString units;
+};
+
+std::string numbered(std::string_view key, std::size_t index)
+{
+    return std::string(key) + std::to_string(index + 1);
+}
+
+/// The units of all folders, the newest first.
+std::vector<FolderUnits> importsOf(const SettingsText& file)
+{
+    std::vector<FolderUnits> entries;
+    while (const auto folder = file.value(importSection, numbered("Folder", entries.size()))) {
+        const auto units = file.value(importSection, numbered("Units", entries.size()));
+        entries.push_back({*folder, units.value_or(QString())});
+    }
+    return entries;
 }
 
 std::string keptPath(const std::string& path)
@@ -72,13 +97,19 @@ std::string OptionsStore::defaultPath()
         + "/tarsil/tarsil.ini";
 }
 
-OptionTexts OptionsStore::read() const
+SettingsText OptionsStore::readWhole() const
 {
-    const SettingsText file(bytesOf(m_path));
+    SettingsText file(bytesOf(m_path));
     if (!file.isWhole())
         throw RunTimeError(ErrorNumber::TypeMismatch, std::string(source),
                            "damaged settings in " + shownPath(m_path) + ", which will be kept as "
                                + resolvePath(keptPath(m_path)).name + " when options are changed");
+    return file;
+}
+
+OptionTexts OptionsStore::read() const
+{
+    const SettingsText file = readWhole();
     OptionTexts texts;
     for (const Key& key : keys)
         texts.*key.text = file.value(section, key.name).value_or(QString());
@@ -86,21 +117,50 @@ OptionTexts OptionsStore::read() const
 }
 
 /// What the file says now may be newer than what was read: another program has written it.
-void OptionsStore::write(const OptionTexts& texts, const OptionTexts& before) const
+SettingsText OptionsStore::readToWrite() const
 {
-    if (texts == before)
-        return;
     SettingsText file(bytesOf(m_path));
     makeFolderOf(m_path);
     if (!file.isWhole()) { // one bad line must not cost the user what the others say
         writeFile(keptPath(m_path), file.bytes());
         file = SettingsText({});
     }
+    return file;
+}
+
+void OptionsStore::write(const OptionTexts& texts, const OptionTexts& before) const
+{
+    if (texts == before)
+        return;
+    SettingsText file = readToWrite();
     for (const Key& key : keys) {
         if (texts.*key.text != before.*key.text)
             file.setValue(section, key.name, texts.*key.text);
         else if (!file.value(section, key.name))
             file.setValue(section, key.name, QString()); // a person finds every key to fill in
+    }
+    writeFile(m_path, file.bytes());
+}
+
+std::optional<QString> OptionsStore::importUnits(const QString& folder) const
+{
+    for (const FolderUnits& entry : importsOf(readWhole())) {
+        if (entry.folder == folder)
+            return entry.units;
+    }
+    return std::nullopt;
+}
+
+void OptionsStore::keepImportUnits(const QString& folder, const QString& units) const
+{
+    SettingsText file = readToWrite();
+    std::vector<FolderUnits> entries = importsOf(file);
+    std::erase_if(entries, [&folder](const FolderUnits& entry) { return entry.folder == folder; });
+    entries.insert(entries.begin(), {folder, units});
+    entries.resize(std::min(entries.size(), mostFolders));
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        file.setValue(importSection, numbered("Folder", i), entries[i].folder);
+        file.setValue(importSection, numbered("Units", i), entries[i].units);
     }
     writeFile(m_path, file.bytes());
 }

@@ -2,9 +2,13 @@
 
 #include <QString>
 
+#include <cstddef>
+#include <optional>
 #include <string>
 
 namespace tarsil {
+
+class SettingsText;
 
 /// The options as they are kept from run to run: texts, empty where nothing is set.
 struct OptionTexts
@@ -16,12 +20,15 @@ struct OptionTexts
     bool operator==(const OptionTexts&) const = default;
 };
 
-/// The settings of one user, a text file with the section "Options".
+/// The settings of one user, a text file with the sections "Options" and "Import".
 ///
 ///     [Options]
 ///     AcInfoDataFile=/home/me/wing.inp
 ///     vgfScale=0|700|0|-0.25|0|50
 ///     vgfThicks=7|5|5
+///     [Import]
+///     Folder1=/home/me/runs
+///     Units1=ft/s|1|ratio|
 class OptionsStore
 {
 public:
@@ -45,7 +52,19 @@ public:
     /// folder. Errors: those of `read` but 13, and those of `AtomicFile`.
     void write(const OptionTexts& texts, const OptionTexts& before) const;
 
+    /// The units that were last kept for solver outputs of a folder. Errors: those of `read`.
+    std::optional<QString> importUnits(const QString& folder) const;
+
+    /// Keeps the units for a folder, in the section "Import", and forgets the oldest of more than
+    /// `mostFolders` folders. Errors: those of `write`.
+    void keepImportUnits(const QString& folder, const QString& units) const;
+
+    static constexpr std::size_t mostFolders = 50;
+
 private:
+    SettingsText readWhole() const;
+    SettingsText readToWrite() const;
+
     std::string m_path;
 };
 

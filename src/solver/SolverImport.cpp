@@ -6,6 +6,7 @@
 #include "model/EVM.h"
 #include "model/Provenance.h"
 #include "solver/Ev2Text.h"
+#include "solver/PageHeader.h"
 #include "solver/RunNames.h"
 #include "solver/SummaryReader.h"
 
@@ -107,11 +108,32 @@ SolverOutput readSolverOutput(std::string_view path)
 
 bool carriesDensity(const SolverRun& run)
 {
-    return run.key.densityRatio
-        || std::any_of(run.roots.begin(), run.roots.end(), [](const PrintedRoot& root) {
-               return std::any_of(root.rows.begin(), root.rows.end(),
-                                  [](const SummaryRow& row) { return !std::isnan(row.density); });
-           });
+    return run.key.densityRatio || printsDensities(run);
+}
+
+bool printsDensities(const SolverRun& run)
+{
+    return std::any_of(run.roots.begin(), run.roots.end(), [](const PrintedRoot& root) {
+        return std::any_of(root.rows.begin(), root.rows.end(),
+                           [](const SummaryRow& row) { return !std::isnan(row.density); });
+    });
+}
+
+std::optional<std::string> refusalOf(const SolverOutput& output)
+{
+    if (!output.runs.empty())
+        return std::nullopt;
+    const std::string path = shownPath(output.path);
+    if (output.file.lines == 0)
+        return path + " is empty";
+    if (output.file.isBinary)
+        return path + " holds no flutter summary: it is a binary file and no printed output";
+    if (output.file.log.empty())
+        return path + " holds no flutter summary: no line ends in \"" + std::string(summaryTitle)
+            + "\"";
+    const LogEntry& first = output.file.log.front();
+    return path + " holds no flutter summary that can be read: line " + std::to_string(first.line)
+        + ": " + first.text;
 }
 
 std::string evolutionText(const SolverOutput& output, std::size_t run, const UnitChoice& units,

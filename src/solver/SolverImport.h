@@ -4,6 +4,7 @@
 #include "solver/UnitEvidence.h"
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -36,6 +37,13 @@ SolverOutput readSolverOutput(std::string_view path);
 /// Whether the rows or headings of a run say which density they are for; without one its speeds
 /// can only be imported as equivalent airspeeds.
 bool carriesDensity(const SolverRun& run);
+
+/// Whether rows of a run print densities, as those of PKNL do, and not its heading a ratio.
+bool printsDensities(const SolverRun& run);
+
+/// Why nothing can be imported from an output, as a sentence with its path; nothing when it has an
+/// analysis.
+std::optional<std::string> refusalOf(const SolverOutput& output);
 
 /// The text of the evolution file of one run. Errors: those of `ev2Text`; 5 for a run without a
 /// density whose speeds are not equivalent.

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace tarsil::solver {
@@ -30,6 +31,20 @@ constexpr std::array<Unit, 5> densityUnits = {{{"ratio", 1},
 std::optional<Unit> speedUnit(std::string_view name);
 std::optional<Unit> densityUnit(std::string_view name);
 
+/// Units that go together in an analysis.
+struct UnitPreset
+{
+    std::string_view name;
+    std::string_view speed;
+    std::string_view density; ///< of densities that are printed as such and not as a ratio
+};
+
+constexpr std::array<UnitPreset, 5> unitPresets = {{{"m, kg", "m/s", "kg/m3"},
+                                                    {"mm, t", "mm/s", "t/mm3"},
+                                                    {"ft, slug", "ft/s", "slug/ft3"},
+                                                    {"in, lbf s2/in", "in/s", "lbf.s2/in4"},
+                                                    {"knots", "kt", "ratio"}}};
+
 /// What the user says of the units of a file, which no file tells by itself.
 struct UnitChoice
 {
@@ -38,6 +53,11 @@ struct UnitChoice
     double vref = 1; ///< printed speeds are multiplied by it (PARAM,VREF)
     bool isEquivalent = false; ///< the printed speeds are equivalent airspeeds already
 };
+
+/// A choice as one line, to be kept: "ft/s|1|slug/ft3|", with "equivalent" at its end where speeds
+/// are; and what such a line says, nothing when it is none.
+std::string unitText(const UnitChoice& units);
+std::optional<UnitChoice> unitsFromText(std::string_view text);
 
 /// The equivalent airspeed in knots of a printed speed; `sigma` is the density over that at sea
 /// level, and does not count for speeds that are equivalent.

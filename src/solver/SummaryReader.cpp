@@ -54,10 +54,17 @@ SummaryFile readSummaries(std::string_view path)
 {
     FileLines lines(path);
     SummaryScanner scanner;
-    for (std::string_view piece = lines.next(); !piece.empty(); piece = lines.next())
+    bool isBinary = false;
+    bool isFirst = true;
+    for (std::string_view piece = lines.next(); !piece.empty(); piece = lines.next()) {
+        isBinary = isBinary || (isFirst && piece.find('\0') != std::string_view::npos);
+        isFirst = false;
         scanner.read(piece);
+    }
     lines.requireUnchanged();
-    return scanner.result();
+    SummaryFile file = scanner.result();
+    file.isBinary = isBinary;
+    return file;
 }
 
 } // namespace tarsil::solver

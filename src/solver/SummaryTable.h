@@ -72,6 +72,7 @@ struct SummaryFile
     std::vector<LogEntry> cards; ///< AERO and PARAM,VREF cards as echoed
     std::vector<LogEntry> log;
     std::size_t lines = 0;
+    bool isBinary = false; ///< it begins with bytes that no text has
 };
 
 } // namespace tarsil::solver

@@ -54,7 +54,8 @@ TEST_F(WndMainTest, hasTheMenusLetterForLetter)
     };
     EXPECT_THAT(captionsOf(menu("FileMenu")),
                 ElementsAre("&New Workspace", "&Open Workspace ...", "&Save Worspace",
-                            "&Add Modal Evolution ...", "&Export Mix File ...", "Quit"));
+                            "&Add Modal Evolution ...", "&Import Solver Results ...",
+                            "&Export Mix File ...", "Quit"));
     EXPECT_THAT(captionsOf(menu("mnuView")),
                 ElementsAre("Data Control", "Modal Evolution Explorer", "V-g-f Plot"));
     EXPECT_THAT(captionsOf(menu("mnuFormat")), ElementsAre("Set Scale"));

@@ -46,6 +46,10 @@ public:
     {
         return m_target;
     }
+    std::optional<std::string> askFolder(const std::string& /*initial*/) override
+    {
+        return std::nullopt;
+    }
     void showStatus(std::string_view /*text*/) override { }
     void showNote(std::string_view /*text*/) override { }
     void beginCommand() override { }

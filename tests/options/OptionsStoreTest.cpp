@@ -253,3 +253,38 @@ TEST_F(OptionsStoreTest, liesWhereTheDesktopKeepsTheSettingsOfAUser)
     else
         qputenv("XDG_CONFIG_HOME", before);
 }
+
+TEST_F(OptionsStoreTest, keepsTheUnitsOfImportsForTheirFolder)
+{
+    const OptionsStore store = storeOf("[Options]\nvgfThicks=7|5|5\n");
+    const QString runs = QStringLiteral("/runs/a=b; c");
+    const QString others = QStringLiteral("/others");
+    EXPECT_EQ(store.importUnits(runs), std::nullopt);
+    store.keepImportUnits(runs, QStringLiteral("ft/s|1|ratio|"));
+    store.keepImportUnits(others, QStringLiteral("m/s|1|kg/m3|"));
+    store.keepImportUnits(runs, QStringLiteral("kt|1|ratio|equivalent"));
+    EXPECT_EQ(store.importUnits(runs), QStringLiteral("kt|1|ratio|equivalent"));
+    EXPECT_EQ(store.importUnits(others), QStringLiteral("m/s|1|kg/m3|"));
+    EXPECT_EQ(store.read(), texts("", "", "7|5|5"));
+}
+
+TEST_F(OptionsStoreTest, forgetsTheFolderThatWasImportedFromLongestAgo)
+{
+    const OptionsStore store(folder.file("tarsil.ini"));
+    const auto nameOf = [](std::size_t i) { return QStringLiteral("/runs/%1").arg(i); };
+    for (std::size_t i = 0; i <= OptionsStore::mostFolders; ++i)
+        store.keepImportUnits(nameOf(i), QStringLiteral("m/s|1|ratio|"));
+    EXPECT_EQ(store.importUnits(nameOf(0)), std::nullopt);
+    EXPECT_TRUE(store.importUnits(nameOf(1)));
+    EXPECT_TRUE(store.importUnits(nameOf(OptionsStore::mostFolders)));
+}
+
+TEST_F(OptionsStoreTest, keepsADamagedFileBesideUnitsOfImports)
+{
+    const OptionsStore store = storeOf("no line of settings\n");
+    EXPECT_EQ(errorNumberOf([&] { (void)store.importUnits(QStringLiteral("/runs")); }),
+              ErrorNumber::TypeMismatch);
+    store.keepImportUnits(QStringLiteral("/runs"), QStringLiteral("m/s|1|ratio|"));
+    EXPECT_TRUE(store.importUnits(QStringLiteral("/runs")));
+    EXPECT_EQ(test::fileBytes(store.path() + ".damaged"), "no line of settings\n");
+}

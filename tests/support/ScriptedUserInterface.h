@@ -46,6 +46,11 @@ public:
         fileQuestions.push_back(question);
         return take(saveFiles);
     }
+    std::optional<std::string> askFolder(const std::string& initial) override
+    {
+        initials.push_back(initial);
+        return take(folders);
+    }
     void showStatus(std::string_view text) override { statuses.emplace_back(text); }
     void showNote(std::string_view text) override { note = text; }
     void beginCommand() override { note.clear(); }
@@ -59,6 +64,7 @@ public:
     std::deque<std::string> texts;
     std::deque<std::vector<std::string>> openFiles;
     std::deque<std::string> saveFiles;
+    std::deque<std::string> folders;
 
     // What was asked and told.
     std::vector<Message> messages;

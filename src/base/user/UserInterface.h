@@ -47,6 +47,9 @@ public:
     /// The file to save to. None when the user cancels.
     virtual std::optional<std::string> askSaveFile(const FileQuestion& question) = 0;
 
+    /// A folder that exists, with `initial` shown at first. None when the user cancels.
+    virtual std::optional<std::string> askFolder(const std::string& initial) = 0;
+
     /// The first panel of the status bar: what is going on.
     virtual void showStatus(std::string_view text) = 0;
 

@@ -1,0 +1,90 @@
+#pragma once
+
+#include "options/OptionsStore.h"
+#include "solver/ImportPlan.h"
+
+#include <QDialog>
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+class QTreeWidgetItem;
+
+namespace tarsil {
+
+class Document;
+class ImportPreview;
+class InputWarning;
+class UserInterface;
+
+namespace Ui {
+class dlgImport;
+}
+
+/// The dialog "Import Solver Results": lists the analyses of solver outputs, asks for the units of
+/// their numbers, shows beside them what the outputs prove and what the plot would be, and writes
+/// the chosen ones as evolutions, which are then loaded. Units are those that were last used for
+/// the folder of the first output; otherwise none are chosen, and nothing can be imported.
+class dlgImport : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// What is handed over by reference must outlive the dialog.
+    dlgImport(Document& document, UserInterface& user, OptionsStore store,
+              QWidget* parent = nullptr);
+    ~dlgImport() override;
+
+    /// Reads solver outputs and lists their analyses. The user is told of files that hold none.
+    /// Returns whether there is anything to import now.
+    bool addFiles(const std::vector<std::string>& paths);
+
+    static constexpr const char* fileFilter =
+        "Solver Outputs (*.f06;*.out;*.flt)|*.f06;*.out;*.flt|All Files (*.*)|*.*|";
+
+protected:
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    void connectInputs();
+    void btnAdd_Click();
+    void btnFolder_Click();
+    void btnImport_Click();
+
+    void listOutput(std::size_t output);
+    void listFindings();
+    void chooseOf(QTreeWidgetItem& node);
+    std::optional<solver::AnalysisIndex> currentAnalysis() const;
+
+    // The inputs of the units.
+    void fillUnitInputs();
+    void presetChosen(int index);
+    void showRememberedUnits();
+    void keepUnits();
+    void showUnits(const solver::UnitChoice& units);
+    void showPreset();
+    std::optional<solver::UnitChoice> chosenUnits() const;
+    std::optional<double> vref() const;
+
+    /// Shows what follows from the inputs; the preview follows from the units and texts only.
+    void refresh();
+    void showConsequences();
+    void showEvidence();
+    void showPreview();
+
+    bool mayReplace() const;
+    void load(const std::vector<std::string>& paths);
+
+    std::unique_ptr<Ui::dlgImport> m_ui;
+    Document& m_document;
+    UserInterface& m_user;
+    OptionsStore m_store;
+    solver::ImportPlan m_plan;
+    ImportPreview* m_preview; ///< belongs to the form
+    std::unique_ptr<InputWarning> m_wrongVref;
+};
+
+} // namespace tarsil

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+class QMimeData;
+
+namespace tarsil {
+
+/// The paths of the files that are dropped on a window.
+std::vector<std::string> droppedFiles(const QMimeData& data);
+
+} // namespace tarsil

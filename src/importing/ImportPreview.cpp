@@ -1,0 +1,38 @@
+#include "importing/ImportPreview.h"
+
+#include "model/EVM.h"
+#include "model/PlotAxes.h"
+#include "plotwindow/EvmPlotView.h"
+#include "vgfplot/EvolutionPlotter.h"
+
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace tarsil {
+
+ImportPreview::ImportPreview(QWidget* parent)
+    : QWidget(parent), m_view(std::make_unique<EvmPlotView>(m_plot))
+{
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_view.get());
+    m_view->setFocusPolicy(Qt::NoFocus);
+    m_view->setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_plot.setBoxText(TextBox::Legend, QStringLiteral(" ")); // an empty one asks for a legend
+}
+
+ImportPreview::~ImportPreview() = default;
+
+void ImportPreview::showEvolution(std::unique_ptr<EVM> evolution)
+{
+    m_plot.rows().clear();
+    m_plot.setAxes(PlotAxes());
+    m_plot.setBoxText(TextBox::Header, QString());
+    m_plot.setBoxText(TextBox::Mechanism, QString());
+    m_evolution = std::move(evolution);
+    if (m_evolution)
+        plotCurves(m_plot, {allCurvesOf(*m_evolution)});
+}
+
+} // namespace tarsil
