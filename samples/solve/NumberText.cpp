@@ -25,10 +25,10 @@ std::string fixedText(double value, int width, int digits)
     return stream.str();
 }
 
-std::string exponentText(double value, int width)
+std::string exponentText(double value, int width, int digits)
 {
     std::ostringstream stream = textStream();
-    stream << std::scientific << std::uppercase << std::setprecision(5) << std::setw(width)
+    stream << std::scientific << std::uppercase << std::setprecision(digits) << std::setw(width)
            << value + 0.0;
     return stream.str();
 }

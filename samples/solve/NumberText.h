@@ -8,8 +8,8 @@ namespace tarsil::goland {
 /// A number with the given digits after the point, right aligned in the width.
 std::string fixedText(double value, int width, int digits);
 
-/// A number as 0.00000E+00, right aligned in the width.
-std::string exponentText(double value, int width);
+/// A number as 0.00000E+00 with the given digits after the point, right aligned in the width.
+std::string exponentText(double value, int width, int digits = 5);
 
 /// An integer, right aligned in the width.
 std::string integerText(int value, int width);

@@ -4,12 +4,14 @@
 #include "Ev2Writer.h"
 #include "EvmWriter.h"
 #include "NumberText.h"
+#include "SummaryWriter.h"
 
 #include <exception>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <stdexcept>
+#include <vector>
 
 namespace {
 
@@ -48,9 +50,9 @@ void report(const FlutterCase& flutterCase, const FlutterCurves& curves)
     }
 }
 
-void writeCase(const FlutterCase& flutterCase, const std::filesystem::path& folder)
+void writeCase(const FlutterCase& flutterCase, const FlutterCurves& curves,
+               const std::filesystem::path& folder)
 {
-    const FlutterCurves curves = solveCase(flutterCase);
     const std::string stem = fileStem(flutterCase);
     const std::string text = ev2Text(flutterCase, curves);
     writeFile(folder / (stem + ".ev2"),
@@ -71,9 +73,15 @@ int main(int argumentCount, char* arguments[])
     }
     try {
         std::filesystem::create_directories(arguments[1]);
+        std::vector<SolvedCase> printed;
         for (const FlutterCase& flutterCase : sampleCases()) {
-            writeCase(flutterCase, arguments[1]);
+            const FlutterCurves curves = solveCase(flutterCase);
+            writeCase(flutterCase, curves, arguments[1]);
+            if (flutterCase.configuration.store.mass == 0) {
+                printed.push_back({flutterCase, curves});
+            }
         }
+        writeFile(std::filesystem::path(arguments[1]) / "goland_clean.f06", summaryText(printed));
     } catch (const std::exception& error) {
         std::cerr << "goland-solve: " << error.what() << '\n';
         return 1;

@@ -122,10 +122,9 @@ TEST_F(ImportResults, areRefusedWhenTheyHoldNoSummary)
 TEST_F(ImportResults, leaveWorkspacesToThemselves)
 {
     load();
-    const std::string workspace = folder.write("case.tsw", "[General Information]\n");
-    drop({workspace, writeSummary("wing.f06")});
+    drop({sample("goland.tsw"), writeSummary("wing.f06")});
     EXPECT_EQ(dialog(), nullptr);
-    EXPECT_EQ(window.document().path(), workspace);
+    EXPECT_EQ(window.document().path(), sample("goland.tsw"));
 }
 
 TEST_F(ImportResults, areNoFoldersAndNothing)

@@ -2,6 +2,7 @@
 
 #include "base/files/PathNames.h"
 #include "base/user/RunTimeError.h"
+#include "formats/EvolutionFile.h"
 #include "model/EVM.h"
 #include "solver/PrintedPages.h"
 #include "support/TestFiles.h"
@@ -9,6 +10,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
 #include <filesystem>
 
 using namespace tarsil;
@@ -215,6 +218,32 @@ TEST_F(Import, doubtsRealSpeedsWithoutADensity)
     units.isEquivalent = true;
     plan.setUnits(units);
     EXPECT_THAT(plan.doubts(), IsEmpty());
+}
+
+/// What the sample's evolutions say was computed; it is printed with fewer digits here and there.
+TEST_F(Import, givesTheSamplesOfThePrintAgain)
+{
+    plan.add(sample("goland_clean.f06"));
+    plan.setUnits(unitsIn("ft/s"));
+    ASSERT_EQ(plan.outputs().at(0).runs.size(), 3U);
+    const char* const evolutions[] = {"goland_clean_m040.ev2", "goland_clean_m050.ev2",
+                                      "goland_clean_m060.ev2"};
+    for (std::size_t run = 0; run < 3; ++run) {
+        const std::unique_ptr<EVM> imported = plan.evolution({0, run});
+        const std::unique_ptr<EVM> expected = openEvolution(sample(evolutions[run]));
+        ASSERT_EQ(imported->Modes.size(), expected->Modes.size());
+        for (std::size_t m = 0; m < imported->Modes.size(); ++m) {
+            const std::vector<Point>& points = imported->Modes[m]->Points;
+            ASSERT_EQ(points.size(), 26U); // every second of 51
+            for (std::size_t i = 0; i < points.size(); ++i) {
+                const Point& original = expected->Modes[m]->Points.at(2 * i);
+                EXPECT_NEAR(points[i].speed, original.speed, 0.002);
+                EXPECT_NEAR(points[i].G, original.G, 1e-5 * std::max(1.F, std::abs(original.G)));
+                EXPECT_NEAR(points[i].f, original.f, 0.001);
+            }
+        }
+        EXPECT_EQ(imported->Param.Mach, expected->Param.Mach);
+    }
 }
 
 TEST(UnitText, readsBackEveryChoice)
