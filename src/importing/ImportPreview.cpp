@@ -19,7 +19,7 @@ ImportPreview::ImportPreview(QWidget* parent)
     layout->addWidget(m_view.get());
     m_view->setFocusPolicy(Qt::NoFocus);
     m_view->setAttribute(Qt::WA_TransparentForMouseEvents);
-    m_plot.setBoxText(TextBox::Legend, QStringLiteral(" ")); // an empty one asks for a legend
+    m_plot.texts().setText(TextBox::Legend, QStringLiteral(" ")); // an empty one asks for a legend
 }
 
 ImportPreview::~ImportPreview() = default;
@@ -28,8 +28,8 @@ void ImportPreview::showEvolution(std::unique_ptr<EVM> evolution)
 {
     m_plot.rows().clear();
     m_plot.setAxes(PlotAxes());
-    m_plot.setBoxText(TextBox::Header, QString());
-    m_plot.setBoxText(TextBox::Mechanism, QString());
+    m_plot.texts().setText(TextBox::Header, QString());
+    m_plot.texts().setText(TextBox::Mechanism, QString());
     m_evolution = std::move(evolution);
     if (m_evolution)
         plotCurves(m_plot, {allCurvesOf(*m_evolution)});
