@@ -11,8 +11,6 @@ namespace tarsil {
 
 namespace {
 
-constexpr std::size_t mostLines = 30; ///< more do not fit on a small screen
-
 std::vector<std::string> linesOf(const EvmPlot& plot, bool withCaption)
 {
     const std::string caption =
@@ -37,7 +35,7 @@ void tellOfLeftOutRows(const std::vector<const EvmPlot*>& plots, const std::stri
     if (lines.empty())
         return;
     user.showMessage("Rows without a curve are left out of " + from + ":\n"
-                         + shortList(lines, mostLines),
+                         + shortList(lines, mostRowLines),
                      "Tarsil", MessageIcon::Exclamation);
 }
 

@@ -121,14 +121,13 @@ void WorkspaceCommands::open(const std::string& path)
 
 void WorkspaceCommands::showNamesakes(const std::vector<Namesake>& namesakes)
 {
-    constexpr std::size_t mostLines = 20;
     std::vector<std::string> lines;
     for (const Namesake& one : namesakes)
         lines.push_back(shownPath(one.stored) + ": " + shownPath(one.taken));
     const std::string text =
         "These modal evolutions are not where the workspace says. Files of their "
         "names were taken, which may be those of other runs:";
-    m_userInterface.showMessage(text + "\n" + shortList(lines, mostLines), "Tarsil",
+    m_userInterface.showMessage(text + "\n" + shortList(lines, mostFileLines), "Tarsil",
                                 MessageIcon::Exclamation);
 }
 

@@ -5,6 +5,7 @@
 #include "batch/WorkspaceInput.h"
 #include "formats/EvolutionFile.h"
 #include "formats/MdlMix.h"
+#include "vgfplot/NamedMode.h"
 
 #include <algorithm>
 #include <array>
@@ -80,7 +81,7 @@ bool addSeriesOfWorkspace(const std::string& path, const CommandLine& line, Batc
         refuseOutputOverInput(line.value("--output").value(), file);
     for (const PlotRecord& plot : input.plots) {
         for (const SeriesRecord& series : plot.series)
-            modes.push_back(&modeOf(series, input.evolutions));
+            modes.push_back(namedMode(series, input.evolutions).mode);
     }
     return input.isWhole;
 }

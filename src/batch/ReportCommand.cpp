@@ -7,6 +7,7 @@
 #include "batch/Commands.h"
 #include "batch/ModeList.h"
 #include "batch/WorkspaceInput.h"
+#include "vgfplot/NamedMode.h"
 
 #include <array>
 #include <set>
@@ -43,7 +44,7 @@ bool addSeriesOfWorkspace(const std::string& path, const RowSource& source, Batc
         refuseOutputOverInput(source.output, file);
     for (const PlotRecord& plot : input.plots) {
         for (const SeriesRecord& series : plot.series)
-            rows.push_back({&modeOf(series, input.evolutions), series.legendText});
+            rows.push_back({namedMode(series, input.evolutions).mode, series.legendText});
     }
     return input.isWhole;
 }

@@ -4,15 +4,16 @@
 #include "base/user/RunTimeError.h"
 #include "batch/BatchRun.h"
 #include "document/WorkspaceSource.h"
+#include "formats/ListOpener.h"
 #include "model/EVM.h"
 #include "vgfplot/EvolutionRecords.h"
+#include "vgfplot/NamedMode.h"
 
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <functional>
+#include <exception>
 #include <iterator>
-#include <map>
 #include <utility>
 
 namespace tarsil::batch {
@@ -56,49 +57,43 @@ std::vector<PlotRecord> plotsAskedFor(const std::vector<PlotRecord>& plots,
     return {*captioned};
 }
 
-/// Whether a series names an evolution of a list with `count` entries.
-bool namesEvolution(const SeriesRecord& series, std::size_t count)
+/// Opens the evolutions of a workspace for a command.
+class InputOpener : public ListOpener
 {
-    return series.evolution >= 1 && static_cast<std::size_t>(series.evolution) <= count;
-}
+public:
+    InputOpener(std::vector<bool> named, BatchRun& run, const OpeningReport& report)
+        : m_named(std::move(named)), m_run(run), m_report(report)
+    { }
 
-std::size_t placeOfEvolution(const SeriesRecord& series)
-{
-    return static_cast<std::size_t>(series.evolution) - 1;
-}
+    bool isWanted(std::size_t index) const override { return m_named[index]; }
+    EVM& open(const std::string& path) override { return m_run.open(path); }
+    void foundOpen(const EVM& /*evolution*/) override { }
+    void isDone(std::size_t /*count*/) override { }
 
-/// Whether series of the plots name the evolution at each place.
-std::vector<bool> evolutionsNamed(const std::vector<PlotRecord>& plots, std::size_t count)
-{
-    std::vector<bool> named(count);
-    for (const PlotRecord& plot : plots) {
-        for (const SeriesRecord& series : plot.series) {
-            if (namesEvolution(series, count))
-                named[placeOfEvolution(series)] = true;
+    void isMissing(std::size_t index, const std::string& path) override
+    {
+        const RunTimeError missing(ErrorNumber::FileNotFound, "tarsil-batch", path);
+        m_report(index,
+                 path.empty() ? "the workspace does not say its path"
+                              : m_run.readable(missing.description()));
+    }
+
+    void cannotOpen(std::size_t index, const std::exception_ptr& error) override
+    {
+        try {
+            std::rethrow_exception(error);
+        } catch (const RunTimeError& fault) {
+            m_report(index, m_run.readable(fault.description()));
+        } catch (const Failure& failure) {
+            m_report(index, failure.what());
         }
     }
-    return named;
-}
 
-/// The evolution of a file, null after a report why it cannot be opened.
-EVM* openListed(const std::string& file, BatchRun& run,
-                const std::function<void(const std::string& why)>& report)
-{
-    if (file.empty()) {
-        report("the workspace does not say its path");
-        return nullptr;
-    }
-    try {
-        if (!fileExists(file))
-            throw RunTimeError(ErrorNumber::FileNotFound, "tarsil-batch", file);
-        return &run.open(file);
-    } catch (const RunTimeError& error) {
-        report(run.readable(error.description()));
-    } catch (const Failure& failure) {
-        report(failure.what());
-    }
-    return nullptr;
-}
+private:
+    std::vector<bool> m_named;
+    BatchRun& m_run;
+    const OpeningReport& m_report;
+};
 
 /// Takes the series without a mode away from a plot, with a complaint for each that has a fault of
 /// its own.
@@ -114,7 +109,7 @@ void leaveOutFaults(PlotRecord& plot, const std::string& path, WorkspaceInput& i
             message.append(": plot \"").append(plot.caption).append("\", series ");
             message.append(std::to_string(i + 1)).append(" is left out: ").append(fault);
             run.complain(message);
-        } else if (input.evolutions[placeOfEvolution(series)] != nullptr) {
+        } else if (namedMode(series, input.evolutions).mode != nullptr) {
             sound.push_back(std::move(series));
         }
     }
@@ -177,44 +172,28 @@ WorkspaceInput openWorkspace(const std::string& path, const std::optional<std::s
     return input;
 }
 
-std::vector<EVM*>
-openEvolutions(const std::vector<PlotRecord>& plots, const std::vector<std::string>& files,
-               BatchRun& run,
-               const std::function<void(std::size_t place, const std::string& why)>& report)
+std::vector<EVM*> openEvolutions(const std::vector<PlotRecord>& plots,
+                                 const std::vector<std::string>& files, BatchRun& run,
+                                 const OpeningReport& report)
 {
-    const std::vector<bool> named = evolutionsNamed(plots, files.size());
-    std::vector<EVM*> evolutions(files.size());
-    std::map<std::string_view, EVM*> opened;
-    for (std::size_t i = 0; i < files.size(); ++i) {
-        if (!named[i])
-            continue;
-        const auto [known, isNew] = opened.try_emplace(files[i], nullptr);
-        if (isNew || known->second == nullptr)
-            known->second = openListed(files[i], run, std::bind_front(report, i));
-        evolutions[i] = known->second;
-    }
-    return evolutions;
+    InputOpener opener(namedEvolutions(plots, files.size()), run, report);
+    return openListed({}, files, opener);
 }
 
 std::string faultOf(const SeriesRecord& series, const std::vector<EVM*>& evolutions)
 {
-    if (!namesEvolution(series, evolutions.size()))
+    const NamedMode named = namedMode(series, evolutions);
+    switch (named.fault) {
+    case NamedMode::Fault::None:
+        break;
+    case NamedMode::Fault::NoEvolution:
         return "there is no modal evolution " + std::to_string(series.evolution)
             + "; the workspace lists " + std::to_string(evolutions.size());
-    const EVM* const evolution = evolutions[placeOfEvolution(series)];
-    if (evolution == nullptr)
-        return {};
-    const std::size_t modes = evolution->Modes.size();
-    if (series.mode >= 1 && static_cast<std::size_t>(series.mode) <= modes)
-        return {};
-    return evolution->FileName + " has no mode at position " + std::to_string(series.mode)
-        + "; it holds " + std::to_string(modes);
-}
-
-AeMode& modeOf(const SeriesRecord& series, const std::vector<EVM*>& evolutions)
-{
-    const EVM& evolution = *evolutions[placeOfEvolution(series)];
-    return *evolution.Modes[static_cast<std::size_t>(series.mode) - 1];
+    case NamedMode::Fault::NoMode:
+        return named.evolution->FileName + " has no mode at position " + std::to_string(series.mode)
+            + "; it holds " + std::to_string(named.evolution->Modes.size());
+    }
+    return {};
 }
 
 } // namespace tarsil::batch

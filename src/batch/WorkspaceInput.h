@@ -12,7 +12,6 @@
 #include <vector>
 
 namespace tarsil {
-class AeMode;
 class EVM;
 } // namespace tarsil
 
@@ -53,19 +52,17 @@ struct WorkspaceInput
 WorkspaceInput openWorkspace(const std::string& path, const std::optional<std::string>& plot,
                              BatchRun& run);
 
+/// Receives the index in the workspace's list of a file that cannot be opened, and why.
+using OpeningReport = std::function<void(std::size_t index, const std::string& why)>;
+
 /// Opens the evolutions that series of these plots name, each once. `files` are those of the
-/// workspace, as they were found; what cannot be opened stays null, and `report` is told its
-/// place from 0 and why.
-std::vector<EVM*>
-openEvolutions(const std::vector<PlotRecord>& plots, const std::vector<std::string>& files,
-               BatchRun& run,
-               const std::function<void(std::size_t place, const std::string& why)>& report);
+/// workspace, as they were found; what cannot be opened is reported and stays null.
+std::vector<EVM*> openEvolutions(const std::vector<PlotRecord>& plots,
+                                 const std::vector<std::string>& files, BatchRun& run,
+                                 const OpeningReport& report);
 
 /// What is wrong with the numbers of a series, as a sentence; empty when its mode is there, or when
 /// its evolution is not open.
 std::string faultOf(const SeriesRecord& series, const std::vector<EVM*>& evolutions);
-
-/// The mode of a series without fault whose evolution is open.
-AeMode& modeOf(const SeriesRecord& series, const std::vector<EVM*>& evolutions);
 
 } // namespace tarsil::batch

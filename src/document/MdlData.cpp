@@ -15,8 +15,6 @@ namespace tarsil::mdlData {
 
 namespace {
 
-constexpr std::size_t mostLines = 30; ///< more do not fit on a small screen
-
 /// Rows that are neighbours.
 struct Block
 {
@@ -64,7 +62,7 @@ std::string missingModesText(const PlotRows& rows)
     std::vector<std::string> lines;
     for (const std::size_t row : rows.withoutCurve())
         lines.push_back(missingModeText(rows.at(row)));
-    return shortList(lines, mostLines);
+    return shortList(lines, mostRowLines);
 }
 
 std::string buildSeries(PlotRows& rows, const MarkerOptions& markers)

@@ -39,9 +39,10 @@ wndEvolExplorer::wndEvolExplorer(Document& document, wndEvolPlot& plots, UserInt
 
 void wndEvolExplorer::followDocument()
 {
-    connect(&m_marks, &EvolutionMarks::found, this, [this](EVM* evolution, const QString& text) {
-        warn(*m_evolutions.nodeOf(evolution), m_images, text);
-    });
+    connect(&m_warnings, &EvolutionWarnings::found, this,
+            [this](EVM* evolution, const QString& text) {
+                warn(*m_evolutions.nodeOf(evolution), m_images, text);
+            });
     const auto showTexts = [this] { m_workspace.show(m_document.texts()); };
     connect(&m_document, &Document::textsChanged, this, showTexts);
     connect(&m_document, &Document::startedNew, this, [this] { m_workspace.closeFolders(); });
@@ -106,7 +107,7 @@ void wndEvolExplorer::FillEvolsNode()
 {
     const std::vector<EVM*> added = m_evolutions.fill(m_document.evolutions());
     for (EVM* const evolution : added)
-        m_marks.add(*evolution);
+        m_warnings.add(*evolution);
     if (!added.empty())
         m_workspace.evolutions().setExpanded(true);
 }
@@ -130,7 +131,7 @@ void wndEvolExplorer::showReference(EVM* before, EVM* now)
 
 void wndEvolExplorer::forget(const std::vector<EVM*>& evolutions)
 {
-    m_marks.forget(evolutions);
+    m_warnings.forget(evolutions);
     m_evolutions.remove(evolutions);
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "explorer/EvolutionMarks.h"
 #include "explorer/EvolutionNodes.h"
+#include "explorer/EvolutionWarnings.h"
 #include "explorer/ExplorerImages.h"
 #include "explorer/WorkspaceNodes.h"
 
@@ -38,8 +38,7 @@ public:
     ~wndEvolExplorer() override;
 
     /// Adds nodes for the evolutions that were loaded since the last call, and opens their folder.
-    /// Their files are looked through later, when the user waits for nothing; what is doubtful then
-    /// marks the node.
+    /// Their files are checked later, when the user waits for nothing; the node shows warnings.
     void FillEvolsNode();
 
     /// Makes the selected evolution the reference evolution; the user is told when there is none.
@@ -112,7 +111,7 @@ private:
     LabelDelegate* m_labels;
     WorkspaceNodes m_workspace;
     EvolutionNodes m_evolutions;
-    EvolutionMarks m_marks;
+    EvolutionWarnings m_warnings;
     PlotNodes* m_plots;
 };
 

@@ -4,6 +4,7 @@
 #include "model/EVM.h"
 #include "plot/Series.h"
 #include "vgfplot/EvmPlot.h"
+#include "vgfplot/NamedMode.h"
 
 #include <algorithm>
 #include <utility>
@@ -91,15 +92,12 @@ void applyText(const TextRecord& record, TextBox which, EvmPlot& plot)
 /// The mode that a series of a record draws; null when its file is not there.
 AeMode* modeOf(const SeriesRecord& record, const std::vector<EVM*>& evolutions, const EvmPlot& plot)
 {
-    const int evolutionCount = static_cast<int>(evolutions.size());
-    if (record.evolution < 1 || record.evolution > evolutionCount)
+    const NamedMode named = namedMode(record, evolutions);
+    if (named.fault == NamedMode::Fault::NoEvolution)
         failAt(record, plot, "evolution");
-    EVM* const evolution = evolutions[static_cast<std::size_t>(record.evolution - 1)];
-    if (evolution == nullptr)
-        return nullptr;
-    if (record.mode < 1 || record.mode > static_cast<int>(evolution->Modes.size()))
+    if (named.fault == NamedMode::Fault::NoMode)
         failAt(record, plot, "mode");
-    return evolution->Modes[static_cast<std::size_t>(record.mode - 1)].get();
+    return named.mode;
 }
 
 Series seriesOf(const SeriesRecord& record, AeMode& mode)

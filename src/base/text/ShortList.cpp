@@ -4,13 +4,14 @@
 
 namespace tarsil {
 
-std::string shortList(const std::vector<std::string>& lines, std::size_t most)
+std::string shortList(const std::vector<std::string>& entries, std::size_t most,
+                      std::string_view separator)
 {
     std::string text;
-    for (std::size_t i = 0; i < std::min(lines.size(), most); ++i)
-        text += (i == 0 ? "" : "\n") + lines[i];
-    if (lines.size() > most)
-        text += "\nand " + std::to_string(lines.size() - most) + " more";
+    for (std::size_t i = 0; i < std::min(entries.size(), most); ++i)
+        text.append(i == 0 ? "" : separator).append(entries[i]);
+    if (entries.size() > most)
+        text.append(separator).append("and " + std::to_string(entries.size() - most) + " more");
     return text;
 }
 

@@ -1,6 +1,6 @@
-// What is doubtful in the files of evolutions, and how the explorer marks it.
+// Warnings about the files of evolutions, and how the explorer shows them.
 
-#include "explorer/EvolutionMarks.h"
+#include "explorer/EvolutionWarnings.h"
 
 #include "explorer/WndEvolExplorerFixture.h"
 #include "formats/EvolutionChecker.h"
@@ -16,7 +16,7 @@ namespace {
 
 const std::string emptyFileText = "line 1: the file is empty";
 
-class EvolutionMarksTest : public test::WndEvolExplorerTest
+class EvolutionWarningsTest : public test::WndEvolExplorerTest
 {
 protected:
     /// An evolution that names a file of these bytes.
@@ -53,7 +53,7 @@ std::string repeatedRows(int count)
 
 } // namespace
 
-TEST_F(EvolutionMarksTest, marksADoubtfulFileOnlyWhenNobodyWaits)
+TEST_F(EvolutionWarningsTest, showsAWarningOnlyWhenNobodyWaits)
 {
     EVM& evolution = loadFile("a.evm", "");
     EXPECT_EQ(image(evolutionNode(evolution)), "evolution");
@@ -63,7 +63,7 @@ TEST_F(EvolutionMarksTest, marksADoubtfulFileOnlyWhenNobodyWaits)
     EXPECT_EQ(text(evolutionNode(evolution)), "a.evm");
 }
 
-TEST_F(EvolutionMarksTest, tellsAScreenReaderWhatTheSignTells)
+TEST_F(EvolutionWarningsTest, tellsAScreenReaderWhatTheSignTells)
 {
     EVM& evolution = loadFile("a.evm", "");
     settle();
@@ -80,7 +80,7 @@ TEST_F(EvolutionMarksTest, tellsAScreenReaderWhatTheSignTells)
     EXPECT_EQ(heard().toStdString(), emptyFileText) << "no longer the reference";
 }
 
-TEST_F(EvolutionMarksTest, leavesACleanFileUnmarked)
+TEST_F(EvolutionWarningsTest, showsNoWarningForACleanFile)
 {
     EVM& evolution = loadFile("a.ev2", test::fileBytes(test::sample("goland_clean_m040.ev2")));
     settle();
@@ -88,16 +88,16 @@ TEST_F(EvolutionMarksTest, leavesACleanFileUnmarked)
     EXPECT_EQ(toolTip(evolution), folder.file("a.ev2"));
 }
 
-TEST_F(EvolutionMarksTest, looksThroughOneFileAtATimeInTheirOrder)
+TEST_F(EvolutionWarningsTest, looksThroughOneFileAtATimeInTheirOrder)
 {
-    EvolutionMarks marks;
+    EvolutionWarnings warnings;
     test::Texts found;
-    QObject::connect(&marks, &EvolutionMarks::found, [&](EVM* one, const QString& findings) {
+    QObject::connect(&warnings, &EvolutionWarnings::found, [&](EVM* one, const QString& text) {
         found.push_back(one->FileName);
-        EXPECT_EQ(findings.toStdString(), emptyFileText);
+        EXPECT_EQ(text.toStdString(), emptyFileText);
     });
     for (const char* const name : {"a.evm", "b.evm", "c.evm"})
-        marks.add(loadFile(name, ""));
+        warnings.add(loadFile(name, ""));
     EXPECT_THAT(found, IsEmpty());
     for (int i = 0; i < 20; ++i) {
         const std::size_t before = found.size();
@@ -105,12 +105,12 @@ TEST_F(EvolutionMarksTest, looksThroughOneFileAtATimeInTheirOrder)
         EXPECT_LE(found.size(), before + 1);
     }
     EXPECT_THAT(found, ElementsAre("a.evm", "b.evm", "c.evm"));
-    marks.add(*document.evolutions().all()[0]);
+    warnings.add(*document.evolutions().all()[0]);
     settle();
     EXPECT_EQ(found.size(), 4U) << "begins again after a rest";
 }
 
-TEST_F(EvolutionMarksTest, doesNotLookAtAnEvolutionThatHasGone)
+TEST_F(EvolutionWarningsTest, doesNotLookAtAnEvolutionThatHasGone)
 {
     EVM& a = loadFile("a.evm", "");
     EVM& b = loadFile("b.evm", "");
@@ -124,7 +124,7 @@ TEST_F(EvolutionMarksTest, doesNotLookAtAnEvolutionThatHasGone)
     EXPECT_EQ(node("Evols").childCount(), 0);
 }
 
-TEST_F(EvolutionMarksTest, marksAnEvolutionWhoseFileHasGone)
+TEST_F(EvolutionWarningsTest, warnsOfAnEvolutionWhoseFileHasGone)
 {
     EVM& evolution = load("gone.evm");
     settle();
@@ -132,24 +132,24 @@ TEST_F(EvolutionMarksTest, marksAnEvolutionWhoseFileHasGone)
     EXPECT_TRUE(toolTip(evolution).find("not found") != std::string::npos) << toolTip(evolution);
 }
 
-TEST_F(EvolutionMarksTest, tellsAllOfTwentyFindings)
+TEST_F(EvolutionWarningsTest, listsAllOfTwentyWarnings)
 {
     int rows = 0;
     std::size_t count = 0;
     while (count < 20)
         count = checkEvolutionText(repeatedRows(++rows), "a.ev2").size();
     ASSERT_EQ(count, 20U);
-    const QString text = findingsText(loadFile("a.ev2", repeatedRows(rows)));
+    const QString text = warningsOf(loadFile("a.ev2", repeatedRows(rows)));
     EXPECT_EQ(text.split(u'\n').size(), 20);
     EXPECT_TRUE(text.split(u'\n').back().startsWith(QStringLiteral("line ")));
 }
 
-TEST_F(EvolutionMarksTest, tellsHowManyFindingsThereAreBeyondTwentyLines)
+TEST_F(EvolutionWarningsTest, countsTheWarningsBeyondTwentyLines)
 {
     const std::string bytes = repeatedRows(50);
     const std::size_t count = checkEvolutionText(bytes, "a.ev2").size();
     ASSERT_GT(count, 50U);
-    const QStringList lines = findingsText(loadFile("a.ev2", bytes)).split(u'\n');
+    const QStringList lines = warningsOf(loadFile("a.ev2", bytes)).split(u'\n');
     ASSERT_EQ(lines.size(), 20);
     EXPECT_TRUE(lines.front().startsWith(QStringLiteral("line ")));
     EXPECT_EQ(lines.back().toStdString(), "and " + std::to_string(count - 19) + " more");

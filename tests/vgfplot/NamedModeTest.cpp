@@ -1,0 +1,67 @@
+// What the series of a workspace name.
+
+#include "vgfplot/NamedMode.h"
+#include "model/EVM.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+using namespace tarsil;
+using ::testing::ElementsAre;
+
+namespace {
+
+SeriesRecord naming(std::int16_t evolution, std::int16_t mode)
+{
+    SeriesRecord series;
+    series.evolution = evolution;
+    series.mode = mode;
+    return series;
+}
+
+class NamedModeTest : public ::testing::Test
+{
+protected:
+    NamedModeTest()
+    {
+        evolution.appendMode();
+        evolution.appendMode();
+    }
+
+    EVM evolution;
+    const std::vector<EVM*> evolutions {nullptr, &evolution};
+};
+
+} // namespace
+
+TEST_F(NamedModeTest, isTheModeOfThatNumberInTheEvolutionOfThatNumber)
+{
+    const NamedMode named = namedMode(naming(2, 2), evolutions);
+    EXPECT_EQ(named.fault, NamedMode::Fault::None);
+    EXPECT_EQ(named.evolution, &evolution);
+    EXPECT_EQ(named.mode, evolution.Modes[1].get());
+}
+
+TEST_F(NamedModeTest, isNoneWithoutFaultWhereTheEvolutionIsNotOpen)
+{
+    const NamedMode named = namedMode(naming(1, 7), evolutions);
+    EXPECT_EQ(named.fault, NamedMode::Fault::None);
+    EXPECT_EQ(named.mode, nullptr);
+}
+
+TEST_F(NamedModeTest, isAFaultBeyondTheListOrTheModes)
+{
+    for (const std::int16_t number : {-1, 0, 3}) {
+        EXPECT_EQ(namedMode(naming(number, 1), evolutions).fault, NamedMode::Fault::NoEvolution);
+        EXPECT_EQ(namedMode(naming(2, number), evolutions).fault, NamedMode::Fault::NoMode);
+        EXPECT_EQ(namedMode(naming(2, number), evolutions).mode, nullptr);
+    }
+}
+
+TEST_F(NamedModeTest, evolutionsAreThoseOfAllPlots)
+{
+    std::vector<PlotRecord> plots(2);
+    plots[0].series = {naming(3, 1), naming(9, 1), naming(0, 1)};
+    plots[1].series = {naming(1, 99)};
+    EXPECT_THAT(namedEvolutions(plots, 4), ElementsAre(true, false, true, false));
+}
