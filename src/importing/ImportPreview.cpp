@@ -20,6 +20,7 @@ ImportPreview::ImportPreview(QWidget* parent)
     m_view->setFocusPolicy(Qt::NoFocus);
     m_view->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_plot.texts().setText(TextBox::Legend, QStringLiteral(" ")); // an empty one asks for a legend
+    m_view->hide();
 }
 
 ImportPreview::~ImportPreview() = default;
@@ -31,6 +32,7 @@ void ImportPreview::showEvolution(std::unique_ptr<EVM> evolution)
     m_plot.texts().setText(TextBox::Header, QString());
     m_plot.texts().setText(TextBox::Mechanism, QString());
     m_evolution = std::move(evolution);
+    m_view->setVisible(m_evolution != nullptr);
     if (m_evolution)
         plotCurves(m_plot, {allCurvesOf(*m_evolution)});
 }

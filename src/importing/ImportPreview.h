@@ -21,7 +21,7 @@ public:
     explicit ImportPreview(QWidget* parent = nullptr);
     ~ImportPreview() override;
 
-    /// Draws every mode. Null shows an empty plot.
+    /// Draws every mode. Null shows nothing.
     void showEvolution(std::unique_ptr<EVM> evolution);
 
 private:
