@@ -124,10 +124,10 @@ std::optional<std::string> refusalOf(const SolverOutput& output)
     if (!output.runs.empty())
         return std::nullopt;
     const std::string path = shownPath(output.path);
-    if (output.file.lines == 0)
-        return path + " is empty";
     if (output.file.isBinary)
         return path + " holds no flutter summary: it is a binary file and no printed output";
+    if (output.file.lines == 0)
+        return path + " is empty";
     if (output.file.log.empty())
         return path + " holds no flutter summary: no line ends in \"" + std::string(summaryTitle)
             + "\"";

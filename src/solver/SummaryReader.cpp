@@ -1,8 +1,10 @@
 #include "solver/SummaryReader.h"
 
 #include "base/files/FileLines.h"
+#include "base/files/InputFile.h"
 
 #include <algorithm>
+#include <array>
 
 namespace tarsil::solver {
 
@@ -15,6 +17,16 @@ bool holdsWords(std::string_view piece)
         return piece.find(words) != std::string_view::npos;
     };
     return holds(summaryTitle) || holds("AERO") || holds("VREF");
+}
+
+/// Whether there is a zero among the first bytes of a file, as in no text of eight bits.
+bool beginsBinary(std::string_view path)
+{
+    std::array<char, 4096> bytes {};
+    InputFile file(path);
+    const std::size_t count = std::min(bytes.size(), file.bytesLeft());
+    file.read(bytes.data(), count);
+    return std::string_view(bytes.data(), count).find('\0') != std::string_view::npos;
 }
 
 } // namespace
@@ -52,19 +64,17 @@ void SummaryScanner::skip(std::string_view piece)
 
 SummaryFile readSummaries(std::string_view path)
 {
+    if (beginsBinary(path)) {
+        SummaryFile binary;
+        binary.isBinary = true;
+        return binary;
+    }
     FileLines lines(path);
     SummaryScanner scanner;
-    bool isBinary = false;
-    bool isFirst = true;
-    for (std::string_view piece = lines.next(); !piece.empty(); piece = lines.next()) {
-        isBinary = isBinary || (isFirst && piece.find('\0') != std::string_view::npos);
-        isFirst = false;
+    for (std::string_view piece = lines.next(); !piece.empty(); piece = lines.next())
         scanner.read(piece);
-    }
     lines.requireUnchanged();
-    SummaryFile file = scanner.result();
-    file.isBinary = isBinary;
-    return file;
+    return scanner.result();
 }
 
 } // namespace tarsil::solver

@@ -27,8 +27,9 @@ private:
 };
 
 /// Reads the flutter summaries of a printed solver output, whatever its name. The file is read once
-/// and in pieces; only tables are kept. Without a summary the result has no tables. Errors: those
-/// of reading a file; what is wrong in the text itself is an entry of the log.
+/// and in pieces; only tables are kept. Without a summary the result has no tables; a binary file
+/// is known by its first bytes and not read on. Errors: those of reading a file; what is wrong in
+/// the text itself is an entry of the log.
 SummaryFile readSummaries(std::string_view path);
 
 } // namespace tarsil::solver
