@@ -262,18 +262,23 @@ void wndMain::ImportMenu_Click()
     importResults(mdlMain::OpenFileDialog(m_userInterface, dlgImport::fileFilter, 1, true));
 }
 
-/// Files that come while the dialog is open are added to it.
+/// Files that come while the dialog is open are added to it. It goes when it is closed, with all
+/// that was read.
 void wndMain::importResults(const std::vector<std::string>& paths)
 {
     if (paths.empty())
         return;
-    if (m_import && m_import->isVisible()) {
+    if (m_import) {
         m_import->addFiles(paths);
         return;
     }
-    m_import = std::make_unique<dlgImport>(m_document, m_userInterface, m_store, this);
-    if (m_import->addFiles(paths))
-        m_import->open();
+    auto dialog = std::make_unique<dlgImport>(m_document, m_userInterface, m_store, this);
+    if (!dialog->addFiles(paths))
+        return;
+    m_import = std::move(dialog);
+    connect(m_import.get(), &QDialog::finished, this,
+            [this] { m_import.release()->deleteLater(); });
+    m_import->open();
 }
 
 /// Files from another program: a workspace in place of what is there, or what adds to it.

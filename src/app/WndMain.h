@@ -153,7 +153,7 @@ private:
     std::unique_ptr<dlgRefSpeed> m_refSpeed; ///< made when it is first wanted
     std::unique_ptr<dlgDampLine> m_dampLine;
     std::unique_ptr<dlgOptions> m_options;
-    std::unique_ptr<dlgImport> m_import; ///< of the last import
+    std::unique_ptr<dlgImport> m_import; ///< while it is open
 };
 
 } // namespace tarsil

@@ -222,11 +222,10 @@ void dlgImport::refresh()
 
 void dlgImport::showConsequences()
 {
-    QStringList doubts;
-    for (const std::string& doubt : m_plan.doubts())
-        doubts.append(QString::fromStdString(doubt));
-    m_ui->lblDoubts->setText(doubts.join(u'\n'));
-    m_ui->lblDoubts->setVisible(!doubts.isEmpty());
+    constexpr std::size_t mostDoubts = 4;
+    const std::vector<std::string> doubts = m_plan.doubts();
+    m_ui->lblDoubts->setText(QString::fromStdString(shortList(doubts, mostDoubts)));
+    m_ui->lblDoubts->setVisible(!doubts.empty());
     const std::size_t count = m_plan.files().size();
     m_ui->btnImport->setEnabled(m_plan.units() && count > 0);
     m_ui->lblCount->setText(!m_plan.units() ? tr("Choose the units of the printed numbers.")

@@ -34,6 +34,15 @@ bool isSameFile(const std::string& a, const std::string& b)
     return identity && identity == fileIdentity(b);
 }
 
+/// "; so in 3 other analyses", for a sentence on the first of several.
+std::string andOthers(std::size_t count)
+{
+    if (count < 2)
+        return {};
+    return count == 2 ? "; so in 1 other analysis"
+                      : "; so in " + std::to_string(count - 1) + " other analyses";
+}
+
 bool isFarFrom(double a, double b)
 {
     return std::abs(a - b) > unitTolerance * b;
@@ -134,18 +143,15 @@ std::vector<std::string> ImportPlan::doubts() const
         return doubts;
     for (std::size_t i = 0; i < m_outputs.size(); ++i) {
         const std::vector<bool>& chosen = m_chosen[i];
-        if (std::find(chosen.begin(), chosen.end(), true) == chosen.end())
-            continue;
-        addDoubts(m_outputs[i], doubts);
-        for (std::size_t r = 0; r < chosen.size(); ++r) {
-            if (chosen[r])
-                addDensityDoubts(m_outputs[i], r, doubts);
-        }
+        if (std::find(chosen.begin(), chosen.end(), true) != chosen.end())
+            addUnitDoubts(m_outputs[i], doubts);
     }
+    if (!m_units->isEquivalent)
+        addDensityDoubts(doubts);
     return doubts;
 }
 
-void ImportPlan::addDoubts(const SolverOutput& output, std::vector<std::string>& doubts) const
+void ImportPlan::addUnitDoubts(const SolverOutput& output, std::vector<std::string>& doubts) const
 {
     const UnitEvidence& evidence = output.evidence;
     if (evidence.speed && isFarFrom(m_units->speed.factor * m_units->vref, evidence.speed->factor))
@@ -157,20 +163,28 @@ void ImportPlan::addDoubts(const SolverOutput& output, std::vector<std::string>&
                          + std::string(evidence.density->name) + ", not in the unit chosen");
 }
 
-void ImportPlan::addDensityDoubts(const SolverOutput& output, std::size_t run,
-                                  std::vector<std::string>& doubts) const
+void ImportPlan::addDensityDoubts(std::vector<std::string>& doubts) const
 {
-    if (m_units->isEquivalent)
-        return;
-    const SolverRun& analysis = output.runs[run];
-    if (!carriesDensity(analysis))
-        doubts.push_back(atLine(output, analysis.firstLine,
-                                "no density is printed: only speeds that are equivalent can be "
-                                "imported"));
-    else if (!printsDensities(analysis) && isFarFrom(m_units->density.factor, 1))
-        doubts.push_back(atLine(output, analysis.firstLine,
-                                "the heading prints a density ratio, which the unit "
-                                    + std::string(m_units->density.name) + " would scale"));
+    std::vector<std::string> without;
+    std::vector<std::string> scaled;
+    const bool isUnit = isFarFrom(m_units->density.factor, 1);
+    for (const PlannedFile& file : files()) {
+        const SolverRun& analysis = run(file.analysis);
+        const std::string where =
+            atLine(m_outputs[file.analysis.output], analysis.firstLine, std::string());
+        if (!carriesDensity(analysis))
+            without.push_back(where);
+        else if (isUnit && !printsDensities(analysis))
+            scaled.push_back(where);
+    }
+    if (!without.empty())
+        doubts.push_back(without.front()
+                         + "no density is printed: only speeds that are equivalent can be imported"
+                         + andOthers(without.size()));
+    if (!scaled.empty())
+        doubts.push_back(scaled.front() + "the heading prints a density ratio, which the unit "
+                         + std::string(m_units->density.name) + " would scale"
+                         + andOthers(scaled.size()));
 }
 
 const UnitChoice& ImportPlan::chosenUnits() const

@@ -81,7 +81,7 @@ public:
     std::vector<PlannedFile> files() const;
 
     /// What speaks against the chosen units, a sentence each: what the outputs prove otherwise, or
-    /// densities that are missing.
+    /// densities that are missing. Analyses with the same doubt share a sentence.
     std::vector<std::string> doubts() const;
 
     /// The evolution of an analysis as it would be read back from its file. Errors: those of
@@ -94,9 +94,8 @@ public:
 
 private:
     const UnitChoice& chosenUnits() const;
-    void addDoubts(const SolverOutput& output, std::vector<std::string>& doubts) const;
-    void addDensityDoubts(const SolverOutput& output, std::size_t run,
-                          std::vector<std::string>& doubts) const;
+    void addUnitDoubts(const SolverOutput& output, std::vector<std::string>& doubts) const;
+    void addDensityDoubts(std::vector<std::string>& doubts) const;
 
     std::vector<SolverOutput> m_outputs;
     std::vector<std::vector<bool>> m_chosen; ///< by output and run

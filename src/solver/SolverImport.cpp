@@ -75,7 +75,7 @@ Provenance provenanceOf(const SolverOutput& output, const SolverRun& run,
                         const ImportedRun& imported, const UnitChoice& units)
 {
     Provenance provenance;
-    provenance.source = output.path;
+    provenance.source = wholePath(output.path);
     provenance.sourceLines = std::to_string(run.firstLine) + "-" + std::to_string(run.lastLine);
     provenance.speedUnit = units.speed.name;
     if (units.isEquivalent)

@@ -203,6 +203,10 @@ TEST_F(Import, doubtsADensityUnitForAPrintedRatio)
     plan.setUnits(unitsIn("m/s", "kg/m3"));
     EXPECT_THAT(plan.doubts(),
                 ElementsAre(HasSubstr("line 4: the heading prints a density ratio")));
+    plan.add(folder.write("tail.f06", twoAnalyses()));
+    EXPECT_THAT(
+        plan.doubts(),
+        ElementsAre(AllOf(HasSubstr("wing.f06, line 4"), HasSubstr("so in 2 other analyses"))));
     plan.setUnits(unitsIn("m/s"));
     EXPECT_THAT(plan.doubts(), IsEmpty());
 }
