@@ -7,6 +7,7 @@
 #include "base/text/ShortList.h"
 #include "base/user/BusyStatus.h"
 #include "base/user/ErrorGuard.h"
+#include "base/user/RunTimeError.h"
 #include "base/user/UserInterface.h"
 #include "document/Document.h"
 #include "importing/DroppedFiles.h"
@@ -19,8 +20,9 @@
 #include <QDropEvent>
 #include <QSignalBlocker>
 
-#include <algorithm>
+#include <cstddef>
 #include <set>
+#include <string_view>
 #include <utility>
 
 namespace tarsil {

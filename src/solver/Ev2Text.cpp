@@ -13,6 +13,7 @@
 #include <cstdint>
 #include <iterator>
 #include <limits>
+#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -41,6 +42,20 @@ void requireCountable(const std::vector<ImportedMode>& modes)
                                "POINT " + std::to_string(mode.id)
                                    + " is no number that a mode can have");
     }
+}
+
+/// The Mach number of all points; nothing when they differ.
+std::optional<double> commonMach(const std::vector<ImportedMode>& modes)
+{
+    std::optional<double> mach;
+    for (const ImportedMode& mode : modes) {
+        for (const ImportedPoint& point : mode.points) {
+            if (std::isnan(point.mach) || (mach && *mach != point.mach))
+                return std::nullopt;
+            mach = point.mach;
+        }
+    }
+    return mach;
 }
 
 class Ev2Writer
@@ -103,8 +118,8 @@ void writeModel(Ev2Writer& writer, const EVM& header, const std::vector<Imported
     writer.line(ev2layout::modelHeader);
     writer.texts(ev2layout::modelTexts, header);
     writer.texts(ev2layout::parameterTexts, header.Param);
-    if (header.Param.Mach != 0)
-        writer.keyValue(ev2layout::machKey, shortestText(header.Param.Mach));
+    if (const std::optional<double> mach = commonMach(modes))
+        writer.keyValue(ev2layout::machKey, shortestText(*mach));
     for (const ev2layout::CountKey& key : ev2layout::modelCounts)
         writer.keyValue(key.name,
                         std::to_string(key.member == &EVM::numberOfSpeeds ? speeds : modes.size()));

@@ -18,20 +18,6 @@ namespace tarsil::solver {
 
 namespace {
 
-/// The Mach number of all points; nothing when they differ.
-std::optional<double> commonMach(const ImportedRun& imported)
-{
-    std::optional<double> mach;
-    for (const ImportedMode& mode : imported.modes) {
-        for (const ImportedPoint& point : mode.points) {
-            if (std::isnan(point.mach) || (mach && *mach != point.mach))
-                return std::nullopt;
-            mach = point.mach;
-        }
-    }
-    return mach;
-}
-
 /// The log of the file's lines that belong to a run, then those of the run.
 std::vector<std::string> logOf(const SolverOutput& output, const SolverRun& run,
                                const ImportedRun& imported)
@@ -54,8 +40,7 @@ std::string legendOf(const SolverRun& run)
     return run.label + ", " + subcase;
 }
 
-void fillHeader(const SolverRun& run, const ImportedRun& imported, const ImportTexts& texts,
-                EVM& header)
+void fillHeader(const SolverRun& run, const ImportTexts& texts, EVM& header)
 {
     header.programVersion = texts.programVersion;
     header.ev2Version = "2";
@@ -65,7 +50,6 @@ void fillHeader(const SolverRun& run, const ImportedRun& imported, const ImportT
     header.Param.Airplane = texts.airplane.empty() ? run.title : texts.airplane;
     header.Param.Script = run.subtitle;
     header.Param.Mass = texts.massConfiguration;
-    header.Param.Mach = static_cast<float>(commonMach(imported).value_or(0));
     header.Param.AnalysisType = "Flutter";
     if (const std::string legend = legendOf(run); !legend.empty())
         header.Param.legends.add("1", legend);
@@ -147,7 +131,7 @@ std::string evolutionText(const SolverOutput& output, std::size_t run, const Uni
                                  "turned into equivalent airspeeds");
     const ImportedRun imported = importRun(source, units);
     EVM header;
-    fillHeader(source, imported, texts, header);
+    fillHeader(source, texts, header);
     header.provenance = provenanceOf(output, source, imported, units);
     return ev2Text(header, imported.modes);
 }

@@ -62,7 +62,6 @@ void fillTexts(EVM& header)
     header.Param.Airplane = "F\xC3\x9CGEL";
     header.Param.Script = "FULL=1";
     header.Param.Mass = "CLEAN";
-    header.Param.Mach = 0.78F;
     header.Param.AnalysisType = "Flutter";
     header.Param.modifications.add("1", "modes 4 and 5 exchanged");
     header.Param.legends.add("1", "SUBCASE 2");
@@ -134,10 +133,20 @@ TEST(Ev2Text, readsBackWhereAnEvolutionComesFrom)
               (std::vector<std::string> {"line 5: left out", "1, 2"}));
 }
 
-TEST(Ev2Text, leavesOutAMachNumberThatIsNotKnown)
+TEST(Ev2Text, namesTheMachNumberThatAllPointsHave)
 {
-    EVM header;
-    EXPECT_EQ(ev2Text(header, {}).find("Mach_number"), std::string::npos);
+    const EVM header;
+    std::vector<ImportedMode> modes(2);
+    for (ImportedMode& mode : modes)
+        mode.points.resize(2);
+    EXPECT_EQ(ev2Text(header, modes).find("Mach_number"), std::string::npos) << "not printed";
+    for (ImportedMode& mode : modes) {
+        for (ImportedPoint& point : mode.points)
+            point.mach = 0;
+    }
+    EXPECT_NE(ev2Text(header, modes).find("\nMach_number=0\n"), std::string::npos);
+    modes[1].points[1].mach = 0.3;
+    EXPECT_EQ(ev2Text(header, modes).find("Mach_number"), std::string::npos) << "they differ";
 }
 
 TEST(Ev2Text, keepsALineBreakOutOfItsHeader)
