@@ -19,6 +19,8 @@
 #include "options/DlgOptions.h"
 #include "plotwindow/DlgPlotProp.h"
 #include "plotwindow/WndEvolPlot.h"
+#include "stability/CrossingView.h"
+#include "stability/WndStability.h"
 #include "vgfplot/EvmPlot.h"
 #include "vgfplot/EvolutionPlotter.h"
 
@@ -31,6 +33,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 
 namespace tarsil {
 
@@ -385,6 +388,24 @@ void wndMain::mnuFlutCalc_Click()
     m_report.run(activePlot(), m_document.airplane(), m_reportFolder);
 }
 
+void wndMain::showStability()
+{
+    if (!m_stability) {
+        m_stability = std::make_unique<wndStability>(m_document, m_userInterface, this);
+        connect(m_stability.get(), &wndStability::stretchChosen, this, &wndMain::showStretch);
+    }
+    m_stability->show();
+    m_stability->raise();
+    m_stability->activateWindow();
+}
+
+void wndMain::showStretch(const PlotStretch* stretch)
+{
+    m_evolPlot->highlight(stretch != nullptr ? std::optional(highlightOf(*stretch)) : std::nullopt);
+    if (stretch != nullptr)
+        m_data->selectCurve(*stretch->evolution, stretch->line.mode);
+}
+
 dlgOptions& wndMain::options()
 {
     if (!m_options)
@@ -446,6 +467,7 @@ void wndMain::closeDialogs()
 {
     m_refSpeed.reset();
     m_dampLine.reset();
+    m_stability.reset();
     m_options.reset();
     m_import.reset();
 }

@@ -25,9 +25,11 @@ class dlgDampLine;
 class dlgImport;
 class dlgOptions;
 class dlgRefSpeed;
+struct PlotStretch;
 class wndData;
 class wndEvolExplorer;
 class wndEvolPlot;
+class wndStability;
 
 /// The main window: menus, pop-up menus, status bar, and the three child windows. It owns the
 /// document, and has one implementation of each command, which menu items and their pop-up twins
@@ -119,6 +121,8 @@ private:
     void mnuAddDamp_Click();
     void mnuClearDamp_Click();
     void mnuFlutCalc_Click();
+    void showStability();
+    void showStretch(const PlotStretch* stretch);
     void mnuOptions_Click();
     void mnuDefLayout_Click();
     void TileVertMenu_Click();
@@ -152,6 +156,7 @@ private:
     QMenu* m_explorerMenu = nullptr;
     std::unique_ptr<dlgRefSpeed> m_refSpeed; ///< made when it is first wanted
     std::unique_ptr<dlgDampLine> m_dampLine;
+    std::unique_ptr<wndStability> m_stability;
     std::unique_ptr<dlgOptions> m_options;
     std::unique_ptr<dlgImport> m_import; ///< while it is open
 };

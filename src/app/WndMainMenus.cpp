@@ -44,6 +44,7 @@ std::vector<wndMain::CommandMenu> wndMain::commandTable()
           {"mnuAddDamp", "popAddDamp", "Add Damping Line ...", &wndMain::mnuAddDamp_Click},
           {"mnuClearDamp", "popClearDamp", "Clear Damping Lines", &wndMain::mnuClearDamp_Click},
           {"mnuFlutCalc", "popFlutCalc", "Calculate Flutter Speeds", &wndMain::mnuFlutCalc_Click},
+          {"stability", "popStability", "Stability ...", &wndMain::showStability},
           {"mnuOptions", nullptr, "Options ...", &wndMain::mnuOptions_Click}}},
         {"WindowsMenu",
          "&Window",

@@ -6,6 +6,7 @@
 
 #include <QWidget>
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -38,6 +39,10 @@ public:
 
     /// Writes what is being typed in the grid into its cell, as Enter does.
     void commitEdits();
+
+    /// Selects the first row whose curve is a mode, by its number in the file. Nothing happens when
+    /// there is none.
+    void selectCurve(const EVM& evolution, std::int16_t mode);
 
     QSize sizeHint() const override;
 

@@ -79,6 +79,18 @@ void changeLine(Series& series, const LineLook& before, const LineLook& now)
 
 } // namespace
 
+void wndData::selectCurve(const EVM& evolution, std::int16_t mode)
+{
+    for (int i = 0; i < m_model.rowCount(); ++i) {
+        const PlotRow& row = *m_model.row(i);
+        if (row.evolution != &evolution || !row.hasCurve() || row.series.Mode->Id != mode)
+            continue;
+        m_ui->flxSerieViewer->selectRows({static_cast<std::size_t>(i)}, modeColumn);
+        m_ui->flxSerieViewer->scrollTo(m_model.index(i, modeColumn));
+        return;
+    }
+}
+
 /// The rows become the series, and the plot is drawn; then one message names the modes that do not
 /// exist.
 void wndData::cmdDrawPlot_Click()

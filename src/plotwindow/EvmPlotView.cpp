@@ -18,7 +18,6 @@
 #include <QTextEdit>
 
 #include <algorithm>
-#include <optional>
 #include <utility>
 
 namespace tarsil {
@@ -105,12 +104,20 @@ void EvmPlotView::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     painter.setClipRegion(event->region());
     painter.drawImage(0, 0, m_plot.Image());
+    if (m_highlight)
+        paintHighlight(*m_highlight, m_plot, painter);
     paintPrompts(painter);
     paintSelection(painter);
     painter.end();
     if (failure) // the report is a window of its own, so it waits until painting is over
         QMetaObject::invokeMethod(
             this, [this, error = *failure] { Q_EMIT failed(error); }, Qt::QueuedConnection);
+}
+
+void EvmPlotView::setHighlight(const std::optional<PlotHighlight>& highlight)
+{
+    m_highlight = highlight;
+    update();
 }
 
 void EvmPlotView::paintPrompts(QPainter& painter) const

@@ -1,10 +1,13 @@
 #pragma once
 
 #include "base/user/RunTimeError.h"
+#include "plotwindow/PlotHighlight.h"
 #include "plotwindow/TextBoxMover.h"
 #include "vgfplot/EvmPlot.h"
 
 #include <QWidget>
+
+#include <optional>
 
 class QMenu;
 
@@ -28,6 +31,9 @@ public:
 
     /// Puts the picture on the clipboard: as metafile, SVG and bitmap.
     void copyPicture();
+
+    /// Points something out over the picture, until something else, or nothing, is.
+    void setHighlight(const std::optional<PlotHighlight>& highlight);
 
 Q_SIGNALS:
     /// Drawing failed; what could be drawn is shown. Emitted once for a failure, not at every
@@ -62,6 +68,7 @@ private:
     void updateDescription();
 
     EvmPlot& m_plot;
+    std::optional<PlotHighlight> m_highlight;
     TextBoxMover m_mover;
     QMenu* m_boxMenu;
     QAction* m_edit;

@@ -91,6 +91,12 @@ EvmPlotView* wndEvolPlot::viewOf(const EvmPlot& plot)
     return element != evpVgf.end() ? element->view.get() : nullptr;
 }
 
+void wndEvolPlot::highlight(const std::optional<PlotHighlight>& highlight)
+{
+    for (const Element& element : evpVgf)
+        element.view->setHighlight(element.plot == ActivePlot() ? highlight : std::nullopt);
+}
+
 void wndEvolPlot::resizeEvent(QResizeEvent* /*event*/)
 {
     FitPlot(ActivePlot());

@@ -2,11 +2,13 @@
 
 #include "base/user/RunTimeError.h"
 #include "base/user/UserInterface.h"
+#include "plotwindow/PlotHighlight.h"
 #include "vgfplot/EvmPlot.h"
 
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace tarsil {
@@ -56,6 +58,10 @@ public:
 
     /// The widget that shows a plot; null for a plot of another window.
     EvmPlotView* viewOf(const EvmPlot& plot);
+
+    /// Points something out in the active plot (`EvmPlotView::setHighlight`), and nothing in the
+    /// others.
+    void highlight(const std::optional<PlotHighlight>& highlight);
 
     /// Fits all plots, also those that have never been shown.
     void fitAll();

@@ -62,7 +62,7 @@ TEST_F(WndMainTest, hasTheMenusLetterForLetter)
     EXPECT_THAT(captionsOf(menu("mnuTools")),
                 ElementsAre("Add Reference Speed ...", "Clear Reference Speeds",
                             "Add Damping Line ...", "Clear Damping Lines",
-                            "Calculate Flutter Speeds", "Options ..."));
+                            "Calculate Flutter Speeds", "Stability ...", "Options ..."));
     EXPECT_THAT(captionsOf(menu("WindowsMenu")),
                 ElementsAre("Defalut Layout", "Tile Vertically", "Tile Horizontally"));
     std::vector<std::string> bar;
@@ -78,7 +78,7 @@ TEST_F(WndMainTest, hasThePopupsOfPlotAndExplorer)
     EXPECT_THAT(captionsOf(*tools),
                 ElementsAre("Add Reference Speed ...", "Clear Reference Speeds",
                             "Add Damping Line ...", "Clear Damping Lines",
-                            "Calculate Flutter Speeds"));
+                            "Calculate Flutter Speeds", "Stability ..."));
     const auto* const explorer = window.findChild<QMenu*>(QStringLiteral("popEvolExplorer"));
     EXPECT_EQ(explorer->title().toStdString(), "EvolExplorer");
     EXPECT_THAT(captionsOf(*explorer), ElementsAre("Set as reference", "Select multiple modes"));

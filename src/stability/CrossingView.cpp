@@ -1,0 +1,108 @@
+#include "stability/CrossingView.h"
+
+#include "model/EVM.h"
+#include "vgfplot/ScaleFit.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tarsil {
+
+namespace {
+
+void addRing(const std::optional<Crossing>& crossing, float level, PlotHighlight& highlight)
+{
+    if (crossing && hasSpeed(*crossing))
+        highlight.rings.push_back({crossing->speed, crossing->frequency, level});
+}
+
+/// Where to look at in a stretch.
+struct Target
+{
+    double speed;
+    double frequency;
+};
+
+Target targetOf(const Stretch& stretch)
+{
+    if (stretch.start)
+        return {stretch.start->speed, stretch.start->frequency};
+    if (stretch.end)
+        return {stretch.end->speed, stretch.end->frequency};
+    return {stretch.peakSpeed, stretch.peakFrequency};
+}
+
+/// The values of a mode at the speeds from `low` to `high`.
+struct Span
+{
+    double low;
+    double high;
+
+    void add(double value)
+    {
+        low = std::min(low, value);
+        high = std::max(high, value);
+    }
+};
+
+/// Ends and ticks in round numbers.
+void setRange(AxisValues& axis, const Span& span, Steps steps = Steps::Any)
+{
+    const RoundRange range = roundRange(span.low, span.high, steps);
+    axis.min = static_cast<float>(range.low);
+    axis.max = static_cast<float>(range.high);
+    axis.ticks = static_cast<std::int16_t>(range.steps);
+}
+
+const AeMode* modeOf(const PlotStretch& stretch)
+{
+    for (const auto& mode : stretch.evolution->Modes) {
+        if (mode->Id == stretch.line.mode)
+            return mode.get();
+    }
+    return nullptr;
+}
+
+} // namespace
+
+PlotHighlight highlightOf(const PlotStretch& stretch)
+{
+    const Stretch& found = stretch.line.stretch;
+    PlotHighlight highlight;
+    highlight.toSpeed = lastSpeedOf(*stretch.evolution);
+    if (found.start)
+        highlight.fromSpeed = hasSpeed(*found.start) ? found.start->speed : found.start->fromSpeed;
+    if (found.end)
+        highlight.toSpeed = hasSpeed(*found.end) ? found.end->speed : found.end->toSpeed;
+    addRing(found.start, stretch.line.level, highlight);
+    addRing(found.end, stretch.line.level, highlight);
+    return highlight;
+}
+
+PlotAxes axesAround(const PlotStretch& stretch, PlotAxes axes)
+{
+    constexpr double part = 0.25; ///< of the speed, to both sides
+    constexpr double leastDamping = 0.05;
+    constexpr double mostDamping = 0.25;
+    const Target target = targetOf(stretch.line.stretch);
+    const Span speeds {target.speed * (1 - part), target.speed * (1 + part)};
+    Span dampings {stretch.line.level - leastDamping, stretch.line.level + leastDamping};
+    Span frequencies {target.frequency * (1 - part), target.frequency * (1 + part)};
+    if (const AeMode* const mode = modeOf(stretch)) {
+        for (const Point& point : mode->Points) {
+            if (point.speed < speeds.low || point.speed > speeds.high)
+                continue;
+            dampings.add(std::clamp<double>(point.G, -mostDamping, mostDamping));
+            frequencies.add(point.f);
+        }
+    }
+    const bool isUpsideDown = axes.damping.max < axes.damping.min;
+    setRange(axes.speed, speeds, Steps::Whole);
+    setRange(axes.frequency, frequencies);
+    setRange(axes.damping, dampings);
+    if (isUpsideDown)
+        std::swap(axes.damping.min, axes.damping.max);
+    return axes;
+}
+
+} // namespace tarsil

@@ -1,0 +1,236 @@
+#include "stability/WndStability.h"
+
+#include "ui_WndStability.h"
+
+#include "aircraft/AirplaneInfo.h"
+#include "analysis/StabilityTexts.h"
+#include "base/numbers/Numbers.h"
+#include "base/user/ErrorGuard.h"
+#include "base/user/RunTimeError.h"
+#include "base/user/UserInterface.h"
+#include "document/Document.h"
+#include "stability/CrossingView.h"
+#include "vgfplot/EvmPlot.h"
+
+#include <QHeaderView>
+
+#include <set>
+
+namespace tarsil {
+
+namespace {
+
+constexpr std::string_view module = "wndStability";
+
+/// Rows are chosen whole, and nothing is edited.
+void prepareTable(QTableView& table, QAbstractItemModel& model)
+{
+    table.setModel(&model);
+    table.verticalHeader()->hide();
+    table.verticalHeader()->setDefaultSectionSize(table.fontMetrics().height() + 6);
+    table.horizontalHeader()->setHighlightSections(false);
+    table.horizontalHeader()->setStretchLastSection(true);
+}
+
+} // namespace
+
+wndStability::wndStability(Document& document, UserInterface& user, QWidget* parent)
+    : QDialog(parent), m_ui([this] {
+          auto ui = std::make_unique<Ui::wndStability>();
+          ui->setupUi(this);
+          return ui;
+      }()),
+      m_levelsWarning(*m_ui->levelsInp), m_toleranceWarning(*m_ui->toleranceInp),
+      m_noiseWarning(*m_ui->noiseInp), m_staticWarning(*m_ui->staticInp),
+      m_factorWarning(*m_ui->factorInp), m_requiredLevelWarning(*m_ui->requiredLevelInp),
+      m_document(document), m_user(user)
+{
+    setWindowFlag(Qt::WindowMaximizeButtonHint);
+    prepareTable(*m_ui->verdictGrid, m_verdicts);
+    prepareTable(*m_ui->stretchGrid, m_stretches);
+    connectInputs();
+    connectTables();
+    connect(&m_document.plots(), &PlotList::activeChanged, this, &wndStability::followPlot);
+    connect(&m_document, &Document::airplaneChanged, this, &wndStability::judge);
+    connect(&m_document.evolutions(), &EvolutionList::parametersChanged, this,
+            &wndStability::judge);
+    connect(&m_document.evolutions(), &EvolutionList::aboutToBeRemoved, this, [this] {
+        m_evolutions.clear(); // what is shown refers to them
+        fillTables();
+    });
+    followPlot(nullptr, m_document.plots().active());
+}
+
+wndStability::~wndStability() = default;
+
+QSize wndStability::sizeHint() const
+{
+    return {1180, 520};
+}
+
+void wndStability::connectInputs()
+{
+    for (QLineEdit* input : {m_ui->levelsInp, m_ui->toleranceInp, m_ui->noiseInp, m_ui->staticInp,
+                             m_ui->factorInp, m_ui->requiredLevelInp})
+        connect(input, &QLineEdit::textChanged, this, &wndStability::takeSettings);
+    connect(m_ui->rootsCmb, &QComboBox::currentIndexChanged, this, &wndStability::takeSettings);
+    connect(m_ui->linesBtn, &QPushButton::clicked, this,
+            [this] { run([this] { addRequirementLines(); }); });
+}
+
+void wndStability::connectTables()
+{
+    connect(m_ui->stretchGrid->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this](const QModelIndex& current) { choose(current.row()); });
+    connect(m_ui->stretchGrid, &QTableView::activated, this,
+            [this](const QModelIndex& index) { run([&] { zoomTo(index.row()); }); });
+}
+
+void wndStability::run(const std::function<void()>& action)
+{
+    m_user.beginCommand();
+    guarded(m_user, module, action);
+}
+
+/// A plot announces changes one by one; its rows are looked at when they are over.
+void wndStability::followPlot(EvmPlot* /*before*/, EvmPlot* now)
+{
+    disconnect(m_rowsConnection);
+    if (now != nullptr)
+        m_rowsConnection =
+            connect(now, &EvmPlot::changed, this, &wndStability::followRows, Qt::QueuedConnection);
+    followRows();
+}
+
+void wndStability::followRows()
+{
+    const EvmPlot* const plot = m_document.plots().active();
+    const auto evolutions = plot != nullptr ? evolutionsOf(*plot) : std::vector<const EVM*>();
+    if (evolutions == m_evolutions)
+        return;
+    m_evolutions = evolutions;
+    judge();
+}
+
+void wndStability::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    judge();
+}
+
+void wndStability::hideEvent(QHideEvent* event)
+{
+    Q_EMIT stretchChosen(nullptr);
+    QDialog::hideEvent(event);
+}
+
+void wndStability::takeSettings()
+{
+    StretchLimits& limits = m_settings.limits;
+    constexpr double leastFactor = 1e-6;
+    double requiredLevel = m_requirement.level;
+    takeLevels();
+    takeNumber(*m_ui->toleranceInp, m_toleranceWarning, 0, limits.tolerance);
+    takeNumber(*m_ui->noiseInp, m_noiseWarning, 0, limits.noise);
+    takeNumber(*m_ui->staticInp, m_staticWarning, 0, limits.staticFrequency);
+    takeNumber(*m_ui->factorInp, m_factorWarning, leastFactor, m_requirement.factor);
+    takeNumber(*m_ui->requiredLevelInp, m_requiredLevelWarning, -1, requiredLevel);
+    m_requirement.level = static_cast<float>(requiredLevel);
+    m_settings.isTracked = m_ui->rootsCmb->currentIndex() == 1;
+    judge();
+}
+
+/// Marks the input when there is no such number in it.
+void wndStability::takeNumber(QLineEdit& input, InputWarning& warning, double least, double& number)
+{
+    double typed = 0;
+    const bool isNumber = parseDouble(input.text().toStdString(), typed) == NumberStatus::Ok;
+    if (isNumber && typed >= least)
+        number = typed;
+    warning.show(isNumber && typed >= least
+                     ? QString()
+                     : tr("A number of at least %1 is needed; the last one counts.")
+                           .arg(QString::fromStdString(shortestText(least))));
+}
+
+void wndStability::takeLevels()
+{
+    try {
+        m_settings.levels = levelsOf(m_ui->levelsInp->text().toStdString());
+        m_levelsWarning.show({});
+    } catch (const RunTimeError&) {
+        m_levelsWarning.show(
+            tr("Numbers with commas between them are needed; the last ones count."));
+    }
+}
+
+void wndStability::judge()
+{
+    if (!isVisible())
+        return;
+    m_stability = stabilityOfAll(m_evolutions, m_settings, m_document.airplane(), m_requirement);
+    fillTables();
+}
+
+void wndStability::fillTables()
+{
+    if (m_evolutions.empty())
+        m_stability = {};
+    Q_EMIT stretchChosen(nullptr);
+    m_verdicts.setEvolutions(m_stability.evolutions, m_settings.levels);
+    m_stretches.setStretches(m_stability.stretches);
+    m_ui->verdictGrid->resizeColumnsToContents();
+    m_ui->stretchGrid->resizeColumnsToContents();
+    m_ui->leftOutLabel->setText(m_evolutions.empty() ? tr("The active plot has no rows.")
+                                                     : QString::fromStdString(leftOutText(
+                                                         m_stability.noise, m_stability.weak)));
+    m_ui->linesBtn->setEnabled(!m_document.airplane().FlutterEnvs.empty());
+}
+
+void wndStability::choose(int row)
+{
+    Q_EMIT stretchChosen(m_stretches.stretch(row));
+}
+
+EvmPlot& wndStability::activePlot() const
+{
+    EvmPlot* const plot = m_document.plots().active();
+    if (plot == nullptr)
+        throw RunTimeError(ErrorNumber::ObjectVariableNotSet, std::string(module),
+                           "no plot is active");
+    return *plot;
+}
+
+void wndStability::zoomTo(int row)
+{
+    const PlotStretch* const stretch = m_stretches.stretch(row);
+    if (stretch == nullptr)
+        return;
+    EvmPlot& plot = activePlot();
+    m_document.history().change(plot, tr("Zoom to Crossing"),
+                                [&] { plot.setAxes(axesAround(*stretch, plot.axes())); });
+}
+
+/// A reference speed for each required speed, and a damping line at the level of the requirement.
+void wndStability::addRequirementLines()
+{
+    EvmPlot& plot = activePlot();
+    std::set<double> speeds;
+    for (const EvolutionStability& stability : m_stability.evolutions) {
+        if (stability.margin && stability.margin->required.diveSpeed)
+            speeds.insert(stability.margin->required.speed());
+    }
+    if (speeds.empty())
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall, std::string(module),
+                           "no evolution of the plot has a flutter envelope for its Mach number");
+    const std::string tag = shortestText(m_requirement.factor) + " "
+        + (m_document.airplane().VdTag.empty() ? "Vd" : m_document.airplane().VdTag);
+    m_document.history().change(plot, tr("Requirement Lines"), [&] {
+        for (const double speed : speeds)
+            plot.AddRef(static_cast<float>(speed), QString::fromStdString(tag));
+        plot.AddDampLine(m_requirement.level,
+                         QString::fromStdString("g = " + shortestText(m_requirement.level)));
+    });
+}
+
+} // namespace tarsil

@@ -1,0 +1,177 @@
+#include "stability/WndStability.h"
+
+#include "aircraft/AirplaneInfo.h"
+#include "analysis/ModeBuilder.h"
+#include "document/Document.h"
+#include "support/ScriptedUserInterface.h"
+#include "vgfplot/EvmPlot.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTableView>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+using namespace tarsil;
+using test::addMode;
+
+namespace {
+
+/// The window over an active plot without rows, and two evolutions of the document.
+class WndStabilityTest : public ::testing::Test
+{
+protected:
+    WndStabilityTest() : window(document, user)
+    {
+        OwnedEvolutions evolutions;
+        evolutions.push_back(std::make_unique<EVM>());
+        evolutions.push_back(std::make_unique<EVM>());
+        first = evolutions[0].get();
+        second = evolutions[1].get();
+        first->FileName = "first.ev2";
+        second->FileName = "second.ev2";
+        addMode(*first, 1, {{300, -0.5F, 8}, {400, 0.5F, 10}});
+        addMode(*second, 1, {{300, -0.5F, 8}, {320, 0.002F, 10}, {340, -0.5F, 10}});
+        document.evolutions().add(std::move(evolutions));
+        document.plots().activate(&document.plots().first());
+        part<QLineEdit>("levelsInp").setText(QStringLiteral("0"));
+        window.show();
+    }
+
+    template <typename Widget>
+    Widget& part(const char* name)
+    {
+        return *window.findChild<Widget*>(QString::fromLatin1(name));
+    }
+
+    EvmPlot& plot() { return document.plots().first(); }
+
+    void draw(EVM& evolution)
+    {
+        plot().rows().add(newSeries(*evolution.Modes[0], 0));
+        QCoreApplication::processEvents();
+    }
+
+    int stretchCount() { return part<QTableView>("stretchGrid").model()->rowCount(); }
+    int verdictCount() { return part<QTableView>("verdictGrid").model()->rowCount(); }
+
+    Document document;
+    test::ScriptedUserInterface user;
+    wndStability window;
+    EVM* first = nullptr;
+    EVM* second = nullptr;
+};
+
+} // namespace
+
+TEST_F(WndStabilityTest, followsTheRowsOfTheActivePlot)
+{
+    EXPECT_EQ(part<QLabel>("leftOutLabel").text().toStdString(), "The active plot has no rows.");
+    draw(*first);
+    EXPECT_EQ(verdictCount(), 1);
+    EXPECT_EQ(stretchCount(), 1);
+    draw(*second);
+    EXPECT_EQ(verdictCount(), 2);
+    EXPECT_EQ(stretchCount(), 2);
+    document.plots().activate(&document.plots().add({}));
+    EXPECT_EQ(verdictCount(), 0);
+    document.plots().activate(&plot());
+    EXPECT_EQ(verdictCount(), 2);
+}
+
+TEST_F(WndStabilityTest, letsGoOfEvolutionsThatAreRemoved)
+{
+    draw(*first);
+    draw(*second);
+    document.takeOut(*second);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(verdictCount(), 1);
+    EXPECT_EQ(stretchCount(), 1);
+}
+
+TEST_F(WndStabilityTest, judgesAgainWithOtherSettings)
+{
+    draw(*first);
+    draw(*second);
+    part<QLineEdit>("toleranceInp").setText(QStringLiteral("0.01"));
+    EXPECT_EQ(stretchCount(), 1) << "0.002 is weak now";
+    EXPECT_EQ(part<QLabel>("leftOutLabel").text().toStdString(),
+              "0 noise, 1 weak stretches left out");
+    part<QLineEdit>("levelsInp").setText(QStringLiteral("0, 0.1, 0.2"));
+    EXPECT_EQ(stretchCount(), 3);
+    part<QComboBox>("rootsCmb").setCurrentIndex(1);
+    EXPECT_EQ(stretchCount(), 0) << "points without eigenvalues cannot be tracked";
+    EXPECT_EQ(verdictCount(), 2);
+}
+
+TEST_F(WndStabilityTest, marksASettingThatIsNoNumberAndKeepsTheLast)
+{
+    draw(*first);
+    QLineEdit& levels = part<QLineEdit>("levelsInp");
+    const QString usual = levels.toolTip();
+    levels.setText(QStringLiteral("0, high"));
+    EXPECT_EQ(stretchCount(), 1);
+    EXPECT_NE(levels.toolTip(), usual);
+    levels.setText(QStringLiteral("0"));
+    EXPECT_EQ(levels.toolTip(), usual);
+    QLineEdit& tolerance = part<QLineEdit>("toleranceInp");
+    const QString usualTolerance = tolerance.toolTip();
+    tolerance.setText(QStringLiteral("-1"));
+    EXPECT_NE(tolerance.toolTip(), usualTolerance);
+    EXPECT_EQ(stretchCount(), 1);
+    EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(WndStabilityTest, tellsWhichStretchIsChosen)
+{
+    draw(*first);
+    std::vector<const PlotStretch*> chosen;
+    QObject::connect(&window, &wndStability::stretchChosen,
+                     [&](const PlotStretch* stretch) { chosen.push_back(stretch); });
+    part<QTableView>("stretchGrid").selectRow(0);
+    ASSERT_EQ(chosen.size(), 1U);
+    ASSERT_NE(chosen[0], nullptr);
+    EXPECT_EQ(chosen[0]->evolution, first);
+    EXPECT_EQ(chosen[0]->line.mode, 1);
+    window.close();
+    EXPECT_EQ(chosen.back(), nullptr);
+}
+
+TEST_F(WndStabilityTest, zoomsToAStretchAsAStepThatCanBeUndone)
+{
+    draw(*first);
+    const PlotAxes before = plot().axes();
+    QTableView& table = part<QTableView>("stretchGrid");
+    Q_EMIT table.activated(table.model()->index(0, 0));
+    EXPECT_GT(plot().axes().speed.min, 200);
+    EXPECT_LT(plot().axes().speed.max, 500);
+    document.history().undo();
+    EXPECT_EQ(plot().axes(), before);
+}
+
+TEST_F(WndStabilityTest, drawsWhatTheAirplaneRequires)
+{
+    EXPECT_FALSE(part<QPushButton>("linesBtn").isEnabled());
+    AirplaneInfo airplane;
+    airplane.VdTag = "VD";
+    airplane.FlutterEnvs.push_back({250, 200, 180, "0.40"});
+    document.setAirplane(airplane);
+    draw(*first);
+    QTest::mouseClick(&part<QPushButton>("linesBtn"), Qt::LeftButton);
+    EXPECT_EQ(user.messages.size(), 1U) << "no envelope for Mach number 0";
+    document.evolutions().setParameters(*first, {"", "", 0.4F});
+    part<QLineEdit>("factorInp").setText(QStringLiteral("1.2"));
+    QTest::mouseClick(&part<QPushButton>("linesBtn"), Qt::LeftButton);
+    ASSERT_EQ(plot().Refs().size(), 1U);
+    EXPECT_EQ(plot().Refs()[0].Speed, 240);
+    EXPECT_EQ(plot().Refs()[0].Caption.toStdString(), "1.2 VD");
+    ASSERT_EQ(plot().DampLines().size(), 1U);
+    EXPECT_EQ(plot().DampLines()[0].g, 0.03F);
+    document.history().undo();
+    EXPECT_TRUE(plot().Refs().empty());
+    EXPECT_TRUE(plot().DampLines().empty());
+}
