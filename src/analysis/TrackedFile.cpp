@@ -6,6 +6,9 @@
 #include "model/EVM.h"
 
 #include <algorithm>
+#include <cmath>
+#include <numeric>
+#include <utility>
 
 namespace tarsil {
 
@@ -65,17 +68,55 @@ void describeStep(const EVM& evolution, const ModeTracking& tracking, std::size_
     }
 }
 
-void exchangeByHand(const EVM& evolution, const ModeExchange& exchange, TrackedEvolution& tracked)
+/// An exchange in indices, with its sentence.
+struct IndexedExchange
+{
+    std::size_t first;
+    std::size_t second;
+    std::size_t fromPoint;
+    std::string text;
+};
+
+IndexedExchange indexed(const EVM& evolution, const ModeExchange& exchange)
 {
     const std::size_t first = indexOfMode(evolution, exchange.firstMode);
     const std::size_t second = indexOfMode(evolution, exchange.secondMode);
     if (first == second)
         refuse(evolution, "a mode is to be exchanged with itself");
     const std::size_t point = firstPointAbove(evolution, exchange.aboveSpeed);
-    tracked.tracking.exchange(first, second, point);
-    tracked.modifications.push_back(exchangeText(evolution, std::min(first, second),
-                                                 std::max(first, second), exchange.aboveSpeed)
-                                    + " (by hand)");
+    return {first, second, point,
+            exchangeText(evolution, std::min(first, second), std::max(first, second),
+                         exchange.aboveSpeed)
+                + " (by hand)"};
+}
+
+/// The mode whose root after a step is nearest to that of a mode.
+std::size_t nearestRoot(const EVM& evolution, std::size_t mode, std::size_t point)
+{
+    const auto distance = [&evolution, mode, point](std::size_t other) {
+        const Point& a = evolution.Modes[mode]->Points[point];
+        const Point& b = evolution.Modes[other]->Points[point];
+        return std::hypot(a.re - b.re, a.im - b.im);
+    };
+    std::size_t nearest = mode == 0 ? 1 : 0;
+    for (std::size_t other = nearest + 1; other < evolution.Modes.size(); ++other) {
+        if (other != mode && distance(other) < distance(nearest))
+            nearest = other;
+    }
+    return nearest;
+}
+
+TrackingDoubt doubtOf(const EVM& evolution, const ModeTracking& tracking, const TrackMark& mark)
+{
+    const std::size_t mode = tracking.modeAt(mark.step - 1, mark.track);
+    const std::size_t nearest = nearestRoot(evolution, mode, mark.step);
+    const std::vector<Point>& points = evolution.Modes[mode]->Points;
+    return {evolution.Modes[mode]->Id,
+            evolution.Modes[nearest]->Id,
+            points[mark.step - 1].speed,
+            points[mark.step].speed,
+            mark.isAmbiguous,
+            mark.isJump};
 }
 
 } // namespace
@@ -87,8 +128,11 @@ TrackedEvolution trackEvolution(const EVM& evolution, const std::vector<ModeExch
     TrackedEvolution tracked {ModeTracking(evolution), {}};
     for (std::size_t point = 1; point < tracked.tracking.points(); ++point)
         describeStep(evolution, tracked.tracking, point, tracked.modifications);
-    for (const ModeExchange& exchange : exchanges)
-        exchangeByHand(evolution, exchange, tracked);
+    for (const ModeExchange& exchange : exchanges) {
+        IndexedExchange found = indexed(evolution, exchange);
+        tracked.tracking.exchange(found.first, found.second, found.fromPoint);
+        tracked.modifications.push_back(std::move(found.text));
+    }
     return tracked;
 }
 
@@ -101,6 +145,30 @@ std::string trackedText(std::string_view sourceText, const TrackedEvolution& tra
             sources[point].push_back(tracking.modeAt(point, track));
     }
     return relabelledEv2(sourceText, sources, tracked.modifications);
+}
+
+std::string exchangedText(std::string_view text, const EVM& evolution, const ModeExchange& exchange)
+{
+    const IndexedExchange found = indexed(evolution, exchange);
+    std::vector<std::size_t> modes(evolution.Modes.size());
+    std::iota(modes.begin(), modes.end(), std::size_t {0});
+    std::vector<std::vector<std::size_t>> sources(evolution.Modes.front()->Points.size(), modes);
+    for (std::size_t point = found.fromPoint; point < sources.size(); ++point)
+        std::swap(sources[point][found.first], sources[point][found.second]);
+    return relabelledEv2(text, sources, {found.text});
+}
+
+std::vector<TrackingDoubt> doubtsOf(const EVM& evolution)
+{
+    std::vector<TrackingDoubt> doubts;
+    if (evolution.Modes.size() < 2 || ModeTracking::obstacle(evolution))
+        return doubts;
+    const ModeTracking tracking(evolution);
+    for (const TrackMark& mark : tracking.marks())
+        doubts.push_back(doubtOf(evolution, tracking, mark));
+    std::stable_sort(doubts.begin(), doubts.end(),
+                     [](const auto& a, const auto& b) { return a.fromSpeed < b.fromSpeed; });
+    return doubts;
 }
 
 std::string trackedName(std::string_view fileName)

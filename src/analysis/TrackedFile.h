@@ -34,6 +34,26 @@ TrackedEvolution trackEvolution(const EVM& evolution, const std::vector<ModeExch
 /// are, and each exchange is a modification in the header. Errors: those of `relabelledEv2`.
 std::string trackedText(std::string_view sourceText, const TrackedEvolution& tracked);
 
+/// The file of an evolution in which two modes are exchanged, made of its text, without tracking it
+/// again; the exchange is a further modification. Errors: those of `trackEvolution` for an exchange
+/// and of `relabelledEv2`.
+std::string exchangedText(std::string_view text, const EVM& evolution,
+                          const ModeExchange& exchange);
+
+/// A step that the tracking doubts, as the user is shown it.
+struct TrackingDoubt
+{
+    std::int16_t mode = 0; ///< number of the printed mode before the step
+    std::int16_t nearestMode = 0; ///< of the mode whose root is the nearest one after the step
+    float fromSpeed = 0; ///< KEAS, of the points before and after
+    float toSpeed = 0;
+    bool isAmbiguous = false; ///< `TrackMark`
+    bool isJump = false;
+};
+
+/// The doubts about an evolution, by rising speed; none for one that cannot be tracked.
+std::vector<TrackingDoubt> doubtsOf(const EVM& evolution);
+
 /// The name of a tracked evolution: "wing_tracked.ev2" for "wing.ev2".
 std::string trackedName(std::string_view fileName);
 

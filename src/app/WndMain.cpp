@@ -19,7 +19,6 @@
 #include "options/DlgOptions.h"
 #include "plotwindow/DlgPlotProp.h"
 #include "plotwindow/WndEvolPlot.h"
-#include "stability/CrossingView.h"
 #include "stability/WndStability.h"
 #include "vgfplot/EvmPlot.h"
 #include "vgfplot/EvolutionPlotter.h"
@@ -33,7 +32,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <optional>
 
 namespace tarsil {
 
@@ -81,6 +79,7 @@ wndMain::wndMain(UserInterface& userInterface, FlutterReportCommand::FileOpener 
                  OptionsStore store)
     : m_userInterface(userInterface), m_workspace(m_document, userInterface),
       m_store(std::move(store)), m_report(userInterface, std::move(opener)),
+      m_tracking(m_document, userInterface),
       m_reportFolder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)),
       m_area(new QMdiArea(this)), m_statusPanels(new StatusPanels(this))
 {
@@ -390,20 +389,44 @@ void wndMain::mnuFlutCalc_Click()
 
 void wndMain::showStability()
 {
-    if (!m_stability) {
-        m_stability = std::make_unique<wndStability>(m_document, m_userInterface, this);
-        connect(m_stability.get(), &wndStability::stretchChosen, this, &wndMain::showStretch);
-    }
+    if (!m_stability)
+        connectStability();
     m_stability->show();
     m_stability->raise();
     m_stability->activateWindow();
 }
 
-void wndMain::showStretch(const PlotStretch* stretch)
+void wndMain::connectStability()
 {
-    m_evolPlot->highlight(stretch != nullptr ? std::optional(highlightOf(*stretch)) : std::nullopt);
-    if (stretch != nullptr)
-        m_data->selectCurve(*stretch->evolution, stretch->line.mode);
+    m_stability = std::make_unique<wndStability>(m_document, m_userInterface, this);
+    m_stability->setExchangeUndoable(m_tracking.canUndo());
+    connect(m_stability.get(), &wndStability::pointedOut, m_evolPlot, &wndEvolPlot::highlight);
+    connect(m_stability.get(), &wndStability::modeChosen, m_data, &wndData::selectCurve);
+    connect(m_stability.get(), &wndStability::exchangeWanted, this,
+            [this](const EVM& evolution, const ModeExchange& exchange) {
+                runTracking([&] { m_tracking.exchange(evolution, exchange); });
+            });
+    connect(m_stability.get(), &wndStability::exchangeUndoWanted, this,
+            [this] { runTracking([this] { m_tracking.undoExchange(); }); });
+}
+
+/// What changes a tracked evolution.
+void wndMain::runTracking(const std::function<void()>& action)
+{
+    m_userInterface.beginCommand();
+    guarded(m_userInterface, "wndMain", action);
+    if (m_stability)
+        m_stability->setExchangeUndoable(m_tracking.canUndo());
+}
+
+void wndMain::trackModes()
+{
+    const EVM* const evolution = m_explorer->selectedEvolution();
+    if (evolution == nullptr)
+        m_userInterface.showMessage("Please select a modal evolution.", "Tarsil",
+                                    MessageIcon::Exclamation);
+    else
+        m_tracking.track(*evolution);
 }
 
 dlgOptions& wndMain::options()

@@ -2,6 +2,7 @@
 
 #include "app/ChildFrame.h"
 #include "app/FlutterReportCommand.h"
+#include "app/TrackingCommands.h"
 #include "app/WorkspaceCommands.h"
 #include "base/user/UserInterface.h"
 #include "document/Document.h"
@@ -9,6 +10,7 @@
 
 #include <QMainWindow>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -25,7 +27,6 @@ class dlgDampLine;
 class dlgImport;
 class dlgOptions;
 class dlgRefSpeed;
-struct PlotStretch;
 class wndData;
 class wndEvolExplorer;
 class wndEvolPlot;
@@ -122,7 +123,9 @@ private:
     void mnuClearDamp_Click();
     void mnuFlutCalc_Click();
     void showStability();
-    void showStretch(const PlotStretch* stretch);
+    void connectStability();
+    void runTracking(const std::function<void()>& action);
+    void trackModes();
     void mnuOptions_Click();
     void mnuDefLayout_Click();
     void TileVertMenu_Click();
@@ -145,6 +148,7 @@ private:
     WorkspaceCommands m_workspace;
     OptionsStore m_store;
     FlutterReportCommand m_report;
+    TrackingCommands m_tracking;
     QString m_reportFolder;
     QMdiArea* m_area;
     StatusPanels* m_statusPanels;

@@ -88,6 +88,8 @@ void wndMain::makePopups()
     addCommand(*m_explorerMenu,
                {"", nullptr, "Select multiple modes", &wndMain::popSelMultModes_Click},
                "popSelMultModes");
+    addCommand(*m_explorerMenu, {"", nullptr, "Track Modes", &wndMain::trackModes},
+               "popTrackModes");
 }
 
 void wndMain::addCommand(QMenu& menu, const Command& command, const char* name)

@@ -66,6 +66,22 @@ void EvolutionList::setParameters(EVM& evolution, const EditableParam& parameter
     Q_EMIT parametersChanged(&evolution);
 }
 
+void EvolutionList::takePoints(EVM& evolution, const EVM& state)
+{
+    const bool isSame =
+        std::equal(evolution.Modes.begin(), evolution.Modes.end(), state.Modes.begin(),
+                   state.Modes.end(), [](const auto& a, const auto& b) {
+                       return a->Id == b->Id && a->Points.size() == b->Points.size();
+                   });
+    if (!isSame)
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall, "EvolutionList",
+                           "the file of \"" + evolution.FileName + "\" has other modes now");
+    for (std::size_t i = 0; i < evolution.Modes.size(); ++i)
+        evolution.Modes[i]->copyFrom(*state.Modes[i]);
+    evolution.Param.modifications = state.Param.modifications;
+    Q_EMIT pointsChanged(&evolution);
+}
+
 TakenEvolution EvolutionList::takeOut(EVM& evolution)
 {
     if (!contains(&evolution))

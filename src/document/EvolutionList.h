@@ -44,6 +44,10 @@ public:
     /// Changes the parameters that users may change.
     void setParameters(EVM& evolution, const EditableParam& parameters);
 
+    /// Makes points and modifications those of another state of its file, which has the same modes
+    /// and points; rows of plots keep their modes. Error 5 for another file.
+    void takePoints(EVM& evolution, const EVM& state);
+
     /// Takes an evolution out of the list; it is the reference evolution no longer. Error 5 for one
     /// that is not in the list. Rows of plots that show it are for `Document::takeOut` to remove.
     TakenEvolution takeOut(EVM& evolution);
@@ -66,6 +70,9 @@ Q_SIGNALS:
     void referenceChanged(tarsil::EVM* before, tarsil::EVM* now);
 
     void parametersChanged(tarsil::EVM* evolution);
+
+    /// `takePoints` was called.
+    void pointsChanged(tarsil::EVM* evolution);
 
 private:
     OwnedEvolutions::iterator find(const EVM* evolution);

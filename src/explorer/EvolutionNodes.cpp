@@ -5,6 +5,7 @@
 #include "document/EvolutionList.h"
 #include "explorer/ExplorerNode.h"
 #include "model/EVM.h"
+#include "model/KeyedTexts.h"
 #include "model/Provenance.h"
 
 #include <QList>
@@ -21,6 +22,7 @@ constexpr QLatin1String massSuffix("_mass");
 constexpr QLatin1String machSuffix("_mach");
 constexpr QLatin1String methodSuffix("_method");
 constexpr QLatin1String legendSuffix("_legend");
+constexpr QLatin1String modificationsSuffix("_modifications");
 constexpr QLatin1String sourceSuffix("_source");
 constexpr QLatin1String solverSuffix("_solver");
 constexpr QLatin1String unitsSuffix("_units");
@@ -39,6 +41,13 @@ void addValue(QTreeWidgetItem& group, const QString& text, bool isEditable)
 void addValue(QTreeWidgetItem& group, const std::string& text)
 {
     addValue(group, QString::fromStdString(text), false);
+}
+
+void fillModifications(QTreeWidgetItem& group, const EVM& evolution)
+{
+    qDeleteAll(group.takeChildren());
+    for (const KeyedTexts::Entry& modification : evolution.Param.modifications)
+        addValue(group, modification.text);
 }
 
 /// The groups that only imported evolutions have.
@@ -116,6 +125,20 @@ void EvolutionNodes::showParameters(const EVM& evolution)
                              QString::fromStdString(param.Mass), machText(param.Mach)};
     for (int group = 0; group < static_cast<int>(std::size(texts)); ++group)
         node->child(group)->child(0)->setText(0, texts[group]);
+}
+
+void EvolutionNodes::showModifications(const EVM& evolution)
+{
+    QTreeWidgetItem* const node = nodeOf(&evolution);
+    if (node == nullptr)
+        return;
+    const QString key = keyOf(*node) + modificationsSuffix;
+    for (int i = 0; i < node->childCount(); ++i) {
+        if (keyOf(*node->child(i)) == key)
+            return fillModifications(*node->child(i), evolution);
+    }
+    if (!evolution.Param.modifications.empty())
+        fillModifications(*addGroup(*node, key, "Modifications"), evolution);
 }
 
 void EvolutionNodes::remove(const EVM& evolution)
@@ -197,6 +220,8 @@ void EvolutionNodes::addGroups(QTreeWidgetItem& node, const EVM& evolution, cons
     QTreeWidgetItem* const legend = addGroup(node, key + legendSuffix, "Legend");
     for (const auto& mode : evolution.Modes)
         addValue(*legend, QStringLiteral("Mode %1").arg(mode->Id), false);
+    if (!param.modifications.empty())
+        fillModifications(*addGroup(node, key + modificationsSuffix, "Modifications"), evolution);
     if (evolution.provenance.isImported())
         addProvenance(node, evolution, key);
 }

@@ -18,9 +18,10 @@ class EvolutionList;
 enum class EvolutionValue { None, Airplane, Mass, Mach };
 
 /// The nodes of the modal evolutions, children of one folder. Each has a check box and, under it,
-/// the groups "Airplane", "Mass Conf.", "Mach No.", "Method" and "Legend" with their values; an
-/// imported one also has "Imported From", "Solver", "Printed Units" and "Import Log". An
-/// evolution's key is its path; the keys of its groups are that with a suffix.
+/// the groups "Airplane", "Mass Conf.", "Mach No.", "Method" and "Legend" with their values, and
+/// "Modifications" where its file names some; an imported one also has "Imported From", "Solver",
+/// "Printed Units" and "Import Log". An evolution's key is its path; the keys of its groups are
+/// that with a suffix.
 class EvolutionNodes
 {
 public:
@@ -35,6 +36,9 @@ public:
 
     /// Shows the parameters as they are now.
     void showParameters(const EVM& evolution);
+
+    /// Shows the modifications as they are now.
+    void showModifications(const EVM& evolution);
 
     /// Null for an evolution without a node.
     QTreeWidgetItem* nodeOf(const EVM* evolution) const;

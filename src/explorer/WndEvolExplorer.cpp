@@ -55,6 +55,8 @@ void wndEvolExplorer::followDocument()
     connect(&evolutions, &EvolutionList::referenceChanged, this, &wndEvolExplorer::showReference);
     connect(&evolutions, &EvolutionList::parametersChanged, this,
             [this](EVM* evolution) { m_evolutions.showParameters(*evolution); });
+    connect(&evolutions, &EvolutionList::pointsChanged, this,
+            [this](EVM* evolution) { m_evolutions.showModifications(*evolution); });
     showTexts();
     FillEvolsNode();
     showReference(nullptr, evolutions.reference());

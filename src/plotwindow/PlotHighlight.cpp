@@ -43,15 +43,15 @@ void paintHighlight(const PlotHighlight& highlight, const EvmPlot& plot, QPainte
         return;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    const QRect range = rangeIn(plot.vgPlot(), highlight);
-    painter.setClipRect(plot.vgPlot().geometry());
+    const QRect range = rangeIn(plot.parts().vgPlot, highlight);
+    painter.setClipRect(plot.parts().vgPlot.geometry());
     painter.fillRect(range, rangeColor);
     painter.setPen(QPen(edgeColor, 1, Qt::DashLine));
     painter.drawLine(range.topLeft(), range.bottomLeft());
     painter.drawLine(range.topRight(), range.bottomRight());
     for (const PlotHighlight::Ring& ring : highlight.rings) {
-        paintRing(plot.vfPlot(), ring.speed, ring.frequency, painter);
-        paintRing(plot.vgPlot(), ring.speed, ring.damping, painter);
+        paintRing(plot.parts().vfPlot, ring.speed, ring.frequency, painter);
+        paintRing(plot.parts().vgPlot, ring.speed, ring.damping, painter);
     }
     painter.restore();
 }

@@ -54,16 +54,37 @@ void setRange(AxisValues& axis, const Span& span, Steps steps = Steps::Any)
     axis.ticks = static_cast<std::int16_t>(range.steps);
 }
 
-const AeMode* modeOf(const PlotStretch& stretch)
+const AeMode* modeOf(const EVM& evolution, std::int16_t number)
 {
-    for (const auto& mode : stretch.evolution->Modes) {
-        if (mode->Id == stretch.line.mode)
+    for (const auto& mode : evolution.Modes) {
+        if (mode->Id == number)
             return mode.get();
     }
     return nullptr;
 }
 
+/// A ring around the point of a mode at a speed.
+void addRing(const EVM& evolution, std::int16_t number, float speed, PlotHighlight& highlight)
+{
+    const AeMode* const mode = modeOf(evolution, number);
+    if (mode == nullptr)
+        return;
+    for (const Point& point : mode->Points) {
+        if (point.speed == speed)
+            highlight.rings.push_back({point.speed, point.f, point.G});
+    }
+}
+
 } // namespace
+
+PlotHighlight highlightOf(const PlotDoubt& doubt)
+{
+    const TrackingDoubt& step = doubt.doubt;
+    PlotHighlight highlight {step.fromSpeed, step.toSpeed, {}};
+    for (const std::int16_t mode : {step.mode, step.nearestMode})
+        addRing(*doubt.evolution, mode, step.toSpeed, highlight);
+    return highlight;
+}
 
 PlotHighlight highlightOf(const PlotStretch& stretch)
 {
@@ -88,7 +109,7 @@ PlotAxes axesAround(const PlotStretch& stretch, PlotAxes axes)
     const Span speeds {target.speed * (1 - part), target.speed * (1 + part)};
     Span dampings {stretch.line.level - leastDamping, stretch.line.level + leastDamping};
     Span frequencies {target.frequency * (1 - part), target.frequency * (1 + part)};
-    if (const AeMode* const mode = modeOf(stretch)) {
+    if (const AeMode* const mode = modeOf(*stretch.evolution, stretch.line.mode)) {
         for (const Point& point : mode->Points) {
             if (point.speed < speeds.low || point.speed > speeds.high)
                 continue;

@@ -48,12 +48,13 @@ wndStability::wndStability(Document& document, UserInterface& user, QWidget* par
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     prepareTable(*m_ui->verdictGrid, m_verdicts);
     prepareTable(*m_ui->stretchGrid, m_stretches);
+    prepareTable(*m_ui->doubtGrid, m_doubts);
     connectInputs();
     connectTables();
     connect(&m_document.plots(), &PlotList::activeChanged, this, &wndStability::followPlot);
     connect(&m_document, &Document::airplaneChanged, this, &wndStability::judge);
-    connect(&m_document.evolutions(), &EvolutionList::parametersChanged, this,
-            &wndStability::judge);
+    for (const auto change : {&EvolutionList::parametersChanged, &EvolutionList::pointsChanged})
+        connect(&m_document.evolutions(), change, this, &wndStability::judge);
     connect(&m_document.evolutions(), &EvolutionList::aboutToBeRemoved, this, [this] {
         m_evolutions.clear(); // what is shown refers to them
         fillTables();
@@ -81,7 +82,11 @@ void wndStability::connectInputs()
 void wndStability::connectTables()
 {
     connect(m_ui->stretchGrid->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            [this](const QModelIndex& current) { choose(current.row()); });
+            [this](const QModelIndex& current) { chooseStretch(current.row()); });
+    connect(m_ui->doubtGrid->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this](const QModelIndex& current) { chooseDoubt(current.row()); });
+    connect(m_ui->exchangeBtn, &QPushButton::clicked, this, &wndStability::exchangeAtDoubt);
+    connect(m_ui->undoExchangeBtn, &QPushButton::clicked, this, &wndStability::exchangeUndoWanted);
     connect(m_ui->stretchGrid, &QTableView::activated, this,
             [this](const QModelIndex& index) { run([&] { zoomTo(index.row()); }); });
 }
@@ -120,7 +125,7 @@ void wndStability::showEvent(QShowEvent* event)
 
 void wndStability::hideEvent(QHideEvent* event)
 {
-    Q_EMIT stretchChosen(nullptr);
+    Q_EMIT pointedOut(std::nullopt);
     QDialog::hideEvent(event);
 }
 
@@ -176,7 +181,10 @@ void wndStability::fillTables()
 {
     if (m_evolutions.empty())
         m_stability = {};
-    Q_EMIT stretchChosen(nullptr);
+    Q_EMIT pointedOut(std::nullopt);
+    m_doubts.setDoubts(doubtsOfAll(m_evolutions));
+    m_ui->doubtGrid->resizeColumnsToContents();
+    m_ui->exchangeBtn->setEnabled(false);
     m_verdicts.setEvolutions(m_stability.evolutions, m_settings.levels);
     m_stretches.setStretches(m_stability.stretches);
     m_ui->verdictGrid->resizeColumnsToContents();
@@ -187,9 +195,38 @@ void wndStability::fillTables()
     m_ui->linesBtn->setEnabled(!m_document.airplane().FlutterEnvs.empty());
 }
 
-void wndStability::choose(int row)
+void wndStability::setExchangeUndoable(bool isUndoable)
 {
-    Q_EMIT stretchChosen(m_stretches.stretch(row));
+    m_ui->undoExchangeBtn->setEnabled(isUndoable);
+}
+
+void wndStability::chooseStretch(int row)
+{
+    const PlotStretch* const stretch = m_stretches.stretch(row);
+    if (stretch == nullptr)
+        return;
+    Q_EMIT pointedOut(highlightOf(*stretch));
+    Q_EMIT modeChosen(*stretch->evolution, stretch->line.mode);
+}
+
+void wndStability::chooseDoubt(int row)
+{
+    const PlotDoubt* const doubt = m_doubts.doubt(row);
+    m_ui->exchangeBtn->setEnabled(doubt != nullptr);
+    if (doubt == nullptr)
+        return;
+    Q_EMIT pointedOut(highlightOf(*doubt));
+    Q_EMIT modeChosen(*doubt->evolution, doubt->doubt.mode);
+}
+
+void wndStability::exchangeAtDoubt()
+{
+    const PlotDoubt* const doubt = m_doubts.doubt(m_ui->doubtGrid->currentIndex().row());
+    if (doubt == nullptr)
+        return;
+    const EVM& evolution = *doubt->evolution;
+    const TrackingDoubt step = doubt->doubt;
+    Q_EMIT exchangeWanted(evolution, {step.mode, step.nearestMode, step.fromSpeed});
 }
 
 EvmPlot& wndStability::activePlot() const
@@ -227,9 +264,10 @@ void wndStability::addRequirementLines()
         + (m_document.airplane().VdTag.empty() ? "Vd" : m_document.airplane().VdTag);
     m_document.history().change(plot, tr("Requirement Lines"), [&] {
         for (const double speed : speeds)
-            plot.AddRef(static_cast<float>(speed), QString::fromStdString(tag));
-        plot.AddDampLine(m_requirement.level,
-                         QString::fromStdString("g = " + shortestText(m_requirement.level)));
+            plot.marks().AddRef(static_cast<float>(speed), QString::fromStdString(tag));
+        plot.marks().AddDampLine(
+            m_requirement.level,
+            QString::fromStdString("g = " + shortestText(m_requirement.level)));
     });
 }
 

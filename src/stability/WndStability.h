@@ -1,6 +1,8 @@
 #pragma once
 
 #include "plotwindow/InputWarning.h"
+#include "plotwindow/PlotHighlight.h"
+#include "stability/DoubtModel.h"
 #include "stability/PlotStability.h"
 #include "stability/StabilityModel.h"
 #include "stability/VerdictModel.h"
@@ -8,8 +10,10 @@
 #include <QDialog>
 #include <QMetaObject>
 
+#include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class QLineEdit;
@@ -29,8 +33,9 @@ class UserInterface;
 /// active plot, its rows, the evolutions' parameters and the airplane for as long as it is shown. A
 /// setting that is no number is marked, and the last one that was a number counts.
 ///
-/// Choosing a stretch shows it in the plot; a double click sets the axes of the plot around it, as
-/// a step that can be undone.
+/// Choosing a stretch, or a doubt of the tracking, shows it in the plot; a double click on a
+/// stretch sets the axes of the plot around it, as a step that can be undone. From a doubt on two
+/// modes of a tracked evolution can be exchanged.
 class wndStability : public QDialog
 {
     Q_OBJECT
@@ -42,9 +47,19 @@ public:
 
     QSize sizeHint() const override;
 
+    /// Whether there is an exchange that can be taken back.
+    void setExchangeUndoable(bool isUndoable);
+
 Q_SIGNALS:
-    /// The user looks at a stretch of the active plot; null: at none any more.
-    void stretchChosen(const tarsil::PlotStretch* stretch);
+    /// What the user looks at is to be shown in the active plot, or nothing any more.
+    void pointedOut(const std::optional<tarsil::PlotHighlight>& highlight);
+
+    /// It belongs to a mode, by its number in the file.
+    void modeChosen(const tarsil::EVM& evolution, std::int16_t mode);
+
+    /// The user wants two modes exchanged from a speed on, or the last exchange taken back.
+    void exchangeWanted(const tarsil::EVM& evolution, const tarsil::ModeExchange& exchange);
+    void exchangeUndoWanted();
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -60,7 +75,9 @@ private:
     void takeLevels();
     void judge();
     void fillTables();
-    void choose(int row);
+    void chooseStretch(int row);
+    void chooseDoubt(int row);
+    void exchangeAtDoubt();
     void zoomTo(int row);
     void addRequirementLines();
     void run(const std::function<void()>& action);
@@ -81,6 +98,7 @@ private:
     PlotStability m_stability;
     StabilityModel m_stretches;
     VerdictModel m_verdicts;
+    DoubtModel m_doubts;
     QMetaObject::Connection m_rowsConnection;
 };
 

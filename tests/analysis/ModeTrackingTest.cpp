@@ -1,5 +1,6 @@
 #include "analysis/ModeTracking.h"
 
+#include "analysis/TrackedFile.h"
 #include "model/EVM.h"
 
 #include <gtest/gtest.h>
@@ -15,7 +16,7 @@ struct Root
 };
 
 /// An evolution with points at 100, 110, 120 ... KEAS.
-class TrackedEvolution
+class BuiltEvolution
 {
 public:
     void add(const std::vector<Root>& roots)
@@ -47,7 +48,7 @@ std::vector<std::size_t> modesOf(const ModeTracking& tracking, std::size_t track
 TEST(ModeTracking, followsARootThroughACrossingOfFrequencies)
 {
     // One root rises from 100 rad/s by 2 a step, the other falls from 109; printed by frequency.
-    TrackedEvolution built;
+    BuiltEvolution built;
     built.add({{-1, 100}, {-1, 102}, {-1, 104}, {-2, 103}, {-2, 101}});
     built.add({{-2, 109}, {-2, 107}, {-2, 105}, {-1, 106}, {-1, 108}});
     const ModeTracking tracking(built.evolution);
@@ -58,7 +59,7 @@ TEST(ModeTracking, followsARootThroughACrossingOfFrequencies)
 
 TEST(ModeTracking, keepsTheLabelsOfRootsThatStayApart)
 {
-    TrackedEvolution built;
+    BuiltEvolution built;
     built.add({{-1, 10}, {-1, 10.5F}, {-1, 11}});
     built.add({{-1, 30}, {-1, 29}, {-1, 28}});
     const ModeTracking tracking(built.evolution);
@@ -70,7 +71,7 @@ TEST(ModeTracking, keepsTheLabelsOfRootsThatStayApart)
 TEST(ModeTracking, marksAnAmbiguousStep)
 {
     // At the third point the two roots are as near to the one prediction as to the other.
-    TrackedEvolution built;
+    BuiltEvolution built;
     built.add({{0, 10}, {0, 10}, {-0.5F, 10.5F}});
     built.add({{0, 11}, {0, 11}, {0.5F, 10.5F}});
     const ModeTracking tracking(built.evolution);
@@ -82,7 +83,7 @@ TEST(ModeTracking, marksAnAmbiguousStep)
 
 TEST(ModeTracking, marksAJumpAndPredictsNothingFromIt)
 {
-    TrackedEvolution built;
+    BuiltEvolution built;
     built.add({{0, 10}, {0, 10.1F}, {0, 10.2F}, {0, 20}, {0, 20.1F}});
     built.add({{0, 50}, {0, 50}, {0, 50}, {0, 50}, {0, 50}});
     const ModeTracking tracking(built.evolution);
@@ -94,7 +95,7 @@ TEST(ModeTracking, marksAJumpAndPredictsNothingFromIt)
 
 TEST(ModeTracking, exchangesTwoTracksByHand)
 {
-    TrackedEvolution built;
+    BuiltEvolution built;
     built.add({{0, 10}, {0, 10}, {0, 10}});
     built.add({{0, 50}, {0, 50}, {0, 50}});
     ModeTracking tracking(built.evolution);
@@ -105,7 +106,7 @@ TEST(ModeTracking, exchangesTwoTracksByHand)
 
 TEST(ModeTracking, leavesOneModeAlone)
 {
-    TrackedEvolution built;
+    BuiltEvolution built;
     built.add({{0, 10}, {0, 90}});
     EXPECT_TRUE(ModeTracking(built.evolution).marks().empty());
 }
@@ -123,4 +124,33 @@ TEST(ModeTracking, saysWhatStandsInItsWay)
     TrackedEvolution good;
     good.add({{0, 10}});
     EXPECT_FALSE(ModeTracking::obstacle(good.evolution));
+}
+
+TEST(TrackingDoubts, nameTheModeAndTheNearestOneAfterTheStep)
+{
+    // The first root jumps from 104 to 300 rad/s, nearest to the third one.
+    BuiltEvolution built;
+    built.add({{-1, 100}, {-1, 102}, {-1, 104}, {-1, 300}});
+    built.add({{-2, 10}, {-2, 10}, {-2, 10}, {-2, 10}});
+    built.add({{-2, 400}, {-2, 400}, {-2, 400}, {-2, 400}});
+    const std::vector<TrackingDoubt> doubts = doubtsOf(built.evolution);
+    ASSERT_EQ(doubts.size(), 1U);
+    EXPECT_EQ(doubts[0].mode, 1);
+    EXPECT_EQ(doubts[0].nearestMode, 3);
+    EXPECT_EQ(doubts[0].fromSpeed, 120);
+    EXPECT_EQ(doubts[0].toSpeed, 130);
+    EXPECT_TRUE(doubts[0].isJump);
+    EXPECT_FALSE(doubts[0].isAmbiguous);
+}
+
+TEST(TrackingDoubts, areNoneWithoutEigenvaluesOrASecondMode)
+{
+    BuiltEvolution built;
+    built.add({{-1, 100}, {-1, 500}, {-1, 104}});
+    EXPECT_TRUE(doubtsOf(built.evolution).empty());
+    EXPECT_TRUE(doubtsOf(EVM()).empty());
+    BuiltEvolution flat;
+    flat.add({{0, 0}, {0, 0}});
+    flat.add({{0, 0}, {0, 0}});
+    EXPECT_TRUE(doubtsOf(flat.evolution).empty());
 }

@@ -81,7 +81,8 @@ TEST_F(WndMainTest, hasThePopupsOfPlotAndExplorer)
                             "Calculate Flutter Speeds", "Stability ..."));
     const auto* const explorer = window.findChild<QMenu*>(QStringLiteral("popEvolExplorer"));
     EXPECT_EQ(explorer->title().toStdString(), "EvolExplorer");
-    EXPECT_THAT(captionsOf(*explorer), ElementsAre("Set as reference", "Select multiple modes"));
+    EXPECT_THAT(captionsOf(*explorer),
+                ElementsAre("Set as reference", "Select multiple modes", "Track Modes"));
     EXPECT_EQ(window.popEvmPlot()->title().toStdString(), "EvmPlot");
 }
 

@@ -53,6 +53,23 @@ TEST_F(WndEvolExplorerTest, listsWhereAnImportedEvolutionComesFrom)
     EXPECT_FALSE(retype(valueOf(key + "_source"), "elsewhere"));
 }
 
+TEST_F(WndEvolExplorerTest, listsTheModificationsAsTheyAre)
+{
+    OwnedEvolutions loaded;
+    EVM& evolution = *loaded.emplace_back(std::make_unique<EVM>());
+    evolution.FileName = "wing_tracked.ev2";
+    document.evolutions().add(std::move(loaded));
+    EXPECT_THAT(childTexts(evolutionNode(evolution)),
+                ElementsAre("Airplane", "Mass Conf.", "Mach No.", "Method", "Legend"));
+    EVM state;
+    state.Param.modifications.add("1", "modes 4 and 5 exchanged above 382.23 KEAS (by hand)");
+    document.evolutions().takePoints(evolution, state);
+    EXPECT_THAT(childTexts(node(evolution.path() + "_modifications")),
+                ElementsAre("modes 4 and 5 exchanged above 382.23 KEAS (by hand)"));
+    document.evolutions().takePoints(evolution, EVM());
+    EXPECT_THAT(childTexts(node(evolution.path() + "_modifications")), ElementsAre());
+}
+
 TEST_F(WndEvolExplorerTest, listsNoEvolutionTwice)
 {
     load("a.evm");

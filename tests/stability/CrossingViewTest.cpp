@@ -52,6 +52,20 @@ TEST(CrossingView, hasNoRingBetweenDifferentRoots)
     EXPECT_TRUE(highlight.rings.empty());
 }
 
+TEST(CrossingView, ringsBothModesAfterADoubtfulStep)
+{
+    EVM evolution;
+    addMode(evolution, 1, {{300, -0.5F, 8}, {400, 0.5F, 10}});
+    addMode(evolution, 2, {{300, -0.1F, 9}, {400, 0.2F, 11}});
+    const PlotHighlight highlight =
+        highlightOf(PlotDoubt {&evolution, {1, 2, 300, 400, true, false}});
+    EXPECT_EQ(highlight.fromSpeed, 300);
+    EXPECT_EQ(highlight.toSpeed, 400);
+    ASSERT_EQ(highlight.rings.size(), 2U);
+    EXPECT_EQ(highlight.rings[0].frequency, 10);
+    EXPECT_EQ(highlight.rings[1].damping, 0.2F);
+}
+
 TEST(CrossingView, setsAxesAroundTheStart)
 {
     EVM evolution;

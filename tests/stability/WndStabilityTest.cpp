@@ -126,19 +126,50 @@ TEST_F(WndStabilityTest, marksASettingThatIsNoNumberAndKeepsTheLast)
     EXPECT_TRUE(user.messages.empty());
 }
 
-TEST_F(WndStabilityTest, tellsWhichStretchIsChosen)
+TEST_F(WndStabilityTest, pointsOutTheStretchThatIsChosen)
 {
     draw(*first);
-    std::vector<const PlotStretch*> chosen;
-    QObject::connect(&window, &wndStability::stretchChosen,
-                     [&](const PlotStretch* stretch) { chosen.push_back(stretch); });
+    std::vector<std::optional<PlotHighlight>> shown;
+    QObject::connect(&window, &wndStability::pointedOut,
+                     [&](const std::optional<PlotHighlight>& one) { shown.push_back(one); });
+    std::vector<std::int16_t> modes;
+    QObject::connect(&window, &wndStability::modeChosen, [&](const EVM& evolution, int mode) {
+        EXPECT_EQ(&evolution, first);
+        modes.push_back(static_cast<std::int16_t>(mode));
+    });
     part<QTableView>("stretchGrid").selectRow(0);
-    ASSERT_EQ(chosen.size(), 1U);
-    ASSERT_NE(chosen[0], nullptr);
-    EXPECT_EQ(chosen[0]->evolution, first);
-    EXPECT_EQ(chosen[0]->line.mode, 1);
+    ASSERT_EQ(shown.size(), 1U);
+    EXPECT_EQ(shown[0].value().fromSpeed, 350);
+    EXPECT_EQ(modes, std::vector<std::int16_t> {1});
     window.close();
-    EXPECT_EQ(chosen.back(), nullptr);
+    EXPECT_FALSE(shown.back());
+}
+
+TEST_F(WndStabilityTest, letsModesBeExchangedFromADoubtOn)
+{
+    // Two roots cross between 200 and 300: Im is 10, 20, 30 and 40, 31, 20.
+    AeMode& other = addMode(*first, 2, {{100, -1, 4}, {200, -1, 3}, {300, -1, 2}});
+    first->Modes[0]->copyFrom(other);
+    first->Modes[0]->Id = 1;
+    const float roots[2][3] = {{10, 20, 30}, {40, 31, 20}};
+    for (std::size_t mode = 0; mode < 2; ++mode) {
+        for (std::size_t i = 0; i < 3; ++i)
+            first->Modes[mode]->Points[i].im = roots[mode][i];
+    }
+    draw(*first);
+    const auto& doubts = part<QTableView>("doubtGrid");
+    ASSERT_GT(doubts.model()->rowCount(), 0);
+    EXPECT_FALSE(part<QPushButton>("exchangeBtn").isEnabled());
+    std::vector<ModeExchange> wanted;
+    QObject::connect(&window, &wndStability::exchangeWanted,
+                     [&](const EVM&, const ModeExchange& one) { wanted.push_back(one); });
+    part<QTableView>("doubtGrid").selectRow(0);
+    part<QPushButton>("exchangeBtn").click();
+    ASSERT_EQ(wanted.size(), 1U);
+    EXPECT_EQ(wanted[0].firstMode + wanted[0].secondMode, 3);
+    EXPECT_EQ(doubts.model()->index(0, 3).data().toFloat(), wanted[0].aboveSpeed);
+    window.setExchangeUndoable(true);
+    EXPECT_TRUE(part<QPushButton>("undoExchangeBtn").isEnabled());
 }
 
 TEST_F(WndStabilityTest, zoomsToAStretchAsAStepThatCanBeUndone)
@@ -166,12 +197,12 @@ TEST_F(WndStabilityTest, drawsWhatTheAirplaneRequires)
     document.evolutions().setParameters(*first, {"", "", 0.4F});
     part<QLineEdit>("factorInp").setText(QStringLiteral("1.2"));
     QTest::mouseClick(&part<QPushButton>("linesBtn"), Qt::LeftButton);
-    ASSERT_EQ(plot().Refs().size(), 1U);
-    EXPECT_EQ(plot().Refs()[0].Speed, 240);
-    EXPECT_EQ(plot().Refs()[0].Caption.toStdString(), "1.2 VD");
-    ASSERT_EQ(plot().DampLines().size(), 1U);
-    EXPECT_EQ(plot().DampLines()[0].g, 0.03F);
+    ASSERT_EQ(plot().marks().referenceSpeeds().size(), 1U);
+    EXPECT_EQ(plot().marks().referenceSpeeds()[0].Speed, 240);
+    EXPECT_EQ(plot().marks().referenceSpeeds()[0].Caption.toStdString(), "1.2 VD");
+    ASSERT_EQ(plot().marks().dampingLines().size(), 1U);
+    EXPECT_EQ(plot().marks().dampingLines()[0].Y1, 0.03F);
     document.history().undo();
-    EXPECT_TRUE(plot().Refs().empty());
-    EXPECT_TRUE(plot().DampLines().empty());
+    EXPECT_TRUE(plot().marks().referenceSpeeds().empty());
+    EXPECT_TRUE(plot().marks().dampingLines().empty());
 }
