@@ -29,12 +29,15 @@ void sortOut(EvolutionStability& result)
                      [](const auto& a, const auto& b) { return startOf(a) < startOf(b); });
 }
 
-Margin marginAt(const StabilityInput& input, StabilitySettings settings, float lastSpeed)
+/// The verdict at a level, which need not be one of the settings.
+StabilityVerdict verdictAt(float level, const EvolutionStability& stability,
+                           StabilitySettings settings)
 {
-    const float level = input.required->requirement.level;
+    const std::vector<float>& levels = settings.levels;
+    if (std::find(levels.begin(), levels.end(), level) != levels.end())
+        return verdictOf(stability.roots, level);
     settings.levels = {level};
-    const StabilityVerdict verdict = verdictOf(stabilityOf(*input.evolution, settings), level);
-    return marginOf(verdict, lastSpeed, *input.required);
+    return verdictOf(stabilityOf(*stability.evolution, settings), level);
 }
 
 } // namespace
@@ -63,8 +66,11 @@ EvolutionStability judged(const StabilityInput& input, const StabilitySettings& 
     for (const float level : settings.levels)
         result.verdicts.push_back(verdictOf(result.roots, level));
     sortOut(result);
-    if (input.required)
-        result.margin = marginAt(input, settings, result.lastSpeed);
+    if (input.required) {
+        const float level = input.required->requirement.level;
+        result.margin =
+            marginOf(verdictAt(level, result, settings), result.lastSpeed, *input.required);
+    }
     return result;
 }
 

@@ -53,11 +53,16 @@ wndStability::wndStability(Document& document, UserInterface& user, QWidget* par
     connectTables();
     connect(&m_document.plots(), &PlotList::activeChanged, this, &wndStability::followPlot);
     connect(&m_document, &Document::airplaneChanged, this, &wndStability::judge);
-    for (const auto change : {&EvolutionList::parametersChanged, &EvolutionList::pointsChanged})
-        connect(&m_document.evolutions(), change, this, &wndStability::judge);
+    connect(&m_document.evolutions(), &EvolutionList::parametersChanged, this,
+            &wndStability::judge);
+    connect(&m_document.evolutions(), &EvolutionList::pointsChanged, this,
+            &wndStability::fillDoubts);
+    connect(&m_document.evolutions(), &EvolutionList::pointsChanged, this, &wndStability::judge);
     connect(&m_document.evolutions(), &EvolutionList::aboutToBeRemoved, this, [this] {
         m_evolutions.clear(); // what is shown refers to them
+        m_doubts.setDoubts({});
         fillTables();
+        QMetaObject::invokeMethod(this, &wndStability::followRows, Qt::QueuedConnection);
     });
     followPlot(nullptr, m_document.plots().active());
 }
@@ -114,12 +119,24 @@ void wndStability::followRows()
     if (evolutions == m_evolutions)
         return;
     m_evolutions = evolutions;
+    fillDoubts();
     judge();
+}
+
+/// They depend on the evolutions alone.
+void wndStability::fillDoubts()
+{
+    if (!isVisible())
+        return;
+    m_doubts.setDoubts(doubtsOfAll(m_evolutions));
+    m_ui->doubtGrid->resizeColumnsToContents();
+    m_ui->exchangeBtn->setEnabled(false);
 }
 
 void wndStability::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
+    fillDoubts();
     judge();
 }
 
@@ -182,9 +199,6 @@ void wndStability::fillTables()
     if (m_evolutions.empty())
         m_stability = {};
     Q_EMIT pointedOut(std::nullopt);
-    m_doubts.setDoubts(doubtsOfAll(m_evolutions));
-    m_ui->doubtGrid->resizeColumnsToContents();
-    m_ui->exchangeBtn->setEnabled(false);
     m_verdicts.setEvolutions(m_stability.evolutions, m_settings.levels);
     m_stretches.setStretches(m_stability.stretches);
     m_ui->verdictGrid->resizeColumnsToContents();

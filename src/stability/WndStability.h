@@ -75,6 +75,7 @@ private:
     void takeLevels();
     void judge();
     void fillTables();
+    void fillDoubts();
     void chooseStretch(int row);
     void chooseDoubt(int row);
     void exchangeAtDoubt();

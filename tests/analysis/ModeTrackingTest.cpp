@@ -113,15 +113,15 @@ TEST(ModeTracking, leavesOneModeAlone)
 
 TEST(ModeTracking, saysWhatStandsInItsWay)
 {
-    TrackedEvolution unequal;
+    BuiltEvolution unequal;
     unequal.add({{0, 10}, {0, 90}});
     unequal.add({{0, 10}});
     EXPECT_EQ(ModeTracking::obstacle(unequal.evolution),
               "its modes have unequal numbers of points");
-    TrackedEvolution empty;
+    BuiltEvolution empty;
     empty.add({{0, 0}, {0, 0}});
     EXPECT_EQ(ModeTracking::obstacle(empty.evolution), "its points have no eigenvalues");
-    TrackedEvolution good;
+    BuiltEvolution good;
     good.add({{0, 10}});
     EXPECT_FALSE(ModeTracking::obstacle(good.evolution));
 }
@@ -131,7 +131,7 @@ TEST(TrackingDoubts, nameTheModeAndTheNearestOneAfterTheStep)
     // The first root jumps from 104 to 300 rad/s, nearest to the third one.
     BuiltEvolution built;
     built.add({{-1, 100}, {-1, 102}, {-1, 104}, {-1, 300}});
-    built.add({{-2, 10}, {-2, 10}, {-2, 10}, {-2, 10}});
+    built.add({{-2, 5}, {-2, 5}, {-2, 5}, {-2, 5}});
     built.add({{-2, 400}, {-2, 400}, {-2, 400}, {-2, 400}});
     const std::vector<TrackingDoubt> doubts = doubtsOf(built.evolution);
     ASSERT_EQ(doubts.size(), 1U);
