@@ -8,6 +8,7 @@
 #include <gmock/gmock.h>
 
 #include <QComboBox>
+#include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QMimeData>
 #include <QTreeWidget>
@@ -93,6 +94,24 @@ TEST_F(ImportResults, openTheDialogWhenTheyAreDropped)
     EXPECT_EQ(evolutions(), 1U);
     drop({writeSummary("tail.f06")});
     EXPECT_THAT(listedFiles(), ElementsAre("wing.f06", "tail.f06"));
+}
+
+TEST_F(ImportResults, areTakenByTheWindowAndOtherThingsAreNot)
+{
+    load();
+    const auto isTaken = [this](const QMimeData& data) {
+        QDragEnterEvent event(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        event.ignore();
+        static_cast<QObject&>(window).event(&event);
+        return event.isAccepted();
+    };
+    QMimeData data;
+    data.setText(QStringLiteral("words"));
+    EXPECT_FALSE(isTaken(data));
+    data.setUrls({QUrl(QStringLiteral("https://example.org/wing.f06"))});
+    EXPECT_FALSE(isTaken(data));
+    data.setUrls({QUrl::fromLocalFile(QStringLiteral("/runs/wing.f06"))});
+    EXPECT_TRUE(isTaken(data));
 }
 
 TEST_F(ImportResults, goIntoTheExplorer)

@@ -3,6 +3,7 @@
 #include "app/StatusPanels.h"
 #include "formats/EvolutionLoader.h"
 #include "formats/MdlMix.h"
+#include "support/TestFiles.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -94,7 +95,7 @@ TEST_F(QtUserInterfaceTest, asksForATextAndOffersOne)
         EXPECT_EQ(dialog.labelText(), QStringLiteral("Mach?"));
         EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Tarsil: wing"));
         dialog.setTextValue(QStringLiteral("0.9"));
-        dialog.accept();
+        static_cast<QDialog&>(dialog).accept();
     });
     EXPECT_EQ(user.askText("Mach?", "Tarsil: wing", "0.8"), "0.9");
     onDialog<QInputDialog>([](QInputDialog& dialog) { dialog.reject(); });
@@ -119,6 +120,20 @@ TEST_F(QtUserInterfaceTest, offersFilesByTheWantedFilter)
     EXPECT_EQ(user.askSaveFile(question), std::nullopt);
 }
 
+TEST_F(QtUserInterfaceTest, asksForAFolderThatExists)
+{
+    const test::TemporaryFolder folder;
+    const std::string path = folder.path().string();
+    onDialog<QFileDialog>([&](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.fileMode(), QFileDialog::Directory);
+        EXPECT_EQ(dialog.directory().absolutePath().toStdString(), path);
+        static_cast<QDialog&>(dialog).accept();
+    });
+    EXPECT_EQ(user.askFolder(path), path);
+    onDialog<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
+    EXPECT_EQ(user.askFolder(path), std::nullopt);
+}
+
 TEST_F(QtUserInterfaceTest, belongsToTheWindowThatAsksAndGivesItTheKeyboardBack)
 {
     QDialog asking(&window);
@@ -132,8 +147,11 @@ TEST_F(QtUserInterfaceTest, belongsToTheWindowThatAsksAndGivesItTheKeyboardBack)
     const FileQuestion question {"All Files (*.*)|*.*|", 1, false, {}, true};
     const std::function<void()> questions[] = {
         [&] { user.showMessage("Wrong.", "Error", MessageIcon::Critical); },
-        [&] { user.confirm("Really?", "Tarsil"); }, [&] { user.askText("Mach?", "Tarsil", ""); },
-        [&] { user.askOpenFiles(question); }, [&] { user.askSaveFile(question); }};
+        [&] { user.confirm("Really?", "Tarsil"); },
+        [&] { user.askText("Mach?", "Tarsil", ""); },
+        [&] { user.askOpenFiles(question); },
+        [&] { user.askSaveFile(question); },
+        [&] { user.askFolder("/"); }};
     int asked = 0;
     for (const auto& ask : questions) {
         onDialog<QDialog>([&](QDialog& dialog) {
