@@ -236,7 +236,7 @@ void dlgImport::showConsequences()
                                 : tr("%1 modal evolutions will be written.").arg(count));
 }
 
-/// What cannot be converted is said in the place of the speeds.
+/// What cannot be converted is said where the speeds would be.
 void dlgImport::showPreview()
 {
     const auto analysis = currentAnalysis();
