@@ -43,22 +43,25 @@ Extent readLine(std::string_view bytes, std::size_t begin)
     Extent line {begin, std::string_view::npos, begin, true};
     bool isQuoted = false;
     bool isEscaped = false;
+    std::size_t afterEscapedLineEnd = std::string_view::npos; // what follows goes on with the line
     for (; line.end < bytes.size(); ++line.end) {
         const char c = bytes[line.end];
         if (isEscaped) {
             isEscaped = false;
             if (isLineEndOfTwo(bytes.substr(line.end)))
                 ++line.end;
+            if (lineEnds.find(c) != std::string_view::npos)
+                afterEscapedLineEnd = line.end + 1;
             continue;
         }
         if (!isQuoted && (c == ';' || lineEnds.find(c) != std::string_view::npos))
-            return line;
+            break;
         isEscaped = c == '\\';
         isQuoted = isQuoted != (c == '"');
         if (c == '=' && !isQuoted && line.equals == std::string_view::npos)
             line.equals = line.end;
     }
-    line.isClosed = !isQuoted && !isEscaped;
+    line.isClosed = !isQuoted && !isEscaped && line.end != afterEscapedLineEnd;
     return line;
 }
 

@@ -55,6 +55,13 @@ void forEachRow(const std::vector<SolverRun>& runs, Visit visit)
     }
 }
 
+/// A quotient beyond the range of numbers proves nothing.
+void addFinite(double value, std::vector<double>& values)
+{
+    if (std::isfinite(value))
+        values.push_back(value);
+}
+
 std::vector<double> chords(const std::vector<SolverRun>& runs)
 {
     std::vector<double> values;
@@ -62,8 +69,8 @@ std::vector<double> chords(const std::vector<SolverRun>& runs)
         const bool tellsChord = !isReducedFrequencyMethod(run.key.method) && row.k > leastK
             && row.frequency > leastFrequency && row.speed != 0;
         if (tellsChord)
-            values.push_back(exactK(row) * std::abs(row.speed)
-                             / (std::numbers::pi * row.frequency));
+            addFinite(exactK(row) * std::abs(row.speed) / (std::numbers::pi * row.frequency),
+                      values);
     });
     return values;
 }
@@ -85,7 +92,7 @@ void findSpeedOfSound(const std::vector<SolverRun>& runs, UnitEvidence& evidence
     std::vector<double> values;
     forEachRow(runs, [&values](const SolverRun&, const SummaryRow& row) {
         if (row.mach > 0 && row.speed != 0)
-            values.push_back(std::abs(row.speed) / row.mach);
+            addFinite(std::abs(row.speed) / row.mach, values);
     });
     if (values.empty())
         return;

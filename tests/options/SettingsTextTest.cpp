@@ -119,6 +119,9 @@ TEST(SettingsText, isNotWholeWhenAQuoteOrEscapeReachesBeyondItsEnd)
 {
     EXPECT_FALSE(SettingsText("[Options]\na=\"1").isWhole());
     EXPECT_FALSE(SettingsText("[Options]\na=1\\").isWhole());
+    for (const char* const escapedLineEnd : {"\\\n", "\\\r", "\\\r\n", "\\\n\r", "\\\r\r\n"})
+        EXPECT_FALSE(SettingsText(std::string("[Options]\na=1") + escapedLineEnd).isWhole());
+    EXPECT_TRUE(SettingsText("[Options]\na=1\\\n2").isWhole());
     EXPECT_FALSE(SettingsText("[Options\na=1\n").isWhole());
     EXPECT_FALSE(SettingsText("[Options]\na\n").isWhole());
     EXPECT_TRUE(SettingsText("\n ; \n[Options] x\na=\"1\"\n").isWhole());

@@ -119,6 +119,18 @@ TEST(UnitEvidence, recognisesSpeedOfSoundAndDensityOfPknl)
     EXPECT_EQ(output.evidence.density->name, "slug/ft3");
 }
 
+TEST(UnitEvidence, isNothingWhereAQuotientIsNoNumber)
+{
+    const TemporaryFolder folder;
+    const SolverOutput output = readSolverOutput(folder.write(
+        "wing.f06",
+        printed({.pointLine = "   POINT =    1     METHOD = PKNL",
+                 .hasDensity = true,
+                 .rows = {" 0.0 2.0 2.3769E-03 1.0E-300 5.6E+20 -0.01 5.0 -0.2 31.4"}})));
+    EXPECT_FALSE(output.evidence.speedOfSound);
+    EXPECT_THAT(evidenceText(output.evidence, output.file), IsEmpty());
+}
+
 TEST(UnitEvidence, isNothingWithoutATable)
 {
     const TemporaryFolder folder;
