@@ -1,8 +1,9 @@
 #include "app/MarkDialog.h"
 
-#include "base/numbers/Numbers.h"
 #include "base/user/ErrorGuard.h"
+#include "base/user/RunTimeError.h"
 #include "base/user/UserInterface.h"
+#include "plotwindow/NumberInput.h"
 #include "vgfplot/EvmPlot.h"
 
 #include <QKeyEvent>
@@ -27,15 +28,16 @@ void MarkDialog::addMark(QLineEdit& input, std::string_view module,
 {
     m_userInterface.beginCommand();
     guarded(m_userInterface, module, [&] {
-        const std::string text = input.text().toStdString();
+        const NumberInput number(input, module, "Value");
         float value = 0;
-        const NumberStatus status = parseSingle(text, value);
-        if (status != NumberStatus::Ok)
-            goTo(input);
-        if (status == NumberStatus::NotANumber)
-            return askForNumber();
-        if (status != NumberStatus::Ok)
-            throwNumberError(status, text, module, "Value");
+        try {
+            value = number.single();
+        } catch (const RunTimeError& error) {
+            number.goTo(); // where the button was pressed, there is no field with the focus
+            if (error.number() == ErrorNumber::TypeMismatch)
+                return askForNumber();
+            throw;
+        }
         EvmPlot* const plot = m_activePlot();
         if (plot == nullptr)
             m_userInterface.showMessage("Please select activate a plot.", "Tarsil",
@@ -43,13 +45,6 @@ void MarkDialog::addMark(QLineEdit& input, std::string_view module,
         else
             add(*plot, value);
     });
-}
-
-/// The button has brought the user here, or he has been in one of the inputs and stays there.
-void MarkDialog::goTo(QLineEdit& input)
-{
-    if (qobject_cast<QLineEdit*>(focusWidget()) == nullptr)
-        input.setFocus();
 }
 
 void MarkDialog::askForNumber()

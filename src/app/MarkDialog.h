@@ -43,8 +43,6 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void goTo(QLineEdit& input);
-
     ActivePlot m_activePlot;
     UserInterface& m_userInterface;
 };

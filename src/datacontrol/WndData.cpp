@@ -37,9 +37,8 @@ std::unique_ptr<Ui::wndData> makeForm(wndData& window)
 } // namespace
 
 wndData::wndData(Document& document, UserInterface& user, QWidget* parent)
-    : QWidget(parent), m_ui(makeForm(*this)), m_sizeWarning(*m_ui->mksizeInp),
-      m_spacingWarning(*m_ui->mkspaceInp), m_factorWarning(*m_ui->ithmpfInp),
-      m_model(document.history()), m_document(document), m_user(user)
+    : QWidget(parent), m_ui(makeForm(*this)), m_markers(*m_ui), m_model(document.history()),
+      m_document(document), m_user(user)
 {
     m_ui->txtLegIdx->home(false); // what it means is at its beginning
     setFocusProxy(m_ui->flxSerieViewer);

@@ -1,8 +1,7 @@
 #pragma once
 
+#include "datacontrol/MarkerPanel.h"
 #include "datacontrol/SeriesGridModel.h"
-#include "plot/Marker.h"
-#include "plotwindow/InputWarning.h"
 
 #include <QWidget>
 
@@ -10,9 +9,6 @@
 #include <functional>
 #include <memory>
 #include <vector>
-
-class QLineEdit;
-class QRadioButton;
 
 namespace tarsil {
 
@@ -76,9 +72,6 @@ private:
     EvmPlot* activePlot();
     const EVM* reference();
     void warn(const std::string& text);
-    QRadioButton& buttonOf(MarkerKind kind) const;
-    MarkerKind markerKind() const;
-    MarkerOptions markerOptions() const;
     void takeMarkers();
     void applyMarkers();
     void showMarkers();
@@ -95,13 +88,10 @@ private:
     void askAgain(const QModelIndex& cell, const QString& text, const RunTimeError& error);
 
     std::unique_ptr<Ui::wndData> m_ui;
-    InputWarning m_sizeWarning;
-    InputWarning m_spacingWarning;
-    InputWarning m_factorWarning;
+    MarkerPanel m_markers;
     SeriesGridModel m_model;
     Document& m_document;
     UserInterface& m_user;
-    MarkerOptions m_markers; ///< of each option what stood in its control last and could be
 };
 
 } // namespace tarsil

@@ -4,8 +4,6 @@
 
 #include "ui_WndData.h"
 
-#include "base/numbers/Numbers.h"
-#include "base/user/RunTimeError.h"
 #include "base/user/UserInterface.h"
 #include "datacontrol/DlgSeriesStyle.h"
 #include "document/Document.h"
@@ -14,12 +12,7 @@
 #include "model/EVM.h"
 #include "vgfplot/EvmPlot.h"
 
-#include <QRadioButton>
-#include <QSignalBlocker>
-
 #include <algorithm>
-#include <cmath>
-#include <limits>
 
 namespace tarsil {
 
@@ -27,39 +20,6 @@ namespace {
 
 constexpr std::string_view module = "wndData";
 constexpr int modeColumn = static_cast<int>(SeriesColumn::Mode);
-constexpr int factorCount = 5; ///< of a point
-
-constexpr double anyCount = std::numeric_limits<std::int32_t>::max();
-
-/// The text of an input as a whole number of at least 1; errors 13, 6 and 5 name the input.
-std::int32_t countIn(const QLineEdit& input, double most = anyCount)
-{
-    QString name = input.accessibleName();
-    const std::string where = name.remove(u':').toStdString();
-    const std::string text = input.text().toStdString();
-    const double count = std::nearbyint(toDouble(text, module, where));
-    if (count > anyCount)
-        throwNumberError(NumberStatus::Overflow, text, module, where);
-    if (count < 1 || count > most)
-        throw RunTimeError(ErrorNumber::InvalidProcedureCall, std::string(module),
-                           where + ": " + text
-                               + (most == anyCount ? " is less than 1"
-                                                   : " is not from 1 to " + shortestText(most)));
-    return static_cast<std::int32_t>(count);
-}
-
-/// Stores the number in an input when it is valid; the input shows when it is not.
-void takeCount(const QLineEdit& input, double most, InputWarning& warning, std::int32_t& count)
-{
-    try {
-        count = countIn(input, most);
-        warning.show({});
-    } catch (const RunTimeError&) {
-        warning.show(most == factorCount
-                         ? QStringLiteral("Ignored: a number from 1 to 5 is needed")
-                         : QStringLiteral("Ignored: a number of at least 1 is needed"));
-    }
-}
 
 LineLook lookOf(const Series& series)
 {
@@ -109,7 +69,7 @@ void wndData::changePlot(const QString& name, const std::function<void(EvmPlot&)
 /// What is wrong in the marker options is reported before anything changes.
 void wndData::changeAndPlot(const QString& name, const std::function<void(EvmPlot&)>& change)
 {
-    const MarkerOptions markers = markerOptions();
+    const MarkerOptions markers = m_markers.options();
     std::string missing;
     changePlot(name, [&](EvmPlot& plot) {
         change(plot);
@@ -245,103 +205,45 @@ void wndData::chooseLine()
     });
 }
 
-QRadioButton& wndData::buttonOf(MarkerKind kind) const
-{
-    switch (kind) {
-    case MarkerKind::None:
-        break;
-    case MarkerKind::ModeNumber:
-        return *m_ui->aemodeBtn;
-    case MarkerKind::Tag:
-        return *m_ui->tagBtn;
-    case MarkerKind::ParticipationFactor:
-        return *m_ui->ithmpfBtn;
-    }
-    return *m_ui->womkBtn;
-}
-
-MarkerKind wndData::markerKind() const
-{
-    for (const MarkerTraits& traits : markerTraits) {
-        if (buttonOf(traits.kind).isChecked())
-            return traits.kind;
-    }
-    return MarkerKind::None;
-}
-
-/// The index of the participation factor must be a number only where it is the marker.
-MarkerOptions wndData::markerOptions() const
-{
-    MarkerOptions options;
-    options.kind = markerKind();
-    options.size = countIn(*m_ui->mksizeInp);
-    options.spacing = countIn(*m_ui->mkspaceInp);
-    options.ithMpf = traitsOf(options.kind).needsFactor ? countIn(*m_ui->ithmpfInp, factorCount)
-                                                        : m_markers.ithMpf;
-    return options;
-}
-
-/// An index of the participation factor that is not the marker may be anything.
+/// Curves that are added later get what the controls say.
 void wndData::takeMarkers()
 {
-    constexpr double any = std::numeric_limits<std::int32_t>::max();
-    m_markers.kind = markerKind();
-    takeCount(*m_ui->mksizeInp, any, m_sizeWarning, m_markers.size);
-    takeCount(*m_ui->mkspaceInp, any, m_spacingWarning, m_markers.spacing);
-    takeCount(*m_ui->ithmpfInp, factorCount, m_factorWarning, m_markers.ithMpf);
-    m_document.plots().setNewSeriesMarkers(m_markers);
-    if (!traitsOf(m_markers.kind).needsFactor)
-        m_factorWarning.show({});
+    m_markers.read();
+    m_document.plots().setNewSeriesMarkers(m_markers.valid());
 }
 
 /// What the user changes here takes effect at once, and in all rows. Where rows have options of
 /// their own, those that he leaves as they are stay.
 void wndData::applyMarkers()
 {
-    const MarkerOptions before = m_markers;
+    const MarkerOptions before = m_markers.valid();
     takeMarkers();
     EvmPlot* const plot = m_model.plot();
-    if (plot == nullptr || m_markers == before)
+    if (plot == nullptr || m_markers.valid() == before)
         return;
     m_document.history().change(
         *plot, tr("Marker Options"),
-        [&] { mdlData::changeMarkers(plot->rows(), before, m_markers); },
+        [&] { mdlData::changeMarkers(plot->rows(), before, m_markers.valid()); },
         UndoHistory::Joining::Yes);
 }
 
 /// The controls show what the first series of the plot has, so that "Plot" leaves a plot as it was
-/// opened. A series without markers says nothing about their size and spacing.
+/// opened.
 void wndData::showMarkers()
 {
     const PlotRow* const first = m_model.row(0);
     if (first == nullptr)
         return;
-    const Series* const series = &first->series;
-    const QSignalBlocker quiet[] = {QSignalBlocker(m_ui->mksizeInp),
-                                    QSignalBlocker(m_ui->mkspaceInp),
-                                    QSignalBlocker(m_ui->ithmpfInp)}; // it is not the user's change
-    if (const auto kind = markerOfNumber(series->MarkerStyle))
-        buttonOf(*kind).setChecked(true);
-    if (series->MarkerSize > 0)
-        m_ui->mksizeInp->setText(QString::number(series->MarkerSize));
-    if (series->MarkerSpacing > 0)
-        m_ui->mkspaceInp->setText(QString::number(series->MarkerSpacing));
-    if (series->IthMpf > 0)
-        m_ui->ithmpfInp->setText(QString::number(series->IthMpf));
-    takeMarkers();
+    m_markers.show(first->series);
+    m_document.plots().setNewSeriesMarkers(m_markers.valid());
 }
 
 /// What is rounded to 0 is refused as well. The box is as before when the message comes: the
 /// message makes the input lose the focus once more.
 void wndData::mkspaceInp_LostFocus()
 {
-    double spacing = 0;
-    if (parseDouble(m_ui->mkspaceInp->text().toStdString(), spacing) != NumberStatus::Ok)
-        return; // "Plot" says so
-    if (std::nearbyint(spacing) <= 0) {
-        m_ui->mkspaceInp->setText(QString::number(m_markers.spacing));
+    if (m_markers.resetSpacing())
         warn("The spacing must be greater then zero!");
-    }
 }
 
 void wndData::tagBtn_Click()

@@ -13,6 +13,7 @@
 #include "document/MdlData.h"
 #include "document/PlotTitles.h"
 #include "model/EVM.h"
+#include "plotwindow/NumberInput.h"
 #include "vgfplot/EvmPlot.h"
 
 namespace tarsil {
@@ -34,13 +35,13 @@ std::int16_t legendIndexIn(const QLineEdit& input)
     return index;
 }
 
-double fontSizeIn(const QLineEdit& input)
+double fontSizeIn(QLineEdit& input)
 {
-    const std::string text = input.text().toStdString();
-    const double points = toDouble(text, module, "Font Size");
+    const double points = NumberInput(input, module, "Font Size").number();
     if (!(points >= 1 && points <= 400))
         throw RunTimeError(ErrorNumber::InvalidProcedureCall, std::string(module),
-                           "a font of " + text + " points; it must be from 1 to 400");
+                           "a font of " + input.text().toStdString()
+                               + " points; it must be from 1 to 400");
     return points;
 }
 
@@ -111,7 +112,7 @@ void wndData::btnPlotLeg_Click()
     if (activePlot() == nullptr)
         return;
     const double points = fontSizeIn(*m_ui->txtLegFontSize);
-    const MarkerOptions markers = markerOptions();
+    const MarkerOptions markers = m_markers.options();
     std::string missing;
     changePlot(tr("Plot Legend"), [&](EvmPlot& plot) {
         missing = mdlData::buildSeries(plot.rows(), markers);

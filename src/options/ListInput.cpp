@@ -1,6 +1,7 @@
 #include "options/ListInput.h"
 
 #include "base/numbers/Numbers.h"
+#include "plotwindow/NumberInput.h"
 
 #include <QLineEdit>
 
@@ -43,8 +44,7 @@ std::vector<float> ListInput::numbers(std::string_view module) const
 
 void ListInput::goTo()
 {
-    if (qobject_cast<QLineEdit*>(m_input.window()->focusWidget()) == nullptr)
-        m_input.setFocus();
+    NumberInput(m_input, {}).goTo();
 }
 
 std::string ListInput::nameOf(std::size_t place) const

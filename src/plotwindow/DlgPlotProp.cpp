@@ -4,6 +4,7 @@
 
 #include "base/numbers/Numbers.h"
 #include "base/user/ErrorGuard.h"
+#include "plotwindow/NumberInput.h"
 
 namespace tarsil {
 
@@ -16,16 +17,9 @@ QString textOf(float value)
     return QString::fromStdString(shortestText(value));
 }
 
-/// What stands in an input, as a single; errors 13 and 6 name the input.
-float numberIn(const QLineEdit& input)
+NumberInput in(QLineEdit* input)
 {
-    return toSingle(input.text().toStdString(), moduleName, input.accessibleName().toStdString());
-}
-
-std::int16_t countIn(const QLineEdit& input)
-{
-    return roundToInteger16(static_cast<double>(numberIn(input)), moduleName,
-                            input.accessibleName().toStdString());
+    return {*input, moduleName};
 }
 
 } // namespace
@@ -71,15 +65,15 @@ void dlgPlotProp::OKButton_Click()
 /// tick count, the titles. No range is checked.
 void dlgPlotProp::applyInputs()
 {
-    const PlotBounds bounds {numberIn(*m_ui->inpVmin), numberIn(*m_ui->inpVmax),
-                             numberIn(*m_ui->inpFmin), numberIn(*m_ui->inpFmax),
-                             numberIn(*m_ui->inpGmin), numberIn(*m_ui->inpGmax)};
+    const PlotBounds bounds {in(m_ui->inpVmin).single(), in(m_ui->inpVmax).single(),
+                             in(m_ui->inpFmin).single(), in(m_ui->inpFmax).single(),
+                             in(m_ui->inpGmin).single(), in(m_ui->inpGmax).single()};
     PlotAxes axes = m_plot.axes();
     axes.setBounds(bounds);
     m_plot.setAxes(axes);
-    m_plot.properties().setVthicks(countIn(*m_ui->inpVnthicks));
-    m_plot.properties().setGthicks(countIn(*m_ui->inpGnthicks));
-    m_plot.properties().setFthicks(countIn(*m_ui->inpFnthicks));
+    m_plot.properties().setVthicks(in(m_ui->inpVnthicks).integer16());
+    m_plot.properties().setGthicks(in(m_ui->inpGnthicks).integer16());
+    m_plot.properties().setFthicks(in(m_ui->inpFnthicks).integer16());
     m_plot.properties().setVLabel(m_ui->inpVlabel->text());
     m_plot.properties().setGLabel(m_ui->inpGlabel->text());
     m_plot.properties().setFLabel(m_ui->inpFlabel->text());

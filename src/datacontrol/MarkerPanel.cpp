@@ -1,0 +1,121 @@
+#include "datacontrol/MarkerPanel.h"
+
+#include "ui_WndData.h"
+
+#include "base/numbers/Numbers.h"
+#include "base/user/RunTimeError.h"
+#include "plotwindow/NumberInput.h"
+
+#include <QSignalBlocker>
+
+#include <cmath>
+#include <cstdint>
+#include <limits>
+
+namespace tarsil {
+
+namespace {
+
+constexpr std::int32_t anyCount = std::numeric_limits<std::int32_t>::max();
+constexpr std::int32_t factorCount = 5; ///< of a point
+
+std::int32_t countIn(QLineEdit& input, std::int32_t most)
+{
+    return NumberInput(input, "wndData").count(most);
+}
+
+/// Stores the number in an input when it is valid; the input shows when it is not.
+void readCount(QLineEdit& input, std::int32_t most, InputWarning& warning, std::int32_t& count)
+{
+    try {
+        count = countIn(input, most);
+        warning.show({});
+    } catch (const RunTimeError&) {
+        warning.show(most == factorCount
+                         ? QStringLiteral("Ignored: a number from 1 to 5 is needed")
+                         : QStringLiteral("Ignored: a number of at least 1 is needed"));
+    }
+}
+
+} // namespace
+
+MarkerPanel::MarkerPanel(const Ui::wndData& form)
+    : m_form(form), m_sizeWarning(*form.mksizeInp), m_spacingWarning(*form.mkspaceInp),
+      m_factorWarning(*form.ithmpfInp)
+{
+    read();
+}
+
+QRadioButton& MarkerPanel::buttonOf(MarkerKind kind) const
+{
+    switch (kind) {
+    case MarkerKind::None:
+        break;
+    case MarkerKind::ModeNumber:
+        return *m_form.aemodeBtn;
+    case MarkerKind::Tag:
+        return *m_form.tagBtn;
+    case MarkerKind::ParticipationFactor:
+        return *m_form.ithmpfBtn;
+    }
+    return *m_form.womkBtn;
+}
+
+MarkerKind MarkerPanel::kind() const
+{
+    for (const MarkerTraits& traits : markerTraits) {
+        if (buttonOf(traits.kind).isChecked())
+            return traits.kind;
+    }
+    return MarkerKind::None;
+}
+
+MarkerOptions MarkerPanel::options() const
+{
+    MarkerOptions options;
+    options.kind = kind();
+    options.size = countIn(*m_form.mksizeInp, anyCount);
+    options.spacing = countIn(*m_form.mkspaceInp, anyCount);
+    options.ithMpf = traitsOf(options.kind).needsFactor ? countIn(*m_form.ithmpfInp, factorCount)
+                                                        : m_valid.ithMpf;
+    return options;
+}
+
+void MarkerPanel::read()
+{
+    m_valid.kind = kind();
+    readCount(*m_form.mksizeInp, anyCount, m_sizeWarning, m_valid.size);
+    readCount(*m_form.mkspaceInp, anyCount, m_spacingWarning, m_valid.spacing);
+    readCount(*m_form.ithmpfInp, factorCount, m_factorWarning, m_valid.ithMpf);
+    if (!traitsOf(m_valid.kind).needsFactor) // it may be anything then
+        m_factorWarning.show({});
+}
+
+void MarkerPanel::show(const Series& series)
+{
+    const QSignalBlocker quiet[] = {
+        QSignalBlocker(m_form.mksizeInp), QSignalBlocker(m_form.mkspaceInp),
+        QSignalBlocker(m_form.ithmpfInp)}; // it is not the user's change
+    if (const auto kind = markerOfNumber(series.MarkerStyle))
+        buttonOf(*kind).setChecked(true);
+    if (series.MarkerSize > 0)
+        m_form.mksizeInp->setText(QString::number(series.MarkerSize));
+    if (series.MarkerSpacing > 0)
+        m_form.mkspaceInp->setText(QString::number(series.MarkerSpacing));
+    if (series.IthMpf > 0)
+        m_form.ithmpfInp->setText(QString::number(series.IthMpf));
+    read();
+}
+
+bool MarkerPanel::resetSpacing()
+{
+    double spacing = 0;
+    if (parseDouble(m_form.mkspaceInp->text().toStdString(), spacing) != NumberStatus::Ok)
+        return false; // "Plot" says so
+    if (std::nearbyint(spacing) > 0)
+        return false;
+    m_form.mkspaceInp->setText(QString::number(m_valid.spacing));
+    return true;
+}
+
+} // namespace tarsil

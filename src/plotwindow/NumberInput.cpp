@@ -1,0 +1,71 @@
+#include "plotwindow/NumberInput.h"
+
+#include "base/numbers/Numbers.h"
+#include "base/user/RunTimeError.h"
+
+#include <QLineEdit>
+
+#include <cmath>
+#include <utility>
+
+namespace tarsil {
+
+namespace {
+
+/// Some names are those of the labels, which end in a colon.
+std::string nameOf(const QLineEdit& input)
+{
+    return input.accessibleName().remove(u':').toStdString();
+}
+
+} // namespace
+
+NumberInput::NumberInput(QLineEdit& input, std::string_view module)
+    : NumberInput(input, module, nameOf(input))
+{ }
+
+NumberInput::NumberInput(QLineEdit& input, std::string_view module, std::string name)
+    : m_input(input), m_module(module), m_name(std::move(name))
+{ }
+
+std::string NumberInput::text() const
+{
+    return m_input.text().toStdString();
+}
+
+double NumberInput::number() const
+{
+    return toDouble(text(), m_module, m_name);
+}
+
+float NumberInput::single() const
+{
+    return toSingle(text(), m_module, m_name);
+}
+
+std::int16_t NumberInput::integer16() const
+{
+    return roundToInteger16(static_cast<double>(single()), m_module, m_name);
+}
+
+std::int32_t NumberInput::count(std::int32_t most) const
+{
+    constexpr std::int32_t any = std::numeric_limits<std::int32_t>::max();
+    const double count = std::nearbyint(number());
+    if (count > any)
+        throwNumberError(NumberStatus::Overflow, text(), m_module, m_name);
+    if (count < 1 || count > most)
+        throw RunTimeError(
+            ErrorNumber::InvalidProcedureCall, std::string(m_module),
+            m_name + ": " + text()
+                + (most == any ? " is less than 1" : " is not from 1 to " + std::to_string(most)));
+    return static_cast<std::int32_t>(count);
+}
+
+void NumberInput::goTo() const
+{
+    if (qobject_cast<QLineEdit*>(m_input.window()->focusWidget()) == nullptr)
+        m_input.setFocus();
+}
+
+} // namespace tarsil
