@@ -9,8 +9,6 @@
 
 #include <QFocusEvent>
 
-#include <utility>
-
 namespace tarsil {
 
 namespace {
@@ -46,9 +44,8 @@ bool leavesControl(const QEvent& event)
 
 } // namespace
 
-dlgDampLine::dlgDampLine(ActivePlot activePlot, UserInterface& userInterface, QWidget* parent)
-    : MarkDialog(std::move(activePlot), userInterface, parent),
-      m_ui(std::make_unique<Ui::dlgDampLine>())
+dlgDampLine::dlgDampLine(Document& document, UserInterface& userInterface, QWidget* parent)
+    : MarkDialog(document, userInterface, parent), m_ui(std::make_unique<Ui::dlgDampLine>())
 {
     m_ui->setupUi(this);
     dlgDampLine::fillDefaults();
@@ -102,7 +99,7 @@ void dlgDampLine::sdampInp_LostFocus()
 void dlgDampLine::sdampBtn_Click()
 {
     m_isLeft = false;
-    addMark(*m_ui->sdampInp, moduleName, [this](EvmPlot& plot, float g) {
+    addMark(*m_ui->sdampInp, tr("Add Damping Line"), moduleName, [this](EvmPlot& plot, float g) {
         plot.marks().AddDampLine(g, m_ui->captionInp->text());
     });
 }

@@ -19,8 +19,8 @@ class dlgDampLine : public MarkDialog
     Q_OBJECT
 
 public:
-    /// `userInterface` must outlive the dialog.
-    dlgDampLine(ActivePlot activePlot, UserInterface& userInterface, QWidget* parent = nullptr);
+    /// Both must outlive the dialog.
+    dlgDampLine(Document& document, UserInterface& userInterface, QWidget* parent = nullptr);
     ~dlgDampLine() override;
 
 protected:

@@ -4,13 +4,10 @@
 
 #include "vgfplot/EvmPlot.h"
 
-#include <utility>
-
 namespace tarsil {
 
-dlgRefSpeed::dlgRefSpeed(ActivePlot activePlot, UserInterface& userInterface, QWidget* parent)
-    : MarkDialog(std::move(activePlot), userInterface, parent),
-      m_ui(std::make_unique<Ui::dlgRefSpeed>())
+dlgRefSpeed::dlgRefSpeed(Document& document, UserInterface& userInterface, QWidget* parent)
+    : MarkDialog(document, userInterface, parent), m_ui(std::make_unique<Ui::dlgRefSpeed>())
 {
     m_ui->setupUi(this);
     dlgRefSpeed::fillDefaults();
@@ -27,9 +24,9 @@ void dlgRefSpeed::fillDefaults()
 
 void dlgRefSpeed::AddRefBtn_Click()
 {
-    addMark(*m_ui->posInp, "dlgRefSpeed", [this](EvmPlot& plot, float speed) {
-        plot.marks().AddRef(speed, m_ui->capInp->text());
-    });
+    addMark(
+        *m_ui->posInp, tr("Add Reference Speed"), "dlgRefSpeed",
+        [this](EvmPlot& plot, float speed) { plot.marks().AddRef(speed, m_ui->capInp->text()); });
 }
 
 } // namespace tarsil

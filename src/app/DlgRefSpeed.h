@@ -17,8 +17,8 @@ class dlgRefSpeed : public MarkDialog
     Q_OBJECT
 
 public:
-    /// `userInterface` must outlive the dialog.
-    dlgRefSpeed(ActivePlot activePlot, UserInterface& userInterface, QWidget* parent = nullptr);
+    /// Both must outlive the dialog.
+    dlgRefSpeed(Document& document, UserInterface& userInterface, QWidget* parent = nullptr);
     ~dlgRefSpeed() override;
 
 protected:

@@ -3,18 +3,16 @@
 #include "base/user/ErrorGuard.h"
 #include "base/user/RunTimeError.h"
 #include "base/user/UserInterface.h"
+#include "document/Document.h"
 #include "plotwindow/NumberInput.h"
-#include "vgfplot/EvmPlot.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>
 
-#include <utility>
-
 namespace tarsil {
 
-MarkDialog::MarkDialog(ActivePlot activePlot, UserInterface& userInterface, QWidget* parent)
-    : QDialog(parent), m_activePlot(std::move(activePlot)), m_userInterface(userInterface)
+MarkDialog::MarkDialog(Document& document, UserInterface& userInterface, QWidget* parent)
+    : QDialog(parent), m_document(document), m_userInterface(userInterface)
 { }
 
 void MarkDialog::done(int result)
@@ -23,7 +21,7 @@ void MarkDialog::done(int result)
     QDialog::done(result);
 }
 
-void MarkDialog::addMark(QLineEdit& input, std::string_view module,
+void MarkDialog::addMark(QLineEdit& input, const QString& name, std::string_view module,
                          const std::function<void(EvmPlot&, float)>& add)
 {
     m_userInterface.beginCommand();
@@ -38,13 +36,14 @@ void MarkDialog::addMark(QLineEdit& input, std::string_view module,
                 return askForNumber();
             throw;
         }
-        EvmPlot* const plot = m_activePlot();
+        EvmPlot* const plot = m_document.plots().active();
         if (plot == nullptr)
             m_userInterface.showMessage("Please select activate a plot.", "Tarsil",
                                         MessageIcon::Exclamation);
         else
             add(*plot, value);
     });
+    m_document.history().note(name);
 }
 
 void MarkDialog::askForNumber()

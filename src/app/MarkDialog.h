@@ -9,6 +9,7 @@ class QLineEdit;
 
 namespace tarsil {
 
+class Document;
 class EvmPlot;
 class UserInterface;
 
@@ -19,22 +20,19 @@ class MarkDialog : public QDialog
     Q_OBJECT
 
 public:
-    /// The plot that the marks go to, or null.
-    using ActivePlot = std::function<EvmPlot*()>;
-
     void done(int result) override;
 
 protected:
-    /// `userInterface` must outlive the dialog.
-    MarkDialog(ActivePlot activePlot, UserInterface& userInterface, QWidget* parent);
+    /// Both must outlive the dialog.
+    MarkDialog(Document& document, UserInterface& userInterface, QWidget* parent);
 
     /// Gives every input its first text.
     virtual void fillDefaults() = 0;
 
     /// Hands the number in an input and the active plot on to `add`. Without a number or a plot the
     /// user gets a message instead, and after one about the number he can put it right at once; an
-    /// error is reported as one of `module`.
-    void addMark(QLineEdit& input, std::string_view module,
+    /// error is reported as one of `module`. What was added is a step that can be undone, `name`.
+    void addMark(QLineEdit& input, const QString& name, std::string_view module,
                  const std::function<void(EvmPlot&, float)>& add);
 
     void askForNumber();
@@ -43,7 +41,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    ActivePlot m_activePlot;
+    Document& m_document;
     UserInterface& m_userInterface;
 };
 

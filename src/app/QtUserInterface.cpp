@@ -9,6 +9,7 @@
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPointer>
+#include <QPushButton>
 
 #include <algorithm>
 
@@ -48,6 +49,21 @@ int execOver(QWidget* asker, QDialog& dialog)
     if (field != nullptr && field->window() == window && field->isVisible())
         field->setFocus();
     return result;
+}
+
+/// The button that the user presses. Save is the default, and has a key like Yes and No.
+int askWithButtons(QWidget* asker, const std::string& question, const std::string& title,
+                   QMessageBox::StandardButtons buttons)
+{
+    QMessageBox box(QMessageBox::Question, QString::fromStdString(title),
+                    QString::fromStdString(question), buttons, asker);
+    box.setTextFormat(Qt::PlainText);
+    if (buttons.testFlag(QMessageBox::Save)) {
+        box.setDefaultButton(QMessageBox::Save);
+        box.button(QMessageBox::Save)->setText(QObject::tr("&Save"));
+        box.button(QMessageBox::Discard)->setText(QObject::tr("&Discard"));
+    }
+    return execOver(asker, box);
 }
 
 std::vector<std::string> chosenFiles(QWidget* asker, QFileDialog& dialog)
@@ -107,11 +123,17 @@ void QtUserInterface::showMessage(const std::string& text, const std::string& ti
 
 bool QtUserInterface::confirm(const std::string& question, const std::string& title)
 {
-    QWidget* const window = asker();
-    QMessageBox box(QMessageBox::Question, QString::fromStdString(title),
-                    QString::fromStdString(question), QMessageBox::Yes | QMessageBox::No, window);
-    box.setTextFormat(Qt::PlainText);
-    return execOver(window, box) == QMessageBox::Yes;
+    return askWithButtons(asker(), question, title, QMessageBox::Yes | QMessageBox::No)
+        == QMessageBox::Yes;
+}
+
+Unsaved QtUserInterface::askToSave(const std::string& question, const std::string& title)
+{
+    const int answer = askWithButtons(
+        asker(), question, title, QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+    if (answer == QMessageBox::Save)
+        return Unsaved::Save;
+    return answer == QMessageBox::Discard ? Unsaved::Discard : Unsaved::Cancel;
 }
 
 std::optional<std::string> QtUserInterface::askText(const std::string& prompt,

@@ -23,6 +23,7 @@ public:
 
     void showMessage(const std::string& text, const std::string& title, MessageIcon icon) override;
     bool confirm(const std::string& question, const std::string& title) override;
+    Unsaved askToSave(const std::string& question, const std::string& title) override;
     std::optional<std::string> askText(const std::string& prompt, const std::string& title,
                                        const std::string& initial) override;
     std::vector<std::string> askOpenFiles(const FileQuestion& question) override;

@@ -26,6 +26,7 @@
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QDropEvent>
+#include <QFileInfo>
 #include <QMdiArea>
 #include <QMenu>
 #include <QStandardPaths>
@@ -45,6 +46,11 @@ auto mentionOf(const std::vector<std::string>& arguments, std::string_view exten
     return std::find_if(arguments.begin(), arguments.end(), [extension](const auto& argument) {
         return argument.find(extension) != std::string::npos;
     });
+}
+
+std::string folderOf(const std::string& path)
+{
+    return QFileInfo(QString::fromStdString(path)).absolutePath().toStdString();
 }
 
 bool nameEvolutions(const std::vector<std::string>& arguments)
@@ -78,8 +84,8 @@ std::vector<std::string> withoutOutputs(std::vector<std::string> arguments)
 wndMain::wndMain(UserInterface& userInterface, FlutterReportCommand::FileOpener opener,
                  OptionsStore store)
     : m_userInterface(userInterface), m_workspace(m_document, userInterface),
-      m_store(std::move(store)), m_report(userInterface, std::move(opener)),
-      m_tracking(m_document, userInterface),
+      m_store(std::move(store)), m_recovery(folderOf(m_store.path())),
+      m_report(userInterface, std::move(opener)), m_tracking(m_document, userInterface),
       m_reportFolder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)),
       m_area(new QMdiArea(this)), m_statusPanels(new StatusPanels(this))
 {
@@ -94,11 +100,14 @@ wndMain::wndMain(UserInterface& userInterface, FlutterReportCommand::FileOpener 
     makeMenuBar();
     makePopups();
     makeHelpKey();
+    followHistory();
 }
 
-/// The child windows go before the document that they show.
+/// The child windows go before the document that they show, and nobody hears of steps that end with
+/// it.
 wndMain::~wndMain()
 {
+    m_document.history().steps().disconnect(this);
     closeDialogs();
     delete m_area;
 }
@@ -126,6 +135,10 @@ void wndMain::makeChildWindows()
                 m_statusPanels->setEditMode(now != nullptr && now->texts().EditMode());
                 followMarks(before, now);
             });
+    connect(m_evolPlot, &wndEvolPlot::edited, this, [this](const QString& what, bool joins) {
+        m_document.history().note(what,
+                                  joins ? UndoHistory::Joining::Yes : UndoHistory::Joining::No);
+    });
     connect(m_evolPlot, &wndEvolPlot::plotMenuRequested, this,
             [this](QPoint position) { m_plotMenu->popup(position); });
     connectExplorer();
@@ -134,11 +147,17 @@ void wndMain::makeChildWindows()
 /// The buttons of the explorer are the commands of the File menu.
 void wndMain::connectExplorer()
 {
-    const auto runs = [this](Handler handler) { return [this, handler] { run(handler); }; };
-    connect(m_explorer, &wndEvolExplorer::newWanted, this, runs(&wndMain::mnuNewWorkspace_Click));
-    connect(m_explorer, &wndEvolExplorer::openWanted, this, runs(&wndMain::OpenMenu_Click));
-    connect(m_explorer, &wndEvolExplorer::saveWanted, this, runs(&wndMain::mnuSaveWorkspace_Click));
-    connect(m_explorer, &wndEvolExplorer::addWanted, this, runs(&wndMain::AddMenu_Click));
+    const auto runs = [this](const char* name, Handler handler) {
+        return [this, name, handler] { run(QString::fromLatin1(name), handler); };
+    };
+    connect(m_explorer, &wndEvolExplorer::newWanted, this,
+            runs("New Workspace", &wndMain::mnuNewWorkspace_Click));
+    connect(m_explorer, &wndEvolExplorer::openWanted, this,
+            runs("Open Workspace", &wndMain::OpenMenu_Click));
+    connect(m_explorer, &wndEvolExplorer::saveWanted, this,
+            runs("Save Workspace", &wndMain::mnuSaveWorkspace_Click));
+    connect(m_explorer, &wndEvolExplorer::addWanted, this,
+            runs("Add Modal Evolution", &wndMain::AddMenu_Click));
     connect(m_explorer, &wndEvolExplorer::menuRequested, this,
             [this](QPoint position) { m_explorerMenu->popup(position); });
 }
@@ -168,10 +187,13 @@ void wndMain::MDIForm_Load(const std::vector<std::string>& arguments)
         wndDefLayout();
         m_document.plots().activate(&m_document.plots().first());
         const auto workspace = mentionOf(arguments, workspaceExtension);
+        if (m_workspace.recover(*m_recovery))
+            return;
         if (workspace != arguments.end())
             m_workspace.OpenWorkSpace(*workspace);
         else if (nameEvolutions(arguments))
             draw(m_document.load(withoutOutputs(arguments), m_userInterface));
+        m_document.history().clear();
         importResults(outputsAmong(arguments));
     });
 }
@@ -181,13 +203,31 @@ void wndMain::commitEdits()
 {
     m_data->commitEdits();
     m_explorer->commitEdits();
+    if (EvmPlot* const plot = m_document.plots().active())
+        plot->commitEdits();
 }
 
-void wndMain::run(Handler handler)
+/// What the command has changed is one step that can be undone, also when it failed half-way.
+void wndMain::run(const QString& name, Handler handler)
 {
     commitEdits();
     m_userInterface.beginCommand();
     guarded(m_userInterface, "wndMain", [this, handler] { (this->*handler)(); });
+    m_document.history().note(name);
+    keepCopy();
+}
+
+/// A copy that cannot be written is nothing that the user asked for, so that a note is enough.
+void wndMain::keepCopy()
+{
+    if (!m_recovery)
+        return;
+    try {
+        m_recovery->follow(m_document);
+    } catch (const RunTimeError& error) {
+        m_userInterface.showNote("No copy of the unsaved workspace is kept: "
+                                 + error.description());
+    }
 }
 
 void wndMain::wndDefLayout()
@@ -288,12 +328,13 @@ void wndMain::open(const std::vector<std::string>& paths)
 {
     const auto workspace = mentionOf(paths, workspaceExtension);
     if (workspace != paths.end()) {
-        if (m_workspace.mayDiscard())
+        if (m_workspace.mayLeave())
             m_workspace.OpenWorkSpace(*workspace);
         return;
     }
     if (nameEvolutions(paths))
         m_document.load(withoutOutputs(paths), m_userInterface);
+    m_document.history().note(tr("Add Modal Evolution"));
     importResults(outputsAmong(paths));
 }
 
@@ -332,6 +373,20 @@ void wndMain::QuitMenu_Click()
     close();
 }
 
+void wndMain::mnuUndo_Click()
+{
+    const QString name = m_document.history().steps().undoText();
+    m_document.history().undo();
+    m_userInterface.showNote(tr("Undone: %1").arg(name).toStdString());
+}
+
+void wndMain::mnuRedo_Click()
+{
+    const QString name = m_document.history().steps().redoText();
+    m_document.history().redo();
+    m_userInterface.showNote(tr("Redone: %1").arg(name).toStdString());
+}
+
 void wndMain::mnuDataControl_Click()
 {
     m_frames.data->bringBack();
@@ -355,8 +410,7 @@ void wndMain::mnuSetScale_Click()
 void wndMain::mnuAddRef_Click()
 {
     if (!m_refSpeed)
-        m_refSpeed = std::make_unique<dlgRefSpeed>([this] { return m_document.plots().active(); },
-                                                   m_userInterface, this);
+        m_refSpeed = std::make_unique<dlgRefSpeed>(m_document, m_userInterface, this);
     m_refSpeed->show();
     m_refSpeed->raise();
     m_refSpeed->activateWindow();
@@ -370,8 +424,7 @@ void wndMain::mnuClearRef_Click()
 void wndMain::mnuAddDamp_Click()
 {
     if (!m_dampLine)
-        m_dampLine = std::make_unique<dlgDampLine>([this] { return m_document.plots().active(); },
-                                                   m_userInterface, this);
+        m_dampLine = std::make_unique<dlgDampLine>(m_document, m_userInterface, this);
     m_dampLine->show();
     m_dampLine->raise();
     m_dampLine->activateWindow();
@@ -476,13 +529,15 @@ void wndMain::stBar_PanelClick(int panel)
 void wndMain::closeEvent(QCloseEvent* event)
 {
     commitEdits();
-    if (!m_workspace.mayDiscard()) {
+    if (!m_workspace.mayLeave()) {
         event->ignore();
         return;
     }
     if (m_options)
         guarded(m_userInterface, "wndMain", [this] { m_options->SetOptReg(); });
     closeDialogs();
+    m_recovery->remove();
+    m_recovery.reset();
     event->accept();
 }
 

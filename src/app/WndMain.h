@@ -6,15 +6,18 @@
 #include "app/WorkspaceCommands.h"
 #include "base/user/UserInterface.h"
 #include "document/Document.h"
+#include "document/RecoveryCopy.h"
 #include "options/OptionsStore.h"
 
 #include <QMainWindow>
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
+class QAction;
 class QMdiArea;
 class QMenu;
 
@@ -103,7 +106,10 @@ private:
     void makeHelpKey();
     void closeDialogs();
     void addCommand(QMenu& menu, const Command& command, const char* name);
-    void run(Handler handler);
+    void run(const QString& name, Handler handler);
+    void followHistory();
+    void keepCopy();
+    void showSteps();
     void commitEdits();
 
     void mnuNewWorkspace_Click();
@@ -113,6 +119,8 @@ private:
     void ImportMenu_Click();
     void ExportMenu_Click();
     void QuitMenu_Click();
+    void mnuUndo_Click();
+    void mnuRedo_Click();
     void mnuDataControl_Click();
     void mnuModalEvolExplorer_Click();
     void mnuVgfPlot_Click();
@@ -147,6 +155,7 @@ private:
     Document m_document;
     WorkspaceCommands m_workspace;
     OptionsStore m_store;
+    std::optional<RecoveryCopy> m_recovery; ///< until the program ends
     FlutterReportCommand m_report;
     TrackingCommands m_tracking;
     QString m_reportFolder;
@@ -156,6 +165,8 @@ private:
     wndEvolExplorer* m_explorer = nullptr;
     wndData* m_data = nullptr;
     ChildFrames m_frames {};
+    QAction* m_undo = nullptr;
+    QAction* m_redo = nullptr;
     QMenu* m_plotMenu = nullptr;
     QMenu* m_explorerMenu = nullptr;
     std::unique_ptr<dlgRefSpeed> m_refSpeed; ///< made when it is first wanted

@@ -7,6 +7,25 @@
 
 namespace tarsil {
 
+namespace {
+
+/// The caption of a command as the name of a step: "Set Scale".
+QString stepName(const char* caption)
+{
+    QString name = QString::fromLatin1(caption);
+    name.remove(u'&');
+    name.remove(QStringLiteral(" ..."));
+    return name;
+}
+
+/// A text in which nothing is taken for the letter of a key.
+QString withoutMnemonic(QString text)
+{
+    return text.replace(u'&', QStringLiteral("&&"));
+}
+
+} // namespace
+
 std::vector<wndMain::CommandMenu> wndMain::commandTable()
 {
     return {
@@ -22,6 +41,12 @@ std::vector<wndMain::CommandMenu> wndMain::commandTable()
           {"ImportMenu", nullptr, "&Import Solver Results ...", &wndMain::ImportMenu_Click},
           {"ExportMenu", nullptr, "&Export Mix File ...", &wndMain::ExportMenu_Click},
           {"QuitMenu", nullptr, "Quit", &wndMain::QuitMenu_Click, "Ctrl+Q"}}},
+        {"EditMenu",
+         "&Edit",
+         nullptr,
+         nullptr,
+         {{"mnuUndo", nullptr, "&Undo", &wndMain::mnuUndo_Click, "Ctrl+Z"},
+          {"mnuRedo", nullptr, "&Redo", &wndMain::mnuRedo_Click, "Ctrl+Shift+Z"}}},
         {"mnuView",
          "&View",
          nullptr,
@@ -97,7 +122,31 @@ void wndMain::addCommand(QMenu& menu, const Command& command, const char* name)
     QAction* const action = menu.addAction(QString::fromLatin1(command.caption));
     action->setObjectName(QString::fromLatin1(name));
     action->setShortcut(QKeySequence(QString::fromLatin1(command.key)));
-    connect(action, &QAction::triggered, this, [this, handler = command.handler] { run(handler); });
+    connect(action, &QAction::triggered, this,
+            [this, step = stepName(command.caption), handler = command.handler] {
+                run(step, handler);
+            });
+}
+
+void wndMain::followHistory()
+{
+    m_undo = findChild<QAction*>(QStringLiteral("mnuUndo"));
+    m_redo = findChild<QAction*>(QStringLiteral("mnuRedo"));
+    connect(&m_document.history().steps(), &QUndoStack::indexChanged, this, [this] {
+        showSteps();
+        keepCopy();
+    });
+    showSteps();
+}
+
+/// The commands say what they would undo and make again: "Undo Set Scale".
+void wndMain::showSteps()
+{
+    const QUndoStack& steps = m_document.history().steps();
+    m_undo->setEnabled(steps.canUndo());
+    m_undo->setText(tr("&Undo %1").arg(withoutMnemonic(steps.undoText())).trimmed());
+    m_redo->setEnabled(steps.canRedo());
+    m_redo->setText(tr("&Redo %1").arg(withoutMnemonic(steps.redoText())).trimmed());
 }
 
 void wndMain::makeHelpKey()
@@ -105,7 +154,7 @@ void wndMain::makeHelpKey()
     auto* const help = new QAction(tr("Help"), this);
     help->setObjectName(QStringLiteral("help"));
     help->setShortcut(QKeySequence::HelpContents);
-    connect(help, &QAction::triggered, this, [this] { run(&wndMain::showHelp); });
+    connect(help, &QAction::triggered, this, [this] { run(tr("Help"), &wndMain::showHelp); });
     addAction(help);
 }
 
@@ -115,6 +164,7 @@ void wndMain::showHelp()
         "Ctrl+N, Ctrl+O, Ctrl+S  begin, open and save a workspace\n"
         "Ctrl+Shift+O  adds modal evolutions\n"
         "Files dropped on the window are opened, those of solvers imported\n"
+        "Ctrl+Z, Ctrl+Shift+Z  undo the last change, and make it again\n"
         "Ctrl+C  on a plot copies its picture\n"
         "Ctrl+Q  ends the program\n\n"
         "Texts of a plot: double click or F2 to edit one; click and drag legend or subtitle, or "

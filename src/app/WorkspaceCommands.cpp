@@ -6,6 +6,7 @@
 #include "base/user/ErrorGuard.h"
 #include "base/user/UserInterface.h"
 #include "document/Document.h"
+#include "document/RecoveryCopy.h"
 #include "formats/EvolutionLoader.h"
 #include "vgfplot/EvmPlot.h"
 
@@ -67,18 +68,26 @@ std::string noteOf(const std::vector<LongValue>& values)
 
 } // namespace
 
-bool WorkspaceCommands::mayDiscard()
+bool WorkspaceCommands::mayLeave()
 {
-    return !m_document.isChanged()
-        || m_userInterface.confirm("The workspace has changed since it was last saved. Discard the "
-                                   "changes?",
-                                   "Tarsil");
+    if (!m_document.isChanged())
+        return true;
+    switch (m_userInterface.askToSave(
+        "The workspace has changed since it was last saved. Save the changes?", "Tarsil")) {
+    case Unsaved::Save:
+        return SaveWorkSpace();
+    case Unsaved::Discard:
+        return true;
+    case Unsaved::Cancel:
+        break;
+    }
+    return false;
 }
 
 void WorkspaceCommands::New()
 {
     guarded(m_userInterface, mdlWorkSpace::module, [this] {
-        if (!mayDiscard())
+        if (!mayLeave())
             return;
         m_document.startNew();
     });
@@ -87,7 +96,7 @@ void WorkspaceCommands::New()
 void WorkspaceCommands::OpenWorkSpace()
 {
     guarded(m_userInterface, mdlWorkSpace::module, [this] {
-        if (!mayDiscard())
+        if (!mayLeave())
             return;
         const std::vector<std::string> chosen =
             mdlMain::OpenFileDialog(m_userInterface, mdlWorkSpace::filter, 1);
@@ -105,10 +114,30 @@ void WorkspaceCommands::OpenWorkSpace(const std::string& path)
     });
 }
 
-/// What could be opened is shown before its failure is reported.
+bool WorkspaceCommands::recover(RecoveryCopy& copy)
+{
+    const std::optional<std::string> path = copy.takeOver();
+    if (!path)
+        return false;
+    if (m_userInterface.confirm("Tarsil has ended without saving a workspace. A copy of it, not "
+                                "older than a minute, is there. Open it? No removes the copy.",
+                                "Tarsil")) {
+        guarded(m_userInterface, mdlWorkSpace::module,
+                [&] { show(m_document.recover(*path, m_userInterface)); });
+        return true;
+    }
+    copy.remove();
+    return false;
+}
+
 void WorkspaceCommands::open(const std::string& path)
 {
-    const OpenedWorkspace opened = m_document.open(path, m_userInterface);
+    show(m_document.open(path, m_userInterface));
+}
+
+/// What could be opened is shown before its failure is reported.
+void WorkspaceCommands::show(const OpenedWorkspace& opened)
+{
     if (!opened.namesakes.empty())
         showNamesakes(opened.namesakes);
     if (!opened.cutValues.empty())
@@ -131,9 +160,10 @@ void WorkspaceCommands::showNamesakes(const std::vector<Namesake>& namesakes)
                                 MessageIcon::Exclamation);
 }
 
-void WorkspaceCommands::SaveWorkSpace()
+bool WorkspaceCommands::SaveWorkSpace()
 {
-    guarded(m_userInterface, mdlWorkSpace::module, [this] {
+    bool isWritten = false;
+    guarded(m_userInterface, mdlWorkSpace::module, [&] {
         const std::vector<EvmPlot*> plots = m_document.plots().all();
         tellOfLeftOutRows({plots.begin(), plots.end()}, "the workspace", m_userInterface);
         const FileQuestion question {std::string(mdlWorkSpace::filter), 1, false, m_document.path(),
@@ -142,9 +172,12 @@ void WorkspaceCommands::SaveWorkSpace()
         if (!answer)
             return;
         const std::string path = withExtension(*answer);
-        if (!fileExists(path) || mayReplace(path))
-            write(path);
+        if (fileExists(path) && !mayReplace(path))
+            return;
+        write(path);
+        isWritten = true;
     });
+    return isWritten;
 }
 
 /// What could not be opened is still in its file, until that is replaced.

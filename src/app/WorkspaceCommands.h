@@ -7,8 +7,10 @@
 namespace tarsil {
 
 class Document;
+class RecoveryCopy;
 class UserInterface;
 struct Namesake;
+struct OpenedWorkspace;
 
 namespace mdlWorkSpace {
 constexpr std::string_view filter = "Tarsil Workspace (*.tsw)|*.tsw|";
@@ -34,16 +36,21 @@ public:
     /// Opens the workspace of the command line: a path, with or without double quotes.
     void OpenWorkSpace(const std::string& path);
 
-    /// Asks for a file and writes it, whole or not at all; says first which rows of the plots have
-    /// no curve, which the file does not keep.
-    void SaveWorkSpace();
+    /// Offers to open what a program left behind that did not end properly. Returns whether it is
+    /// open now; a copy that the user does not want is removed.
+    bool recover(RecoveryCopy& copy);
 
-    /// Asks the user whether changes since the last save may be lost; true also when there are
-    /// none.
-    bool mayDiscard();
+    /// Asks for a file and writes it, whole or not at all; says first which rows of the plots have
+    /// no curve, which the file does not keep. Returns whether it was written.
+    bool SaveWorkSpace();
+
+    /// Asks the user whether to save what has changed since the last time, and saves it. False when
+    /// the user cancels or it could not be saved: the workspace must stay then.
+    bool mayLeave();
 
 private:
     void open(const std::string& path);
+    void show(const OpenedWorkspace& opened);
     void showNamesakes(const std::vector<Namesake>& namesakes);
     bool mayReplace(const std::string& path) const;
     void write(const std::string& path);

@@ -274,7 +274,7 @@ bool SeriesGridModel::setText(const QModelIndex& cell, const QString& text)
     if (column == SeriesColumn::Mode)
         return setModeText(cell, text);
     const bool isTag = column == SeriesColumn::Tag;
-    m_history.change(*m_plot, isTag ? tr("Tag") : tr("Legend Text"), [&] {
+    m_history.change(isTag ? tr("Tag") : tr("Legend Text"), [&] {
         m_plot->rows().change(row(cell.row())->id, [&](Series& look) {
             (isTag ? look.MarkerTag : look.LegendText) = mdlData::inOneLine(text);
         });
@@ -291,7 +291,7 @@ bool SeriesGridModel::setModeText(const QModelIndex& cell, const QString& text)
         if (status != NumberStatus::Ok)
             throwNumberError(status, typed, "wndData",
                              "Mode of row " + std::to_string(cell.row() + 1));
-        m_history.change(*m_plot, tr("Mode"),
+        m_history.change(tr("Mode"),
                          [&] { m_plot->rows().setMode(row(cell.row())->id, number); });
         return true;
     } catch (const RunTimeError& error) {

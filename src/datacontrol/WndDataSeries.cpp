@@ -63,7 +63,7 @@ void wndData::cmdDrawPlot_Click()
 void wndData::changePlot(const QString& name, const std::function<void(EvmPlot&)>& change)
 {
     EvmPlot& plot = *m_model.plot();
-    m_document.history().change(plot, name, [&] { change(plot); });
+    m_document.history().change(name, [&] { change(plot); });
 }
 
 /// What is wrong in the marker options is reported before anything changes.
@@ -222,7 +222,7 @@ void wndData::applyMarkers()
     if (plot == nullptr || m_markers.valid() == before)
         return;
     m_document.history().change(
-        *plot, tr("Marker Options"),
+        tr("Marker Options"),
         [&] { mdlData::changeMarkers(plot->rows(), before, m_markers.valid()); },
         UndoHistory::Joining::Yes);
 }

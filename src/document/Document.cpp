@@ -10,24 +10,19 @@
 
 namespace tarsil {
 
-namespace {
+Document::Document() : m_texts(textsOfNewWorkspace())
+{
+    markSaved();
+    m_history.clear();
+}
 
-WorkspaceTexts textsOfNewWorkspace()
+Document::~Document() = default;
+
+WorkspaceTexts Document::textsOfNewWorkspace()
 {
     return {QStringLiteral("Untitled (Untitled.tsw)"), QStringLiteral("   "),
             dateText(QDateTime::currentDateTime()), QString()};
 }
-
-} // namespace
-
-Document::Document() : m_texts(textsOfNewWorkspace())
-{
-    connect(&m_evolutions, &EvolutionList::aboutToBeRemoved, this, [this] { m_history.clear(); });
-    connect(&m_plots, &PlotList::aboutToBeRemoved, this, [this] { m_history.clear(); });
-    markSaved();
-}
-
-Document::~Document() = default;
 
 std::vector<EVM*> Document::load(const std::vector<std::string>& paths, UserInterface& user)
 {
@@ -39,12 +34,11 @@ std::vector<EVM*> Document::load(const std::vector<std::string>& paths, UserInte
     return added;
 }
 
-TakenEvolution Document::takeOut(EVM& evolution)
+void Document::remove(EVM& evolution)
 {
-    TakenEvolution taken = m_evolutions.takeOut(evolution);
+    m_evolutions.remove(evolution);
     for (EvmPlot* const plot : m_plots.all())
         plot->rows().removeRowsOf(evolution);
-    return taken;
 }
 
 void Document::setAirplane(AirplaneInfo airplane)
@@ -72,11 +66,11 @@ void Document::startNew()
 {
     m_plots.startNew();
     m_evolutions.clear();
-    m_history.clear();
     setTexts(textsOfNewWorkspace());
     m_path.clear();
     m_isPartial = false;
     markSaved();
+    m_history.clear();
     Q_EMIT startedNew();
 }
 

@@ -45,16 +45,15 @@ public:
     PlotList& plots() { return m_plots; }
     const PlotList& plots() const { return m_plots; }
 
-    /// What the user has changed in the plots. It begins anew when an evolution or a plot leaves
-    /// the document, and with a new workspace.
+    /// What the user has changed. It begins anew with a new workspace.
     UndoHistory& history() { return m_history; }
 
     /// Reads modal evolutions and appends those that were not open; returns these. The user is told
     /// of each file that cannot be opened (`mdlMain::loadEvolutions`).
     std::vector<EVM*> load(const std::vector<std::string>& paths, UserInterface& user);
 
-    /// Takes an evolution out, and its rows from all plots. Error 5 for one that is not there.
-    TakenEvolution takeOut(EVM& evolution);
+    /// Removes an evolution, and its rows from all plots. Error 5 for one that is not there.
+    void remove(EVM& evolution);
 
     const AirplaneInfo& airplane() const { return m_airplane; }
 
@@ -84,9 +83,16 @@ public:
     /// are not there, texts that were cut, damaged parts.
     bool isPartial() const { return m_isPartial; }
 
+    /// Opens a copy of a workspace that was never saved (`RecoveryCopy`) as an untitled one with
+    /// changes; otherwise as `open`.
+    OpenedWorkspace recover(const std::string& copy, UserInterface& user);
+
     /// Whether the workspace would be saved as something else than when it was last opened or
     /// saved. What is being edited is committed first.
     bool isChanged();
+
+    /// The same for what is in the document now, without what is being edited.
+    bool isSaved() const { return state() == m_saved; }
 
     /// What is there now counts as saved.
     void markSaved();
@@ -108,6 +114,7 @@ Q_SIGNALS:
     void startedNew();
 
 private:
+    static WorkspaceTexts textsOfNewWorkspace();
     void commitEdits();
     WorkspaceRecord state() const;
     std::vector<EVM*> loadListed(const WorkspaceSource& source, UserInterface& user);
@@ -117,7 +124,7 @@ private:
 
     EvolutionList m_evolutions;
     PlotList m_plots; ///< refer to evolutions, and end before them
-    UndoHistory m_history; ///< refers to both
+    UndoHistory m_history {*this};
     AirplaneInfo m_airplane;
     WorkspaceTexts m_texts;
     std::string m_path;

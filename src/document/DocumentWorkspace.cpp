@@ -94,7 +94,7 @@ WorkspaceRecord Document::state() const
 bool Document::isChanged()
 {
     commitEdits();
-    return state() != m_saved;
+    return !isSaved();
 }
 
 void Document::markSaved()
@@ -125,6 +125,19 @@ OpenedWorkspace Document::open(const std::string& path, UserInterface& user)
         || !opened.namesakes.empty()
         || std::find(evolutions.begin(), evolutions.end(), nullptr) != evolutions.end();
     markSaved();
+    m_history.clear();
+    return opened;
+}
+
+OpenedWorkspace Document::recover(const std::string& copy, UserInterface& user)
+{
+    OpenedWorkspace opened = open(copy, user);
+    WorkspaceTexts texts = m_texts;
+    texts.name = textsOfNewWorkspace().name;
+    setTexts(texts);
+    m_path.clear();
+    m_isPartial = false;
+    m_saved = WorkspaceRecord();
     return opened;
 }
 

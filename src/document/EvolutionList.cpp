@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <iterator>
 #include <string>
-#include <string_view>
+#include <unordered_set>
 #include <utility>
 
 namespace tarsil {
@@ -16,6 +16,12 @@ namespace {
 {
     throw RunTimeError(ErrorNumber::InvalidProcedureCall, "EvolutionList",
                        "the modal evolution \"" + evolution.FileName + "\" is not in this list");
+}
+
+OwnedEvolutions::iterator find(OwnedEvolutions& evolutions, const EVM* evolution)
+{
+    return std::find_if(evolutions.begin(), evolutions.end(),
+                        [evolution](const auto& one) { return one.get() == evolution; });
 }
 
 std::vector<EVM*> pointersTo(const OwnedEvolutions& evolutions)
@@ -60,6 +66,8 @@ void EvolutionList::setReference(EVM* evolution)
 
 void EvolutionList::setParameters(EVM& evolution, const EditableParam& parameters)
 {
+    if (evolution.Param.editable() == parameters)
+        return;
     evolution.Param.Airplane = parameters.airplane;
     evolution.Param.Mass = parameters.mass;
     evolution.Param.Mach = parameters.mach;
@@ -82,45 +90,49 @@ void EvolutionList::takePoints(EVM& evolution, const EVM& state)
     Q_EMIT pointsChanged(&evolution);
 }
 
-TakenEvolution EvolutionList::takeOut(EVM& evolution)
+void EvolutionList::putBack(const OwnedEvolutions& evolutions)
+{
+    std::vector<EVM*> missing;
+    auto position = m_evolutions.begin();
+    for (const auto& evolution : evolutions) {
+        const auto known = find(m_evolutions, evolution.get());
+        if (known != m_evolutions.end()) {
+            position = std::next(known);
+            continue;
+        }
+        position = std::next(m_evolutions.insert(position, evolution));
+        missing.push_back(evolution.get());
+    }
+    if (!missing.empty())
+        Q_EMIT added(missing);
+}
+
+void EvolutionList::remove(EVM& evolution)
 {
     if (!contains(&evolution))
         failForStranger(evolution);
-    const bool wasReference = &evolution == m_reference;
-    if (wasReference)
+    removeAll({&evolution});
+}
+
+void EvolutionList::removeOthers(const OwnedEvolutions& kept)
+{
+    const std::unordered_set<std::shared_ptr<EVM>> known(kept.begin(), kept.end());
+    std::vector<EVM*> leaving;
+    for (const auto& evolution : m_evolutions) {
+        if (known.count(evolution) == 0)
+            leaving.push_back(evolution.get());
+    }
+    if (!leaving.empty())
+        removeAll(leaving);
+}
+
+void EvolutionList::removeAll(const std::vector<EVM*>& leaving)
+{
+    const std::unordered_set<const EVM*> gone(leaving.begin(), leaving.end());
+    if (gone.count(m_reference) > 0)
         setReference(nullptr);
-    Q_EMIT aboutToBeRemoved({&evolution});
-    const auto leaving = find(&evolution);
-    TakenEvolution taken {static_cast<std::size_t>(leaving - m_evolutions.begin()),
-                          std::move(*leaving), wasReference};
-    m_evolutions.erase(leaving);
-    return taken;
-}
-
-void EvolutionList::putBack(TakenEvolution taken)
-{
-    EVM* const evolution = taken.evolution.get();
-    const std::size_t position = std::min(taken.position, m_evolutions.size());
-    m_evolutions.insert(m_evolutions.begin() + static_cast<std::ptrdiff_t>(position),
-                        std::move(taken.evolution));
-    Q_EMIT added({evolution});
-    if (taken.wasReference)
-        setReference(evolution);
-}
-
-void EvolutionList::clear()
-{
-    if (m_evolutions.empty())
-        return;
-    setReference(nullptr);
-    Q_EMIT aboutToBeRemoved(pointersTo(m_evolutions));
-    m_evolutions.clear();
-}
-
-OwnedEvolutions::iterator EvolutionList::find(const EVM* evolution)
-{
-    return std::find_if(m_evolutions.begin(), m_evolutions.end(),
-                        [evolution](const auto& one) { return one.get() == evolution; });
+    Q_EMIT aboutToBeRemoved(leaving);
+    std::erase_if(m_evolutions, [&gone](const auto& one) { return gone.count(one.get()) > 0; });
 }
 
 } // namespace tarsil

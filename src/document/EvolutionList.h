@@ -4,22 +4,12 @@
 
 #include <QObject>
 
-#include <cstddef>
-#include <memory>
 #include <vector>
 
 namespace tarsil {
 
-/// An evolution that has left its list and can be put back.
-struct TakenEvolution
-{
-    std::size_t position = 0; ///< from 0, which it had and will have again
-    std::unique_ptr<EVM> evolution;
-    bool wasReference = false;
-};
-
 /// The open modal evolutions of a document, in load order, and the reference evolution. The list
-/// owns them. An evolution keeps its address for life, also while it is out of the list.
+/// owns them, together with whoever wants to put back one that has left it.
 class EvolutionList : public QObject
 {
     Q_OBJECT
@@ -41,26 +31,29 @@ public:
     /// Null for none. Error 5 for an evolution that is not in the list.
     void setReference(EVM* evolution);
 
-    /// Changes the parameters that users may change.
+    /// Changes the parameters that users may change. Nothing happens when they are the same.
     void setParameters(EVM& evolution, const EditableParam& parameters);
 
     /// Makes points and modifications those of another state of its file, which has the same modes
     /// and points; rows of plots keep their modes. Error 5 for another file.
     void takePoints(EVM& evolution, const EVM& state);
 
-    /// Takes an evolution out of the list; it is the reference evolution no longer. Error 5 for one
-    /// that is not in the list. Rows of plots that show it are for `Document::takeOut` to remove.
-    TakenEvolution takeOut(EVM& evolution);
+    /// Inserts those of `evolutions` that are not in the list, each after its predecessor there;
+    /// the others stay where they are.
+    void putBack(const OwnedEvolutions& evolutions);
 
-    /// Puts an evolution back that was taken out, at its position, and makes it the reference
-    /// evolution when it was.
-    void putBack(TakenEvolution taken);
+    /// Removes an evolution; it is the reference evolution no longer. Error 5 for one that is not
+    /// in the list. Rows of plots that show it are for `Document::remove` to remove.
+    void remove(EVM& evolution);
+
+    /// Removes all evolutions that are not in `kept`.
+    void removeOthers(const OwnedEvolutions& kept);
 
     /// Removes all evolutions.
-    void clear();
+    void clear() { removeOthers({}); }
 
 Q_SIGNALS:
-    /// Evolutions are in the list, the last ones in this order unless they were put back.
+    /// Evolutions are in the list: the last ones, in this order, unless they were put back.
     void added(const std::vector<tarsil::EVM*>& evolutions);
 
     /// Evolutions leave the list when all have heard of it; they may come back.
@@ -75,7 +68,7 @@ Q_SIGNALS:
     void pointsChanged(tarsil::EVM* evolution);
 
 private:
-    OwnedEvolutions::iterator find(const EVM* evolution);
+    void removeAll(const std::vector<EVM*>& leaving);
 
     OwnedEvolutions m_evolutions;
     EVM* m_reference = nullptr;

@@ -87,39 +87,36 @@ EvmPlot& PlotList::copyActive(const QString& caption)
     return append(std::move(element), caption.isEmpty() ? standard : caption);
 }
 
-TakenPlot PlotList::takeOut(EvmPlot& plot)
+void PlotList::remove(EvmPlot& plot)
 {
     const auto element = find(&plot);
     if (element == m_plots.end() || element->index == 0)
         throw RunTimeError(ErrorNumber::InvalidProcedureCall, module,
                            "the plot \"" + plot.properties().Caption().toStdString()
                                + "\" cannot be removed");
-    const bool wasActive = &plot == m_active;
-    if (wasActive)
+    if (&plot == m_active)
         activate(std::prev(element)->plot.get());
     Q_EMIT aboutToBeRemoved(&plot);
-    const auto leaving = find(&plot); // plots may have been added meanwhile
-    TakenPlot taken {leaving->index, std::move(leaving->plot), wasActive};
-    m_plots.erase(leaving);
-    return taken;
+    m_plots.erase(find(&plot)); // plots may have been added meanwhile
 }
 
-void PlotList::putBack(TakenPlot taken)
+void PlotList::putBack(const Element& element)
 {
-    EvmPlot* const plot = taken.plot.get();
-    const auto isBefore = [](int index, const Element& element) { return index < element.index; };
-    m_plots.insert(std::upper_bound(m_plots.begin(), m_plots.end(), taken.index, isBefore),
-                   Element {taken.index, std::move(taken.plot)});
-    Q_EMIT added(plot);
-    if (taken.wasActive)
-        activate(plot);
+    if (contains(element.plot.get()))
+        return;
+    const auto isBefore = [](int index, const Element& other) { return index < other.index; };
+    m_plots.insert(std::upper_bound(m_plots.begin(), m_plots.end(), element.index, isBefore),
+                   element);
+    Q_EMIT added(element.plot.get());
 }
 
-bool PlotList::isTaken(const QString& caption, const EvmPlot& plot) const
+bool PlotList::rename(EvmPlot& plot, const QString& caption)
 {
-    return std::any_of(m_plots.begin(), m_plots.end(), [&](const Element& element) {
-        return element.plot.get() != &plot && element.plot->properties().Caption() == caption;
-    });
+    if (isTaken(caption, plot))
+        return false;
+    if (!caption.trimmed().isEmpty())
+        plot.properties().setCaption(caption);
+    return true;
 }
 
 /// The rows go first, unseen: whoever called may end their evolutions next.
@@ -128,7 +125,7 @@ void PlotList::startNew()
     for (const Element& element : m_plots)
         element.plot->rows().clear();
     while (m_plots.size() > 1)
-        takeOut(*m_plots.back().plot);
+        remove(*m_plots.back().plot);
     EvmPlot fresh;
     fresh.properties().setCaption(QStringLiteral("Plot1"));
     fresh.setAxes(m_newPlotAxes);
@@ -156,7 +153,7 @@ int PlotList::nextIndex() const
 /// A hidden plot.
 PlotList::Element PlotList::makeElement(int index) const
 {
-    auto plot = std::make_unique<EvmPlot>();
+    auto plot = std::make_shared<EvmPlot>();
     plot->setVisible(false);
     return {index, std::move(plot)};
 }
@@ -167,6 +164,14 @@ EvmPlot& PlotList::append(Element element, const QString& caption)
     EvmPlot& plot = *m_plots.emplace_back(std::move(element)).plot;
     Q_EMIT added(&plot);
     return plot;
+}
+
+/// Whether a plot other than `plot` has this caption.
+bool PlotList::isTaken(const QString& caption, const EvmPlot& plot) const
+{
+    return std::any_of(m_plots.begin(), m_plots.end(), [&](const Element& element) {
+        return element.plot.get() != &plot && element.plot->properties().Caption() == caption;
+    });
 }
 
 /// The caption, with the first number from 2 on that no other plot has when it is taken.

@@ -14,19 +14,11 @@ namespace tarsil {
 
 class EvmPlot;
 
-/// A plot that has left its list and can be put back.
-struct TakenPlot
-{
-    int index = 0; ///< in the list, which it had and will have again
-    std::unique_ptr<EvmPlot> plot;
-    bool wasActive = false;
-};
-
 /// The plots of a document, in the order of their indices. Index 0 is "Plot1", which is always
 /// there. At most one plot is active: it is the only visible one, and what every command on "the
 /// plot" means. No two plots have the same caption. A new list has no active plot.
 ///
-/// The list owns its plots. A plot keeps its address for life, also while it is out of the list.
+/// The list owns its plots, together with whoever wants to put back one that has left it.
 class PlotList : public QObject
 {
     Q_OBJECT
@@ -34,6 +26,14 @@ class PlotList : public QObject
 public:
     PlotList();
     ~PlotList() override;
+
+    struct Element
+    {
+        int index = 0; ///< which the plot keeps for life
+        std::shared_ptr<EvmPlot> plot;
+    };
+
+    const std::vector<Element>& elements() const { return m_plots; }
 
     /// All plots in the order of their indices.
     std::vector<EvmPlot*> all() const;
@@ -68,15 +68,16 @@ public:
     /// of the copy: "Plot1(2)". Error 91 when no plot is active.
     EvmPlot& copyActive(const QString& caption);
 
-    /// Takes a plot out of the list; its predecessor becomes active when it was. Error 5 for the
-    /// plot of index 0 and for one that is not in the list.
-    TakenPlot takeOut(EvmPlot& plot);
+    /// Removes a plot; its predecessor becomes active when it was. Error 5 for the plot of index 0
+    /// and for one that is not in the list.
+    void remove(EvmPlot& plot);
 
-    /// Puts a plot back that was taken out, at its index, and activates it when it was active.
-    void putBack(TakenPlot taken);
+    /// Inserts a plot that has left the list at its index. Nothing happens when it is there.
+    void putBack(const Element& element);
 
-    /// Whether a plot other than `plot` has this caption.
-    bool isTaken(const QString& caption, const EvmPlot& plot) const;
+    /// Gives a plot another caption; a blank one changes nothing. False, and nothing changes, when
+    /// another plot has that caption.
+    bool rename(EvmPlot& plot, const QString& caption);
 
     /// Leaves the plot of index 0 alone, empty and as new, and activates it. Nothing is drawn.
     void startNew();
@@ -89,20 +90,15 @@ Q_SIGNALS:
     void added(tarsil::EvmPlot* plot);
 
     /// A plot, which is not active any more, leaves the list when all have heard of it. Views of
-    /// it end now: it may live on, and come back.
+    /// it end now; it may come back.
     void aboutToBeRemoved(tarsil::EvmPlot* plot);
 
 private:
-    struct Element
-    {
-        int index;
-        std::unique_ptr<EvmPlot> plot;
-    };
-
     std::vector<Element>::iterator find(const EvmPlot* plot);
     int nextIndex() const;
     Element makeElement(int index) const;
     EvmPlot& append(Element element, const QString& caption);
+    bool isTaken(const QString& caption, const EvmPlot& plot) const;
     QString uniqueCaption(const QString& caption, const EvmPlot& plot) const;
 
     std::vector<Element> m_plots; ///< by increasing index

@@ -46,7 +46,6 @@ void restoreTexts(EvmPlot& plot, const PlotState& state)
 PlotState stateOf(const EvmPlot& plot)
 {
     PlotState state;
-    state.rows = plot.rows().all();
     for (std::size_t i = 0; i < state.boxes.size(); ++i)
         state.boxes[i] = boxStateOf(plot, allTextBoxes[i]);
     state.properties = plot.properties().WriteProperties();
@@ -58,7 +57,6 @@ PlotState stateOf(const EvmPlot& plot)
 
 void restore(EvmPlot& plot, const PlotState& state)
 {
-    plot.rows().restore(state.rows);
     restoreAxes(plot, state);
     restoreTexts(plot, state);
     if (plot.marks().referenceSpeeds() != state.referenceSpeeds)

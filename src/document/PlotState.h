@@ -5,7 +5,6 @@
 #include "plot/PropertyBag.h"
 #include "plot/RefLine.h"
 #include "plot/RefThick.h"
-#include "vgfplot/PlotRows.h"
 #include "vgfplot/TextBox.h"
 
 #include <array>
@@ -15,11 +14,9 @@ namespace tarsil {
 
 class EvmPlot;
 
-/// Everything of a plot that a user can change, as a value. It refers to the evolutions of its
-/// rows, which must be there when it is restored.
+/// Everything of a plot that a user can change, apart from its rows.
 struct PlotState
 {
-    PlotRows::Rows rows;
     std::array<emfRichTextBox::State, allTextBoxes.size()> boxes; ///< as `allTextBoxes`
     PropertyBag properties; ///< caption and what else (`EvmPlot::WriteProperties`)
     PlotAxes axes;

@@ -52,20 +52,19 @@ void wndEvolExplorer::rename(QTreeWidgetItem& node, const QString& text)
         changeParameter(*evolution, m_evolutions.valueAt(node), text);
     } else if (&node == &m_workspace.description()) {
         m_document.setDescription(text);
+        m_document.history().note(tr("Edit Description"));
     }
 }
 
-/// The node follows the plot's caption. A plot without a name could not be told from the others, so
-/// that an empty one is taken for a change of mind.
+/// The node follows the plot's caption.
 void wndEvolExplorer::renamePlot(EvmPlot& plot, const QString& text)
 {
-    if (m_document.plots().isTaken(text, plot)) {
+    if (!m_document.plots().rename(plot, text)) {
         m_user.showMessage("This name already exist. Please, select another one.", "Tarsil",
                            MessageIcon::Exclamation);
         return;
     }
-    if (!text.trimmed().isEmpty())
-        plot.properties().setCaption(text);
+    m_document.history().note(tr("Rename Plot"));
     m_plotWindow.ActivatePlot(&plot);
 }
 
@@ -90,6 +89,7 @@ void wndEvolExplorer::changeParameter(EVM& evolution, EvolutionValue value, cons
         return;
     }
     m_document.evolutions().setParameters(evolution, parameters);
+    m_document.history().note(tr("Edit Parameters"));
 }
 
 /// The number of a text; none, after a message to the user, when it is no number. Error 6

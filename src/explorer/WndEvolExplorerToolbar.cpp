@@ -40,8 +40,9 @@ void wndEvolExplorer::makeToolbar()
         QAction* const action = m_toolBar->addAction(m_images.image(key), toolTip);
         action->setObjectName(key);
         action->setToolTip(toolTip);
-        connect(action, &QAction::triggered, this, [this, handler = button.handler] {
+        connect(action, &QAction::triggered, this, [this, toolTip, handler = button.handler] {
             runCommand([this, handler] { (this->*handler)(); });
+            m_document.history().note(toolTip);
         });
         if (button.endsGroup)
             m_toolBar->addSeparator();
@@ -55,7 +56,7 @@ void wndEvolExplorer::remove_Click()
         m_user.showMessage("Please select a modal evolution.", "Tarsil", MessageIcon::Exclamation);
         return;
     }
-    m_document.takeOut(*evolution);
+    m_document.remove(*evolution);
 }
 
 /// Everything is looked at before the first series is added, so that an error changes nothing.

@@ -322,8 +322,9 @@ void dlgImport::load(const std::vector<std::string>& paths)
             replaced.push_back(evolution.get());
     }
     for (EVM* const evolution : replaced)
-        m_document.takeOut(*evolution);
+        m_document.remove(*evolution);
     const std::size_t count = m_document.load(paths, m_user).size();
+    m_document.history().note(tr("Import Solver Results"));
     m_user.showNote(std::to_string(count)
                     + (count == 1 ? " modal evolution is" : " modal evolutions are")
                     + " imported: they are listed in the explorer.");

@@ -66,7 +66,7 @@ private:
     EditableParam m_paramOfFile;
 };
 
-/// Evolutions with their owner, in the order in which they were loaded.
-using OwnedEvolutions = std::vector<std::unique_ptr<EVM>>;
+/// Evolutions with their owners, in the order in which they were loaded.
+using OwnedEvolutions = std::vector<std::shared_ptr<EVM>>;
 
 } // namespace tarsil

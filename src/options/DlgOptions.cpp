@@ -183,6 +183,7 @@ void dlgOptions::btnApply_Click()
 {
     m_user.beginCommand();
     ApplyOpt();
+    m_document.history().note(tr("Options"));
 }
 
 /// A list that could not be applied was reported, and stands in its input to be put right when the

@@ -186,6 +186,7 @@ void EvmPlotView::keyPressEvent(QKeyEvent* event)
     if (m_mover.press(*event)) {
         Q_EMIT commandBegun();
         followMovement();
+        Q_EMIT edited(tr("Move Text"), true);
     } else if (edits && m_mover.selected()) {
         startEditing(*m_mover.selected());
     } else {
@@ -222,15 +223,18 @@ void EvmPlotView::showBoxMenu(TextBox box, QPoint position)
     m_boxMenu->popup(mapToGlobal(position));
 }
 
-/// The pointer and the outline tell what the mover is doing.
+/// The pointer and the outline show what the mover is doing.
 void EvmPlotView::followMovement()
 {
-    setMouseTracking(m_mover.isMoving());
-    if (m_mover.isMoving())
+    const bool wasMoving = std::exchange(m_isMoving, m_mover.isMoving());
+    setMouseTracking(m_isMoving);
+    if (m_isMoving)
         setCursor(Qt::SizeAllCursor);
     else
         unsetCursor();
     update();
+    if (wasMoving && !m_isMoving)
+        Q_EMIT edited(tr("Move Text"), false);
 }
 
 void EvmPlotView::copyPicture()
@@ -273,11 +277,14 @@ void EvmPlotView::finishEditing(bool keep)
         return;
     RichTextEditor* const editor = m_editor;
     m_editor = nullptr;
-    if (RichText text = editor->text(); keep && text != m_plot.parts().box(m_editedBox).content())
-        m_plot.texts().setContent(m_editedBox, std::move(text));
     editor->hide();
     editor->deleteLater();
     update();
+    RichText text = editor->text();
+    if (!keep || text == m_plot.parts().box(m_editedBox).content())
+        return;
+    m_plot.texts().setContent(m_editedBox, std::move(text));
+    Q_EMIT edited(tr("Edit Text"), false);
 }
 
 /// Nothing of what the user was doing reaches the contents that come now.

@@ -40,6 +40,10 @@ Q_SIGNALS:
     /// repaint.
     void failed(const tarsil::RunTimeError& error);
 
+    /// The user has edited or moved a text box: `what` names it as a step that can be undone, and
+    /// `joins` says that it belongs to the step before when that has the same name.
+    void edited(const QString& what, bool joins);
+
     /// The user copies the picture, or begins to edit or to move a text box.
     void commandBegun();
 
@@ -73,6 +77,7 @@ private:
     QMenu* m_boxMenu;
     QAction* m_edit;
     QAction* m_move;
+    bool m_isMoving = false; ///< a text box follows the pointer
     RichTextEditor* m_editor = nullptr;
     TextBox m_editedBox = TextBox::Header;
 };

@@ -54,7 +54,7 @@ EvmPlot* wndEvolPlot::CopyPlot(const QString& caption)
 void wndEvolPlot::RemovePlot(EvmPlot* plot)
 {
     if (m_plots.contains(plot) && plot != &m_plots.first())
-        m_plots.takeOut(*plot);
+        m_plots.remove(*plot);
 }
 
 void wndEvolPlot::AddSerie(AeMode& mode)
@@ -117,6 +117,7 @@ void wndEvolPlot::addView(EvmPlot* plot)
     view->hide(); // otherwise it would show together with the window
     new PlotReadout(*plot, *view); // belongs to the view
     connect(view.get(), &EvmPlotView::failed, this, &wndEvolPlot::failed);
+    connect(view.get(), &EvmPlotView::edited, this, &wndEvolPlot::edited);
     connect(view.get(), &EvmPlotView::commandBegun, this, [this] { m_user.beginCommand(); });
     connect(plot, &EvmPlot::changed, this, &wndEvolPlot::updateTitle);
     evpVgf.push_back({plot, std::move(view)});

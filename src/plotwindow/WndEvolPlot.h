@@ -42,7 +42,7 @@ public:
     /// `PlotList::copyActive`. Null, after a message to the user, when no plot is active.
     EvmPlot* CopyPlot(const QString& caption);
 
-    /// Removes a plot for good. Element 0 stays, and a plot that is not of this window is nothing
+    /// `PlotList::remove`. Element 0 stays, and a plot that is not of this window is nothing
     /// to remove.
     void RemovePlot(EvmPlot* plot);
 
@@ -67,6 +67,8 @@ public:
     void fitAll();
 
 Q_SIGNALS:
+    /// The user has edited or moved a text box; see `EvmPlotView::edited`.
+    void edited(const QString& what, bool joins);
 
     /// The user wants the menu of the active plot, by the right button or by the keyboard.
     void plotMenuRequested(QPoint globalPosition);

@@ -258,7 +258,7 @@ void wndStability::zoomTo(int row)
     if (stretch == nullptr)
         return;
     EvmPlot& plot = activePlot();
-    m_document.history().change(plot, tr("Zoom to Crossing"),
+    m_document.history().change(tr("Zoom to Crossing"),
                                 [&] { plot.setAxes(axesAround(*stretch, plot.axes())); });
 }
 
@@ -276,7 +276,7 @@ void wndStability::addRequirementLines()
                            "no evolution of the plot has a flutter envelope for its Mach number");
     const std::string tag = shortestText(m_requirement.factor) + " "
         + (m_document.airplane().VdTag.empty() ? "Vd" : m_document.airplane().VdTag);
-    m_document.history().change(plot, tr("Requirement Lines"), [&] {
+    m_document.history().change(tr("Requirement Lines"), [&] {
         for (const double speed : speeds)
             plot.marks().AddRef(static_cast<float>(speed), QString::fromStdString(tag));
         plot.marks().AddDampLine(

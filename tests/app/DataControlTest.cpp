@@ -111,7 +111,7 @@ TEST_F(DataControl, losesTheReferenceWithItsEvolution)
     add({sample("goland_clean_m040.ev2")});
     selectNode(0);
     choose("popSetRefEvol");
-    user.confirmations.push_back(true);
+    user.unsaved = {Unsaved::Discard};
     choose("mnuNewWorkspace");
     test::click(data(), "btnMakHead");
     ASSERT_EQ(user.messages.size(), 1U);

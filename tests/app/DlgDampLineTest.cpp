@@ -1,5 +1,6 @@
 #include "app/DlgDampLine.h"
 
+#include "document/Document.h"
 #include "support/FormParts.h"
 #include "support/ScriptedUserInterface.h"
 #include "vgfplot/EvmPlot.h"
@@ -21,8 +22,9 @@ using Message = test::ScriptedUserInterface::Message;
 class DlgDampLine : public ::testing::Test
 {
 protected:
-    DlgDampLine() : dialog([this] { return active; }, user)
+    DlgDampLine() : plot(document.plots().first()), dialog(document, user)
     {
+        document.plots().activate(&plot);
         dialog.show();
         dialog.activateWindow();
         QApplication::processEvents();
@@ -40,8 +42,8 @@ protected:
     }
     std::string caption() const { return test::textIn(dialog, "captionInp"); }
 
-    EvmPlot plot;
-    EvmPlot* active = &plot;
+    Document document;
+    EvmPlot& plot;
     test::ScriptedUserInterface user;
     dlgDampLine dialog;
 };
@@ -226,7 +228,7 @@ TEST_F(DlgDampLine, asksForANumberAndAddsNothingWithoutOne)
 
 TEST_F(DlgDampLine, asksForAPlotWhenNoneIsActive)
 {
-    active = nullptr;
+    document.plots().activate(nullptr);
     add();
     EXPECT_EQ(user.messages, std::vector<Message>({noPlot}));
     EXPECT_TRUE(dialog.isVisible());

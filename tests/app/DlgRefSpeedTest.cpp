@@ -1,5 +1,6 @@
 #include "app/DlgRefSpeed.h"
 
+#include "document/Document.h"
 #include "support/FormParts.h"
 #include "support/ScriptedUserInterface.h"
 #include "vgfplot/EvmPlot.h"
@@ -19,13 +20,17 @@ using Message = test::ScriptedUserInterface::Message;
 class DlgRefSpeed : public ::testing::Test
 {
 protected:
-    DlgRefSpeed() : dialog([this] { return active; }, user) { dialog.show(); }
+    DlgRefSpeed() : plot(document.plots().first()), dialog(document, user)
+    {
+        document.plots().activate(&plot);
+        dialog.show();
+    }
 
     void add() { test::click(dialog, "AddRefBtn"); }
     const std::vector<RefThick>& marks() const { return plot.parts().velAxis.marks(); }
 
-    EvmPlot plot;
-    EvmPlot* active = &plot;
+    Document document;
+    EvmPlot& plot;
     test::ScriptedUserInterface user;
     dlgRefSpeed dialog;
 };
@@ -83,8 +88,8 @@ TEST_F(DlgRefSpeed, endsTheNoteOfTheCommandBefore)
 
 TEST_F(DlgRefSpeed, addsToThePlotThatIsActiveThen)
 {
-    EvmPlot other;
-    active = &other;
+    EvmPlot& other = document.plots().add(QString());
+    document.plots().activate(&other);
     add();
     EXPECT_TRUE(marks().empty());
     EXPECT_EQ(other.parts().velAxis.marks().size(), 1U);
@@ -131,7 +136,7 @@ TEST_F(DlgRefSpeed, asksForANumberAndAddsNothingWithoutOne)
 
 TEST_F(DlgRefSpeed, asksForAPlotWhenNoneIsActive)
 {
-    active = nullptr;
+    document.plots().activate(nullptr);
     add();
     EXPECT_EQ(user.messages, std::vector<Message>({noPlot}));
     EXPECT_TRUE(dialog.isVisible());

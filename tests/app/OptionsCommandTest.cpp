@@ -143,7 +143,7 @@ TEST_F(Options, areNotWrittenWhenTheUserStays)
     load();
     window.document().setDescription(QStringLiteral("an afternoon"));
     choose("mnuOptions");
-    user.confirmations.push_back(false);
+    user.unsaved = {Unsaved::Cancel};
     choose("QuitMenu");
     EXPECT_TRUE(window.isVisible());
     EXPECT_TRUE(dialog()->isVisible());
@@ -184,7 +184,7 @@ TEST_F(Options, areTheAxesOfANewWorkspaceAndOfNoneThatIsOpened)
     choose("mnuOptions");
     test::type(*dialog(), "txtVgfScale", "0|100|0|-1|0|10");
     test::click(*dialog(), "btnOK");
-    user.confirmations = {true, true};
+    user.unsaved = {Unsaved::Discard, Unsaved::Discard};
     plot().SetScale(0, 321, 0, 20, 0, -2);
     choose("mnuNewWorkspace");
     EXPECT_EQ(plot().axes().bounds(), (PlotBounds {0, 100, 0, 10, 0, -1}));

@@ -88,6 +88,19 @@ TEST_F(QtUserInterfaceTest, asksYesOrNo)
     EXPECT_FALSE(user.confirm("Really?", "Tarsil"));
 }
 
+TEST_F(QtUserInterfaceTest, asksWhatBecomesOfUnsavedChanges)
+{
+    onDialog<QMessageBox>([](QMessageBox& box) {
+        EXPECT_EQ(box.defaultButton(), box.button(QMessageBox::Save));
+        box.button(QMessageBox::Save)->click();
+    });
+    EXPECT_EQ(user.askToSave("Save?", "Tarsil"), Unsaved::Save);
+    onDialog<QMessageBox>([](QMessageBox& box) { box.button(QMessageBox::Discard)->click(); });
+    EXPECT_EQ(user.askToSave("Save?", "Tarsil"), Unsaved::Discard);
+    onDialog<QMessageBox>([](QMessageBox& box) { box.reject(); });
+    EXPECT_EQ(user.askToSave("Save?", "Tarsil"), Unsaved::Cancel);
+}
+
 TEST_F(QtUserInterfaceTest, asksForATextAndOffersOne)
 {
     onDialog<QInputDialog>([](QInputDialog& dialog) {
@@ -148,6 +161,7 @@ TEST_F(QtUserInterfaceTest, belongsToTheWindowThatAsksAndGivesItTheKeyboardBack)
     const std::function<void()> questions[] = {
         [&] { user.showMessage("Wrong.", "Error", MessageIcon::Critical); },
         [&] { user.confirm("Really?", "Tarsil"); },
+        [&] { user.askToSave("Save?", "Tarsil"); },
         [&] { user.askText("Mach?", "Tarsil", ""); },
         [&] { user.askOpenFiles(question); },
         [&] { user.askSaveFile(question); },

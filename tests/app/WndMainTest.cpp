@@ -56,6 +56,7 @@ TEST_F(WndMainTest, hasTheMenusLetterForLetter)
                 ElementsAre("&New Workspace", "&Open Workspace ...", "&Save Worspace",
                             "&Add Modal Evolution ...", "&Import Solver Results ...",
                             "&Export Mix File ...", "Quit"));
+    EXPECT_THAT(captionsOf(menu("EditMenu")), ElementsAre("&Undo", "&Redo"));
     EXPECT_THAT(captionsOf(menu("mnuView")),
                 ElementsAre("Data Control", "Modal Evolution Explorer", "V-g-f Plot"));
     EXPECT_THAT(captionsOf(menu("mnuFormat")), ElementsAre("Set Scale"));
@@ -68,7 +69,7 @@ TEST_F(WndMainTest, hasTheMenusLetterForLetter)
     std::vector<std::string> bar;
     for (const QAction* entry : window.menuBar()->actions())
         bar.push_back(entry->text().toStdString());
-    EXPECT_THAT(bar, ElementsAre("&File", "&View", "&Format", "&Tools", "&Window"));
+    EXPECT_THAT(bar, ElementsAre("&File", "&Edit", "&View", "&Format", "&Tools", "&Window"));
 }
 
 TEST_F(WndMainTest, hasThePopupsOfPlotAndExplorer)

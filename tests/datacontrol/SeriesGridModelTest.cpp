@@ -3,7 +3,7 @@
 #include "datacontrol/SeriesGridModel.h"
 
 #include "analysis/ModeBuilder.h"
-#include "document/UndoHistory.h"
+#include "document/Document.h"
 #include "support/ChangeSeries.h"
 #include "vgfplot/EvmPlot.h"
 
@@ -64,10 +64,10 @@ protected:
     }
 
     EVM evolution;
-    EvmPlot plot;
-    EvmPlot other;
-    UndoHistory history;
-    SeriesGridModel model {history};
+    Document document;
+    EvmPlot& plot = document.plots().first();
+    EvmPlot& other = document.plots().add(QString());
+    SeriesGridModel model {document.history()};
     std::optional<QAbstractItemModelTester> tester;
 };
 

@@ -34,6 +34,10 @@ protected:
             add(evolution, mode);
         setReference(evolution);
     }
+    std::pair<PlotState, PlotRows::Rows> stateAndRows()
+    {
+        return {stateOf(plot()), plot().rows().all()};
+    }
     void moveBy(int action)
     {
         partOf<QToolButton>(data, "btnSerieMove").menu()->actions().at(action)->trigger();
@@ -76,15 +80,15 @@ TEST_F(WndDataUndo, takesEveryCommandBackInOneStep)
     for (const auto& [name, command] : commands) {
         const std::string where = name;
         history.clear();
-        const PlotState before = stateOf(plot());
+        const auto before = stateAndRows();
         command();
         ASSERT_EQ(history.steps().count(), 1) << where;
         EXPECT_EQ(history.steps().undoText(), QString::fromLatin1(name));
-        const PlotState after = stateOf(plot());
+        const auto after = stateAndRows();
         history.undo();
-        EXPECT_EQ(stateOf(plot()), before) << where;
+        EXPECT_EQ(stateAndRows(), before) << where;
         history.redo();
-        EXPECT_EQ(stateOf(plot()), after) << where;
+        EXPECT_EQ(stateAndRows(), after) << where;
     }
 }
 
@@ -100,13 +104,13 @@ TEST_F(WndDataUndo, makesNoStepOfACommandThatFails)
 {
     test::type(data, "mksizeInp", "big");
     history.clear();
-    const PlotState before = stateOf(plot());
+    const auto before = stateAndRows();
     select(0, 3, SeriesColumn::Mode);
     for (const char* button : {"cmdIncMode", "cmdRemove", "cmdDrawPlot", "btnPlotLeg"})
         click(button);
     EXPECT_EQ(user.messages.size(), 4U);
     EXPECT_EQ(history.steps().count(), 0);
-    EXPECT_EQ(stateOf(plot()), before);
+    EXPECT_EQ(stateAndRows(), before);
 }
 
 TEST_F(WndDataUndo, showsInTheGridWhatIsUndone)

@@ -53,7 +53,7 @@ TEST_F(DocumentTest, appendsTheEvolutionsThatItLoads)
     EXPECT_THAT(document.load({clean}, user), IsEmpty());
 }
 
-TEST_F(DocumentTest, takesAnEvolutionOutWithItsRows)
+TEST_F(DocumentTest, removesAnEvolutionWithItsRows)
 {
     EVM& a = addEvolution(document.evolutions(), "a");
     EVM& b = addEvolution(document.evolutions(), "b");
@@ -63,8 +63,7 @@ TEST_F(DocumentTest, takesAnEvolutionOutWithItsRows)
     first.rows().setMode(first.rows().at(0).id, 9); // names no mode
     first.rows().add(*b.Modes[0]);
     second.rows().add(*b.Modes[0]);
-    const TakenEvolution taken = document.takeOut(a);
-    EXPECT_EQ(taken.evolution.get(), &a);
+    document.remove(a);
     EXPECT_EQ(first.rows().count(), 1U);
     EXPECT_EQ(second.rows().count(), 1U);
     EXPECT_THAT(namesOf(document.evolutions()), ElementsAre("b"));
@@ -75,35 +74,50 @@ TEST_F(DocumentTest, keepsTheRowsOfAStranger)
     EVM stranger;
     EvmPlot& first = document.plots().first();
     first.rows().add(stranger.appendMode());
-    EXPECT_EQ(errorNumberOf([&] { document.takeOut(stranger); }),
-              ErrorNumber::InvalidProcedureCall);
+    EXPECT_EQ(errorNumberOf([&] { document.remove(stranger); }), ErrorNumber::InvalidProcedureCall);
     EXPECT_EQ(first.rows().count(), 1U);
 }
 
-TEST_F(DocumentTest, startsItsHistoryAnewWhenWhatItRefersToLeaves)
+TEST_F(DocumentTest, startsItsHistoryAnewWithANewWorkspace)
 {
-    EvmPlot& first = document.plots().first();
-    EvmPlot* second = nullptr;
-    EVM* evolution = nullptr;
-    const auto changeBoth = [&] {
-        evolution = &addEvolution(document.evolutions(), "a");
-        second = &document.plots().add(QString());
-        for (EvmPlot* const plot : {&first, second})
-            document.history().change(*plot, QStringLiteral("Add Curve"),
-                                      [&] { plot->rows().add(*evolution->Modes[0]); });
-        EXPECT_EQ(document.history().steps().count(), 2);
-    };
-    changeBoth();
-    document.takeOut(*evolution);
-    EXPECT_EQ(document.history().steps().count(), 0);
-    changeBoth();
-    document.plots().takeOut(*second);
-    EXPECT_EQ(document.history().steps().count(), 0);
-    changeBoth();
+    document.history().change(QStringLiteral("Add Plot"), [&] { document.plots().add({}); });
+    EXPECT_EQ(document.history().steps().count(), 1);
     document.startNew();
     EXPECT_EQ(document.history().steps().count(), 0);
     document.history().undo();
-    EXPECT_TRUE(first.rows().isEmpty());
+    EXPECT_THAT(captionsOf(document.plots()), ElementsAre("Plot1"));
+}
+
+TEST_F(DocumentTest, bringsARemovedEvolutionBackWithItsRowsAndItsAddress)
+{
+    EVM& a = addEvolution(document.evolutions(), "a");
+    EVM& b = addEvolution(document.evolutions(), "b");
+    document.evolutions().setReference(&a);
+    EvmPlot& plot = document.plots().first();
+    plot.rows().add(*a.Modes[0]);
+    plot.rows().add(*b.Modes[0]);
+    const PlotRows::Rows rows = plot.rows().all();
+    document.history().change(QStringLiteral("Remove"), [&] { document.remove(a); });
+    EXPECT_EQ(plot.rows().count(), 1U);
+    document.history().undo();
+    EXPECT_EQ(document.evolutions().all()[0].get(), &a);
+    EXPECT_EQ(document.evolutions().reference(), &a);
+    EXPECT_EQ(plot.rows().all(), rows);
+    document.history().redo();
+    EXPECT_THAT(namesOf(document.evolutions()), ElementsAre("b"));
+    EXPECT_EQ(plot.rows().count(), 1U);
+}
+
+TEST_F(DocumentTest, bringsARemovedPlotBackAndShowsIt)
+{
+    EvmPlot& second = document.plots().add(QStringLiteral("second"));
+    second.marks().AddRef(300, QStringLiteral("Vd"));
+    document.plots().activate(&second);
+    document.history().change(QStringLiteral("Remove"), [&] { document.plots().remove(second); });
+    EXPECT_EQ(document.plots().active(), &document.plots().first());
+    document.history().undo();
+    EXPECT_EQ(document.plots().active(), &second);
+    EXPECT_EQ(second.marks().referenceSpeeds().size(), 1U);
 }
 
 TEST_F(DocumentTest, announcesTextsThatDiffer)

@@ -98,9 +98,10 @@ TEST_F(DocumentWorkspace, knowsWhatHasChangedSinceItWasSaved)
     EXPECT_TRUE(document.isChanged());
     document.markSaved();
     EXPECT_FALSE(document.isChanged());
-    TakenPlot second = document.plots().takeOut(*document.plots().all()[1]);
+    const PlotList::Element second = document.plots().elements()[1];
+    document.plots().remove(*second.plot);
     EXPECT_TRUE(document.isChanged());
-    document.plots().putBack(std::move(second));
+    document.plots().putBack(second);
     EXPECT_FALSE(document.isChanged());
 }
 

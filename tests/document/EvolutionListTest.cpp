@@ -77,28 +77,40 @@ TEST_F(EvolutionListTest, knowsNoStranger)
     EVM stranger;
     EXPECT_EQ(errorNumberOf([&] { list.setReference(&stranger); }),
               ErrorNumber::InvalidProcedureCall);
-    EXPECT_EQ(errorNumberOf([&] { list.takeOut(stranger); }), ErrorNumber::InvalidProcedureCall);
+    EXPECT_EQ(errorNumberOf([&] { list.remove(stranger); }), ErrorNumber::InvalidProcedureCall);
     EXPECT_EQ(list.reference(), &a);
     EXPECT_THAT(namesOf(list), ElementsAre("a"));
 }
 
-TEST_F(EvolutionListTest, takesAnEvolutionOutAndPutsItBackAsItWas)
+TEST_F(EvolutionListTest, removesAnEvolutionAndPutsItBackWhereItWas)
 {
     addEvolution(list, "a");
     EVM& b = addEvolution(list, "b");
     addEvolution(list, "c");
     list.setReference(&b);
     listen();
-    TakenEvolution taken = list.takeOut(b);
-    EXPECT_EQ(taken.evolution.get(), &b);
+    const OwnedEvolutions before = list.all();
+    list.remove(b);
     EXPECT_THAT(namesOf(list), ElementsAre("a", "c"));
     EXPECT_EQ(list.reference(), nullptr);
-    list.putBack(std::move(taken));
+    list.putBack(before);
+    list.putBack(before); // all are there
     EXPECT_THAT(namesOf(list), ElementsAre("a", "b", "c"));
     EXPECT_EQ(list.all()[1].get(), &b);
-    EXPECT_EQ(list.reference(), &b);
-    EXPECT_THAT(announced,
-                ElementsAre("reference b none", "removed b", "added b", "reference none b"));
+    EXPECT_THAT(announced, ElementsAre("reference b none", "removed b", "added b"));
+}
+
+TEST_F(EvolutionListTest, removesAllButSomeTogether)
+{
+    addEvolution(list, "a");
+    addEvolution(list, "b");
+    addEvolution(list, "c");
+    const OwnedEvolutions kept {list.all()[1]};
+    listen();
+    list.removeOthers(kept);
+    list.removeOthers(kept);
+    EXPECT_THAT(namesOf(list), ElementsAre("b"));
+    EXPECT_THAT(announced, ElementsAre("removed a c"));
 }
 
 TEST_F(EvolutionListTest, changesTheParametersThatUsersMayChange)
@@ -107,6 +119,7 @@ TEST_F(EvolutionListTest, changesTheParametersThatUsersMayChange)
     a.Param.AnalysisType = "PK";
     listen();
     list.setParameters(a, {"WING", "heavy", 0.62F});
+    list.setParameters(a, {"WING", "heavy", 0.62F}); // the same
     EXPECT_EQ(a.Param.editable(), (EditableParam {"WING", "heavy", 0.62F}));
     EXPECT_EQ(a.Param.AnalysisType, "PK");
     EXPECT_THAT(announced, ElementsAre("changed a"));

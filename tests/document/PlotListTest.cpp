@@ -80,8 +80,6 @@ TEST_F(PlotListTest, givesEveryPlotACaptionOfItsOwn)
     add("Plot2");
     add("free");
     EXPECT_THAT(captionsOf(list), ElementsAre("Plot2", "Plot2(2)", "Plot2(3)", "free"));
-    EXPECT_TRUE(list.isTaken(QStringLiteral("free"), list.first()));
-    EXPECT_FALSE(list.isTaken(QStringLiteral("Plot2"), list.first())) << "its own";
 }
 
 TEST_F(PlotListTest, copiesTheActivePlotAlone)
@@ -95,25 +93,35 @@ TEST_F(PlotListTest, copiesTheActivePlotAlone)
     EXPECT_THAT(captionsOf(list), ElementsAre("Plot1", "Plot1(2)"));
 }
 
-TEST_F(PlotListTest, takesAPlotOutAndActivatesItsPredecessor)
+TEST_F(PlotListTest, renamesAPlotUnlessAnotherHasThatName)
+{
+    EvmPlot& second = add();
+    EXPECT_FALSE(list.rename(second, QStringLiteral("Plot1")));
+    EXPECT_EQ(captionOf(&second), "Plot2");
+    EXPECT_TRUE(list.rename(second, QStringLiteral("Plot2")));
+    EXPECT_TRUE(list.rename(second, QStringLiteral("  "))) << "a change of mind";
+    EXPECT_EQ(captionOf(&second), "Plot2");
+    EXPECT_TRUE(list.rename(second, QStringLiteral("wing")));
+    EXPECT_EQ(captionOf(&second), "wing");
+}
+
+TEST_F(PlotListTest, removesAPlotAndActivatesItsPredecessor)
 {
     EvmPlot& second = add();
     list.activate(&second);
     listen();
-    const TakenPlot taken = list.takeOut(second);
-    EXPECT_EQ(taken.plot.get(), &second);
-    EXPECT_EQ(taken.index, 1);
-    EXPECT_TRUE(taken.wasActive);
+    const PlotList::Element kept = list.elements().back(); // lives on
+    list.remove(second);
     EXPECT_FALSE(list.contains(&second));
     EXPECT_FALSE(second.Visible());
     EXPECT_THAT(announced, ElementsAre("active Plot2 Plot1", "removed Plot2"));
 }
 
-TEST_F(PlotListTest, takesNeitherTheFirstNorAStrangerOut)
+TEST_F(PlotListTest, removesNeitherTheFirstNorAStranger)
 {
     EvmPlot stranger;
     for (EvmPlot* const plot : {&list.first(), &stranger})
-        EXPECT_EQ(errorNumberOf([&] { list.takeOut(*plot); }), ErrorNumber::InvalidProcedureCall);
+        EXPECT_EQ(errorNumberOf([&] { list.remove(*plot); }), ErrorNumber::InvalidProcedureCall);
     EXPECT_THAT(captionsOf(list), ElementsAre("Plot1"));
 }
 
@@ -121,16 +129,15 @@ TEST_F(PlotListTest, putsAPlotBackWhereItWas)
 {
     EvmPlot& second = add();
     EvmPlot& third = add();
-    list.activate(&second);
     second.properties().setVthicks(3);
-    TakenPlot taken = list.takeOut(second);
+    const PlotList::Element removed = list.elements()[1];
+    list.remove(second);
     listen();
-    list.putBack(std::move(taken));
+    list.putBack(removed);
+    list.putBack(removed); // is there already
     EXPECT_THAT(list.all(), ElementsAre(&list.first(), &second, &third));
-    EXPECT_EQ(list.active(), &second);
-    EXPECT_TRUE(second.Visible());
     EXPECT_EQ(second.properties().vthicks(), 3);
-    EXPECT_THAT(announced, ElementsAre("added Plot2", "active Plot1 Plot2"));
+    EXPECT_THAT(announced, ElementsAre("added Plot2"));
     EXPECT_EQ(captionOf(&add()), "Plot4") << "the index counts again";
 }
 

@@ -4,10 +4,12 @@
 
 #include "analysis/ModeBuilder.h"
 #include "base/user/RunTimeError.h"
+#include "document/Document.h"
 #include "document/MdlData.h"
 #include "document/PlotTitles.h"
 #include "support/ChangeSeries.h"
 #include "support/Errors.h"
+#include "support/HeapInUse.h"
 #include "vgfplot/EvmPlot.h"
 #include "vgfplot/PlotRecords.h"
 
@@ -15,9 +17,11 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <deque>
 #include <functional>
+#include <memory>
 #include <random>
+#include <string>
+#include <vector>
 
 using namespace tarsil;
 using test::changeSeries;
@@ -26,65 +30,92 @@ using test::errorNumberOf;
 namespace {
 
 /// What a workspace keeps of a plot, and its rows, of which it keeps those with a curve alone.
-struct Snapshot
+struct PlotSnapshot
 {
+    const EvmPlot* plot;
     PlotRecord record;
     PlotRows::Rows rows;
+
+    bool operator==(const PlotSnapshot&) const = default;
+};
+
+/// What a workspace keeps of a document, and the addresses of evolutions and plots.
+struct Snapshot
+{
+    WorkspaceRecord record;
+    std::vector<const EVM*> evolutions;
+    std::vector<PlotSnapshot> plots;
 
     bool operator==(const Snapshot&) const = default;
 };
 
-/// Two plots with three rows each, of an evolution of five modes.
+Snapshot snapshotOf(const Document& document)
+{
+    Snapshot snapshot {document.record(), {}, {}};
+    for (const auto& evolution : document.evolutions().all())
+        snapshot.evolutions.push_back(evolution.get());
+    for (const EvmPlot* const plot : document.plots().all())
+        snapshot.plots.push_back({plot, recordOf(*plot, snapshot.evolutions), plot->rows().all()});
+    return snapshot;
+}
+
+/// Appends an evolution of five modes, the sixth of which its file declares only.
+EVM& addEvolution(Document& document, const std::string& name)
+{
+    auto evolution = std::make_shared<EVM>();
+    evolution->Folder = "/runs";
+    evolution->FileName = name;
+    evolution->na = 6;
+    evolution->Param.legends.add("1", "clean wing");
+    for (std::int16_t id = 1; id <= 5; ++id)
+        test::addMode(*evolution, id, {{100, -0.02F, 5}, {600, 0.01F, 6}});
+    document.evolutions().add({evolution});
+    return *evolution;
+}
+
+/// A document of one evolution, and two plots with three rows each.
 class UndoHistoryTest : public ::testing::Test
 {
 protected:
     UndoHistoryTest()
     {
-        evolution.FileName = "case.ev2";
-        evolution.na = 6; // the file declares one more than it holds
-        evolution.Param.legends.add("1", "clean wing");
-        for (std::int16_t id = 1; id <= 5; ++id)
-            test::addMode(evolution, id, {{100, -0.02F, 5}, {600, 0.01F, 6}});
-        for (EvmPlot& one : plots) {
-            one.resize({800, 600});
+        for (EvmPlot* const one : {&plot, &document.plots().add(QString())}) {
+            one->resize({800, 600});
             for (std::size_t i = 0; i < 3; ++i)
-                one.rows().add(*evolution.Modes[i], MarkerOptions());
+                one->rows().add(*evolution.Modes[i], MarkerOptions());
         }
+        history.clear();
     }
 
-    Snapshot snapshotOf(const EvmPlot& one) const
-    {
-        return {recordOf(one, {&evolution}), one.rows().all()};
-    }
-    std::vector<Snapshot> snapshot() const { return {snapshotOf(plots[0]), snapshotOf(plots[1])}; }
-    /// Changes the first plot.
+    Snapshot snapshot() const { return snapshotOf(document); }
     void change(const char* name, const UndoHistory::Change& how,
                 UndoHistory::Joining joining = UndoHistory::Joining::No)
     {
-        history.change(plot, QString::fromLatin1(name), how, joining);
+        history.change(QString::fromLatin1(name), how, joining);
     }
     RowId id(std::size_t row) { return plot.rows().at(row).id; }
 
-    EVM evolution;
-    std::array<EvmPlot, 2> plots;
-    EvmPlot& plot = plots[0];
-    UndoHistory history;
+    Document document;
+    EVM& evolution = addEvolution(document, "case.ev2");
+    EvmPlot& plot = document.plots().first();
+    UndoHistory& history = document.history();
 };
 
 /// A user who does anything, in any order.
 class RandomUser
 {
 public:
-    RandomUser(EVM& evolution, unsigned seed) : m_evolution(evolution), m_random(seed) { }
+    RandomUser(Document& document, unsigned seed) : m_document(document), m_random(seed) { }
 
     std::size_t below(std::size_t end) { return m_random() % end; }
 
-    /// Changes something in a plot.
-    void change(EvmPlot& plot)
+    /// Changes something in the document.
+    void change()
     {
-        const std::size_t kind = below(3);
-        if (kind == 0 && plot.rows().count() < 12)
-            plot.rows().add(*m_evolution.Modes[below(5)]);
+        EvmPlot& plot = *m_document.plots().all()[below(m_document.plots().all().size())];
+        const std::size_t kind = below(4);
+        if (kind == 0)
+            changeLists(plot);
         else if (kind == 1)
             changePlot(plot);
         else
@@ -92,6 +123,44 @@ public:
     }
 
 private:
+    /// Adds and removes evolutions, plots and curves.
+    void changeLists(EvmPlot& plot)
+    {
+        PlotList& plots = m_document.plots();
+        EvolutionList& evolutions = m_document.evolutions();
+        const OwnedEvolutions& all = evolutions.all();
+        EVM* const any = all.empty() ? nullptr : all[below(all.size())].get();
+        const std::array<std::function<void()>, 8> changes = {
+            [&] {
+                if (any != nullptr && plot.rows().count() < 12)
+                    plot.rows().add(*any->Modes[below(5)]);
+            },
+            [&] {
+                if (all.size() < 5)
+                    addEvolution(m_document, text().toStdString());
+            },
+            [&] {
+                if (any != nullptr)
+                    m_document.remove(*any);
+            },
+            [&] { evolutions.setReference(below(2) == 0 ? nullptr : any); },
+            [&] {
+                if (any != nullptr)
+                    evolutions.setParameters(*any, {text().toStdString(), "", value()});
+            },
+            [&] {
+                plots.activate(&plot);
+                if (plots.all().size() < 5)
+                    below(2) == 0 ? plots.add(text()) : plots.copyActive(text());
+            },
+            [&] {
+                if (&plot != &plots.first())
+                    plots.remove(plot);
+            },
+            [&] { m_document.setDescription(text()); }};
+        changes[below(changes.size())]();
+    }
+
     PlotRows::Indices someRows(const EvmPlot& plot)
     {
         PlotRows::Indices rows;
@@ -165,7 +234,7 @@ private:
         changes[below(changes.size())]();
     }
 
-    EVM& m_evolution;
+    Document& m_document;
     std::mt19937 m_random;
 };
 
@@ -318,14 +387,13 @@ TEST_F(UndoHistoryTest, bringsTheSamePictureBack)
     EXPECT_EQ(plot.Image(), after);
 }
 
-/// Ten thousand changes of two plots, some of which fail, beside a list of what they were.
+/// Ten thousand changes, some of which fail, beside a list of what the document was.
 TEST_F(UndoHistoryTest, isExactUnderAnyChanges)
 {
-    constexpr std::size_t mostSteps = 200;
     for (const unsigned seed : {1U, 20261122U}) {
         history.clear();
-        RandomUser user(evolution, seed);
-        std::deque<std::vector<Snapshot>> states {snapshot()};
+        RandomUser user(document, seed);
+        std::vector<Snapshot> states {snapshot()};
         std::size_t now = 0; // index of the present state
         for (int i = 0; i < 5000; ++i) {
             const std::size_t action = user.below(6);
@@ -336,11 +404,10 @@ TEST_F(UndoHistoryTest, isExactUnderAnyChanges)
                 history.redo();
                 now += now + 1 < states.size() ? 1 : 0;
             } else {
-                EvmPlot& changed = plots[user.below(2)];
                 const bool fails = action == 2;
                 const auto error = errorNumberOf([&] {
-                    history.change(changed, QStringLiteral("any"), [&] {
-                        user.change(changed);
+                    history.change(QStringLiteral("any"), [&] {
+                        user.change();
                         if (fails)
                             throw RunTimeError(ErrorNumber::Overflow, "test", "on purpose");
                     });
@@ -352,12 +419,57 @@ TEST_F(UndoHistoryTest, isExactUnderAnyChanges)
                     now = states.size() - 1;
                 }
             }
-            if (states.size() > mostSteps + 1) {
-                states.pop_front();
-                --now;
-            }
             ASSERT_EQ(snapshot(), states[now]) << seed << " " << i;
             ASSERT_EQ(static_cast<std::size_t>(history.steps().index()), now) << seed << " " << i;
         }
     }
+}
+
+TEST_F(UndoHistoryTest, notesWhatACommandHasChanged)
+{
+    history.note(QStringLiteral("nothing"));
+    EXPECT_EQ(history.steps().count(), 0);
+    plot.marks().AddRef(300, QStringLiteral("Vd"));
+    history.note(QStringLiteral("Add Reference Speed"));
+    change("Raise Modes", [&] {
+        mdlData::raiseModes(plot.rows(), {0});
+        history.note(QStringLiteral("within"));
+        mdlData::raiseModes(plot.rows(), {1});
+    });
+    EXPECT_EQ(history.steps().count(), 2);
+    EXPECT_EQ(history.steps().undoText(), QStringLiteral("Raise Modes"));
+    history.undo();
+    EXPECT_EQ(history.steps().undoText(), QStringLiteral("Add Reference Speed"));
+    history.undo();
+    EXPECT_TRUE(plot.marks().referenceSpeeds().empty());
+}
+
+TEST_F(UndoHistoryTest, showsThePlotThatAStepChanged)
+{
+    document.plots().activate(&plot);
+    change("Raise Modes", [&] { mdlData::raiseModes(plot.rows(), {0}); });
+    EvmPlot& second = *document.plots().all()[1];
+    document.plots().activate(&second);
+    history.undo();
+    EXPECT_EQ(document.plots().active(), &plot);
+    document.plots().activate(&second);
+    history.redo();
+    EXPECT_EQ(document.plots().active(), &plot);
+}
+
+/// What a thousand steps need beside the evolutions.
+TEST_F(UndoHistoryTest, sharesBetweenStepsWhatTheyDoNotChange)
+{
+    for (int i = 0; i < 497; ++i)
+        plot.rows().add(*evolution.Modes[0]);
+    history.clear();
+    const std::size_t before = test::heapInUse();
+    for (int i = 0; i < 1000; ++i) {
+        change("Color", [&] {
+            changeSeries(plot, static_cast<std::size_t>(i % 500),
+                         [i](Series& one) { one.ColorIndex = i + 1; });
+        });
+    }
+    EXPECT_EQ(history.steps().count(), 1000);
+    EXPECT_LT(test::heapInUse() - before, 5U << 20U);
 }

@@ -139,7 +139,7 @@ TEST_F(DailyRound, goesFromTheFilesToThePicture)
     person.press("ctrl+q");
     EXPECT_TRUE(waitUntil([this] { return person.isAsked(); })) << "the workspace was not saved";
     Hands(display.name()).focusNew(QStringLiteral("^Tarsil$"));
-    person.press("alt+y");
+    person.press("alt+d");
     EXPECT_EQ(program.exitStatus(), 0);
     EXPECT_THAT(fileBytes(program.home().path() / ".config" / "tarsil" / "tarsil.ini"),
                 HasSubstr("goland.inp"));

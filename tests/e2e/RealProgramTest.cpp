@@ -146,7 +146,7 @@ TEST(RealProgram, addsMarksWritesTheReportAndExportsByTheKeyboard)
     ASSERT_TRUE(hands.focus(mainWindow));
     hands.press(keys("ctrl+q"));
     ASSERT_TRUE(hands.focusNew(QStringLiteral("^Tarsil$"))) << "the workspace was not saved";
-    hands.press(keys("alt+y"));
+    hands.press(keys("alt+d"));
     EXPECT_EQ(program.exitStatus(), 0);
 }
 
@@ -166,7 +166,7 @@ TEST(RealProgram, keepsTheOptionsInTheSettingsOfTheUser)
     ASSERT_TRUE(hands.focus(mainWindow));
     hands.press(keys("ctrl+q"));
     ASSERT_TRUE(hands.focusNew(QStringLiteral("^Tarsil$"))) << "the axes of the plot have changed";
-    hands.press(keys("alt+y"));
+    hands.press(keys("alt+d"));
     EXPECT_EQ(program.exitStatus(), 0);
     EXPECT_EQ(fileBytes(program.home().file(".config/tarsil/tarsil.ini")),
               "[Options]\nAcInfoDataFile=\nvgfScale=\nvgfThicks=4|5|2\n");

@@ -6,6 +6,7 @@
 #include <gmock/gmock.h>
 
 using namespace tarsil;
+using test::errorNumberOf;
 using test::WndEvolExplorerTest;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
@@ -71,9 +72,34 @@ TEST_F(WndEvolExplorerTest, removesAnEvolutionAlsoWhenAPlotCannotBeDrawn)
     document.evolutions().all()[1]->Modes[0]->Points.resize(32768); // more than a canvas draws
     select(evolutionNode(a));
     choose("Remove");
+    EXPECT_TRUE(user.messages.empty());
     EXPECT_EQ(document.evolutions().all().size(), 1U);
     EXPECT_THAT(childTexts(node("Evols")), ElementsAre("long.evm"));
-    EXPECT_EQ(test::errorNumberOf([this] { plotAt(0).Image(); }), ErrorNumber::Overflow);
+    EXPECT_EQ(errorNumberOf([this] { plotAt(0).Image(); }), ErrorNumber::Overflow)
+        << "is reported by the window of the plot when it draws";
+}
+
+TEST_F(WndEvolExplorerTest, namesItsChangesAsStepsThatCanBeUndone)
+{
+    EVM& a = load("a.evm");
+    document.history().clear();
+    const auto lastStep = [this] { return document.history().steps().undoText().toStdString(); };
+    tick(evolutionNode(a));
+    choose("Select");
+    EXPECT_EQ(lastStep(), "Select Modal Evolution");
+    choose("AddPlot");
+    EXPECT_EQ(lastStep(), "Insert New Plot");
+    select(evolutionNode(a));
+    choose("Remove");
+    EXPECT_EQ(lastStep(), "Remove Modal Evolution");
+    EXPECT_TRUE(plotAt(0).rows().isEmpty());
+    document.history().undo();
+    EXPECT_THAT(childTexts(node("Evols")), ElementsAre("a.evm"));
+    EXPECT_EQ(plotAt(0).rows().count(), 1U);
+    document.history().undo();
+    EXPECT_EQ(document.plots().all().size(), 1U);
+    document.history().undo();
+    EXPECT_TRUE(plotAt(0).rows().isEmpty());
 }
 
 TEST_F(WndEvolExplorerTest, removesTheReferenceEvolutionAsSuch)

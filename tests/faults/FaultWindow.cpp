@@ -36,6 +36,10 @@ public:
     {
         return true;
     }
+    Unsaved askToSave(const std::string& /*question*/, const std::string& /*title*/) override
+    {
+        return Unsaved::Discard;
+    }
     std::optional<std::string> askText(const std::string& /*prompt*/, const std::string& /*title*/,
                                        const std::string& /*initial*/) override
     {

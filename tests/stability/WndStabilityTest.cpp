@@ -87,7 +87,7 @@ TEST_F(WndStabilityTest, letsGoOfEvolutionsThatAreRemoved)
 {
     draw(*first);
     draw(*second);
-    document.takeOut(*second);
+    document.remove(*second);
     QCoreApplication::processEvents();
     EXPECT_EQ(verdictCount(), 1);
     EXPECT_EQ(stretchCount(), 1);

@@ -28,6 +28,11 @@ public:
         questions.push_back(question);
         return take(confirmations).value_or(false);
     }
+    Unsaved askToSave(const std::string& question, const std::string& /*title*/) override
+    {
+        questions.push_back(question);
+        return take(unsaved).value_or(Unsaved::Cancel);
+    }
     std::optional<std::string> askText(const std::string& prompt, const std::string& title,
                                        const std::string& initial) override
     {
@@ -61,6 +66,7 @@ public:
 
     // Answers, used up one after the other.
     std::deque<bool> confirmations;
+    std::deque<Unsaved> unsaved;
     std::deque<std::string> texts;
     std::deque<std::vector<std::string>> openFiles;
     std::deque<std::string> saveFiles;

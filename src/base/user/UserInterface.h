@@ -8,6 +8,9 @@
 
 namespace tarsil {
 
+/// What becomes of changes that are not saved.
+enum class Unsaved { Save, Discard, Cancel };
+
 enum class MessageIcon { None, Exclamation, Critical };
 
 /// What a file dialog offers.
@@ -36,6 +39,9 @@ public:
 
     /// A question with Yes and No; true for Yes.
     virtual bool confirm(const std::string& question, const std::string& title) = 0;
+
+    /// A question with Save, Discard and Cancel, of which Save is the default.
+    virtual Unsaved askToSave(const std::string& question, const std::string& title) = 0;
 
     /// One line of text, with `initial` in its field at first; none when the user cancels.
     virtual std::optional<std::string> askText(const std::string& prompt, const std::string& title,
