@@ -407,6 +407,14 @@ void wndMain::mnuSetScale_Click()
     dlgPlotProp(activePlot(), m_userInterface, this).exec();
 }
 
+void wndMain::breakCurves()
+{
+    EvmPlot& plot = activePlot();
+    m_document.history().change(tr("Break Curves at Jumps"), [&plot] {
+        plot.properties().setBreaksAtJumps(!plot.properties().breaksAtJumps());
+    });
+}
+
 void wndMain::mnuAddRef_Click()
 {
     if (!m_refSpeed)

@@ -125,6 +125,7 @@ private:
     void mnuModalEvolExplorer_Click();
     void mnuVgfPlot_Click();
     void mnuSetScale_Click();
+    void breakCurves();
     void mnuAddRef_Click();
     void mnuClearRef_Click();
     void mnuAddDamp_Click();

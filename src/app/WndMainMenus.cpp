@@ -2,6 +2,8 @@
 
 #include "app/WndMain.h"
 
+#include "vgfplot/EvmPlot.h"
+
 #include <QMenu>
 #include <QMenuBar>
 
@@ -59,7 +61,8 @@ std::vector<wndMain::CommandMenu> wndMain::commandTable()
          "&Format",
          "popFormat",
          "Format",
-         {{"mnuSetScale", "popSetScale", "Set Scale", &wndMain::mnuSetScale_Click}}},
+         {{"mnuSetScale", "popSetScale", "Set Scale", &wndMain::mnuSetScale_Click},
+          {"breakCurves", "popBreakCurves", "Break Curves at Jumps", &wndMain::breakCurves}}},
         {"mnuTools",
          "&Tools",
          "popTools",
@@ -126,6 +129,13 @@ void wndMain::addCommand(QMenu& menu, const Command& command, const char* name)
             [this, step = stepName(command.caption), handler = command.handler] {
                 run(step, handler);
             });
+    if (command.handler != &wndMain::breakCurves)
+        return;
+    action->setCheckable(true);
+    connect(&menu, &QMenu::aboutToShow, action, [this, action] {
+        const EvmPlot* const plot = m_document.plots().active();
+        action->setChecked(plot != nullptr && plot->properties().breaksAtJumps());
+    });
 }
 
 void wndMain::followHistory()

@@ -157,6 +157,8 @@ void writePlot(JsonWriter& json, const PlotRecord& plot)
     json.endArray();
     writeMarks(json, "reference_speeds", "speed", plot.referenceSpeeds);
     writeMarks(json, "damping_lines", "damping", plot.dampingLines);
+    if (plot.breaksAtJumps)
+        json.boolean("breaks_at_jumps", true);
     json.endObject();
 }
 
@@ -264,6 +266,8 @@ void printPlot(const PlotRecord& plot, std::size_t number, std::ostream& out)
     printLine(out, "damping axis", axisText(plot.axes.damping));
     printMarks(plot.referenceSpeeds, "reference speed", out);
     printMarks(plot.dampingLines, "damping line", out);
+    if (plot.breaksAtJumps)
+        printLine(out, "curves", "break at jumps");
     printSeries(plot.series, out);
     printLooks(plot.series, out);
 }

@@ -42,6 +42,12 @@ const std::vector<Point>& pointsOf(const Series& series)
     return points;
 }
 
+bool isStatic(const Point& point)
+{
+    constexpr float staticFrequency = 0.1F; // Hz
+    return point.f < staticFrequency;
+}
+
 } // namespace
 
 PlotContainer::~PlotContainer() = default;
@@ -136,7 +142,8 @@ void ucPlot::drawSeries(DeviceContext& context, const Series& series) const
     QPoint from = pixelOfPoint(points.front());
     for (std::size_t i = 1; i < points.size(); ++i) {
         const QPoint to = pixelOfPoint(points[i]);
-        context.drawLine(from, to, pen);
+        if (!m_breaksAtJumps || isStatic(points[i - 1]) == isStatic(points[i]))
+            context.drawLine(from, to, pen);
         // The first point never carries a marker: a marker belongs to the end of a line.
         if (isMarked && static_cast<std::int32_t>(i + 1) % series.MarkerSpacing == 0)
             drawMarker(context, series, points[i], to);

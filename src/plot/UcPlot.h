@@ -62,6 +62,11 @@ public:
     /// Draws again on the own surface.
     void Refresh();
 
+    /// Whether curves break between a point of a static root (below 0.1 Hz) and one of a root that
+    /// oscillates: these are different roots, which a line would join. Off in a new canvas.
+    bool breaksAtJumps() const { return m_breaksAtJumps; }
+    void setBreaksAtJumps(bool on) { m_breaksAtJumps = on; }
+
     const QVariant& ModeColor() const { return m_modeColor; }
     void setModeColor(const QVariant& value);
     std::int32_t PlotType() const { return m_plotType; }
@@ -103,6 +108,7 @@ private:
     std::int32_t m_plotType = 0;
     std::int32_t m_hFont = 0;
     bool m_autoScale = false;
+    bool m_breaksAtJumps = false;
     double m_left = 0; ///< values at the edges
     double m_top = 0;
     double m_right = 1;

@@ -7,6 +7,12 @@
 
 namespace tarsil {
 
+namespace {
+
+const QString breakAtJumps = QStringLiteral("BreakAtJumps");
+
+} // namespace
+
 PlotProperties::PlotProperties(PlotParts& parts, PlotPicture& picture)
     : m_parts(parts), m_picture(picture)
 {
@@ -105,6 +111,18 @@ void PlotProperties::setFLabel(const QString& text)
     m_picture.layOut();
 }
 
+bool PlotProperties::breaksAtJumps() const
+{
+    return m_parts.vfPlot.breaksAtJumps();
+}
+
+void PlotProperties::setBreaksAtJumps(bool on)
+{
+    m_parts.vfPlot.setBreaksAtJumps(on);
+    m_parts.vgPlot.setBreaksAtJumps(on);
+    m_picture.invalidate();
+}
+
 void PlotProperties::setAxes(const PlotAxes& axes)
 {
     setVLabel(QString::fromStdString(axes.speed.title));
@@ -133,15 +151,22 @@ void PlotProperties::ReadProperties(const PropertyBag& bag)
     m_parts.velAxisLabel.setCaption(title(QStringLiteral("vLabel"), usual.speed.title));
     m_parts.gAxisLabel.setCaption(title(QStringLiteral("gLabel"), usual.damping.title));
     m_parts.freqAxislabel.setCaption(title(QStringLiteral("fLabel"), usual.frequency.title));
+    const bool breaks = readProperty(bag, breakAtJumps, false);
+    m_parts.vfPlot.setBreaksAtJumps(breaks);
+    m_parts.vgPlot.setBreaksAtJumps(breaks);
     m_picture.layOut();
 }
 
 PropertyBag PlotProperties::WriteProperties() const
 {
-    return {{QStringLiteral("Caption"), m_caption}, {QStringLiteral("ModeColor"), m_modeColor},
-            {QStringLiteral("vThicks"), vthicks()}, {QStringLiteral("gThicks"), gthicks()},
-            {QStringLiteral("fThicks"), fthicks()}, {QStringLiteral("vLabel"), vLabel()},
-            {QStringLiteral("gLabel"), gLabel()},   {QStringLiteral("fLabel"), fLabel()}};
+    PropertyBag bag = {
+        {QStringLiteral("Caption"), m_caption}, {QStringLiteral("ModeColor"), m_modeColor},
+        {QStringLiteral("vThicks"), vthicks()}, {QStringLiteral("gThicks"), gthicks()},
+        {QStringLiteral("fThicks"), fthicks()}, {QStringLiteral("vLabel"), vLabel()},
+        {QStringLiteral("gLabel"), gLabel()},   {QStringLiteral("fLabel"), fLabel()}};
+    if (breaksAtJumps())
+        bag[breakAtJumps] = true;
+    return bag;
 }
 
 } // namespace tarsil

@@ -37,11 +37,15 @@ public:
     const QString& fLabel() const;
     void setFLabel(const QString& text);
 
+    /// Whether curves break where a root turns from static to oscillatory (`ucPlot`).
+    bool breaksAtJumps() const;
+    void setBreaksAtJumps(bool on);
+
     /// Sets the tick counts and the titles of all axes.
     void setAxes(const PlotAxes& axes);
 
     /// Keys "Caption" "Plot1", "ModeColor" 0, "vThicks" 7, "gThicks" 5, "fThicks" 5, "vLabel"
-    /// "V(keas)", "gLabel" "g", "fLabel" "f(Hz)".
+    /// "V(keas)", "gLabel" "g", "fLabel" "f(Hz)"; "BreakAtJumps" only where it is on.
     void ReadProperties(const PropertyBag& bag);
     PropertyBag WriteProperties() const;
     const ChangedProperties& changedProperties() const { return m_changed; }

@@ -163,6 +163,7 @@ PlotRecord recordOf(const EvmPlot& plot, const std::vector<const EVM*>& evolutio
     }
     record.referenceSpeeds = referenceSpeedsOf(plot);
     record.dampingLines = dampingLinesOf(plot);
+    record.breaksAtJumps = plot.properties().breaksAtJumps();
     return record;
 }
 
@@ -173,6 +174,7 @@ void applyRecord(const PlotRecord& record, const std::vector<EVM*>& evolutions, 
     applyText(record.mechanism, TextBox::Mechanism, plot);
     applyText(record.legend, TextBox::Legend, plot);
     plot.setAxes(record.axes);
+    plot.properties().setBreaksAtJumps(record.breaksAtJumps);
     applyMarks(record, plot);
     applySeries(record, evolutions, plot);
 }

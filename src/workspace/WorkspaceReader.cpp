@@ -208,6 +208,9 @@ void WorkspaceReader::readPlot(const std::string& section, PlotRecord& plot)
     }
     plot.referenceSpeeds = marks(section, keys::referenceSpeed);
     plot.dampingLines = marks(section, keys::dampingLine);
+    further(section, std::string(keys::breakAtJumps), 1, [&plot](const ValueFields& values) {
+        plot.breaksAtJumps = values.integer16(0, "switch") != 0;
+    });
 }
 
 /// Those of one kind, as far as they are numbered without a gap.

@@ -72,6 +72,7 @@ struct PlotRecord
     std::vector<SeriesRecord> series {};
     std::vector<MarkRecord> referenceSpeeds {};
     std::vector<MarkRecord> dampingLines {};
+    bool breaksAtJumps = false; ///< curves break where a root turns from static to oscillatory
 
     bool operator==(const PlotRecord&) const = default;
 };

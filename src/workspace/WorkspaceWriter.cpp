@@ -198,6 +198,8 @@ void WorkspaceWriter::addPlot(const PlotRecord& plot)
     addMarks(keys::referenceSpeed, plot.referenceSpeeds);
     addMarks(keys::dampingLine, plot.dampingLines);
     addLooks(plot.series);
+    if (plot.breaksAtJumps)
+        addFurther(keys::breakAtJumps, "1");
 }
 
 void WorkspaceWriter::addRichText(std::string_view key, const TextRecord& box)

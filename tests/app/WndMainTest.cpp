@@ -59,7 +59,7 @@ TEST_F(WndMainTest, hasTheMenusLetterForLetter)
     EXPECT_THAT(captionsOf(menu("EditMenu")), ElementsAre("&Undo", "&Redo"));
     EXPECT_THAT(captionsOf(menu("mnuView")),
                 ElementsAre("Data Control", "Modal Evolution Explorer", "V-g-f Plot"));
-    EXPECT_THAT(captionsOf(menu("mnuFormat")), ElementsAre("Set Scale"));
+    EXPECT_THAT(captionsOf(menu("mnuFormat")), ElementsAre("Set Scale", "Break Curves at Jumps"));
     EXPECT_THAT(captionsOf(menu("mnuTools")),
                 ElementsAre("Add Reference Speed ...", "Clear Reference Speeds",
                             "Add Damping Line ...", "Clear Damping Lines",

@@ -20,6 +20,16 @@ TEST_F(CanvasSeries, areDrawnInOrderOneLineForEachPairOfPoints)
                             "line 0,100 100,0 solid 0 #ff0000"));
 }
 
+TEST_F(CanvasSeries, breakWhereARootTurnsFromStaticToOscillatoryWhenThatIsWanted)
+{
+    addCurve({{10, 0, 0}, {30, 0, 0.05F}, {50, 0, 60}, {70, 0, 80}});
+    EXPECT_THAT(drawing(), SizeIs(3));
+    canvas.setBreaksAtJumps(true);
+    EXPECT_THAT(
+        drawing(),
+        ElementsAre("line 10,100 30,100 solid 0 #000000", "line 50,40 70,20 solid 0 #000000"));
+}
+
 TEST_F(CanvasSeries, takeStyleWidthAndColourAsTheyAre)
 {
     Series& curve = addCurve({{10, 0, 20}, {30, 0, 40}});

@@ -100,6 +100,20 @@ TEST(PlotProperties, areReadBackFromTheBagThatTheyWrote)
     EXPECT_EQ(copy.properties().fthicks(), 10);
 }
 
+TEST(PlotProperties, haveAKeyForBrokenCurvesOnlyWhereTheyAreWanted)
+{
+    EvmPlot plot;
+    plot.properties().setBreaksAtJumps(true);
+    EXPECT_TRUE(plot.parts().vfPlot.breaksAtJumps());
+    EXPECT_TRUE(plot.parts().vgPlot.breaksAtJumps());
+    EvmPlot copy;
+    copy.properties().ReadProperties(plot.properties().WriteProperties());
+    EXPECT_TRUE(copy.properties().breaksAtJumps());
+    copy.properties().ReadProperties(defaultProperties());
+    EXPECT_FALSE(copy.properties().breaksAtJumps());
+    EXPECT_EQ(copy.properties().WriteProperties(), defaultProperties());
+}
+
 TEST(PlotProperties, haveTheDefaultForEveryKeyThatABagDoesNotHave)
 {
     EvmPlot plot;

@@ -136,6 +136,17 @@ TEST_F(PlotRecords, keepMarksAndLooksThroughTheBytesOfAFile)
     EXPECT_EQ(recordOf(other, evolutions()), recordOf(plot, evolutions()));
 }
 
+TEST_F(PlotRecords, keepThatCurvesBreakAtJumpsThroughTheBytesOfAFile)
+{
+    EvmPlot other;
+    other.properties().setBreaksAtJumps(true);
+    throughAFile(other);
+    EXPECT_FALSE(other.properties().breaksAtJumps());
+    plot.properties().setBreaksAtJumps(true);
+    throughAFile(other);
+    EXPECT_TRUE(other.properties().breaksAtJumps());
+}
+
 TEST_F(PlotRecords, takeTheMarksOfTheFileForThoseOfThePlot)
 {
     const PlotRecord record = recordOf(plot, evolutions());

@@ -23,7 +23,8 @@ constexpr std::string_view furtherFiles = "Edited(2)=QRX190|store 7|0.8\n"
 constexpr std::string_view furtherPlot = "RefSpeed(1)=352.1|Vd\n"
                                          "RefSpeed(2)=\"-7.5|   VL \"\n"
                                          "DampLine(1)=0.01|g = 1.00 %\n"
-                                         "SerieLook(2)=1|3|4\n";
+                                         "SerieLook(2)=1|3|4\n"
+                                         "BreakAtJumps=1\n";
 
 /// The whole workspace with lines at the end of the section of the files and of that of the plot.
 std::string drawing(std::string_view files, std::string_view plot)
@@ -44,6 +45,7 @@ WorkspaceRecord furtherRecord()
     plot.series[1].lineStyle = 1;
     plot.series[1].lineWidth = 3;
     plot.series[1].factor = 4;
+    plot.breaksAtJumps = true;
     return record;
 }
 
@@ -83,7 +85,8 @@ TEST(FurtherKeys, areNotWrittenWhereNothingDiffersFromTheUsual)
 TEST(FurtherKeys, areFoundWhereverTheirSectionsGoOn)
 {
     const std::string text = with(std::string(wholeWorkspace), "Caption=Plot1\n",
-                                  "serielook(2) = 1|3|4\nDampLine(1)=0.01|g = 1.00 %\n"
+                                  "serielook(2) = 1|3|4\nbreakatjumps = 1\n"
+                                  "DampLine(1)=0.01|g = 1.00 %\n"
                                   "REFSPEED(2)=\"-7.5|   VL \"\nRefSpeed(1)=352.1|Vd\n"
                                   "Caption=Plot1\n");
     EXPECT_EQ(readDrawn(text + "[modal evolution files]\n" + std::string(furtherFiles)),
