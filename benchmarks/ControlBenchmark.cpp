@@ -1,4 +1,4 @@
-// What a click in the Data Control window costs with 500 rows, against drawing the plot alone.
+// The cost of a click in the Data Control window with 500 rows, relative to drawing the plot alone.
 
 #include "RatioTable.h"
 #include "base/user/UserInterface.h"
@@ -26,7 +26,7 @@ constexpr int modeCount = 50;
 constexpr int pointCount = 50;
 constexpr int turns = 7;
 
-/// A user who has nothing to say.
+/// A user interface that does nothing.
 class SilentUser : public UserInterface
 {
 public:

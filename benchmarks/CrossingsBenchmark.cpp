@@ -16,7 +16,7 @@ constexpr int pointCount = 1000;
 constexpr int turns = 15;
 constexpr double intervals = double {modeCount} * (pointCount - 1);
 
-/// Modes that cross zero three times, as a hump and a hard crossing do.
+/// Modes that cross zero three times: a hump and a steep crossing.
 void fillEvolution(EVM& evolution)
 {
     for (int m = 0; m < modeCount; ++m) {

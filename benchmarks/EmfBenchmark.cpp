@@ -1,5 +1,5 @@
-// Metafiles: 100 curves of 1000 segments into a file, against gnuplot's emf terminal on the same
-// data, and the memory that small and large pictures take.
+// Metafiles: 100 curves of 1000 segments written to a file, compared with gnuplot's emf terminal on
+// the same data; the memory used by small and large pictures.
 
 #include "RatioTable.h"
 #include "emf/EmfSink.h"
@@ -49,7 +49,7 @@ void drawCurves(DeviceContext& context, int curves, int styles)
     }
 }
 
-/// A picture of the curves as a user saves it, flushed to the disk.
+/// Writes a picture of the curves as the program saves it, flushed to the disk.
 void writePicture(const std::string& path, int curves, int styles)
 {
     EmfFile file(path);
@@ -67,7 +67,7 @@ void writePictureInMemory(int styles)
     context.close();
 }
 
-/// The curves as gnuplot reads them: pairs of singles, or lines of text with two empty ones after
+/// Writes the curves for gnuplot: pairs of singles, or lines of text with two empty lines after
 /// each curve.
 void writeData(const std::string& binaryPath, const std::string& textPath)
 {
@@ -147,7 +147,7 @@ void measurePictures(const QTemporaryDir& folder)
     }
 }
 
-/// A value of the process' status, in KiB.
+/// A value from /proc/self/status, in KiB.
 double statusValue(const std::string& name)
 {
     std::ifstream status("/proc/self/status");
@@ -160,10 +160,10 @@ double statusValue(const std::string& name)
     return value;
 }
 
-/// By how much the resident memory grows, at its peak, while a picture is written.
+/// The peak growth of the resident memory while a picture is written.
 void measureMemory(const QTemporaryDir& folder, int curves, const std::string& aim)
 {
-    std::ofstream("/proc/self/clear_refs") << "5"; // sets the peak back
+    std::ofstream("/proc/self/clear_refs") << "5"; // resets the peak
     const double before = statusValue("VmRSS");
     writePicture(pathIn(folder, "own.emf"), curves, styleCount);
     char text[40];

@@ -27,7 +27,7 @@ Values valuesAt(int mode, int point)
     return {mode, point, 0.2 + 0.0001 * (point % 5000), speed, damping, frequency};
 }
 
-/// A text of printf, whatever its length.
+/// Appends a text formatted by printf, of any length.
 template <typename... Arguments>
 void append(std::string& text, const char* format, Arguments... arguments)
 {
@@ -70,7 +70,7 @@ void appendRow(std::string& text, const Values& values, char separator, int fact
         for (int k = 1; k < step; ++k)
             append(text, "%d|", i + k);
     }
-    // The last factor's neighbours complete the count of 21 or 26 fields.
+    // The neighbours of the last factor complete the 21 or 26 fields.
     if (factors > 0)
         text += step == 2 ? "" : "0";
     text += '\n';

@@ -6,7 +6,7 @@
 
 namespace tarsil::benchmarks {
 
-/// The layouts of a modal evolution file; for results with "|" also the width of the rows.
+/// The layouts of a modal evolution file; for results with "|" also the number of fields.
 enum class Layout {
     FixedColumns,
     Sections,
@@ -17,13 +17,13 @@ enum class Layout {
 
 std::string_view layoutName(Layout layout);
 
-/// The end that a file name of the layout has.
+/// The file extension of a layout.
 std::string_view extension(Layout layout);
 
-/// Writes an evolution with these numbers of modes and speeds; every number in it is different.
+/// Writes an evolution with these numbers of modes and speeds; all its numbers differ.
 void writeEvolution(const std::string& path, Layout layout, int modes, int speeds);
 
-/// Writes one of about `bytes` bytes, 5000 speeds in each mode.
+/// Writes an evolution of about `bytes` bytes with 5000 speeds for each mode.
 void writeLargeEvolution(const std::string& path, Layout layout, std::size_t bytes);
 
 } // namespace tarsil::benchmarks

@@ -46,7 +46,7 @@ QPolygonF curve(const ucPlot& canvas, const AeMode& mode, bool isDamping)
     return points;
 }
 
-/// What there is to compare with: each curve as one polyline of width 1, nothing else.
+/// The reference: each curve as one polyline of width 1, nothing else.
 void drawPolylines(const EvmPlot& plot, QImage& image)
 {
     image.fill(Qt::white);
@@ -83,7 +83,7 @@ void measurePicture(EvmPlot& plot)
     printRow("picture of 100 modes x 1000 points, 1600x1200, with axes and texts",
              "one drawPolyline per curve", bestOfTurns(turns, drawPlot, reference), "<= 3");
     const auto onScreen = [&] {
-        plot.setAxes(plot.axes()); // everything is drawn anew
+        plot.setAxes(plot.axes()); // marks everything as stale
         plot.Image();
     };
     printRow("the same on the screen's own surfaces, composed", "one drawPolyline per curve",
@@ -107,7 +107,7 @@ void measureRepaint(EvmPlot& plot)
     for (const TextBox which : allTextBoxes)
         plot.texts().setText(which, QStringLiteral("text"));
     QImage target(pictureSize, QImage::Format_RGB32);
-    view.render(&target); // draws what is not drawn yet
+    view.render(&target); // draws what is stale
     const auto repaint = [&] { view.render(&target, QPoint(), QRegion(), QWidget::RenderFlags()); };
     const auto copy = [&] {
         QPainter painter(&target);

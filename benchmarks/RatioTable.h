@@ -5,10 +5,10 @@
 
 namespace tarsil::benchmarks {
 
-/// Seconds of one call.
+/// The duration of a call in seconds.
 double seconds(const std::function<void()>& work);
 
-/// The best time of each of two works, measured turn by turn so that both meet the same machine.
+/// The best times of two functions, measured alternately so that both meet the same conditions.
 struct Pair
 {
     double measured;
@@ -17,12 +17,12 @@ struct Pair
 Pair bestOfTurns(int turns, const std::function<void()>& measured,
                  const std::function<void()>& reference);
 
-/// One line of the table: what was measured, against what, both times, and the ratio beside its
+/// Prints a row of the table: what was measured, against what, both times, and the ratio with its
 /// aim.
 void printRow(const std::string& what, const std::string& against, const Pair& times,
               const std::string& aim);
 
-/// One line for something that is no ratio of times.
+/// Prints a row for a value that is not a ratio of times.
 void printRow(const std::string& what, const std::string& against, const std::string& value,
               const std::string& aim);
 

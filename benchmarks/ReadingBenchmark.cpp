@@ -1,5 +1,5 @@
-// Reading: 100 MB of each layout against a from_chars reader and a getline reader, 500 files
-// against cat, and what stays in memory.
+// Reading: 100 MB of each layout compared with a from_chars reader and a getline reader, 500 files
+// compared with cat, and the memory held.
 
 #include "GeneratedFiles.h"
 #include "RatioTable.h"
@@ -33,7 +33,7 @@ namespace fs = std::filesystem;
 constexpr std::size_t megabyte = 1000 * 1000;
 constexpr int turns = 7;
 
-/// A folder that goes with everything in it.
+/// A folder that is removed with its contents.
 class TemporaryFolder
 {
 public:
@@ -52,8 +52,8 @@ private:
     fs::path m_path;
 };
 
-/// Lets the heap keep what is released. Otherwise every turn of both readers begins with the system
-/// clearing the pages of all points anew, which takes as long as the reading and hides it.
+/// Makes the heap keep released memory. Otherwise every turn of both readers starts with the system
+/// clearing pages, which takes as long as the reading and hides it.
 void keepReleasedMemory()
 {
     constexpr int all = std::numeric_limits<int>::max();
@@ -94,7 +94,7 @@ void requireSame(const EVM& evolution, const ReferenceModes& modes, Layout layou
     std::exit(EXIT_FAILURE);
 }
 
-/// The time of reading alone: what was read is released outside of it.
+/// The time of reading without releasing the result.
 template <typename Read>
 double readingTime(Read read)
 {
@@ -152,7 +152,7 @@ void measureMemory(const TemporaryFolder& folder, Layout layout)
     fs::remove(path);
 }
 
-/// `cat` of the files to nowhere.
+/// Runs `cat` of the files to /dev/null.
 void runCat(std::vector<std::string>& files)
 {
     std::string program = "cat";
@@ -173,7 +173,7 @@ void runCat(std::vector<std::string>& files)
     posix_spawn_file_actions_destroy(&actions);
 }
 
-/// Seconds for each of so many files, all held open together as in the program.
+/// The seconds for each of `count` files, all kept in memory as in the program.
 double timePerFile(const std::vector<std::string>& files, std::size_t first, std::size_t count)
 {
     OwnedEvolutions evolutions;
@@ -184,7 +184,7 @@ double timePerFile(const std::vector<std::string>& files, std::size_t first, std
     return all / static_cast<double>(count);
 }
 
-/// The mean over tens of files that follow each other, so that no text is in the cache already.
+/// The mean over groups of ten files, so that no text is in the cache.
 double timePerFileOfTen(const std::vector<std::string>& files)
 {
     double sum = 0;

@@ -15,7 +15,7 @@ namespace tarsil::benchmarks {
 
 namespace {
 
-/// Numbers by std::from_chars, on views.
+/// Numbers by std::from_chars, from views.
 struct FromChars
 {
     using Text = std::string_view;
@@ -39,7 +39,7 @@ struct FromChars
     static int integer(Text text) { return number<int>(text); }
 };
 
-/// Numbers by std::stof, on copies.
+/// Numbers by std::stof, from copies.
 struct Stof
 {
     using Text = std::string;
@@ -53,7 +53,7 @@ struct Stof
     static int integer(const Text& text) { return std::stoi(text); }
 };
 
-/// A file's bytes, mapped into memory.
+/// The bytes of a file, mapped into memory.
 class MappedFile
 {
 public:
@@ -152,7 +152,7 @@ ReferenceModes readFixedColumns(const std::string& path)
     return modes;
 }
 
-/// Cuts a row at its separators.
+/// Splits a row at its separators.
 template <typename Numbers, typename Line>
 void split(const Line& line, char separator, std::vector<typename Numbers::Text>& fields)
 {

@@ -9,13 +9,13 @@
 
 namespace tarsil::benchmarks {
 
-// Two readers to measure against. Both make the same points as the program's readers, and neither
-// looks for errors. The file is meant to be well formed.
+// Two readers for comparison. Both produce the same points as the program's readers. Neither checks
+// for errors: the file must be well-formed.
 
 using ReferenceModes = std::vector<std::vector<Point>>;
 
-/// What a good programmer writes without a profile: the file mapped into memory, lines and fields
-/// cut as views, numbers by std::from_chars.
+/// What a good programmer writes without profiling: the file mapped into memory, lines and fields
+/// as views, numbers by std::from_chars.
 ReferenceModes readWithFromChars(const std::string& path, Layout layout);
 
 /// What most programs do: std::getline, substr, std::stof.

@@ -1,4 +1,5 @@
-// Printed flutter summaries: text without tables, and tables against a mmap + from_chars reader.
+// Printed flutter summaries: text without tables, and tables compared with an mmap + from_chars
+// reader.
 
 #include "RatioTable.h"
 #include "solver/SummaryReader.h"
@@ -26,7 +27,7 @@ constexpr std::size_t tableSize = 100 * megabyte;
 constexpr int turns = 5;
 constexpr int numbersOfRow = 7;
 
-/// A file that goes with this object.
+/// A file that is removed with this object.
 class TemporaryFile
 {
 public:
@@ -83,7 +84,7 @@ void writeTables(const fs::path& path)
     }
 }
 
-/// Seven numbers of each line that begins with eight blanks.
+/// Reads seven numbers from each line that begins with eight blanks.
 std::size_t readWithFromChars(const fs::path& path)
 {
     const int file = ::open(path.c_str(), O_RDONLY);

@@ -1,5 +1,5 @@
-// From the start of the process to the first painted frame: the program with a sample, against an
-// empty window with three sub-windows. The program calls itself as either of them.
+// From the start of the process to the first painted frame: the program with a sample, compared
+// with an empty window with three sub-windows. The benchmark starts itself as either of them.
 
 #include "RatioTable.h"
 #include "app/QtUserInterface.h"
@@ -20,7 +20,7 @@ namespace {
 
 using namespace tarsil;
 
-/// Ends the program when the watched widget has been painted once.
+/// Quits the program when the watched widget has been painted.
 class FirstFrame : public QObject
 {
 public:
@@ -54,7 +54,7 @@ int showEmptyWindow()
 int showProgram(const QString& file)
 {
     QtUserInterface user;
-    const QTemporaryDir folder; // of options that nobody has set
+    const QTemporaryDir folder; // options: none set
     wndMain window(
         user, [](const QString&) { return false; },
         OptionsStore(folder.filePath(QStringLiteral("tarsil.ini")).toStdString()));

@@ -1,5 +1,6 @@
-// Workspaces of many small files: opening one against reading its files alone, and the explorer's
-// nodes for them against those for a few. Searches for files that moved, in the worst workspaces.
+// Workspaces of many small files: opening one compared with reading its files alone, and the
+// explorer's nodes for many files compared with few. Searches for moved files in the worst
+// workspaces.
 
 #include "GeneratedFiles.h"
 #include "RatioTable.h"
@@ -33,7 +34,7 @@ using namespace tarsil::benchmarks;
 constexpr std::size_t fileCount = 1000;
 constexpr int turns = 7;
 
-/// A user who is told nothing and agrees to nothing.
+/// A user interface that ignores messages and refuses everything.
 class SilentUser : public UserInterface
 {
 public:
@@ -67,7 +68,7 @@ public:
     void showProgress(std::size_t /*done*/, std::size_t /*total*/) override { }
 };
 
-/// A workspace of small files and no plot.
+/// A workspace of small files without plots.
 struct ManyFiles
 {
     QTemporaryDir folder;
@@ -98,7 +99,7 @@ void openAll(OwnedEvolutions& evolutions, const ManyFiles& many, std::size_t cou
         evolutions.push_back(openEvolution(many.files[i]));
 }
 
-/// What was opened before is released outside of the time.
+/// The time to open it, without releasing what was open before.
 double openingTime(const ManyFiles& many)
 {
     SilentUser user;
@@ -126,7 +127,7 @@ void measureOpening(const ManyFiles& many)
     printRow("opening a workspace of 1000 small files", "reading the files alone", times, "<= 3");
 }
 
-/// Seconds for the nodes of one evolution of so many.
+/// The seconds for each of `count` nodes.
 double timePerNode(const ManyFiles& many, std::size_t count)
 {
     SilentUser user;
@@ -165,7 +166,7 @@ double largestMemory()
     return static_cast<double>(usage.ru_maxrss) / 1024; // MiB
 }
 
-/// Must come first, while the program has not needed more memory for anything else.
+/// Must run first, before anything else needs more memory.
 void measureMissingFiles()
 {
     constexpr std::size_t missing = 32767;

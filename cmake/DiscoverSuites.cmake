@@ -1,17 +1,16 @@
-# Script: lists the test suites of a GoogleTest program and writes a file for ctest with one test
-# for each suite and each way to run it, so that `ctest -R Crossings` runs what its name says and a
-# failure names its suite.
+# Script: lists the test suites of a GoogleTest program and writes a ctest file with one test for
+# each suite and locale, so that `ctest -R Crossings` runs that suite and a failure names it.
 #
 # cmake -D PROGRAM=... -D NAME=... -D OUTPUT=... -P DiscoverSuites.cmake
 #   PROGRAM  the test program
-#   NAME     the folder of src/ that it tests; a suite's test is called NAME.Suite
-#   OUTPUT   the file to write; it uses the variables that tarsil_test sets beside it
+#   NAME     the folder of src/ that it tests; the test of a suite is NAME.Suite
+#   OUTPUT   the file to write; uses variables that tarsil_test sets
 execute_process(
   COMMAND ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 ASAN_OPTIONS=detect_leaks=0
           ${PROGRAM} --gtest_list_tests
   OUTPUT_VARIABLE listing
   COMMAND_ERROR_IS_FATAL ANY)
-# A suite begins its line and ends with a point; its tests are indented.
+# A suite starts a line and ends with a point; its tests are indented.
 string(REGEX MATCHALL "(^|\n)[^ \n][^\n.]*\\." suites "${listing}")
 if(NOT suites)
   message(FATAL_ERROR "${PROGRAM} lists no test suite.")

@@ -1,1 +1,1 @@
-// The one source of the targets that compile precompiled headers.
+// The only source of the targets that compile precompiled headers.

@@ -1,6 +1,6 @@
-# Headers that are compiled once for many files: those of the standard library, of Qt and of
-# GoogleTest, which cost more than the files that include them. Every file still includes what it
-# uses; builds without them (CMAKE_DISABLE_PRECOMPILE_HEADERS) show what is missing.
+# Precompiled headers: those of the standard library, of Qt and of GoogleTest, which cost more time
+# than the files that include them. Every file still includes what it uses; a build without them
+# (CMAKE_DISABLE_PRECOMPILE_HEADERS) shows missing includes.
 
 set(standard_headers
     <algorithm>
@@ -41,7 +41,8 @@ set(widget_headers
     <QWidget>)
 set(test_headers <gmock/gmock.h> <gtest/gtest.h>)
 
-# tarsil_precompiled_set(NAME HEADERS ... LINK ...): headers that targets with the same flags share.
+# tarsil_precompiled_set(NAME HEADERS ... LINK ...): precompiled headers for targets with the same
+# flags.
 function(tarsil_precompiled_set name)
   cmake_parse_arguments(SET "" "" "HEADERS;LINK" ${ARGN})
   set(target tarsil_precompiled_${name})

@@ -1,5 +1,5 @@
-# How the libraries, tests and their rules are made: warnings, header checks, and the refusal of
-# widgets below the windows.
+# Functions for libraries and tests: warnings, header checks, and the refusal of widgets below the
+# windows.
 
 add_library(tarsil_compile_options INTERFACE)
 target_include_directories(tarsil_compile_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
@@ -22,8 +22,8 @@ if(TARSIL_FUZZ)
 endif()
 
 # tarsil_library(NAME [WINDOWS] [MOC] HEADERS ... SOURCES ... LINK ...): the static library
-# tarsil_NAME (alias tarsil::NAME) of the folder src/NAME. Only a WINDOWS library may link Qt Widgets;
-# a MOC library has signals of its own.
+# tarsil_NAME (alias tarsil::NAME) of the folder src/NAME. Only a WINDOWS library may link Qt
+# Widgets; a MOC library has its own signals.
 function(tarsil_library name)
   cmake_parse_arguments(LIB "WINDOWS;MOC" "" "HEADERS;SOURCES;LINK;PRIVATE_LINK" ${ARGN})
   set(target tarsil_${name})
@@ -55,7 +55,7 @@ function(tarsil_library name)
   endif()
 endfunction()
 
-# Stops the configuration when TARGET, which must do without a window, reaches Qt Widgets.
+# Fails the configuration when TARGET, which must not need a window, reaches Qt Widgets.
 function(tarsil_refuse_widgets library target)
   get_target_property(links ${target} TARSIL_LINKS)
   foreach(link IN LISTS links)

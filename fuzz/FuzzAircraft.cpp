@@ -15,7 +15,7 @@ namespace {
 
 using namespace tarsil;
 
-/// Reads the text; the number of the line that stopped the reader, none when it came to the end.
+/// Reads the text. Returns the number of the line that stopped the reader; empty at the end.
 std::optional<std::size_t> read(std::string_view text, AirplaneInfo& info)
 {
     TextStream stream(text, "fuzz");
@@ -23,7 +23,7 @@ std::optional<std::size_t> read(std::string_view text, AirplaneInfo& info)
         readAirplaneInfo(stream, info);
     } catch (const RunTimeError& error) {
         fuzz::require(error.source() == "AirplaneInfo", "an error names the class");
-        fuzz::require(error.description().find(stream.place()) != std::string::npos,
+        fuzz::require(error.description().find(stream.location()) != std::string::npos,
                       "an error says where");
         fuzz::require(isUtf8(error.description()), "an error can be shown");
         return stream.lineNumber();
@@ -31,7 +31,7 @@ std::optional<std::size_t> read(std::string_view text, AirplaneInfo& info)
     return std::nullopt;
 }
 
-/// The text without its lines from `number`, counted from 1, on.
+/// The text before line `number`, counted from 1.
 std::string_view linesBefore(std::string_view text, std::size_t number)
 {
     std::size_t end = 0;
@@ -55,7 +55,7 @@ void requireProportion(const AirplaneInfo& info, std::string_view text)
     const std::size_t records =
         info.MassConfs.size() + info.FlutterMechs.size() + info.FlutterEnvs.size();
     fuzz::require(records <= lines, "a record is a line, and a header is none");
-    // A byte of Windows-1252 is at most three of UTF-8.
+    // A byte of Windows-1252 has at most three bytes in UTF-8.
     std::size_t bytes = info.VLTag.size() + info.VdTag.size() + info.CeTag.size();
     for (const MassConf& mass : info.MassConfs)
         bytes += mass.ShortName.size() + mass.LongName.size() + mass.Mval.size() + mass.CGval.size()
@@ -80,7 +80,7 @@ void requireFinite(const AirplaneInfo& info)
     }
 }
 
-/// A few of the records are enough: looking for all of them takes the square of their number.
+/// Checks only a few records, because checking all takes quadratic time.
 void requireFindable(const AirplaneInfo& info)
 {
     constexpr std::size_t few = 50;
@@ -109,7 +109,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
     requireFinite(info);
     requireFindable(info);
 
-    // What stays after an error is what the lines before the error hold.
+    // After an error the result must be that of the lines before the error.
     AirplaneInfo again;
     const std::string_view good = stopped ? linesBefore(text, *stopped) : text;
     fuzz::require(!read(good, again), "the lines before an error have none");

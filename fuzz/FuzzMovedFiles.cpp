@@ -1,5 +1,5 @@
-// Moved files: each line of the input is a path of a workspace whose file is missing, or after "+"
-// one whose file is there, or after "=" a file that was found.
+// Moved files: each line of the input is a path of a workspace whose file is missing, after "+" one
+// whose file exists, or after "=" a file that was found.
 
 #include "FuzzTarget.h"
 
@@ -16,7 +16,7 @@ namespace {
 
 using namespace tarsil;
 
-constexpr std::size_t mostLines = 60; // the comparison looks at all pairs
+constexpr std::size_t mostLines = 60; // the reference compares all pairs
 
 struct Lines
 {
@@ -25,7 +25,7 @@ struct Lines
     std::vector<std::string> files;
 };
 
-/// A place where nothing is, so that a path is its own file.
+/// A path without links, so that it identifies its own file.
 std::string nowhere(std::string_view path)
 {
     return std::string("/tarsil-fuzz-nowhere/").append(path);
@@ -38,7 +38,7 @@ Lines linesOf(std::string_view text)
         const std::string_view line = text.substr(0, text.find('\n'));
         text.remove_prefix(std::min(line.size() + 1, text.size()));
         if (line.find('\0') != std::string_view::npos)
-            continue; // which no path can hold
+            continue; // no path can contain this
         if (line.starts_with('='))
             lines.files.push_back(nowhere(line.substr(1)));
         else if (line.starts_with('+'))
@@ -55,7 +55,7 @@ std::size_t namesShared(std::string_view a, std::string_view b)
     return static_cast<std::size_t>(std::count(a.begin(), end, '/'));
 }
 
-/// The same by looking at all pairs.
+/// The reference: compares all pairs.
 void requireSharedTails(const std::vector<std::string>& paths,
                         const std::vector<std::string>& files)
 {
@@ -86,7 +86,7 @@ void requireOwnFiles(const Lines& lines)
 {
     FileMatching matching("/tarsil-fuzz-nowhere");
     for (const std::string& path : lines.present)
-        matching.take(path, path);
+        matching.addPresent(path, path);
     for (const std::string& path : lines.missing)
         matching.addPath(path);
     for (const std::string& file : lines.files)

@@ -1,4 +1,4 @@
-// Rich text on a plot, as it goes into the pictures that other programs read.
+// Rich text on a plot, as written to pictures for other programs.
 
 #include "FuzzTarget.h"
 
@@ -13,7 +13,7 @@ namespace {
 
 using namespace tarsil;
 
-/// The toolkit's fonts need one, without a screen.
+/// Qt's fonts need an application, but no screen.
 void makeApplication()
 {
     static int count = 1;
@@ -41,7 +41,7 @@ quint32 number(const QByteArray& metafile, qsizetype offset)
     return qFromLittleEndian<quint32>(metafile.constData() + offset);
 }
 
-/// Records follow each other up to the one that ends the file, as the header says.
+/// Records must be consecutive up to the end of the file, as the header states.
 void requireRecords(const QByteArray& metafile)
 {
     constexpr qsizetype sizeInHeader = 48;
@@ -58,13 +58,14 @@ void requireRecords(const QByteArray& metafile)
     }
     fuzz::require(type == endOfFile, "the last record is the end");
     fuzz::require(number(metafile, sizeInHeader) == static_cast<quint32>(metafile.size()),
-                  "the header tells the size");
-    fuzz::require(number(metafile, countInHeader) == count, "the header tells the records");
+                  "the header contains the size");
+    fuzz::require(number(metafile, countInHeader) == count,
+                  "the header contains the number of records");
 }
 
 } // namespace
 
-/// Fontconfig keeps what it has read to the end of the process, which is no leak of ours.
+/// Fontconfig keeps its data until the process ends, which is not a leak of this program.
 extern "C" const char* __lsan_default_suppressions() // NOLINT(bugprone-reserved-identifier)
 {
     return "leak:libfontconfig";

@@ -10,7 +10,7 @@
 
 namespace tarsil::fuzz {
 
-/// Whatever a file declares, its evolution must not take more memory than its bytes are worth.
+/// Memory must be proportional to the bytes of the file, whatever it declares.
 inline void requireProportion(const EVM& evolution, std::size_t bytes)
 {
     std::size_t points = 0;
@@ -31,7 +31,7 @@ inline void requireWholeTree(const EVM& evolution)
     }
 }
 
-/// Reads the text with one of the readers, twice: the second time must find the same.
+/// Reads the text twice with one of the readers; both results must be equal.
 template <typename Reader>
 int readTwice(std::string_view text, Reader reader)
 {

@@ -13,7 +13,7 @@ namespace {
 
 using namespace tarsil;
 
-/// What writing keeps of a text: all but control characters, and no run without characters.
+/// What writing keeps of a text: everything except control characters and empty runs.
 RichText asWritten(const RichText& text)
 {
     RichText kept {{}, text.last};
@@ -52,7 +52,7 @@ void requirePlainSource(const std::string& rtf)
                   "a stored value is its source");
 }
 
-/// Writing and reading a text gives it again, in both forms and as often as one likes.
+/// Writing and reading a text must reproduce it, in both forms and repeatedly.
 void requireFixedPoint(const RichText& text)
 {
     const RichText expected = asWritten(text);

@@ -12,7 +12,7 @@ using namespace tarsil;
 
 constexpr const char* keys[] = {"AcInfoDataFile", "vgfScale", "vgfThicks"};
 
-/// What is set is read again, the other values stay, and so does the text as a whole.
+/// A value that is set must be read back; the other values and the validity of the text must stay.
 void requireChange(const SettingsText& before, const char* changed, const QString& value)
 {
     SettingsText text = before;

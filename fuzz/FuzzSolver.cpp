@@ -1,4 +1,4 @@
-// Printed flutter summaries, up to the evolutions that are made of them.
+// Printed flutter summaries, up to the evolutions made from them.
 
 #include "FuzzTarget.h"
 

@@ -6,8 +6,8 @@
 #include <iostream>
 #include <string_view>
 
-/// What libFuzzer calls with every input; the seed runner calls it too. Returns 0. Anything but a
-/// `RunTimeError` that leaves a reader, and every broken promise, ends the program.
+/// Called by libFuzzer for every input, and by the seed runner. Returns 0. An exception other than
+/// `RunTimeError`, or a violated requirement, ends the program.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 namespace tarsil::fuzz {

@@ -11,8 +11,8 @@ namespace {
 
 using namespace tarsil;
 
-/// Whatever a file counts, its record must not take more memory than its bytes are worth; only of
-/// files, of which some may be missing, there may be as many as a count can say.
+/// Memory must be proportional to the bytes of the file, whatever it counts. Only missing files can
+/// be as many as a count allows.
 void requireProportion(const WorkspaceRecord& record, std::size_t bytes)
 {
     fuzz::require(record.files.size() <= 32767, "no more files than can be counted");
@@ -25,7 +25,7 @@ void requireProportion(const WorkspaceRecord& record, std::size_t bytes)
     }
 }
 
-/// All but the texts, in which line breaks may have become blanks.
+/// Compares everything except texts, in which line breaks may have become blanks.
 void requireSameCurves(std::vector<SeriesRecord> series, const std::vector<SeriesRecord>& others)
 {
     fuzz::require(series.size() == others.size(), "series come back");
@@ -36,22 +36,23 @@ void requireSameCurves(std::vector<SeriesRecord> series, const std::vector<Serie
     fuzz::require(series == others, "numbers of series come back");
 }
 
-/// The values, and with the same bytes the captions too.
-void requireSameMarks(const std::vector<MarkRecord>& marks, const std::vector<MarkRecord>& others)
+/// Compares the values, and with equal bytes the captions too.
+void requireSameMarks(const std::vector<ReferenceRecord>& marks,
+                      const std::vector<ReferenceRecord>& others)
 {
     fuzz::require(marks.size() == others.size(), "marks come back");
     for (std::size_t i = 0; i < marks.size(); ++i)
         fuzz::require(marks[i].value == others[i].value, "values of marks come back");
 }
 
-/// What is written can be read, says the same, and is written in the same bytes again.
+/// What is written must be readable, equal, and written in the same bytes again.
 void requireFixedPoint(const WorkspaceRecord& record)
 {
     const WrittenWorkspace first = writeWorkspace(record, "fuzz");
     WorkspaceRecord again;
     readWorkspace(first.bytes, "again", again);
     const WrittenWorkspace second = writeWorkspace(again, "fuzz");
-    // A text of Windows-1252 can become longer than its limit in UTF-8, and is then cut.
+    // A text of Windows-1252 can exceed its limit in UTF-8 and is then cut.
     fuzz::require(!first.longValues.empty() || second.bytes == first.bytes,
                   "what is read again is written as it was");
     fuzz::require(again.files.size() == record.files.size(), "files come back");

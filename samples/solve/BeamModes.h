@@ -6,8 +6,8 @@ namespace tarsil::goland {
 /// The root beta L of cosh(x) cos(x) = -1 for a bending mode numbered from 1.
 double bendingRoot(int mode);
 
-/// Deflection of a bending mode at the place eta = y / L (0 root, 1 tip); the tip value is +-2 and
-/// the mean of its square over the span is 1.
+/// Deflection of a bending mode at eta = y / L (0 root, 1 tip). The tip value is +-2, and the mean
+/// of its square over the span is 1.
 double bendingShape(int mode, double eta);
 
 /// Twist of a torsion mode numbered from 1, sin((2 mode - 1) pi eta / 2).

@@ -10,22 +10,22 @@
 
 namespace tarsil::goland {
 
-/// How the participation factors stand in the rows of an .ev2 file; the value is the number of
+/// The layout of the participation factors in the rows of an .ev2 file; the value is the number of
 /// fields of a row.
 enum class RowWidth { NoFactors = 11, FactorAndPhase = 21, FactorPhaseAndMode = 26 };
 
-/// One mass configuration of the wing.
+/// A mass configuration of the wing.
 struct MassConfiguration
 {
     std::string name; ///< as written in the files, e.g. CLEAN
     std::string title; ///< for people, e.g. clean wing
     std::string fileName; ///< its part of the file names, e.g. clean
-    TipStore store; ///< mass 0 when there is none
+    TipStore store; ///< mass 0 for none
     std::vector<std::string> modifications; ///< sentences on what differs from CLEAN
     std::vector<std::string> modeNames; ///< of the aeroelastic modes in still-air order
 };
 
-/// One run: a mass configuration at a Mach number and the altitude which belongs to it.
+/// A run: a mass configuration at a Mach number and its altitude.
 struct FlutterCase
 {
     MassConfiguration configuration;

@@ -7,7 +7,7 @@
 
 namespace tarsil::goland {
 
-/// A place where the damping of one mode passes through zero.
+/// A zero of the damping of a mode.
 struct Crossing
 {
     int mode = 0; ///< numbered from 1

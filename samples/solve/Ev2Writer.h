@@ -8,7 +8,7 @@
 
 namespace tarsil::goland {
 
-/// The whole text of the .ev2 file of a run; damping stands as it is, negative when stable.
+/// The text of the .ev2 file of a run; the damping is negative when stable.
 std::string ev2Text(const FlutterCase& flutterCase, const FlutterCurves& curves);
 
 } // namespace tarsil::goland

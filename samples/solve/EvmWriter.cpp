@@ -7,7 +7,7 @@ namespace tarsil::goland {
 
 namespace {
 
-/// Text cut or filled with blanks to the width.
+/// Cuts a text or pads it with blanks to the width.
 std::string padded(std::string text, std::size_t width)
 {
     text.resize(width, ' ');
@@ -26,7 +26,7 @@ std::string headLines(const FlutterCase& flutterCase, const FlutterCurves& curve
     return text;
 }
 
-/// One point in 40 columns; neighbouring fields may touch.
+/// A point in 40 columns; adjacent fields may touch.
 std::string pointField(int mode, const FlutterPoint& point)
 {
     return integerText(mode, 3) + fixedText(point.reducedFrequency, 7, 3)

@@ -8,8 +8,7 @@
 
 namespace tarsil::goland {
 
-/// The whole text of the .evm file of a run; damping is written with the opposite sign, positive
-/// when stable.
+/// The text of the .evm file of a run; the damping has the opposite sign, positive when stable.
 std::string evmText(const FlutterCase& flutterCase, const FlutterCurves& curves);
 
 } // namespace tarsil::goland

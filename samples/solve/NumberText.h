@@ -8,7 +8,8 @@ namespace tarsil::goland {
 /// A number with the given digits after the point, right aligned in the width.
 std::string fixedText(double value, int width, int digits);
 
-/// A number as 0.00000E+00 with the given digits after the point, right aligned in the width.
+/// A number in the form 0.00000E+00 with the given digits after the point, right aligned in the
+/// width.
 std::string exponentText(double value, int width, int digits = 5);
 
 /// An integer, right aligned in the width.

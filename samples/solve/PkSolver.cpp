@@ -17,7 +17,7 @@ using Complex = std::complex<double>;
 constexpr double longestStep = 1.0; // of the tracking, knots
 constexpr double smallestReducedFrequency = 1.0e-3; // up to it a root counts as real
 
-/// Square of the cosine between two complex shapes, 1 when they are alike.
+/// The square of the cosine between two complex shapes; 1 when they are proportional.
 double likeness(const Eigen::VectorXcd& first, const Eigen::VectorXcd& second)
 {
     return std::norm(first.dot(second)) / (first.squaredNorm() * second.squaredNorm());

@@ -19,8 +19,8 @@ namespace tarsil::goland {
 class PkSolver
 {
 public:
-    /// Takes the wing, its natural modes and the air of the run; the structural
-    /// damping is that of the modes, none for a wing without a store.
+    /// The wing, its natural modes and the air of the run. The structural damping is that of the
+    /// modes: none for a wing without a store.
     PkSolver(const Wing& wing, const NaturalModes& modes, const Air& air);
 
     /// One curve per natural mode at the given increasing equivalent airspeeds in knots.

@@ -13,8 +13,8 @@ namespace tarsil::goland {
 /// for a real reduced frequency k > 0 (T. Theodorsen, NACA Report 496, 1935).
 std::complex<double> theodorsen(double reducedFrequency);
 
-/// Air loads on the natural modes divided by density and powers of speed; all of them stand on the
-/// left side of the equation of motion, p being d/dt:
+/// Air loads on the natural modes divided by density and powers of speed. All of them are on the
+/// left side of the equation of motion, where p is d/dt:
 /// rho apparentMass p^2 + rho V flowDamping p + rho V C(k) (wakeDamping p + V wakeStiffness).
 struct StripAerodynamics
 {
@@ -24,7 +24,7 @@ struct StripAerodynamics
     Eigen::MatrixXd wakeStiffness; ///< circulatory, lagged by C(k)
 };
 
-/// Integrates the lift and moment of NACA Report 496 over the span, every strip on its own.
+/// Integrates the lift and moment of NACA Report 496 over the span, strip by strip.
 StripAerodynamics stripAerodynamics(const Wing& wing, const NaturalModes& modes);
 
 } // namespace tarsil::goland

@@ -13,8 +13,8 @@ namespace {
 
 constexpr int panelCount = 400; // even, for Simpson's rule
 
-/// Values of all assumed shapes at the stations: bending columns first, then torsion columns and at
-/// last the pitch of the pylon, which does not move the wing.
+/// Values of all assumed shapes at the stations: bending columns first, then torsion columns, then
+/// the pitch of the pylon, which does not move the wing.
 struct AssumedShapes
 {
     Eigen::MatrixXd deflection;

@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::size_t step = 2; // of the speeds that are printed
 
-/// A number with seven decimals, as solvers print them.
+/// A number with seven decimals, like the output of a solver.
 std::string longText(double value)
 {
     return exponentText(value, 18, 7);

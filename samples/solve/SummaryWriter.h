@@ -1,4 +1,4 @@
-// This header writes runs as the flutter summary that a solver prints.
+// This header formats runs as the flutter summary that a solver prints.
 #pragma once
 
 #include "Cases.h"
@@ -9,15 +9,15 @@
 
 namespace tarsil::goland {
 
-/// One subcase of a printed output.
+/// A subcase of a printed output.
 struct SolvedCase
 {
     FlutterCase flutterCase;
     FlutterCurves curves;
 };
 
-/// The whole text of a printed output: a subcase for each run, a page for each root, with every
-/// second speed as true airspeed in feet per second.
+/// The text of a printed output: a subcase for each run, a page for each root, and every second
+/// speed as true airspeed in feet per second.
 std::string summaryText(const std::vector<SolvedCase>& cases);
 
 } // namespace tarsil::goland

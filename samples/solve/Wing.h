@@ -3,7 +3,7 @@
 
 namespace tarsil::goland {
 
-/// A uniform cantilever wing in SI units; chordwise places are fractions of the chord aft of the
+/// A uniform cantilever wing in SI units; chordwise positions are fractions of the chord aft of the
 /// leading edge.
 struct Wing
 {

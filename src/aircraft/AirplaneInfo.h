@@ -6,21 +6,20 @@
 
 namespace tarsil {
 
-/// One mass configuration of the aircraft. All of it is text, kept as the file has it, units
-/// included.
+/// A mass configuration of the aircraft. All values are the texts of the file, with their units.
 struct MassConf
 {
     std::string Mval; ///< mass
-    std::string CGval; ///< centre of gravity, its value
-    std::string CGpos; ///< centre of gravity, its position
+    std::string CGval; ///< centre of gravity: value
+    std::string CGpos; ///< centre of gravity: position
     std::string LongName;
-    std::string ShortName; ///< what an evolution's `Param::Mass` names
+    std::string ShortName; ///< the name that `Param::Mass` of an evolution refers to
 
     bool operator==(const MassConf&) const = default;
 };
 
-/// One flutter mechanism, with the axes that suit plots of it. The ranges are as `SetScale` of a
-/// plot takes them, so a minimum may be the larger number.
+/// A flutter mechanism with the axes for plots of it. The ranges are arguments of `SetScale`, so a
+/// minimum may be the larger number.
 struct FlutterMechanism
 {
     float vthick = 0; ///< ticks of the speed axis
@@ -38,14 +37,14 @@ struct FlutterMechanism
     bool operator==(const FlutterMechanism&) const = default;
 };
 
-/// The speeds that bound the flight at one Mach number. All three are marked on the speed axis of a
-/// plot, so they are in KEAS.
+/// The envelope speeds at one Mach number, in KEAS. A plot shows all three as marks on its speed
+/// axis.
 struct FlutterEnvelope
 {
     float VL = 0; ///< limit speed
     float Vd = 0; ///< dive speed
     float Ceiling = 0; ///< speed at the ceiling
-    std::string name; ///< the Mach number, written as "0.00#" does it: "0.40", "0.785"
+    std::string name; ///< the Mach number in the form "0.00#": "0.40", "0.785"
 
     bool operator==(const FlutterEnvelope&) const = default;
 };
@@ -53,12 +52,12 @@ struct FlutterEnvelope
 /// The name of the envelope of a Mach number.
 std::string envelopeName(float mach);
 
-/// What an aircraft information file (.inp) says about the aircraft whose flutter is examined. The
-/// collections are in file order and may hold a name more than once.
+/// The contents of an aircraft information file (.inp). The collections are in file order; a name
+/// may occur more than once.
 class AirplaneInfo
 {
 public:
-    // What the three envelope speeds are called in a plot; empty when the file does not say.
+    // The labels of the three envelope speeds in a plot; empty when the file has none.
     std::string VLTag;
     std::string VdTag;
     std::string CeTag;
@@ -68,14 +67,13 @@ public:
     std::string Filename; ///< path of the file, in stored or native form
     std::vector<FlutterEnvelope> FlutterEnvs;
 
-    /// Reads the file `Filename` in place of the tags and records held so far. Errors: those of
-    /// opening a file, after which nothing has changed; 9 for an entry with too few fields, 13 or 6
-    /// for a field that is no number, each naming file, line, field and text. What was read before
-    /// such an entry stays.
+    /// Reads the file `Filename` and replaces all tags and records. Errors: those of opening a
+    /// file, with nothing changed; 9 for an entry with too few fields, 13 or 6 for a field that is
+    /// not a number, each with file, line, field and text. Records read before such an entry stay.
     void Create();
 
-    // The first record of a name, null when there is none. The name as it is written goes before
-    // one that differs in blanks around it or in the case of ASCII letters.
+    // The first record of a name; null when there is none. An exact match wins over one that
+    // differs in surrounding blanks or in the case of ASCII letters.
 
     const MassConf* massConf(std::string_view shortName) const;
     const FlutterMechanism* flutterMechanism(std::string_view shortName) const;

@@ -25,7 +25,7 @@ constexpr std::string_view tagKey = "TAG";
 
 using FieldNames = std::span<const std::string_view>;
 
-// The fields of each kind of entry, in the order of the file.
+// The fields of each kind of entry, in file order.
 constexpr std::string_view massFields[] = {"ShortName", "Mval", "LongName", "CGpos", "CGval"};
 constexpr std::string_view mechanismFields[] = {"ShortName", "LongName", "fmin",  "fmax",
                                                 "fthick",    "gmin",     "gmax",  "gthick",
@@ -37,11 +37,10 @@ constexpr std::string_view envelopeFields[] = {"Ceiling", "Vd", "VL"};
                                 std::string_view text)
 {
     throw RunTimeError(ErrorNumber::SubscriptOutOfRange, "AirplaneInfo",
-                       stream.place() + ": " + what + ": " + quotedText(decodeText(text)));
+                       stream.location() + ": " + what + ": " + quotedText(decodeText(text)));
 }
 
-/// The fields of one entry, taken one after the other. More fields than have a name are passed
-/// over.
+/// Reads the fields of an entry one by one. Ignores fields beyond the last name.
 class EntryFields
 {
 public:
@@ -79,7 +78,7 @@ float EntryFields::number()
     if (status != NumberStatus::Ok) {
         const std::size_t index = m_taken - 1;
         throwNumberError(status, decodeText(field), "AirplaneInfo",
-                         m_stream.place() + ", field " + std::to_string(index) + " ("
+                         m_stream.location() + ", field " + std::to_string(index) + " ("
                              + std::string(m_names[index]) + ")");
     }
     return value;
@@ -94,7 +93,7 @@ std::string_view EntryFields::next()
     return field;
 }
 
-/// An entry with a name: what stands before its first "=", and its fields behind it.
+/// An entry with a name: the text before the first "=", and the fields after it.
 struct NamedEntry
 {
     std::string_view name;
@@ -144,7 +143,8 @@ void AirplaneInfoReader::read()
     }
 }
 
-/// The next line of a section; false at the empty line, or the end of the file, that closes it.
+/// Reads the next line of a section. False at the end of the section: an empty line or the end of
+/// the file.
 bool AirplaneInfoReader::readSectionLine(std::string_view& line)
 {
     if (m_stream.atEndOfStream())
@@ -206,7 +206,7 @@ void AirplaneInfoReader::readTags(std::string_view line)
     m_info.CeTag = fields.text();
 }
 
-/// The speeds stand in the opposite order of their tags: the ceiling first, VL last.
+/// The speeds are in the opposite order of their tags: the ceiling first, VL last.
 void AirplaneInfoReader::readEnvelope(std::string_view line)
 {
     auto [name, fields] = namedEntry(m_stream, line, envelopeFields);

@@ -6,8 +6,7 @@ class AirplaneInfo;
 class TextStream;
 
 /// Appends the records of an aircraft information file to the collections of `info` and sets its
-/// tags. What is taken and what is refused is said at `AirplaneInfo::Create`; each record read
-/// before an error is there whole.
+/// tags. Errors: see `AirplaneInfo::Create`; every record read before an error is complete.
 void readAirplaneInfo(TextStream& stream, AirplaneInfo& info);
 
 } // namespace tarsil

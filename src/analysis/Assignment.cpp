@@ -9,8 +9,8 @@ namespace {
 
 constexpr std::size_t none = static_cast<std::size_t>(-1);
 
-/// The assignment is built row by row: each row is added along the cheapest alternating path to a
-/// free column. Potentials of rows and columns keep all reduced costs at or above 0.
+/// Builds the assignment row by row. Each row is added along the cheapest alternating path to a
+/// free column. Potentials of rows and columns keep all reduced costs non-negative.
 class AssignmentBuilder
 {
 public:
@@ -30,8 +30,8 @@ private:
               isReached(size, false)
         { }
 
-        std::vector<double> distance; ///< of each column along the path
-        std::vector<std::size_t> before; ///< the column before it on the path
+        std::vector<double> distance; ///< of each column from the new row
+        std::vector<std::size_t> before; ///< the previous column on the path
         std::vector<bool> isReached;
     };
 
@@ -45,7 +45,7 @@ private:
     std::vector<std::size_t> m_rowOfColumn;
 };
 
-/// Looks at the columns that `row`, reached through `column`, leads to.
+/// Updates the distances of the columns that can be reached through `row` after `column`.
 void AssignmentBuilder::relax(Search& search, std::size_t row, std::size_t column,
                               double length) const
 {

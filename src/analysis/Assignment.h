@@ -5,7 +5,7 @@
 
 namespace tarsil {
 
-/// A square matrix of costs: what row r pays for column c.
+/// A square matrix of costs; row r pays `at(r, c)` for column c.
 class CostMatrix
 {
 public:
@@ -20,8 +20,8 @@ private:
     std::vector<double> m_costs;
 };
 
-/// The column of each row in an assignment of least total cost, in O(n^3) (Kuhn, Naval Research
-/// Logistics Quarterly 2, 1955; Munkres, J. SIAM 5, 1957). Costs are finite.
+/// Returns the column of each row in an assignment of least total cost, in O(n^3) (Kuhn, Naval
+/// Research Logistics Quarterly 2, 1955; Munkres, J. SIAM 5, 1957). Costs must be finite.
 std::vector<std::size_t> leastCostAssignment(const CostMatrix& costs);
 
 /// The total cost of an assignment.

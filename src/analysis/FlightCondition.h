@@ -7,12 +7,12 @@ namespace tarsil {
 
 class Point;
 
-/// The flight condition that belongs to a crossing, as far as its points and its evolution say it.
+/// The flight condition at a crossing, as far as its points and its evolution determine it.
 struct FlightCondition
 {
-    std::optional<double> mach; ///< at the crossing where the points have Mach numbers
+    std::optional<double> mach; ///< at the crossing, if the points have Mach numbers
     std::optional<double> altitude; ///< ft
-    bool isFromDensity = false; ///< a density altitude; otherwise the one of speed and Mach number
+    bool isFromDensity = false; ///< a density altitude; otherwise from speed and Mach number
 };
 
 /// The participation factor of largest magnitude at a crossing.
@@ -22,18 +22,18 @@ struct DominantFactor
     double value = 0;
 };
 
-/// Whether an altitude (ft) lies outside the standard atmosphere's range of -2,000 to 65,617 ft
-/// (20 km): no airplane has the speed and Mach number, or the density, that it stands for.
+/// Whether an altitude (ft) is outside the range of the standard atmosphere, -2,000 to 65,617 ft
+/// (20 km). No airplane flies at the speed and Mach number, or at the density, that give it.
 bool isOutsideAtmosphere(double altitude);
 
-/// The condition on the straight line between two points, at `part` of the way. Points that carry a
-/// density ratio give the altitude at which the standard atmosphere has it; others the altitude of
-/// `speed` (KEAS) at the Mach number (`ISA::IsaAltitude`). `mach` is that of the whole evolution,
-/// for points that carry none; 0 when it is not known.
+/// The condition on the straight line between two points, at `part` of the way. If the points have
+/// density ratios, the altitude is where the standard atmosphere has that density; otherwise it is
+/// the altitude of `speed` (KEAS) at the Mach number (`ISA::IsaAltitude`). `mach` is the Mach
+/// number of the evolution for points without one; 0 when unknown.
 FlightCondition conditionBetween(const Point& from, const Point& to, double part, double speed,
                                  float mach);
 
-/// The largest factor there; nothing when one of the points has no factors.
+/// The dominant factor there; empty when a point has no factors.
 std::optional<DominantFactor> dominantFactorBetween(const Point& from, const Point& to,
                                                     double part);
 

@@ -46,7 +46,7 @@ void writeBlockHeadings(std::size_t crossings, Sheet& sheet)
     sheet.setText(headingLine, FirstBlock + 3 * crossings, "MPF(1)");
 }
 
-/// Does a part of the report; whether it succeeded.
+/// Runs a part of the report. Returns whether it succeeded.
 template <typename Part>
 bool attempt(const FlutterReport::FailureReport& report, Part part)
 {
@@ -59,8 +59,8 @@ bool attempt(const FlutterReport::FailureReport& report, Part part)
     return true;
 }
 
-/// Searches every mode; the largest number of crossings that one of them has. A mode that cannot be
-/// searched to its end has none: half of its flutter speeds would pass for all.
+/// Searches every mode and returns the largest number of crossings. A mode whose search fails gets
+/// none: its first crossings alone could pass for all of them.
 std::size_t findCrossings(const std::vector<ReportRow>& rows, double gOffset,
                           const FlutterReport::FailureReport& report)
 {
@@ -73,8 +73,8 @@ std::size_t findCrossings(const std::vector<ReportRow>& rows, double gOffset,
     return largest;
 }
 
-/// The altitude in feet where the equivalent airspeed belongs to the Mach number. An error has both
-/// as a person knows them, and says of which mode they are.
+/// The altitude in feet at which the equivalent airspeed corresponds to the Mach number. An error
+/// contains the mode, the speed and the Mach number.
 double altitudeOf(const AeMode& mode, float speed, float mach)
 {
     try {
@@ -126,7 +126,7 @@ void FlutterReport::writeRow(const ReportRow& row, std::size_t line, std::size_t
 
 void FlutterReport::writeMaximum(const AeMode& mode, std::size_t line, Sheet& sheet) const
 {
-    // The search leaves the speed alone when the first point is the maximum.
+    // gMaxCalc does not set the speed when the first point is the maximum.
     double speed = mode.Points.empty() ? 0.0 : double {mode.Points.front().speed};
     const float damping = gMaxCalc(mode, m_speedLimit, speed);
     sheet.setNumber(line, LargestDamping, decimalValue(damping));
@@ -151,7 +151,7 @@ void FlutterReport::writeCrossings(const AeMode& mode, std::size_t line, std::si
     }
 }
 
-/// The evolution's Mach number, or the one that the user gives, which goes into the row.
+/// The Mach number of the evolution, or else of the user, which is then written into the row.
 float FlutterReport::machNumber(const AeMode& mode, std::size_t line, Sheet& sheet) const
 {
     const EVM& evolution = *mode.Parent;

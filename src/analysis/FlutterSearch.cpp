@@ -20,7 +20,7 @@ std::string nameOf(const AeMode& mode)
     return hasFile ? shownPath(mode.Parent->path()) + ", " + number : number;
 }
 
-/// The interval between two neighbours in which the damping crosses the reference.
+/// An interval between two neighbouring points in which the damping crosses the reference.
 class Crossing
 {
 public:
@@ -41,7 +41,7 @@ private:
     AeMode& m_mode;
     const Point& m_before;
     const Point& m_after;
-    double m_a; ///< distance of the damping from the reference before the crossing
+    double m_a; ///< damping minus reference before the crossing
     double m_b; ///< and after it
 };
 
@@ -61,14 +61,14 @@ Point Crossing::interpolated() const
     return point;
 }
 
-/// Where the straight line through (before, a) and (after, b) reaches zero.
+/// The zero of the straight line through (before, a) and (after, b).
 float Crossing::at(float before, float after) const
 {
     const double last = after;
     const double slope = (m_b - m_a) / (last - double {before});
     const double intercept = m_b - last * slope;
     const double value = -intercept / slope;
-    constexpr double firstBeyondSingles = 0x1.ffffffp127; // from here on rounding gives no single
+    constexpr double firstBeyondSingles = 0x1.ffffffp127; // larger values do not round to a single
     if (!(std::fabs(value) < firstBeyondSingles))
         fail(ErrorNumber::Overflow);
     return static_cast<float>(value);

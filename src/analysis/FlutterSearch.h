@@ -4,8 +4,8 @@ namespace tarsil {
 
 class AeMode;
 
-// The two searches over the points of one mode. They take the points in file order, which is
-// increasing speed, and look at nothing but neighbours.
+// The two searches over the points of one mode. The points are in file order, which is increasing
+// speed; only neighbouring points are compared.
 //
 //        g
 //        |                        __ P1      a = G(P0) + gOffset
@@ -14,25 +14,25 @@ class AeMode;
 //        |         P0 --
 //        +------------------------------ V
 
-/// Fills `mode.flutterPoints` with one point for every interval in which the sum of damping and
-/// `gOffset` changes its sign, in the order of the intervals; what an earlier search left there
-/// goes first. To find where the damping crosses g_ref (dimensionless, negative is stable), pass
-/// minus g_ref. A damping exactly at the reference is a crossing of neither of its intervals.
+/// Fills `mode.flutterPoints` with one point for each interval in which damping plus `gOffset`
+/// changes its sign, in the order of the intervals. Removes the results of an earlier search first.
+/// To find where the damping crosses g_ref (dimensionless, negative is stable), pass minus g_ref. A
+/// damping exactly at the reference does not count as a crossing in either of its intervals.
 ///
 /// Speed (KEAS), frequency (Hz), real part, reduced frequency and the participation factors that
-/// both points have are those at which the straight line through the two points, value against
-/// damping, reaches the reference; a value that both points share is copied. Imaginary part,
-/// damping and the two spare values stay 0. `Parent` of a found point is the mode.
+/// both points have are interpolated: the straight line of value against damping at the reference.
+/// A value that both points share is copied. Imaginary part, damping and the two spare values stay
+/// 0. `Parent` of a found point is the mode.
 ///
-/// The result is always false: callers look at the points. Errors, each naming file, mode and the
-/// two speeds: 11 for a crossing between two points of the same speed, 6 for a value beyond the
-/// range of a single. The points found before the error stay.
+/// Always returns false; callers look at the points. Errors, each with file, mode and the two
+/// speeds: 11 for a crossing between two points of equal speed, 6 for a value outside the range of
+/// a single. The points found before the error stay.
 bool FlutterPtsCalc(AeMode& mode, double gOffset);
 
-/// The largest damping among the first point and all points whose speed (KEAS) is at most
-/// `speedLimit`; the first of several equal ones wins. `gMaxSpeed` becomes the speed of that point,
-/// and stays as it was when the first point is the one. Error 9, naming file and mode, for a mode
-/// without points.
+/// The largest damping of the first point and of all points with a speed (KEAS) up to `speedLimit`.
+/// Among equal ones the first wins. Sets `gMaxSpeed` to the speed of that point, unless it is the
+/// first point: then `gMaxSpeed` is unchanged. Error 9, with file and mode, for a mode without
+/// points.
 float gMaxCalc(const AeMode& mode, double speedLimit, double& gMaxSpeed);
 
 } // namespace tarsil

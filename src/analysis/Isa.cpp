@@ -18,7 +18,7 @@ constexpr double pressureExponent = 5.2561;
 constexpr double densityExponent = pressureExponent - 1;
 constexpr double zeroTemperatureAltitude = 288.15 / 0.0019812; // temperature over lapse rate, ft
 
-/// What the logarithm of the pressure, and so of the density, loses per foot above the tropopause.
+/// The logarithmic decay of pressure, and so of density, per foot above the tropopause.
 double decayPerFoot()
 {
     return -4.8063 * std::pow(10.0, -5.0);

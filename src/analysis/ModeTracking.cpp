@@ -15,7 +15,8 @@ constexpr double largestStepRatio = 2;
 constexpr double keptLabelsTolerance = 1e-9;
 constexpr double ambiguityFactor = 2;
 
-// A root that lies farther from its prediction than this has jumped.
+// A root has jumped when it misses its prediction by more than `jumpFactor` times its last step (or
+// `jumpPart` of itself, if that is larger) and by more than `leastJump`.
 constexpr double jumpFactor = 3;
 constexpr double jumpPart = 0.02; ///< of the root itself
 constexpr double leastJump = 1e-3; ///< rad/s
@@ -30,7 +31,7 @@ std::size_t pointCount(const EVM& evolution)
     return evolution.Modes.empty() ? 0 : evolution.Modes.front()->Points.size();
 }
 
-/// The speeds of the first mode, when all modes have them and they rise; otherwise nothing.
+/// The speeds of the first mode, if all modes share them and they rise.
 std::optional<std::vector<double>> commonRisingSpeeds(const EVM& evolution)
 {
     std::vector<double> speeds;
@@ -48,15 +49,15 @@ std::optional<std::vector<double>> commonRisingSpeeds(const EVM& evolution)
     return speeds;
 }
 
-/// |a - b|, without the care for overflow that eigenvalues do not need.
+/// |a - b| without protection against overflow: eigenvalues are small enough.
 double distance(std::complex<double> a, std::complex<double> b)
 {
     const std::complex<double> d = a - b;
     return std::sqrt(d.real() * d.real() + d.imag() * d.imag());
 }
 
-/// Whether each track's present root is the nearest to its prediction: then no other assignment
-/// costs less.
+/// Whether the present root of each track is the nearest to its prediction. Then no other
+/// assignment costs less.
 bool isNearestEverywhere(const CostMatrix& costs, const std::vector<std::size_t>& columns)
 {
     for (std::size_t row = 0; row < columns.size(); ++row) {
@@ -69,7 +70,7 @@ bool isNearestEverywhere(const CostMatrix& costs, const std::vector<std::size_t>
     return true;
 }
 
-/// The columns of least cost, or the present ones where they cost no more.
+/// The assignment of least cost; the present one when it costs no more.
 std::vector<std::size_t> bestLabels(const CostMatrix& costs,
                                     const std::vector<std::size_t>& present)
 {
@@ -80,7 +81,7 @@ std::vector<std::size_t> bestLabels(const CostMatrix& costs,
     return totalCost(costs, present) <= limit ? present : best;
 }
 
-/// Whether a track would pay less than twice as much after an exchange with some other track.
+/// Whether an exchange of this track with some other track costs less than twice as much.
 bool isAmbiguous(const CostMatrix& costs, const std::vector<std::size_t>& columns,
                  std::size_t track)
 {
@@ -154,7 +155,7 @@ std::complex<double> ModeTracking::rootAt(std::size_t point, std::size_t track) 
     return m_roots[point][m_modes[point][track]];
 }
 
-/// How much longer the step to a point is than the one before it, within limits.
+/// The ratio of the step to `point` and the step before it, limited above.
 double ModeTracking::stepRatio(std::size_t point) const
 {
     return std::min((m_arguments[point] - m_arguments[point - 1])

@@ -10,59 +10,60 @@ namespace tarsil {
 
 class EVM;
 
-/// What the tracking doubts about one step of one track.
+/// A doubt about one step of one track.
 struct TrackMark
 {
-    std::size_t step = 0; ///< from point `step` to point `step + 1`, points counted from 1
+    std::size_t step = 0; ///< from point `step` to point `step + 1`, counted from 1
     std::size_t track = 0; ///< index
-    bool isAmbiguous = false; ///< an exchange with another track costs less than twice as much
-    bool isJump = false; ///< the root lies far from its prediction
+    bool isAmbiguous = false; ///< an exchange with another track would cost less than twice as much
+    bool isJump = false; ///< the root is far from its prediction
 };
 
-/// Which printed root each track follows at each point. Track t starts as the printed mode of index
-/// t; numbers are never changed, only labels.
+/// The printed root that each track follows at each point. Track t starts as the printed mode of
+/// index t. Only labels change, never numbers.
 ///
-/// Solvers order oscillatory roots by frequency, so that labels swap where curves cross. Roots are
+/// Solvers order oscillatory roots by frequency, so labels swap where curves cross. Roots are
 /// followed by continuity: linear extrapolation of each eigenvalue (Desmarais and Bennett, J.
-/// Aircraft 11(2), 1974; Chen, AIAA J. 38(9), 2000) with an assignment of least total distance.
-/// Limits: coarse steps; pairs that veer (marked ambiguous); a pair that becomes two static roots
-/// of which one is printed; rigid-body roots near 0; methods K and KE at low reduced frequency.
+/// Aircraft 11(2), 1974; Chen, AIAA J. 38(9), 2000) and an assignment of least total distance.
+/// Limits: coarse steps; veering pairs (flagged as ambiguous); a pair that becomes two static roots
+/// of which only one is printed; rigid-body roots near 0; the methods K and KE at low reduced
+/// frequency.
 class ModeTracking
 {
 public:
-    /// Tracks the roots of an evolution by their eigenvalues Re + i Im. The argument of the
-    /// extrapolation is the speed when all modes share the same rising speeds, otherwise the number
-    /// of the point. O(points n^3) for n modes.
+    /// Tracks the roots of an evolution by their eigenvalues Re + i Im. The extrapolation uses the
+    /// speed when all modes share the same rising speeds, otherwise the index of the point.
+    /// O(points n^3) for n modes.
     explicit ModeTracking(const EVM& evolution);
 
-    /// Why an evolution cannot be tracked: modes of unequal length, or points without eigenvalues;
-    /// nothing when it can. One mode alone has nothing to be tracked.
+    /// Why an evolution cannot be tracked: modes of unequal length, or points without eigenvalues.
+    /// Empty when it can be tracked, also for a single mode.
     static std::optional<std::string> obstacle(const EVM& evolution);
 
     std::size_t points() const { return m_modes.size(); }
     std::size_t tracks() const { return m_modes.empty() ? 0 : m_modes.front().size(); }
 
-    /// The index of the printed mode that a track follows at a point (index).
+    /// The index of the printed mode that a track follows at a point. Both arguments are indices.
     std::size_t modeAt(std::size_t point, std::size_t track) const { return m_modes[point][track]; }
 
     const std::vector<TrackMark>& marks() const { return m_marks; }
 
-    /// Whether the step from `point` (index) to the next is marked for a track.
+    /// Whether the step from `point` (index) to the next is doubtful for a track.
     bool isMarked(std::size_t point, std::size_t track) const;
 
-    /// Exchanges two tracks from a point (index) to the end, as the user says.
+    /// Exchanges two tracks from a point (index) to the end, at the user's request.
     void exchange(std::size_t firstTrack, std::size_t secondTrack, std::size_t fromPoint);
 
-    /// A track that follows another printed mode from a point on than before it.
+    /// A point from which a track follows another printed mode.
     struct Move
     {
-        std::size_t point = 0; ///< index of the first point after the move
+        std::size_t point = 0; ///< index of the first point with the new mode
         std::size_t track = 0;
         std::size_t fromMode = 0; ///< indices of printed modes
         std::size_t toMode = 0;
     };
 
-    /// All moves, by point and track.
+    /// All moves, sorted by point and then by track.
     std::vector<Move> moves() const;
 
 private:
@@ -79,7 +80,7 @@ private:
     std::vector<Roots> m_roots; ///< by point and printed mode
     std::vector<double> m_arguments; ///< by point
     std::vector<std::vector<std::size_t>> m_modes; ///< by point and track
-    std::vector<bool> m_hasJumped; ///< by track: its last step was a jump
+    std::vector<bool> m_hasJumped; ///< by track: whether its last step was a jump
     std::vector<TrackMark> m_marks;
     std::vector<std::vector<bool>> m_isMarked; ///< by point and track
 };

@@ -28,7 +28,7 @@ double innerSlope(std::span<const CurvePoint> points, std::size_t i)
     return (weightBefore + weightAfter) / (weightBefore / before + weightAfter / after);
 }
 
-/// The slope at an end, from the interval at the end and the one beside it.
+/// The slope at an end of the curve, from the last interval and its neighbour.
 double endSlope(double widthAtEnd, double widthBeside, double secantAtEnd, double secantBeside)
 {
     const double slope = ((2 * widthAtEnd + widthBeside) * secantAtEnd - widthAtEnd * secantBeside)
@@ -52,7 +52,7 @@ double slopeAt(std::span<const CurvePoint> points, std::size_t i)
     return innerSlope(points, i);
 }
 
-/// A cubic over t in 0..1, by its values and slopes at both ends.
+/// A cubic over t in 0..1, given by its values and slopes at both ends.
 class HermiteCubic
 {
 public:
@@ -75,8 +75,8 @@ private:
     double m_cube;
 };
 
-/// The zero of a cubic that rises, or falls, through it: Newton steps, and halvings of the interval
-/// where a step would leave it.
+/// The zero of a monotone cubic by Newton's method, with bisection where a step would leave the
+/// interval.
 double zeroBetween(const HermiteCubic& cubic, bool isRising)
 {
     constexpr int mostSteps = 60;

@@ -11,10 +11,10 @@ struct CurvePoint
     double y = 0;
 };
 
-/// The x in the interval from `points[index]` to the next point at which the monotone cubic through
-/// the points is 0; the two y must differ in sign, or one be 0. There are three or four points, in
-/// rising x. Slopes inside are harmonic means of their secants (Fritsch and Butland, SIAM J. Sci.
-/// Stat. Comput. 5, 1984), those at the ends three-point differences kept from changing the sign.
+/// Returns the zero of the monotone cubic through the points in the interval that begins at
+/// `points[index]`. The y values at its ends must differ in sign, or one be 0. Three or four
+/// points, in rising x. Inner slopes are harmonic means of the secants (Fritsch and Butland, SIAM
+/// J. Sci. Stat. Comput. 5, 1984); end slopes are three-point differences that keep the sign.
 double zeroOfMonotoneCubic(std::span<const CurvePoint> points, std::size_t index);
 
 } // namespace tarsil

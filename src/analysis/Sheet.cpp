@@ -34,7 +34,7 @@ CellStyle Sheet::rowStyle(std::size_t row) const
 const Sheet::Cell& Sheet::cell(std::size_t row, std::size_t column) const
 {
     static const Cell empty;
-    // Row or column 0 wraps round to the largest number, which no table reaches.
+    // Row or column 0 wraps to the largest index, which is always out of range.
     if (row - 1 >= m_rows.size() || column - 1 >= m_rows[row - 1].size())
         return empty;
     return m_rows[row - 1][column - 1];

@@ -8,7 +8,7 @@
 
 namespace tarsil {
 
-/// What a row of a table looks like where its file has colours.
+/// The look of a row in files that have colours.
 enum class CellStyle {
     Plain,
     Strong, ///< bold, like the first row of every table
@@ -18,14 +18,14 @@ enum class CellStyle {
     Quiet ///< grey
 };
 
-/// A table of plain cells, each empty, a text or a number; it knows nothing of files and windows.
-/// Rows and columns are counted from 1, as in a spreadsheet, and the table grows as it is filled.
+/// A table of cells; each is empty, a text or a number. Rows and columns are counted from 1, as in
+/// a spreadsheet. The table grows as cells are set.
 class Sheet
 {
 public:
     using Cell = std::variant<std::monostate, std::string, double>;
 
-    /// The title is that of its page in a workbook, which allows 31 characters and none of []:*?/\.
+    /// `title` names the page in a workbook: at most 31 characters, none of []:*?/\.
     explicit Sheet(std::string_view title = "Flutter") : m_title(title) { }
 
     const std::string& title() const { return m_title; }
@@ -34,18 +34,18 @@ public:
     void setText(std::size_t row, std::size_t column, std::string_view text);
     void setNumber(std::size_t row, std::size_t column, double number);
 
-    /// Error 9 for row 0. A row without a style is plain, but for the first, which is strong.
+    /// Error 9 for row 0. A row without a style is plain, except the first, which is strong.
     void setRowStyle(std::size_t row, CellStyle style);
 
     CellStyle rowStyle(std::size_t row) const;
 
-    /// The cell; an empty one wherever nothing was written.
+    /// The cell, empty if it was never set.
     const Cell& cell(std::size_t row, std::size_t column) const;
 
     std::size_t rowCount() const { return m_rows.size(); }
     std::size_t columnCount() const { return m_columnCount; }
 
-    /// What a delimited text file holds for the cell: the text, or the shortest text of the number.
+    /// The text of a cell in a delimited text file: the text, or the shortest text of the number.
     static std::string textOf(const Cell& cell);
 
 private:
@@ -53,7 +53,7 @@ private:
 
     std::string m_title;
     std::vector<std::vector<Cell>> m_rows;
-    std::vector<CellStyle> m_styles = {CellStyle::Strong}; ///< by row, as far as they are set
+    std::vector<CellStyle> m_styles = {CellStyle::Strong}; ///< by row; shorter than the table
     std::size_t m_columnCount = 0;
 };
 

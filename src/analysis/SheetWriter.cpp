@@ -32,8 +32,7 @@ std::string csvField(const std::string& text)
     return result + '"';
 }
 
-/// The text with an apostrophe before it where a spreadsheet would take it for a formula, and run
-/// what a file wants it to run.
+/// Puts an apostrophe before a text that a spreadsheet would run as a formula.
 std::string asText(const std::string& text)
 {
     constexpr std::string_view beginningsOfFormulas = "=+-@\t\r";

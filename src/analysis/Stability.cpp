@@ -11,7 +11,7 @@ namespace tarsil {
 
 namespace {
 
-/// One root, with the points of the evolution that it follows.
+/// A root, with the points of the evolution that it follows.
 struct Root
 {
     std::vector<StabilityPoint> points;
@@ -35,7 +35,7 @@ std::vector<Root> printedRoots(const EVM& evolution)
     return roots;
 }
 
-/// Marks each step of a printed mode that the track which held it leaves, or doubts.
+/// Sets `jumpsToNext` for each step at which the track of a printed mode leaves it or is doubtful.
 void markJumps(const ModeTracking& tracking, std::vector<Root>& roots)
 {
     for (std::size_t i = 0; i + 1 < tracking.points(); ++i) {
@@ -75,7 +75,7 @@ std::vector<Root> rootsOf(const EVM& evolution, bool isTracked)
     return roots;
 }
 
-/// Adds what the points beside a crossing say of it.
+/// Adds the flight condition and the dominant factor of a crossing.
 void describe(std::optional<Crossing>& crossing, const Root& root, float mach)
 {
     if (!crossing || !hasSpeed(*crossing))
@@ -97,7 +97,7 @@ LevelStretches describedStretches(const Root& root, float level, const StretchLi
     return found;
 }
 
-/// Adds what the real stretches of a root say.
+/// Adds the real stretches of a root to the verdict.
 void judge(const RootStretches& root, StabilityVerdict& verdict)
 {
     for (const Stretch& stretch : root.found.stretches) {

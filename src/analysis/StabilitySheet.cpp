@@ -40,11 +40,11 @@ enum Column : std::size_t {
 
 constexpr std::array<std::string_view, Remark> headings = {
     "File",          "Level (g)", "Mode",        "Finding",    "Kind",
-    "Start (KEAS)",  "Curve +-", "Start (Hz)",  "Confidence", "Altitude (ft)",
+    "Start (KEAS)",  "Curve +-",  "Start (Hz)",  "Confidence", "Altitude (ft)",
     "Altitude from", "Mach No.",  "End (KEAS)",  "End (Hz)",   "Peak (g)",
     "Peak (KEAS)",   "Peak (Hz)", "Largest MPF", "MPF value",  "Remark"};
 
-/// What the words and colours mean, a row each.
+/// The meaning of a word or colour, one row each.
 struct Explanation
 {
     std::string_view word;
@@ -115,7 +115,7 @@ void StabilityWriter::writeNote(std::string_view first, std::string_view text, C
     m_sheet.setText(m_row, Finding, text);
 }
 
-/// As a person reads it in a single, which is what the flutter table shows.
+/// Sets the decimal value of a single, as the flutter table does.
 void StabilityWriter::setSingle(Column column, double number)
 {
     m_sheet.setNumber(m_row, column, decimalValue(static_cast<float>(number)));
@@ -212,7 +212,7 @@ void StabilityWriter::write(const EvolutionStability& stability)
     writeNote(file, leftOutText(stability.noise, stability.weak), CellStyle::Quiet);
 }
 
-/// The file as it is now; why not, where it cannot be read.
+/// The facts about the file now, or the reason why it cannot be read.
 std::string factsText(std::string_view path)
 {
     try {

@@ -13,7 +13,7 @@ class Sheet;
 /// The title of the sheet in a workbook.
 inline constexpr std::string_view stabilitySheetTitle = "Stability";
 
-/// What is written of the stability of some evolutions, and by which program.
+/// The stability of evolutions and the program that computed it.
 struct StabilityReport
 {
     std::vector<EvolutionStability> evolutions;
@@ -21,17 +21,17 @@ struct StabilityReport
     std::string program; ///< name and version: "Tarsil 4.0.0"
 };
 
-/// The stretches of some evolutions as a table. For each evolution come first its verdicts, a line
-/// for each level, and its margin where one is asked for; then a line for each real stretch by
-/// rising start; and last how many noise and weak stretches are left out:
+/// Writes the stretches of evolutions as a table. Each evolution has its verdicts, one row for each
+/// level, and its margin if requested; then a row for each real stretch, sorted by start; then the
+/// number of noise and weak stretches left out:
 ///
 ///     file | level | mode | finding | kind | start (KEAS) | +- | start (Hz) | confidence
 ///     | altitude (ft) | altitude from | Mach | end (KEAS) | end (Hz) | peak | at (KEAS) | at (Hz)
 ///     | largest MPF | its value | remark
 ///
-/// A crossing between different roots has no speed, only its interval, in the remark. Below all of
-/// them are the settings, the program, each source file with its size, date and SHA-256 as it is
-/// now, and what the words and colours mean.
+/// A crossing between different roots has no speed; the remark gives its interval. At the end are
+/// the settings, the program, each source file with its present size, date and SHA-256, and the
+/// meaning of words and colours.
 void writeStability(const StabilityReport& report, Sheet& sheet);
 
 } // namespace tarsil

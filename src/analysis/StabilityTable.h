@@ -12,15 +12,15 @@ namespace tarsil {
 
 class EVM;
 
-/// An evolution to be judged, with what its file does not say.
+/// An evolution to be judged, with what its file does not contain.
 struct StabilityInput
 {
     const EVM* evolution = nullptr; ///< not owned
-    float mach = 0; ///< of an evolution that holds no Mach number; 0 when it is not known
-    std::optional<RequiredSpeed> required; ///< nothing when no margin is asked for
+    float mach = 0; ///< for an evolution without a Mach number; 0 when unknown
+    std::optional<RequiredSpeed> required; ///< empty: no margin is requested
 };
 
-/// A real stretch with the root and level that it belongs to.
+/// A real stretch with its root and level.
 struct StabilityLine
 {
     std::int16_t mode = 0;
@@ -28,26 +28,25 @@ struct StabilityLine
     Stretch stretch;
 };
 
-/// What there is to say of the stability of one evolution, for sheets, files and windows.
+/// The stability of an evolution, for sheets, files and windows.
 struct EvolutionStability
 {
     const EVM* evolution = nullptr; ///< not owned
     float lastSpeed = 0; ///< KEAS
-    std::vector<RootStretches> roots; ///< everything that was found
+    std::vector<RootStretches> roots; ///< all stretches
     std::vector<StabilityVerdict> verdicts; ///< one for each level
     std::vector<StabilityLine> lines; ///< the real stretches, by rising start
-    std::size_t noise = 0; ///< how many stretches are left out
+    std::size_t noise = 0; ///< number of stretches left out
     std::size_t weak = 0;
-    std::optional<Margin> margin; ///< to the required speed, where one is asked for
-    std::string obstacle; ///< why the roots cannot be tracked as asked; nothing else is there then
+    std::optional<Margin> margin; ///< to the required speed, if requested
+    std::string obstacle; ///< why the roots cannot be tracked; everything else is empty then
 };
 
-/// The settings beside a flutter table: the usual ones, with the reference damping of the table as
-/// a further level.
+/// The default settings for the sheet beside a flutter table, with its reference damping as a
+/// further level.
 StabilitySettings reportSettings(double referenceDamping);
 
-/// Judges an evolution. One that cannot be tracked as the settings ask has its reason as
-/// `obstacle`.
+/// Judges an evolution. If it cannot be tracked as requested, `obstacle` has the reason.
 EvolutionStability judged(const StabilityInput& input, const StabilitySettings& settings);
 
 } // namespace tarsil

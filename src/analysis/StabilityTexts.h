@@ -6,28 +6,27 @@
 
 namespace tarsil {
 
-/// The verdict in a line: "266.24 +- 0.01 KEAS, 11.15 Hz, flutter, mode 2 (A)", "unstable from the
-/// first speed: modes 2, 3" or "no instability up to 420 KEAS".
+/// The verdict as one line: "266.24 +- 0.01 KEAS, 11.15 Hz, flutter, mode 2 (A)", "unstable from
+/// the first speed: modes 2, 3" or "no instability up to 420 KEAS".
 std::string verdictText(const StabilityVerdict& verdict, float lastSpeed);
 
-/// A speed of a point in KEAS, to a hundredth: "266.5".
+/// The speed of a point in KEAS, rounded to a hundredth: "266.5".
 std::string speedText(double speed);
 
-/// How far the speed of a crossing may be off, in KEAS, by the curve through its points: "0.01".
+/// The uncertainty of a crossing's speed in KEAS, from the curve through its points: "0.01".
 std::string doubtText(const Crossing& crossing);
 
-/// "becomes unstable" (to the last speed), "hump" (and stable again), "becomes stable" or "unstable
-/// throughout".
+/// "becomes unstable" (up to the last speed), "hump", "becomes stable" or "unstable throughout".
 std::string directionText(const Stretch& stretch);
 
-/// What else there is to say: "unstable from the first speed", "up to the last speed", and the
-/// interval of a crossing between different roots.
+/// Remarks: "unstable from the first speed", "up to the last speed", and the interval of a crossing
+/// between different roots.
 std::string remarkText(const Stretch& stretch);
 
 /// "3 noise, 1 weak stretches left out".
 std::string leftOutText(std::size_t noise, std::size_t weak);
 
-/// All settings in a line.
+/// All settings as one line.
 std::string settingsText(const StabilitySettings& settings);
 
 /// "flutter", "divergence", "mixed"; "A", "B", "C"; "noise", "weak", "real".

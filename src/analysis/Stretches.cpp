@@ -11,10 +11,10 @@ namespace tarsil {
 
 namespace {
 
-constexpr double shortInterval = 0.05; ///< of the speed
-constexpr double agreement = 0.005; ///< of the speed
+constexpr double shortInterval = 0.05; ///< relative to the speed
+constexpr double agreement = 0.005; ///< relative to the speed
 
-/// Walks along the points of one root and gathers the runs above a level.
+/// Walks along the points of one root and collects the runs above a level.
 class StretchSearch
 {
 public:
@@ -43,9 +43,9 @@ private:
     float m_level;
     StretchLimits m_limits;
     LevelStretches m_result;
-    std::optional<Stretch> m_open; ///< the stretch that goes on
+    std::optional<Stretch> m_open; ///< the stretch that has not ended yet
     std::size_t m_pointsInStretch = 0;
-    std::optional<std::size_t> m_before; ///< the last point that is not on the level
+    std::optional<std::size_t> m_before; ///< index of the last point that is not on the level
 };
 
 LevelStretches StretchSearch::run()
@@ -69,7 +69,7 @@ LevelStretches StretchSearch::run()
     return std::move(m_result);
 }
 
-/// What happens between the last point that is not on the level and point i.
+/// Handles the interval between the last point that is not on the level and point i.
 void StretchSearch::cross(std::size_t i)
 {
     const bool wasAbove = above(*m_before) > 0;
@@ -117,8 +117,8 @@ Crossing StretchSearch::crossing(std::size_t before, std::size_t after) const
     return result;
 }
 
-/// The zero between the point before `after` and `after`, with a neighbour of each where there is
-/// one; the straight line's speed when the speeds do not rise or the root has two points.
+/// The zero in the interval that ends at `after`, from its points and one neighbour on each side.
+/// Returns `straight` when the speeds do not rise or the root has only two points.
 double StretchSearch::speedOnCurve(std::size_t after, double straight) const
 {
     const std::size_t first = after >= 2 ? after - 2 : 0;
@@ -152,7 +152,7 @@ void StretchSearch::begin()
     m_pointsInStretch = 0;
 }
 
-/// Adds a point above the level to the stretch that goes on.
+/// Adds a point above the level to the open stretch.
 void StretchSearch::add(std::size_t i)
 {
     const StabilityPoint& point = m_points[i];

@@ -9,60 +9,61 @@
 
 namespace tarsil {
 
-/// A point of one root as the search for stretches needs it.
+/// A point of one root, with the values that the search needs.
 struct StabilityPoint
 {
     float speed = 0; ///< KEAS
     float damping = 0; ///< g; negative is stable
     float frequency = 0; ///< Hz
-    bool jumpsToNext = false; ///< the step to the next point is no continuation of this root
+    bool jumpsToNext = false; ///< the next point does not continue this root
 };
 
-/// What kind of root crosses a level, by the two points beside the crossing.
+/// The kind of a root at a crossing, judged by the two points around it.
 enum class CrossingKind {
     Flutter, ///< both oscillate
     Divergence, ///< both are static
-    Mixed ///< one of each: between them nothing can be interpolated
+    Mixed ///< one of each; nothing can be interpolated between them
 };
 
-/// How well the points tell the speed of a crossing.
+/// How reliable the speed of a crossing is.
 enum class Confidence {
-    A, ///< a short interval, in which a curve and a straight line agree
+    A, ///< a short interval in which cubic and straight line agree
     B,
-    C ///< the root jumps in the interval, or changes its kind
+    C ///< the root jumps in the interval or changes its kind
 };
 
-/// Where a root crosses a level.
+/// A crossing of a level by a root.
 struct Crossing
 {
-    double speed = 0; ///< KEAS, on the straight line between the points beside it
-    double frequency = 0; ///< Hz, likewise
+    double speed = 0; ///< KEAS, on the straight line between the two points around it
+    double frequency = 0; ///< Hz, interpolated like the speed
     double fromSpeed = 0; ///< of the point before
     double toSpeed = 0; ///< of the point after
-    std::size_t lower = 0; ///< index of the point from which the straight line goes to the next one
-    double part = 0; ///< of the way between the two, 0 to 1
-    double speedOnCurve = 0; ///< a yardstick for the straight line, never the answer
+    std::size_t lower = 0; ///< index of the point before it; the straight line goes to the next one
+    double part = 0; ///< position on that line, 0 to 1
+    double speedOnCurve = 0; ///< for comparison with `speed`, never the answer
     CrossingKind kind = CrossingKind::Flutter;
     Confidence confidence = Confidence::B;
     bool jumps = false;
-    FlightCondition condition; ///< for those who know more of the points (`stabilityOf`)
-    std::optional<DominantFactor> dominant; ///< likewise
+    FlightCondition condition; ///< filled by `stabilityOf`
+    std::optional<DominantFactor> dominant; ///< filled by `stabilityOf`
 };
 
-/// Whether the speed of a crossing may be shown; between different roots only its interval may.
+/// Whether a crossing has a speed; between different roots it has only an interval.
 inline bool hasSpeed(const Crossing& crossing)
 {
     return crossing.kind != CrossingKind::Mixed && !crossing.jumps;
 }
 
-/// How far a stretch rises above its level.
+/// How far a stretch rises above its level; see `StretchLimits`.
 enum class StretchHeight { Noise, Weak, Real };
 
 /// A maximal run of points of one root above a level.
 struct Stretch
 {
-    std::optional<Crossing> start; ///< absent: unstable from the first speed
-    std::optional<Crossing> end; ///< absent: up to the last speed; with an end it is a hump
+    std::optional<Crossing> start; ///< absent: above the level from the first speed
+    std::optional<Crossing>
+        end; ///< absent: up to the last speed. A stretch with start and end is a hump
     double peak = 0; ///< largest damping
     double peakSpeed = 0; ///< KEAS, of the first point with it
     double peakFrequency = 0; ///< Hz
@@ -70,32 +71,32 @@ struct Stretch
     bool isStatic = false; ///< every point above the level is static
 };
 
-/// A root that comes to the level exactly and goes back to the side from which it came.
+/// A root that reaches the level exactly and returns to the side it came from.
 struct Touch
 {
-    double speed = 0; ///< KEAS, of its first point on the level
+    double speed = 0; ///< KEAS, of the first point on the level
 };
 
 struct StretchLimits
 {
-    double tolerance = 0.001; ///< damping; up to this height above the level a stretch is weak
-    double noise = 1e-6; ///< damping; up to this height it is numerical noise
-    double staticFrequency = 0.1; ///< Hz; below it a root is static
+    double tolerance = 0.001; ///< damping; stretches up to this height above the level are weak
+    double noise = 1e-6; ///< damping; stretches up to this height are numerical noise
+    double staticFrequency = 0.1; ///< Hz; a root below it is static
 };
 
 struct LevelStretches
 {
-    std::vector<Stretch> stretches; ///< by increasing speed, as the points are
+    std::vector<Stretch> stretches; ///< by rising speed
     std::vector<Touch> touches;
 };
 
-/// The stretches of one root above a level of damping. A run of points exactly on the level between
-/// opposite signs is one crossing, at its first point; between equal signs it is a touch; at the
-/// beginning it is passed over. Both sides of the comparison are singles. O(points).
+/// Finds the stretches of one root above a level of damping. A run of points exactly on the level
+/// is one crossing, at its first point, if the signs before and after differ; a touch if they are
+/// equal; ignored at the start. Damping and level are compared as singles. O(points).
 ///
-/// The speed on the curve is the zero of the monotone cubic (Fritsch and Carlson, SIAM J. Numer.
-/// Anal. 17, 1980, with the harmonic slopes of Fritsch and Butland, SIAM J. Sci. Stat. Comput. 5,
-/// 1984) through the two points and one neighbour on each side.
+/// `speedOnCurve` is the zero of the monotone cubic (Fritsch and Carlson, SIAM J. Numer. Anal. 17,
+/// 1980, with the harmonic slopes of Fritsch and Butland, SIAM J. Sci. Stat. Comput. 5, 1984)
+/// through the two points and one neighbour on each side.
 LevelStretches stretchesAbove(std::span<const StabilityPoint> points, float level,
                               const StretchLimits& limits);
 

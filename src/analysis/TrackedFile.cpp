@@ -48,11 +48,11 @@ std::string exchangeText(const EVM& evolution, std::size_t first, std::size_t se
         + formatNumber(speed, "0.00") + " KEAS";
 }
 
-/// What the tracking did at one step, as exchanges of two modes each.
+/// Describes the changes of the tracking at one step as exchanges of two modes each.
 void describeStep(const EVM& evolution, const ModeTracking& tracking, std::size_t point,
                   std::vector<std::string>& texts)
 {
-    std::vector<std::size_t> held(tracking.tracks()); ///< by track, as the exchanges go on
+    std::vector<std::size_t> held(tracking.tracks()); ///< by track, updated with each exchange
     for (std::size_t track = 0; track < held.size(); ++track)
         held[track] = tracking.modeAt(point - 1, track);
     const float speed = evolution.Modes.front()->Points[point - 1].speed;

@@ -16,12 +16,12 @@ namespace tarsil {
 
 namespace {
 
-// What a spreadsheet holds at most.
+// The limits of a spreadsheet.
 constexpr std::size_t mostRows = 1048576;
 constexpr std::size_t mostColumns = 16384;
-constexpr std::size_t longestText = 32767; ///< in UTF-16
+constexpr std::size_t longestText = 32767; ///< UTF-16 units
 
-/// Ends after the part of the workbook itself; the pages follow.
+/// Ends after the part of the workbook; the pages follow.
 constexpr const char* contentTypesBegin = R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>
 <Types xmlns="http://schemas.openxmlformats.org/package/2006/content-types">
 <Default Extension="rels" ContentType="application/vnd.openxmlformats-package.relationships+xml"/>
@@ -45,7 +45,7 @@ constexpr const char* program = R"(<?xml version="1.0" encoding="UTF-8" standalo
 <Properties xmlns="http://schemas.openxmlformats.org/officeDocument/2006/extended-properties"><Application>Tarsil</Application></Properties>
 )";
 
-/// A date of its own would make two equal reports differ.
+/// A fixed date, so that equal reports give equal files.
 constexpr const char* description = R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>
 <cp:coreProperties xmlns:cp="http://schemas.openxmlformats.org/package/2006/metadata/core-properties" xmlns:dc="http://purl.org/dc/elements/1.1/" xmlns:dcterms="http://purl.org/dc/terms/" xmlns:xsi="http://www.w3.org/2001/XMLSchema-instance">
 <dc:title>Flutter speeds</dc:title>
@@ -100,7 +100,7 @@ constexpr const char* pageBegin = R"(<?xml version="1.0" encoding="UTF-8" standa
 
 constexpr const char* firstPageOnly = R"(tabSelected="1" )";
 
-/// The first row stays in sight.
+/// The first row is frozen.
 constexpr const char* pageView = R"(workbookViewId="0">
 <pane ySplit="1" topLeftCell="A2" activePane="bottomLeft" state="frozen"/>
 <selection pane="bottomLeft"/>
@@ -150,7 +150,7 @@ std::string textElement(const std::string& text)
             xml += "&lt;";
         else if (c == '>')
             xml += "&gt;";
-        else if (c == '\r') // which readers of XML take for a line feed otherwise
+        else if (c == '\r') // XML readers would convert it to a line feed
             xml += "&#13;";
         else
             xml += c;
@@ -158,12 +158,12 @@ std::string textElement(const std::string& text)
     return xml + "</t>";
 }
 
-/// Wide enough for the content, as long as it is no novel.
+/// Wide enough for the longest cell, up to a limit.
 double widthOf(const Sheet& sheet, std::size_t column)
 {
     constexpr std::size_t narrowest = 8;
     constexpr std::size_t widest = 60;
-    constexpr std::size_t widestNumber = 12; // a spreadsheet rounds what it shows
+    constexpr std::size_t widestNumber = 12; // a spreadsheet rounds the numbers that it shows
     constexpr double margin = 2;
     std::size_t width = narrowest;
     for (std::size_t row = 1; row <= sheet.rowCount(); ++row) {
@@ -182,7 +182,7 @@ double widthOf(const Sheet& sheet, std::size_t column)
                        std::string(path) + ": " + what);
 }
 
-/// The texts of a workbook, to which the cells of all its pages refer by position.
+/// The texts of a workbook, which the cells of all pages refer to by index.
 class SharedTexts
 {
 public:
@@ -190,7 +190,7 @@ public:
 
     std::size_t positionOf(const std::string& text);
 
-    /// Of all texts that were asked for.
+    /// The string table of all texts so far.
     std::string xml() const;
 
 private:
@@ -207,7 +207,7 @@ std::size_t SharedTexts::positionOf(const std::string& text)
     if (isNew) {
         const std::string utf8 = decodeText(text);
         if (utf16FromUtf8(utf8).size() > longestText)
-            fail(m_path, "a text longer than 32767 characters, which no cell holds");
+            fail(m_path, "a text longer than 32767 characters, the limit of a cell");
         m_texts.push_back(xlsxText(utf8));
     }
     return known->second;
@@ -281,7 +281,7 @@ std::string PageWriter::cell(std::size_t row, std::size_t column)
     const std::string begin =
         "<c r=\"" + referenceOf(row, column) + "\"" + styleAttribute(m_sheet.rowStyle(row));
     if (const auto* number = std::get_if<double>(&cell)) {
-        if (!std::isfinite(*number)) // the spreadsheet's own value for it
+        if (!std::isfinite(*number)) // what a spreadsheet shows for such a value
             return begin + " t=\"e\"><v>#NUM!</v></c>";
         return begin + "><v>" + textOf(*number) + "</v></c>";
     }
@@ -291,7 +291,7 @@ std::string PageWriter::cell(std::size_t row, std::size_t column)
     return begin + " t=\"s\"><v>" + textOf(m_texts.positionOf(*text)) + "</v></c>";
 }
 
-/// Writes the parts that name each page, as page after page is added.
+/// Collects the parts that name the pages.
 class WorkbookWriter
 {
 public:
@@ -357,7 +357,7 @@ std::vector<ArchivePart> xlsxParts(std::span<const Sheet* const> sheets, std::st
     std::vector<ArchivePart> pages;
     for (const Sheet* sheet : sheets) {
         if (sheet->rowCount() > mostRows || sheet->columnCount() > mostColumns)
-            fail(path, "more rows or columns than a spreadsheet holds");
+            fail(path, "more rows or columns than a spreadsheet can have");
         workbook.addPage(*sheet);
         pages.push_back({"xl/worksheets/sheet" + textOf(workbook.pageCount()) + ".xml",
                          PageWriter(*sheet, texts).page(pages.empty())});

@@ -6,7 +6,7 @@
 
 namespace tarsil {
 
-/// The target is opened first: what is wrong with it is found before any work.
+/// Opens the target first, so that an error with it is found before any work.
 void writeXlsx(std::span<const Sheet* const> sheets, std::string_view path)
 {
     AtomicFile file(path);

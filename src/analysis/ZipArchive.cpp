@@ -14,7 +14,7 @@ namespace tarsil {
 namespace {
 
 constexpr std::uint16_t midnight = 0;
-constexpr std::uint16_t firstDay = 1 << 5 | 1; ///< of January 1980, where the format's dates begin
+constexpr std::uint16_t firstDay = 1 << 5 | 1; ///< 1 January 1980, the first date of the format
 
 struct SourceFree
 {
@@ -27,7 +27,7 @@ struct Discard
 using Source = std::unique_ptr<zip_source_t, SourceFree>;
 using Archive = std::unique_ptr<zip_t, Discard>;
 
-/// One archive in memory while it is written.
+/// Builds one archive in memory.
 class ZipWriter
 {
 public:
@@ -57,7 +57,7 @@ ZipWriter::ZipWriter(std::string_view source) : m_name(source)
     m_archive.reset(zip_open_from_source(m_memory.get(), ZIP_TRUNCATE, &error));
     if (!m_archive)
         fail(error);
-    zip_source_keep(m_memory.get()); // both own it: the archive frees it when it is closed
+    zip_source_keep(m_memory.get()); // shared: closing the archive releases its reference
 }
 
 void ZipWriter::add(const ArchivePart& part)
@@ -69,7 +69,7 @@ void ZipWriter::add(const ArchivePart& part)
         zip_file_add(m_archive.get(), part.name.c_str(), content.get(), ZIP_FL_ENC_UTF_8);
     if (index < 0)
         failArchive();
-    static_cast<void>(content.release()); // the archive has it now
+    static_cast<void>(content.release()); // the archive owns it now
     const auto entry = static_cast<zip_uint64_t>(index);
     if (zip_file_set_dostime(m_archive.get(), entry, midnight, firstDay, 0) != 0)
         failArchive();
@@ -79,7 +79,7 @@ std::string ZipWriter::finish()
 {
     if (zip_close(m_archive.get()) != 0)
         failArchive();
-    static_cast<void>(m_archive.release()); // closing has freed it
+    static_cast<void>(m_archive.release()); // zip_close has freed it
     zip_source_t* const memory = m_memory.get();
     zip_stat_t status {};
     if (zip_source_open(memory) != 0 || zip_source_stat(memory, &status) != 0)

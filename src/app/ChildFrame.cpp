@@ -8,7 +8,7 @@ namespace tarsil {
 
 namespace {
 
-/// The part of a length that lies between two of its `count` equal parts, so that no pixel is lost.
+/// The start of part `index` of `count` equal parts of a length. Rounding loses no pixel.
 int cut(int length, std::size_t index, std::size_t count)
 {
     return static_cast<int>(static_cast<std::size_t>(length) * index / count);

@@ -8,17 +8,17 @@ class QMdiArea;
 
 namespace tarsil {
 
-/// The frame of a child window in the main window. Closing it hides it, with what it holds, until
-/// the View menu shows it again. It takes any size, so that layouts are exact.
+/// The frame of a child window in the main window. Closing it only hides it, until the View menu
+/// shows it again. Any size is allowed, so that layouts are exact.
 class ChildFrame : public QMdiSubWindow
 {
     Q_OBJECT
 
 public:
-    /// Takes the content over.
+    /// Takes ownership of the content.
     explicit ChildFrame(QWidget* content);
 
-    /// Shows the window, in front of the others and with the focus.
+    /// Shows the window in front of the others, with the focus.
     void bringBack();
 
 protected:
@@ -36,14 +36,14 @@ struct ChildFrames
     ChildFrame* plot;
 };
 
-/// The explorer in the upper quarter of the left half, the data window below it, the plot window in
-/// the right half. All are shown.
+/// Arranges and shows all: the explorer in the upper quarter of the left half, the data window
+/// below it, the plot window in the right half.
 void arrangeByDefault(const ChildFrames& frames, QSize inner);
 
-/// Shown windows as strips over the whole width, one below the other.
+/// Tiles the visible windows as rows of full width.
 void tileHorizontally(const std::vector<ChildFrame*>& frames, QSize inner);
 
-/// Shown windows as columns over the whole height, side by side.
+/// Tiles the visible windows as columns of full height.
 void tileVertically(const std::vector<ChildFrame*>& frames, QSize inner);
 
 } // namespace tarsil

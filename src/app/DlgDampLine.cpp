@@ -15,15 +15,15 @@ namespace {
 
 constexpr std::string_view moduleName = "dlgDampLine";
 
-/// A fraction in per cent with two decimals. It is rounded before it is multiplied, where its
-/// decimal digits still are those that were typed; afterwards there is nothing left to round.
+/// A fraction in per cent with two decimals. It is rounded before the multiplication, while its
+/// decimal digits are still those that were typed.
 std::string percentText(double fraction)
 {
     const double rounded = toDouble(formatNumber(fraction, "0.0000"), moduleName, {});
     return formatNumber(rounded * 100, "0.00");
 }
 
-/// Whether a text is no number yet, but one digit more can make it one: "-", ".", "1e-".
+/// Whether a text is not a number, but becomes one with another digit: "-", ".", "1e-".
 bool isBegunNumber(const QString& text)
 {
     double value = 0;
@@ -32,8 +32,8 @@ bool isBegunNumber(const QString& text)
         && parseDouble(typed + '0', value) == NumberStatus::Ok;
 }
 
-/// Whether the focus goes to another control of the same window.
-bool leavesControl(const QEvent& event)
+/// Whether the focus moves to another widget of the same window.
+bool leavesWidget(const QEvent& event)
 {
     if (event.type() != QEvent::FocusOut)
         return false;
@@ -45,7 +45,7 @@ bool leavesControl(const QEvent& event)
 } // namespace
 
 dlgDampLine::dlgDampLine(Document& document, UserInterface& userInterface, QWidget* parent)
-    : MarkDialog(document, userInterface, parent), m_ui(std::make_unique<Ui::dlgDampLine>())
+    : ReferenceDialog(document, userInterface, parent), m_ui(std::make_unique<Ui::dlgDampLine>())
 {
     m_ui->setupUi(this);
     dlgDampLine::fillDefaults();
@@ -75,18 +75,18 @@ void dlgDampLine::sdampInp_Change(const QString& text)
     });
 }
 
-/// The message waits until the focus is where it goes: a box in between would take the press of a
-/// button away from it.
+/// The message is shown only after the focus has moved: a box in between would swallow the press of
+/// a button.
 bool dlgDampLine::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == m_ui->sdampInp && leavesControl(*event)) {
+    if (watched == m_ui->sdampInp && leavesWidget(*event)) {
         m_isLeft = true;
         QMetaObject::invokeMethod(this, &dlgDampLine::sdampInp_LostFocus, Qt::QueuedConnection);
     }
-    return MarkDialog::eventFilter(watched, event);
+    return ReferenceDialog::eventFilter(watched, event);
 }
 
-/// "Add" asks by itself.
+/// "Add" shows its own message.
 void dlgDampLine::sdampInp_LostFocus()
 {
     if (!m_isLeft || m_ui->sdampBtn->isDown() || !isBegunNumber(m_ui->sdampInp->text()))
@@ -99,7 +99,7 @@ void dlgDampLine::sdampInp_LostFocus()
 void dlgDampLine::sdampBtn_Click()
 {
     m_isLeft = false;
-    addMark(*m_ui->sdampInp, tr("Add Damping Line"), moduleName, [this](EvmPlot& plot, float g) {
+    addNumber(*m_ui->sdampInp, tr("Add Damping Line"), moduleName, [this](EvmPlot& plot, float g) {
         plot.marks().AddDampLine(g, m_ui->captionInp->text());
     });
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/MarkDialog.h"
+#include "app/ReferenceDialog.h"
 
 #include <memory>
 
@@ -10,11 +10,10 @@ namespace Ui {
 class dlgDampLine;
 }
 
-/// The dialog "Add Damping Line": draws a line at a structural damping g, given as a fraction
-/// (0.01 is 1 %), across the V-g curves of the active plot. The user is asked for a number at each
-/// change to a text that is none; the beginning of one, such as "-", may stand there while he is
-/// typing it.
-class dlgDampLine : public MarkDialog
+/// The dialog "Add Damping Line": draws a line at a structural damping g, given as a fraction (0.01
+/// is 1 %), across the V-g curves of the active plot. A change to a text that is not a number shows
+/// a message at once; the start of a number, such as "-", is accepted while the user is typing.
+class dlgDampLine : public ReferenceDialog
 {
     Q_OBJECT
 
@@ -33,7 +32,7 @@ private:
     void sdampBtn_Click();
 
     std::unique_ptr<Ui::dlgDampLine> m_ui;
-    bool m_isLeft = false; ///< the input of the value, and what stands in it was not looked at yet
+    bool m_isLeft = false; ///< the focus has left the input, and its text was not checked yet
 };
 
 } // namespace tarsil

@@ -7,7 +7,7 @@
 namespace tarsil {
 
 dlgRefSpeed::dlgRefSpeed(Document& document, UserInterface& userInterface, QWidget* parent)
-    : MarkDialog(document, userInterface, parent), m_ui(std::make_unique<Ui::dlgRefSpeed>())
+    : ReferenceDialog(document, userInterface, parent), m_ui(std::make_unique<Ui::dlgRefSpeed>())
 {
     m_ui->setupUi(this);
     dlgRefSpeed::fillDefaults();
@@ -24,7 +24,7 @@ void dlgRefSpeed::fillDefaults()
 
 void dlgRefSpeed::AddRefBtn_Click()
 {
-    addMark(
+    addNumber(
         *m_ui->posInp, tr("Add Reference Speed"), "dlgRefSpeed",
         [this](EvmPlot& plot, float speed) { plot.marks().AddRef(speed, m_ui->capInp->text()); });
 }

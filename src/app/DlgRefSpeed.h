@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/MarkDialog.h"
+#include "app/ReferenceDialog.h"
 
 #include <memory>
 
@@ -10,9 +10,9 @@ namespace Ui {
 class dlgRefSpeed;
 }
 
-/// The dialog "Add Reference Speed": marks a speed in knots (KEAS) on the speed axis of the active
+/// The dialog "Add Reference Speed": adds a mark at a speed (KEAS) to the speed axis of the active
 /// plot.
-class dlgRefSpeed : public MarkDialog
+class dlgRefSpeed : public ReferenceDialog
 {
     Q_OBJECT
 

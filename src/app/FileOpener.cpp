@@ -9,7 +9,7 @@ namespace tarsil {
 
 namespace {
 
-/// Whether the desktop knows a program for spreadsheets. Where that cannot be asked, it may.
+/// Whether the desktop has a program for spreadsheets; true when that is unknown.
 bool mayHaveProgram()
 {
     constexpr int patience = 3000; // milliseconds

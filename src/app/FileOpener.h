@@ -4,7 +4,7 @@ class QString;
 
 namespace tarsil {
 
-/// Opens a spreadsheet in the program that the system has for it; false when there is none.
+/// Opens a spreadsheet in the system's program for it. False when there is none.
 bool openSpreadsheet(const QString& path);
 
 } // namespace tarsil

@@ -28,7 +28,7 @@ constexpr std::string_view module = "wndMain";
 constexpr std::string_view questionTitle = "Tarsil";
 constexpr std::string_view busy = "Calculate Flutter Speeds. Please Wait ...";
 
-/// A name in the folder that no file has yet.
+/// The path of a file in the folder that does not exist yet.
 QString freeName(const QString& folder)
 {
     const QString stem = QStringLiteral("Flutter report ")
@@ -49,7 +49,7 @@ std::vector<ReportRow> rowsOf(const EvmPlot& plot)
     return rows;
 }
 
-/// The evolutions of the curves, each once, in the order of the curves.
+/// The evolutions of the curves, each once, in order of the curves.
 std::vector<const EVM*> evolutionsOf(const EvmPlot& plot)
 {
     std::vector<const EVM*> evolutions;
@@ -67,7 +67,7 @@ void FlutterReportCommand::run(const EvmPlot& plot, const AirplaneInfo& airplane
                                const QString& folder)
 {
     guarded(m_userInterface, module, [&] {
-        tellOfLeftOutRows({&plot}, "the flutter report", m_userInterface);
+        showLeftOutRows({&plot}, "the flutter report", m_userInterface);
         const auto dampingText = ask(FlutterReport::dampingPrompt);
         if (!dampingText || dampingText->empty())
             return;
@@ -110,7 +110,7 @@ Sheet FlutterReportCommand::stabilityTable(const EvmPlot& plot, const AirplaneIn
     return sheet;
 }
 
-/// The Mach number that the user last gave for an evolution; 0 when there is none.
+/// The last answer of the user for an evolution; 0 when there is none.
 float FlutterReportCommand::answeredMach(const EVM& evolution) const
 {
     const auto answer = m_machAnswers.find(evolution.path());
@@ -142,8 +142,8 @@ std::optional<std::string> FlutterReportCommand::ask(std::string_view prompt)
     return m_userInterface.askText(std::string(prompt), std::string(questionTitle), {});
 }
 
-/// The prompt does not say whose number it is, so the title does. Offers the number last given for
-/// the same evolution.
+/// The title names evolution and mode, because the prompt does not. Offers the last answer for the
+/// same evolution.
 std::optional<std::string> FlutterReportCommand::askMach(const AeMode& mode,
                                                          std::string_view prompt)
 {

@@ -18,24 +18,24 @@ class EVM;
 class EvmPlot;
 
 /// The command "Calculate Flutter Speeds": asks for the reference damping and the speed limit,
-/// writes the flutter table of the active plot's series as a workbook of its own into the user's
-/// documents, and opens it in the system's spreadsheet program. A second sheet says of each
-/// evolution where its modes are unstable and how sure that is, with the margin to the dive speed
-/// where the airplane has envelopes.
+/// writes the flutter table of the active plot's series to a new workbook in the user's documents,
+/// and opens it in the system's spreadsheet program. A second sheet shows for each evolution where
+/// its modes are unstable, how reliable that is, and the margin to the dive speed if the airplane
+/// has envelopes.
 class FlutterReportCommand
 {
 public:
-    /// Opens a file in the program that the system has for it; false when there is none.
+    /// Opens a file in the system's program for it. False when there is none.
     using FileOpener = std::function<bool(const QString&)>;
 
     FlutterReportCommand(UserInterface& userInterface, FileOpener opener)
         : m_userInterface(userInterface), m_opener(std::move(opener))
     { }
 
-    /// Tells first which rows of the plot have no curve and so none in the table. An empty answer
-    /// to one of the two questions ends the command without a workbook. After an error, which is
-    /// reported in module "wndMain", the cells written so far are in the workbook all the same, and
-    /// the second sheet is whole. `folder` is where it goes.
+    /// Writes the workbook to `folder`. First shows which rows of the plot have no curve and are
+    /// left out. No answer to one of the two questions ends the command without a workbook. After
+    /// an error, reported in module "wndMain", the workbook contains the cells written so far and
+    /// the whole second sheet.
     void run(const EvmPlot& plot, const AirplaneInfo& airplane, const QString& folder);
 
 private:
@@ -49,7 +49,7 @@ private:
 
     UserInterface& m_userInterface;
     FileOpener m_opener;
-    std::map<std::string, std::string> m_machAnswers; ///< by the path of the evolution
+    std::map<std::string, std::string> m_machAnswers; ///< by path of the evolution
 };
 
 } // namespace tarsil

@@ -11,12 +11,12 @@
 
 namespace tarsil {
 
-/// The last guard: what an event's handler lets through becomes the one report, and the program
-/// goes on, with all that the user has not saved yet. All message boxes are plain text.
+/// Catches exceptions that an event handler did not: they are reported, and the program continues
+/// with the user's unsaved work. All message boxes show plain text.
 class GuardedApplication : public QApplication
 {
 public:
-    /// `userInterface` must outlive the application's last event.
+    /// `userInterface` must outlive the last event.
     GuardedApplication(int& argc, char** argv, UserInterface& userInterface)
         : QApplication(argc, argv), m_userInterface(userInterface)
     {
@@ -29,7 +29,7 @@ public:
         try {
             guarded(m_userInterface, "tarsil",
                     [&] { result = QApplication::notify(receiver, event); });
-        } catch (const std::bad_alloc&) { // there was not even enough for the report
+        } catch (const std::bad_alloc&) { // not enough memory even for the report
             std::fputs("tarsil: out of memory\n", stderr);
         }
         return result;

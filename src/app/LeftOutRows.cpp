@@ -24,8 +24,8 @@ std::vector<std::string> linesOf(const EvmPlot& plot, bool withCaption)
 
 } // namespace
 
-void tellOfLeftOutRows(const std::vector<const EvmPlot*>& plots, const std::string& from,
-                       UserInterface& user)
+void showLeftOutRows(const std::vector<const EvmPlot*>& plots, const std::string& from,
+                     UserInterface& user)
 {
     std::vector<std::string> lines;
     for (const EvmPlot* const plot : plots) {

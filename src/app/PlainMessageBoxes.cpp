@@ -7,7 +7,7 @@ namespace tarsil {
 
 bool PlainMessageBoxes::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::Polish) { // before it is seen
+    if (event->type() == QEvent::Polish) { // before it is shown
         if (auto* const box = qobject_cast<QMessageBox*>(watched))
             box->setTextFormat(Qt::PlainText);
     }

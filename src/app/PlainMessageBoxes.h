@@ -4,9 +4,9 @@
 
 namespace tarsil {
 
-/// An event filter of the application: every message box shows its text as it stands. So do those
-/// that the toolkit opens by itself, such as the question of a file dialog whether to replace a
-/// file, whose name may look like mark-up.
+/// An event filter of the application that makes every message box plain text, also those that Qt
+/// opens itself, such as the question of a file dialog whether to replace a file: a file name may
+/// look like mark-up.
 class PlainMessageBoxes : public QObject
 {
     Q_OBJECT

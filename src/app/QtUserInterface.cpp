@@ -22,7 +22,7 @@ QString textOf(std::string_view text)
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-/// A dialog over the filters, the wanted one chosen.
+/// Sets the filters of a dialog and selects the requested one.
 void prepare(QFileDialog& dialog, const FileQuestion& question)
 {
     const QStringList filters = nameFilters(question.filter);
@@ -35,9 +35,8 @@ void prepare(QFileDialog& dialog, const FileQuestion& question)
         dialog.selectFile(QString::fromStdString(question.fileName));
 }
 
-/// Runs a dialog. Not every window manager gives the keyboard back to the window that the dialog
-/// belongs to, and the main window, if it got it, would hand the keys that are meant for a number
-/// to its grid.
+/// Runs a dialog and then restores the focus. Not every window manager activates the parent of the
+/// dialog again; the main window would then receive keys that were meant for a number field.
 int execOver(QWidget* asker, QDialog& dialog)
 {
     const QPointer<QWidget> window(asker);

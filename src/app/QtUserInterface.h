@@ -11,14 +11,14 @@ namespace tarsil {
 
 class StatusPanels;
 
-/// The user's answers by the platform's own dialogs, and a status bar. A dialog belongs to the
-/// window that asks: the one that the user is working in. Afterwards he is there again, with the
-/// keyboard where it was.
+/// Implements the user interface by the platform's dialogs and a status bar. The parent of a dialog
+/// is the window that the user works in; afterwards that window is active again, with the focus
+/// where it was.
 class QtUserInterface : public UserInterface
 {
 public:
-    /// Dialogs belong to `window` while no window of the program is active, and texts go to
-    /// `panels` from now on; neither may end before this object is used for the last time.
+    /// Dialogs belong to `window` while no window of the program is active; status texts go to
+    /// `panels`. Both must exist whenever this object is used.
     void attach(QWidget* window, StatusPanels* panels);
 
     void showMessage(const std::string& text, const std::string& title, MessageIcon icon) override;
@@ -41,8 +41,8 @@ private:
     StatusPanels* m_panels = nullptr;
 };
 
-/// The entries of a filter ("text|pattern|...") as the toolkit's dialogs take them. The pattern in
-/// the text, which need not be the one that holds, stays in sight.
+/// Converts a filter ("text|pattern|...") for Qt's dialogs. The pattern inside the text, which may
+/// differ from the actual one, stays visible.
 QStringList nameFilters(const std::string& filter);
 
 } // namespace tarsil

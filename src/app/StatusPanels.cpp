@@ -11,7 +11,7 @@ namespace tarsil {
 
 namespace {
 
-/// A line that takes the room there is, and never more: a path is shown with its beginning and end.
+/// A label that never needs more than the available width; a path keeps its beginning and end.
 class ShortenedLabel : public QLabel
 {
 public:
@@ -54,11 +54,11 @@ QLabel* makeNote(const QString& name, const QString& description, QWidget* paren
 void showNote(QLabel* note, const QString& text)
 {
     note->setText(text);
-    note->setToolTip(text.toHtmlEscaped()); // as it stands
-    note->setVisible(!text.isEmpty()); // an empty one is nothing to read aloud
+    note->setToolTip(text.toHtmlEscaped()); // as plain text
+    note->setVisible(!text.isEmpty()); // screen readers skip a hidden one
 }
 
-/// On or off: the caption is black or grey, and a screen reader hears it as checked or not.
+/// Shows whether a panel is on: black or grey for the eye, checked or not for screen readers.
 void showState(QToolButton* panel, bool on)
 {
     panel->setChecked(on);
@@ -81,7 +81,7 @@ StatusPanels::StatusPanels(QWidget* parent)
 {
     setObjectName(QStringLiteral("stBar"));
     m_text->setObjectName(QStringLiteral("stBar_Status"));
-    m_text->setTextFormat(Qt::PlainText); // file names are no mark-up
+    m_text->setTextFormat(Qt::PlainText); // file names are not mark-up
     m_text->setAccessibleDescription(tr("Status"));
     m_progress->setAccessibleName(tr("Progress"));
     m_progress->setMaximumWidth(200);
@@ -93,7 +93,7 @@ StatusPanels::StatusPanels(QWidget* parent)
     addPermanentWidget(m_autoPlot);
     addPermanentWidget(m_editMode);
     m_text->installEventFilter(this);
-    // Clicking a panel toggles nothing by itself: whoever hears of the click decides.
+    // A click must not toggle a panel by itself; the receiver of the signal decides.
     connect(m_autoPlot, &QToolButton::clicked, this, [this](bool on) {
         m_autoPlot->setChecked(!on);
         Q_EMIT panelClicked(2);

@@ -8,11 +8,11 @@ class QToolButton;
 
 namespace tarsil {
 
-/// The status bar `stBar` with its three panels: the status text, "AutoPlot", and "Edit Mode". The
-/// last two are shown enabled when they are on. A click on "Edit Mode" is announced; on the others
-/// it does nothing. Beside the status text there is room for two notes, which are shortened in the
-/// middle where they are too long, and whole in their tool tips: what the last command left to say,
-/// and what the user has to know about the plot that is shown.
+/// The status bar `stBar` with three panels: the status text, "AutoPlot" and "Edit Mode". The last
+/// two look enabled when they are on. A click on "Edit Mode" is signalled; clicks on the others do
+/// nothing. Beside the status text are two notes: the result of the last command, and what the user
+/// must know about the visible plot. A long note is shortened in the middle and complete in its
+/// tool tip.
 class StatusPanels : public QStatusBar
 {
     Q_OBJECT
@@ -23,7 +23,7 @@ public:
     void setText(const QString& text);
     QString text() const;
 
-    // An empty text ends a note.
+    // An empty text hides a note.
 
     void setNote(const QString& text);
     void setPlotNote(const QString& text);
@@ -31,11 +31,11 @@ public:
     void setAutoPlot(bool on);
     void setEditMode(bool on);
 
-    /// A bar that fills while `done` goes up to `total`, and is gone then.
+    /// Shows a progress bar; hides it when `done` equals `total`.
     void setProgress(std::size_t done, std::size_t total);
 
 Q_SIGNALS:
-    /// A panel was clicked; they are counted from 1.
+    /// A panel was clicked; panels are counted from 1.
     void panelClicked(int panel);
 
 protected:

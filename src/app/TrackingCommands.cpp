@@ -97,7 +97,7 @@ void TrackingCommands::showNewState(EVM& evolution)
 {
     const LoadedEvolutions state = mdlMain::loadEvolutions({}, {evolution.path()}, m_user);
     if (state.added.empty())
-        return; // the user has been told why
+        return; // the reason was shown already
     m_document.evolutions().takePoints(evolution, *state.added.front());
     for (EvmPlot* const plot : m_document.plots().all()) {
         if (hasRowsOf(*plot, evolution))

@@ -11,9 +11,9 @@ class Document;
 class EVM;
 class UserInterface;
 
-/// Tracked evolutions: files of their own, whose modes follow the roots, beside their sources. The
-/// sources stay as they are. Every exchange of two modes is a modification in the header of the
-/// tracked file.
+/// Commands for tracked evolutions, whose modes follow the roots. They are separate files beside
+/// their sources, which stay unchanged. Every exchange of two modes is a modification in the header
+/// of the tracked file.
 class TrackingCommands
 {
 public:
@@ -21,25 +21,24 @@ public:
     TrackingCommands(Document& document, UserInterface& user) : m_document(document), m_user(user)
     { }
 
-    /// Tracks an evolution of the document into NAME_tracked.ev2 beside its file, and opens that
-    /// one, or shows its new state where it is open. The user is asked before a file is replaced.
-    /// Errors: 5 for an evolution without sections (.ev2) or that cannot be tracked; those of
-    /// reading and writing files.
+    /// Tracks an evolution of the document, writes NAME_tracked.ev2 beside its file, and opens it,
+    /// or updates it if it is open. Asks before it replaces a file. Errors: 5 for an evolution
+    /// without sections (.ev2) or one that cannot be tracked; those of reading and writing files.
     void track(const EVM& evolution);
 
     /// Exchanges two modes of a tracked evolution of the document in its file and in all plots.
     /// Errors: 5 for an evolution that is not tracked; those of `exchangedText` and of files.
     void exchange(const EVM& evolution, const ModeExchange& exchange);
 
-    /// Whether there is an exchange to be taken back.
+    /// Whether there is an exchange to undo.
     bool canUndo() const { return !m_undoSteps.empty(); }
 
-    /// Takes the last exchange back: the file is what it was before. Error 5 when the file is no
-    /// longer what the exchange made of it, or its evolution is not open any more.
+    /// Undoes the last exchange: the file gets its former contents. Error 5 when the file has
+    /// changed since the exchange, or its evolution is not open any more.
     void undoExchange();
 
 private:
-    /// The file of an exchange before and afterwards.
+    /// The contents of a file before and after an exchange.
     struct UndoStep
     {
         std::string path;
@@ -55,7 +54,7 @@ private:
     std::vector<UndoStep> m_undoSteps;
 };
 
-/// Whether the name of an evolution is that of a tracked one ("wing_tracked.ev2").
+/// Whether an evolution is tracked, by its name ("wing_tracked.ev2").
 bool isTracked(const EVM& evolution);
 
 } // namespace tarsil

@@ -40,7 +40,7 @@ namespace {
 
 constexpr std::string_view workspaceExtension = ".tsw";
 
-/// The first argument that mentions an extension; the end when none does.
+/// The first argument that contains an extension; the end when there is none.
 auto mentionOf(const std::vector<std::string>& arguments, std::string_view extension)
 {
     return std::find_if(arguments.begin(), arguments.end(), [extension](const auto& argument) {
@@ -103,8 +103,8 @@ wndMain::wndMain(UserInterface& userInterface, FlutterReportCommand::FileOpener 
     followHistory();
 }
 
-/// The child windows go before the document that they show, and nobody hears of steps that end with
-/// it.
+/// Deletes the child windows before the document that they show. Steps that end with the document
+/// are no longer followed.
 wndMain::~wndMain()
 {
     m_document.history().steps().disconnect(this);
@@ -144,7 +144,7 @@ void wndMain::makeChildWindows()
     connectExplorer();
 }
 
-/// The buttons of the explorer are the commands of the File menu.
+/// Connects the explorer's buttons to the commands of the File menu.
 void wndMain::connectExplorer()
 {
     const auto runs = [this](const char* name, Handler handler) {
@@ -162,8 +162,8 @@ void wndMain::connectExplorer()
             [this](QPoint position) { m_explorerMenu->popup(position); });
 }
 
-/// The status bar says where reference speeds do not stand at their speeds. A plot announces a
-/// change before it is made, so the text follows when the change is over.
+/// Keeps the note about misplaced reference speeds up to date. A plot signals a change before it is
+/// complete, so the note is updated when control returns to the event loop.
 void wndMain::followMarks(const EvmPlot* before, const EvmPlot* now)
 {
     const auto showNote = [this] {
@@ -181,7 +181,7 @@ void wndMain::MDIForm_Load(const std::vector<std::string>& arguments)
 {
     guarded(m_userInterface, "wndMain", [&] {
         options().GetOptReg();
-        m_document.markSaved(); // the axes of the options are no change of the user's
+        m_document.markSaved(); // the axes of the options are not a change by the user
         for (ChildFrame* frame : {m_frames.data, m_frames.explorer, m_frames.plot})
             frame->bringBack();
         wndDefLayout();
@@ -198,7 +198,7 @@ void wndMain::MDIForm_Load(const std::vector<std::string>& arguments)
     });
 }
 
-/// A command is about what the user sees, and that includes what is being typed.
+/// Applies what is being typed, because a command acts on what the user sees.
 void wndMain::commitEdits()
 {
     m_data->commitEdits();
@@ -252,7 +252,7 @@ EvmPlot& wndMain::activePlot() const
     return *m_document.plots().active();
 }
 
-/// Who starts the program with files wants to see them.
+/// Draws the evolutions of the command line at once.
 void wndMain::draw(const std::vector<EVM*>& evolutions)
 {
     std::vector<EvolutionCurves> curves;
@@ -264,7 +264,7 @@ void wndMain::draw(const std::vector<EVM*>& evolutions)
         m_userInterface.showMessage(
             std::to_string(evolutions.size()) + " modal evolutions are loaded. "
                 + (drawn == 0 ? "None of them is" : "The first " + std::to_string(drawn) + " are")
-                + " drawn: a plot takes no more curves at once.",
+                + " drawn: a plot is limited to " + std::to_string(mostCurves) + " curves.",
             "Tarsil", MessageIcon::None);
 }
 
@@ -304,8 +304,7 @@ void wndMain::ImportMenu_Click()
     importResults(mdlMain::OpenFileDialog(m_userInterface, dlgImport::fileFilter, 1, true));
 }
 
-/// Files that come while the dialog is open are added to it. It goes when it is closed, with all
-/// that was read.
+/// Adds the files to the dialog if it is open. Closing it deletes it with everything it has read.
 void wndMain::importResults(const std::vector<std::string>& paths)
 {
     if (paths.empty())
@@ -323,7 +322,8 @@ void wndMain::importResults(const std::vector<std::string>& paths)
     m_import->open();
 }
 
-/// Files from another program: a workspace in place of what is there, or what adds to it.
+/// Opens the files passed by another program: a workspace replaces the document, other files are
+/// added to it.
 void wndMain::open(const std::vector<std::string>& paths)
 {
     const auto workspace = mentionOf(paths, workspaceExtension);
@@ -344,8 +344,7 @@ void wndMain::dragEnterEvent(QDragEnterEvent* event)
         event->acceptProposedAction();
 }
 
-/// The program that the files come from waits for the end of a drop, so that the dialogs come after
-/// it.
+/// The source program waits until the drop event ends, so dialogs are opened afterwards.
 void wndMain::dropEvent(QDropEvent* event)
 {
     event->acceptProposedAction();
@@ -364,7 +363,7 @@ void wndMain::ExportMenu_Click()
     std::vector<const AeMode*> modes;
     for (const Series& series : activePlot().SeriesCollection())
         modes.push_back(series.Mode);
-    tellOfLeftOutRows({&activePlot()}, "the mixed modal evolution", m_userInterface);
+    showLeftOutRows({&activePlot()}, "the mixed modal evolution", m_userInterface);
     mdlMix::exportMixed(modes, m_userInterface);
 }
 
@@ -471,7 +470,7 @@ void wndMain::connectStability()
             [this] { runTracking([this] { m_tracking.undoExchange(); }); });
 }
 
-/// What changes a tracked evolution.
+/// Runs a command that changes a tracked evolution.
 void wndMain::runTracking(const std::function<void()>& action)
 {
     m_userInterface.beginCommand();
@@ -519,7 +518,7 @@ void wndMain::TileHorizMenu_Click()
     tileHorizontally(frames(), innerSize());
 }
 
-/// Only "Edit Mode", the third panel, acts.
+/// Only "Edit Mode", the third panel, reacts.
 void wndMain::stBar_PanelClick(int panel)
 {
     constexpr int editMode = 3;
@@ -533,7 +532,7 @@ void wndMain::stBar_PanelClick(int panel)
     });
 }
 
-/// Options that cannot be written are reported, and keep nobody in the program.
+/// Options that cannot be written are reported but do not prevent closing.
 void wndMain::closeEvent(QCloseEvent* event)
 {
     commitEdits();

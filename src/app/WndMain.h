@@ -35,27 +35,26 @@ class wndEvolExplorer;
 class wndEvolPlot;
 class wndStability;
 
-/// The main window: menus, pop-up menus, status bar, and the three child windows. It owns the
-/// document, and has one implementation of each command, which menu items and their pop-up twins
-/// share.
+/// The main window: menus, pop-up menus, status bar, and three child windows. Owns the document.
+/// Each command has one implementation, shared by its menu item and the item's twin in a pop-up.
 class wndMain : public QMainWindow
 {
     Q_OBJECT
 
 public:
-    /// `userInterface` must outlive the window. `store` is where the options are kept.
+    /// `userInterface` must outlive the window. `store` holds the options.
     wndMain(UserInterface& userInterface, FlutterReportCommand::FileOpener opener,
             OptionsStore store);
     ~wndMain() override;
 
-    /// Applies the options, shows the child windows in the default layout, makes the first plot
-    /// active, and acts on the command line: one that holds ".tsw" anywhere names a workspace,
-    /// otherwise one that holds the extension of a format names evolutions to load and to draw at
-    /// once. Other files are taken for solver outputs to import. An error is reported, and the
-    /// window stays.
+    /// Applies the options, shows the child windows in the default layout, activates the first
+    /// plot, and handles the command line: if an argument contains ".tsw", that workspace is
+    /// opened; otherwise, if one contains the extension of a format, the evolutions are loaded and
+    /// drawn. Other files are imported as solver outputs. Errors are reported, and the window stays
+    /// open.
     void MDIForm_Load(const std::vector<std::string>& arguments);
 
-    /// The default layout of the child windows.
+    /// Arranges the child windows in the default layout.
     void wndDefLayout();
 
     StatusPanels& stBar() { return *m_statusPanels; }
@@ -64,7 +63,7 @@ public:
     Document& document() { return m_document; }
     QMenu* popEvmPlot() { return m_plotMenu; }
 
-    /// Where flutter reports go: the user's documents, unless told otherwise.
+    /// Sets the folder of flutter reports; initially the user's documents.
     void setReportFolder(const QString& folder) { m_reportFolder = folder; }
 
 protected:
@@ -75,8 +74,8 @@ protected:
 private:
     using Handler = void (wndMain::*)();
 
-    /// One command of the menu bar: the name of its item and, if it has one, of the item's twin in
-    /// the pop-up of the plot; their caption; what it does; its key.
+    /// A command of the menu bar: the name of its item; the name of the item's twin in the pop-up
+    /// of the plot, if it has one; caption; handler; key.
     struct Command
     {
         const char* name;
@@ -86,7 +85,7 @@ private:
         const char* key = "";
     };
 
-    /// A menu of the menu bar and, if it has one, its twin in the pop-up of the plot.
+    /// A menu of the menu bar, and its twin in the pop-up of the plot, if it has one.
     struct CommandMenu
     {
         const char* name;
@@ -170,7 +169,7 @@ private:
     QAction* m_redo = nullptr;
     QMenu* m_plotMenu = nullptr;
     QMenu* m_explorerMenu = nullptr;
-    std::unique_ptr<dlgRefSpeed> m_refSpeed; ///< made when it is first wanted
+    std::unique_ptr<dlgRefSpeed> m_refSpeed; ///< dialogs are created on first use
     std::unique_ptr<dlgDampLine> m_dampLine;
     std::unique_ptr<wndStability> m_stability;
     std::unique_ptr<dlgOptions> m_options;

@@ -171,19 +171,19 @@ void wndMain::makeHelpKey()
 void wndMain::showHelp()
 {
     m_userInterface.showMessage(
-        "Ctrl+N, Ctrl+O, Ctrl+S  begin, open and save a workspace\n"
+        "Ctrl+N, Ctrl+O, Ctrl+S  start, open and save a workspace\n"
         "Ctrl+Shift+O  adds modal evolutions\n"
         "Files dropped on the window are opened, those of solvers imported\n"
         "Ctrl+Z, Ctrl+Shift+Z  undo the last change, and make it again\n"
         "Ctrl+C  on a plot copies its picture\n"
-        "Ctrl+Q  ends the program\n\n"
+        "Ctrl+Q  quits the program\n\n"
         "Texts of a plot: double click or F2 to edit one; click and drag legend or subtitle, or "
         "use the arrow keys, to move it (Shift for ten pixels).\n"
         "Grid of Data Control: + and - in the column \"Mode\" raise and lower modes, Alt+Up and "
         "Alt+Down move rows, Del removes them.\n"
         "Right button on a plot: its scales, reference speeds, damping lines and flutter speeds.\n"
-        "Reference speeds are measured from the left end of the speed axis: they stand at their "
-        "speeds where it begins at 0. Elsewhere the status bar says how far they are off.\n"
+        "Reference speeds are measured from the left end of the speed axis: their position is "
+        "right when the axis begins at 0. Otherwise the status bar shows how far they are off.\n"
         "Rest the pointer on a plot to read the nearest curve.",
         "Tarsil", MessageIcon::None);
 }

@@ -29,8 +29,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The path with the extension of a workspace, unless it has that. Any other belongs to the name
-/// ("wing m0.40"), and without its own no dialog would list the file.
+/// Appends the extension of workspaces unless the path has it. Any other extension is part of the
+/// name ("wing m0.40"); without ".tsw" no dialog would list the file.
 std::string withExtension(const std::string& path)
 {
     const QString extension = QStringLiteral(".tsw");
@@ -38,7 +38,7 @@ std::string withExtension(const std::string& path)
                                                                                  : path + ".tsw";
 }
 
-/// Of the account, and not what the environment calls it.
+/// The name of the account, not that of the environment.
 std::string userName()
 {
 #ifdef Q_OS_UNIX
@@ -49,21 +49,21 @@ std::string userName()
 }
 
 /// "Header of [PLOT1], Legend of [PLOT2]".
-std::string placesOf(const std::vector<LongValue>& values)
+std::string keysOf(const std::vector<LongValue>& values)
 {
-    std::string places;
+    std::string keys;
     for (const LongValue& value : values)
-        places += (places.empty() ? "" : ", ") + value.key + " of [" + value.section + "]";
-    return places;
+        keys += (keys.empty() ? "" : ", ") + value.key + " of [" + value.section + "]";
+    return keys;
 }
 
-/// What is said of values that are longer than the format takes, before what is said of the file.
+/// A note about values longer than the format allows, to precede the note about the file.
 std::string noteOf(const std::vector<LongValue>& values)
 {
     return values.empty() ? std::string()
-                          : placesOf(values) + (values.size() == 1 ? " is" : " are")
-            + " longer than 1023 characters, all that the format takes of each: the rest will be "
-              "cut when the workspace is opened. ";
+                          : keysOf(values) + (values.size() == 1 ? " is" : " are")
+            + " longer than 1023 characters, the limit of the format: the rest will be cut when "
+              "the workspace is opened. ";
 }
 
 } // namespace
@@ -135,15 +135,15 @@ void WorkspaceCommands::open(const std::string& path)
     show(m_document.open(path, m_userInterface));
 }
 
-/// What could be opened is shown before its failure is reported.
+/// Shows what could be opened before the failure is reported.
 void WorkspaceCommands::show(const OpenedWorkspace& opened)
 {
     if (!opened.namesakes.empty())
         showNamesakes(opened.namesakes);
     if (!opened.cutValues.empty())
-        m_userInterface.showNote(placesOf(opened.cutValues)
+        m_userInterface.showNote(keysOf(opened.cutValues)
                                  + (opened.cutValues.size() == 1 ? " is" : " are")
-                                 + " cut: the format takes 1023 characters of each.");
+                                 + " cut: the limit of the format is 1023 characters.");
     if (opened.failure != nullptr)
         std::rethrow_exception(opened.failure);
 }
@@ -154,8 +154,8 @@ void WorkspaceCommands::showNamesakes(const std::vector<Namesake>& namesakes)
     for (const Namesake& one : namesakes)
         lines.push_back(shownPath(one.stored) + ": " + shownPath(one.taken));
     const std::string text =
-        "These modal evolutions are not where the workspace says. Files of their "
-        "names were taken, which may be those of other runs:";
+        "These modal evolutions are not at their paths. Files of the same name were used, "
+        "which may belong to other runs:";
     m_userInterface.showMessage(text + "\n" + shortList(lines, mostFileLines), "Tarsil",
                                 MessageIcon::Exclamation);
 }
@@ -165,7 +165,7 @@ bool WorkspaceCommands::SaveWorkSpace()
     bool isWritten = false;
     guarded(m_userInterface, mdlWorkSpace::module, [&] {
         const std::vector<EvmPlot*> plots = m_document.plots().all();
-        tellOfLeftOutRows({plots.begin(), plots.end()}, "the workspace", m_userInterface);
+        showLeftOutRows({plots.begin(), plots.end()}, "the workspace", m_userInterface);
         const FileQuestion question {std::string(mdlWorkSpace::filter), 1, false, m_document.path(),
                                      false};
         const auto answer = m_userInterface.askSaveFile(question);
@@ -180,7 +180,7 @@ bool WorkspaceCommands::SaveWorkSpace()
     return isWritten;
 }
 
-/// What could not be opened is still in its file, until that is replaced.
+/// What could not be opened is lost when its file is replaced.
 bool WorkspaceCommands::mayReplace(const std::string& path) const
 {
     std::error_code unknown;

@@ -17,8 +17,8 @@ constexpr std::string_view filter = "Tarsil Workspace (*.tsw)|*.tsw|";
 constexpr std::string_view module = "mdlWorkSpace";
 } // namespace mdlWorkSpace
 
-/// New, Open and Save: what they ask and tell the user around the document's own. A failure is
-/// reported in module "mdlWorkSpace"; what was opened before it stays.
+/// The commands New, Open and Save: questions and messages around the functions of the document.
+/// Failures are reported in module "mdlWorkSpace"; what was opened before stays.
 class WorkspaceCommands
 {
 public:
@@ -27,25 +27,26 @@ public:
         : m_document(document), m_userInterface(userInterface)
     { }
 
-    /// A new, untitled workspace.
+    /// Starts a new, untitled workspace.
     void New();
 
-    /// Asks for a file and opens it in place of what is there.
+    /// Asks for a file and replaces the document by it.
     void OpenWorkSpace();
 
-    /// Opens the workspace of the command line: a path, with or without double quotes.
+    /// Opens the workspace of the command line; the path may be in double quotes.
     void OpenWorkSpace(const std::string& path);
 
-    /// Offers to open what a program left behind that did not end properly. Returns whether it is
-    /// open now; a copy that the user does not want is removed.
+    /// Offers to open the copy of a program that did not end properly. Returns whether it is open
+    /// now; a copy that the user does not want is removed.
     bool recover(RecoveryCopy& copy);
 
-    /// Asks for a file and writes it, whole or not at all; says first which rows of the plots have
-    /// no curve, which the file does not keep. Returns whether it was written.
+    /// Asks for a file and writes it, whole or not at all. First shows which rows of the plots have
+    /// no curve, because the file does not keep them. Returns whether it was written.
     bool SaveWorkSpace();
 
-    /// Asks the user whether to save what has changed since the last time, and saves it. False when
-    /// the user cancels or it could not be saved: the workspace must stay then.
+    /// Asks whether to save changes since the last save, and saves them. False when the user
+    /// cancels or saving fails: the workspace must stay then. True without a question when nothing
+    /// has changed.
     bool mayLeave();
 
 private:

@@ -22,7 +22,7 @@ constexpr std::array<const Command*, 9> commands = {
 std::string programHelp()
 {
     std::string text = "Usage: tarsil-batch COMMAND [OPTION]... FILE...\n\n"
-                       "Does without a window what tarsil does with one. Each FILE is a modal\n"
+                       "Does the work of tarsil without a window. Each FILE is a modal\n"
                        "evolution ("
         + formatExtensions("or")
         + ") or a workspace (.tsw).\n\n"
@@ -35,16 +35,16 @@ std::string programHelp()
     }
     return text
         + "\n"
-          "  --help     shows this text; behind a command, that of the command\n"
-          "  --version  shows the version\n\n"
-          "A LIST of modes is written like 1,3-5: positions in the file, counted from 1.\n"
-          "Speeds are knots equivalent airspeed (KEAS), frequencies Hz, altitudes ft; damping\n"
-          "is the dimensionless g, negative for a stable mode.\n\n"
-          "An output is written whole or not at all. Exit status: 0 done, 1 failed, 2 wrong\n"
-          "usage.\n";
+          "  --help     prints this text; after a command, the help of the command\n"
+          "  --version  prints the version\n\n"
+          "A LIST of modes is a list of positions in the file, counted from 1, such as 1,3-5.\n"
+          "Speeds are in knots equivalent airspeed (KEAS), frequencies in Hz, altitudes in ft;\n"
+          "damping is the dimensionless g, negative for a stable mode.\n\n"
+          "An output is written whole or not at all. Exit status: 0 success, 1 failure,\n"
+          "2 wrong usage.\n";
 }
 
-/// Whether --help is where an option can be: not after "--", and not as the value of an option.
+/// Whether --help is an option here: not after "--", and not the value of an option.
 bool asksForHelp(const Command& command, std::span<const std::string> arguments)
 {
     for (std::size_t i = 0; i < arguments.size() && arguments[i] != "--"; ++i) {
@@ -91,7 +91,7 @@ std::string hint(const std::vector<std::string>& arguments)
                return known->description.name == arguments[0];
            });
     return "\"tarsil-batch " + (hasCommand ? arguments[0] + " " : "")
-        + "--help\" tells how it is used.";
+        + "--help\" shows how to use it.";
 }
 
 int runWithMessages(const std::vector<std::string>& arguments, BatchRun& run)
@@ -110,7 +110,7 @@ int runWithMessages(const std::vector<std::string>& arguments, BatchRun& run)
     return failed;
 }
 
-/// Memory may end while another failure is put into words, so this is asked last.
+/// Handles std::bad_alloc last, because memory may run out while another failure is reported.
 int runGuarded(const std::vector<std::string>& arguments, BatchRun& run)
 {
     try {

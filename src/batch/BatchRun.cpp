@@ -34,10 +34,10 @@ EVM& BatchRun::open(const std::string& path)
 std::string BatchRun::readable(std::string message) const
 {
     for (const auto& [stored, given] : m_names) {
-        std::size_t place = message.find(stored);
-        while (place != std::string::npos) {
-            message.replace(place, stored.size(), given);
-            place = message.find(stored, place + given.size());
+        std::size_t start = message.find(stored);
+        while (start != std::string::npos) {
+            message.replace(start, stored.size(), given);
+            start = message.find(stored, start + given.size());
         }
     }
     return message;

@@ -11,14 +11,14 @@
 
 namespace tarsil::batch {
 
-/// Something that cannot be done; the program says so and ends with status 1.
+/// A failure that is reported and ends the program with status 1.
 class Failure : public std::runtime_error
 {
 public:
     using std::runtime_error::runtime_error;
 };
 
-/// One run of the program: where it writes, and the files it has opened.
+/// A run of the program: its output streams and the files that it has opened.
 class BatchRun
 {
 public:
@@ -33,7 +33,7 @@ public:
     /// format.
     EVM& open(const std::string& path);
 
-    /// A message in which the files opened have the names that the user gave them.
+    /// Replaces stored paths in a message by the names that the user gave.
     std::string readable(std::string message) const;
 
 private:
@@ -43,10 +43,10 @@ private:
     std::vector<std::pair<std::string, std::string>> m_names; ///< stored path, name as given
 };
 
-/// Failure when the output is one of the files that are read, by whatever name.
+/// Raises Failure when the output is one of the input files, by whatever name.
 void refuseOutputOverInput(const std::string& output, const std::string& input);
 
-/// The legends of an evolution in one line, or its file name when it has none.
+/// The legends of an evolution on one line, or its file name when it has none.
 std::string caseTextOf(const EVM& evolution);
 
 } // namespace tarsil::batch

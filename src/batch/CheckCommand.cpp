@@ -12,7 +12,7 @@ namespace tarsil::batch {
 
 namespace {
 
-/// Prints the findings of one file; whether there were none.
+/// Prints the findings of a file. Returns whether there were none.
 bool check(const std::string& path, BatchRun& run)
 {
     try {
@@ -42,22 +42,21 @@ constinit const Command checkCommand {
     {"check",
      "FILE...",
      anyNumber,
-     "prints what is wrong in files",
-     "Prints what is wrong in the files, each finding on one line as\n"
+     "prints the faults of files",
+     "Prints the faults of the files, each finding on one line as\n"
      "\n"
      "  FILE:LINE: text\n"
      "\n"
-     "and ends with status 1 when there is any: counts that disagree with\n"
-     "what follows, a mode cut short, speeds that do not increase, a\n"
-     "repeated mode number, rows of different widths, a file that ends within\n"
-     "a number, text behind a number, and the like. Control characters of\n"
-     "names and texts are shown as question marks.\n"
+     "and exits with status 1 if there are any: counts that disagree with the\n"
+     "contents, a truncated mode, speeds that do not increase, a repeated mode\n"
+     "number, rows of different widths, a file that ends within a number, text\n"
+     "after a number, and so on. Control characters in names and texts are\n"
+     "printed as question marks.\n"
      "\n"
-     "Of a workspace: files that are missing or elsewhere, series that name an\n"
-     "evolution or mode that is not there, counts that disagree with what\n"
-     "follows, values longer than what is read of them, texts that were cut,\n"
-     "a file that was cut, and where it cannot be read on. The evolutions that\n"
-     "it lists are not checked themselves.",
+     "In a workspace: files that are missing or found elsewhere, series with an\n"
+     "evolution or mode that does not exist, counts that disagree with the\n"
+     "contents, values longer than the limit, truncated texts, a truncated file,\n"
+     "and the error that ends reading. The listed evolutions are not checked.",
      {}},
     runCheck};
 

@@ -54,7 +54,7 @@ std::string usageLine(const CommandDescription& description)
     return line + '\n';
 }
 
-/// An option and its help, whose lines are aligned.
+/// An option and its help, as aligned lines.
 std::string optionHelp(const OptionDescription& option, std::size_t width)
 {
     std::string text = "  " + nameWithValue(option);
@@ -99,7 +99,7 @@ CommandLine::CommandLine(const CommandDescription& description,
     check();
 }
 
-/// Takes the option at a position; the position of the last argument that belongs to it.
+/// Parses the option at `index`. Returns the index of the last argument that belongs to it.
 std::size_t CommandLine::takeOption(std::span<const std::string> arguments, std::size_t index)
 {
     const std::string& argument = arguments[index];
@@ -113,7 +113,7 @@ std::size_t CommandLine::takeOption(std::span<const std::string> arguments, std:
         throw UsageError(name + " is given twice");
     if (option->value.empty()) {
         if (equal != std::string::npos)
-            throw UsageError(name + " takes no value");
+            throw UsageError(name + " does not accept a value");
         m_values.emplace_back(option->name, "");
     } else if (equal != std::string::npos) {
         m_values.emplace_back(option->name, argument.substr(equal + 1));
@@ -188,7 +188,7 @@ std::vector<float> singlesOf(std::string_view text, std::size_t count, std::stri
             throw notANumber(piece, option);
     }
     if (numbers.size() != count)
-        throw UsageError(std::string(option) + " takes " + std::to_string(count)
+        throw UsageError(std::string(option) + " needs " + std::to_string(count)
                          + (count == 1 ? " number" : " numbers separated by commas") + ", not "
                          + std::to_string(numbers.size()));
     return numbers;
@@ -208,7 +208,7 @@ std::vector<std::string_view> split(std::string_view text, char separator)
 
 std::string helpText(const CommandDescription& description)
 {
-    constexpr OptionDescription help {"--help", "", "shows this text"};
+    constexpr OptionDescription help {"--help", "", "prints this text"};
     std::string text = usageLine(description);
     text.append("\n").append(description.help).append("\n\n");
     const std::size_t width = std::max(columnOfHelp(description.options), help.name.size() + 4);

@@ -11,39 +11,40 @@
 
 namespace tarsil::batch {
 
-/// A command line that means nothing: the program says what is wrong, points to --help, and ends
-/// with status 2.
+/// An invalid command line: the program prints the reason, points to --help, and ends with status
+/// 2.
 class UsageError : public std::runtime_error
 {
 public:
     using std::runtime_error::runtime_error;
 };
 
-/// One option of a command, as the parser and the help text need it.
+/// An option of a command, for the parser and the help text.
 struct OptionDescription
 {
     std::string_view name; ///< with the two dashes
-    std::string_view value; ///< what the help text calls the value; empty for an option without one
+    std::string_view
+        value; ///< name of the value in the help text; empty for an option without a value
     std::string_view help; ///< lines separated by "\n"
     bool isRequired = false;
     bool mayRepeat = false;
-    bool isValueOptional = false; ///< the value, if any, is given as "--name=value" only
+    bool isValueOptional = false; ///< a value is only accepted as "--name=value"
 };
 
-/// What a command takes from its command line.
+/// The options and operands that a command accepts.
 struct CommandDescription
 {
     std::string_view name;
-    std::string_view operands; ///< as the usage line shows them, e.g. "FILE..."
-    std::size_t mostOperands; ///< at least one is always needed
+    std::string_view operands; ///< as shown in the usage line, e.g. "FILE..."
+    std::size_t mostOperands; ///< the minimum is one
     std::string_view summary; ///< one line, for the list of commands
-    std::string_view help; ///< what the command does, in lines
+    std::string_view help; ///< lines about what the command does
     std::span<const OptionDescription> options;
 };
 
-/// The options and operands of one command. An option may be at any position, as "--name value" or
-/// "--name=value"; the value is the whole next argument, whatever it begins with. After "--"
-/// everything is an operand. Raises UsageError for what the description does not know.
+/// The parsed options and operands of a command. Options may be at any position, as "--name value"
+/// or "--name=value"; the value is the whole next argument, whatever it begins with. After "--"
+/// everything is an operand. Raises UsageError for anything that the description does not allow.
 class CommandLine
 {
 public:
@@ -54,7 +55,7 @@ public:
     std::vector<std::string> values(std::string_view option) const;
     const std::vector<std::string>& operands() const { return m_operands; }
 
-    /// The value as a number; no value when the option is missing.
+    /// The value as a number; empty when the option is missing.
     std::optional<double> number(std::string_view option) const;
 
 private:
@@ -69,22 +70,22 @@ private:
 /// Whether the argument is an option whose value is the next argument.
 bool takesNextArgument(const CommandDescription& description, std::string_view argument);
 
-/// A number written on the command line; UsageError, naming the option, for other text.
+/// Parses a number; UsageError, with the option's name, for other text.
 double numberOf(std::string_view text, std::string_view option);
 
-/// Several singles separated by commas; UsageError unless there are `count`.
+/// Parses singles separated by commas; UsageError unless there are `count`.
 std::vector<float> singlesOf(std::string_view text, std::size_t count, std::string_view option);
 
-/// The pieces of a text between its separators.
+/// Splits a text at its separators.
 std::vector<std::string_view> split(std::string_view text, char separator);
 
-/// The text that --help shows for a command.
+/// The text of --help for a command.
 std::string helpText(const CommandDescription& description);
 
-/// Whether the text ends in one of the extensions, in any case.
+/// Whether the path ends in one of the extensions, in any case.
 bool hasExtension(std::string_view path, std::span<const std::string_view> extensions);
 
-/// The value of --output; UsageError when its extension is none of these.
+/// The value of --output; UsageError when it has none of these extensions.
 std::string outputOf(const CommandLine& line, std::span<const std::string_view> extensions);
 
 } // namespace tarsil::batch

@@ -6,8 +6,8 @@ namespace tarsil::batch {
 
 class BatchRun;
 
-/// A command of the program: what it takes, and what does it. The result is the exit status; what
-/// cannot be done is raised as Failure, UsageError or RunTimeError.
+/// A command of the program: its description and its function. The function returns the exit status
+/// and raises Failure, UsageError or RunTimeError.
 struct Command
 {
     CommandDescription description;
@@ -24,7 +24,7 @@ extern const Command importCommand;
 extern const Command crossingsCommand;
 extern const Command trackCommand;
 
-/// For commands that take as many files as there are.
+/// For commands without a maximum number of files.
 constexpr std::size_t anyNumber = static_cast<std::size_t>(-1);
 
 // Exit statuses.

@@ -32,9 +32,9 @@ constexpr std::array<OptionDescription, 1> options = {
 
 constinit const Command convertCommand {
     {"convert", "FILE", 1, "writes an evolution in fixed columns",
-     "Writes an evolution in fixed columns, as the programs that take such files\n"
-     "expect them: the counts stand left of where this program looks for them, and\n"
-     "the damping keeps its sign. The file is not meant to be opened here again.",
+     "Writes an evolution in the fixed columns that the programs for such files\n"
+     "expect: the counts are further left than in the files that this program reads,\n"
+     "and the damping keeps its sign. This program is not meant to open such a file.",
      options},
     runConvert};
 

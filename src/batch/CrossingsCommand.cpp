@@ -50,7 +50,7 @@ StabilitySettings settingsOf(const CommandLine& line)
     return settings;
 }
 
-/// What --require asks for, with the airplane whose envelopes give the speeds.
+/// The value of --require and the airplane whose envelopes give the speeds.
 struct RequirementOption
 {
     Requirement requirement;
@@ -96,7 +96,7 @@ void writeReport(const StabilityReport& report, const std::string& output)
     writeSheet(sheet, output);
 }
 
-/// Complains of each evolution that does not meet the requirement; whether all do.
+/// Complains about each evolution that does not meet the requirement. Returns whether all do.
 bool allPass(const StabilityReport& report, BatchRun& run)
 {
     bool pass = true;
@@ -132,31 +132,30 @@ int runCrossings(const CommandLine& line, BatchRun& run)
 }
 
 constexpr std::array<OptionDescription, 9> options = {
-    {{"--levels", "LIST",
-      "levels of damping, with commas between them; 0,0.01,0.02,0.03\nwithout this option"},
-     {"--tolerance", "G", "a stretch that rises no higher above its level is weak; 0.001"},
-     {"--noise", "G", "a stretch that rises no higher is numerical noise; 1e-6"},
-     {"--static", "F", "a root is static below this frequency in Hz; 0.1"},
+    {{"--levels", "LIST", "levels of damping, separated by commas; default\n0,0.01,0.02,0.03"},
+     {"--tolerance", "G", "a stretch up to this height above its level is weak;\ndefault 0.001"},
+     {"--noise", "G", "a stretch up to this height is numerical noise; default 1e-6"},
+     {"--static", "F", "a root is static below this frequency in Hz; default 0.1"},
      {"--tracked", "", "follows the roots instead of the printed modes"},
-     {"--aircraft", "FILE", "aircraft file (.inp) whose envelopes hold the dive speeds"},
-     {"--require", "FACTOR",
-      "the margin to this factor times the dive speed; 1.15 without a factor", false, false, true},
-     {"--require-level", "G", "damping at which the requirement is judged; 0.03"},
+     {"--aircraft", "FILE", "aircraft file (.inp) with envelopes"},
+     {"--require", "FACTOR", "margin to a factor times the dive speed; default 1.15", false, false,
+      true},
+     {"--require-level", "G", "level of damping of the requirement; default 0.03"},
      {"--output", "OUTPUT", "the file to write, which ends in .json, .csv or .xlsx", true}}};
 
 } // namespace
 
 constinit const Command crossingsCommand {
-    {"crossings", "FILE...", anyNumber, "says where modes are unstable, and how sure that is",
-     "Lists each stretch of speed in which a mode is above a level of damping: where it\n"
-     "begins and ends, whether that is flutter or divergence, how high it rises, and how\n"
-     "well the points tell it. Tables list the real ones and count noise and weak ones;\n"
-     "JSON has all. Each says which settings, program and source files it comes from.\n"
+    {"crossings", "FILE...", anyNumber, "lists where modes are unstable, and how reliable that is",
+     "Lists each range of speed in which a mode is above a level of damping: start and\n"
+     "end, flutter or divergence, peak, and the confidence in the crossing. Tables list\n"
+     "the real stretches and only count those that are noise or weak; JSON lists all.\n"
+     "The output contains the settings, the program and the source files.\n"
      "\n"
-     "With --require each evolution is compared with the factor times the dive speed of\n"
-     "the envelope of its Mach number. One that starts to be unstable below it, whose\n"
-     "speeds end below it, or that has no envelope is named on standard error; the\n"
-     "output is written all the same, and the exit status is 1.",
+     "--require compares each evolution with a factor times the dive speed of the\n"
+     "envelope at its Mach number. An evolution that becomes unstable below that speed,\n"
+     "whose speeds end below it, or that has no envelope is named on standard error; the\n"
+     "output is written, and the exit status is 1.",
      options},
     runCrossings};
 

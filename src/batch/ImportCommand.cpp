@@ -27,7 +27,7 @@ std::string namesOf(const Units& units)
     return names;
 }
 
-/// The units that the command line names; nothing without --speed-unit.
+/// The units on the command line; empty without --speed-unit.
 std::optional<UnitChoice> unitChoice(const CommandLine& line)
 {
     UnitChoice choice;
@@ -205,7 +205,7 @@ int printJson(const std::vector<SolverOutput>& outputs, std::ostream& out)
     return done;
 }
 
-/// Writes the evolutions; the status says whether all could be written.
+/// Writes the evolutions. The status is 1 if one could not be written.
 int writeEvolutions(const solver::ImportPlan& plan, BatchRun& run)
 {
     const solver::WrittenFiles written = plan.write();
@@ -224,7 +224,7 @@ std::string existingFolder(const CommandLine& line)
     if (!folder)
         throw UsageError("--output is missing: the folder to write to");
     if (!std::filesystem::is_directory(nativePath(*folder)))
-        throw Failure(*folder + " is no folder");
+        throw Failure(*folder + " is not a folder");
     return *folder;
 }
 
@@ -267,24 +267,24 @@ int runImport(const CommandLine& line, BatchRun& run)
 }
 
 constexpr std::array<OptionDescription, 8> options = {
-    {{"--speed-unit", "UNIT", "of the printed speeds: m/s, ft/s, in/s, mm/s or kt"},
-     {"--vref", "X", "what the printed speeds were divided by (PARAM,VREF); usually 1"},
+    {{"--speed-unit", "UNIT", "unit of the printed speeds: m/s, ft/s, in/s, mm/s or kt"},
+     {"--vref", "X", "divisor of the printed speeds (PARAM,VREF); default 1"},
      {"--density", "UNIT",
-      "of the printed densities: ratio (which is usual), kg/m3,\nslug/ft3, lbf.s2/in4 or t/mm3"},
+      "unit of the printed densities: ratio (default), kg/m3,\nslug/ft3, lbf.s2/in4 or t/mm3"},
      {"--equivalent", "", "the printed speeds are equivalent airspeeds"},
-     {"--airplane", "TEXT", "the airplane; without it the title of the analysis"},
-     {"--mass", "TEXT", "the mass configuration"},
-     {"--json", "", "prints what the files hold, and writes nothing"},
-     {"--output", "FOLDER", "where the evolutions are written"}}};
+     {"--airplane", "TEXT", "airplane; default is the title of the analysis"},
+     {"--mass", "TEXT", "mass configuration"},
+     {"--json", "", "prints the contents of the files, and writes nothing"},
+     {"--output", "FOLDER", "folder for the evolutions"}}};
 
 } // namespace
 
 constinit const Command importCommand {
-    {"import", "FILE...", anyNumber, "turns printed flutter summaries into evolutions",
+    {"import", "FILE...", anyNumber, "converts printed flutter summaries to evolutions",
      "Reads the flutter summaries that solvers print (.f06, .out and others) and writes\n"
-     "each analysis as an evolution (.ev2). The units of a printed speed are in no file:\n"
-     "without --speed-unit the command says what the numbers prove, writes nothing, and\n"
-     "ends with status 2.",
+     "each analysis as an evolution (.ev2). The files do not contain the unit of the\n"
+     "printed speeds: without --speed-unit the command prints what the numbers prove,\n"
+     "writes nothing, and exits with status 2.",
      options},
     runImport};
 

@@ -31,7 +31,7 @@ void writeTexts(JsonWriter& json, std::string_view name, const KeyedTexts& texts
     json.endArray();
 }
 
-/// Where an imported evolution comes from.
+/// Writes where an imported evolution comes from.
 void writeProvenance(JsonWriter& json, const Provenance& provenance)
 {
     json.key("imported");
@@ -192,7 +192,7 @@ void printPoints(const EVM& evolution, const AeMode& mode, std::ostream& out)
     }
 }
 
-/// The modes as a table, or each one with the table of its points.
+/// Prints the modes as a table, or each mode with a table of its points.
 void printModes(const EVM& evolution, bool withPoints, std::ostream& out)
 {
     const std::vector<std::string> headings = {"position", "number", "points"};
@@ -223,23 +223,23 @@ void printTexts(const std::vector<const EVM*>& evolutions, bool withPoints, std:
     }
 }
 
-/// Refuses what would need an answer of two kinds, or says nothing about a workspace.
+/// Refuses options and operands that cannot be combined with a workspace.
 void refuseBesideWorkspace(const CommandLine& line)
 {
     if (line.operands().size() > 1)
-        throw UsageError("a workspace is told about alone, without other files");
+        throw UsageError("a workspace must be the only file");
     if (line.has("--points"))
-        throw UsageError("--points: a workspace holds no points");
+        throw UsageError("--points: a workspace has no points");
 }
 
-/// Whether a file that is no evolution by its name holds printed flutter summaries.
+/// Whether a file whose name is not that of an evolution contains printed flutter summaries.
 bool isSolverOutput(const std::string& path)
 {
     return findFormat(resolvePath(path).name) == nullptr && fileExists(path)
         && !solver::readSolverOutput(path).runs.empty();
 }
 
-/// Says of solver outputs what they are and how they become evolutions.
+/// Prints what solver outputs are and how to convert them.
 int printSolverOutputs(const CommandLine& line, std::ostream& out)
 {
     if (line.has("--json") || line.has("--points"))
@@ -248,7 +248,7 @@ int printSolverOutputs(const CommandLine& line, std::ostream& out)
     for (const std::string& path : line.operands()) {
         const std::size_t count = solver::readSolverOutput(path).runs.size();
         if (count == 0)
-            throw Failure(path + " is no printed flutter summary, as the other files are");
+            throw Failure(path + " is not a printed flutter summary like the other files");
         out << printableText(resolvePath(path).name) << '\n';
         printLine(out, "format", "printed flutter summary");
         printLine(out, "analyses", std::to_string(count));
@@ -271,7 +271,7 @@ int runInfo(const CommandLine& line, BatchRun& run)
             printWorkspaceText(record, resolvePath(path).name, run.out());
         return done;
     }
-    // All files are read before anything is printed: an error prints no half of an answer.
+    // Reads all files before it prints anything, so that an error prints no partial answer.
     std::vector<const EVM*> evolutions;
     for (const std::string& path : line.operands())
         evolutions.push_back(&run.open(path));
@@ -281,19 +281,18 @@ int runInfo(const CommandLine& line, BatchRun& run)
 }
 
 constexpr std::array<OptionDescription, 2> options = {
-    {{"--json", "", "as JSON, for other programs"},
-     {"--points", "", "with every point of every mode"}}};
+    {{"--json", "", "prints JSON for other programs"},
+     {"--points", "", "includes every point of every mode"}}};
 
 } // namespace
 
 constinit const Command infoCommand {
-    {"info", "FILE...", anyNumber, "tells what files hold",
-     "Tells what the files hold: airplane, mass configuration, Mach number,\n"
+    {"info", "FILE...", anyNumber, "prints the contents of files",
+     "Prints the contents of the files: airplane, mass configuration, Mach number,\n"
      "method, legends, and the modes with their numbers of points.\n"
      "\n"
-     "Of a workspace, which is the only FILE then: description, dates, files, and\n"
-     "the texts, axes and series of every plot. The evolutions that it lists need\n"
-     "not be there.",
+     "For a workspace, which must be the only FILE: description, dates, files, and\n"
+     "the texts, axes and series of every plot. Its evolutions are not needed.",
      options},
     runInfo};
 

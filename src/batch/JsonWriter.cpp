@@ -33,7 +33,7 @@ std::string escaped(char16_t unit)
     return text;
 }
 
-/// What JSON needs escaped, and what could change the terminal that it is printed on.
+/// Whether a unit must be escaped in JSON, or could change a terminal.
 bool needsEscape(char16_t unit)
 {
     return unit == u'"' || unit == u'\\' || isControlCharacter(unit);

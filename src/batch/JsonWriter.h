@@ -6,9 +6,9 @@
 
 namespace tarsil::batch {
 
-/// Writes JSON (RFC 8259) piece by piece; commas come by themselves. Numbers are written as the
-/// text given, so that the caller decides on their digits. The caller keeps the order: a key before
-/// each value of an object, and an end for each begin.
+/// Writes JSON (RFC 8259) piece by piece, with commas. Numbers are passed as text, so that the
+/// caller decides on their digits. The caller must keep the order: a key before each value of an
+/// object, and an end for each begin.
 class JsonWriter
 {
 public:
@@ -21,14 +21,14 @@ public:
 
     void key(std::string_view name);
 
-    /// 8-bit text as at `decodeText`, so that the output is UTF-8 in any case. Control characters
-    /// are escaped, those beyond ASCII too.
+    /// Writes 8-bit text, converted to UTF-8 by `decodeText`. Control characters are escaped, also
+    /// those beyond ASCII.
     void text(std::string_view value);
     void number(std::string_view digits) { plain(digits); }
     void boolean(bool value) { plain(value ? "true" : "false"); }
     void null() { plain("null"); }
 
-    /// A key and its value.
+    /// Writes a key and its value.
     void text(std::string_view name, std::string_view value);
     void number(std::string_view name, std::string_view digits);
     void number(std::string_view name, float value);

@@ -17,15 +17,16 @@ namespace {
 
 constexpr std::array<std::string_view, 2> extensions = {".mix", ".mx2"};
 
-/// A file and the modes wanted of it; all of them without a list.
+/// A file and the modes wanted of it; without a list all of them.
 struct Ingredient
 {
     std::string path;
     std::optional<ModeList> modes;
 };
 
-/// FILE or FILE:LIST. A file that has the whole text as its name comes first. What follows the last
-/// colon is a list when it looks like one, or when a file is before it ("C:\wing.ev2" is none).
+/// Parses FILE or FILE:LIST. A file whose name is the whole text wins. Otherwise the text after the
+/// last colon is a list if it looks like one, or if the text before is a file ("C:\wing.ev2" has no
+/// list).
 Ingredient ingredientOf(const std::string& operand)
 {
     const std::size_t colon = operand.rfind(':');
@@ -55,7 +56,7 @@ void warnOfDifferentLengths(const std::vector<const AeMode*>& modes, BatchRun& r
                      + std::to_string(most) + " for all of them");
 }
 
-/// The files of the command line; UsageError for what a workspace among them does not go with.
+/// The files of the command line; UsageError for combinations that a workspace does not allow.
 std::vector<Ingredient> ingredientsOf(const CommandLine& line)
 {
     std::vector<Ingredient> ingredients;
@@ -64,15 +65,16 @@ std::vector<Ingredient> ingredientsOf(const CommandLine& line)
         ingredients.push_back(ingredientOf(operand));
         paths.push_back(ingredients.back().path);
         if (ingredients.back().modes && isWorkspace(paths.back()))
-            throw UsageError(operand
-                             + ": a workspace takes no list of modes; --plot chooses one of "
-                               "its plots");
+            throw UsageError(
+                operand
+                + ": a workspace does not accept a list of modes; --plot selects one of "
+                  "its plots");
     }
     checkWorkspaceOptions(line, paths, {});
     return ingredients;
 }
 
-/// Adds the mode of each series of a workspace; whether all of them are there.
+/// Adds the mode of each series of a workspace. Returns whether all exist.
 bool addSeriesOfWorkspace(const std::string& path, const CommandLine& line, BatchRun& run,
                           std::vector<const AeMode*>& modes)
 {
@@ -102,7 +104,7 @@ int runMix(const CommandLine& line, BatchRun& run)
             modes.push_back(mode);
     }
     const std::unique_ptr<EVM> mixed = mdlMix::gather(modes);
-    warnOfDifferentLengths(modes, run); // nothing may fail once the file is there
+    warnOfDifferentLengths(modes, run); // nothing may fail after the file is written
     PrintEVM(*mixed, output);
     return isWhole ? done : failed;
 }
@@ -113,12 +115,12 @@ constexpr std::array<OptionDescription, 2> options = {
 } // namespace
 
 constinit const Command mixCommand {
-    {"mix", "FILE[:LIST]...", anyNumber, "gathers modes of several files into one",
-     "Gathers modes of several files into one evolution in fixed columns. A colon and\n"
-     "a LIST behind a FILE choose its modes, such as wing.ev2:1,3-5; without a list\n"
-     "all of them are taken. See \"convert\" for the layout.\n"
+    {"mix", "FILE[:LIST]...", anyNumber, "combines modes of several files into one",
+     "Combines modes of several files into one evolution in fixed columns. A colon and\n"
+     "a LIST after a FILE select its modes, such as wing.ev2:1,3-5; the default is all\n"
+     "modes. See \"convert\" for the layout.\n"
      "\n"
-     "Of a workspace the mode of each series is taken, in the order of its plots. A\n"
+     "A workspace contributes the mode of each series, in the order of its plots. A\n"
      "series whose file or mode is missing is left out with a message; the rest is\n"
      "written, and the exit status is 1.",
      options},

@@ -49,8 +49,7 @@ ModeList modeListOf(std::string_view text)
 {
     const auto list = parseModeList(text);
     if (!list)
-        throw UsageError("\"" + std::string(text)
-                         + "\" is no list of modes, which is written like 1,3-5");
+        throw UsageError("\"" + std::string(text) + "\" is not a list of modes such as 1,3-5");
     return *list;
 }
 
@@ -62,7 +61,7 @@ std::vector<AeMode*> selectModes(const EVM& evolution, const std::optional<ModeL
     for (const ModeRange& range : list.value_or(ModeList {{1, count}})) {
         if (range.last > count)
             throw Failure(std::string(name) + ": there is no mode at position "
-                          + std::to_string(std::max(range.first, count + 1)) + "; the file holds "
+                          + std::to_string(std::max(range.first, count + 1)) + "; the file has "
                           + std::to_string(count));
         for (std::size_t position = range.first; position <= range.last; ++position)
             modes.push_back(evolution.Modes[position - 1].get());

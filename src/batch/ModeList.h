@@ -12,24 +12,24 @@ class EVM;
 
 namespace tarsil::batch {
 
-/// Positions of modes in a file from `first` to `last`, counted from 1, both included.
+/// A range of positions of modes in a file, counted from 1, both ends included.
 struct ModeRange
 {
     std::size_t first;
     std::size_t last;
 };
 
-/// A list such as "1,3-5": the order is kept.
+/// A list such as "1,3-5", in the given order.
 using ModeList = std::vector<ModeRange>;
 
-/// Nothing when the text is no such list.
+/// Empty when the text is not a list.
 std::optional<ModeList> parseModeList(std::string_view text);
 
-/// The same; UsageError for other text.
+/// The same, with UsageError for other text.
 ModeList modeListOf(std::string_view text);
 
-/// The modes of the evolution at these positions, or all of them without a list. Failure, naming
-/// the file as `name`, for a position that the file does not have.
+/// The modes of an evolution at these positions; all modes without a list. Failure, with `name` as
+/// the file, for a position that the file does not have.
 std::vector<AeMode*> selectModes(const EVM& evolution, const std::optional<ModeList>& list,
                                  std::string_view name);
 

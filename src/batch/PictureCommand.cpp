@@ -22,12 +22,12 @@ void finish(EvmPlot& plot, const PictureOptions& options, const std::string& out
         run.complain(output + ": " + note.toStdString());
 }
 
-/// Complains of the files that were not drawn, which are all but the first ones; whether there are
-/// none.
-bool tellLeftOut(const std::vector<std::string>& paths, std::size_t drawn, BatchRun& run)
+/// Complains about the files that were not drawn, that is all after the first `drawn`. Returns
+/// whether there are none.
+bool reportLeftOut(const std::vector<std::string>& paths, std::size_t drawn, BatchRun& run)
 {
     const std::string why =
-        " is left out: a plot takes " + std::to_string(mostCurves) + " curves; choose with --modes";
+        " is left out: a plot is limited to " + std::to_string(mostCurves) + " curves; use --modes";
     if (drawn == 0)
         throw Failure(paths.front() + why);
     for (std::size_t i = drawn; i < paths.size(); ++i)
@@ -35,7 +35,7 @@ bool tellLeftOut(const std::vector<std::string>& paths, std::size_t drawn, Batch
     return drawn == paths.size();
 }
 
-/// Whether no file had to be left out.
+/// Returns whether all files were drawn.
 bool drawEvolutions(const std::vector<std::string>& paths, const PictureOptions& options,
                     BatchRun& run)
 {
@@ -48,12 +48,12 @@ bool drawEvolutions(const std::vector<std::string>& paths, const PictureOptions&
     }
     EvmPlot plot;
     const std::size_t drawn = plotCurves(plot, files, options.markers);
-    const bool isWhole = tellLeftOut(paths, drawn, run);
+    const bool isWhole = reportLeftOut(paths, drawn, run);
     finish(plot, options, options.output, run);
     return isWhole;
 }
 
-/// The names of `count` pictures: the one given, or with a number before its extension.
+/// The names of `count` pictures: the given name, or with a number before its extension.
 std::vector<std::string> numberedOutputs(const std::string& output, std::size_t count)
 {
     if (count == 1)
@@ -65,7 +65,7 @@ std::vector<std::string> numberedOutputs(const std::string& output, std::size_t 
     return outputs;
 }
 
-/// One picture of a plot of a workspace, as the window shows it.
+/// Writes the picture of a plot of a workspace as the window shows it.
 void drawPlot(const PlotRecord& record, const std::vector<EVM*>& evolutions,
               const PictureOptions& options, const std::string& output, BatchRun& run)
 {
@@ -79,12 +79,12 @@ void drawPlot(const PlotRecord& record, const std::vector<EVM*>& evolutions,
     }
 }
 
-/// Whether no series had to be left out.
+/// Returns whether all series were drawn.
 bool drawWorkspace(const std::string& path, const PictureOptions& options, BatchRun& run)
 {
     const WorkspaceInput input = openWorkspace(path, options.plot, run);
     if (input.plots.empty())
-        throw Failure(path + " holds no plot");
+        throw Failure(path + " has no plot");
     const std::vector<std::string> outputs = numberedOutputs(options.output, input.plots.size());
     for (const std::string& output : outputs) {
         for (const std::string& file : input.files)
@@ -101,7 +101,7 @@ int runPicture(const CommandLine& line, BatchRun& run)
     if (!hasWorkspace(line.operands()))
         return drawEvolutions(line.operands(), options, run) ? done : failed;
     if (line.operands().size() > 1)
-        throw UsageError("a workspace is drawn alone, without other files");
+        throw UsageError("a workspace must be the only file");
     return drawWorkspace(line.operands().front(), options, run) ? done : failed;
 }
 
@@ -110,16 +110,16 @@ int runPicture(const CommandLine& line, BatchRun& run)
 constinit const Command pictureCommand {
     {"picture", "FILE...", anyNumber, "draws the V-g-f plot",
      "Draws the V-g-f plot of the files: frequency in the upper half, damping in the\n"
-     "lower half, the speed axis between them. It is the plot that tarsil opens with\n"
-     "when it is started with these files: each file has a line style of its own, and\n"
-     "no more than 500 curves are drawn; a file that would exceed them is left out with\n"
-     "a message, and the exit status is 1.\n"
+     "lower half, the speed axis between them. The plot is the one that tarsil shows for\n"
+     "the same files: each file has its own line style, and at most 500 curves are drawn;\n"
+     "a file that would exceed this limit is left out with a message, and the exit\n"
+     "status is 1.\n"
      "\n"
-     "Of a workspace, which is the only FILE then, every plot is drawn as it was saved,\n"
-     "each into a picture of its own: with several plots out.svg becomes out-1.svg,\n"
-     "out-2.svg and so on. Texts, scale and ticks that are given take the place of those\n"
-     "of the plot; modes and markers are what its series say. A series whose file or mode\n"
-     "is missing is left out with a message; the rest is drawn, and the exit status is 1.",
+     "For a workspace, which must be the only FILE, every plot is drawn as it was saved:\n"
+     "with several plots out.svg becomes out-1.svg, out-2.svg and so on. Texts, scale and\n"
+     "ticks of the command line replace those of the plot; modes and markers are those of\n"
+     "its series. A series whose file or mode is missing is left out with a message; the\n"
+     "rest is drawn, and the exit status is 1.",
      pictureOptionDescriptions},
     runPicture};
 

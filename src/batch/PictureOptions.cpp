@@ -69,7 +69,7 @@ QSize sizeOf(const CommandLine& line, QSize otherwise)
     return {countOf(pieces[0], largestSide, "--size"), countOf(pieces[1], largestSide, "--size")};
 }
 
-/// Each value of an option "VALUE=CAPTION"; the caption may be missing.
+/// The values of an option "VALUE=CAPTION"; the caption may be missing.
 std::vector<CaptionedValue> captionedValuesOf(const CommandLine& line, std::string_view option)
 {
     std::vector<CaptionedValue> values;
@@ -82,7 +82,7 @@ std::vector<CaptionedValue> captionedValuesOf(const CommandLine& line, std::stri
     return values;
 }
 
-/// "none, id, tag or mpf:I": what the option --marker takes.
+/// "none, id, tag or mpf:I": the values of the option --marker.
 std::string markerNames()
 {
     std::string names;
@@ -96,8 +96,8 @@ std::string markerNames()
     return names;
 }
 
-/// Takes the kind of marker, and its factor, when the text is of that kind.
-bool takeMarker(std::string_view text, const MarkerTraits& traits, CurveMarkers& markers)
+/// Parses a kind of marker and its factor. Returns whether the text is of that kind.
+bool parseMarker(std::string_view text, const MarkerTraits& traits, CurveMarkers& markers)
 {
     const std::string start = std::string(traits.name) + (traits.needsFactor ? ":" : "");
     if (traits.needsFactor ? !text.starts_with(start) : text != start)
@@ -114,7 +114,7 @@ CurveMarkers markersOf(const CommandLine& line)
     CurveMarkers markers;
     if (const auto marker = line.value("--marker")) {
         const auto fits = [&](const MarkerTraits& traits) {
-            return takeMarker(*marker, traits, markers);
+            return parseMarker(*marker, traits, markers);
         };
         if (std::none_of(markerTraits.begin(), markerTraits.end(), fits))
             throw wrongValue("--marker", *marker, markerNames());
@@ -129,32 +129,32 @@ CurveMarkers markersOf(const CommandLine& line)
 } // namespace
 
 constinit const std::array<OptionDescription, 14> pictureOptionDescriptions = {
-    {{"--modes", "LIST", "modes to draw; all of them without this option"},
+    {{"--modes", "LIST", "modes to draw; default is all"},
      plotOption,
      {"--scale", "VMIN,VMAX,FMIN,FMAX,GMIN,GMAX",
-      "ends of the axes of speed, frequency and damping;\nGMIN is the damping at the speed axis, "
-      "GMAX the one\nat the lower end; without it the axes fit the data,\nor are the workspace's"},
-     {"--ticks", "V,G,F", "numbers of ticks of the three axes"},
-     {"--size", "WxH", "size of the picture in pixels; 1000x750 without it"},
+      "bounds of the axes of speed, frequency and damping;\nGMIN is the damping at the speed axis, "
+      "GMAX that at\nthe lower end; by default the axes are fitted to the\ndata, or are those of "
+      "the workspace"},
+     {"--ticks", "V,G,F", "tick counts of the three axes"},
+     {"--size", "WxH", "size of the picture in pixels; default 1000x750"},
      {"--header", "TEXT",
-      "text above the plot; \\n begins a new line in all texts,\nand Rich Text Format ({\\rtf...) "
-      "keeps its look.\nWithout it: what the files say alike of airplane,\nmass, method and Mach "
-      "number"},
+      "text above the plot; in all texts \\n begins a new line,\nand Rich Text Format ({\\rtf...) "
+      "keeps its look;\ndefault: airplane, mass, method and Mach number as\nfar as the files "
+      "agree"},
      {"--legend", "TEXT", "text of the legend"},
      {"--subtitle", "TEXT",
-      "text of the flutter mechanism; without it the names of\nup to six files"},
+      "text of the flutter mechanism; default: the names of up\nto six files"},
      {"--reference-speed", "V=CAPTION",
-      "mark at a speed; may be given again. A mark is\nmeasured from the left end of the axis: "
-      "where the axis\ndoes not begin at 0, it does not stand at its speed,\nwhich a message says",
+      "mark at a speed; may be repeated. A mark is measured\nfrom the left end of the axis: if the "
+      "axis does not\nbegin at 0, the mark is shifted, with a message",
       false, true},
-     {"--damping-line", "G=CAPTION", "horizontal line at a damping; may be given again", false,
-      true},
+     {"--damping-line", "G=CAPTION", "horizontal line at a damping; may be repeated", false, true},
      {"--marker", "MARKER",
-      "what marks the points: none, id (the mode number),\ntag (the number of the curve) or mpf:I "
-      "(participation\nfactor I); id without this option"},
+      "text at the points: none, id (the mode number),\ntag (the number of the curve) or mpf:I "
+      "(participation\nfactor I); default id"},
      {"--marker-spacing", "N",
-      "points from one marker to the next; without it each\ncurve has about four"},
-     {"--marker-size", "N", "size of the markers in points; 8 without it"},
+      "number of points between markers; by default each\ncurve has about four markers"},
+     {"--marker-size", "N", "size of the markers in points; default 8"},
      {"--output", "OUTPUT", "the file to write, which ends in .png, .svg, .pdf or\n.emf", true}}};
 
 PictureOptions pictureOptionsOf(const CommandLine& line)

@@ -24,16 +24,17 @@ struct CaptionedValue
     QString caption;
 };
 
-/// What the command "picture" was asked to draw.
+/// The options of the command "picture".
 struct PictureOptions
 {
     std::string output;
-    std::optional<std::string> plot; ///< of a workspace; all of them when missing
+    std::optional<std::string> plot; ///< of a workspace; empty: all plots
     QSize size {1000, 750}; ///< pixels at 96 per inch
     std::optional<ModeList> modes;
-    std::optional<PlotBounds> bounds; ///< fitted to the data, or the workspace's, when missing
+    std::optional<PlotBounds> bounds; ///< empty: fitted to the data, or those of the workspace
     std::optional<PlotTicks> ticks;
-    // Texts as given: Rich Text Format, or "\n" for a line break. A missing one leaves its box.
+    // Texts as given: Rich Text Format, or "\n" for a line break. An empty optional leaves the box
+    // unchanged.
     std::optional<std::string> header;
     std::optional<std::string> legend;
     std::optional<std::string> subtitle;
@@ -44,7 +45,7 @@ struct PictureOptions
 
 extern const std::array<OptionDescription, 14> pictureOptionDescriptions;
 
-/// Reads them from the command line; UsageError for what makes no sense.
+/// Reads the options; UsageError for invalid ones.
 PictureOptions pictureOptionsOf(const CommandLine& line);
 
 } // namespace tarsil::batch

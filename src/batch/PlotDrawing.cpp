@@ -15,8 +15,7 @@ namespace tarsil::batch {
 
 namespace {
 
-/// Gives an axis as many ticks as make them fall on round numbers, or the usual number of them
-/// where there are no such.
+/// Gives an axis a tick count that puts its ticks on round numbers, or `usual` if there is none.
 void roundTicks(AxisValues& axis, Steps steps, std::int16_t usual)
 {
     const double low = std::min(axis.min, axis.max);
@@ -76,7 +75,7 @@ void setTexts(EvmPlot& plot, const PictureOptions& options)
 
 void writePicture(EvmPlot& plot, const std::string& path)
 {
-    if (endsIn(path, ".emf")) { // streamed, however large it is
+    if (endsIn(path, ".emf")) { // streamed, because it can be large
         plot.ExportPic(QString::fromStdString(path));
         return;
     }

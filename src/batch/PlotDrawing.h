@@ -10,16 +10,17 @@ namespace tarsil::batch {
 
 struct PictureOptions;
 
-// What the command "picture" does with a plot that has its series.
+// Applies the options of the command "picture" to a plot that has its series.
 
-/// Gives the plot the scale and the ticks that were asked for; a scale alone brings ticks that fall
-/// on round numbers. What was not asked for stays.
+/// Sets the requested scale and ticks; a scale without ticks gets ticks on round numbers. The rest
+/// is unchanged.
 void setScale(EvmPlot& plot, const PictureOptions& options);
 
-/// Gives the plot the texts, reference speeds and damping lines that were asked for.
+/// Adds the requested texts, reference speeds and damping lines.
 void setTexts(EvmPlot& plot, const PictureOptions& options);
 
-/// Writes the picture in the form that the path ends in. Errors: those of drawing and of writing.
+/// Writes the picture in the format of the path's extension. Errors: those of drawing and of
+/// writing.
 void writePicture(EvmPlot& plot, const std::string& path);
 
 } // namespace tarsil::batch

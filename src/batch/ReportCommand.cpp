@@ -18,7 +18,7 @@ namespace {
 
 constexpr std::array<std::string_view, 2> extensions = {".xlsx", ".csv"};
 
-/// The Mach number given for files that hold none, as text; no text when none is given.
+/// The Mach number for files without one, as text; empty when not given.
 std::optional<std::string> machOf(const CommandLine& line)
 {
     auto text = line.value("--mach");
@@ -27,7 +27,7 @@ std::optional<std::string> machOf(const CommandLine& line)
     return text;
 }
 
-/// What the rows are made of, as far as the command line says it.
+/// The source of the rows, from the command line.
 struct RowSource
 {
     std::string output;
@@ -35,7 +35,7 @@ struct RowSource
     std::optional<std::string> plot;
 };
 
-/// Adds a row for each series of a workspace; whether all of them are there.
+/// Adds a row for each series of a workspace. Returns whether all exist.
 bool addSeriesOfWorkspace(const std::string& path, const RowSource& source, BatchRun& run,
                           std::vector<ReportRow>& rows)
 {
@@ -58,7 +58,7 @@ void addModesOfEvolution(const std::string& path, const RowSource& source, Batch
         rows.push_back({mode, caseTextOf(evolution)});
 }
 
-/// Complains of each error once: series that draw the same mode have the same.
+/// Reports each error once: several series may draw the same mode.
 class Complaints
 {
 public:
@@ -78,7 +78,7 @@ private:
     std::set<std::string> m_errors;
 };
 
-/// The stability of each evolution that has a row, all its modes.
+/// The stability of the evolutions of all rows, with all their modes.
 StabilityReport stabilityOfRows(const std::vector<ReportRow>& rows, double damping,
                                 const std::optional<std::string>& mach)
 {
@@ -121,8 +121,7 @@ int runReport(const CommandLine& line, BatchRun& run)
     }
     const auto answerMach = [&mach](const AeMode& mode, std::string_view) {
         if (!mach)
-            throw Failure(shownPath(mode.Parent->path())
-                          + " holds no Mach number; give it with --mach");
+            throw Failure(shownPath(mode.Parent->path()) + " has no Mach number; use --mach");
         return std::optional(*mach);
     };
     Sheet sheet;
@@ -135,11 +134,11 @@ int runReport(const CommandLine& line, BatchRun& run)
 }
 
 constexpr std::array<OptionDescription, 6> options = {
-    {{"--reference-damping", "G",
-      "damping whose crossings are looked for;\n0 is the border of stability", true},
-     {"--speed-limit", "V", "speed up to which the maximum damping is looked for", true},
-     {"--mach", "M", "Mach number of the files that hold none"},
-     {"--modes", "LIST", "modes to report; all of them without this option"},
+    {{"--reference-damping", "G", "damping whose crossings are reported;\n0 is the stability limit",
+      true},
+     {"--speed-limit", "V", "upper limit of the speed for the maximum damping", true},
+     {"--mach", "M", "Mach number of the files without one"},
+     {"--modes", "LIST", "modes to report; default is all"},
      plotOption,
      {"--output", "OUTPUT", "the file to write, which ends in .xlsx or .csv", true}}};
 
@@ -147,23 +146,22 @@ constexpr std::array<OptionDescription, 6> options = {
 
 constinit const Command reportCommand {
     {"report", "FILE...", anyNumber, "writes the flutter table",
-     "Writes the flutter table: of each mode the maximum damping up to the speed\n"
+     "Writes the flutter table: for each mode the maximum damping up to the speed\n"
      "limit, and every crossing of the reference damping with its speed, frequency,\n"
      "altitude and first participation factor.\n"
      "\n"
-     "A workbook has a second sheet, \"Stability\": for each file where modes are unstable,\n"
-     "and how sure that is, as \"tarsil-batch crossings\" writes it.\n"
+     "A workbook has a second sheet, \"Stability\": where the modes of each file are unstable,\n"
+     "and how reliable that is, as written by \"tarsil-batch crossings\".\n"
      "\n"
-     "What cannot be computed of a mode, such as a crossing between two points of the\n"
-     "same speed, leaves its cells empty with a message; the rest is written, and the\n"
-     "exit status is 1.\n"
+     "A value that cannot be computed, such as a crossing between two points of equal\n"
+     "speed, leaves its cells empty with a message; the rest is written, and the exit\n"
+     "status is 1.\n"
      "\n"
-     "A workspace gives a row for each series of its plots, in their order, with the\n"
-     "legend text of the series as its case, and with the mass configuration and Mach\n"
-     "number that were edited in it. The files that it lists are looked for beside it\n"
-     "and below its folder when they have moved. A series whose file or mode is\n"
-     "missing is left out with a message; the rest is written, and the exit status\n"
-     "is 1.",
+     "A workspace gives a row for each series of its plots, in order, with the legend\n"
+     "text of the series as its case, and with mass configuration and Mach number as\n"
+     "edited in the workspace. Files that have moved are searched for beside it and\n"
+     "below its folder. A series whose file or mode is missing is left out with a\n"
+     "message; the rest is written, and the exit status is 1.",
      options},
     runReport};
 

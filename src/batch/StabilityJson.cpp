@@ -136,7 +136,7 @@ void writeMargin(JsonWriter& json, const Margin& margin)
     json.endObject();
 }
 
-/// A list of what `write` writes of each item of each root.
+/// Writes a list with an item for each element of each root.
 template <typename Items, typename Write>
 void writeList(JsonWriter& json, std::string_view name, const EvolutionStability& stability,
                Items LevelStretches::*items, Write write)

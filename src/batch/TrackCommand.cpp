@@ -27,7 +27,7 @@ std::int16_t modeNumber(std::string_view text)
     return number;
 }
 
-/// "A,B@KEAS".
+/// Parses "A,B@KEAS".
 ModeExchange exchangeOf(std::string_view text)
 {
     const std::vector<std::string_view> parts = split(text, '@');
@@ -90,7 +90,7 @@ void printJson(const EVM& evolution, const ModeTracking& tracking, std::ostream&
     out << '\n';
 }
 
-/// Where the tracked evolution goes: --output, or beside its source.
+/// The path of the tracked evolution: --output, or beside its source.
 std::string targetOf(const CommandLine& line, const std::string& source)
 {
     if (line.has("--output"))
@@ -108,7 +108,7 @@ int runTrack(const CommandLine& line, BatchRun& run)
     refuseOutputOverInput(target, source);
     const EVM& evolution = run.open(source);
     if (findFormat(evolution.FileName) != &ev2Format)
-        throw Failure(source + " is no evolution with sections (.ev2), which tracking needs");
+        throw Failure(source + " is not an evolution with sections (.ev2), which tracking needs");
     const TrackedEvolution tracked = trackEvolution(evolution, exchanges);
     if (isPrinted)
         printJson(evolution, tracked.tracking, run.out());
@@ -124,20 +124,20 @@ int runTrack(const CommandLine& line, BatchRun& run)
 }
 
 constexpr std::array<OptionDescription, 3> options = {
-    {{"--json", "", "prints moves and marks; without --output nothing is written"},
+    {{"--json", "", "prints moves and doubtful steps; without --output nothing\nis written"},
      {"--swap", "A,B@KEAS", "exchanges modes A and B above a speed, after the tracking", false,
       true},
      {"--output", "OUTPUT",
-      "the file to write, which ends in .ev2; without this option NAME_tracked.ev2\nbeside FILE"}}};
+      "the file to write, which ends in .ev2; default is\nNAME_tracked.ev2 beside FILE"}}};
 
 } // namespace
 
 constinit const Command trackCommand {
     {"track", "FILE", 1, "follows the roots where the labels of modes swap",
      "Writes an evolution whose modes follow the roots by continuity of their\n"
-     "eigenvalues. Numbers of points stay as they are; every exchange of two modes is a\n"
-     "modification in the header. Limits: coarse steps, pairs that veer, and pairs that\n"
-     "become static roots are marked and not decided.",
+     "eigenvalues. The numbers of the points stay as they are; each exchange of two modes\n"
+     "is a modification in the header. Coarse steps, veering pairs and pairs that become\n"
+     "static cannot be tracked safely: doubtful steps are flagged.",
      options},
     runTrack};
 

@@ -19,7 +19,7 @@ namespace {
 
 namespace keys = workspacekeys;
 
-/// Checks the bytes of one workspace against the record that its reader makes of them.
+/// Checks the bytes of a workspace against the record that the reader made of them.
 class WorkspaceChecker
 {
 public:
@@ -49,7 +49,7 @@ private:
     const std::string& m_path;
     WorkspaceReading m_reading;
     const WorkspaceRecord& m_record; ///< what could be read
-    std::vector<std::string> m_files; ///< where they were found
+    std::vector<std::string> m_files; ///< the paths at which they were found
     FindingList m_findings;
 };
 
@@ -73,8 +73,8 @@ void WorkspaceChecker::add(std::string_view section, std::string_view key, const
                    "[" + std::string(section) + "], " + std::string(key) + ": " + text);
 }
 
-/// Where reading ends, and whether the file does where it should. A value that is missing is looked
-/// for in its section, or else at the end of the file.
+/// Reports the error that ends reading, and a missing end of the file. A missing value is
+/// attributed to its section, or else to the end of the file.
 void WorkspaceChecker::checkReading()
 {
     const std::size_t end = std::max<std::size_t>(m_ini.lines(), 1);
@@ -95,7 +95,7 @@ void WorkspaceChecker::checkLength(std::string_view section, std::string_view ke
     const auto entry = m_ini.entry(section, key);
     if (entry && entry->value.size() > mostStoredBytes)
         add(section, key,
-            "the value has " + std::to_string(entry->value.size()) + " bytes; the format takes "
+            "the value has " + std::to_string(entry->value.size()) + " bytes; the limit is "
                 + std::to_string(mostStoredBytes));
 }
 
@@ -121,23 +121,22 @@ void WorkspaceChecker::checkLengthsOfPlot(const std::string& section, std::size_
         checkLength(section, keys::numbered(keys::series, i));
 }
 
-/// Values that only newer files hold, which nobody misses: those that are passed over, and those of
-/// which a field is cut.
+/// Reports further keys that are ignored or have a field that is cut.
 void WorkspaceChecker::checkFurtherValues()
 {
     for (const UnusedValue& value : m_reading.unusedValues)
-        add(value.section, value.key, "is passed over: " + value.why);
+        add(value.section, value.key, "is ignored: " + value.why);
     for (const LongValue& value : m_reading.cutValues) {
         const std::string_view key = value.key;
         const std::string_view name = key.substr(0, key.find('('));
         if (name == keys::referenceSpeed || name == keys::dampingLine || name == keys::edited)
             add(value.section, value.key,
-                "a text of it has " + std::to_string(value.bytes) + " bytes; the format takes "
+                "a text of it has " + std::to_string(value.bytes) + " bytes; the limit is "
                     + std::to_string(mostStoredBytes));
     }
 }
 
-/// The whole values: that a long one is cut when it is read is a finding of its own.
+/// Checks rich texts in full length: cutting a long value is a finding of its own.
 void WorkspaceChecker::checkRichTexts()
 {
     for (std::size_t j = 1; j <= m_record.plots.size(); ++j) {
@@ -145,14 +144,14 @@ void WorkspaceChecker::checkRichTexts()
         for (const std::string_view key : {keys::header, keys::mechanism, keys::legend}) {
             const auto entry = m_ini.entry(section, key);
             if (entry && isCutRtf(rtfFromStoredValue(entry->value)))
-                add(section, key, "the text ends before its last brace: it was cut");
+                add(section, key, "the text ends before its last brace: it is truncated");
         }
     }
 }
 
-/// A list that is shorter than its count is an error of reading, or its missing files are found
-/// elsewhere; here it can only be longer. The list that is being read when an error comes is not
-/// known to its end.
+/// Reports lists that are longer than their count. (A shorter list of plots or series is an error
+/// of the reader, and missing files are reported elsewhere.) The list being read when an error
+/// occurs is not checked.
 void WorkspaceChecker::checkCounts()
 {
     const bool isWhole = !m_reading.error;
@@ -162,7 +161,7 @@ void WorkspaceChecker::checkCounts()
     const auto line = m_ini.lineOfSection(keys::plotSection(plots + 1));
     if (isWhole && line)
         m_findings.add(*line,
-                       "[" + keys::plotSection(plots + 1) + "] is passed over: "
+                       "[" + keys::plotSection(plots + 1) + "] is ignored: "
                            + std::string(keys::plotCount) + " is " + std::to_string(plots));
     const std::size_t wholePlots = isWhole || plots == 0 ? plots : plots - 1;
     for (std::size_t j = 1; j <= wholePlots; ++j)
@@ -175,15 +174,14 @@ void WorkspaceChecker::checkCount(std::string_view section, std::string_view cou
 {
     const std::string next = keys::numbered(key, count + 1);
     if (m_ini.entry(section, next))
-        add(section, next,
-            "is passed over: " + std::string(countKey) + " is " + std::to_string(count));
+        add(section, next, "is ignored: " + std::string(countKey) + " is " + std::to_string(count));
 }
 
-/// An entry of the list of files that is counted and is not there, or says no path.
+/// Reports an entry of the file list that is counted but missing or empty.
 void WorkspaceChecker::addMissing(const std::string& key)
 {
     if (m_ini.entry(keys::evolutionFiles, key))
-        add(keys::evolutionFiles, key, "says no path");
+        add(keys::evolutionFiles, key, "has no path");
     else
         add(keys::evolutionFiles, keys::fileCount, "counts " + key + ", which is missing");
 }
@@ -195,7 +193,7 @@ void WorkspaceChecker::checkFiles()
         const std::string& stored = m_record.files[i];
         if (stored.empty())
             addMissing(key);
-        else if (m_files[i] != storedPlace(stored, m_path))
+        else if (m_files[i] != storedPath(stored, m_path))
             add(keys::evolutionFiles, key, stored + " is not there; it was found at " + m_files[i]);
         else if (!fileExists(m_files[i]))
             add(keys::evolutionFiles, key, stored + " is missing");
@@ -204,9 +202,9 @@ void WorkspaceChecker::checkFiles()
 
 void WorkspaceChecker::checkSeries(BatchRun& run)
 {
-    const auto report = [this](std::size_t place, const std::string& why) {
-        if (fileExists(m_files[place])) // the others are reported already
-            add(keys::evolutionFiles, keys::numbered(keys::file, place + 1), why);
+    const auto report = [this](std::size_t index, const std::string& why) {
+        if (fileExists(m_files[index])) // others are already reported
+            add(keys::evolutionFiles, keys::numbered(keys::file, index + 1), why);
     };
     const std::vector<EVM*> evolutions = openEvolutions(m_record.plots, m_files, run, report);
     for (std::size_t j = 0; j < m_record.plots.size(); ++j) {

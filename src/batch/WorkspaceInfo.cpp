@@ -39,7 +39,7 @@ std::string colorText(ColorValue color)
     return text;
 }
 
-/// The text of a box as the plot's box takes it: what names no font has the box's own.
+/// Converts the text of a box as the plot does: text without a font gets the font of the box.
 RichText richTextOf(const TextRecord& box)
 {
     return box.rtf ? readRtf(*box.rtf, TextFormat {}) : RichText {};
@@ -127,14 +127,14 @@ void writeSeries(JsonWriter& json, const SeriesRecord& series)
 }
 
 void writeMarks(JsonWriter& json, std::string_view name, std::string_view value,
-                const std::vector<MarkRecord>& marks)
+                const std::vector<ReferenceRecord>& references)
 {
     json.key(name);
     json.beginArray();
-    for (const MarkRecord& mark : marks) {
+    for (const ReferenceRecord& reference : references) {
         json.beginObject();
-        json.number(value, mark.value);
-        json.text("caption", mark.caption);
+        json.number(value, reference.value);
+        json.text("caption", reference.caption);
         json.endObject();
     }
     json.endArray();
@@ -179,9 +179,9 @@ void writeEdited(JsonWriter& json, const std::map<std::size_t, EditedRecord>& ed
 {
     json.key("edited");
     json.beginArray();
-    for (const auto& [place, record] : edited) {
+    for (const auto& [position, record] : edited) {
         json.beginObject();
-        json.number("evolution", std::to_string(place));
+        json.number("evolution", std::to_string(position));
         json.text("airplane", record.airplane);
         json.text("mass", record.mass);
         json.number("mach", record.mach);
@@ -220,14 +220,16 @@ void printSeries(const std::vector<SeriesRecord>& list, std::ostream& out)
               series.legendText);
 }
 
-void printMarks(const std::vector<MarkRecord>& marks, std::string_view name, std::ostream& out)
+void printReferences(const std::vector<ReferenceRecord>& references, std::string_view name,
+                     std::ostream& out)
 {
-    for (const MarkRecord& mark : marks)
+    for (const ReferenceRecord& reference : references)
         printLine(out, name,
-                  shortestText(mark.value) + (mark.caption.empty() ? "" : "  " + mark.caption));
+                  shortestText(reference.value)
+                      + (reference.caption.empty() ? "" : "  " + reference.caption));
 }
 
-/// The lines of the curves that do not look like those of a new one.
+/// Prints the lines of the curves that differ from the default.
 void printLooks(const std::vector<SeriesRecord>& list, std::ostream& out)
 {
     const SeriesRecord usual;
@@ -247,8 +249,8 @@ void printFiles(const WorkspaceRecord& record, std::ostream& out)
         printLine(out, "file " + std::to_string(i + 1),
                   file.empty() ? "not in the list" : plainLines(file));
     }
-    for (const auto& [place, edited] : record.edited)
-        printLine(out, "edited, file " + std::to_string(place),
+    for (const auto& [position, edited] : record.edited)
+        printLine(out, "edited, file " + std::to_string(position),
                   edited.airplane + ", " + edited.mass + ", Mach " + shortestText(edited.mach));
     if (record.reference > 0)
         printLine(out, "reference", "file " + std::to_string(record.reference));
@@ -264,8 +266,8 @@ void printPlot(const PlotRecord& plot, std::size_t number, std::ostream& out)
     printLine(out, "speed axis", axisText(plot.axes.speed));
     printLine(out, "frequency axis", axisText(plot.axes.frequency));
     printLine(out, "damping axis", axisText(plot.axes.damping));
-    printMarks(plot.referenceSpeeds, "reference speed", out);
-    printMarks(plot.dampingLines, "damping line", out);
+    printReferences(plot.referenceSpeeds, "reference speed", out);
+    printReferences(plot.dampingLines, "damping line", out);
     if (plot.breaksAtJumps)
         printLine(out, "curves", "break at jumps");
     printSeries(plot.series, out);

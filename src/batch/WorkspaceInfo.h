@@ -9,12 +9,13 @@ struct WorkspaceRecord;
 
 namespace tarsil::batch {
 
-// What a workspace holds: the record alone, so that none of its evolutions is needed.
+// Printing of the contents of a workspace. Only the record is used, so its evolutions are not
+// needed.
 
-/// Prints it as one JSON object "workspace". Line breaks of all texts are "\n", colours "#rrggbb".
+/// Prints one JSON object "workspace". Line breaks in texts are "\n", colours "#rrggbb".
 void printWorkspaceJson(const WorkspaceRecord& record, std::ostream& out);
 
-/// Prints it for people, under the name of its file.
+/// Prints the record for people, under the name of its file.
 void printWorkspaceText(const WorkspaceRecord& record, const std::string& name, std::ostream& out);
 
 } // namespace tarsil::batch

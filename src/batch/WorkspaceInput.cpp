@@ -20,8 +20,8 @@ namespace tarsil::batch {
 
 namespace {
 
-/// The plot of a number from 1; nothing when the text is no such number.
-std::optional<std::size_t> placeOfNumber(std::string_view text, std::size_t count)
+/// The index of a plot from its number, counted from 1; empty when the text is not a valid number.
+std::optional<std::size_t> indexOfNumber(std::string_view text, std::size_t count)
 {
     std::size_t number = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
@@ -34,7 +34,7 @@ std::optional<std::size_t> placeOfNumber(std::string_view text, std::size_t coun
 std::string plotList(const std::vector<PlotRecord>& plots)
 {
     if (plots.empty())
-        return "the workspace holds none";
+        return "the workspace has none";
     std::string list;
     for (std::size_t i = 0; i < plots.size(); ++i)
         list.append(list.empty() ? "there are " : ", ")
@@ -48,8 +48,8 @@ std::vector<PlotRecord> plotsAskedFor(const std::vector<PlotRecord>& plots,
 {
     if (!plot)
         return plots;
-    if (const auto place = placeOfNumber(*plot, plots.size()))
-        return {plots[*place]};
+    if (const auto index = indexOfNumber(*plot, plots.size()))
+        return {plots[*index]};
     const auto captioned = std::find_if(plots.begin(), plots.end(),
                                         [&plot](const auto& one) { return one.caption == *plot; });
     if (captioned == plots.end())
@@ -74,7 +74,7 @@ public:
     {
         const RunTimeError missing(ErrorNumber::FileNotFound, "tarsil-batch", path);
         m_report(index,
-                 path.empty() ? "the workspace does not say its path"
+                 path.empty() ? "the workspace has no path for it"
                               : m_run.readable(missing.description()));
     }
 
@@ -95,8 +95,7 @@ private:
     const OpeningReport& m_report;
 };
 
-/// Takes the series without a mode away from a plot, with a complaint for each that has a fault of
-/// its own.
+/// Removes the series without a mode from a plot, and complains about each that is faulty itself.
 void leaveOutFaults(PlotRecord& plot, const std::string& path, WorkspaceInput& input, BatchRun& run)
 {
     std::vector<SeriesRecord> sound;
@@ -139,7 +138,8 @@ void checkWorkspaceOptions(const CommandLine& line, const std::vector<std::strin
     }
     for (const std::string_view option : useless) {
         if (line.has(option))
-            throw UsageError(std::string(option) + ": the series of a workspace say that already");
+            throw UsageError(std::string(option)
+                             + ": already determined by the series of the workspace");
     }
 }
 
@@ -156,15 +156,15 @@ WorkspaceInput openWorkspace(const std::string& path, const std::optional<std::s
     input.files.insert(path);
     std::copy_if(files.begin(), files.end(), std::inserter(input.files, input.files.end()),
                  fileExists);
-    const auto complain = [&](std::size_t place, const std::string& why) {
+    const auto complain = [&](std::size_t index, const std::string& why) {
         input.isWhole = false;
-        run.complain(path + ": the series of modal evolution " + std::to_string(place + 1)
+        run.complain(path + ": the series of modal evolution " + std::to_string(index + 1)
                      + " are left out: " + why);
     };
     for (const Namesake& one : source.namesakes)
         run.complain(path + ": modal evolution " + std::to_string(one.position + 1) + ", "
                      + shownPath(one.stored) + ", is not there; " + shownPath(one.taken)
-                     + " is taken for its name alone");
+                     + " is used because of its name alone");
     input.evolutions = openEvolutions(input.plots, files, run, complain);
     applyEdited(record.edited, input.evolutions);
     for (PlotRecord& one : input.plots)
@@ -191,7 +191,7 @@ std::string faultOf(const SeriesRecord& series, const std::vector<EVM*>& evoluti
             + "; the workspace lists " + std::to_string(evolutions.size());
     case NamedMode::Fault::NoMode:
         return named.evolution->FileName + " has no mode at position " + std::to_string(series.mode)
-            + "; it holds " + std::to_string(named.evolution->Modes.size());
+            + "; it has " + std::to_string(named.evolution->Modes.size());
     }
     return {};
 }

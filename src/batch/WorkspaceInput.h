@@ -19,50 +19,49 @@ namespace tarsil::batch {
 
 class BatchRun;
 
-/// Whether a file name says that the file is a workspace: it ends in .tsw, in any case.
+/// Whether a file is a workspace by its name, which ends in .tsw, in any case.
 bool isWorkspace(std::string_view path);
 
-/// Whether there is one among these files.
+/// Whether one of the files is a workspace.
 bool hasWorkspace(const std::vector<std::string>& paths);
 
-/// The option that chooses a plot of a workspace, for commands that take one.
+/// The option that selects a plot of a workspace.
 inline constexpr OptionDescription plotOption {
     "--plot", "N|CAPTION",
-    "plot of a workspace: its number, from 1, or its caption;\nall of them without this option"};
+    "plot of a workspace: its number, from 1, or its caption;\ndefault is all"};
 
-/// UsageError for --plot without a workspace, and for one of these options with one, which has no
-/// use for it.
+/// Raises UsageError for --plot without a workspace, and for a useless option with one.
 void checkWorkspaceOptions(const CommandLine& line, const std::vector<std::string>& paths,
                            const std::vector<std::string_view>& useless);
 
-/// What a command takes of a workspace.
+/// The part of a workspace that a command uses.
 struct WorkspaceInput
 {
-    std::vector<PlotRecord> plots; ///< those asked for, with the series whose modes are there
-    std::vector<EVM*> evolutions; ///< as the workspace lists them; null where none is open
-    std::set<std::string> files; ///< the workspace and the files it lists, as far as they are there
-    bool isWhole = true; ///< whether no series had to be left out
+    std::vector<PlotRecord> plots; ///< the selected plots, with the series whose modes exist
+    std::vector<EVM*> evolutions; ///< as listed in the workspace; null where none is open
+    std::set<std::string> files; ///< the workspace and those of its files that exist
+    bool isWhole = true; ///< whether no series was left out
 };
 
-/// Opens a workspace and the evolutions that the series of its plots name: those of the plot asked
-/// for, by its number from 1 or else by its caption, or those of all plots. The evolutions have the
-/// parameters that were edited in the workspace. An evolution that is missing or cannot be read,
-/// and a series that names none or a mode that there is not, are complained of and left out.
-/// Errors: those of opening a file and of `readWorkspace`; Failure for a plot that there is not.
+/// Opens a workspace and the evolutions of the series of its plots: of the plot with the number
+/// (from 1) or else the caption `plot`, or of all plots. The evolutions get the parameters that
+/// were edited in the workspace. A missing or unreadable evolution, and a series whose evolution or
+/// mode does not exist, is reported and left out. Errors: those of opening a file and of
+/// `readWorkspace`; Failure for an unknown plot.
 WorkspaceInput openWorkspace(const std::string& path, const std::optional<std::string>& plot,
                              BatchRun& run);
 
-/// Receives the index in the workspace's list of a file that cannot be opened, and why.
+/// Receives the index of a file in the list of the workspace, and why it cannot be opened.
 using OpeningReport = std::function<void(std::size_t index, const std::string& why)>;
 
-/// Opens the evolutions that series of these plots name, each once. `files` are those of the
-/// workspace, as they were found; what cannot be opened is reported and stays null.
+/// Opens the evolutions of the series of these plots, each once. `files` are the paths at which the
+/// files of the workspace were found. An evolution that cannot be opened is reported and null.
 std::vector<EVM*> openEvolutions(const std::vector<PlotRecord>& plots,
                                  const std::vector<std::string>& files, BatchRun& run,
                                  const OpeningReport& report);
 
-/// What is wrong with the numbers of a series, as a sentence; empty when its mode is there, or when
-/// its evolution is not open.
+/// The fault in the numbers of a series as a sentence; empty when its mode exists or its evolution
+/// is not open.
 std::string faultOf(const SeriesRecord& series, const std::vector<EVM*>& evolutions);
 
 } // namespace tarsil::batch

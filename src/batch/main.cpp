@@ -12,7 +12,7 @@
 
 namespace {
 
-/// The toolkit's remarks on its surroundings are no concern of whoever draws a picture.
+/// Suppresses Qt's messages about its environment.
 void keepQuiet(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message)
 {
     if (type == QtCriticalMsg || type == QtFatalMsg)
@@ -25,7 +25,7 @@ int main(int argc, char** argv)
 try {
     tarsil::removeTemporariesOnSignals();
     const std::vector<std::string> arguments(argv + 1, argv + argc);
-    // Only pictures need fonts, and so the toolkit; they need no display in any case.
+    // Only pictures need fonts and so Qt Gui; no display is needed in any case.
     std::unique_ptr<QGuiApplication> application;
     if (tarsil::batch::drawsPicture(arguments)) {
         qInstallMessageHandler(keepQuiet);

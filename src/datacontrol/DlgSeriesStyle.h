@@ -12,7 +12,7 @@ namespace Ui {
 class dlgSeriesStyle;
 }
 
-/// How a curve's line looks.
+/// The look of a curve's line.
 struct LineLook
 {
     ColorValue color = 0;
@@ -22,7 +22,7 @@ struct LineLook
     bool operator==(const LineLook&) const = default;
 };
 
-/// The small editor for the line of one or several series.
+/// The dialog for the line of one or several series.
 class dlgSeriesStyle : public QDialog
 {
     Q_OBJECT
@@ -33,7 +33,7 @@ public:
 
     LineLook look() const;
 
-    /// As if the user had chosen that colour.
+    /// Sets a colour as if the user had chosen it.
     void setColor(ColorValue color);
 
 private:

@@ -9,7 +9,7 @@
 
 namespace tarsil {
 
-/// A curve without a line still has a colour, which its markers can have: a square of it.
+/// A curve without a line is shown as a square of its colour, which its markers may have.
 void drawLineSample(QPainter& painter, const QRect& rectangle, const Series& series)
 {
     constexpr int margin = 3;
@@ -36,7 +36,7 @@ void LineSampleDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
     if (row == nullptr)
         return;
     const QRect ground = option.rect.adjusted(2, 2, -2, -2);
-    painter->fillRect(ground, Qt::white); // as the plot's
+    painter->fillRect(ground, Qt::white); // as in the plot
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing, false);
     drawLineSample(*painter, ground, row->series);

@@ -6,7 +6,7 @@ namespace tarsil {
 
 struct Series;
 
-/// Draws the line of a series, as the plot draws its curve, across the middle of a rectangle.
+/// Draws the line of a series across the middle of a rectangle, as in the plot.
 void drawLineSample(QPainter& painter, const QRect& rectangle, const Series& series);
 
 /// Shows the lines of the series in a column of the grid.

@@ -36,7 +36,7 @@ SeriesColumn columnOf(const QModelIndex& index)
     return static_cast<SeriesColumn>(index.column());
 }
 
-/// The line of a series in words, for those who cannot see it.
+/// The line of a series in words, for screen readers.
 QString lineText(const Series& series)
 {
     const auto style = static_cast<std::size_t>(series.LineStyle);
@@ -56,13 +56,14 @@ QVariant warningIcon()
     return QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
 }
 
-/// Why the number of a row is red.
+/// The reason why the number of a row is red.
 QString missingModeText(const PlotRow& row)
 {
     return QString::fromStdString(mdlData::missingModeText(row));
 }
 
-/// What the cell does not show: the folder, the line in words, why a number is red.
+/// What the cell itself does not show: the folder, the line in words, the reason why a number is
+/// red.
 QVariant toolTip(const PlotRow& row, SeriesColumn column)
 {
     QString tip;
@@ -126,7 +127,7 @@ void SeriesGridModel::follow(const PlotRows& rows)
     followMoves(rows);
 }
 
-/// Rows have other numbers when rows were removed or moved before them.
+/// Updates persistent indices after rows were removed or moved.
 void SeriesGridModel::followMoves(const PlotRows& rows)
 {
     const auto renumber = [this](std::size_t first, std::size_t end) {
@@ -186,7 +187,7 @@ QVariant SeriesGridModel::data(const QModelIndex& index, int role) const
     if (shown == nullptr)
         return {};
     const SeriesColumn column = columnOf(index);
-    const bool isMarked = column == SeriesColumn::Mode && !shown->hasCurve();
+    const bool isMissing = column == SeriesColumn::Mode && !shown->hasCurve();
     switch (role) {
     case Qt::DisplayRole:
     case Qt::EditRole:
@@ -199,12 +200,12 @@ QVariant SeriesGridModel::data(const QModelIndex& index, int role) const
         return column == SeriesColumn::Index || column == SeriesColumn::Mode
             ? QVariant(static_cast<int>(Qt::AlignRight | Qt::AlignVCenter))
             : QVariant();
-    case Qt::DecorationRole: // seen in a selected cell, too, where the colour is that of selections
-        return isMarked ? warningIcon() : QVariant();
+    case Qt::DecorationRole: // also visible in selected cells, which hide the colour
+        return isMissing ? warningIcon() : QVariant();
     case Qt::AccessibleDescriptionRole:
-        return isMarked ? QVariant(missingModeText(*shown)) : QVariant();
+        return isMissing ? QVariant(missingModeText(*shown)) : QVariant();
     case Qt::ForegroundRole:
-        return isMarked ? QColor(Qt::red) : QVariant();
+        return isMissing ? QColor(Qt::red) : QVariant();
     default:
         return {};
     }

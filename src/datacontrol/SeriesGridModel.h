@@ -14,22 +14,22 @@ class UndoHistory;
 enum class SeriesColumn { Index, Evolution, Tag, Mode, Line, Legend };
 constexpr int seriesColumnCount = 6;
 
-/// The rows of a plot as rows of a grid: always the same rows, whoever changes them. What is
-/// selected follows its row. The number of a row that names no mode is marked.
+/// A model of the rows of a plot, which it always follows. The selection moves with its rows. A
+/// number that does not exist is flagged.
 class SeriesGridModel : public QAbstractTableModel
 {
     Q_OBJECT
 
 public:
-    /// What the user types goes through `history`, which must outlive the model.
+    /// Edits go through `history`, which must outlive the model.
     explicit SeriesGridModel(UndoHistory& history, QObject* parent = nullptr);
     ~SeriesGridModel() override;
 
-    /// Shows the rows of a plot, which must outlive that; null shows none.
+    /// Shows the rows of a plot, which must stay alive meanwhile; null shows none.
     void setPlot(EvmPlot* plot);
     EvmPlot* plot() const { return m_plot; }
 
-    /// Null for a row that is not there.
+    /// Null for an index outside the rows.
     const PlotRow* row(int index) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
@@ -41,13 +41,13 @@ public:
     Qt::DropActions supportedDropActions() const override;
 
 Q_SIGNALS:
-    /// The user has changed a cell of that column.
+    /// The user has changed a cell of this column.
     void edited(tarsil::SeriesColumn column);
 
-    /// What the user typed into a cell cannot stay there; the cell is as before.
+    /// A text was refused; the cell is unchanged.
     void refused(const QModelIndex& cell, const QString& text, const tarsil::RunTimeError& error);
 
-    /// Another plot is shown, or the plot has got its first row.
+    /// Another plot is shown, or the plot got its first row.
     void rowsReplaced();
 
 private:
@@ -59,7 +59,7 @@ private:
 
     UndoHistory& m_history;
     EvmPlot* m_plot = nullptr;
-    bool m_wasEmpty = true; ///< before the rows that are being added
+    bool m_wasEmpty = true; ///< whether there were no rows before an insertion
 };
 
 } // namespace tarsil

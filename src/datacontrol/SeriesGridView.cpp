@@ -17,7 +17,7 @@ namespace {
 constexpr int evolutionColumn = static_cast<int>(SeriesColumn::Evolution);
 constexpr int legendColumn = static_cast<int>(SeriesColumn::Legend);
 constexpr int leastLegendWidth = 80;
-constexpr int leastSectionWidth = 24; ///< the usual one has room for the widest of all letters
+constexpr int leastSectionWidth = 24; ///< the default fits the widest letter
 constexpr int indexColumn = static_cast<int>(SeriesColumn::Index);
 constexpr int modeColumn = static_cast<int>(SeriesColumn::Mode);
 constexpr int lineColumn = static_cast<int>(SeriesColumn::Line);
@@ -48,7 +48,7 @@ SeriesGridView::SeriesGridView(QWidget* parent) : QTableView(parent)
 
 void SeriesGridView::setModel(QAbstractItemModel* model)
 {
-    m_isFitting = true; // the widths of new columns are not the user's
+    m_isFitting = true; // width changes of new columns are not by the user
     QTableView::setModel(model);
     m_isFitting = false;
     connect(model, &QAbstractItemModel::modelReset, this, &SeriesGridView::measureAllNames);
@@ -67,8 +67,7 @@ void SeriesGridView::measureAllNames()
     addNames(0, model()->rowCount() - 1);
 }
 
-/// Only new names are measured, so that many rows that come one by one take no longer than all at
-/// once.
+/// Measures only the new names, so that adding rows one by one costs no more than all at once.
 void SeriesGridView::addNames(int first, int last)
 {
     for (int row = first; row <= last; ++row)
@@ -97,7 +96,7 @@ void SeriesGridView::resizeEvent(QResizeEvent* event)
     fitNames();
 }
 
-/// A scroll bar may come or go on the way, which leaves less room or more.
+/// Repeats, because a scroll bar may appear or disappear and change the available width.
 void SeriesGridView::fitNames()
 {
     if (m_hasUsersWidth || m_isFitting || model() == nullptr)
@@ -112,7 +111,7 @@ void SeriesGridView::fitNames()
     m_isFitting = false;
 }
 
-/// In a grid that is `width` wide.
+/// The width of the names in a grid that is `width` wide.
 int SeriesGridView::widthOfNames(int width) const
 {
     const QHeaderView& header = *horizontalHeader();
@@ -174,13 +173,13 @@ void SeriesGridView::commitEditor()
         return;
     for (auto* const editor : viewport()->findChildren<QLineEdit*>(Qt::FindDirectChildrenOnly)) {
         if (editor->isHidden())
-            continue; // one before, which goes soon
+            continue; // an earlier one, about to be deleted
         commitData(editor);
         closeEditor(editor, QAbstractItemDelegate::NoHint);
     }
 }
 
-/// What is being typed stays, whatever else in the grid is new.
+/// Does not overwrite text that is being typed.
 void SeriesGridView::dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
                                  const QList<int>& roles)
 {
@@ -190,7 +189,7 @@ void SeriesGridView::dataChanged(const QModelIndex& topLeft, const QModelIndex& 
         QTableView::dataChanged(topLeft, bottomRight, roles);
 }
 
-/// A double click on one of several selected lines is for all of them.
+/// Keeps the selection on a double click on one of several selected lines, which edits all of them.
 QItemSelectionModel::SelectionFlags SeriesGridView::selectionCommand(const QModelIndex& index,
                                                                      const QEvent* event) const
 {
@@ -208,7 +207,7 @@ void SeriesGridView::keyPressEvent(QKeyEvent* event)
     QTableView::keyPressEvent(event);
 }
 
-/// Whether the key is one of the grid's own.
+/// Handles the keys of the grid. False for other keys.
 bool SeriesGridView::handleKey(const QKeyEvent& event)
 {
     const bool isAlt = event.modifiers() == Qt::AltModifier;
@@ -261,7 +260,7 @@ int SeriesGridView::gapAt(QPoint position) const
     return index.row() + (isLowerHalf ? 1 : 0);
 }
 
-/// Accepted as a copy, so that Qt does not remove the rows that were dragged: a slot of the signal
+/// Accepts the drop as a copy, so that Qt does not remove the dragged rows: a slot of the signal
 /// moves them.
 void SeriesGridView::dropEvent(QDropEvent* event)
 {

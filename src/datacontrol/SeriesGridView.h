@@ -7,10 +7,10 @@
 
 namespace tarsil {
 
-/// The grid of series. Cells are selected as in a sheet; a row is dragged by its first column to
-/// another position. What the user wants is a signal; the view changes nothing itself.
-/// The column of the evolutions is as wide as their names are, as far as the other columns leave it
-/// room, until the user gives it a width; a name that is longer is shortened in its middle.
+/// The grid of series. Cells are selected as in a spreadsheet; a row is dragged by its first
+/// column. Commands are signals; the view itself changes nothing. The column of the evolutions is
+/// as wide as its names, as far as the other columns leave room, until the user sets its width; a
+/// longer name is shortened in the middle.
 class SeriesGridView : public QTableView
 {
     Q_OBJECT
@@ -18,30 +18,30 @@ class SeriesGridView : public QTableView
 public:
     explicit SeriesGridView(QWidget* parent = nullptr);
 
-    /// The rows with a selected cell, from 0 in increasing order.
+    /// The rows with a selected cell, in increasing order.
     std::vector<std::size_t> selectedRows() const;
 
-    /// The same, or the current row when nothing is selected.
+    /// The selected rows, or the current row when nothing is selected.
     std::vector<std::size_t> selectedOrCurrentRows() const;
 
-    /// Whether something is selected, and all of it in that column.
+    /// Whether cells are selected, all of them in this column.
     bool isSelectedOnlyIn(int column) const;
 
-    /// Selects the cells of a column in these rows, and makes the first current.
+    /// Selects the cells of a column in these rows and makes the first one current.
     void selectRows(const std::vector<std::size_t>& rows, int column);
 
-    /// Writes what is being typed into its cell, as Enter does.
+    /// Commits the text that is being typed, as Enter does.
     void commitEditor();
 
-    /// Lets the user go on with a text that its cell refused, as soon as the editor that it
-    /// was typed into has gone; unless the cell has gone, too.
+    /// Reopens the editor of a cell that refused a text, with that text, after the former editor
+    /// has closed. Does nothing if the cell has disappeared.
     void editAgain(const QModelIndex& cell, const QString& text);
 
-    /// The gap between rows, counted by the row after it, that is nearest to a position in the
-    /// viewport.
+    /// The gap between rows that is nearest to a position in the viewport, given by the index of
+    /// the row after it.
     int gapAt(QPoint position) const;
 
-    /// The text shown in the middle while there are no rows.
+    /// The text in the middle of an empty grid.
     void setPlaceholder(const QString& text) { m_placeholder = text; }
 
     void setModel(QAbstractItemModel* model) override;
@@ -55,10 +55,10 @@ Q_SIGNALS:
     void moveUpWanted();
     void moveDownWanted();
 
-    /// The selected rows were dropped into a gap between rows (see `gapAt`).
+    /// The selected rows were dropped into a gap (see `gapAt`).
     void rowsDropped(int gap);
 
-    /// The user wants the style of the selected rows.
+    /// The user asks for the style of the selected rows.
     void styleWanted();
 
 protected:
@@ -82,7 +82,8 @@ private:
     QString m_placeholder;
     std::multiset<int> m_nameWidths; ///< of all rows
     bool m_isFitting = false;
-    bool m_hasUsersWidth = false; ///< of the column of the evolutions
+    bool m_hasUsersWidth =
+        false; ///< whether the user set the width of the column of the evolutions
 };
 
 } // namespace tarsil

@@ -40,18 +40,18 @@ wndData::wndData(Document& document, UserInterface& user, QWidget* parent)
     : QWidget(parent), m_ui(makeForm(*this)), m_markers(*m_ui), m_model(document.history()),
       m_document(document), m_user(user)
 {
-    m_ui->txtLegIdx->home(false); // what it means is at its beginning
+    m_ui->txtLegIdx->home(false); // shows the start of the explanation
     setFocusProxy(m_ui->flxSerieViewer);
     connectGrid();
     connectButtons();
     connectOptions();
-    takeMarkers();
+    readMarkers();
     makeMoveMenu();
     fillMechanisms();
     connect(&m_document, &Document::airplaneChanged, this, &wndData::fillMechanisms);
     connect(&m_document.plots(), &PlotList::activeChanged, this,
             [this](EvmPlot* /*before*/, EvmPlot* now) {
-                commitEdits(); // belongs to the plot before
+                commitEdits(); // typed for the former plot
                 m_model.setPlot(now);
             });
     m_model.setPlot(m_document.plots().active());
@@ -79,7 +79,7 @@ void wndData::connectGrid()
         std::pair(SeriesColumn::Legend, 80)};
     for (const auto& [column, width] : widths)
         header.resizeSection(columnNumber(column), width);
-    header.setStretchLastSection(true); // from then on its width is the least one
+    header.setStretchLastSection(true); // from now on its width is a minimum
     connect(&grid, &SeriesGridView::removeWanted, this, runs(&wndData::cmdRemove_Click));
     connect(&grid, &SeriesGridView::raiseWanted, this, runs(&wndData::cmdIncMode_Click));
     connect(&grid, &SeriesGridView::lowerWanted, this, runs(&wndData::cmdDecMode_Click));
@@ -95,7 +95,7 @@ void wndData::connectGrid()
     connect(&m_model, &SeriesGridModel::refused, this, &wndData::askAgain);
 }
 
-/// The keys that follow are meant for the text that is wrong, and not for the row.
+/// The keys that follow are meant for the wrong text, not for the row.
 void wndData::askAgain(const QModelIndex& cell, const QString& text, const RunTimeError& error)
 {
     const QPersistentModelIndex refused(cell);
@@ -136,7 +136,7 @@ void wndData::connectOptions()
             runs(&wndData::mkspaceInp_LostFocus));
 }
 
-/// A click moves up; the menu has the other ways.
+/// A click moves up; the menu has the other commands.
 void wndData::makeMoveMenu()
 {
     auto* const menu = new QMenu(this);
@@ -186,7 +186,7 @@ EvmPlot* wndData::activePlot()
     return m_model.plot();
 }
 
-/// The reference evolution; null, after a message, when there is none.
+/// The reference evolution. Null, after a message, when there is none.
 const EVM* wndData::reference()
 {
     const EVM* const evolution = m_document.evolutions().reference();
@@ -195,7 +195,7 @@ const EVM* wndData::reference()
     return evolution;
 }
 
-/// None is chosen then.
+/// Leaves no mechanism selected.
 void wndData::fillMechanisms()
 {
     const QSignalBlocker quiet(m_ui->cmbFlutMech);

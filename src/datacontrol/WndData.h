@@ -21,23 +21,23 @@ class EVM;
 class EvmPlot;
 class UserInterface;
 
-/// The window "Data Control": the series of the active plot as a grid, their markers, and the
-/// plot's header, legend, subtitle, reference speeds and picture. A failure of one of its commands
-/// is reported in module "wndData".
+/// The window "Data Control": the series of the active plot as a grid, their markers, and header,
+/// legend, subtitle, reference speeds and picture of the plot. Failures of its commands are
+/// reported in module "wndData".
 class wndData : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// What is given by reference must outlive the window.
+    /// Arguments passed by reference must outlive the window.
     wndData(Document& document, UserInterface& user, QWidget* parent = nullptr);
     ~wndData() override;
 
-    /// Writes what is being typed in the grid into its cell, as Enter does.
+    /// Commits the text that is being typed in the grid, as Enter does.
     void commitEdits();
 
-    /// Selects the first row whose curve is a mode, by its number in the file. Nothing happens when
-    /// there is none.
+    /// Selects the first row whose curve is the mode with that number in the file. Does nothing
+    /// without such a row.
     void selectCurve(const EVM& evolution, std::int16_t mode);
 
     QSize sizeHint() const override;

@@ -26,7 +26,7 @@ LineLook lookOf(const Series& series)
     return {series.ColorIndex, series.LineStyle, series.LineWidth};
 }
 
-/// Changes what differs between two looks.
+/// Applies the differences between two looks.
 void changeLine(Series& series, const LineLook& before, const LineLook& now)
 {
     if (now.color != before.color)
@@ -51,7 +51,7 @@ void wndData::selectCurve(const EVM& evolution, std::int16_t mode)
     }
 }
 
-/// The rows become the series, and the plot is drawn; then one message names the modes that do not
+/// Applies the markers to all rows and draws the plot; then one message lists the modes that do not
 /// exist.
 void wndData::cmdDrawPlot_Click()
 {
@@ -59,14 +59,14 @@ void wndData::cmdDrawPlot_Click()
         changeAndPlot(tr("Plot"), [](EvmPlot&) {});
 }
 
-/// Changes the plot whose rows the grid shows, as one step that can be undone.
+/// Changes the plot shown in the grid as one undo step.
 void wndData::changePlot(const QString& name, const std::function<void(EvmPlot&)>& change)
 {
     EvmPlot& plot = *m_model.plot();
     m_document.history().change(name, [&] { change(plot); });
 }
 
-/// What is wrong in the marker options is reported before anything changes.
+/// Reports invalid marker options before it changes anything.
 void wndData::changeAndPlot(const QString& name, const std::function<void(EvmPlot&)>& change)
 {
     const MarkerOptions markers = m_markers.options();
@@ -115,8 +115,8 @@ void wndData::cmdDecMode_Click()
     });
 }
 
-/// The selected rows, or the current one, or the only one; the row after them is the next current
-/// one.
+/// Removes the selected rows, or the current one, or the only one. The row after them becomes
+/// current.
 void wndData::cmdRemove_Click()
 {
     SeriesGridView& grid = *m_ui->flxSerieViewer;
@@ -186,8 +186,8 @@ void wndData::btnResColor_Click()
         changePlot(tr("Reset Colors"), [](EvmPlot& plot) { mdlData::resetColors(plot.rows()); });
 }
 
-/// The colour, style and width of the lines of the selected rows; the first one says what they are.
-/// What the user leaves as it is stays in the others, too.
+/// Sets colour, style and width of the lines of the selected rows, starting from those of the
+/// first. What the user does not change stays in the other rows too.
 void wndData::chooseLine()
 {
     const std::vector<std::size_t> rows = m_ui->flxSerieViewer->selectedOrCurrentRows();
@@ -212,8 +212,8 @@ void wndData::takeMarkers()
     m_document.plots().setNewSeriesMarkers(m_markers.valid());
 }
 
-/// What the user changes here takes effect at once, and in all rows. Where rows have options of
-/// their own, those that he leaves as they are stay.
+/// Applies changed marker options at once to all rows. Options that the user does not change stay,
+/// even where rows differ.
 void wndData::applyMarkers()
 {
     const MarkerOptions before = m_markers.valid();
@@ -238,8 +238,8 @@ void wndData::showMarkers()
     m_document.plots().setNewSeriesMarkers(m_markers.valid());
 }
 
-/// What is rounded to 0 is refused as well. The box is as before when the message comes: the
-/// message makes the input lose the focus once more.
+/// Refuses a number that rounds to 0 too. The input is restored before the message, because the
+/// message makes it lose the focus again.
 void wndData::mkspaceInp_LostFocus()
 {
     if (m_markers.resetSpacing())

@@ -24,7 +24,7 @@ constexpr std::string_view module = "wndData";
 constexpr std::string_view pictureFilter =
     "Enhanced Windows Metafile (*.emf)|*.emf|All Files (*.*)|*.*|";
 
-/// The number in the input of the legend's index; the text after ":=" explains it.
+/// The number in the input of the legend index, without the explanation after ":=".
 std::int16_t legendIndexIn(const QLineEdit& input)
 {
     const std::string text = input.text().section(QStringLiteral(":="), 0, 0).toStdString();
@@ -93,7 +93,7 @@ void wndData::cmbFlutMech_Click()
     });
 }
 
-/// One message reports all entries that do not exist.
+/// Reports all entries that do not exist in one message.
 void wndData::btnFilltLeg_Click()
 {
     if (activePlot() == nullptr)
@@ -122,8 +122,8 @@ void wndData::btnPlotLeg_Click()
         warn(missing);
 }
 
-/// A dialog that is cancelled leaves the plot's caption as the name, and that is written.
-/// It has not asked before a file of that name is replaced, then.
+/// Cancelling the dialog does not cancel the command: the picture is written under the caption of
+/// the plot. No question is asked then before a file of that name is replaced.
 void wndData::SavePic_Click()
 {
     EvmPlot* const plot = activePlot();

@@ -20,17 +20,17 @@ namespace tarsil {
 
 class UserInterface;
 
-/// What has to be said of a workspace that is open.
+/// What is worth reporting after a workspace was opened.
 struct OpenedWorkspace
 {
     std::vector<Namesake> namesakes;
-    std::vector<LongValue> cutValues; ///< texts of which the file holds more
-    std::exception_ptr failure; ///< the first one, after which what could be read was opened
+    std::vector<LongValue> cutValues; ///< texts that the reader cut at their maximum length
+    std::exception_ptr failure; ///< the first error; what could be read is open all the same
 };
 
-/// What lives for the whole run: the modal evolutions, the plots that show them, the aircraft, and
-/// the texts of the workspace. The windows are views of it: they change it through its functions
-/// and follow its signals and those of its lists. It needs no window itself.
+/// The state of a run: modal evolutions, plots, aircraft, and the texts of the workspace. The
+/// windows are views: they change it through its functions and follow its signals and those of its
+/// lists. Needs no window.
 class Document : public QObject
 {
     Q_OBJECT
@@ -45,14 +45,14 @@ public:
     PlotList& plots() { return m_plots; }
     const PlotList& plots() const { return m_plots; }
 
-    /// What the user has changed. It begins anew with a new workspace.
+    /// The undo history of the document. Cleared by a new workspace.
     UndoHistory& history() { return m_history; }
 
-    /// Reads modal evolutions and appends those that were not open; returns these. The user is told
-    /// of each file that cannot be opened (`mdlMain::loadEvolutions`).
+    /// Reads modal evolutions and appends those not open yet; returns these. Shows a message for
+    /// each file that cannot be opened (`mdlMain::loadEvolutions`).
     std::vector<EVM*> load(const std::vector<std::string>& paths, UserInterface& user);
 
-    /// Removes an evolution, and its rows from all plots. Error 5 for one that is not there.
+    /// Removes an evolution, and its rows from all plots. Error 5 for an unknown evolution.
     void remove(EVM& evolution);
 
     const AirplaneInfo& airplane() const { return m_airplane; }
@@ -63,51 +63,52 @@ public:
     void setTexts(const WorkspaceTexts& texts);
     void setDescription(const QString& description);
 
-    /// A new, untitled workspace: no evolutions, one empty plot, which is active. Nothing is asked.
+    /// Starts a new, untitled workspace: no evolutions, one empty plot, which is active. Asks
+    /// nothing.
     void startNew();
 
-    /// Opens a workspace in place of what is there: all that can be read of it, with its evolutions
-    /// as far as they are found. The user is told of evolutions that are missing or cannot be read.
-    /// Errors: those of opening a file, and of one of which nothing can be read; then nothing has
-    /// changed.
+    /// Replaces the document by a workspace: everything readable in it, and its evolutions as far
+    /// as they are found. Shows messages about evolutions that are missing or unreadable. Errors:
+    /// those of opening a file, or of a file in which nothing is readable; nothing has changed
+    /// then.
     OpenedWorkspace open(const std::string& path, UserInterface& user);
 
-    /// Writes the workspace, whole or not at all, under the name of a user. Errors: those of
-    /// `writeWorkspace` and of writing a file; then nothing has changed.
+    /// Writes the workspace, whole or not at all, with `userName` as its author. Errors: those of
+    /// `writeWorkspace` and of writing a file; nothing has changed then.
     WrittenWorkspace save(const std::string& path, const std::string& userName);
 
-    /// Where the workspace was opened or saved; empty for an untitled one.
+    /// The path of the workspace; empty when untitled.
     const std::string& path() const { return m_path; }
 
-    /// Whether the file at `path` holds more than the document, or another thing: evolutions that
-    /// are not there, texts that were cut, damaged parts.
+    /// Whether the file at `path` contains more than the document: evolutions that are missing,
+    /// texts that were cut, damaged parts.
     bool isPartial() const { return m_isPartial; }
 
-    /// Opens a copy of a workspace that was never saved (`RecoveryCopy`) as an untitled one with
+    /// Opens the copy of an unsaved workspace (`RecoveryCopy`) as an untitled workspace with
     /// changes; otherwise as `open`.
     OpenedWorkspace recover(const std::string& copy, UserInterface& user);
 
-    /// Whether the workspace would be saved as something else than when it was last opened or
-    /// saved. What is being edited is committed first.
+    /// Whether the workspace differs from what was last opened or saved. Commits edits in progress
+    /// first.
     bool isChanged();
 
-    /// The same for what is in the document now, without what is being edited.
+    /// The opposite, without committing edits in progress.
     bool isSaved() const { return state() == m_saved; }
 
-    /// What is there now counts as saved.
+    /// Makes the present state the saved one.
     void markSaved();
 
-    /// The document as a workspace keeps it.
+    /// The document as a record of a workspace.
     WorkspaceRecord record() const;
 
 Q_SIGNALS:
     void textsChanged();
 
-    /// The workspace is about to be saved: plots get the size that the window gives them, so that
-    /// the positions of their boxes are those of the window.
+    /// The workspace is about to be saved. Plots are to be fitted to the window, so that the
+    /// positions of their boxes are those on the screen.
     void aboutToBeSaved();
 
-    /// The aircraft information may be another one.
+    /// The aircraft information has changed, or been read again.
     void airplaneChanged();
 
     /// The document is a new, untitled workspace.
@@ -123,13 +124,13 @@ private:
     EvmPlot& plotFor(std::size_t index, const QString& caption);
 
     EvolutionList m_evolutions;
-    PlotList m_plots; ///< refer to evolutions, and end before them
+    PlotList m_plots; ///< refer to evolutions, so destroyed before them
     UndoHistory m_history {*this};
     AirplaneInfo m_airplane;
     WorkspaceTexts m_texts;
     std::string m_path;
     bool m_isPartial = false;
-    WorkspaceRecord m_saved; ///< the state when it was last saved or opened
+    WorkspaceRecord m_saved; ///< the state when last opened or saved
 };
 
 } // namespace tarsil

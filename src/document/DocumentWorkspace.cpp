@@ -1,4 +1,4 @@
-// The document as a workspace file: opening, saving, and what has changed since.
+// The document as a workspace file: opening, saving, unsaved changes.
 
 #include "base/files/AtomicFile.h"
 #include "base/files/PathNames.h"
@@ -28,7 +28,7 @@ QString workspaceNameOf(const std::string& path)
     return name.remove(QStringLiteral(".tsw"));
 }
 
-/// Runs an action; keeps its exception unless there is one already.
+/// Runs an action; keeps its exception unless `failure` has one already.
 void keepFirstFailure(std::exception_ptr& failure, const std::function<void()>& action)
 {
     try {
@@ -39,7 +39,7 @@ void keepFirstFailure(std::exception_ptr& failure, const std::function<void()>& 
     }
 }
 
-/// A count without its list is nothing.
+/// Whether a record is empty. A number of files without their paths does not count.
 bool holdsNothing(const WorkspaceRecord& record)
 {
     return record.plots.empty()
@@ -49,7 +49,7 @@ bool holdsNothing(const WorkspaceRecord& record)
 
 } // namespace
 
-/// What is being typed into a text box belongs to its plot.
+/// Commits the text that is being typed into a box.
 void Document::commitEdits()
 {
     for (EvmPlot* const plot : m_plots.all())
@@ -75,8 +75,8 @@ WorkspaceRecord Document::record() const
     return record;
 }
 
-/// What the user has made: a box that nobody moved is where the size of the window puts it, which
-/// is no change.
+/// The record without the positions of boxes that follow from the layout: a change of the window's
+/// size is not a change of the document.
 WorkspaceRecord Document::state() const
 {
     WorkspaceRecord state = record();
@@ -141,7 +141,7 @@ OpenedWorkspace Document::recover(const std::string& copy, UserInterface& user)
     return opened;
 }
 
-/// The evolutions in the order of the list as it was saved, null for each that is not there.
+/// The evolutions in the order of the saved list, null for a missing one.
 std::vector<EVM*> Document::loadListed(const WorkspaceSource& source, UserInterface& user)
 {
     const WorkspaceRecord& record = source.reading.record;
@@ -153,8 +153,8 @@ std::vector<EVM*> Document::loadListed(const WorkspaceSource& source, UserInterf
     return std::move(loaded.listed);
 }
 
-/// Makes the plots and draws them, all that is possible. Returns the first failure, which may be
-/// the one before.
+/// Creates and draws the plots as far as possible. Returns the first failure, starting with
+/// `failure`.
 std::exception_ptr Document::applyPlots(const std::vector<PlotRecord>& records,
                                         const std::vector<EVM*>& evolutions,
                                         std::exception_ptr failure)
@@ -167,7 +167,7 @@ std::exception_ptr Document::applyPlots(const std::vector<PlotRecord>& records,
     return failure;
 }
 
-/// The first plot, which is always there, becomes the first of the file; the others are new.
+/// The first plot always exists and becomes the first of the file; the others are added.
 EvmPlot& Document::plotFor(std::size_t index, const QString& caption)
 {
     if (index > 0)

@@ -8,8 +8,8 @@
 
 namespace tarsil {
 
-/// The open modal evolutions of a document, in load order, and the reference evolution. The list
-/// owns them, together with whoever wants to put back one that has left it.
+/// The open modal evolutions of a document in load order, and the reference evolution. Shares the
+/// ownership with the undo history, which can put a removed evolution back.
 class EvolutionList : public QObject
 {
     Q_OBJECT
@@ -22,28 +22,28 @@ public:
 
     bool contains(const EVM* evolution) const;
 
-    /// Appends evolutions, and announces them together.
+    /// Appends evolutions with one signal.
     void add(OwnedEvolutions evolutions);
 
     /// Null when there is none.
     EVM* reference() const { return m_reference; }
 
-    /// Null for none. Error 5 for an evolution that is not in the list.
+    /// Null for none. Error 5 for an evolution outside the list.
     void setReference(EVM* evolution);
 
-    /// Changes the parameters that users may change. Nothing happens when they are the same.
+    /// Changes the parameters that users can edit. Does nothing when they are equal.
     void setParameters(EVM& evolution, const EditableParam& parameters);
 
-    /// Makes points and modifications those of another state of its file, which has the same modes
-    /// and points; rows of plots keep their modes. Error 5 for another file.
+    /// Copies points and modifications from another state of the file with the same modes and
+    /// points; rows of plots keep their modes. Error 5 for another file.
     void takePoints(EVM& evolution, const EVM& state);
 
-    /// Inserts those of `evolutions` that are not in the list, each after its predecessor there;
-    /// the others stay where they are.
+    /// Inserts those of `evolutions` that are not in the list, each after its predecessor in
+    /// `evolutions`.
     void putBack(const OwnedEvolutions& evolutions);
 
-    /// Removes an evolution; it is the reference evolution no longer. Error 5 for one that is not
-    /// in the list. Rows of plots that show it are for `Document::remove` to remove.
+    /// Removes an evolution from the list; it is no longer the reference evolution. Error 5 for one
+    /// outside the list. Does not touch rows of plots (see `Document::remove`).
     void remove(EVM& evolution);
 
     /// Removes all evolutions that are not in `kept`.
@@ -53,13 +53,13 @@ public:
     void clear() { removeOthers({}); }
 
 Q_SIGNALS:
-    /// Evolutions are in the list: the last ones, in this order, unless they were put back.
+    /// Evolutions were added: at the end in this order, unless they were put back.
     void added(const std::vector<tarsil::EVM*>& evolutions);
 
-    /// Evolutions leave the list when all have heard of it; they may come back.
+    /// Evolutions are about to leave the list; they may be put back.
     void aboutToBeRemoved(const std::vector<tarsil::EVM*>& evolutions);
 
-    /// Another evolution is the reference evolution, or none (null).
+    /// The reference evolution has changed; null for none.
     void referenceChanged(tarsil::EVM* before, tarsil::EVM* now);
 
     void parametersChanged(tarsil::EVM* evolution);

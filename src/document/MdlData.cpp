@@ -15,7 +15,7 @@ namespace tarsil::mdlData {
 
 namespace {
 
-/// Rows that are neighbours.
+/// Consecutive rows.
 struct Block
 {
     std::size_t first;
@@ -36,7 +36,7 @@ std::vector<Block> blocksOf(const Indices& rows)
     return blocks;
 }
 
-/// `to` is the index of the first row afterwards.
+/// `to` is the index of the first row after the move.
 void moveBlock(EvmPlot& plot, const Block& block, std::size_t to)
 {
     plot.SerieMove(block.first + 1, to + 1, block.count);
@@ -99,8 +99,8 @@ void resetColors(PlotRows& rows)
               [&row](Series& look) { setColor(look, BaseColors[row++ % BaseColors.size()]); });
 }
 
-/// From the last to the first when they go down and the other way when they go up, so that no move
-/// changes the index of one that is still to come.
+/// Moves blocks downwards from the last to the first, and upwards from the first to the last, so
+/// that no move changes the index of a later one.
 void moveRows(EvmPlot& plot, const Indices& moved, std::size_t target)
 {
     const auto middle = std::lower_bound(moved.begin(), moved.end(), target);

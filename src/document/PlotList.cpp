@@ -14,9 +14,9 @@ namespace tarsil {
 
 namespace {
 
-constexpr const char* module = "wndEvolPlot"; // whose array the plots are
+constexpr const char* module = "wndEvolPlot"; // the window whose array of plots this was
 
-/// An index counted from 1, as captions show it.
+/// The index as shown in captions, counted from 1.
 QString numberText(int index)
 {
     return QString::number(index + 1);
@@ -97,7 +97,7 @@ void PlotList::remove(EvmPlot& plot)
     if (&plot == m_active)
         activate(std::prev(element)->plot.get());
     Q_EMIT aboutToBeRemoved(&plot);
-    m_plots.erase(find(&plot)); // plots may have been added meanwhile
+    m_plots.erase(find(&plot)); // a slot may have added plots
 }
 
 void PlotList::putBack(const Element& element)
@@ -119,7 +119,7 @@ bool PlotList::rename(EvmPlot& plot, const QString& caption)
     return true;
 }
 
-/// The rows go first, unseen: whoever called may end their evolutions next.
+/// Clears the rows first, without drawing: the caller may delete their evolutions next.
 void PlotList::startNew()
 {
     for (const Element& element : m_plots)
@@ -174,7 +174,7 @@ bool PlotList::isTaken(const QString& caption, const EvmPlot& plot) const
     });
 }
 
-/// The caption, with the first number from 2 on that no other plot has when it is taken.
+/// The caption, with the first number from 2 on that makes it unique.
 QString PlotList::uniqueCaption(const QString& caption, const EvmPlot& plot) const
 {
     QString unique = caption;

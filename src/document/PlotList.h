@@ -14,11 +14,11 @@ namespace tarsil {
 
 class EvmPlot;
 
-/// The plots of a document, in the order of their indices. Index 0 is "Plot1", which is always
-/// there. At most one plot is active: it is the only visible one, and what every command on "the
-/// plot" means. No two plots have the same caption. A new list has no active plot.
+/// The plots of a document by index. Index 0 is "Plot1", which always exists. At most one plot is
+/// active: it is the only visible one, and commands on "the plot" mean it. Captions are unique. A
+/// new list has no active plot.
 ///
-/// The list owns its plots, together with whoever wants to put back one that has left it.
+/// Shares the ownership of plots with the undo history, which can put a removed plot back.
 class PlotList : public QObject
 {
     Q_OBJECT
@@ -29,13 +29,13 @@ public:
 
     struct Element
     {
-        int index = 0; ///< which the plot keeps for life
+        int index = 0; ///< constant for a plot
         std::shared_ptr<EvmPlot> plot;
     };
 
     const std::vector<Element>& elements() const { return m_plots; }
 
-    /// All plots in the order of their indices.
+    /// All plots by index.
     std::vector<EvmPlot*> all() const;
 
     /// The plot of index 0.
@@ -46,51 +46,52 @@ public:
     /// Null when no plot is active.
     EvmPlot* active() const { return m_active; }
 
-    /// Hides the active plot and shows `plot` instead; null leaves no plot active. Error 5 for a
-    /// plot that is not in the list.
+    /// Hides the active plot and shows `plot`; null activates none. Error 5 for a plot outside the
+    /// list.
     void activate(EvmPlot* plot);
 
-    /// The axes of plots that are made from now on; those that are there, and copies, keep theirs.
+    /// The axes of plots that will be added. Existing plots and copies keep theirs.
     void setNewPlotAxes(const PlotAxes& axes) { m_newPlotAxes = axes; }
     const PlotAxes& newPlotAxes() const { return m_newPlotAxes; }
 
-    /// The markers of series that the user adds from now on; nothing for those of a new series.
+    /// The markers of series that the user will add; empty for the defaults of a series.
     void setNewSeriesMarkers(const MarkerOptions& markers) { m_newSeriesMarkers = markers; }
     const std::optional<MarkerOptions>& newSeriesMarkers() const { return m_newSeriesMarkers; }
 
-    /// Appends a plot with the index after the highest one in use and does not activate it. An
-    /// empty caption becomes "Plot" and the index counted from 1: "Plot2". A caption that another
-    /// plot has gets a number: "Wing(2)". Error 6 "Overflow" for an index above 32767.
+    /// Appends a plot with the index after the highest in use; does not activate it. An empty
+    /// caption becomes "Plot" and the index counted from 1: "Plot2". A caption in use gets a
+    /// number: "Wing(2)". Error 6 "Overflow" for an index above 32767.
     EvmPlot& add(const QString& caption);
 
-    /// Appends a copy of the active plot (`EvmPlot::Clone`: without its series; with the text that
-    /// is being edited) as `add` does. An empty caption becomes the active plot's with the index
-    /// of the copy: "Plot1(2)". Error 91 when no plot is active.
+    /// Appends a copy of the active plot as `add` does (`EvmPlot::Clone`: without its series, with
+    /// edits in progress). An empty caption becomes that of the active plot with the index of the
+    /// copy: "Plot1(2)". Error 91 when no plot is active.
     EvmPlot& copyActive(const QString& caption);
 
-    /// Removes a plot; its predecessor becomes active when it was. Error 5 for the plot of index 0
-    /// and for one that is not in the list.
+    /// Removes a plot from the list. If it was active, the plot before it becomes active. Error 5
+    /// for the plot of index 0 and for one outside the list.
     void remove(EvmPlot& plot);
 
-    /// Inserts a plot that has left the list at its index. Nothing happens when it is there.
+    /// Puts a removed plot back at its index. Does nothing when it is in the list.
     void putBack(const Element& element);
 
     /// Gives a plot another caption; a blank one changes nothing. False, and nothing changes, when
     /// another plot has that caption.
     bool rename(EvmPlot& plot, const QString& caption);
 
-    /// Leaves the plot of index 0 alone, empty and as new, and activates it. Nothing is drawn.
+    /// Removes all plots but the first, empties and resets that one, and activates it. Does not
+    /// draw.
     void startNew();
 
 Q_SIGNALS:
-    /// Another plot is active, or none (null); both still exist.
+    /// The active plot has changed; null for none. Both plots still exist.
     void activeChanged(tarsil::EvmPlot* before, tarsil::EvmPlot* now);
 
-    /// A plot is in the list, with its caption.
+    /// A plot was added, with its caption.
     void added(tarsil::EvmPlot* plot);
 
-    /// A plot, which is not active any more, leaves the list when all have heard of it. Views of
-    /// it end now; it may come back.
+    /// A plot, which is not active any more, is about to leave the list. Its views are to be
+    /// deleted; the plot may be put back.
     void aboutToBeRemoved(tarsil::EvmPlot* plot);
 
 private:

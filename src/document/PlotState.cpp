@@ -16,7 +16,7 @@ void restoreAxes(EvmPlot& plot, const PlotState& state)
         plot.setAxes(state.axes);
 }
 
-/// The text and look of a box, and of its position what does not follow from the layout.
+/// The state of a box without the coordinates that follow from the layout.
 emfRichTextBox::State boxStateOf(const EvmPlot& plot, TextBox box)
 {
     emfRichTextBox::State state = plot.parts().box(box).state();

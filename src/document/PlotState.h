@@ -14,11 +14,12 @@ namespace tarsil {
 
 class EvmPlot;
 
-/// Everything of a plot that a user can change, apart from its rows.
+/// Everything in a plot that a user can change, except its rows, as a value.
 struct PlotState
 {
-    std::array<emfRichTextBox::State, allTextBoxes.size()> boxes; ///< as `allTextBoxes`
-    PropertyBag properties; ///< caption and what else (`EvmPlot::WriteProperties`)
+    std::array<emfRichTextBox::State, allTextBoxes.size()>
+        boxes; ///< in the order of `allTextBoxes`
+    PropertyBag properties; ///< `PlotProperties::WriteProperties`
     PlotAxes axes;
     std::vector<RefThick> referenceSpeeds;
     std::vector<RefLine> dampingLines;
@@ -28,7 +29,7 @@ struct PlotState
 
 PlotState stateOf(const EvmPlot& plot);
 
-/// Makes a plot what it was; nothing is drawn. What is as it was is left alone.
+/// Gives a plot an earlier state; does not draw. Parts that do not differ are not touched.
 void restore(EvmPlot& plot, const PlotState& state);
 
 } // namespace tarsil

@@ -24,7 +24,7 @@ std::int16_t ticks(float count, const FlutterMechanism& mechanism, std::string_v
                                 + mechanism.ShortName);
 }
 
-/// Each line is searched after the one before it, so that two equal lines get their own colours.
+/// Searches each line after the one before it, so that equal lines get their own colours.
 void colorLines(emfRichTextBox& box, const QStringList& lines,
                 const std::vector<ColorValue>& colors)
 {
@@ -78,7 +78,7 @@ void markEnvelope(EvmPlot& plot, const EVM& evolution, const AirplaneInfo& airpl
                            "no flutter envelope for Mach number "
                                + envelopeName(evolution.Param.Mach) + where);
     }
-    // The blanks set the captions off from each other where the speeds are close.
+    // Blanks keep captions apart whose speeds are close.
     plot.marks().RemoveRef();
     plot.marks().AddRef(envelope->Ceiling, QString::fromStdString(airplane.CeTag));
     plot.marks().AddRef(envelope->Vd, QString::fromStdString(airplane.VdTag + "    "));

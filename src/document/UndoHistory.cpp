@@ -9,7 +9,7 @@
 
 namespace tarsil {
 
-/// One change of the document, which was made when the step comes to the stack.
+/// A change of the document, already made when the step is pushed.
 class UndoHistory::Step : public QUndoCommand
 {
 public:

@@ -13,21 +13,20 @@ namespace tarsil {
 
 class Document;
 
-/// What the user has changed in a document, step by step, and what he has undone: evolutions with
-/// their parameters, plots with their rows, texts, axes, reference speeds and damping lines, and
-/// the description of the workspace. A step keeps what the document was before and afterwards, so
-/// that undoing is exact whatever the command did.
+/// The undo history of a document: evolutions with their parameters, plots with their rows, texts,
+/// axes, reference speeds and damping lines, and the description of the workspace. A step stores
+/// the states before and after, so undo is exact whatever a command did.
 ///
-/// Evolutions and plots that have left the document live on for as long as a step refers to them.
+/// A step shares the ownership of the evolutions and plots it refers to, also of removed ones.
 class UndoHistory
 {
 public:
     using Change = std::function<void()>;
 
-    /// What becomes of a change that has the name of the step before.
+    /// Whether a change joins the last step if it has the same name and active plot.
     enum class Joining {
-        No, ///< a step of its own
-        Yes ///< part of that step, as the digits of one typed number
+        No, ///< a separate step
+        Yes ///< part of the last step, like the digits of a typed number
     };
 
     /// `document` must outlive the history.
@@ -36,25 +35,22 @@ public:
     UndoHistory(const UndoHistory&) = delete;
     UndoHistory& operator=(const UndoHistory&) = delete;
 
-    /// Changes the document by a function; all that it does is one step, called `name` ("Raise
-    /// Modes"). A function that changes nothing makes no step, and one within another belongs to
-    /// the step of that one. When it throws, the document is as it was before, no step is made, and
-    /// the error goes on.
+    /// Runs `change` and records its effect as one step with that name ("Raise Modes"). No effect
+    /// makes no step; a nested call belongs to the outer step. If `change` throws, the document is
+    /// restored, no step is made, and the exception is passed on.
     void change(const QString& name, const Change& change, Joining joining = Joining::No);
 
-    /// Makes a step called `name` of all that has changed since the last one. It is for commands
-    /// that keep what they have done when they fail half-way, and for what the user does in several
-    /// movements.
+    /// Records everything changed since the last step as a step with that name. For commands that
+    /// keep what they did before an error, and for changes made of several movements.
     void note(const QString& name, Joining joining = Joining::No);
 
-    /// Takes the last step back, so that the document is exactly what it was before.
+    /// Undoes the last step: the document becomes exactly what it was before.
     void undo();
 
-    /// Makes the step again that was undone last. Nothing happens when the document has changed
-    /// since.
+    /// Redoes the step undone last. Does nothing when the document has changed since.
     void redo();
 
-    /// Forgets all steps: the document is another one.
+    /// Removes all steps.
     void clear();
 
     /// The steps with their names.

@@ -8,29 +8,29 @@
 
 namespace tarsil {
 
-/// An entry of a workspace's list of files for which a file was taken that has nothing in common
-/// with it but the name. It may be another run's, and its curves would be wrong.
+/// An entry of a workspace's file list for which a file was found that shares only the name. It may
+/// belong to another run, and its curves would be wrong.
 struct Namesake
 {
-    std::size_t position; ///< in the list, from 0
+    std::size_t position; ///< index in the list
     std::string stored;
     std::string taken;
 };
 
-/// A workspace file: what could be read of it, and where the files are that it lists.
+/// A workspace file: what could be read of it, and the paths of the listed files.
 struct WorkspaceSource
 {
     std::string path;
     WorkspaceReading reading;
-    std::vector<std::string> files; ///< those of the list, as `foundFiles` gives them
+    std::vector<std::string> files; ///< the listed files, as returned by `foundFiles`
     std::vector<Namesake> namesakes;
 };
 
-/// Reads a workspace file and looks for the files that it lists. Errors: those of opening a file;
-/// an error of the contents is in the reading.
+/// Reads a workspace file and finds the files that it lists. Errors: those of opening a file; an
+/// error in the contents is part of the reading.
 WorkspaceSource readWorkspaceSource(const std::string& path);
 
-/// Reads the record of a workspace alone. Errors: those of opening a file and of `readWorkspace`.
+/// Reads only the record of a workspace. Errors: those of opening a file and of `readWorkspace`.
 WorkspaceRecord readWorkspaceFile(const std::string& path);
 
 } // namespace tarsil

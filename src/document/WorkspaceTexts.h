@@ -4,13 +4,13 @@
 
 namespace tarsil {
 
-/// What a workspace says about itself.
+/// The texts of a workspace about itself.
 struct WorkspaceTexts
 {
-    QString name; ///< that of its file without the extension, or of a workspace without a file
+    QString name; ///< the file name without extension, or the name of an untitled workspace
     QString description;
-    QString dateCreated; ///< as `dateText` writes it; from a file, as the file has it
-    QString dateModified; ///< empty until it is saved
+    QString dateCreated; ///< in the form of `dateText`, or as the file has it
+    QString dateModified; ///< empty until saved
 
     bool operator==(const WorkspaceTexts&) const = default;
 };

@@ -17,8 +17,8 @@ int hundredths(int pixels)
     return static_cast<int>(std::lround(pixels * emfdevice::hundredthsPerPixel));
 }
 
-/// The bounds in hundredths of a millimetre. Where nothing is drawn they stay what they are: the
-/// last column and row before the first.
+/// The bounds in hundredths of a millimetre. Empty bounds are returned as they are, with the last
+/// column and row before the first.
 QRect frameOf(const QRect& bounds)
 {
     if (bounds.isEmpty())
@@ -27,7 +27,7 @@ QRect frameOf(const QRect& bounds)
             QPoint(hundredths(bounds.right()), hundredths(bounds.bottom()))};
 }
 
-/// The description and two zeros behind it; nothing when there is none.
+/// The description followed by two zeros; empty when there is none.
 std::u16string descriptionText(const QString& description)
 {
     std::u16string text = wellFormed(description);

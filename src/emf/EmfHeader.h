@@ -9,17 +9,17 @@
 
 namespace tarsil {
 
-/// What the first record of a metafile says of the whole.
+/// The contents of the first record, which describes the whole metafile.
 struct EmfHeader
 {
     QString description;
-    QRect bounds {}; ///< pixels that are drawn, last column and row included; null when none is
+    QRect bounds {}; ///< drawn pixels, last column and row included; null when none
     std::uint32_t bytes = 0;
     std::uint32_t records = 0;
-    std::uint32_t handles = 1; ///< highest object index and one, as index 0 is reserved
+    std::uint32_t handles = 1; ///< highest object index plus one; index 0 is reserved
 };
 
-/// The record; its size depends on nothing but the description.
+/// The header record. Its size depends only on the description.
 EmfRecord headerRecord(const EmfHeader& header);
 
 } // namespace tarsil

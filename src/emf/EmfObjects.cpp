@@ -18,12 +18,12 @@ constexpr int normalWeight = 400;
 constexpr int boldWeight = 700;
 constexpr std::uint32_t defaultCharset = 1;
 constexpr std::uint32_t symbolCharset = 2;
-constexpr std::size_t faceUnits = 32; ///< the zero behind the name included
-/// Full name, style, version and panose of the font: unknown, and players do without.
+constexpr std::size_t faceUnits = 32; ///< with the final zero
+/// Full name, style, version and panose of the font: left 0, which players accept.
 constexpr int extraWords = 57;
 } // namespace logfont
 
-/// The face name as it fits into a font, shortened between characters; never none.
+/// The family name for a font record, shortened at a character boundary; never empty.
 std::u16string faceName(const QString& family)
 {
     std::u16string name = wellFormed(family);
@@ -38,7 +38,7 @@ std::u16string faceName(const QString& family)
     return name;
 }
 
-/// Faces whose characters are signs of their own have a character set of their own.
+/// Symbol fonts have their own character set.
 std::uint32_t charsetOf(const QString& family)
 {
     const bool isSymbols = family.compare(QStringLiteral("Symbol"), Qt::CaseInsensitive) == 0
@@ -67,11 +67,11 @@ EmfRecord fontRecord(const Font& font)
     std::u16string face = faceName(font.family);
     face.resize(logfont::faceUnits);
     EmfRecord record(EmfType::CreateFont);
-    record.add(0).add(-pixelSize(font)).addZeros(3); // natural width, not turned
+    record.add(0).add(-pixelSize(font)).addZeros(3); // natural width, not rotated
     record.add(font.bold ? logfont::boldWeight : logfont::normalWeight);
     record.add(std::uint32_t {font.italic} | std::uint32_t {font.underline} << 8
                | std::uint32_t {font.strikeOut} << 16 | charsetOf(font.family) << 24);
-    record.add(0); // precision, quality and pitch as the player likes
+    record.add(0); // precision, quality and pitch left to the player
     return record.addText(face).addZeros(logfont::extraWords);
 }
 

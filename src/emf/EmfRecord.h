@@ -13,7 +13,7 @@ class QString;
 
 namespace tarsil {
 
-/// The records that a metafile here is made of, by their numbers in the file.
+/// The record types used here, with their numbers in the file.
 enum class EmfType : std::uint32_t {
     Header = 1,
     Polyline = 4,
@@ -37,20 +37,19 @@ enum class EmfType : std::uint32_t {
     Polyline16 = 87
 };
 
-/// The device that coordinates are pixels of: 96 per inch exactly, whatever the screen is, so that
-/// a picture has the same size in every program that shows it.
+/// The reference device. Coordinates are its pixels, exactly 96 per inch whatever the screen, so
+/// that a picture has the same size in every program.
 namespace emfdevice {
 constexpr int widthInPixels = 1920;
 constexpr int heightInPixels = 1440;
 constexpr int widthInMillimetres = 508;
 constexpr int heightInMillimetres = 381;
-/// Hundredths of a millimetre for each pixel, across and down alike.
+/// Hundredths of a millimetre for each pixel, horizontally and vertically.
 constexpr double hundredthsPerPixel = 100.0 * widthInMillimetres / widthInPixels;
 } // namespace emfdevice
 
-/// One record of a metafile: its type, its size in bytes, and what is added to it. All of it is
-/// 32-bit words; smaller things share one, the first in the low bits, as little-endian files hold
-/// them.
+/// A record: its type, its size in bytes, and its data. A sequence of 32-bit words; smaller values
+/// share a word, the first in the low bits, as in little-endian files.
 class EmfRecord
 {
 public:
@@ -64,15 +63,15 @@ public:
     /// Left, top, right and bottom, the last column and row included.
     EmfRecord& add(const QRect& inclusive);
 
-    /// Two 16-bit values; what does not fit loses its high bits.
+    /// Two 16-bit values; higher bits are dropped.
     EmfRecord& addPair(int first, int second);
 
-    /// UTF-16, filled up with zeros to a whole word.
+    /// UTF-16, padded with zeros to a whole word.
     EmfRecord& addText(std::u16string_view text);
 
     EmfRecord& addZeros(int count);
 
-    /// Replaces a word that was added; 0 is the first after the size.
+    /// Replaces a word of the data; position 0 is the first after the size.
     void replace(qsizetype position, std::uint32_t word);
 
     std::span<const std::uint32_t> words() const;
@@ -81,7 +80,7 @@ private:
     QVarLengthArray<std::uint32_t, 32> m_words;
 };
 
-/// The text as UTF-16 that every reader accepts: half a character of two becomes U+FFFD.
+/// Converts to UTF-16; unpaired surrogates become U+FFFD.
 std::u16string wellFormed(const QString& text);
 
 } // namespace tarsil

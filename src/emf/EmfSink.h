@@ -8,7 +8,7 @@
 
 namespace tarsil {
 
-/// Where the bytes of a metafile go.
+/// Receives the bytes of a metafile.
 class EmfSink
 {
 public:
@@ -19,11 +19,11 @@ public:
 
     virtual void write(std::string_view bytes) = 0;
 
-    /// Replaces bytes that are already written, from `offset` on.
+    /// Overwrites bytes already written, starting at `offset`.
     virtual void patch(std::size_t offset, std::string_view bytes) = 0;
 };
 
-/// A file that is written whole or not at all; errors are those of AtomicFile.
+/// A file that is written whole or not at all. Errors: those of `AtomicFile`.
 class EmfFile : public EmfSink
 {
 public:
@@ -32,14 +32,14 @@ public:
     void write(std::string_view bytes) override;
     void patch(std::size_t offset, std::string_view bytes) override;
 
-    /// Puts the finished file into its place. Without it the old file stays.
+    /// Replaces the target by the finished file. Without it the old file stays.
     void commit();
 
 private:
     AtomicFile m_file;
 };
 
-/// A metafile in memory, as the clipboard takes it.
+/// A metafile in memory, for the clipboard.
 class EmfMemory : public EmfSink
 {
 public:

@@ -15,7 +15,7 @@ constexpr int ofRectangles = 1;
 constexpr int replaces = 5;
 } // namespace region
 
-/// Right and bottom of a clip are the first column and row outside.
+/// Right and bottom of a clip are exclusive.
 QRect exclusive(const QRect& rectangle)
 {
     return rectangle.adjusted(0, 0, 1, 1);
@@ -26,7 +26,7 @@ EmfRecord regionRecord(const QRect& clip)
     EmfRecord record(EmfType::SelectClipRegion);
     record.add(region::headerBytes + region::rectangleBytes).add(region::replaces);
     record.add(region::headerBytes).add(region::ofRectangles).add(1).add(region::rectangleBytes);
-    return record.add(exclusive(clip)).add(exclusive(clip)); // bounds, and the only rectangle
+    return record.add(exclusive(clip)).add(exclusive(clip)); // bounds, then the only rectangle
 }
 
 } // namespace
@@ -48,18 +48,18 @@ void EmfState::prepare(const std::optional<QRect>& clip)
             setClip(*clip);
         m_clip = clip;
     }
-    if (!m_told.isTransparent)
+    if (!m_written.isTransparent)
         m_stream.write(EmfRecord(EmfType::SetBackgroundMode).add(transparent));
-    m_told.isTransparent = true;
+    m_written.isTransparent = true;
 }
 
 void EmfState::restore()
 {
     m_stream.write(EmfRecord(EmfType::RestoreContext).add(lastSaved));
-    m_told = {};
+    m_written = {};
 }
 
-/// Some players know only regions, others only the intersection: the two say the same.
+/// Some players know only regions, others only intersections, so both are written.
 void EmfState::setClip(const QRect& clip)
 {
     m_stream.write(regionRecord(clip));
@@ -68,7 +68,7 @@ void EmfState::setClip(const QRect& clip)
 
 void EmfState::selectPen(const Pen& pen)
 {
-    if (m_told.pen == pen)
+    if (m_written.pen == pen)
         return;
     if (pen.style == penstyle::none) {
         select(emfstock::nullPen);
@@ -76,33 +76,33 @@ void EmfState::selectPen(const Pen& pen)
         makeRoom();
         select(m_objects.kept(penRecord(pen)));
     }
-    m_told.pen = pen;
+    m_written.pen = pen;
 }
 
 void EmfState::selectFont(const Font& font)
 {
-    if (m_told.font == font)
+    if (m_written.font == font)
         return;
     makeRoom();
     select(m_objects.kept(fontRecord(font)));
-    m_told.font = font;
+    m_written.font = font;
 }
 
 void EmfState::setTextColor(ColorValue color)
 {
-    if (m_told.textColor == color)
+    if (m_written.textColor == color)
         return;
     m_stream.write(
         EmfRecord(EmfType::SetTextColor).add(static_cast<std::uint32_t>(color) & rgbBits));
-    m_told.textColor = color;
+    m_written.textColor = color;
 }
 
 void EmfState::setTextAlignment(TextAlignment alignment)
 {
-    if (m_told.alignment == alignment)
+    if (m_written.alignment == alignment)
         return;
     m_stream.write(EmfRecord(EmfType::SetTextAlign).add(static_cast<int>(alignment)));
-    m_told.alignment = alignment;
+    m_written.alignment = alignment;
 }
 
 void EmfState::end()
@@ -116,16 +116,15 @@ void EmfState::select(std::uint32_t object)
     m_stream.write(EmfRecord(EmfType::SelectObject).add(object));
 }
 
-/// Empties a full table of objects. None of them may be selected then, and the state at the
-/// beginning has none of them.
+/// Empties a full object table. Deselects all objects first; the initial state uses none of them.
 void EmfState::makeRoom()
 {
     if (!m_objects.isFull())
         return;
     select(emfstock::blackPen);
     select(emfstock::systemFont);
-    m_told.pen.reset();
-    m_told.font.reset();
+    m_written.pen.reset();
+    m_written.font.reset();
     m_objects.removeAll();
 }
 

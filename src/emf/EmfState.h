@@ -8,33 +8,33 @@
 
 namespace tarsil {
 
-/// What a player of the metafile has been told so far: clip, pen, font, colours and modes. It is
-/// told what differs from that, before each drawing record. The clip can only be taken back
-/// together with all the rest, by going back to the state at the beginning.
+/// The state of a player of the metafile: clip, pen, font, colours and modes. Writes the
+/// differences before each drawing record. A clip cannot be removed on its own, only by restoring
+/// the state at the beginning.
 class EmfState
 {
 public:
     /// Both must outlive this state.
     EmfState(EmfStream& stream, EmfObjects& objects);
 
-    /// Keeps the state at the beginning, to go back to.
+    /// Saves the initial state for `end` and for removing a clip.
     void begin();
 
-    /// What every drawing record needs: the clip, and a background that stays as it is between
-    /// letters and in the gaps of dashed lines. Comes before pen, font and colour.
+    /// Sets what every drawing record needs: the clip, and a transparent background for text and
+    /// dashed lines. Call before selecting pen, font and colour.
     void prepare(const std::optional<QRect>& clip);
 
-    /// Style and width must be those that are written.
+    /// The pen must already have the style and width to be written.
     void selectPen(const Pen& pen);
     void selectFont(const Font& font);
     void setTextColor(ColorValue color);
     void setTextAlignment(TextAlignment alignment);
 
-    /// Goes back to the beginning, and removes all objects.
+    /// Restores the initial state and removes all objects.
     void end();
 
 private:
-    struct Told
+    struct Written
     {
         std::optional<Pen> pen;
         std::optional<Font> font;
@@ -51,7 +51,7 @@ private:
     EmfStream& m_stream;
     EmfObjects& m_objects;
     std::optional<QRect> m_clip;
-    Told m_told;
+    Written m_written;
 };
 
 } // namespace tarsil

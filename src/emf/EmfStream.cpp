@@ -10,13 +10,13 @@ namespace tarsil {
 
 namespace {
 
-/// The word's bytes, the lowest first.
-void store(char* place, std::uint32_t word)
+/// Stores a word with the lowest byte first.
+void store(char* to, std::uint32_t word)
 {
-    place[0] = static_cast<char>(word & 0xFF);
-    place[1] = static_cast<char>(word >> 8 & 0xFF);
-    place[2] = static_cast<char>(word >> 16 & 0xFF);
-    place[3] = static_cast<char>(word >> 24);
+    to[0] = static_cast<char>(word & 0xFF);
+    to[1] = static_cast<char>(word >> 8 & 0xFF);
+    to[2] = static_cast<char>(word >> 16 & 0xFF);
+    to[3] = static_cast<char>(word >> 24);
 }
 
 } // namespace
@@ -28,7 +28,7 @@ void EmfStream::write(const EmfRecord& record)
     const std::size_t size = record.words().size_bytes();
     if (size > m_limit - m_byteCount)
         throw RunTimeError(ErrorNumber::Overflow, "MetafileContext",
-                           "a metafile holds at most " + std::to_string(m_limit) + " bytes");
+                           "a metafile is limited to " + std::to_string(m_limit) + " bytes");
     append(record);
     m_byteCount += static_cast<std::uint32_t>(size);
     ++m_recordCount;
@@ -38,10 +38,10 @@ void EmfStream::finish(const EmfRecord& header)
 {
     flush();
     std::string bytes(header.words().size_bytes(), '\0');
-    char* place = bytes.data();
+    char* next = bytes.data();
     for (const std::uint32_t word : header.words()) {
-        store(place, word);
-        place += sizeof word;
+        store(next, word);
+        next += sizeof word;
     }
     m_sink.patch(0, bytes);
 }

@@ -11,20 +11,21 @@ namespace tarsil {
 
 class EmfSink;
 
-/// Writes records one after the other, little-endian on every machine, through a buffer of fixed
-/// size, and counts them. Only the first, the header, is written again at the end.
+/// Writes records through a fixed-size buffer, little-endian on every machine, and counts them.
+/// Only the header, the first record, is overwritten at the end.
 class EmfStream
 {
 public:
     static constexpr std::uint32_t mostBytes = std::numeric_limits<std::uint32_t>::max();
 
-    /// `sink` must outlive the stream. What the sink raises goes through; more than `limit` bytes,
-    /// by default all that the header can count, is error 6.
+    /// `sink` must outlive the stream; its exceptions pass through. Error 6 beyond `limit` bytes,
+    /// by default the largest size that the header can express.
     explicit EmfStream(EmfSink& sink, std::uint32_t limit = mostBytes);
 
     void write(const EmfRecord& record);
 
-    /// Empties the buffer and puts `header` in the place of the first record, which had its size.
+    /// Flushes the buffer and overwrites the first record by `header`, which must have the same
+    /// size.
     void finish(const EmfRecord& header);
 
     std::uint32_t byteCount() const { return m_byteCount; }

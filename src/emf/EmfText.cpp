@@ -8,7 +8,7 @@ namespace tarsil {
 
 namespace {
 
-constexpr int compatibleMode = 1; // coordinates are not transformed
+constexpr int compatibleMode = 1; // untransformed coordinates
 constexpr auto scale = static_cast<float>(emfdevice::hundredthsPerPixel);
 constexpr std::uint32_t fixedBytes = 76;
 

@@ -8,9 +8,9 @@ class QString;
 
 namespace tarsil {
 
-/// The record of a text. The player aligns it at `reference`; `advances` says how far each UTF-16
-/// unit moves on, and `bounds` which pixels the text can ink. Control characters are written as
-/// blanks: a player that has a sign for them would show it.
+/// The record of a text aligned at `reference`. `advances` holds the advance of each UTF-16 unit,
+/// `bounds` the pixels that the text can ink. Control characters become blanks, because players may
+/// show a sign for them.
 EmfRecord textRecord(QPoint reference, const QString& text, const std::vector<int>& advances,
                      const QRect& bounds);
 

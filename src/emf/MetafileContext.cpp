@@ -15,8 +15,8 @@ namespace tarsil {
 namespace {
 
 constexpr std::size_t longestPolyline = 4096;
-/// How far from the picture coordinates may be. From twice as far on, LibreOffice draws lines with
-/// a wrong slope or not at all.
+/// The largest distance of coordinates from the picture. Beyond twice this distance LibreOffice
+/// draws lines with a wrong slope or not at all.
 constexpr int farthest = 1 << 16;
 constexpr int widestPen = 1 << 20;
 constexpr std::uint32_t patternCopy = 0x00F00021;
@@ -44,7 +44,7 @@ struct Segment
     QPoint to;
 };
 
-/// The part of a line that is not too far away.
+/// The part of a line within the largest distance.
 std::optional<Segment> placedLine(QPoint from, QPoint to, QPoint origin)
 {
     QPointF start = QPointF(from) + QPointF(origin);
@@ -54,8 +54,8 @@ std::optional<Segment> placedLine(QPoint from, QPoint to, QPoint origin)
     return Segment {start.toPoint(), end.toPoint()};
 }
 
-/// The pen as it is written. A dashed pen of one pixel keeps its dashes when a player enlarges the
-/// picture only with width 0; a wider one is drawn solid everywhere.
+/// The pen for the file. A dashed pen of one pixel gets width 0: only then it keeps its dashes when
+/// the picture is enlarged. A wider pen is drawn solid everywhere.
 Pen writtenPen(const Pen& pen)
 {
     if (pen.style == penstyle::none)
@@ -109,14 +109,14 @@ EmfRecord polylineRecord(const std::vector<QPoint>& points, const QRect& box, co
     return record;
 }
 
-/// Copies the brush onto the rectangle; there is no bitmap, so most of it is unused.
+/// Fills a rectangle with the brush. The record has fields for a bitmap, which are unused.
 EmfRecord fillRecord(const QRect& rectangle)
 {
     EmfRecord record(EmfType::BitBlockTransfer);
     record.add(rectangle).add(rectangle.topLeft());
     record.add(rectangle.width()).add(rectangle.height()).add(patternCopy);
     record.add(QPoint()); // upper left corner of the bitmap
-    record.add(1.0F).add(0.0F).add(0.0F).add(1.0F).add(0.0F).add(0.0F); // and its transformation
+    record.add(1.0F).add(0.0F).add(0.0F).add(1.0F).add(0.0F).add(0.0F); // its transformation
     return record.add(white).addZeros(5);
 }
 
@@ -174,8 +174,8 @@ void MetafileContext::drawText(QPoint reference, const QString& text, const Font
     m_state.setTextColor(color);
     m_state.setTextAlignment(alignment);
     const QRect bounds = TextMetrics::reach(box, font);
-    // Players that join texts which follow each other into paragraphs (Inkscape), with line
-    // distances of their own, keep apart what another record divides.
+    // A separating record: some players (Inkscape) join consecutive texts into paragraphs with
+    // their own line spacing.
     m_stream.write(EmfRecord(EmfType::MoveTo).add(point));
     m_stream.write(textRecord(point, text, m_text.advances(text, font), bounds));
     addBounds(bounds, m_clip);
@@ -252,7 +252,7 @@ void MetafileContext::writeLines()
     m_lines.points.clear();
 }
 
-/// A line whose dashes begin anew, as a player draws them after each move to a point.
+/// Writes a line whose dashes begin anew; players restart them at each MoveTo.
 void MetafileContext::writeDashes(QPoint from, QPoint to, const Pen& pen)
 {
     writeLines();

@@ -13,18 +13,19 @@ namespace tarsil {
 
 class EmfSink;
 
-/// Draws into an Enhanced Metafile: records that a player repeats on its own surface, at any size.
-/// They go to the sink while drawing, so that a large picture takes no more memory than a small
-/// one. Connected solid lines of one pen become one record; dashed ones stay single, as dashes
-/// begin anew with each.
+/// Draws into an Enhanced Metafile: a list of records that a player repeats on its own surface, at
+/// any size. Records go to the sink while drawing, so memory use does not grow with the picture.
+/// Connected solid lines of one pen become one record. Dashed lines get one record each, because
+/// dashes begin anew with each line.
 ///
-/// What lies farther than 2^16 pixels away is left out, and lines are cut there: some players go
-/// wrong beyond. Drawing raises what the sink raises, and error 6 beyond 4 GiB; origin and clip
-/// never fail.
+/// Anything farther than 2^16 pixels away is omitted and lines are cut there, because some players
+/// fail beyond. Drawing raises the errors of the sink, and error 6 beyond 4 GiB. Setting origin and
+/// clip never fails.
 class MetafileContext : public DeviceContext
 {
 public:
-    /// `sink` must be empty and outlive the context. `description` says who made the picture.
+    /// `sink` must be empty and outlive the context. `description` names the program and the
+    /// picture.
     explicit MetafileContext(EmfSink& sink, const QString& description);
 
     void drawLine(QPoint from, QPoint to, const Pen& pen) override;
@@ -37,12 +38,12 @@ public:
     void clearClip() override;
     void setOrigin(QPoint origin) override;
 
-    /// Writes the end and then the header; without it the sink holds no metafile. Nothing is drawn
-    /// after it.
+    /// Writes the final record and then the header. Without it the sink holds no valid metafile. Do
+    /// not draw afterwards.
     void close();
 
 private:
-    /// Connected lines that are not written yet, with the pen and the clip they were drawn with.
+    /// Connected lines not written yet, with their pen and clip.
     struct Lines
     {
         Pen pen;
@@ -63,7 +64,7 @@ private:
     QPoint m_origin;
     std::optional<QRect> m_clip;
     Lines m_lines;
-    QRect m_bounds; ///< of all that is drawn, pen width included
+    QRect m_bounds; ///< of everything drawn, with pen widths
     bool m_isClosed = false;
 };
 

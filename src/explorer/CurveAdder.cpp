@@ -9,7 +9,7 @@ void addCurves(wndEvolPlot& plots, const std::vector<AeMode*>& modes)
     for (AeMode* mode : modes) {
         plots.AddSerie(*mode);
         if (plots.ActivePlot() == nullptr)
-            return; // told once is enough
+            return; // one message is enough
     }
 }
 

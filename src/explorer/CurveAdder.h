@@ -7,8 +7,8 @@ namespace tarsil {
 class AeMode;
 class wndEvolPlot;
 
-/// Adds a series for each mode to the active plot, in this order. Without an active plot the user
-/// gets one message and nothing changes.
+/// Adds a series for each mode to the active plot, in this order. Without an active plot it shows
+/// one message and changes nothing.
 void addCurves(wndEvolPlot& plots, const std::vector<AeMode*>& modes);
 
 } // namespace tarsil

@@ -50,7 +50,7 @@ void fillModifications(QTreeWidgetItem& group, const EVM& evolution)
         addValue(group, modification.text);
 }
 
-/// The groups that only imported evolutions have.
+/// Adds the groups of imported evolutions.
 void addProvenance(QTreeWidgetItem& node, const EVM& evolution, const QString& key)
 {
     const Provenance& provenance = evolution.provenance;
@@ -81,7 +81,7 @@ EvolutionNodes::EvolutionNodes(QTreeWidgetItem& folder, ExplorerImages& images)
     : m_folder(folder), m_images(images)
 { }
 
-/// Neighbours are inserted at once, so that the tree is laid out once.
+/// Inserts runs of adjacent nodes at once, so that the tree is laid out once.
 std::vector<EVM*> EvolutionNodes::fill(const EvolutionList& evolutions)
 {
     std::vector<EVM*> added;
@@ -143,7 +143,7 @@ void EvolutionNodes::showModifications(const EVM& evolution)
 
 void EvolutionNodes::remove(const EVM& evolution)
 {
-    const Node node(m_nodes.take(&evolution)); // leaves the tree as it ends
+    const Node node(m_nodes.take(&evolution)); // the destructor removes it from the tree
     if (node != nullptr)
         m_keys.remove(keyOf(*node));
 }
@@ -226,8 +226,8 @@ void EvolutionNodes::addGroups(QTreeWidgetItem& node, const EVM& evolution, cons
         addProvenance(node, evolution, key);
 }
 
-/// The evolution's path. Who adds evolutions keeps paths apart; should two be the same all the
-/// same, the later one gets a number, counted over all of them so that finding it takes no search.
+/// The path of the evolution. Should two paths be equal, the later one gets a number, counted over
+/// all evolutions so that no search is needed.
 QString EvolutionNodes::newKey(const EVM& evolution)
 {
     const QString path = QString::fromStdString(evolution.path());

@@ -14,42 +14,41 @@ class EVM;
 class ExplorerImages;
 class EvolutionList;
 
-/// The parameter that a value under an evolution's node shows.
+/// The parameter whose value a node below an evolution shows.
 enum class EvolutionValue { None, Airplane, Mass, Mach };
 
-/// The nodes of the modal evolutions, children of one folder. Each has a check box and, under it,
-/// the groups "Airplane", "Mass Conf.", "Mach No.", "Method" and "Legend" with their values, and
-/// "Modifications" where its file names some; an imported one also has "Imported From", "Solver",
-/// "Printed Units" and "Import Log". An evolution's key is its path; the keys of its groups are
-/// that with a suffix.
+/// The nodes of the modal evolutions, children of one folder. Each has a check box and the groups
+/// "Airplane", "Mass Conf.", "Mach No.", "Method" and "Legend" with their values, and
+/// "Modifications" if the file has some; an imported one also has "Imported From", "Solver",
+/// "Printed Units" and "Import Log". The key of an evolution is its path; its groups add a suffix.
 class EvolutionNodes
 {
 public:
-    /// The folder and the images must outlive this.
+    /// Folder and images must outlive this object.
     EvolutionNodes(QTreeWidgetItem& folder, ExplorerImages& images);
 
-    /// Inserts nodes for the evolutions that have none yet, at their positions, and returns them.
-    /// Takes time in proportion to the number of new ones, besides one look-up for each known one.
+    /// Inserts nodes for the evolutions without one, at their positions, and returns these. Linear
+    /// in the number of new evolutions, plus one look-up for each known one.
     std::vector<EVM*> fill(const EvolutionList& evolutions);
 
     void remove(const std::vector<EVM*>& evolutions);
 
-    /// Shows the parameters as they are now.
+    /// Updates the shown parameters.
     void showParameters(const EVM& evolution);
 
-    /// Shows the modifications as they are now.
+    /// Updates the shown modifications.
     void showModifications(const EVM& evolution);
 
     /// Null for an evolution without a node.
     QTreeWidgetItem* nodeOf(const EVM* evolution) const;
 
-    /// The evolutions whose check box is ticked, from the first node to the last.
+    /// The evolutions whose check box is ticked, in node order.
     std::vector<EVM*> ticked() const;
 
-    /// The evolution of a node of this folder or of a node below one; null for other nodes.
+    /// The evolution of a node in this folder, at any depth; null for other nodes.
     EVM* evolutionAt(const QTreeWidgetItem* node) const;
 
-    /// Which parameter a node shows the value of.
+    /// The parameter whose value a node shows.
     EvolutionValue valueAt(const QTreeWidgetItem& node) const;
 
 private:
@@ -63,10 +62,10 @@ private:
     ExplorerImages& m_images;
     QHash<const EVM*, QTreeWidgetItem*> m_nodes;
     QHash<QString, const EVM*> m_keys;
-    std::size_t m_sameKeys = 0; ///< evolutions so far whose path another one had
+    std::size_t m_sameKeys = 0; ///< number of evolutions whose path was already a key
 };
 
-/// The text that shows a Mach number: the shortest one that reads back as the same number.
+/// The text of a Mach number: the shortest that reads back as the same number.
 QString machText(float mach);
 
 } // namespace tarsil

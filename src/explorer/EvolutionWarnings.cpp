@@ -12,7 +12,7 @@ namespace tarsil {
 
 namespace {
 
-/// The line that counts the others is one of the most that are shown.
+/// At most `mostFileLines` lines, including the last one with the number of the others.
 QString joined(const std::vector<Finding>& findings)
 {
     std::vector<std::string> lines;

@@ -11,8 +11,8 @@ namespace tarsil {
 
 class EVM;
 
-/// Checks the files of evolutions for warnings, one file each time the event loop has nothing else
-/// to do, in the order in which they were added. So a thousand of them keep nobody waiting.
+/// Checks the files of evolutions for warnings in the background: one file, in the order of
+/// arrival, each time the event loop is idle. So even a thousand files do not block the user.
 class EvolutionWarnings : public QObject
 {
     Q_OBJECT
@@ -22,7 +22,7 @@ public:
 
     void add(EVM& evolution);
 
-    /// Evolutions that are removed are not checked any more.
+    /// Evolutions that are removed are no longer checked.
     void forget(const std::vector<EVM*>& evolutions);
 
 Q_SIGNALS:
@@ -36,9 +36,9 @@ private:
     QTimer m_pause;
 };
 
-/// The warnings about the file of an evolution, one in a line: "line 7: ...". Of more than 20 lines
-/// the last one is how many more there are. A file that cannot be read is a warning, too; empty
-/// when there is none.
+/// The warnings about the file of an evolution, one on a line: "line 7: ...". Of more than 20 lines
+/// the last one contains the number of the others. A file that cannot be read is a warning too.
+/// Empty when there is none.
 QString warningsOf(const EVM& evolution);
 
 } // namespace tarsil

@@ -2,8 +2,8 @@
 
 #include <QtGlobal>
 
-/// The images are in a static library, whose resources nobody would load otherwise. (The macro
-/// works outside namespaces only.)
+/// Loads the resources, which a static library does not load by itself. The macro must be used
+/// outside namespaces.
 static void loadExplorerResource()
 {
     Q_INIT_RESOURCE(explorer);

@@ -6,14 +6,14 @@
 
 namespace tarsil {
 
-/// The images of the explorer by their names, one drawing each, sharp at every density. An image
-/// that several nodes show is rendered once.
+/// The images of the explorer by name, as scalable drawings. An image used by several nodes is
+/// rendered once.
 class ExplorerImages
 {
 public:
     ExplorerImages();
 
-    /// An empty icon for an empty name.
+    /// Empty for an empty name.
     QIcon image(const QString& name);
 
 private:

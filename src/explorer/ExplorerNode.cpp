@@ -13,7 +13,7 @@ namespace tarsil {
 
 namespace {
 
-/// A screen reader says of a node all that its looks tell.
+/// Updates what screen readers say about a node beyond its text.
 void describe(QTreeWidgetItem& node)
 {
     QStringList texts {node.data(0, MeaningRole).toString(), node.data(0, FindingsRole).toString()};

@@ -13,46 +13,45 @@ class EVM;
 class EvmPlot;
 class ExplorerImages;
 
-/// What a node of the explorer's tree holds besides its text.
+/// The data roles of a node of the tree.
 enum NodeRole {
-    KeyRole = Qt::UserRole, ///< the node's key, a text; none for a node that shows a value
-    ImageRole, ///< the name of the node's image
-    TagRole, ///< the EVM* or EvmPlot* that the node stands for
-    MeaningRole, ///< what sets the node off from its neighbours, a text
-    FindingsRole ///< what is doubtful about it, a text
+    KeyRole = Qt::UserRole, ///< QString: key of the node; none for a node that shows a value
+    ImageRole, ///< QString: name of the image
+    TagRole, ///< EVM* or EvmPlot* of the node
+    MeaningRole, ///< QString: what distinguishes the node from its neighbours
+    FindingsRole ///< QString: findings about the node
 };
 
 using Node = std::unique_ptr<QTreeWidgetItem>;
 
-/// A node of its own that cannot be edited, to be handed to its parent.
+/// A node without a parent that cannot be edited.
 Node makeNode(const QString& key, const QString& text);
 
-/// The child that shows the value of a node; it has no key.
+/// A child node for a value; it has no key.
 Node makeValueNode(const QString& text, bool isEditable);
 
-/// Appends a node and returns it; it belongs to `parent` then.
+/// Appends a node, which `parent` then owns, and returns it.
 QTreeWidgetItem* append(QTreeWidgetItem& parent, Node child);
 
 QString keyOf(const QTreeWidgetItem& node);
 void setKey(QTreeWidgetItem& node, const QString& key);
 
-/// Shows the image of that name; an empty name shows none.
+/// Shows the image of a name, or none for an empty name.
 void setImage(QTreeWidgetItem& node, ExplorerImages& images, const QString& name);
 
-/// Shows a text while the pointer rests on a node: as it stands, also when it looks like HTML.
+/// Sets a tool tip that is shown as plain text, even if it looks like HTML.
 void setPlainToolTip(QTreeWidgetItem& node, const QString& text);
 
-/// Shows a warning sign, and what is doubtful while the pointer rests on the node and to those who
-/// cannot see that.
+/// Shows a warning sign, with the findings as tool tip and for screen readers.
 void warn(QTreeWidgetItem& node, ExplorerImages& images, const QString& findings);
 
-/// The evolution or plot that a node itself stands for; null when it stands for none.
+/// The evolution or plot of this node; null when it has none.
 EVM* taggedEvolution(const QTreeWidgetItem* node);
 EvmPlot* taggedPlot(const QTreeWidgetItem* node);
 void setTag(QTreeWidgetItem& node, EVM* evolution);
 void setTag(QTreeWidgetItem& node, EvmPlot* plot);
 
-/// Sets a node off from its neighbours: bold, and with `meaning` for those who cannot see that.
+/// Makes a node bold, and gives `meaning` to screen readers.
 void distinguish(QTreeWidgetItem& node, const QString& meaning);
 void undistinguish(QTreeWidgetItem& node);
 

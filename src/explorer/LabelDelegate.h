@@ -4,8 +4,8 @@
 
 namespace tarsil {
 
-/// Edits the labels of a tree without writing into them: what the user typed goes to whoever knows
-/// what the label stands for, and may be refused.
+/// Edits labels of a tree without changing them: the typed text is passed on by a signal, and its
+/// receiver may refuse it.
 class LabelDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ public:
                       const QModelIndex& index) const override;
 
 Q_SIGNALS:
-    /// The user has given a label a text, which may be the one it had.
+    /// The user has entered a text for a label, maybe the same as before.
     void renamed(const QModelIndex& index, const QString& text) const;
 };
 

@@ -15,10 +15,10 @@ PlotNodes::PlotNodes(QTreeWidgetItem& folder, PlotList& plots, ExplorerImages& i
 {
     for (EvmPlot* const plot : plots.all())
         addPlot(plot);
-    markActive(nullptr, plots.active());
+    showActive(nullptr, plots.active());
     connect(&plots, &PlotList::added, this, &PlotNodes::addPlot);
     connect(&plots, &PlotList::aboutToBeRemoved, this, &PlotNodes::removePlot);
-    connect(&plots, &PlotList::activeChanged, this, &PlotNodes::markActive);
+    connect(&plots, &PlotList::activeChanged, this, &PlotNodes::showActive);
 }
 
 QTreeWidgetItem* PlotNodes::nodeOf(const EvmPlot* plot) const
@@ -42,10 +42,10 @@ void PlotNodes::addPlot(EvmPlot* plot)
 void PlotNodes::removePlot(EvmPlot* plot)
 {
     plot->disconnect(this);
-    const Node node(m_nodes.take(plot)); // leaves the tree as it ends
+    const Node node(m_nodes.take(plot)); // the destructor removes it from the tree
 }
 
-void PlotNodes::markActive(EvmPlot* before, EvmPlot* now)
+void PlotNodes::showActive(EvmPlot* before, EvmPlot* now)
 {
     if (QTreeWidgetItem* const node = nodeOf(before))
         undistinguish(*node);

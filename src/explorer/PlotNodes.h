@@ -12,14 +12,14 @@ class EvmPlot;
 class ExplorerImages;
 class PlotList;
 
-/// The nodes of the plots, children of one folder. They follow a list of plots: which there are,
-/// what they are called, and which is active. A node's text and key are its plot's caption.
+/// The nodes of the plots, children of one folder. They follow a list of plots with their captions
+/// and the active plot. Text and key of a node are the caption of its plot.
 class PlotNodes : public QObject
 {
     Q_OBJECT
 
 public:
-    /// All of them must outlive this.
+    /// All of them must outlive this object.
     PlotNodes(QTreeWidgetItem& folder, PlotList& plots, ExplorerImages& images,
               QObject* parent = nullptr);
 
@@ -29,7 +29,7 @@ public:
 private:
     void addPlot(EvmPlot* plot);
     void removePlot(EvmPlot* plot);
-    void markActive(EvmPlot* before, EvmPlot* now);
+    void showActive(EvmPlot* before, EvmPlot* now);
     void showCaption(const EvmPlot* plot);
 
     QTreeWidgetItem& m_folder;

@@ -46,7 +46,7 @@ void wndEvolExplorer::followDocument()
     const auto showTexts = [this] { m_workspace.show(m_document.texts()); };
     connect(&m_document, &Document::textsChanged, this, showTexts);
     connect(&m_document, &Document::startedNew, this, [this] { m_workspace.closeFolders(); });
-    // A new plot is not shown by itself, so that only its node tells of it.
+    // A new plot is not activated, so only its node shows that it exists.
     connect(&m_document.plots(), &PlotList::added, this,
             [this] { m_workspace.plots().setExpanded(true); });
     const EvolutionList& evolutions = m_document.evolutions();
@@ -62,7 +62,7 @@ void wndEvolExplorer::followDocument()
     showReference(nullptr, evolutions.reference());
 }
 
-/// The nodes end first, while what they refer to is still there.
+/// Deletes the nodes while what they refer to still exists.
 wndEvolExplorer::~wndEvolExplorer()
 {
     delete m_plots;
@@ -79,7 +79,7 @@ void wndEvolExplorer::makeTree()
     m_tree->setAccessibleName(windowTitle());
     m_tree->setHeaderHidden(true);
     m_tree->setIconSize({16, 16});
-    m_tree->setUniformRowHeights(true); // a thousand evolutions need not be measured one by one
+    m_tree->setUniformRowHeights(true); // faster with a thousand evolutions
     m_tree->setExpandsOnDoubleClick(true);
     m_tree->setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::SelectedClicked);
     m_tree->setItemDelegate(m_labels);
@@ -89,8 +89,9 @@ void wndEvolExplorer::makeTree()
             });
     connect(m_tree, &QTreeWidget::itemActivated, this, &wndEvolExplorer::nodeActivated);
     m_tree->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(m_tree, &QWidget::customContextMenuRequested, this,
-            [this](QPoint place) { Q_EMIT menuRequested(m_tree->viewport()->mapToGlobal(place)); });
+    connect(m_tree, &QWidget::customContextMenuRequested, this, [this](QPoint position) {
+        Q_EMIT menuRequested(m_tree->viewport()->mapToGlobal(position));
+    });
 }
 
 void wndEvolExplorer::run(const std::function<void()>& action)
@@ -98,7 +99,7 @@ void wndEvolExplorer::run(const std::function<void()>& action)
     guarded(m_user, "wndEvolExplorer", action);
 }
 
-/// What the user asks for himself.
+/// Runs a command of the user.
 void wndEvolExplorer::runCommand(const std::function<void()>& action)
 {
     m_user.beginCommand();

@@ -24,9 +24,8 @@ class PlotNodes;
 class UserInterface;
 class wndEvolPlot;
 
-/// The window "Modal Evolutions Explorer": the document as a tree with a toolbar. It shows the
-/// texts of the workspace, the loaded evolutions and the plots. What needs files goes up as a
-/// signal.
+/// The window "Modal Evolutions Explorer": the document as a tree with a toolbar. Shows the texts
+/// of the workspace, the loaded evolutions and the plots. Commands that need files are signals.
 class wndEvolExplorer : public QWidget
 {
     Q_OBJECT
@@ -37,38 +36,38 @@ public:
                     QWidget* parent = nullptr);
     ~wndEvolExplorer() override;
 
-    /// Adds nodes for the evolutions that were loaded since the last call, and opens their folder.
-    /// Their files are checked later, when the user waits for nothing; the node shows warnings.
+    /// Adds nodes for the evolutions loaded since the last call and opens their folder. Their files
+    /// are checked later, in idle time; warnings then appear at the nodes.
     void FillEvolsNode();
 
-    /// Makes the selected evolution the reference evolution; the user is told when there is none.
+    /// Makes the selected evolution the reference evolution; shows a message when none is selected.
     void SetAsRef();
 
-    /// The evolution of the selected node or of one above it; null otherwise.
+    /// The evolution of the selected node or of a parent of it; null otherwise.
     EVM* selectedEvolution() const;
 
-    /// The evolution that the selected node itself stands for; null otherwise.
+    /// The evolution of the selected node itself; null otherwise.
     EVM* evolutionOfSelectedNode() const;
 
-    /// Takes the label that is being edited as it stands, as Enter does, and closes its editor.
+    /// Accepts the label that is being edited, as Enter does, and closes its editor.
     void commitEdits();
 
     QSize sizeHint() const override;
 
 Q_SIGNALS:
-    // The buttons that need files, or a question first.
+    // Buttons whose commands need files, or a question first.
     void newWanted();
     void openWanted();
     void saveWanted();
     void addWanted();
 
-    /// The user wants the menu of the tree, by the right button or by the keyboard.
+    /// The user asks for the menu of the tree, by the right button or the keyboard.
     void menuRequested(QPoint globalPosition);
 
 private:
     using Handler = void (wndEvolExplorer::*)();
 
-    /// One button of the toolbar; its image is named like its key.
+    /// A button of the toolbar. Its image has the name of its key.
     struct Button
     {
         const char* key;

@@ -1,4 +1,4 @@
-// Editing the labels of the explorer's tree.
+// Editing of the labels of the explorer's tree.
 
 #include "base/numbers/Numbers.h"
 #include "base/user/UserInterface.h"
@@ -18,7 +18,7 @@
 
 namespace tarsil {
 
-/// Double click or Enter: shows a plot, edits a value.
+/// Double click or Enter: shows a plot, or edits a value.
 void wndEvolExplorer::nodeActivated(QTreeWidgetItem* node)
 {
     if (EvmPlot* const plot = taggedPlot(node))
@@ -27,8 +27,8 @@ void wndEvolExplorer::nodeActivated(QTreeWidgetItem* node)
         m_tree->editItem(node);
 }
 
-/// An editor that was closed is hidden, and ends a little later. What the user is told while a
-/// label is taken can close its editor too.
+/// A closed editor is hidden and deleted a little later. A message shown while the label is
+/// accepted can close the editor too.
 void wndEvolExplorer::commitEdits()
 {
     const QList<QLineEdit*> editors = m_tree->viewport()->findChildren<QLineEdit*>();
@@ -56,7 +56,7 @@ void wndEvolExplorer::rename(QTreeWidgetItem& node, const QString& text)
     }
 }
 
-/// The node follows the plot's caption.
+/// The node follows the caption of the plot.
 void wndEvolExplorer::renamePlot(EvmPlot& plot, const QString& text)
 {
     if (!m_document.plots().rename(plot, text)) {
@@ -92,8 +92,8 @@ void wndEvolExplorer::changeParameter(EVM& evolution, EvolutionValue value, cons
     m_document.history().note(tr("Edit Parameters"));
 }
 
-/// The number of a text; none, after a message to the user, when it is no number. Error 6
-/// "Overflow" for one outside the range of a single.
+/// The number of a text; empty, after a message, when it is not a number. Error 6 "Overflow"
+/// outside the range of a single.
 std::optional<float> wndEvolExplorer::machOf(const QString& text)
 {
     const std::string number = text.toStdString();

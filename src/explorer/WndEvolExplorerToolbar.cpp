@@ -1,4 +1,4 @@
-// The toolbar of the explorer, and how evolutions and plots come and go.
+// The toolbar of the explorer; adding and removing evolutions and plots.
 
 #include "base/user/RunTimeError.h"
 #include "base/user/UserInterface.h"
@@ -59,7 +59,7 @@ void wndEvolExplorer::remove_Click()
     m_document.remove(*evolution);
 }
 
-/// Everything is looked at before the first series is added, so that an error changes nothing.
+/// Checks all evolutions before the first series is added, so that an error changes nothing.
 void wndEvolExplorer::select_Click()
 {
     std::vector<AeMode*> modes;
@@ -72,7 +72,7 @@ void wndEvolExplorer::select_Click()
     addCurves(m_plotWindow, modes);
 }
 
-/// Those that are ticked; the selected one when none is.
+/// The ticked evolutions; the selected one when none is ticked.
 std::vector<EVM*> wndEvolExplorer::evolutionsToSelect() const
 {
     std::vector<EVM*> evolutions = m_evolutions.ticked();
@@ -92,7 +92,7 @@ void wndEvolExplorer::copyPlot_Click()
         showNode(*copy);
 }
 
-/// A new plot is not active, so that only its node tells of it.
+/// A new plot is not activated, so only its node shows that it exists.
 void wndEvolExplorer::showNode(const EvmPlot& plot)
 {
     m_tree->scrollToItem(m_plots->nodeOf(&plot));

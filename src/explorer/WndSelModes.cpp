@@ -18,7 +18,7 @@ namespace tarsil {
 
 namespace {
 
-/// What tells one mode from another: "Mode 3: 12.1 to 14.9 Hz".
+/// Describes a mode so that it can be recognised: "Mode 3: 12.1 to 14.9 Hz".
 QString modeText(const AeMode& mode)
 {
     const QString number = QStringLiteral("Mode %1: ").arg(mode.Id);
@@ -48,7 +48,7 @@ wndSelModes::~wndSelModes() = default;
 
 void wndSelModes::showEvent(QShowEvent* event)
 {
-    if (!event->spontaneous()) // otherwise the window comes back from the task bar
+    if (!event->spontaneous()) // spontaneous: restored from the task bar
         Form_Load();
     QDialog::showEvent(event);
 }
@@ -66,7 +66,7 @@ void wndSelModes::Form_Load()
     }
 }
 
-/// In the order of the list, whatever the order in which the user selected.
+/// In list order, whatever the order of selection.
 void wndSelModes::cmd_Add_Click()
 {
     for (int row = 0; row < m_ui->lst_AllModes->count(); ++row) {
@@ -82,22 +82,22 @@ void wndSelModes::cmd_Ok_Click()
     std::vector<AeMode*> modes;
     if (evolution != nullptr
         && !guarded(m_user, "wndSelModes", [&] { modes = chosenModes(*evolution); }))
-        return; // nothing is added, and the choice can be made again
+        return; // nothing is added, and the user can choose again
     guarded(m_user, "wndSelModes", [&] { addCurves(m_plots, modes); });
     accept();
 }
 
-/// The evolution may be another one by now, with fewer modes: error 9 "Subscript out of range".
+/// Another evolution with fewer modes may be selected by now: error 9 "Subscript out of range".
 std::vector<AeMode*> wndSelModes::chosenModes(const EVM& evolution) const
 {
     std::vector<AeMode*> modes;
     for (int row = 0; row < m_ui->lst_SelModes->count(); ++row) {
-        const auto place = m_ui->lst_SelModes->item(row)->text().toULongLong();
-        if (place > evolution.Modes.size())
+        const auto position = m_ui->lst_SelModes->item(row)->text().toULongLong();
+        if (position > evolution.Modes.size())
             throw RunTimeError(ErrorNumber::SubscriptOutOfRange, "wndSelModes",
-                               "mode " + std::to_string(place) + " of \"" + evolution.FileName
+                               "mode " + std::to_string(position) + " of \"" + evolution.FileName
                                    + "\"");
-        modes.push_back(evolution.Modes[place - 1].get());
+        modes.push_back(evolution.Modes[position - 1].get());
     }
     return modes;
 }

@@ -17,8 +17,8 @@ class UserInterface;
 class wndEvolExplorer;
 class wndEvolPlot;
 
-/// The dialog "Select Multiple Modes": picks modes of the evolution that is selected in the
-/// explorer and adds a curve for each to the active plot. It keeps nothing between uses.
+/// The dialog "Select Multiple Modes": picks modes of the evolution selected in the explorer and
+/// adds a curve for each to the active plot. Keeps nothing between uses.
 class wndSelModes : public QDialog
 {
     Q_OBJECT

@@ -60,7 +60,7 @@ QTreeWidgetItem* WorkspaceNodes::makeFolder(const QString& key, const QString& t
     return folder;
 }
 
-/// A node of the general information; returns its child that shows the value.
+/// Creates a node of the general information; returns the child that shows its value.
 QTreeWidgetItem* WorkspaceNodes::makeValue(const QString& key, const QString& text, bool isEditable)
 {
     QTreeWidgetItem* const node = append(*m_general, makeNode(key, text));

@@ -10,12 +10,12 @@ namespace tarsil {
 class ExplorerImages;
 struct WorkspaceTexts;
 
-/// The nodes of the tree that are always there: the workspace, its general information with a
-/// description and two dates, and the folders of evolutions and plots.
+/// The permanent nodes of the tree: the workspace, its general information with a description and
+/// two dates, and the folders of evolutions and plots.
 class WorkspaceNodes
 {
 public:
-    /// Builds the nodes in an empty tree, which owns them. The images must outlive the tree.
+    /// Creates the nodes in an empty tree, which owns them. The images must outlive the tree.
     WorkspaceNodes(QTreeWidget& tree, ExplorerImages& images);
 
     void show(const WorkspaceTexts& texts);

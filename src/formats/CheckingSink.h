@@ -11,18 +11,18 @@ namespace tarsil {
 class FindingList;
 class TextStream;
 
-/// What the sinks of all checkers share: each lists what is doubtful in what a parser reports, and
-/// lets the parser go on.
+/// The base of the sinks of checkers: lists what is doubtful in what a parser reports, and lets the
+/// parser continue.
 class CheckingSink
 {
 public:
     CheckingSink(TextStream& stream, FindingList& findings, ModeWatch::ModeEnds ends);
 
-    /// `where` says where in the line the text is.
+    /// `where` is the position of the text in its line.
     void addWrongNumber(NumberStatus status, std::string_view text, const std::string& where);
 
 protected:
-    /// A finding in the line last read.
+    /// Adds a finding for the line last read.
     void add(std::string text);
 
     TextStream& m_stream;

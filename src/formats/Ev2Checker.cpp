@@ -63,8 +63,8 @@ private:
     std::size_t m_declaredModesLine = 0;
 };
 
-/// A header that is spelled a little differently is taken after all, so that the rest is checked
-/// too. Without it the search for the next header begins where this one did.
+/// Accepts a header with a slightly different spelling, so that the rest is checked too. If there
+/// is none, the search for the next header starts at the same line.
 bool Ev2CheckingSink::findMissingSection(std::string_view header)
 {
     const std::size_t lastLine = std::max<std::size_t>(m_stream.lineNumber(), 1);
@@ -82,7 +82,7 @@ bool Ev2CheckingSink::findMissingSection(std::string_view header)
     return false;
 }
 
-/// Goes to the line after a similar header; stays where it is when there is none.
+/// Moves to the line after a similar header. False, without moving, when there is none.
 bool Ev2CheckingSink::findSimilarHeader(std::string_view header)
 {
     TextStream ahead = m_stream;
@@ -110,7 +110,7 @@ bool Ev2CheckingSink::acceptsModelLine(std::string_view line)
 {
     const bool hasEqual = line.find('=') != std::string_view::npos;
     if (!hasEqual)
-        add("no \"=\" stands between a key and its value: " + quotedTrimmed(line));
+        add("there is no \"=\" between a key and its value: " + quotedTrimmed(line));
     return hasEqual;
 }
 
@@ -163,11 +163,11 @@ void Ev2CheckingSink::endPoint(std::optional<std::int16_t> modeNumber, std::opti
     m_modes.addPoint(m_stream.lineNumber(), modeNumber, speed);
 }
 
-/// A row in which the file ends may have lost the end of its last field, too.
+/// If the file ends in this row, its last field may be truncated.
 void Ev2CheckingSink::endRow(std::string_view line)
 {
     const std::size_t bar = line.rfind(ev2layout::separator);
-    const std::string_view last = line.substr(bar + 1); // the whole line when it has no "|"
+    const std::string_view last = line.substr(bar + 1); // the whole line without a "|"
     if (isCutOff(m_stream, line) && !isBlankText(last))
         add("the file ends in this row without an end of line: its last field, "
             + quotedTrimmed(last) + ", may be cut");
@@ -187,7 +187,7 @@ bool Ev2CheckingSink::endRows()
 
 void Ev2CheckingSink::addRowAfterResults()
 {
-    add("this row stands after the empty line that ends the results, and is not read");
+    add("this row is after the empty line that ends the results, and is not read");
 }
 
 } // namespace

@@ -4,10 +4,10 @@
 
 namespace tarsil {
 
-/// Reads the sections: headers of key=value lines, results separated by "|".
+/// Reads sections: headers of key=value lines, results separated by "|".
 void readEv2(TextStream& stream, EVM& evolution);
 
-/// The findings in a file of sections.
+/// The findings in a file with sections.
 void checkEv2(TextStream& stream, FindingList& findings);
 
 /// The new format.

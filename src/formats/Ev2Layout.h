@@ -11,7 +11,7 @@
 #include <string>
 #include <string_view>
 
-/// The sections of an .ev2 file, their keys, and what each key fills.
+/// The sections of an .ev2 file, their keys, and the members that the keys fill.
 namespace tarsil::ev2layout {
 
 constexpr std::string_view processingHeader = "[PROCESSING DATA INFO]";
@@ -21,7 +21,7 @@ inline constexpr std::array headers = {processingHeader, modelHeader, resultHead
 constexpr std::size_t headingLines = 4;
 constexpr char separator = '|';
 
-/// A key and the member of `Owner` that its value fills.
+/// A key and the member of `Owner` that it fills.
 template <typename Value, typename Owner>
 struct Key
 {
@@ -39,8 +39,8 @@ inline constexpr std::array processingTexts = {TextKey {"Program_version", &EVM:
                                                TextKey {"EV2_version", &EVM::ev2Version},
                                                TextKey {"Running_date", &EVM::runningDate}};
 
-/// Keys of imported evolutions, in the same section. With the first three of them the rows have
-/// Mach number and density in their fields 8 and 9, where other files hold other things.
+/// The keys of imported evolutions, in the same section. If the first three exist, fields 8 and 9
+/// of the rows are Mach number and density; other files use these fields differently.
 inline constexpr std::array provenanceTexts = {
     ProvenanceKey {"Source", &Provenance::source},
     ProvenanceKey {"Speed_unit", &Provenance::speedUnit},
@@ -61,9 +61,9 @@ inline constexpr std::array modelCounts = {CountKey {"Struct_modes", &EVM::numbe
                                            CountKey {"Aeroel_modes", &EVM::na},
                                            CountKey {"No_of_speeds", &EVM::numberOfSpeeds}};
 
-constexpr std::string_view modificationCountKey = "No_of_modif"; ///< which readers ignore
+constexpr std::string_view modificationCountKey = "No_of_modif"; ///< ignored by readers
 
-/// Every key that contains one of these adds its value to a list: "Modif(2)".
+/// A key that contains one of these adds its value to a list: "Modif(2)".
 inline constexpr std::array lists = {ListKey {"Modif", &Param::modifications},
                                      ListKey {"Legend", &Param::legends}};
 
@@ -82,8 +82,8 @@ inline KeyValue splitAtFirstEqual(std::string_view line)
     return {line.substr(0, equal), line.substr(equal + 1)};
 }
 
-/// The index of a list entry: the text between the parentheses of its key. Either parenthesis
-/// separates, the second piece counts; none when there is no parenthesis.
+/// The index of a list entry: the text between the parentheses of its key. Splits at either
+/// parenthesis and returns the second piece; empty without a parenthesis.
 inline std::optional<std::string_view> entryIndex(std::string_view key)
 {
     const std::size_t open = key.find_first_of("()");
@@ -96,8 +96,8 @@ inline std::optional<std::string_view> entryIndex(std::string_view key)
 constexpr std::size_t fieldsOfNarrowRow = 21; ///< factors in every second field
 constexpr std::size_t fieldsOfWideRow = 26; ///< factors in every third field
 
-/// How many fields apart the participation factors of a row with this number of fields are; 0: it
-/// has none.
+/// The distance in fields between the participation factors of a row with this number of fields; 0
+/// for none.
 constexpr std::size_t factorStep(std::size_t fields)
 {
     if (fields == fieldsOfNarrowRow)

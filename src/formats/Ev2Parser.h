@@ -18,24 +18,24 @@
 
 namespace tarsil {
 
-/// What `Ev2Parser` reports to. A function that reports something wrong either raises it as an
-/// error or returns, and then the parser goes on.
+/// The functions that `Ev2Parser` calls. A function that reports a fault either raises an error or
+/// returns; then the parser continues.
 template <typename Sink>
 concept Ev2Sink = requires(Sink sink, std::string_view text, const ev2layout::KeyValue& entry,
                            std::optional<std::int16_t> number, NumberStatus status,
                            std::size_t count, std::optional<float> speed)
 {
     sink.startSearch(); // for a header
-    // The header is not there: whether the section was found after all.
+    // the header is missing; whether the section was found after all
     {
         sink.findMissingSection(text)
         } -> std::same_as<bool>;
     {
         sink.endsSection(text)
-        } -> std::same_as<bool>; // whether a line that is not empty does
+        } -> std::same_as<bool>; // whether a line that is not empty ends the section
     {
         sink.acceptsModelLine(text)
-        } -> std::same_as<bool>; // false: the line is passed over
+        } -> std::same_as<bool>; // false: the line is ignored
     sink.setText(ev2layout::processingTexts[0], text);
     sink.setText(ev2layout::parameterTexts[0], text);
     sink.setText(ev2layout::provenanceTexts[0], text);
@@ -45,18 +45,17 @@ concept Ev2Sink = requires(Sink sink, std::string_view text, const ev2layout::Ke
     sink.addMissingIndex(entry);
     sink.addWrongValue(status, entry);
     sink.addMissingHeadings();
-    sink.startFactors(count, count); // fields of the row, and fields from factor to factor
-    sink.endPoint(number, speed); // mode number and speed, where they are numbers
-    sink.endRow(text); // also of a row with too few fields
+    sink.startFactors(count, count); // fields of the row, and distance between factors
+    sink.endPoint(number, speed); // mode number and speed, if they are numbers
+    sink.endRow(text); // also for a row with too few fields
     {
         sink.endRows()
         } -> std::same_as<bool>; // whether rows after them are wanted
     sink.addRowAfterResults();
 };
 
-/// Walks through a file of sections, and reports what it meets to a sink: a reader that makes an
-/// evolution of it, or a checker that collects what is wrong. A sink that raises every error costs
-/// nothing beyond what it does.
+/// Walks through a file with sections and reports to a sink: a reader, which makes an evolution, or
+/// a checker, which collects faults. It costs nothing extra for a sink that raises every error.
 template <Ev2Sink Sink>
 class Ev2Parser
 {
@@ -86,8 +85,8 @@ private:
     TextStream& m_stream;
     Sink& m_sink;
     ResultRows<Sink> m_rows;
-    std::string_view m_headerMet; ///< a header met inside the section before it
-    std::bitset<ev2layout::keysOfImports> m_importKeys; ///< those met
+    std::string_view m_headerMet; ///< a header found inside the previous section
+    std::bitset<ev2layout::keysOfImports> m_importKeys; ///< import keys found so far
 };
 
 template <Ev2Sink Sink>
@@ -121,7 +120,7 @@ bool Ev2Parser<Sink>::findSection(std::string_view header)
     return m_sink.findMissingSection(header);
 }
 
-/// The next line of a section; false at the end of the section.
+/// Reads the next line of a section. False at its end.
 template <Ev2Sink Sink>
 bool Ev2Parser<Sink>::nextSectionLine(std::string_view& line)
 {
@@ -136,7 +135,7 @@ bool Ev2Parser<Sink>::nextSectionLine(std::string_view& line)
     return false;
 }
 
-/// Here a second "=" ends the value, but for the keys of imports, whose values may be paths.
+/// In this section a second "=" ends the value, except for import keys, whose values may be paths.
 template <Ev2Sink Sink>
 void Ev2Parser<Sink>::parseProcessingLine(const ev2layout::KeyValue& entry)
 {
@@ -177,7 +176,7 @@ bool Ev2Parser<Sink>::parseText(const Keys& keys, const ev2layout::KeyValue& ent
     return false;
 }
 
-/// Whether the entry has a key whose value is a number.
+/// Whether the entry has a key with a numeric value.
 template <Ev2Sink Sink>
 bool Ev2Parser<Sink>::parseNumber(const ev2layout::KeyValue& entry)
 {

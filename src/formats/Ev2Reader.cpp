@@ -44,7 +44,7 @@ public:
 
     [[noreturn]] void addMissingIndex(const KeyValue& entry) const;
     [[noreturn]] void addWrongValue(NumberStatus status, const KeyValue& entry) const;
-    void addMissingHeadings() { m_stream.readLine(); } // raises the error of the end of the file
+    void addMissingHeadings() { m_stream.readLine(); } // raises the error at the end of the file
 
     void startFactors(std::size_t fields, std::size_t step);
     void endPoint(std::optional<std::int16_t> /*modeNumber*/, std::optional<float> /*speed*/) const
@@ -60,12 +60,13 @@ private:
 bool Ev2ReadingSink::findMissingSection(std::string_view header) const
 {
     throw RunTimeError(ErrorNumber::InputPastEndOfFile, "EVM",
-                       m_stream.place() + ": no line \"" + std::string(header) + "\"");
+                       m_stream.location() + ": no line \"" + std::string(header) + "\"");
 }
 
 void Ev2ReadingSink::setCount(const ev2layout::CountKey& key, std::optional<std::int16_t> count)
 {
-    m_evolution.*key.member = count.value_or(0); // never without, since a wrong number is an error
+    m_evolution.*key.member =
+        count.value_or(0); // always has a value, because an invalid number is an error
 }
 
 void Ev2ReadingSink::addToList(const ev2layout::ListKey& key, std::string_view index,
@@ -88,7 +89,7 @@ void Ev2ReadingSink::addWrongValue(NumberStatus status, const KeyValue& entry) c
     addWrongNumber(status, entry.value, std::string(entry.key));
 }
 
-/// The last row that has or lacks factors for certain decides for the whole file.
+/// The last row that decides whether there are factors applies to the whole file.
 void Ev2ReadingSink::startFactors(std::size_t fields, std::size_t step)
 {
     if (fields <= resultfield::mostWithoutFactors)
@@ -105,7 +106,7 @@ bool Ev2ReadingSink::endRows()
 
 std::string Ev2ReadingSink::whereIs(const KeyValue& entry) const
 {
-    return m_stream.place() + ": \"" + std::string(entry.key) + "\"";
+    return m_stream.location() + ": \"" + std::string(entry.key) + "\"";
 }
 
 } // namespace

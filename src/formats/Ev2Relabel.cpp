@@ -15,14 +15,14 @@ namespace {
 constexpr std::string_view countKey = ev2layout::modificationCountKey;
 constexpr std::string_view listKey = ev2layout::lists[0].name;
 
-/// Rows of one mode: their texts without the mode number, which is the same in all.
+/// The rows of a mode: their texts without the mode number, which they share.
 struct ModeRows
 {
     std::string_view number;
-    std::vector<std::string_view> rest; ///< from the first "|" on
+    std::vector<std::string_view> rest; ///< from the first "|"
 };
 
-/// Copies a file of sections with more modifications and other rows.
+/// Copies a file with sections, with additional modifications and rearranged rows.
 class Relabelling
 {
 public:
@@ -64,7 +64,7 @@ void Relabelling::addModifications(std::set<std::string, std::less<>> usedKeys,
     }
 }
 
-/// The lines of the section, its count of modifications, and the new ones at its end.
+/// Copies the lines of the section, with the new count of modifications, and appends the new ones.
 void Relabelling::copyModelSection(const std::vector<std::string>& modifications)
 {
     std::set<std::string, std::less<>> usedKeys;

@@ -7,10 +7,10 @@
 
 namespace tarsil {
 
-/// A file of sections whose modes follow other rows: row p of mode m becomes the row p of mode
-/// `sources[p][m]` (indices), under the number of mode m. All other texts of the rows and of the
-/// header stay, and lines end with LF; `modifications` are added to the header's list, in the
-/// file's encoding. Error 9 for a file whose modes and rows are not those of `sources`.
+/// Rearranges the rows of a file with sections: row p of mode m becomes row p of mode
+/// `sources[p][m]` (indices), under the number of mode m. All other text is unchanged; lines end
+/// with LF. `modifications` are added to the list in the header, in the encoding of the file. Error
+/// 9 for a file whose modes and rows do not match `sources`.
 std::string relabelledEv2(std::string_view text,
                           const std::vector<std::vector<std::size_t>>& sources,
                           const std::vector<std::string>& modifications);

@@ -23,11 +23,11 @@ constexpr std::array<const Columns*, 4> decimalColumns = {
 
 std::size_t lengthWithoutBlankTail(std::string_view text)
 {
-    return text.find_last_not_of(" \t\r\n") + 1; // 0 when there is nothing but blanks
+    return text.find_last_not_of(" \t\r\n") + 1; // 0 when there are only blanks
 }
 
-/// Whether a field can be meant as a point: most numbers of one have a decimal point, or the stars
-/// of a number that did not fit. Tags do not look so.
+/// Whether a field may be a point: most of its numbers have a decimal point, or the stars of a
+/// number that did not fit. Tags do not look like that.
 bool looksLikePoint(std::string_view field)
 {
     const auto numbers = std::count_if(
@@ -51,7 +51,7 @@ public:
           m_blankTail(stream.rest().size() - lengthWithoutBlankTail(stream.rest()))
     { }
 
-    void addMissingCounts() { add("the file ends before line 4, which holds the counts"); }
+    void addMissingCounts() { add("the file ends before line 4, which has the counts"); }
 
     void setSpeedCount(std::int16_t count)
     {
@@ -76,15 +76,16 @@ private:
     void checkLineEnd(const EvmField& field);
     std::string declaredText() const;
 
-    std::size_t m_blankTail; ///< bytes after the last one that is not blank
+    std::size_t m_blankTail; ///< trailing blank bytes
     std::optional<int> m_declaredSpeeds;
     std::optional<int> m_declaredModes;
-    bool m_isOver = false; ///< what follows is not understood
-    bool m_isRightAligned = false; ///< a point had its last number at the end of its columns
+    bool m_isOver = false; ///< the rest is not understood
+    bool m_isRightAligned =
+        false; ///< whether the last number of a point ended at the end of its columns
     Point m_point; ///< the point being read
 };
 
-/// A count as it is declared; none when it cannot be used.
+/// A declared count; empty when it is unusable.
 std::optional<int> EvmCheckingSink::usable(std::int16_t count, const Columns& columns)
 {
     if (count > 0)
@@ -99,7 +100,7 @@ void EvmCheckingSink::endCounts(std::string_view line)
         m_modes.declareSpeeds(*m_declaredSpeeds);
         return;
     }
-    m_declaredModes.reset(); // with one count alone it is not known where the points end
+    m_declaredModes.reset(); // one count alone does not tell where the points end
     if (isCount(evmlayout::writtenSpeedCount.of(line))
         && isCount(evmlayout::writtenModeCount.of(line)))
         add("the counts stand in columns 56-59 and 64-67, as in an exported file; they are read "
@@ -111,7 +112,7 @@ bool EvmCheckingSink::allModesRead() const
     return m_declaredModes && std::cmp_greater_equal(m_modes.modeCount(), *m_declaredModes);
 }
 
-/// Without the counts, the points end at the first field that does not look like one.
+/// Without the counts the points end at the first field that does not look like one.
 bool EvmCheckingSink::accepts(const EvmField& field)
 {
     if (looksLikePoint(field.text))
@@ -143,8 +144,8 @@ void EvmCheckingSink::endPoint(const EvmField& field, std::optional<std::int16_t
     checkLineEnd(field);
 }
 
-/// A line that ends before the last column of a point may have lost the end of its last number.
-/// Numbers at the left of their columns end where they like, unless the file ends with them.
+/// A line that ends before the last column of a point may be truncated within its last number.
+/// Left-aligned numbers may end anywhere, except at the end of the file.
 void EvmCheckingSink::checkLineEnd(const EvmField& field)
 {
     const std::string_view last = evmlayout::frequency.of(field.text);
@@ -168,7 +169,7 @@ std::string EvmCheckingSink::declaredText() const
     return std::to_string(*m_declaredModes) + " aeroelastic modes";
 }
 
-/// Compares the modes found with the count of line 4.
+/// Compares the number of modes with the count in line 4.
 bool EvmCheckingSink::endPoints()
 {
     m_modes.finish();
@@ -182,7 +183,7 @@ bool EvmCheckingSink::endPoints()
     return m_declaredModes && !isShort;
 }
 
-/// The tags of an exported file, which follow the points, are not points.
+/// The tags of an exported file follow its points and are not points.
 void EvmCheckingSink::addFieldAfterPoints(const EvmField& field)
 {
     if (looksLikePoint(field.text))

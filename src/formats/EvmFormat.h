@@ -4,7 +4,7 @@
 
 namespace tarsil {
 
-/// Reads the fixed columns: two points a line, the damping with the opposite sign.
+/// Reads fixed columns: two points on a line, the damping with the opposite sign.
 void readEvm(TextStream& stream, EVM& evolution);
 
 /// The findings in a file in fixed columns.

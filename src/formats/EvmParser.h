@@ -18,16 +18,16 @@
 
 namespace tarsil {
 
-/// Half a line of a file in fixed columns, which holds one point.
+/// Half a line of a file in fixed columns: one point.
 struct EvmField
 {
     std::string_view line; ///< the whole line
-    std::size_t offset = 0; ///< 0 or 40: where the field begins in the line
-    std::string_view text; ///< at most 40 characters; fewer where the line ends
+    std::size_t offset = 0; ///< 0 or 40: index of the field in the line
+    std::string_view text; ///< up to 40 characters; fewer at the end of the line
 };
 
-/// What `EvmParser` reports to. A function that reports something wrong either raises it as an
-/// error or returns, and then the parser goes on.
+/// The functions that `EvmParser` calls. A function that reports a fault either raises an error or
+/// returns; then the parser continues.
 template <typename Sink>
 concept EvmSink = requires(Sink sink, const EvmField& field, std::optional<std::int16_t> number,
                            NumberStatus status, std::string_view text)
@@ -36,7 +36,7 @@ concept EvmSink = requires(Sink sink, const EvmField& field, std::optional<std::
     sink.addWrongNumber(status, text, std::string());
     sink.setSpeedCount(std::int16_t {});
     sink.setModeCount(std::int16_t {});
-    sink.endCounts(text); // line 4 as a whole
+    sink.endCounts(text); // the whole line 4
     {
         sink.wantsPoint()
         } -> std::same_as<bool>;
@@ -45,20 +45,19 @@ concept EvmSink = requires(Sink sink, const EvmField& field, std::optional<std::
         } -> std::same_as<bool>; // in the stream
     {
         sink.accepts(field)
-        } -> std::same_as<bool>; // false: the field is passed over
+        } -> std::same_as<bool>; // false: the field is ignored
     {
         sink.newPoint(field)
         } -> std::same_as<Point&>;
     sink.endPoint(field, number, bool()); // the mode number, and whether the speed is a number
     {
         sink.endPoints()
-        } -> std::same_as<bool>; // whether the field after them is wanted
+        } -> std::same_as<bool>; // whether the next field is wanted
     sink.addFieldAfterPoints(field);
 };
 
-/// Walks through a file in fixed columns, and reports what it meets to a sink: a reader that makes
-/// modes of it, or a checker that collects what is wrong. A sink that raises every error costs
-/// nothing beyond what it does.
+/// Walks through a file in fixed columns and reports to a sink: a reader, which makes modes, or a
+/// checker, which collects faults. It costs nothing extra for a sink that raises every error.
 template <EvmSink Sink>
 class EvmParser
 {
@@ -83,12 +82,13 @@ private:
     EvmField m_field;
     bool m_hasLine = false;
     std::int16_t m_modeNumber = 0;
-    std::string m_modeNumberText; ///< the columns that hold `m_modeNumber`; empty: not known yet
+    std::string
+        m_modeNumberText; ///< the columns that `m_modeNumber` was read from; empty: none yet
 };
 
 namespace evmparser {
 
-/// For columns known when this is compiled, so that the code is made for their width.
+/// A template, so that code is generated for the width of the columns.
 template <const evmlayout::NumberColumns& columns>
 bool readColumns(std::string_view field, float& value)
 {
@@ -96,14 +96,14 @@ bool readColumns(std::string_view field, float& value)
                                    value);
 }
 
-/// The file holds the damping with the opposite sign.
+/// The file has the damping with the opposite sign.
 inline float dampingOf(float written)
 {
     return written * -1.0F;
 }
 
-/// Reads the four numbers of a field that has all its columns, with numbers of the usual form in
-/// them; false when it is otherwise, so that each has to be looked at.
+/// Reads the four numbers of a complete field whose numbers have their usual form. False otherwise;
+/// each number is then read separately.
 inline bool readUsualForm(std::string_view field, Point& point)
 {
     float damping = 0;
@@ -123,8 +123,8 @@ inline bool sameModeNumber(std::string_view text, std::string_view other)
         && std::memcmp(text.data(), other.data(), width) == 0;
 }
 
-/// Whether the last column of the damping is not blank: the quickest way to see that the field is
-/// not.
+/// Whether the last column of the damping is not blank: the fastest test for a field that is not
+/// blank.
 inline bool hasDamping(std::string_view field)
 {
     constexpr std::size_t last = evmlayout::damping.first + evmlayout::damping.width - 1;
@@ -176,7 +176,7 @@ std::optional<std::int16_t> EvmParser<Sink>::count(const evmlayout::Columns& col
     return std::nullopt;
 }
 
-/// Goes on to the next field; false when only blanks are left in the file.
+/// Moves to the next field. False when only blanks are left in the file.
 template <EvmSink Sink>
 bool EvmParser<Sink>::nextField()
 {
@@ -205,7 +205,7 @@ void EvmParser<Sink>::readPoint()
     m_sink.endPoint(m_field, number, hasSpeed);
 }
 
-/// Reads the columns in their order; whether the speed is a number.
+/// Reads the columns in order. Returns whether the speed is a number.
 template <EvmSink Sink>
 bool EvmParser<Sink>::readColumnByColumn(Point& point)
 {
@@ -218,7 +218,7 @@ bool EvmParser<Sink>::readColumnByColumn(Point& point)
     return hasSpeed;
 }
 
-/// All points of a mode carry its number, so equal columns are read once.
+/// All points of a mode have the same number, so equal columns are parsed only once.
 template <EvmSink Sink>
 std::optional<std::int16_t> EvmParser<Sink>::modeNumber()
 {
@@ -236,7 +236,7 @@ std::optional<std::int16_t> EvmParser<Sink>::modeNumber()
     return number;
 }
 
-/// Whether the columns hold a number.
+/// Whether the columns contain a number.
 template <EvmSink Sink>
 bool EvmParser<Sink>::single(const evmlayout::Columns& columns, float& value)
 {

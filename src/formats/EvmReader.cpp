@@ -12,13 +12,13 @@ namespace tarsil {
 
 namespace {
 
-/// Makes modes of the points: as many points as there are speeds make a mode.
+/// Collects points to modes: as many points as there are speeds form a mode.
 class EvmReadingSink : public ReadingSink
 {
 public:
     using ReadingSink::ReadingSink;
 
-    void addMissingCounts() { m_stream.readLine(); } // raises the error of the end of the file
+    void addMissingCounts() { m_stream.readLine(); } // raises the error at the end of the file
 
     void setSpeedCount(std::int16_t count) { m_evolution.numberOfSpeeds = count; }
     void setModeCount(std::int16_t count) { m_evolution.na = count; }
@@ -34,7 +34,7 @@ public:
     void addFieldAfterPoints(const EvmField& /*field*/) const { }
 
 private:
-    std::unique_ptr<AeMode> m_mode; ///< the mode being read; null between two modes
+    std::unique_ptr<AeMode> m_mode; ///< null between two modes
 };
 
 Point& EvmReadingSink::newPoint(const EvmField& field)
@@ -53,7 +53,8 @@ void EvmReadingSink::endPoint(const EvmField& /*field*/, std::optional<std::int1
 {
     if (std::cmp_less(m_mode->Points.size(), m_evolution.numberOfSpeeds))
         return;
-    m_mode->Id = modeNumber.value_or(0); // never without, since a wrong number is an error
+    m_mode->Id =
+        modeNumber.value_or(0); // always has a value, because an invalid number is an error
     m_mode->Parent = &m_evolution;
     m_evolution.Modes.push_back(std::exchange(m_mode, nullptr));
 }

@@ -24,7 +24,7 @@ std::string rightAligned(std::string text, std::size_t width)
     return text;
 }
 
-/// Gathers pieces into lines with the same number of pieces; a shorter last line is written too.
+/// Joins pieces to lines of the same number of pieces; writes an incomplete last line too.
 class LineGatherer
 {
 public:
@@ -91,7 +91,7 @@ std::string countLine(const EVM& evolution)
     return line;
 }
 
-/// The first characters of a UTF-8 text, whole ones.
+/// The first `count` bytes of a UTF-8 text, without splitting a character.
 std::string firstCharacters(const std::string& text, std::size_t count)
 {
     std::size_t end = 0;

@@ -7,12 +7,11 @@
 
 namespace tarsil {
 
-/// Everything doubtful in the file of the name given, in the order of its lines: counts that
-/// disagree with the rows, a mode cut short, speeds that do not increase, equal speeds, a repeated
-/// mode number, rows of different widths, factors that do not count, a file that ends within a
-/// number, a field count that carries no factors, a text in a number field, a section that is
-/// missing. At most `mostFindings` are listed, then one that says so. Errors: those of opening a
-/// file; error 5 for a name that selects no format.
+/// The findings in a file, by line: counts that disagree with the rows, a truncated mode, speeds
+/// that do not increase or are equal, a repeated mode number, rows of different widths, factors
+/// that are ignored, a file that ends within a number, a number of fields without factors, text in
+/// a number field, a missing section. At most `mostFindings` are listed, then one about the rest.
+/// Errors: those of opening a file; 5 for a name of unknown format.
 std::vector<Finding> checkEvolution(std::string_view path);
 
 /// The same for text in memory; `fileName` selects the format (`formatOf`).

@@ -19,8 +19,8 @@ namespace {
 
 using Reader = EvolutionFormat::Evolutions (*)(TextStream& stream);
 
-/// When another program has changed the file meanwhile, that is the error, and not what was found
-/// wrong in the file then.
+/// If another program has changed the file meanwhile, that is reported instead of a fault in its
+/// contents.
 void fillFromFile(EVM& evolution, Reader read)
 {
     const std::string path = evolution.path();

@@ -18,15 +18,15 @@ namespace {
 
 constexpr std::string_view moduleName = "mdlMain";
 
-/// Loads files for the user, who is told what becomes of them.
+/// Loads files and shows the results to the user.
 class Loader : private ListOpener
 {
 public:
-    /// Reports of each file by itself that it is missing, or of all of them at the end.
-    enum class Missing { ToldOneByOne, ToldTogether };
+    /// Whether missing files are reported one by one, or all at the end.
+    enum class Missing { ReportedOneByOne, ReportedTogether };
 
     Loader(UserInterface& userInterface, Missing missing)
-        : m_userInterface(userInterface), m_missingIsTold(missing)
+        : m_userInterface(userInterface), m_missingReports(missing)
     { }
 
     LoadedEvolutions load(const OwnedEvolutions& open, const std::vector<std::string>& paths);
@@ -38,14 +38,14 @@ private:
     void isMissing(std::size_t index, const std::string& path) override;
     void cannotOpen(std::size_t index, const std::exception_ptr& error) override;
     void isDone(std::size_t count) override;
-    void tellMissing();
+    void showMissing();
 
     UserInterface& m_userInterface;
-    Missing m_missingIsTold;
+    Missing m_missingReports;
     std::size_t m_count = 0;
     OwnedEvolutions m_added;
-    std::vector<std::string> m_missing; ///< what they are called; not told yet
-    std::vector<std::string> m_failures; ///< the reports of files that cannot be read
+    std::vector<std::string> m_missing; ///< names still to be reported
+    std::vector<std::string> m_failures; ///< reports of files that cannot be read
 };
 
 LoadedEvolutions Loader::load(const OwnedEvolutions& open, const std::vector<std::string>& paths)
@@ -54,7 +54,7 @@ LoadedEvolutions Loader::load(const OwnedEvolutions& open, const std::vector<std
     m_count = paths.size();
     std::vector<EVM*> listed = openListed(open, paths, *this);
     if (!m_missing.empty())
-        tellMissing();
+        showMissing();
     if (!m_failures.empty())
         m_userInterface.showMessage(shortList(m_failures, mostReports, "\n\n"), "Error",
                                     MessageIcon::Critical);
@@ -77,8 +77,8 @@ void Loader::isMissing(std::size_t index, const std::string& path)
     m_missing.push_back(path.empty() ? "file " + std::to_string(index + 1)
                                 + " of the list, which has no path"
                                      : shownPath(path));
-    if (m_missingIsTold == Missing::ToldOneByOne)
-        tellMissing();
+    if (m_missingReports == Missing::ReportedOneByOne)
+        showMissing();
 }
 
 void Loader::cannotOpen(std::size_t /*index*/, const std::exception_ptr& error)
@@ -92,7 +92,7 @@ void Loader::isDone(std::size_t count)
     m_userInterface.showProgress(count, m_count);
 }
 
-void Loader::tellMissing()
+void Loader::showMissing()
 {
     m_userInterface.showMessage("Modal evolution file not found:\n"
                                     + shortList(m_missing, mostFileLines),
@@ -125,14 +125,14 @@ std::vector<std::string> OpenFileDialog(UserInterface& userInterface, std::strin
 LoadedEvolutions loadEvolutions(const OwnedEvolutions& open, const std::vector<std::string>& paths,
                                 UserInterface& userInterface)
 {
-    return Loader(userInterface, Loader::Missing::ToldOneByOne).load(open, paths);
+    return Loader(userInterface, Loader::Missing::ReportedOneByOne).load(open, paths);
 }
 
 LoadedEvolutions loadListedEvolutions(const OwnedEvolutions& open,
                                       const std::vector<std::string>& paths,
                                       UserInterface& userInterface)
 {
-    return Loader(userInterface, Loader::Missing::ToldTogether).load(open, paths);
+    return Loader(userInterface, Loader::Missing::ReportedTogether).load(open, paths);
 }
 
 } // namespace mdlMain

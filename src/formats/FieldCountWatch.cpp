@@ -46,7 +46,7 @@ void FieldCountWatch::closeRun()
     m_findings.add(m_firstLine, std::move(text));
 }
 
-/// The last row that says yes or no decides for the whole file.
+/// The last row that decides whether there are factors applies to the whole file.
 void FieldCountWatch::followFactors(std::size_t line, std::size_t fields)
 {
     if (ev2layout::factorStep(fields) > 0) {

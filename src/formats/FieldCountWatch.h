@@ -6,10 +6,9 @@ namespace tarsil {
 
 class FindingList;
 
-/// Follows the numbers of fields in the rows of a result table: finds rows that have more or fewer
-/// than the first one, numbers of fields that carry no participation factors, and factors that do
-/// not count since rows without any come after them. Rows of one number that follow each other make
-/// one finding.
+/// Follows the numbers of fields in the rows of a result table. Finds rows whose number differs
+/// from the first one, numbers of fields without participation factors, and factors that are
+/// ignored because later rows have none. Consecutive rows of the same number give one finding.
 class FieldCountWatch
 {
 public:
@@ -17,7 +16,7 @@ public:
 
     void addRow(std::size_t line, std::size_t fields);
 
-    /// Closes the last run of rows.
+    /// Ends the last run of rows.
     void finish();
 
 private:
@@ -26,11 +25,11 @@ private:
 
     FindingList& m_findings;
     std::size_t m_usual = 0; ///< fields of the first row; 0: no row yet
-    std::size_t m_fields = 0; ///< of the rows being followed
-    std::size_t m_firstLine = 0; ///< of these rows
+    std::size_t m_fields = 0; ///< of the current run of rows
+    std::size_t m_firstLine = 0; ///< of the current run
     std::size_t m_lastLine = 0;
-    bool m_hasFactors = false; ///< what the reader makes of the rows so far
-    std::size_t m_lineWithoutFactors = 0; ///< which ended them; 0: none did
+    bool m_hasFactors = false; ///< what the reader would decide so far
+    std::size_t m_lineWithoutFactors = 0; ///< the line that turned factors off; 0: none
 };
 
 } // namespace tarsil

@@ -6,7 +6,7 @@
 
 namespace tarsil {
 
-/// Something in a file that its reader passes over, or stops at.
+/// A part of a file that the reader ignores or fails at.
 struct Finding
 {
     std::size_t line; ///< counted from 1
@@ -15,17 +15,17 @@ struct Finding
 
 constexpr std::size_t mostFindings = 1000;
 
-/// Collects findings; beyond `mostFindings` they are only counted, so that a file full of defects
-/// costs no more than its first thousand.
+/// Collects findings. Beyond `mostFindings` they are only counted, which limits the cost of a file
+/// full of faults.
 class FindingList
 {
 public:
     void add(std::size_t line, std::string text);
 
-    /// A finding about the whole file, at most a handful: kept however many there are before it.
+    /// Adds one of the few findings about the whole file; it is kept in any case.
     void addSummary(std::size_t line, std::string text);
 
-    /// The findings in the order of their lines, the last one saying how many more there are.
+    /// Returns the findings sorted by line; the last one contains the number of those not listed.
     std::vector<Finding> take();
 
 private:

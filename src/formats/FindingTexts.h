@@ -9,14 +9,14 @@ namespace tarsil {
 
 class TextStream;
 
-/// What is wrong with a number text whose status is not Ok: "is blank", "is not a number", ...
+/// The fault of a number text with a status other than Ok: "is blank", "is not a number", ...
 std::string numberComplaint(NumberStatus status, std::string_view text);
 
 /// `quotedText` without the blanks around the text.
 std::string quotedTrimmed(std::string_view text);
 
-/// Whether the stream, which holds the whole text, has ended with this line without an end of line
-/// after it. `line` is the line last read.
+/// Whether the stream, which contains the whole text, ends with this line and without a line end.
+/// `line` is the line last read.
 bool isCutOff(const TextStream& stream, std::string_view line);
 
 } // namespace tarsil

@@ -36,7 +36,7 @@ constexpr bool areComplete()
     return true;
 }
 
-/// Whether each format can be found: no earlier one has its name or takes its files.
+/// Whether each format can be found: no earlier one has its name or matches its files.
 constexpr bool areDistinct()
 {
     for (std::size_t i = 0; i < formats.size(); ++i) {
@@ -72,7 +72,7 @@ const EvolutionFormat& formatOf(std::string_view fileName)
 {
     if (const EvolutionFormat* const format = findFormat(fileName))
         return *format;
-    std::string text = "the name \"" + std::string(fileName) + "\" holds";
+    std::string text = "the name \"" + std::string(fileName) + "\" contains";
     for (const EvolutionFormat* format : formats)
         text.append(format == formats.front() ? " neither \"" : " nor \"")
             .append(format->extension)

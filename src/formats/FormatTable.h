@@ -8,17 +8,16 @@
 
 namespace tarsil {
 
-/// All formats for modal evolutions, in the order in which names are tested and dialogs list them.
+/// All formats for modal evolutions, in the order of matching and of dialogs.
 std::span<const EvolutionFormat* const> evolutionFormats();
 
-/// The first format whose extension is anywhere in a text, such as a file name; null when there is
-/// none.
+/// The first format whose extension occurs in a text, such as a file name; null when there is none.
 const EvolutionFormat* findFormat(std::string_view text);
 
 /// The same; error 5 when there is none.
 const EvolutionFormat& formatOf(std::string_view fileName);
 
-/// The extensions of all formats for a sentence: ".evm or .ev2" with the conjunction "or".
+/// The extensions of all formats in a sentence: ".evm or .ev2" with the conjunction "or".
 std::string formatExtensions(std::string_view conjunction);
 
 } // namespace tarsil

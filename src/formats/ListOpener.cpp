@@ -11,7 +11,7 @@ namespace tarsil {
 
 namespace {
 
-/// The open evolutions by what leads to their files, so that one of thousands is found at once.
+/// The open evolutions, indexed by what identifies their files.
 class OpenFiles
 {
 public:
@@ -29,7 +29,7 @@ public:
             m_byIdentity.emplace(std::move(*identity), &evolution);
     }
 
-    /// The evolution of the file that a path leads to; null when it is not open.
+    /// The evolution of the file at a path; null when it is not open.
     EVM* find(std::string_view path) const
     {
         const FilePath file = resolvePath(path);
@@ -42,7 +42,7 @@ public:
     }
 
 private:
-    std::unordered_map<std::string, EVM*> m_byPath; ///< in stored form
+    std::unordered_map<std::string, EVM*> m_byPath; ///< by stored path
     std::unordered_map<std::string, EVM*> m_byIdentity;
 };
 

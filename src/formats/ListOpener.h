@@ -9,33 +9,33 @@
 
 namespace tarsil {
 
-/// Opens the files of a list, and receives what becomes of each. Indices are counted from 0.
+/// Opens the files of a list and receives the result for each. Indices are counted from 0.
 class ListOpener
 {
 public:
     virtual ~ListOpener();
 
-    /// Whether a file is to be opened at all.
+    /// Whether to open the file of an entry.
     virtual bool isWanted(std::size_t index) const = 0;
 
-    /// Reads an evolution, which the opener owns. Any exception is passed to `cannotOpen`.
+    /// Reads an evolution, which the opener owns. Exceptions are passed to `cannotOpen`.
     virtual EVM& open(const std::string& path) = 0;
 
-    /// The file of that path is open already.
+    /// The file is already open.
     virtual void foundOpen(const EVM& evolution) = 0;
 
-    /// There is no such file. The path of an entry that the list lacks is empty.
+    /// The file does not exist. The path is empty for an entry without a path.
     virtual void isMissing(std::size_t index, const std::string& path) = 0;
 
     virtual void cannotOpen(std::size_t index, const std::exception_ptr& error) = 0;
 
-    /// So many entries of the list are dealt with.
+    /// `count` entries of the list are finished.
     virtual void isDone(std::size_t count) = 0;
 };
 
-/// Opens the files of a list in its order. One that is open already (in `open` or earlier in the
-/// list, also by way of another path) is not opened again. Returns the evolution of each path, null
-/// where there is none.
+/// Opens the files of a list in order. A file that is already open (in `open`, or from an earlier
+/// entry, also under another path) is not opened again. Returns the evolution of each path, null if
+/// there is none.
 std::vector<EVM*> openListed(const OwnedEvolutions& open, const std::vector<std::string>& paths,
                              ListOpener& opener);
 

@@ -10,26 +10,26 @@ namespace tarsil {
 
 class FindingList;
 
-/// Follows the points of a file, mode by mode: finds modes of another length than declared, mode
-/// numbers that come again, and speeds that do not increase.
+/// Follows the points of a file by mode. Finds modes whose length differs from the declared one,
+/// repeated mode numbers, and speeds that do not increase.
 class ModeWatch
 {
 public:
     enum class ModeEnds {
         WhenTheNumberChanges,
-        WhenAllSpeedsAreThere ///< or the number changes
+        WhenAllSpeedsAreThere ///< or when the number changes
     };
 
     ModeWatch(FindingList& findings, ModeEnds ends);
 
-    /// The declared number of speeds; unknown until it is given.
+    /// Sets the declared number of speeds.
     void declareSpeeds(int speeds) { m_declaredSpeeds = speeds; }
 
-    /// One point, read from `line`. A point whose mode number could not be read belongs to the
-    /// current mode.
+    /// Adds a point, read from `line`. A point without a valid mode number belongs to the current
+    /// mode.
     void addPoint(std::size_t line, std::optional<std::int16_t> number, std::optional<float> speed);
 
-    /// Closes the last mode.
+    /// Ends the last mode.
     void finish();
 
     std::size_t modeCount() const { return m_modes; }
@@ -46,7 +46,7 @@ private:
     ModeEnds m_ends;
     std::optional<int> m_declaredSpeeds;
     std::map<std::int16_t, std::size_t> m_lastLineOfMode;
-    std::optional<std::int16_t> m_number; ///< of the current mode, once a point had one
+    std::optional<std::int16_t> m_number; ///< of the current mode; empty: not known yet
     std::size_t m_line = 0;
     int m_points = 0; ///< of the current mode
     std::optional<float> m_speed;

@@ -10,7 +10,7 @@ namespace tarsil {
 void ReadingSink::addWrongNumber(NumberStatus status, std::string_view text,
                                  const std::string& where) const
 {
-    throwNumberError(status, text, "EVM", m_stream.place() + ", " + where);
+    throwNumberError(status, text, "EVM", m_stream.location() + ", " + where);
 }
 
 std::size_t ReadingSink::expectedPoints(std::size_t bytesAtHand, std::size_t shortest) const

@@ -11,20 +11,20 @@ namespace tarsil {
 class EVM;
 class TextStream;
 
-/// What the sinks of all readers share: each makes an evolution of what a parser reports, and
-/// raises the first thing that is wrong as an error.
+/// The base of the sinks of readers: makes an evolution of what a parser reports, and raises the
+/// first fault as an error.
 class ReadingSink
 {
 public:
     ReadingSink(TextStream& stream, EVM& evolution) : m_stream(stream), m_evolution(evolution) { }
 
-    /// Error 13 or 6; `where` says where in the line the text is.
+    /// Error 13 or 6; `where` is the position of the text in its line.
     [[noreturn]] void addWrongNumber(NumberStatus status, std::string_view text,
                                      const std::string& where) const;
 
 protected:
-    /// How many points to reserve for a mode: as many as are declared, but no more than there can
-    /// be in the rest of the file and `bytesAtHand`, each of them `shortest` bytes at least.
+    /// The number of points to reserve for a mode: the declared number, limited by what the rest of
+    /// the file and `bytesAtHand` can contain at `shortest` bytes for each point.
     std::size_t expectedPoints(std::size_t bytesAtHand, std::size_t shortest) const;
 
     TextStream& m_stream;

@@ -13,7 +13,7 @@ namespace tarsil {
 void ResultReadingSink::addShortRow(std::size_t fields, std::string_view line) const
 {
     throw RunTimeError(ErrorNumber::SubscriptOutOfRange, "EVM",
-                       m_stream.place() + ": only " + std::to_string(fields)
+                       m_stream.location() + ": only " + std::to_string(fields)
                            + " of the fields of a result row: " + quotedText(line));
 }
 

@@ -10,8 +10,7 @@
 
 namespace tarsil {
 
-/// Makes modes of the rows of a result table: a row of another mode number closes the mode before
-/// it.
+/// Makes modes of the rows of a result table: a row with another mode number ends the current mode.
 class ResultReadingSink : public ReadingSink
 {
 public:
@@ -19,7 +18,7 @@ public:
 
     Point& newPoint(std::optional<std::int16_t> modeNumber)
     {
-        // Never without a number, since a wrong number is an error.
+        // Always has a number, because an invalid one is an error.
         if (!m_mode || m_mode->Id != *modeNumber)
             startMode(*modeNumber);
         Point& point = m_mode->Points.emplace_back();
@@ -30,7 +29,7 @@ public:
     /// Error 9.
     [[noreturn]] void addShortRow(std::size_t fields, std::string_view line) const;
 
-    /// Appends the mode being read, if there is one.
+    /// Appends the current mode, if there is one.
     void closeMode();
 
 private:

@@ -6,8 +6,7 @@
 
 namespace tarsil {
 
-/// One row of a result table, cut at its separator. Only the first fields are kept, but all are
-/// counted.
+/// A row of a result table, split at its separator. Stores only the first fields but counts all.
 class ResultRow
 {
 public:
@@ -15,7 +14,7 @@ public:
 
     void split(std::string_view line, char separator);
 
-    std::size_t count() const { return m_count; } ///< fields of the row, empty ones included
+    std::size_t count() const { return m_count; } ///< number of fields, with empty ones
     std::string_view field(std::size_t index) const
     {
         const std::size_t start = index == 0 ? 0 : m_ends[index - 1] + std::size_t {1};
@@ -24,11 +23,11 @@ public:
 
 private:
     std::string_view m_line;
-    std::array<std::size_t, kept + 1> m_ends {}; ///< where each field ends; the last: all others
+    std::array<std::size_t, kept + 1> m_ends {}; ///< end of each field; the last: end of all others
     std::size_t m_count = 0;
 };
 
-/// The fields that every result table has at the same positions, counted from 0.
+/// The fields at the same index, counted from 0, in every result table.
 namespace resultfield {
 constexpr std::size_t modeNumber = 0;
 constexpr std::size_t imaginaryPart = 2;
@@ -36,17 +35,17 @@ constexpr std::size_t realPart = 3;
 constexpr std::size_t speed = 5;
 constexpr std::size_t damping = 6;
 constexpr std::size_t frequency = 7;
-constexpr std::size_t fewest = 8; ///< fields of a row
+constexpr std::size_t fewest = 8; ///< minimum number of fields
 constexpr std::size_t mach = 8; ///< of imported evolutions
 constexpr std::size_t sigma = 9; ///< of imported evolutions
 constexpr std::size_t firstFactor = 10;
-constexpr std::size_t mostWithoutFactors = 11; ///< fields of a row
+constexpr std::size_t mostWithoutFactors = 11; ///< number of fields
 
-/// What a field holds, for messages.
+/// The content of a field, for messages.
 std::string_view content(std::size_t index);
 } // namespace resultfield
 
-/// For texts of a few characters, which a loop compares sooner than a library call.
+/// Faster than a library call for texts of a few characters.
 inline bool sameShortText(std::string_view a, std::string_view b)
 {
     if (a.size() != b.size())

@@ -14,27 +14,26 @@
 
 namespace tarsil {
 
-/// Reads the rows of a result table and reports to a sink, which has these functions:
+/// Reads the rows of a result table and reports to a sink with these functions:
 ///
 ///     Point& newPoint(std::optional<std::int16_t> modeNumber);
 ///     void addWrongNumber(NumberStatus status, std::string_view text, const std::string& where);
 ///     void addShortRow(std::size_t fields, std::string_view line);
 ///
-/// Those that report something wrong either raise it as an error or return, and then reading goes
-/// on.
+/// A function that reports a fault either raises an error or returns; then reading continues.
 template <typename Sink>
 class ResultRows
 {
 public:
     ResultRows(Sink& sink, char separator) : m_sink(sink), m_separator(separator) { }
 
-    /// Reads a row except for its participation factors; false when it has too few fields.
+    /// Reads a row without its participation factors. False when it has too few fields.
     bool read(std::string_view line);
 
-    /// Reads Mach number and density of the row just read, those that it has.
+    /// Reads Mach number and density of the row just read, if it has them.
     void readConditions();
 
-    /// Reads one more participation factor of the row just read; its field must be there.
+    /// Reads a participation factor of the row just read; its field must exist.
     void readFactor(std::size_t index);
 
     std::size_t fieldCount() const { return m_row.count(); }
@@ -56,10 +55,10 @@ private:
     char m_separator;
     ResultRow m_row;
     Point* m_point = nullptr; ///< of the row just read
-    std::optional<std::int16_t> m_modeNumber; ///< of the row just read; none: not a number
+    std::optional<std::int16_t> m_modeNumber; ///< of the row just read; empty: not a number
     bool m_hasSpeed = false; ///< whether the speed of the row just read is a number
-    std::string m_modeNumberText; ///< the field that holds `m_modeNumber`
-    /// The shape of each field in the rows before: knowing it, the number needs no searching.
+    std::string m_modeNumberText; ///< the field that `m_modeNumber` was read from
+    /// The form of each field in earlier rows, which makes reading it faster.
     std::array<shortnumber::Shape, ResultRow::kept> m_shapes {};
 };
 
@@ -97,7 +96,7 @@ void ResultRows<Sink>::readFactor(std::size_t index)
         m_point->mpf.append(factor);
 }
 
-/// All rows of a mode carry its number, so equal texts are read once.
+/// All rows of a mode have the same number, so equal texts are parsed only once.
 template <typename Sink>
 std::optional<std::int16_t> ResultRows<Sink>::readModeNumber()
 {
@@ -114,7 +113,7 @@ std::optional<std::int16_t> ResultRows<Sink>::readModeNumber()
     return number;
 }
 
-/// Whether the field holds a number.
+/// Whether the field contains a number.
 template <typename Sink>
 bool ResultRows<Sink>::single(std::size_t index, float& value)
 {

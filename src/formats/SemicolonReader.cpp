@@ -66,7 +66,7 @@ void SemicolonReader::read()
     m_sink.closeMode();
 }
 
-/// Reads the counts up to the header of the table; false when there is no table.
+/// Reads the counts up to the header of the table. False when there is no table.
 bool SemicolonReader::readUpToTable()
 {
     while (!m_stream.atEndOfStream()) {
@@ -96,7 +96,7 @@ void SemicolonReader::readFactors()
         const std::size_t index = resultfield::firstFactor + i * factorStep;
         if (index >= m_rows.fieldCount())
             throw RunTimeError(ErrorNumber::SubscriptOutOfRange, "EVM",
-                               m_stream.place() + ": no field " + std::to_string(index)
+                               m_stream.location() + ": no field " + std::to_string(index)
                                    + " (participation factor) among "
                                    + std::to_string(m_rows.fieldCount()));
         m_rows.readFactor(index);

@@ -5,8 +5,8 @@ namespace tarsil {
 class EVM;
 class TextStream;
 
-/// Reads the semicolon-separated result table into an evolution that is new and empty. This layout
-/// is not in the table of formats, since no file name selects it.
+/// Reads the semicolon-separated result table into a new, empty evolution. This layout is not in
+/// the table of formats, because no file name selects it.
 void readSemicolonTable(TextStream& stream, EVM& evolution);
 
 } // namespace tarsil

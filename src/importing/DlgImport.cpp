@@ -13,7 +13,7 @@
 #include "importing/DroppedFiles.h"
 #include "importing/ImportPreview.h"
 #include "model/EVM.h"
-#include "plotwindow/InputWarning.h"
+#include "plotwindow/InputMessage.h"
 #include "plotwindow/ToolTipText.h"
 
 #include <QDragEnterEvent>
@@ -35,7 +35,7 @@ using solver::SolverRun;
 constexpr std::string_view moduleName = "dlgImport";
 constexpr std::string_view reading = "Read Solver Results. Please Wait ...";
 constexpr std::string_view writing = "Import Solver Results. Please Wait ...";
-constexpr std::size_t mostLines = 8; ///< of a list in a message
+constexpr std::size_t mostLines = 8; ///< lines of a list in a message
 
 enum Role { OutputRole = Qt::UserRole, RunRole };
 
@@ -189,7 +189,7 @@ void dlgImport::listFindings()
     m_ui->fraFindings->setVisible(!findings.empty());
 }
 
-/// A node of a file has no analysis of its own; its check box sets those of its children.
+/// The node of a file has no analysis; its check box sets those of its children.
 void dlgImport::chooseOf(QTreeWidgetItem& node)
 {
     if (node.parent() == nullptr)
@@ -236,7 +236,7 @@ void dlgImport::showConsequences()
                                 : tr("%1 modal evolutions will be written.").arg(count));
 }
 
-/// What cannot be converted is said where the speeds would be.
+/// Shows the error instead of the speeds when an analysis cannot be converted.
 void dlgImport::showPreview()
 {
     const auto analysis = currentAnalysis();
@@ -291,7 +291,7 @@ void dlgImport::btnImport_Click()
     });
 }
 
-/// Asks once for all files that are there already.
+/// Asks once for all files that exist already.
 bool dlgImport::mayReplace() const
 {
     std::vector<std::string> existing;
@@ -305,12 +305,12 @@ bool dlgImport::mayReplace() const
         (existing.size() == 1 ? "This file exists already:\n" : "These files exist already:\n")
             + shortList(existing, mostLines) + "\nDo you want to replace "
             + (existing.size() == 1 ? "it?" : "them all?")
-            + " What is open of them is read again, and its curves leave the "
-              "plots.",
+            + " Open evolutions of these files are read again, and their curves are removed from "
+              "the plots.",
         "Tarsil");
 }
 
-/// An evolution that is open was read from a file that has just been replaced.
+/// Removes evolutions whose files were replaced, then loads the new ones.
 void dlgImport::load(const std::vector<std::string>& paths)
 {
     std::set<std::optional<std::string>> written;

@@ -16,7 +16,7 @@ namespace tarsil {
 
 class Document;
 class ImportPreview;
-class InputWarning;
+class InputMessage;
 class UserInterface;
 
 namespace Ui {
@@ -24,21 +24,21 @@ class dlgImport;
 }
 
 /// The dialog "Import Solver Results": lists the analyses of solver outputs, asks for the units of
-/// their numbers, shows beside them what the outputs prove and what the plot would be, and writes
-/// the chosen ones as evolutions, which are then loaded. Units are those that were last used for
-/// the folder of the first output; otherwise none are chosen, and nothing can be imported.
+/// their numbers, shows what the outputs prove about these and a preview of the plot, writes the
+/// selected analyses as evolutions, and loads these. The units are those last used for the folder
+/// of the first output; otherwise none are selected, and nothing can be imported.
 class dlgImport : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// What is handed over by reference must outlive the dialog.
+    /// All references must outlive the dialog.
     dlgImport(Document& document, UserInterface& user, OptionsStore store,
               QWidget* parent = nullptr);
     ~dlgImport() override;
 
-    /// Reads solver outputs and lists their analyses. The user is told of files that hold none.
-    /// Returns whether there is anything to import now.
+    /// Reads solver outputs and lists their analyses. Shows a message about files without one.
+    /// Returns whether there is anything to import.
     bool addFiles(const std::vector<std::string>& paths);
 
     static constexpr const char* fileFilter =
@@ -69,7 +69,7 @@ private:
     std::optional<solver::UnitChoice> chosenUnits() const;
     std::optional<double> vref() const;
 
-    /// Shows what follows from the inputs; the preview follows from the units and texts only.
+    /// Updates everything that depends on the inputs. The preview depends only on units and texts.
     void refresh();
     void showConsequences();
     void showEvidence();
@@ -83,8 +83,8 @@ private:
     UserInterface& m_user;
     OptionsStore m_store;
     solver::ImportPlan m_plan;
-    ImportPreview* m_preview; ///< belongs to the form
-    std::unique_ptr<InputWarning> m_wrongVref;
+    ImportPreview* m_preview; ///< owned by the form
+    std::unique_ptr<InputMessage> m_wrongVref;
 };
 
 } // namespace tarsil

@@ -1,4 +1,4 @@
-// The inputs of the units, and what is said of them.
+// The inputs of the units and the notes about them.
 
 #include "importing/DlgImport.h"
 
@@ -7,7 +7,7 @@
 #include "base/files/PathNames.h"
 #include "base/numbers/Numbers.h"
 #include "base/user/ErrorGuard.h"
-#include "plotwindow/InputWarning.h"
+#include "plotwindow/InputMessage.h"
 #include "solver/SolverUnits.h"
 #include "solver/UnitEvidence.h"
 
@@ -26,7 +26,7 @@ using solver::UnitChoice;
 using solver::UnitPreset;
 using solver::unitPresets;
 
-constexpr int choose = 0; ///< the first entry of the lists, which is no choice
+constexpr int choose = 0; ///< first entry of the lists: nothing selected
 
 QString textOf(std::string_view text)
 {
@@ -40,7 +40,7 @@ void addNames(QComboBox& list, const Units& units)
         list.addItem(textOf(unit.name));
 }
 
-/// The folder under which the units of a file are kept.
+/// The folder for which the units of a file are stored.
 QString folderOf(const std::string& path)
 {
     return QString::fromStdString(resolvePath(path).folder);
@@ -62,7 +62,7 @@ void dlgImport::fillUnitInputs()
     m_ui->cboSpeed->addItem(tr("Choose ..."));
     addNames(*m_ui->cboSpeed, solver::speedUnits);
     addNames(*m_ui->cboDensity, solver::densityUnits);
-    m_wrongVref = std::make_unique<InputWarning>(*m_ui->txtVref);
+    m_wrongVref = std::make_unique<InputMessage>(*m_ui->txtVref);
 }
 
 void dlgImport::presetChosen(int index)
@@ -76,7 +76,7 @@ void dlgImport::presetChosen(int index)
     showUnits(units);
 }
 
-/// The units that were last used for the folder of the first output.
+/// Selects the units last used for the folder of the first output.
 void dlgImport::showRememberedUnits()
 {
     guarded(m_user, "dlgImport", [this] {
@@ -112,7 +112,7 @@ void dlgImport::showUnits(const UnitChoice& units)
     refresh();
 }
 
-/// The preset follows from its parts.
+/// Selects the preset that matches the units.
 void dlgImport::showPreset()
 {
     const QSignalBlocker noPreset(m_ui->cboPreset);
@@ -152,7 +152,7 @@ std::optional<UnitChoice> dlgImport::chosenUnits() const
     return units;
 }
 
-/// What every output proves, with its name where there are several.
+/// The evidence in every output, with the name of the output if there are several.
 void dlgImport::showEvidence()
 {
     QStringList lines;

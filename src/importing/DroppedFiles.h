@@ -7,7 +7,7 @@ class QMimeData;
 
 namespace tarsil {
 
-/// The paths of the files that are dropped on a window.
+/// The paths of the files dropped on a window.
 std::vector<std::string> droppedFiles(const QMimeData& data);
 
 } // namespace tarsil

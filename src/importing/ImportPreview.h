@@ -11,8 +11,8 @@ namespace tarsil {
 class EVM;
 class EvmPlotView;
 
-/// Shows the V-g-f plot of an evolution that is not imported yet, as the plot window would draw it
-/// at first. It is only looked at: mouse and keyboard do nothing.
+/// A read-only V-g-f plot of an evolution before its import, in the look of a new plot in the plot
+/// window.
 class ImportPreview : public QWidget
 {
     Q_OBJECT
@@ -21,7 +21,7 @@ public:
     explicit ImportPreview(QWidget* parent = nullptr);
     ~ImportPreview() override;
 
-    /// Draws every mode. Null shows nothing.
+    /// Draws all modes. Null hides the plot.
     void showEvolution(std::unique_ptr<EVM> evolution);
 
 private:

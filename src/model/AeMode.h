@@ -10,8 +10,8 @@ namespace tarsil {
 
 class EVM;
 
-/// One aeroelastic mode: its points in file order, which is increasing speed. It stays where it was
-/// made, since its points refer to it.
+/// An aeroelastic mode: its points in file order, which is increasing speed. It must not be moved,
+/// because its points refer to it.
 class AeMode
 {
 public:
@@ -19,14 +19,14 @@ public:
     AeMode(const AeMode&) = delete;
     AeMode& operator=(const AeMode&) = delete;
 
-    std::int16_t Id = 0; ///< the mode number as written in the file
-    std::vector<Point> Points; ///< one per speed
-    std::vector<Point> flutterPoints; ///< what the last flutter search found, interpolated
-    EVM* Parent = nullptr; ///< the evolution that holds this mode; not owned
-    std::string Tag; ///< short label, at most 4 characters of it are written
+    std::int16_t Id = 0; ///< the mode number of the file
+    std::vector<Point> Points; ///< one for each speed
+    std::vector<Point> flutterPoints; ///< the result of the last flutter search, interpolated
+    EVM* Parent = nullptr; ///< the evolution that owns this mode
+    std::string Tag; ///< short label, of which up to 4 characters are written
 
-    /// Makes this mode an independent copy of `source` by `Point::Clone`: the points become this
-    /// mode's own (their `Parent` is this mode), `Parent` of the mode itself stays as it is.
+    /// Makes this mode an independent copy of `source` by `Point::Clone`. `Parent` of the points is
+    /// this mode; `Parent` of this mode is unchanged.
     void copyFrom(const AeMode& source);
 };
 

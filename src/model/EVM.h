@@ -11,8 +11,8 @@
 
 namespace tarsil {
 
-/// One modal evolution: the result of one flutter run, held by one file. `Folder` and `FileName`
-/// together identify it. It stays where it was made, since its modes refer to it.
+/// A modal evolution: the result of one flutter run in one file, which `Folder` and `FileName`
+/// identify. It must not be moved, because its modes refer to it.
 class EVM
 {
 public:
@@ -24,10 +24,10 @@ public:
     std::string Folder; ///< without a trailing separator
     std::vector<std::unique_ptr<AeMode>> Modes; ///< in file order
 
-    std::int16_t na = 0; ///< aeroelastic modes that the file declares
-    std::int16_t numberOfSpeeds = 0; ///< points that the file declares for each mode
+    std::int16_t na = 0; ///< number of aeroelastic modes declared in the file
+    std::int16_t numberOfSpeeds = 0; ///< number of points of each mode declared in the file
     std::int16_t numberOfStructuralModes = 0; ///< new format only
-    bool isNewFormat = false; ///< which fields of points and header have a meaning
+    bool isNewFormat = false; ///< determines which fields of points and header are valid
     bool hasParticipationFactors = false;
 
     // Header texts of the new format.
@@ -39,25 +39,24 @@ public:
 
     tarsil::Param Param;
 
-    /// Where an imported evolution comes from; the points of one carry Mach number and density.
+    /// The source of an imported evolution; its points have Mach number and density.
     Provenance provenance;
 
-    /// What the file said of the parameters that users may change; `Param` has them as they are
-    /// now.
+    /// The editable parameters as they are in the file; `Param` has the present ones.
     const EditableParam& paramOfFile() const { return m_paramOfFile; }
 
-    /// The file's path in stored form: `Folder`, a backslash, `FileName`.
+    /// The path of the file in stored form: `Folder`, a backslash, `FileName`.
     std::string path() const;
 
-    /// Takes over what a reader made of the evolution's file: everything but `FileName` and
-    /// `Folder`. `source` is left without modes.
+    /// Moves everything that a reader made of the file into this evolution, except `FileName` and
+    /// `Folder`. `source` has no modes afterwards.
     void takeFileContents(EVM& source);
 
-    /// Makes this evolution's modes independent copies of those of `source`, point by point through
-    /// `Point::Clone`, with its counts and flags; the two share no point afterwards.
+    /// Makes the modes of this evolution independent copies of those of `source` by `Point::Clone`,
+    /// with its counts and flags. They share no point afterwards.
     void Change(const EVM& source);
 
-    /// Appends a new, empty mode that belongs to this evolution.
+    /// Appends a new, empty mode owned by this evolution.
     AeMode& appendMode();
 
 private:
@@ -66,7 +65,7 @@ private:
     EditableParam m_paramOfFile;
 };
 
-/// Evolutions with their owners, in the order in which they were loaded.
+/// Evolutions with their shared ownership, in load order.
 using OwnedEvolutions = std::vector<std::shared_ptr<EVM>>;
 
 } // namespace tarsil

@@ -8,7 +8,7 @@
 
 namespace tarsil {
 
-/// An ordered collection of texts, each with a key of its own; file order is kept.
+/// An ordered collection of texts with unique keys.
 class KeyedTexts
 {
 public:
@@ -18,7 +18,7 @@ public:
         std::string text;
     };
 
-    /// Error 457 when the key is there already; the collection is then unchanged.
+    /// Error 457 for a key that exists already; the collection is then unchanged.
     void add(std::string_view key, std::string_view text);
 
     /// The text of a key; null when there is none.

@@ -6,7 +6,7 @@
 
 namespace tarsil {
 
-/// Those parameters of one modal evolution that users may change.
+/// The parameters of an evolution that users can edit.
 struct EditableParam
 {
     std::string airplane;
@@ -16,12 +16,12 @@ struct EditableParam
     bool operator==(const EditableParam&) const = default;
 };
 
-/// The analysis parameters of one modal evolution, stored unchanged.
+/// The analysis parameters of an evolution, stored as they are in the file.
 struct Param
 {
     std::string AnalysisType;
     std::string Script;
-    float Mach = 0; ///< Mach number of the run; 0 when the file gives none
+    float Mach = 0; ///< 0 when the file has none
     std::string Mass; ///< name of the mass configuration
     std::string Airplane; ///< aircraft model
     KeyedTexts modifications;

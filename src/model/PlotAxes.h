@@ -6,9 +6,9 @@
 
 namespace tarsil {
 
-/// One axis of a V-g-f plot: its title (UTF-8), the values at its two ends, and the number of equal
-/// intervals between them. The end `min` is the left one of the speed axis, the lower one of the
-/// frequency axis, and the one of the damping axis that lies on the speed axis.
+/// An axis of a V-g-f plot: its title (UTF-8), the values at its ends, and the number of equal
+/// intervals. `min` is at the left end of the speed axis, at the lower end of the frequency axis,
+/// and at the speed axis for the damping axis.
 struct AxisValues
 {
     std::string title;
@@ -19,14 +19,14 @@ struct AxisValues
     bool operator==(const AxisValues&) const = default;
 };
 
-/// The ends of all three axes in the order vmin, vmax, fmin, fmax, gmin, gmax.
+/// The bounds of all axes in the order vmin, vmax, fmin, fmax, gmin, gmax.
 using PlotBounds = std::array<float, 6>;
 
 /// The tick counts in the order speed, damping, frequency.
 using PlotTicks = std::array<std::int16_t, 3>;
 
-/// The three axes of a V-g-f plot; by default those of a new one. Speeds are knots (KEAS),
-/// frequencies Hz, dampings dimensionless (negative is stable). No value is checked.
+/// The three axes of a V-g-f plot; by default those of a new one. Speeds are KEAS, frequencies Hz,
+/// dampings dimensionless (negative is stable). Values are not checked.
 struct PlotAxes
 {
     AxisValues speed {"V(keas)", 0, 700, 7};

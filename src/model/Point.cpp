@@ -8,7 +8,7 @@ void ParticipationFactors::append(float factor)
 {
     if (m_count == capacity)
         throw RunTimeError(ErrorNumber::SubscriptOutOfRange, "Point",
-                           "a point holds at most five modal participation factors");
+                           "a point has at most five modal participation factors");
     m_values[m_count++] = factor;
 }
 

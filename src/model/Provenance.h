@@ -6,16 +6,16 @@
 
 namespace tarsil {
 
-/// Where an evolution comes from that was imported from a printed solver output, and what the user
-/// said of its units; all empty for other evolutions. The texts are those of the evolution's file.
+/// The source of an imported evolution and the units that the user gave; empty for other
+/// evolutions. The texts are those of the evolution's file.
 struct Provenance
 {
     std::string source; ///< path of the solver output
     std::string sourceLines; ///< "120-4711"
     std::string speedUnit; ///< of the printed speeds: "ft/s"
-    std::string vref; ///< what the printed speeds were multiplied by
+    std::string vref; ///< factor of the printed speeds
     std::string density; ///< unit of the printed densities: "slug/ft3"
-    std::string log; ///< what was left out or changed: entries, separated by `logSeparator`
+    std::string log; ///< what was left out or changed: entries separated by `logSeparator`
 
     static constexpr std::string_view logSeparator = "; ";
 
@@ -23,7 +23,7 @@ struct Provenance
 
     std::vector<std::string> logEntries() const;
 
-    /// Makes `log` of entries. A ";" inside an entry becomes a comma.
+    /// Sets `log` from entries. A ";" inside an entry becomes a comma.
     void setLogEntries(const std::vector<std::string>& entries);
 };
 

@@ -10,7 +10,7 @@
 #include "base/user/UserInterface.h"
 #include "document/Document.h"
 #include "options/ListInput.h"
-#include "plotwindow/InputWarning.h"
+#include "plotwindow/InputMessage.h"
 #include "vgfplot/EvmPlot.h"
 
 #include <algorithm>
@@ -24,14 +24,14 @@ namespace {
 constexpr std::string_view moduleName = "dlgOptions";
 constexpr std::string_view aircraftFilter =
     "Aircraft information data file (*.inp)|*.inp|All Files (*.*)|*.*|";
-constexpr std::size_t firstTicks = 6; ///< in the entries
+constexpr std::size_t firstTicks = 6; ///< index in the entries
 
 std::int16_t countOf(float number, std::string_view where = {})
 {
     return roundToInteger16(static_cast<double>(number), moduleName, where);
 }
 
-/// Does something with a list. When that fails, the user is at its input after the report.
+/// Runs an action on a list. If it fails, the focus moves to the input after the report.
 void at(ListInput& list, const std::function<void()>& action)
 {
     try {
@@ -49,7 +49,7 @@ dlgOptions::dlgOptions(Document& document, UserInterface& user, OptionsStore sto
       m_store(std::move(store))
 {
     m_ui->setupUi(this);
-    m_missingFile = std::make_unique<InputWarning>(*m_ui->txtAcInfo);
+    m_missingFile = std::make_unique<InputMessage>(*m_ui->txtAcInfo);
     m_scaleInput = std::make_unique<ListInput>(*m_ui->txtVgfScale, 6, QStringLiteral("six"));
     m_thicksInput = std::make_unique<ListInput>(*m_ui->txtVgfThicks, 3, QStringLiteral("three"));
     connect(m_ui->txtAcInfo, &QLineEdit::textChanged, this, &dlgOptions::showWhetherFileIsThere);
@@ -61,8 +61,8 @@ dlgOptions::dlgOptions(Document& document, UserInterface& user, OptionsStore sto
 
 dlgOptions::~dlgOptions() = default;
 
-/// Lists that cannot be applied cost the user his options at most for this run: the path of the
-/// aircraft information file is kept, also when they stop the file from being read.
+/// Faulty lists take effect for this run only: the path of the aircraft information file is kept,
+/// even if they prevented reading it.
 void dlgOptions::GetOptReg()
 {
     OptionTexts stored;
@@ -97,7 +97,7 @@ void dlgOptions::UpDateOpt()
     at(*m_thicksInput, [&] {
         thicks = m_thicksInput->numbers(moduleName);
         for (std::size_t i = 0; i < thicks.size(); ++i)
-            countOf(thicks[i], m_thicksInput->nameOf(i)); // refuses what no axis can take
+            countOf(thicks[i], m_thicksInput->nameOf(i)); // refuses values that no axis accepts
     });
     std::copy(scale.begin(), scale.end(), m_entries.begin());
     std::copy(thicks.begin(), thicks.end(), m_entries.begin() + firstTicks);
@@ -155,7 +155,7 @@ PlotAxes dlgOptions::withEntries(PlotAxes axes) const
     return axes;
 }
 
-/// The file may have come or gone since the dialog was hidden.
+/// The file may have been created or deleted while the dialog was hidden.
 void dlgOptions::showEvent(QShowEvent* event)
 {
     showWhetherFileIsThere();
@@ -186,8 +186,8 @@ void dlgOptions::btnApply_Click()
     m_document.history().note(tr("Options"));
 }
 
-/// A list that could not be applied was reported, and stands in its input to be put right when the
-/// dialog is shown again.
+/// A list that could not be applied was reported. It stays in its input for correction when the
+/// dialog is next shown.
 void dlgOptions::btnOK_Click()
 {
     btnApply_Click();

@@ -13,49 +13,46 @@ namespace tarsil {
 class Document;
 class EvmPlot;
 class ListInput;
-class InputWarning;
+class InputMessage;
 class UserInterface;
 
 namespace Ui {
 class dlgOptions;
 }
 
-/// The dialog "Options": the aircraft information file, and the scale and tick counts that plots
-/// begin with. It is there for the whole run and only hidden, so that its inputs keep what was
-/// typed; the inputs are what is kept until the next run, but for the aircraft information file,
-/// of which the one last applied is kept. An aircraft information file that is not there has a
-/// warning sign.
+/// The dialog "Options": the aircraft information file, and the scale and tick counts of new plots.
+/// It exists for the whole run and is only hidden, so that its inputs keep their contents. Saved
+/// are the contents of the inputs, and of the aircraft information file the path last applied. A
+/// sign marks a file that does not exist.
 class dlgOptions : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// Numbers 0 to 5 are vmin, vmax, gmin, gmax, fmin, fmax; 6 to 8 the ticks of the speed,
-    /// damping and frequency axis.
+    /// 0 to 5: vmin, vmax, gmin, gmax, fmin, fmax; 6 to 8: ticks of the speed, damping and
+    /// frequency axis.
     using Entries = std::array<float, 9>;
 
-    /// What is handed over by reference must outlive the dialog.
+    /// Arguments passed by reference must outlive the dialog.
     dlgOptions(Document& document, UserInterface& user, OptionsStore store,
                QWidget* parent = nullptr);
     ~dlgOptions() override;
 
-    /// Fills the inputs from the store and applies them. A store that cannot be read is reported,
-    /// and leaves all inputs empty.
+    /// Fills the inputs from the store and applies them. If the store cannot be read, that is
+    /// reported and all inputs stay empty.
     void GetOptReg();
 
-    /// Writes what was changed since `GetOptReg` into the store. Errors: those of
-    /// `OptionsStore::write`.
+    /// Writes the changes since `GetOptReg` to the store. Errors: those of `OptionsStore::write`.
     void SetOptReg() const;
 
-    /// Takes the numbers of both lists over into the entries; a list with another count of parts
-    /// leaves its entries as they are. Errors 13 and 6 for a part that is no such number, after
-    /// which no entry has changed.
+    /// Copies the numbers of both lists to the entries. A list with a wrong number of parts is
+    /// ignored. Errors 13 and 6 for a part that is not a valid number; no entry has changed then.
     void UpDateOpt();
 
-    /// Reads the aircraft information file, if it exists, and gives the active plot (the first one
-    /// while none is active) and the plots made from now on their axes. An empty list leaves the
-    /// plot as it is, and new plots begin as usual. A list that does not fit changes nothing.
-    /// Failures are reported; returns false after one in a list, which has changed nothing.
+    /// Reads the aircraft information file, if it exists, and sets the axes of the active plot (of
+    /// the first one when none is active) and of new plots. An empty list leaves the plot unchanged
+    /// and gives new plots the default axes. A list that does not fit changes nothing. Reports
+    /// errors; returns false if a list is faulty, with nothing changed.
     bool ApplyOpt();
 
     const Entries& entries() const { return m_entries; }
@@ -79,8 +76,8 @@ private:
     Document& m_document;
     UserInterface& m_user;
     OptionsStore m_store;
-    std::unique_ptr<InputWarning> m_missingFile;
-    OptionTexts m_before; ///< what was to be kept when the store had been read
+    std::unique_ptr<InputMessage> m_missingFile;
+    OptionTexts m_before; ///< what `SetOptReg` would have saved after the store was read
     std::unique_ptr<ListInput> m_scaleInput;
     std::unique_ptr<ListInput> m_thicksInput;
     Entries m_entries {};

@@ -15,8 +15,8 @@ constexpr QChar separator = u'|';
 
 ListInput::ListInput(QLineEdit& input, qsizetype count, const QString& countWord)
     : m_input(input), m_count(count),
-      m_needed(QStringLiteral("Ignored: %1 numbers with | between them are needed").arg(countWord)),
-      m_warning(input)
+      m_needed(QStringLiteral("Ignored: %1 numbers separated by | are required").arg(countWord)),
+      m_message(input)
 {
     connect(&m_input, &QLineEdit::textChanged, this, &ListInput::showWhetherIgnored);
     showWhetherIgnored();
@@ -47,14 +47,14 @@ void ListInput::goTo()
     NumberInput(m_input, {}).goTo();
 }
 
-std::string ListInput::nameOf(std::size_t place) const
+std::string ListInput::nameOf(std::size_t index) const
 {
-    return m_input.accessibleName().toStdString() + ", number " + std::to_string(place + 1);
+    return m_input.accessibleName().toStdString() + ", number " + std::to_string(index + 1);
 }
 
 void ListInput::showWhetherIgnored()
 {
-    m_warning.show(isEmpty() || fits() ? QString() : m_needed);
+    m_message.show(isEmpty() || fits() ? QString() : m_needed);
 }
 
 } // namespace tarsil

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plotwindow/InputWarning.h"
+#include "plotwindow/InputMessage.h"
 
 #include <QObject>
 #include <QString>
@@ -14,8 +14,8 @@ class QLineEdit;
 
 namespace tarsil {
 
-/// An input for a fixed count of numbers with "|" between them. A text of another count of parts is
-/// ignored, and the input shows that while the user types: a warning sign says what is needed.
+/// An input for a fixed number of values separated by "|". A text with another number of parts is
+/// ignored; a sign at the input says what is required while the user types.
 class ListInput : public QObject
 {
 public:
@@ -24,26 +24,26 @@ public:
 
     bool isEmpty() const;
 
-    /// Whether there are exactly as many parts as numbers are wanted.
+    /// Whether the number of parts is right.
     bool fits() const;
 
-    /// The numbers of a text that fits; none otherwise. Errors 13 and 6 name the input, the place
-    /// of the number and the text; `module` is their source.
+    /// The numbers of a text that fits; empty otherwise. Errors 13 and 6 name the input, the
+    /// position of the number, and the text. `module` is the source of the errors.
     std::vector<float> numbers(std::string_view module) const;
 
-    /// Brings the user to the input, unless he is in another one.
+    /// Moves the focus to the input, unless the user is in another one.
     void goTo();
 
-    /// What errors call the number at a place counted from 0.
-    std::string nameOf(std::size_t place) const;
+    /// The name of a number in errors; `index` is counted from 0.
+    std::string nameOf(std::size_t index) const;
 
 private:
     void showWhetherIgnored();
 
     QLineEdit& m_input;
     qsizetype m_count;
-    QString m_needed; ///< what a text that is ignored lacks
-    InputWarning m_warning;
+    QString m_needed; ///< message for a text that is ignored
+    InputMessage m_message;
 };
 
 } // namespace tarsil

@@ -36,7 +36,7 @@ constexpr std::array<Key, 3> keys = {{{"AcInfoDataFile", &OptionTexts::acInfoDat
                                       {"vgfScale", &OptionTexts::vgfScale},
                                       {"vgfThicks", &OptionTexts::vgfThicks}}};
 
-/// What the file holds; no bytes where there is none.
+/// The bytes of the file; empty when it does not exist.
 std::string bytesOf(const std::string& path)
 {
     try {
@@ -61,7 +61,7 @@ std::string numbered(std::string_view key, std::size_t index)
     return std::string(key) + std::to_string(index + 1);
 }
 
-/// The units of all folders, the newest first.
+/// The units of all folders, newest first.
 std::vector<FolderUnits> importsOf(const SettingsText& file)
 {
     std::vector<FolderUnits> entries;
@@ -116,12 +116,12 @@ OptionTexts OptionsStore::read() const
     return texts;
 }
 
-/// What the file says now may be newer than what was read: another program has written it.
+/// The present contents of the file, which another program may have changed since `read`.
 SettingsText OptionsStore::readToWrite() const
 {
     SettingsText file(bytesOf(m_path));
     makeFolderOf(m_path);
-    if (!file.isWhole()) { // one bad line must not cost the user what the others say
+    if (!file.isWhole()) { // a bad line must not cost the user the others
         writeFile(keptPath(m_path), file.bytes());
         file = SettingsText({});
     }
@@ -137,7 +137,7 @@ void OptionsStore::write(const OptionTexts& texts, const OptionTexts& before) co
         if (texts.*key.text != before.*key.text)
             file.setValue(section, key.name, texts.*key.text);
         else if (!file.value(section, key.name))
-            file.setValue(section, key.name, QString()); // a person finds every key to fill in
+            file.setValue(section, key.name, QString()); // shows people which keys exist
     }
     writeFile(m_path, file.bytes());
 }

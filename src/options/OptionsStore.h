@@ -10,7 +10,7 @@ namespace tarsil {
 
 class SettingsText;
 
-/// The options as they are kept from run to run: texts, empty where nothing is set.
+/// The saved options; a text is empty when it is not set.
 struct OptionTexts
 {
     QString acInfoDataFile; ///< path of the aircraft information file
@@ -20,7 +20,7 @@ struct OptionTexts
     bool operator==(const OptionTexts&) const = default;
 };
 
-/// The settings of one user, a text file with the sections "Options" and "Import".
+/// The settings file of a user, with the sections "Options" and "Import".
 ///
 ///     [Options]
 ///     AcInfoDataFile=/home/me/wing.inp
@@ -34,29 +34,29 @@ class OptionsStore
 public:
     explicit OptionsStore(std::string path);
 
-    /// The file below the folder that the desktop has for the user's settings.
+    /// The default file in the user's configuration folder.
     static std::string defaultPath();
 
     const std::string& path() const { return m_path; }
 
-    /// What the file says; a file or key that is not there says nothing. Errors: 75 or another one
-    /// of reading when the file cannot be read, 13 when it is damaged; its description says under
-    /// which name `write` will keep it.
+    /// Reads the options. A missing file or key gives an empty text. Errors: 75 or another read
+    /// error when the file cannot be read; 13 when it is damaged, with the name under which `write`
+    /// will keep it.
     OptionTexts read() const;
 
-    /// Changes in the file what differs from the texts `before`, which were read (none where they
-    /// could not be); what else is in it stays, also what another program has written since. Where
-    /// nothing differs, or the file cannot be read, nothing is written. The file is replaced whole
-    /// or not at all; a damaged one is kept beside the new one with ".damaged" after its name, in
-    /// place of an older such file, and when it cannot be kept, nothing is written. Makes its
-    /// folder. Errors: those of `read` but 13, and those of `AtomicFile`.
+    /// Writes the texts that differ from `before`, the texts once read (empty if they could not be
+    /// read). Everything else in the file stays, also what another program has written meanwhile.
+    /// Writes nothing when nothing differs or the file cannot be read. The file is replaced whole
+    /// or not at all. A damaged file is kept with ".damaged" after its name, replacing an older one
+    /// of that name; if that fails, nothing is written. Creates the folder. Errors: those of `read`
+    /// except 13, and those of `AtomicFile`.
     void write(const OptionTexts& texts, const OptionTexts& before) const;
 
-    /// The units that were last kept for solver outputs of a folder. Errors: those of `read`.
+    /// The units last stored for solver outputs of a folder. Errors: those of `read`.
     std::optional<QString> importUnits(const QString& folder) const;
 
-    /// Keeps the units for a folder, in the section "Import", and forgets the oldest of more than
-    /// `mostFolders` folders. Errors: those of `write`.
+    /// Stores the units for a folder in the section "Import". Removes the oldest folders beyond
+    /// `mostFolders`. Errors: those of `write`.
     void keepImportUnits(const QString& folder, const QString& units) const;
 
     static constexpr std::size_t mostFolders = 50;

@@ -22,22 +22,22 @@ std::string_view withoutBlanksAndLineEnds(std::string_view text)
     return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
-/// Whether a line ends here with two characters, in either order.
+/// Whether a two-character line end, in either order, starts here.
 bool isLineEndOfTwo(std::string_view rest)
 {
     return rest.starts_with("\r\n") || rest.starts_with("\n\r");
 }
 
-/// Where one line lies.
+/// The extent of a line.
 struct Extent
 {
     std::size_t begin = 0;
     std::size_t equals = std::string_view::npos; ///< the first "=" outside quotes
     std::size_t end = 0;
-    bool isClosed = true; ///< no quote and no escape reaches beyond the end
+    bool isClosed = true; ///< no quote or escape continues after the end
 };
 
-/// Reads the line that begins at `begin`: up to a line end or a comment, quotes and escapes aside.
+/// Scans the line that begins at `begin`, up to a line end or comment outside quotes and escapes.
 Extent readLine(std::string_view bytes, std::size_t begin)
 {
     Extent line {begin, std::string_view::npos, begin, true};
@@ -75,7 +75,7 @@ bool isOctal(char c)
     return c >= '0' && c <= '7';
 }
 
-/// Letters that mean a control character after a backslash.
+/// Letters that stand for a control character after a backslash.
 constexpr std::array<std::pair<char, char>, 11> escapes = {{{'a', '\a'},
                                                             {'b', '\b'},
                                                             {'f', '\f'},
@@ -88,7 +88,7 @@ constexpr std::array<std::pair<char, char>, 11> escapes = {{{'a', '\a'},
                                                             {'\'', '\''},
                                                             {'\\', '\\'}}};
 
-/// Takes a written value apart into its texts; commas outside quotes separate them.
+/// Splits a written value into its texts, which are separated by commas outside quotes.
 class ValueReader
 {
 public:
@@ -138,7 +138,7 @@ private:
             skipBlanks();
     }
 
-    /// Blanks at the end go, but for those that are quoted or escaped.
+    /// Removes blanks at the end unless they are quoted or escaped.
     void endText()
     {
         while (!m_wasQuoted && m_text.size() > m_kept
@@ -194,12 +194,12 @@ private:
     std::string_view m_rest;
     QStringList m_texts;
     QString m_text;
-    qsizetype m_kept = 0; ///< what comes before was escaped
+    qsizetype m_kept = 0; ///< up to here the text was escaped
     bool m_inQuotes = false;
     bool m_wasQuoted = false;
 };
 
-/// A text that begins with "@" has a second one before it, for "@Rect(" and the like are no texts.
+/// A text that begins with "@" is written with a second one, to distinguish it from "@Rect(" etc.
 std::optional<QString> plainText(const QString& written)
 {
     if (written.startsWith(u"@@"))
@@ -241,8 +241,8 @@ bool isEscapedAlways(QChar c)
     return c < u' ' || c == u'"' || c == u'\\' || c == byteOrderMark || c.isSurrogate();
 }
 
-/// The value as it is written. A digit after a number in hexadecimal would be taken for one of its
-/// digits, so that it is written as a number too.
+/// Escapes a value for the file. A digit after a hexadecimal escape would be read as part of it, so
+/// it is escaped too.
 std::string writtenValue(const QString& value)
 {
     const QString text = value.startsWith(u'@') ? u'@' + value : value;

@@ -10,9 +10,9 @@
 
 namespace tarsil {
 
-/// The bytes of a settings file as the toolkit writes and reads it (QSettings::IniFormat), in
-/// memory: sections with lines "key=value", comments behind ";", UTF-8, escapes with a backslash.
-/// Setting a value leaves all other bytes as they are.
+/// The text of a settings file in Qt's format (QSettings::IniFormat), in memory: sections with
+/// lines "key=value", comments after ";", UTF-8, backslash escapes. Setting a value leaves all
+/// other bytes unchanged.
 class SettingsText
 {
 public:
@@ -21,17 +21,18 @@ public:
     /// Whether every line is a section, a comment or a value, and all values are texts.
     bool isWhole() const { return m_isWhole; }
 
-    /// Nothing when the key is not there. Of a key that comes twice the last one counts, and a
-    /// value that a person wrote with commas and without quotes is one text.
+    /// Empty when the key does not exist. If a key occurs twice, the last one counts. A value with
+    /// commas and without quotes, as a person may write it, is one text.
     std::optional<QString> value(std::string_view section, std::string_view key) const;
 
-    /// Only for a text that is whole.
+    /// Requires `isWhole`.
     void setValue(std::string_view section, std::string_view key, const QString& value);
 
     const std::string& bytes() const { return m_bytes; }
 
 private:
-    /// A section's head, which has no key, or a value; positions count from the first byte.
+    /// The heading of a section, which has no key, or a value. Positions count bytes from the
+    /// start.
     struct Line
     {
         std::string section;

@@ -5,20 +5,19 @@
 
 namespace tarsil::axis {
 
-constexpr double thick =
-    pixelsOfPoints(8); ///< the length that every stroke of an axis is measured in
+constexpr double thick = pixelsOfPoints(8); ///< the unit of all stroke lengths of an axis
 constexpr double endMark = 1.8 * thick;
 
 constexpr Pen pen {};
 constexpr ColorValue textColor = 0;
 
-/// A pixel from a position that need not be whole.
+/// Rounds a position to a pixel.
 inline QPoint pixel(double column, double row)
 {
     return {roundToPixel(column), roundToPixel(row)};
 }
 
-/// Raises error 11 "Division by zero" for a tick count that divides nothing.
+/// Raises error 11 "Division by zero" for a tick count of 0.
 void requireIntervals(int count, const char* source);
 
 } // namespace tarsil::axis

@@ -19,8 +19,8 @@ bool isBreak(char16_t unit)
     return unit == u'\r' || unit == u'\n' || unit == u'\u2028' || unit == u'\u2029';
 }
 
-/// The characters of a text whose lines end in CR LF, CR, LF or a separator, with one u'\n' for
-/// each break and without control characters, which a text file would not keep either.
+/// The characters of a text with one u'\n' for each break (CR LF, CR, LF or a separator) and
+/// without control characters, which files would not keep.
 std::u16string plainLines(QString text)
 {
     text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
@@ -59,14 +59,14 @@ void emfRichTextBox::setFont(const tarsil::Font& font)
     };
     changeFormat(m_content, 0, plainText(m_content).size(), change);
     change(m_content.last);
-    m_changed.mark(QStringLiteral("Font"));
+    m_changed.add(QStringLiteral("Font"));
     fitToText();
 }
 
 void emfRichTextBox::setForeColor(ColorValue color)
 {
     m_foreColor = color;
-    m_changed.mark(QStringLiteral("ForeColor"));
+    m_changed.add(QStringLiteral("ForeColor"));
 }
 
 QString emfRichTextBox::Text() const
@@ -95,7 +95,7 @@ void emfRichTextBox::setContent(RichText content)
 {
     m_content = std::move(content);
     select({0, 0});
-    m_changed.mark(QStringLiteral("Text"));
+    m_changed.add(QStringLiteral("Text"));
     fitToText();
 }
 
@@ -122,7 +122,7 @@ void emfRichTextBox::setSelStart(int start)
 {
     requireNotNegative(start, "SelStart");
     select({start, 0});
-    m_changed.mark(QStringLiteral("SelStart"));
+    m_changed.add(QStringLiteral("SelStart"));
 }
 
 int emfRichTextBox::SelLength() const
@@ -134,7 +134,7 @@ void emfRichTextBox::setSelLength(int length)
 {
     requireNotNegative(length, "SelLength");
     select({SelStart(), length});
-    m_changed.mark(QStringLiteral("SelLength"));
+    m_changed.add(QStringLiteral("SelLength"));
 }
 
 QString emfRichTextBox::SelText() const
@@ -150,7 +150,8 @@ TextRange emfRichTextBox::selectedRange() const
                       static_cast<std::size_t>(selected.length));
 }
 
-/// Text that takes the place of other text looks like it; inserted text like what stands before it.
+/// Replacing text gets the look of the first replaced character, inserted text that of the
+/// character before it.
 TextFormat emfRichTextBox::insertionFormat() const
 {
     if (m_insertion)
@@ -167,7 +168,7 @@ void emfRichTextBox::setSelText(const QString& text)
     replaceText(m_content, range.position, range.length, characters, insertionFormat());
     const std::size_t end = shownPosition(plainText(m_content), range.position + characters.size());
     select({static_cast<int>(end), 0});
-    m_changed.mark(QStringLiteral("SelText"));
+    m_changed.add(QStringLiteral("SelText"));
     fitToText();
 }
 
@@ -185,7 +186,7 @@ void emfRichTextBox::setSelColor(ColorValue color)
     }
     changeFormat(m_content, range.position, range.length,
                  [color](TextFormat& format) { format.color = color; });
-    m_changed.mark(QStringLiteral("SelColor"));
+    m_changed.add(QStringLiteral("SelColor"));
 }
 
 double emfRichTextBox::unitsWidth() const
@@ -201,14 +202,14 @@ double emfRichTextBox::unitsHeight() const
 void emfRichTextBox::setUnitsWidth(double width)
 {
     m_leastSize.setWidth(roundToPixel(width / unitsPerPixel));
-    m_changed.mark(QStringLiteral("Width"));
+    m_changed.add(QStringLiteral("Width"));
     fitToText();
 }
 
 void emfRichTextBox::setUnitsHeight(double height)
 {
     m_leastSize.setHeight(roundToPixel(height / unitsPerPixel));
-    m_changed.mark(QStringLiteral("Height"));
+    m_changed.add(QStringLiteral("Height"));
     fitToText();
 }
 
@@ -225,8 +226,8 @@ void emfRichTextBox::setUnitsTop(double top)
 void emfRichTextBox::Move(double left, double top)
 {
     m_wasMoved = true;
-    m_changed.mark(QStringLiteral("Left"));
-    m_changed.mark(QStringLiteral("Top"));
+    m_changed.add(QStringLiteral("Left"));
+    m_changed.add(QStringLiteral("Top"));
     place(left, top);
 }
 

@@ -13,55 +13,53 @@
 
 namespace tarsil {
 
-/// A box of text on the plot: header, legend or subtitle. Every character has its own font and
-/// colour. The box is as large as its text needs; positions and sizes are kept in twentieths of a
-/// point.
+/// A text box on the plot: header, legend or subtitle. Every character has its own font and colour.
+/// The box is as large as its text. Positions and sizes are in twentieths of a point.
 ///
-/// The text that programs see (`Text`, and the positions of the selection) has CR LF for each line
-/// break, so that a break counts two characters, as does a character outside the basic plane.
+/// `Text` and the selection use the shown text: a line break is CR LF and counts two, as does a
+/// character outside the basic plane.
 class emfRichTextBox : public PlotControl
 {
 public:
     emfRichTextBox();
 
-    /// The font of new text; setting it gives the whole text this font.
+    /// The font of new text. Setting it applies the font to the whole text.
     const tarsil::Font& Font() const { return m_font; }
     void setFont(const tarsil::Font& font);
 
-    /// The colour of all text that has none of its own.
+    /// The colour of all text without a colour of its own.
     ColorValue ForeColor() const { return m_foreColor; }
     void setForeColor(ColorValue color);
 
-    /// A lone LF or CR separates lines too and becomes CR LF. Text that is set has the box's font
-    /// and colour; the selection goes to its beginning.
+    /// A lone LF or CR is a line break too and becomes CR LF. Setting the text applies the font and
+    /// colour of the box and moves the selection to the start.
     QString Text() const;
     void setText(const QString& text);
 
-    /// The text with its fonts and colours in Rich Text Format, in the form that a workspace keeps
-    /// (`rtfToStore`). What is set may come from any writer and may be cut; text that is no such
-    /// format is taken as it stands.
+    /// The text in Rich Text Format, in the form for workspaces (`rtfToStore`). The setter accepts
+    /// the output of any writer, also truncated; other text is taken as plain text.
     std::string TextRTF() const;
     void setTextRTF(std::string_view rtf);
 
-    /// The selection, counted from 0 in `Text`. A start or length beyond the text ends with it;
-    /// error 5 for a negative one. Setting the start leaves nothing selected.
+    /// The selection in `Text`, counted from 0. Start and length are clamped to the text; error 5
+    /// for a negative value. Setting the start clears the selection.
     int SelStart() const;
     void setSelStart(int start);
     int SelLength() const;
     void setSelLength(int length);
 
-    /// Setting it puts text in place of the selection, with the look of what stood there, and the
-    /// selection behind it. Half a line break is replaced as a whole one.
+    /// Setting it replaces the selection by text in the look of the replaced characters, and moves
+    /// the selection after it. Half a line break is replaced as a whole.
     QString SelText() const;
     void setSelText(const QString& text);
 
-    /// The colour of the first selected character; with nothing selected, that of text inserted
-    /// there, which setting it changes until the selection moves.
+    /// The colour of the first selected character. Without a selection it is that of inserted text;
+    /// setting it then lasts until the selection moves.
     ColorValue SelColor() const;
     void setSelColor(ColorValue color);
 
-    /// Position and size in the container, twentieths of a point. The size that is set is the least
-    /// one; the text can need more.
+    /// Position and size in the plot, in twentieths of a point. A size that is set is a minimum;
+    /// the text may need more.
     double unitsLeft() const { return m_left; }
     void setUnitsLeft(double left);
     double unitsTop() const { return m_top; }
@@ -76,11 +74,11 @@ public:
 
     void Move(double left, double top);
 
-    /// Whether somebody gave the box its position; until then its container places it.
+    /// Whether the box was given a position. Until then the plot positions it.
     bool wasMoved() const { return m_wasMoved; }
     void place(double left, double top);
 
-    /// What stands on the screen in the place of an empty text; never part of text or picture.
+    /// Shown on the screen while the text is empty; never part of text or picture.
     const QString& prompt() const { return m_prompt; }
     void setPrompt(const QString& prompt);
 
@@ -95,23 +93,22 @@ public:
         tarsil::Font font;
         ColorValue foreColor = 0;
         bool wasMoved = false;
-        double left = 0; ///< twentieths of a point, like `top`
-        double top = 0;
+        double left = 0; ///< twentieths of a point
+        double top = 0; ///< twentieths of a point
 
         bool operator==(const State&) const = default;
     };
     State state() const;
     void setState(const State& state);
 
-    /// Draws the text into a caller's context at the box's position.
+    /// Draws the text into `context` at the position of the box.
     void drawEMF(DeviceContext& context) { Draw(&context); }
 
-    /// Copies text, looks, selection, position and least size of another box.
+    /// Copies text, looks, selection, position and minimum size of another box.
     void Clone(const emfRichTextBox& source);
 
     /// Keys "Font" (Arial, 10 points), "ForeColor" 0, "Text" "", "SelText", "SelLength" 0,
-    /// "SelStart" 0. What the selection says follows from start and length, so "SelText" is written
-    /// but not read.
+    /// "SelStart" 0. "SelText" is written but not read: it follows from start and length.
     void ReadProperties(const PropertyBag& bag);
     PropertyBag WriteProperties() const;
     const ChangedProperties& changedProperties() const { return m_changed; }
@@ -136,9 +133,8 @@ private:
     QString m_prompt;
     tarsil::Font m_font {QStringLiteral("Arial"), 10};
     ColorValue m_foreColor = 0;
-    Selection m_selection {0, 0}; ///< as set; the text can have become shorter since
-    std::optional<TextFormat>
-        m_insertion; ///< look of text inserted at the selection, if it was set
+    Selection m_selection {0, 0}; ///< as set; may exceed a text that was shortened since
+    std::optional<TextFormat> m_insertion; ///< set look of text inserted at the selection
     double m_left = 0;
     double m_top = 0;
     bool m_wasMoved = false;

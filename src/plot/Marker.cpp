@@ -16,9 +16,9 @@ constexpr bool areInOrder()
     }
     return true;
 }
-static_assert(areInOrder(), "the traits of markers are found by the kind's position");
+static_assert(areInOrder(), "the traits of markers are indexed by kind");
 
-/// `index`: counted from 1.
+/// `index` is counted from 1.
 QString factorText(const Point& point, std::int32_t index)
 {
     if (index < 1 || static_cast<std::size_t>(index) > point.mpf.size())

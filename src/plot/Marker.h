@@ -11,17 +11,17 @@
 
 namespace tarsil {
 
-/// What is drawn at the marked points of a curve.
+/// What is drawn at points of a curve.
 enum class MarkerKind { None, ModeNumber, Tag, ParticipationFactor };
 
-/// What else there is to say of a kind of marker. A new kind gets its line in `markerTraits`; the
-/// compiler names the switches that lack it.
+/// The properties of a kind of marker. A new kind needs an entry in `markerTraits`; the compiler
+/// reports every switch that lacks it.
 struct MarkerTraits
 {
     MarkerKind kind;
     std::int32_t number; ///< in `Series::MarkerStyle` and in workspaces
     std::string_view name; ///< on the command line
-    bool needsFactor; ///< shows the participation factor `Series::IthMpf`
+    bool needsFactor; ///< uses the participation factor `Series::IthMpf`
 };
 
 inline constexpr std::array<MarkerTraits, 4> markerTraits = {
@@ -35,20 +35,20 @@ constexpr const MarkerTraits& traitsOf(MarkerKind kind)
     return markerTraits[static_cast<std::size_t>(kind)];
 }
 
-/// The number that stands for a kind in `Series::MarkerStyle` and in workspaces.
+/// The number of a kind in `Series::MarkerStyle` and in workspaces.
 constexpr std::int32_t markerNumber(MarkerKind kind)
 {
     return traitsOf(kind).number;
 }
 
-/// The kind of a number; none for a number that no kind has, which draws nothing.
+/// The kind of a number; empty for an unknown number, which draws nothing.
 std::optional<MarkerKind> markerOfNumber(std::int32_t number);
 
-/// What marks the points of a curve, and how.
+/// The markers of a curve.
 struct MarkerOptions
 {
     std::int32_t size = 8; ///< points
-    std::int32_t spacing = 10;
+    std::int32_t spacing = 10; ///< a marker at each multiple of this; 0 for none
     MarkerKind kind = MarkerKind::ModeNumber;
     std::int32_t ithMpf = 1; ///< counted from 1
 
@@ -57,8 +57,7 @@ struct MarkerOptions
     bool operator==(const MarkerOptions&) const = default;
 };
 
-/// The text that is drawn at a point of a series; empty where nothing is. "?" for a factor that the
-/// point does not have.
+/// The text at a point of a series; empty for none. "?" for a factor that the point does not have.
 QString markerText(const Series& series, const Point& point);
 
 } // namespace tarsil

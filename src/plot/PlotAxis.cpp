@@ -5,19 +5,19 @@ namespace tarsil {
 void PlotAxis::setNThick(std::int16_t count)
 {
     m_nThick = count;
-    m_changed.mark(QStringLiteral("nThick"));
+    m_changed.add(QStringLiteral("nThick"));
 }
 
 void PlotAxis::setMin(double value)
 {
     m_min = value;
-    m_changed.mark(QStringLiteral("Min"));
+    m_changed.add(QStringLiteral("Min"));
 }
 
 void PlotAxis::setMax(double value)
 {
     m_max = value;
-    m_changed.mark(QStringLiteral("Max"));
+    m_changed.add(QStringLiteral("Max"));
 }
 
 void PlotAxis::readRange(const PropertyBag& bag, std::int16_t intervals, double max)

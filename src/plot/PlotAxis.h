@@ -7,7 +7,7 @@
 
 namespace tarsil {
 
-/// What both axes have: a number of equal intervals between two bounds.
+/// The common part of both axes: equal intervals between two bounds.
 class PlotAxis : public PlotControl
 {
 public:
@@ -23,7 +23,7 @@ public:
 protected:
     PlotAxis(std::int16_t intervals, double max) : m_nThick(intervals), m_max(max) { }
 
-    /// The keys "nThick", "Min" 0 and "Max", with the given defaults.
+    /// Keys "nThick", "Min" 0 and "Max", with the given defaults.
     void readRange(const PropertyBag& bag, std::int16_t intervals, double max);
     PropertyBag writtenRange() const;
 

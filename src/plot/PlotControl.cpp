@@ -17,13 +17,13 @@ void setBack(DeviceContext& context)
     context.setOrigin({0, 0});
 }
 
-/// After drawing has failed, so that what is drawn next comes to its place all the same.
-void trySetBack(DeviceContext& context)
+/// Resets origin and clip after drawing failed, for whatever is drawn next.
+void tryReset(DeviceContext& context)
 {
     try {
         context.clearClip();
     } catch (const std::exception&) {
-        context.setOrigin({0, 0}); // the failure that is on its way is the one to be told
+        context.setOrigin({0, 0}); // the first failure is the one to report
         return;
     }
     context.setOrigin({0, 0});
@@ -35,13 +35,13 @@ PlotControl::~PlotControl() = default;
 
 void PlotControl::setGeometry(const QRect& geometry)
 {
-    const auto place = [this] { return surfaceRectangle().translated(-m_geometry.topLeft()); };
+    const auto relative = [this] { return surfaceRectangle().translated(-m_geometry.topLeft()); };
     const bool isResized = geometry.size() != m_geometry.size();
-    const QRect before = place();
+    const QRect before = relative();
     m_geometry = geometry;
     if (isResized)
         m_reach = QRect(QPoint(0, 0), geometry.size());
-    if (isResized || place() != before)
+    if (isResized || relative() != before)
         m_surface = {};
 }
 
@@ -58,15 +58,16 @@ void PlotControl::setDevicePixelRatio(double ratio)
     m_ratio = ratio;
 }
 
-/// Where in the container the own surface lies.
+/// The rectangle of the item's own surface in the plot.
 QRect PlotControl::surfaceRectangle() const
 {
     const QRect whole = m_reach.translated(m_geometry.topLeft());
     return m_container.isNull() ? whole : whole & m_container;
 }
 
-/// The same in physical pixels of the screen. Every edge is rounded by itself, so that clipped
-/// controls that touch each other neither overlap nor leave a gap; others lose no part of a pixel.
+/// The same in physical pixels. The edges of clipped items are rounded one by one, so that adjacent
+/// items neither overlap nor leave a gap. Other items are rounded outwards, so that nothing is
+/// lost.
 QRect PlotControl::physicalRectangle() const
 {
     const QRect area = surfaceRectangle();
@@ -77,14 +78,14 @@ QRect PlotControl::physicalRectangle() const
             QPoint(qRound(exact.right()) - 1, qRound(exact.bottom()) - 1)};
 }
 
-/// All that drawing can ink, relative to the control's corner.
+/// All pixels that drawing can ink, relative to the item's corner.
 QRect PlotControl::inkReach() const
 {
     InkBounds ink;
     try {
         paint(ink);
     } catch (const std::exception&) {
-        // What comes before the failure is shown; the drawing itself will raise it again.
+        // The part drawn before the failure is shown; drawing will raise the error again.
     }
     return ink.bounds();
 }
@@ -113,14 +114,14 @@ void PlotControl::drawInto(DeviceContext& context) const
             context.setClip(m_container);
         paint(context);
     } catch (...) {
-        trySetBack(context);
+        tryReset(context);
         throw;
     }
     setBack(context);
 }
 
-/// A surface for what is going to be drawn, empty unless drawings add up; false where none of it
-/// can be seen, or no memory is left for it.
+/// Provides a surface for the next drawing, cleared unless drawings add up. False when it would be
+/// invisible or memory does not suffice.
 bool PlotControl::prepareSurface()
 {
     const QRect before = physicalRectangle();

@@ -7,9 +7,9 @@
 
 namespace tarsil {
 
-/// A control that draws itself the same way on every surface: on its own one, which the plot shows
-/// on the screen, or into a caller's context at the control's place in its container. Positions and
-/// sizes are pixels of the container at 96 per inch.
+/// An item that a plot draws: canvas, axis, label or text box. It draws the same on its own
+/// surface, which the plot shows on the screen, and into another context at its position in the
+/// plot. Positions and sizes are pixels of the plot at 96 per inch.
 class PlotControl
 {
 public:
@@ -24,40 +24,38 @@ public:
     int Width() const { return m_geometry.width(); }
     int Height() const { return m_geometry.height(); }
 
-    /// Moves the control; a new size empties its own surface.
+    /// Moves the item. A new size clears its surface.
     void setGeometry(const QRect& geometry);
 
-    /// What of the plot can be seen: drawing of every kind ends at its edges. No limit while it is
-    /// null.
+    /// Sets the visible area of the plot. Drawing is clipped to it; null means no limit.
     void setContainer(const QRect& area);
 
-    /// Physical pixels of the screen for each pixel; a new ratio empties the own surface.
+    /// Sets the physical pixels of the screen for each pixel. A new ratio clears the surface.
     void setDevicePixelRatio(double ratio);
 
-    /// Draws into `context` as `drawInto` does; null means the control's own surface.
+    /// Calls `drawInto`, or draws on the item's own surface when `context` is null.
     void Draw(DeviceContext* context);
 
-    /// Draws into a caller's context at the control's position in its container.
+    /// Draws into `context` at the position of the item in its plot.
     void drawInto(DeviceContext& context) const;
 
-    /// Empties the own surface.
+    /// Clears the item's own surface.
     void Cls();
 
-    /// The own surface in physical pixels of the screen, transparent where nothing is drawn, and
-    /// the physical pixel of the container where it belongs: it can be larger than the control by
-    /// what hangs over its edges. All surfaces of a container share one grid of physical pixels,
-    /// so that what is drawn at one position on two of them lies on the same ones.
+    /// The item's own surface in physical pixels, transparent where nothing is drawn;
+    /// `surfacePosition` is its physical pixel in the plot. It is larger than the item where the
+    /// drawing extends beyond the edges. All surfaces of a plot share one grid of physical pixels.
     const QImage& surface() const { return m_surface; }
     QPoint surfacePosition() const { return physicalRectangle().topLeft(); }
 
 protected:
-    /// Draws relative to the control's upper left corner.
+    /// Draws relative to the upper left corner of the item.
     virtual void paint(DeviceContext& context) const = 0;
 
-    /// Whether drawing ends at the control's edges.
+    /// Whether drawing is clipped to the edges of the item.
     virtual bool isClipped() const { return false; }
 
-    /// Whether drawing on the own surface begins with an empty one.
+    /// Whether the item's own surface is cleared before drawing.
     virtual bool erasesBeforeDrawing() const { return true; }
 
 private:
@@ -68,7 +66,7 @@ private:
     void drawOnSurface();
 
     QRect m_geometry;
-    QRect m_reach; ///< of the drawing on the own surface, relative to the control's corner
+    QRect m_reach; ///< of the drawing on the surface, relative to the item's corner
     QRect m_container;
     double m_ratio = 1;
     QImage m_surface;

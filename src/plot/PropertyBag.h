@@ -6,23 +6,22 @@
 
 namespace tarsil {
 
-/// The settings of a control by their fixed keys, as they are kept and handed from one control to
-/// another.
+/// The settings of a drawn item by key.
 using PropertyBag = QVariantMap;
 
-/// What of a bag a control holds; a key that is absent keeps its default.
+/// The value of a key; the default when the key is absent.
 template <typename Value>
 Value readProperty(const PropertyBag& bag, const QString& key, const Value& defaultValue)
 {
-    const auto place = bag.constFind(key);
-    return place == bag.constEnd() ? defaultValue : place->template value<Value>();
+    const auto found = bag.constFind(key);
+    return found == bag.constEnd() ? defaultValue : found->template value<Value>();
 }
 
-/// The keys that were set since the settings were last saved.
+/// The keys set since the settings were last saved.
 class ChangedProperties
 {
 public:
-    void mark(const QString& key) { m_keys.insert(key); }
+    void add(const QString& key) { m_keys.insert(key); }
     bool contains(const QString& key) const { return m_keys.contains(key); }
     bool isEmpty() const { return m_keys.isEmpty(); }
     void clear() { m_keys.clear(); }

@@ -4,10 +4,10 @@
 
 namespace tarsil {
 
-/// One reference-speed mark of the speed axis.
+/// A reference-speed mark of the speed axis.
 struct RefThick
 {
-    float Speed = 0; ///< knots, in the axis' units
+    float Speed = 0; ///< KEAS
     QString Caption; ///< written above the mark
 
     bool operator==(const RefThick&) const = default;

@@ -22,7 +22,7 @@ public:
     {
         const bool isSymbols = isSymbolFace(run.format.family);
         Font font = fontOf(run.format);
-        if (isSymbols) // few machines have the face, and any other has its signs
+        if (isSymbols) // few machines have the font; any other font has the symbols
             font.family = Font().family;
         const ColorValue color = run.format.color.value_or(m_automaticColor);
         const std::u16string characters = isSymbols ? ordinarySigns(run.text) : run.text;

@@ -8,20 +8,20 @@
 
 namespace tarsil {
 
-/// The font of a look, on every surface: its face is `drawnFace` of the family.
+/// The font of a look; its family is `drawnFace` of the look's family.
 Font fontOf(const TextFormat& format);
 
-/// How texts are measured: a surface's own functions, or those of the screen without a surface.
+/// How text is measured: by the functions of a surface, or those of the screen.
 struct TextMeasure
 {
     std::function<QSize(const QString&, const Font&)> extent;
     std::function<int(const Font&)> ascent;
 };
 
-/// Characters of one look that stand side by side.
+/// Consecutive characters of one look on one line.
 struct TextPiece
 {
-    QPoint baseline; ///< left end, relative to the text's upper left corner
+    QPoint baseline; ///< left end, relative to the upper left corner of the text
     QString text;
     Font font;
     ColorValue color;
@@ -33,10 +33,9 @@ struct RichTextLayout
     QSize size;
 };
 
-/// Where the characters of a text stand. Each moves on by its own advance; a line is as high as its
-/// highest character, its line break included, and the next baseline lies that much lower. The
-/// first baseline stands one ascent below the upper edge, so that the line is seen whole. A tab
-/// goes on to the next half inch. Automatic colour becomes `automaticColor`.
+/// Positions the characters of a text. A line is as high as its highest character, its line break
+/// included; baselines are one line height apart. The first baseline is one ascent below the top. A
+/// tab advances to the next half inch. Automatic colour becomes `automaticColor`.
 RichTextLayout layOutRichText(const RichText& text, ColorValue automaticColor,
                               const TextMeasure& measure);
 

@@ -10,7 +10,7 @@ trspLabel::trspLabel(const QString& name) : m_name(name), m_caption(name) { }
 void trspLabel::setCaption(const QString& text)
 {
     m_caption = text;
-    m_changed.mark(QStringLiteral("Caption"));
+    m_changed.add(QStringLiteral("Caption"));
     fitToText();
     Draw(nullptr);
 }
@@ -18,7 +18,7 @@ void trspLabel::setCaption(const QString& text)
 void trspLabel::setAutoSize(bool on)
 {
     m_autoSize = on;
-    m_changed.mark(QStringLiteral("AutoSize"));
+    m_changed.add(QStringLiteral("AutoSize"));
     fitToText();
 }
 

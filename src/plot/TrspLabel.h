@@ -7,28 +7,28 @@
 
 namespace tarsil {
 
-/// A one-line label with a transparent background: an axis title.
+/// A one-line label with a transparent background, used for axis titles.
 class trspLabel : public PlotControl
 {
 public:
-    /// `name` is the control's name in its container, and its first caption.
+    /// `name` is the name of the item in its plot, and its initial caption.
     explicit trspLabel(const QString& name);
 
     const QString& Caption() const { return m_caption; }
 
-    /// Stores the text and draws again on the own surface.
+    /// Sets the text and redraws the label's own surface.
     void setCaption(const QString& text);
 
     bool AutoSize() const { return m_autoSize; }
 
-    /// With `on`, the label is always as large as its text.
+    /// If on, the label always has the size of its text.
     void setAutoSize(bool on);
 
-    /// The font handle; it cannot be set: error 382 "Set not supported at run time", always.
+    /// The font handle. Setting it always raises error 382 "Set not supported at run time".
     std::int32_t hFont() const { return m_hFont; }
     void sethFont(std::int32_t handle);
 
-    /// Keys "Caption" (the control's name), "AutoSize" false, "hFont" 0.
+    /// Keys "Caption" (the name of the item), "AutoSize" false, "hFont" 0.
     void ReadProperties(const PropertyBag& bag);
     PropertyBag WriteProperties() const;
     const ChangedProperties& changedProperties() const { return m_changed; }

@@ -29,7 +29,7 @@ void drawMarker(DeviceContext& context, const Series& series, const Point& point
     context.drawText(top, text, font, series.MarkerForegroundColor, TextAlignment::TopCenter);
 }
 
-/// The points of a series' mode; a canvas counts them in 16 bits.
+/// The points of the mode of a series. A canvas counts them in 16 bits.
 const std::vector<Point>& pointsOf(const Series& series)
 {
     if (series.Mode == nullptr)
@@ -133,7 +133,7 @@ void ucPlot::drawSeries(DeviceContext& context, const Series& series) const
     if (points.size() < 2)
         return;
     const Pen pen {series.LineStyle, series.LineWidth, series.ColorIndex};
-    const bool isMarked =
+    const bool hasMarkers =
         series.MarkerSpacing != 0 && series.MarkerStyle != markerNumber(MarkerKind::None);
     const auto pixelOfPoint = [this, columns = columns(), rows = rows()](const Point& point) {
         const DataPoint data = dataOf(point);
@@ -144,8 +144,8 @@ void ucPlot::drawSeries(DeviceContext& context, const Series& series) const
         const QPoint to = pixelOfPoint(points[i]);
         if (!m_breaksAtJumps || isStatic(points[i - 1]) == isStatic(points[i]))
             context.drawLine(from, to, pen);
-        // The first point never carries a marker: a marker belongs to the end of a line.
-        if (isMarked && static_cast<std::int32_t>(i + 1) % series.MarkerSpacing == 0)
+        // The first point has no marker: a marker is drawn at the end of a line.
+        if (hasMarkers && static_cast<std::int32_t>(i + 1) % series.MarkerSpacing == 0)
             drawMarker(context, series, points[i], to);
         from = to;
     }
@@ -166,19 +166,19 @@ void ucPlot::drawLine(DeviceContext& context, const RefLine& line) const
 void ucPlot::setModeColor(const QVariant& value)
 {
     m_modeColor = value;
-    m_changed.mark(QStringLiteral("ModeColor"));
+    m_changed.add(QStringLiteral("ModeColor"));
 }
 
 void ucPlot::setPlotType(std::int32_t type)
 {
     m_plotType = type;
-    m_changed.mark(QStringLiteral("PlotType"));
+    m_changed.add(QStringLiteral("PlotType"));
 }
 
 void ucPlot::setAutoScale(bool on)
 {
     m_autoScale = on;
-    m_changed.mark(QStringLiteral("AutoScale"));
+    m_changed.add(QStringLiteral("AutoScale"));
 }
 
 void ucPlot::sethFont(std::int32_t /*handle*/)

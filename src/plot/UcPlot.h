@@ -14,52 +14,52 @@
 
 namespace tarsil {
 
-/// What a canvas needs from the plot that contains it.
+/// What a canvas needs from its plot.
 class PlotContainer
 {
 public:
     virtual ~PlotContainer();
 
-    /// The series to draw, in drawing order.
+    /// The series in drawing order.
     virtual const SeriesList& SeriesCollection() const = 0;
 };
 
-/// Which two values of a point a canvas draws.
+/// The values of a point that a canvas draws.
 namespace plottype {
 constexpr std::int32_t frequencyOverSpeed = 0;
 constexpr std::int32_t dampingOverSpeed = 1;
 constexpr std::int32_t rootLocus = 2; ///< abscissa `re`, ordinate `im`
 } // namespace plottype
 
-/// The drawing surface of one plot: every series of its container as a line with text markers, then
-/// its own reference lines, in user coordinates set by `SetScale`.
+/// The canvas of a plot: draws every series of its container as a line with text markers, then its
+/// own reference lines. `SetScale` sets the coordinates.
 class ucPlot : public PlotControl
 {
 public:
     /// `container` must outlive the canvas.
     explicit ucPlot(const PlotContainer& container);
 
-    /// (x1, y1) becomes the upper left corner and (x2, y2) the lower right one, so an ordinate that
-    /// grows upwards has its upper bound as y1. Equal y1 and y2 change nothing. Drawing with equal
-    /// x1 and x2 raises error 11 "Division by zero".
+    /// Sets the values at the corners: (x1, y1) at the upper left, (x2, y2) at the lower right. For
+    /// an ordinate that grows upwards y1 is the upper bound. Does nothing when y1 equals y2. When
+    /// x1 equals x2, drawing raises error 11 "Division by zero".
     void SetScale(double x1, double y1, double x2, double y2);
 
     /// The pixel of a data point, relative to the canvas.
     QPoint pixelOf(double x, double y) const;
 
-    /// Appends a reference line of one pixel width and returns it; nothing is drawn. The reference
-    /// is good until the next call that adds or removes lines.
+    /// Appends a reference line one pixel wide and returns it; does not draw. The reference is
+    /// valid until lines are added or removed.
     RefLine& AddLine(float X1, float Y1, float X2, float Y2, const QString& Caption,
                      ColorValue ColorIndex, std::int32_t LineStyle);
 
-    /// Empties the own surface and removes every reference line.
+    /// Clears the canvas' own surface and removes all reference lines.
     void RemoveLines();
     const std::vector<RefLine>& lines() const { return m_lines; }
 
-    /// Takes other reference lines in the place of all that are there; nothing is drawn.
+    /// Replaces all reference lines; does not draw.
     void setLines(std::vector<RefLine> lines) { m_lines = std::move(lines); }
 
-    /// Draws again on the own surface.
+    /// Redraws the canvas' own surface.
     void Refresh();
 
     /// Whether curves break between a point of a static root (below 0.1 Hz) and one of a root that
@@ -74,7 +74,7 @@ public:
     bool AutoScale() const { return m_autoScale; }
     void setAutoScale(bool on);
 
-    /// The font handle; it cannot be set: error 382 "Set not supported at run time", always.
+    /// The font handle. Setting it always raises error 382 "Set not supported at run time".
     std::int32_t hFont() const { return m_hFont; }
     void sethFont(std::int32_t handle);
 

@@ -14,13 +14,13 @@ namespace {
 /// Decimal digits that a double keeps through a few operations.
 constexpr int reliableDigits = 15;
 
-/// A length in pixels has single precision, like the edge it is measured from.
+/// A length in pixels has single precision, like the edge that it is measured from.
 double pixels(double length)
 {
     return static_cast<double>(static_cast<float>(length));
 }
 
-/// The double nearest to the value written with that number of decimals.
+/// Rounds a value to a number of decimals; returns the nearest double.
 double roundedTo(double value, int decimals)
 {
     std::array<char, 128> text {};
@@ -50,7 +50,7 @@ double ValueMap::divisionValue(int k, int count) const
     const double largest = std::max(std::fabs(m_first), std::fabs(m_last));
     if (largest == 0 || !std::isfinite(value))
         return value;
-    // Counted from the larger end, as the error is: near 0 a value has fewer digits than others.
+    // The error is relative to the larger end: near 0 a value has fewer exact digits.
     const int digitsBefore = static_cast<int>(std::floor(std::log10(largest))) + 1;
     const int decimals = reliableDigits - digitsBefore;
     return decimals < 0 ? value : roundedTo(value, decimals);

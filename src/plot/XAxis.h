@@ -8,8 +8,8 @@
 
 namespace tarsil {
 
-/// The horizontal speed axis: a line at half the control's height, ticks with whole-number labels
-/// below, and reference-speed marks with their captions above.
+/// The horizontal speed axis: a line at half the height, ticks with whole-number labels below it,
+/// reference-speed marks with captions above it.
 ///
 ///              caption
 ///                 |            |
@@ -20,18 +20,18 @@ class xAxis : public PlotAxis
 public:
     xAxis();
 
-    /// The left end of the axis line is put at column x of the container, the line at row y.
+    /// Puts the left end of the axis line at column x and row y of the plot.
     void MoveToOrigin(int x, int y);
 
-    /// Adds a reference-speed mark and draws again at once. The mark stands at speed / (Max - Min)
-    /// of the width, so at its data position only when `Min` is 0.
+    /// Adds a mark and redraws. The mark is at speed / (Max - Min) of the width, which is its data
+    /// position only when `Min` is 0.
     void AddRef(float speed, const QString& caption);
 
-    /// Removes every mark and draws again.
+    /// Removes all marks and redraws.
     void RemoveRef();
     const std::vector<RefThick>& marks() const { return m_marks; }
 
-    /// Takes these marks in the place of all others; nothing is drawn.
+    /// Replaces all marks; does not draw.
     void setMarks(std::vector<RefThick> marks) { m_marks = std::move(marks); }
 
     /// Keys "nThick" 7, "Min" 0, "Max" 700.

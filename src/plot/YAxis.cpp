@@ -50,13 +50,13 @@ void yAxis::paint(DeviceContext& context) const
 void yAxis::setDirection(bool minimumAtTop)
 {
     m_direction = minimumAtTop;
-    changed().mark(QStringLiteral("Direction"));
+    changed().add(QStringLiteral("Direction"));
 }
 
 void yAxis::setThickFormat(const QString& pattern)
 {
     m_thickFormat = pattern;
-    changed().mark(QStringLiteral("ThickFormat"));
+    changed().add(QStringLiteral("ThickFormat"));
 }
 
 void yAxis::ReadProperties(const PropertyBag& bag)

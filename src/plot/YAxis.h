@@ -4,8 +4,8 @@
 
 namespace tarsil {
 
-/// A vertical axis: a line at half the control's width, ticks to its right and labels to its left.
-/// `Direction` false puts `Max` at the top, true puts `Min` there. The ends carry no label.
+/// A vertical axis: a line at half the width, ticks to its right, labels to its left. `Direction`
+/// false: `Max` at the top; true: `Min` at the top. The two ends have no label.
 ///
 ///            |__   <- longer stroke at the far end
 ///     40.00  |-
@@ -16,8 +16,8 @@ class yAxis : public PlotAxis
 public:
     yAxis();
 
-    /// The axis line is put on column x of the container; its origin end at row y: the control
-    /// hangs down from there when `Direction` is true and stands on it otherwise.
+    /// Puts the axis line at column x of the plot and its origin end at row y. The axis extends
+    /// downwards from there when `Direction` is true, otherwise upwards.
     void MoveToOrigin(int x, int y);
 
     bool Direction() const { return m_direction; }
@@ -30,7 +30,7 @@ public:
     PropertyBag WriteProperties() const;
 
 protected:
-    /// Error 11 for a count of 0; error 5 for a pattern that is none.
+    /// Error 11 for a tick count of 0; error 5 for an invalid pattern.
     void paint(DeviceContext& context) const override;
 
 private:

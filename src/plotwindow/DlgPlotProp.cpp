@@ -54,15 +54,15 @@ void dlgPlotProp::Form_Load()
     m_ui->inpFlabel->setText(m_plot.properties().fLabel());
 }
 
-/// Applies the inputs and closes the dialog; it stays open when one of them is no number.
+/// Applies the inputs and closes the dialog. The dialog stays open when an input is not a number.
 void dlgPlotProp::OKButton_Click()
 {
     if (guarded(m_userInterface, moduleName, [this] { applyInputs(); }))
         accept();
 }
 
-/// In this order, so that a failure leaves in force what comes before it: all bounds together, each
-/// tick count, the titles. No range is checked.
+/// Applies all bounds together, then each tick count, then the titles. An error leaves applied what
+/// comes before it. Ranges are not checked.
 void dlgPlotProp::applyInputs()
 {
     const PlotBounds bounds {in(m_ui->inpVmin).single(), in(m_ui->inpVmax).single(),

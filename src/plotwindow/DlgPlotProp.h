@@ -15,7 +15,7 @@ class dlgPlotProp;
 }
 
 /// The dialog "Plot Properties": bounds, tick counts and titles of the three axes of a plot. It is
-/// made anew for each use and shows the plot as it was then.
+/// created for each use and shows the plot as it was then.
 class dlgPlotProp : public QDialog
 {
     Q_OBJECT

@@ -26,7 +26,7 @@ namespace {
 
 constexpr QSize leastEditorSize(420, 130);
 
-/// A plot is a graphic to a screen reader, with whatever it holds.
+/// Presents a plot to screen readers as a graphic.
 QAccessibleInterface* plotInterface(const QString& /*className*/, QObject* object)
 {
     auto* const view = qobject_cast<EvmPlotView*>(object);
@@ -40,11 +40,11 @@ EvmPlotView::EvmPlotView(EvmPlot& plot, QWidget* parent)
       m_edit(m_boxMenu->addAction(tr("&Edit"))), m_move(m_boxMenu->addAction(tr("&Move")))
 {
     setObjectName(QStringLiteral("evpVgf"));
-    setAttribute(Qt::WA_OpaquePaintEvent); // every pixel is painted, so nothing flickers
+    setAttribute(Qt::WA_OpaquePaintEvent); // avoids flicker: every pixel is painted
     setMinimumSize(240, 180);
     setFocusPolicy(Qt::StrongFocus);
     makeActions();
-    QAccessible::installFactory(plotInterface); // once, however many there are
+    QAccessible::installFactory(plotInterface); // has an effect only once
     connect(&m_plot, &EvmPlot::changed, this, qOverload<>(&QWidget::update));
     connect(&m_plot, &EvmPlot::changed, this, &EvmPlotView::updateDescription);
     connect(&m_plot, &EvmPlot::editsWanted, this, [this] { finishEditing(true); });
@@ -109,7 +109,7 @@ void EvmPlotView::paintEvent(QPaintEvent* event)
     paintPrompts(painter);
     paintSelection(painter);
     painter.end();
-    if (failure) // the report is a window of its own, so it waits until painting is over
+    if (failure) // the report opens a window, which must wait until painting is over
         QMetaObject::invokeMethod(
             this, [this, error = *failure] { Q_EMIT failed(error); }, Qt::QueuedConnection);
 }
@@ -132,7 +132,7 @@ void EvmPlotView::paintPrompts(QPainter& painter) const
     }
 }
 
-/// Which box the arrow keys move, and in edit mode all boxes; on the screen only.
+/// Outlines the box that the arrow keys move, in edit mode all boxes; on the screen only.
 void EvmPlotView::paintSelection(QPainter& painter) const
 {
     painter.setPen(QPen(Qt::gray, 1, Qt::DashLine));
@@ -207,11 +207,11 @@ void EvmPlotView::contextMenuEvent(QContextMenuEvent* event)
     const bool isByKey = event->reason() == QContextMenuEvent::Keyboard;
     const std::optional<TextBox> box = isByKey ? m_mover.selected() : m_mover.boxAt(event->pos());
     if (!box) {
-        event->ignore(); // the menu of the plot belongs to whoever holds the view
+        event->ignore(); // the owner of the view shows the menu of the plot
         return;
     }
-    const QPoint place = isByKey ? m_plot.parts().box(*box).geometry().bottomLeft() : event->pos();
-    showBoxMenu(*box, place);
+    const QPoint corner = isByKey ? m_plot.parts().box(*box).geometry().bottomLeft() : event->pos();
+    showBoxMenu(*box, corner);
 }
 
 void EvmPlotView::showBoxMenu(TextBox box, QPoint position)
@@ -223,7 +223,7 @@ void EvmPlotView::showBoxMenu(TextBox box, QPoint position)
     m_boxMenu->popup(mapToGlobal(position));
 }
 
-/// The pointer and the outline show what the mover is doing.
+/// Shows pointer and outlines for the current state of the mover.
 void EvmPlotView::followMovement()
 {
     const bool wasMoving = std::exchange(m_isMoving, m_mover.isMoving());
@@ -258,19 +258,19 @@ void EvmPlotView::startEditing(TextBox which)
     m_editedBox = which;
     m_editor = new RichTextEditor(box.content(), box.ForeColor(), this);
     m_editor->edit()->setAccessibleName(box.prompt());
-    QRect place(box.geometry().topLeft(),
-                (box.geometry().size() + QSize(20, 60)).expandedTo(leastEditorSize));
-    place.setSize(place.size().boundedTo(size()));
-    place.moveRight(std::min(place.right(), width() - 1));
-    place.moveBottom(std::min(place.bottom(), height() - 1));
-    m_editor->setGeometry(place);
+    QRect area(box.geometry().topLeft(),
+               (box.geometry().size() + QSize(20, 60)).expandedTo(leastEditorSize));
+    area.setSize(area.size().boundedTo(size()));
+    area.moveRight(std::min(area.right(), width() - 1));
+    area.moveBottom(std::min(area.bottom(), height() - 1));
+    m_editor->setGeometry(area);
     connect(m_editor, &RichTextEditor::left, this, [this] { finishEditing(true); });
     connect(m_editor, &RichTextEditor::cancelled, this, [this] { finishEditing(false); });
     m_editor->show();
     m_editor->setFocus();
 }
 
-/// The editor's text becomes the box's, unless it was given up.
+/// Closes the editor; `keep` applies its text to the box.
 void EvmPlotView::finishEditing(bool keep)
 {
     if (m_editor == nullptr)
@@ -287,7 +287,7 @@ void EvmPlotView::finishEditing(bool keep)
     Q_EMIT edited(tr("Edit Text"), false);
 }
 
-/// Nothing of what the user was doing reaches the contents that come now.
+/// Drops edits and movements, which must not reach the new contents.
 void EvmPlotView::letGo()
 {
     finishEditing(false);
@@ -295,7 +295,7 @@ void EvmPlotView::letGo()
     followMovement();
 }
 
-/// The titles and numbers are filled in at once: a title may hold what looks like a place for one.
+/// Fills in title and numbers in one call of `arg`, because a title may contain "%1".
 void EvmPlotView::updateDescription()
 {
     const PlotAxes axes = m_plot.axes();

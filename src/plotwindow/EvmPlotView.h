@@ -15,9 +15,9 @@ namespace tarsil {
 
 class RichTextEditor;
 
-/// Shows one V-g-f plot and follows its changes. A text box is selected by a click, moved by
-/// dragging it or with the arrow keys, and edited by a double click or F2; its context menu
-/// `mnuErtb` has the same commands. An empty box shows its prompt, on the screen only.
+/// Shows a V-g-f plot and follows its changes. A click selects a text box, dragging or the arrow
+/// keys move it, a double click or F2 edits it; its context menu `mnuErtb` has the same commands.
+/// An empty box shows its prompt, on the screen only.
 class EvmPlotView : public QWidget
 {
     Q_OBJECT
@@ -29,22 +29,22 @@ public:
 
     QSize sizeHint() const override;
 
-    /// Puts the picture on the clipboard: as metafile, SVG and bitmap.
+    /// Copies the picture to the clipboard as metafile, SVG and bitmap.
     void copyPicture();
 
-    /// Points something out over the picture, until something else, or nothing, is.
+    /// Shows a highlight over the picture until the next call; empty removes it.
     void setHighlight(const std::optional<PlotHighlight>& highlight);
 
 Q_SIGNALS:
-    /// Drawing failed; what could be drawn is shown. Emitted once for a failure, not at every
+    /// Drawing failed; what could be drawn is shown. Emitted once for each failure, not at every
     /// repaint.
     void failed(const tarsil::RunTimeError& error);
 
-    /// The user has edited or moved a text box: `what` names it as a step that can be undone, and
-    /// `joins` says that it belongs to the step before when that has the same name.
+    /// The user has edited or moved a text box. `what` is the name of the undo step; `joins` says
+    /// that it belongs to the last step if that has the same name.
     void edited(const QString& what, bool joins);
 
-    /// The user copies the picture, or begins to edit or to move a text box.
+    /// The user copies the picture, or begins to edit or move a text box.
     void commandBegun();
 
 protected:

@@ -13,7 +13,7 @@ const QColor edgeColor(200, 110, 0, 160);
 const QColor ringColor(210, 0, 0);
 constexpr int ringRadius = 7;
 
-/// The columns of the range, as far as the canvas has them.
+/// The columns of the range inside the canvas.
 QRect rangeIn(const ucPlot& canvas, const PlotHighlight& highlight)
 {
     const QRect area = canvas.geometry();
@@ -22,7 +22,7 @@ QRect rangeIn(const ucPlot& canvas, const PlotHighlight& highlight)
     return QRect(QPoint(from, area.top()), QPoint(to, area.bottom()));
 }
 
-/// White around red, so that it is seen on curves of every colour.
+/// White around red, visible on curves of every colour.
 void paintRing(const ucPlot& canvas, double speed, double value, QPainter& painter)
 {
     const QPoint centre = canvas.geometry().topLeft() + canvas.pixelOf(speed, value);
@@ -39,7 +39,7 @@ void paintRing(const ucPlot& canvas, double speed, double value, QPainter& paint
 void paintHighlight(const PlotHighlight& highlight, const EvmPlot& plot, QPainter& painter)
 {
     const PlotAxes axes = plot.axes();
-    if (axes.speed.min == axes.speed.max) // no pixel belongs to a speed
+    if (axes.speed.min == axes.speed.max) // the scale is undefined
         return;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);

@@ -8,8 +8,8 @@ namespace tarsil {
 
 class EvmPlot;
 
-/// What is pointed out in a plot, on the screen only: a range of speeds, and rings around points of
-/// both curves of a mode.
+/// A highlight in a plot, on the screen only: a range of speeds, and rings around points of both
+/// curves of a mode.
 struct PlotHighlight
 {
     struct Ring
@@ -24,7 +24,7 @@ struct PlotHighlight
     std::vector<Ring> rings;
 };
 
-/// Paints a highlight over the picture of a plot, as far as it lies in the canvases.
+/// Paints the part of a highlight inside the canvases over the picture of a plot.
 void paintHighlight(const PlotHighlight& highlight, const EvmPlot& plot, QPainter& painter);
 
 } // namespace tarsil

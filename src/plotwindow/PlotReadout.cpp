@@ -13,14 +13,14 @@ namespace tarsil {
 
 namespace {
 
-// Pixels from the pointer's tip to the box.
+// Pixels between the tip of the pointer and the box.
 constexpr int gapBeside = 14;
-constexpr int gapBelow = 16; ///< the pointer's picture hangs down from its tip
+constexpr int gapBelow = 16; ///< the image of the pointer extends below its tip
 constexpr int gapAbove = 6;
 constexpr int margin = 3;
 
-/// Where a box of this length begins: behind the pointer, or before it when there is no room, but
-/// always within 0 and `room` as far as it fits.
+/// The start of a box of this length: after the pointer, or before it when there is no room. The
+/// box stays within 0 and `room` as far as it fits.
 int beginBeside(int pointer, int gapAfter, int gapBefore, int length, int room)
 {
     const int after = pointer + gapAfter;
@@ -36,7 +36,7 @@ PlotReadout::PlotReadout(EvmPlot& plot, EvmPlotView& view)
     m_box->setObjectName(QStringLiteral("plotReadout"));
     m_box->setAccessibleDescription(tr("Values at the pointer"));
     m_box->setAttribute(Qt::WA_TransparentForMouseEvents);
-    m_box->setTextFormat(Qt::PlainText); // file names are no mark-up
+    m_box->setTextFormat(Qt::PlainText); // file names are not mark-up
     m_box->setFont(QToolTip::font());
     m_box->setPalette(QToolTip::palette());
     m_box->setBackgroundRole(QPalette::ToolTipBase);
@@ -60,16 +60,16 @@ bool PlotReadout::eventFilter(QObject* watched, QEvent* event)
     case QEvent::MouseButtonRelease:
         follow(*static_cast<QSinglePointEvent*>(event));
         break;
-    case QEvent::MouseTrackingChange: // the view ends its own use of it
+    case QEvent::MouseTrackingChange: // the view turns it off after moving a box
         if (!m_view.hasMouseTracking())
             m_view.setMouseTracking(true);
         break;
     case QEvent::Leave:
     case QEvent::Hide:
-    case QEvent::WindowDeactivate: // a dialog may open over it
+    case QEvent::WindowDeactivate: // a dialog may open over the view
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
-    case QEvent::ShortcutOverride: // a key that a menu takes comes as this only
+    case QEvent::ShortcutOverride: // the only event for a key that is a menu shortcut
     case QEvent::KeyPress:
         hide();
         break;
@@ -97,7 +97,7 @@ void PlotReadout::showAt(QPoint pointer)
     }
     m_box->setText(readingText(*reading));
     m_box->adjustSize();
-    m_box->move(placeBeside(pointer));
+    m_box->move(positionBeside(pointer));
     m_box->raise();
     m_box->show();
 }
@@ -107,18 +107,18 @@ void PlotReadout::hide()
     m_box->hide();
 }
 
-/// Whether something lies over the plot at the pointer, or has the keyboard: a text box's editor.
+/// Whether a widget covers the plot at the pointer, or an editor of a text box has the focus.
 bool PlotReadout::isCovered(QPoint pointer) const
 {
     const QWidget* const focus = QApplication::focusWidget();
-    // An editor that was closed is hidden, but can have the keyboard for a little longer.
+    // A closed editor is hidden but may still have the focus.
     const bool isEdited =
         focus != nullptr && focus != &m_view && focus->isVisible() && m_view.isAncestorOf(focus);
-    // The box itself lets the mouse through, so it is not found here.
+    // The readout is transparent for the mouse, so it is not found here.
     return isEdited || m_view.childAt(pointer) != nullptr;
 }
 
-QPoint PlotReadout::placeBeside(QPoint pointer) const
+QPoint PlotReadout::positionBeside(QPoint pointer) const
 {
     return {beginBeside(pointer.x(), gapBeside, gapBeside, m_box->width(), m_view.width()),
             beginBeside(pointer.y(), gapBelow, gapAbove, m_box->height(), m_view.height())};

@@ -27,7 +27,7 @@ QIcon swatch(const QColor& color)
     return pixmap;
 }
 
-/// Whether a widget belongs to another, also across windows: a dialog belongs to what opened it.
+/// Whether a widget belongs to another, also across windows: a dialog belongs to its opener.
 bool belongsTo(const QWidget* widget, const QWidget* owner)
 {
     while (widget != nullptr && widget != owner)
@@ -53,12 +53,12 @@ RichTextEditor::RichTextEditor(const RichText& text, ColorValue automaticColor, 
     layout->addWidget(bar);
     layout->addWidget(m_edit);
     QPalette palette = m_edit->palette();
-    palette.setColor(QPalette::Base, Qt::white); // as the plot behind it
+    palette.setColor(QPalette::Base, Qt::white); // like the plot
     palette.setColor(QPalette::Text, qtColor(automaticColor));
     m_edit->setPalette(palette);
     m_edit->setAccessibleName(tr("Text"));
     fillDocument(*m_edit->document(), text);
-    m_edit->moveCursor(QTextCursor::End); // a key adds to the text, and does not replace it
+    m_edit->moveCursor(QTextCursor::End); // typing appends to the text
     m_edit->installEventFilter(this);
     setFocusProxy(m_edit);
     connect(m_edit, &QTextEdit::currentCharFormatChanged, this, &RichTextEditor::showFormat);
@@ -67,7 +67,7 @@ RichTextEditor::RichTextEditor(const RichText& text, ColorValue automaticColor, 
     showFormat(m_edit->currentCharFormat());
 }
 
-/// While its parts end, the focus still changes: that is no news for an editor that is gone.
+/// Focus still changes while the children are destroyed; the editor must not react any more.
 RichTextEditor::~RichTextEditor()
 {
     qApp->disconnect(this);
@@ -126,7 +126,7 @@ void RichTextEditor::addToggles(QToolBar& bar)
                             [](QTextCharFormat& format, bool on) { format.setFontStrikeOut(on); });
 }
 
-/// A button whose letter looks like what it does.
+/// A button whose letter has the look that it sets.
 QAction* RichTextEditor::addToggle(QToolBar& bar, const QString& letter, const QString& name,
                                    const QKeySequence& key, void (*setter)(QTextCharFormat&, bool))
 {
@@ -173,7 +173,7 @@ void RichTextEditor::chooseColor()
 void RichTextEditor::change(const QTextCharFormat& format)
 {
     m_edit->mergeCurrentCharFormat(format);
-    // A size that was typed takes effect when the focus leaves its field: it must not come back.
+    // A typed size is applied when its field loses the focus; the focus must not return then.
     if (belongsTo(QApplication::focusWidget(), this))
         m_edit->setFocus();
     showFormat(m_edit->currentCharFormat());
@@ -183,7 +183,8 @@ void RichTextEditor::showFormat(const QTextCharFormat& format)
 {
     const TextFormat look = textFormatOf(format, m_format);
     m_families->setCurrentFont(QFont(QString::fromStdString(look.family)));
-    m_families->setEditText(QString::fromStdString(look.family)); // also where it is not installed
+    m_families->setEditText(
+        QString::fromStdString(look.family)); // also for a font that is not installed
     m_sizes->setEditText(QString::fromStdString(shortestText(look.points)));
     m_bold->setChecked(look.bold);
     m_italic->setChecked(look.italic);
@@ -192,7 +193,7 @@ void RichTextEditor::showFormat(const QTextCharFormat& format)
     m_color->setIcon(swatch(qtColor(look.color.value_or(m_automaticColor))));
 }
 
-/// While another program has the focus, editing waits.
+/// Does nothing while another program has the focus: editing continues afterwards.
 void RichTextEditor::followFocus(QWidget* now)
 {
     if (now != nullptr && isVisible() && !belongsTo(now, this))

@@ -13,15 +13,15 @@ class QToolBar;
 
 namespace tarsil {
 
-/// Edits a rich text: a text edit below a row of buttons for font, size, bold, italic, underline,
-/// strike-through and colour, which the usual keys reach too. At first nothing is selected, and
-/// what is typed follows the text.
+/// Edits a rich text: a text edit below a toolbar for font, size, bold, italic, underline,
+/// strike-through and colour, with the usual shortcuts. Initially the cursor is at the end of the
+/// text and nothing is selected.
 class RichTextEditor : public QFrame
 {
     Q_OBJECT
 
 public:
-    /// `automaticColor` shows text that has no colour of its own.
+    /// `automaticColor` is the colour of text without a colour of its own.
     RichTextEditor(const RichText& text, ColorValue automaticColor, QWidget* parent);
     ~RichTextEditor() override;
 
@@ -29,10 +29,10 @@ public:
     QTextEdit* edit() const { return m_edit; }
 
 Q_SIGNALS:
-    /// The focus has gone to something that is no part of the editor.
+    /// The focus has moved out of the editor.
     void left();
 
-    /// Escape: the text is to stay as it was.
+    /// Escape was pressed: the text is not to be changed.
     void cancelled();
 
 protected:
@@ -49,7 +49,7 @@ private:
     void showFormat(const QTextCharFormat& format);
     void followFocus(QWidget* now);
 
-    TextFormat m_format; ///< of text that says nothing of its look
+    TextFormat m_format; ///< default for pasted text
     QTextEdit* m_edit;
     QFontComboBox* m_families = nullptr;
     QComboBox* m_sizes = nullptr;

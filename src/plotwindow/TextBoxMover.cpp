@@ -12,7 +12,7 @@ namespace tarsil {
 
 namespace {
 
-/// What an arrow key means; none for another key.
+/// The step of an arrow key; empty for other keys.
 std::optional<QPoint> stepOf(const QKeyEvent& key)
 {
     const int length = key.modifiers() & Qt::ShiftModifier ? 10 : 1;
@@ -55,7 +55,7 @@ void TextBoxMover::select(std::optional<TextBox> box)
 
 void TextBoxMover::press(QPoint position)
 {
-    if (m_isFollowing) { // the click that puts the box down
+    if (m_isFollowing) { // the click that ends the movement
         select(m_selected);
         return;
     }
@@ -115,12 +115,12 @@ bool TextBoxMover::press(const QKeyEvent& key)
     return false;
 }
 
-/// The box ends where it is shown, so that its position is the one that the user sees.
+/// Stores the position at which the box is shown, because the user sees that one.
 void TextBoxMover::moveTo(QPoint corner)
 {
     const QSize size = m_plot.parts().box(*m_selected).geometry().size();
-    const QPoint place = shownPlace({corner, size}, m_plot.size()).topLeft();
-    m_plot.texts().move(*m_selected, place.x() * unitsPerPixel, place.y() * unitsPerPixel);
+    const QPoint shown = shownRectangle({corner, size}, m_plot.size()).topLeft();
+    m_plot.texts().move(*m_selected, shown.x() * unitsPerPixel, shown.y() * unitsPerPixel);
 }
 
 void TextBoxMover::takeBack()

@@ -14,9 +14,9 @@ namespace tarsil {
 
 class EvmPlot;
 
-/// Which text box of a plot is selected, and how the pointer and the arrow keys move it, from where
-/// it is shown, within the plot (`shownPlace`). A box is dragged, or it follows the pointer, after
-/// "Move", until a click or a key ends that.
+/// The selected text box of a plot, and its movement by pointer and arrow keys, starting from where
+/// it is shown (`shownRectangle`) and staying within the plot. A box is dragged, or after "Move" it
+/// follows the pointer until a click or a key ends that.
 class TextBoxMover
 {
 public:
@@ -27,22 +27,22 @@ public:
     std::optional<TextBox> selected() const { return m_selected; }
     void select(std::optional<TextBox> box);
 
-    /// Whether a box of this index goes where it is moved; the header keeps its row.
+    /// Whether a box can be moved. The header stays in its row.
     static bool isMovable(TextBox box) { return box != TextBox::Header; }
 
-    /// The left button goes down: selects the box there, and holds it.
+    /// The left button was pressed: selects the box at `position` and starts dragging.
     void press(QPoint position);
 
-    /// The pointer moves; `isHeld` says whether the left button is down.
+    /// The pointer moved; `isHeld`: the left button is down.
     void pointTo(QPoint position, bool isHeld);
     void release();
 
-    /// The selected box follows the pointer, which holds it at its middle, from now on.
+    /// From now on the selected box follows the pointer, held at its centre.
     void follow();
     bool isMoving() const { return m_isDragging || m_isFollowing; }
 
-    /// Arrow keys move the selected box by a pixel, with Shift by ten; Return ends a movement and
-    /// Escape takes it back, or ends the selection. False for every other key.
+    /// Handles a key: arrow keys move the selected box by a pixel, with Shift by ten. Return ends a
+    /// movement; Escape reverts it, or clears the selection. False for any other key.
     bool press(const QKeyEvent& key);
 
 private:
@@ -51,9 +51,9 @@ private:
 
     EvmPlot& m_plot;
     std::optional<TextBox> m_selected;
-    QPoint m_grip; ///< where in the box the pointer holds it
-    QPoint m_start; ///< the corner where the box was shown before it was moved
-    QPointF m_position; ///< its position then, twentieths of a point
+    QPoint m_grip; ///< position of the pointer in the box
+    QPoint m_start; ///< shown corner of the box before the movement
+    QPointF m_position; ///< position of the box then, in twentieths of a point
     bool m_isHeld = false;
     bool m_isDragging = false;
     bool m_isFollowing = false;

@@ -69,7 +69,7 @@ void wndEvolPlot::FitPlot(EvmPlot* plot)
     if (view == nullptr)
         return;
     view->setGeometry(rect());
-    if (plot->size() != view->size()) // a hidden view hears of its size only when it is shown
+    if (plot->size() != view->size()) // a hidden view gets its resize event only when it is shown
         plot->resize(view->size(), view->devicePixelRatioF());
 }
 
@@ -102,7 +102,7 @@ void wndEvolPlot::resizeEvent(QResizeEvent* /*event*/)
     FitPlot(ActivePlot());
 }
 
-/// Comes here when the view has no menu of its own at that place.
+/// Called when the view has no menu of its own at the pointer.
 void wndEvolPlot::contextMenuEvent(QContextMenuEvent* event)
 {
     event->setAccepted(ActivePlot() != nullptr);
@@ -110,12 +110,12 @@ void wndEvolPlot::contextMenuEvent(QContextMenuEvent* event)
         Q_EMIT plotMenuRequested(event->globalPos());
 }
 
-/// A hidden view with its readout.
+/// Adds a hidden view with its readout.
 void wndEvolPlot::addView(EvmPlot* plot)
 {
     auto view = std::make_unique<EvmPlotView>(*plot, this);
-    view->hide(); // otherwise it would show together with the window
-    new PlotReadout(*plot, *view); // belongs to the view
+    view->hide(); // otherwise it would be shown with the window
+    new PlotReadout(*plot, *view); // the view owns it
     connect(view.get(), &EvmPlotView::failed, this, &wndEvolPlot::failed);
     connect(view.get(), &EvmPlotView::edited, this, &wndEvolPlot::edited);
     connect(view.get(), &EvmPlotView::commandBegun, this, [this] { m_user.beginCommand(); });
@@ -137,23 +137,24 @@ void wndEvolPlot::showPlot(EvmPlot* before, EvmPlot* now)
         FitPlot(now);
         EvmPlotView* const view = viewOf(*now);
         view->show();
-        setFocusProxy(view); // takes the focus along when the window has it
+        setFocusProxy(view); // passes on the focus that the window has
     }
     updateTitle();
 }
 
-/// The window keeps the keyboard focus that the plot had, until the next plot is there.
+/// The window keeps the focus of the plot until the next plot is shown.
 void wndEvolPlot::hidePlot(EvmPlot& plot)
 {
     EvmPlotView* const view = viewOf(plot);
-    const bool hadFocus = view->isAncestorOf(QApplication::focusWidget()); // or is it itself
+    const bool hadFocus =
+        view->isAncestorOf(QApplication::focusWidget()); // or it has the focus itself
     setFocusProxy(nullptr);
     if (hadFocus)
         setFocus(Qt::OtherFocusReason);
     view->hide();
 }
 
-/// The toolkit puts something else in the place of "[*]" in a title, unless it is written twice.
+/// Qt replaces "[*]" in a window title unless it is written twice.
 void wndEvolPlot::updateTitle()
 {
     QString title = QStringLiteral("V-g-f Plot");
@@ -165,7 +166,7 @@ void wndEvolPlot::updateTitle()
     setWindowTitle(title.replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
 }
 
-/// Tells the user when there is none.
+/// Whether a plot is active; shows a message otherwise.
 bool wndEvolPlot::hasActivePlot()
 {
     if (ActivePlot() == nullptr)

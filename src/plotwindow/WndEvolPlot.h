@@ -16,14 +16,14 @@ namespace tarsil {
 class EvmPlotView;
 class PlotList;
 
-/// The window of the V-g-f plots: it shows the active plot of a list, which fills it; its title
-/// names that plot. It has a view for every plot of the list, and owns none of the plots.
+/// The window of the V-g-f plots: shows the active plot of a list in its whole area and names it in
+/// its title. It has a view for every plot but owns none of the plots.
 class wndEvolPlot : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// Both must outlive the window; `user` gets its messages.
+    /// Both must outlive the window. `user` shows its messages.
     wndEvolPlot(PlotList& plots, UserInterface& user, QWidget* parent = nullptr);
     ~wndEvolPlot() override;
 
@@ -32,8 +32,8 @@ public:
     /// Null when no plot is active.
     EvmPlot* ActivePlot() const;
 
-    /// `PlotList::activate`; the plot is shown fitted to the window and with the window's keyboard
-    /// focus.
+    /// Activates a plot (`PlotList::activate`) and shows it fitted to the window, with the focus
+    /// that the window has.
     void ActivatePlot(EvmPlot* plot);
 
     /// `PlotList::add`.
@@ -42,35 +42,34 @@ public:
     /// `PlotList::copyActive`. Null, after a message to the user, when no plot is active.
     EvmPlot* CopyPlot(const QString& caption);
 
-    /// `PlotList::remove`. Element 0 stays, and a plot that is not of this window is nothing
-    /// to remove.
+    /// `PlotList::remove`. Does nothing for the first plot and for a plot of another window.
     void RemovePlot(EvmPlot* plot);
 
-    /// Appends a series for a mode to the active plot (`PlotRows::add`). Without an active
-    /// plot the user gets a message and nothing changes.
+    /// Appends a series for a mode to the active plot (`PlotRows::add`). Without an active plot it
+    /// shows a message and changes nothing.
     void AddSerie(AeMode& mode);
 
-    /// Makes a plot fill the window from its upper left corner; null is nothing to fit.
+    /// Makes a plot fill the window. Null does nothing.
     void FitPlot(EvmPlot* plot);
 
     /// `PlotList::all`.
     std::vector<EvmPlot*> plots() const;
 
-    /// The widget that shows a plot; null for a plot of another window.
+    /// The widget of a plot; null for a plot of another window.
     EvmPlotView* viewOf(const EvmPlot& plot);
 
-    /// Points something out in the active plot (`EvmPlotView::setHighlight`), and nothing in the
+    /// Shows a highlight in the active plot (`EvmPlotView::setHighlight`) and removes those of the
     /// others.
     void highlight(const std::optional<PlotHighlight>& highlight);
 
-    /// Fits all plots, also those that have never been shown.
+    /// Fits all plots, also those never shown.
     void fitAll();
 
 Q_SIGNALS:
     /// The user has edited or moved a text box; see `EvmPlotView::edited`.
     void edited(const QString& what, bool joins);
 
-    /// The user wants the menu of the active plot, by the right button or by the keyboard.
+    /// The user asks for the menu of the active plot, by the right button or the keyboard.
     void plotMenuRequested(QPoint globalPosition);
 
     /// Drawing a plot failed; see `EvmPlotView::failed`.
@@ -96,7 +95,7 @@ private:
 
     PlotList& m_plots;
     UserInterface& m_user;
-    std::vector<Element> evpVgf; ///< the first one is that of "Plot1", which is always there
+    std::vector<Element> evpVgf; ///< the first one shows "Plot1", which always exists
 };
 
 } // namespace tarsil

@@ -16,14 +16,14 @@ bool isPlainLetterOrDigit(char16_t unit)
         || (unit >= u'0' && unit <= u'9');
 }
 
-/// Characters beyond ASCII that are in no name, first and last of each range.
+/// Ranges beyond ASCII that do not occur in font names.
 constexpr std::array<std::pair<char16_t, char16_t>, 6> notInNames = {{
     {0x0080, 0x009F}, // controls
-    {0x200B, 0x200F}, // without width, and marks of direction
-    {0x2028, 0x202E}, // separators of lines, and directions
-    {0x2060, 0x206F}, // what nobody sees
-    {0xE000, 0xF8FF}, // private
-    {0xFDD0, 0xFDEF}, // no characters
+    {0x200B, 0x200F}, // zero width, and marks of direction
+    {0x2028, 0x202E}, // line separators, and directions
+    {0x2060, 0x206F}, // invisible characters
+    {0xE000, 0xF8FF}, // private use
+    {0xFDD0, 0xFDEF}, // not characters
 }};
 
 bool isInNames(char16_t unit)

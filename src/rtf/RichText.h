@@ -8,10 +8,10 @@
 
 namespace tarsil {
 
-/// How a character looks. No colour means automatic: the box's own.
+/// The look of a character. Without a colour it has that of the box.
 struct TextFormat
 {
-    std::string family = "Arial"; ///< UTF-8; kept even where no such font is installed
+    std::string family = "Arial"; ///< UTF-8; kept even when the font is not installed
     double points = 10;
     bool bold = false;
     bool italic = false;
@@ -22,8 +22,8 @@ struct TextFormat
     bool operator==(const TextFormat&) const = default;
 };
 
-/// Neighbouring characters that look the same. A line break is u'\n', and it has a look too: the
-/// height of an empty line is that of its break.
+/// Consecutive characters with the same look. A line break is u'\n' and has a look too: it gives an
+/// empty line its height.
 struct TextRun
 {
     std::u16string text;
@@ -32,12 +32,12 @@ struct TextRun
     bool operator==(const TextRun&) const = default;
 };
 
-/// A text whose characters have looks of their own.
+/// A text in which each character has its own look.
 struct RichText
 {
     std::vector<TextRun> runs;
 
-    /// The look at the end, which an empty text keeps.
+    /// The look at the end of the text; also that of an empty text.
     TextFormat last;
 
     bool operator==(const RichText&) const = default;

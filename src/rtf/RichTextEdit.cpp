@@ -7,7 +7,7 @@ namespace tarsil {
 
 namespace {
 
-/// The index of the run that begins at `position`, after cutting the one that it falls into.
+/// Splits the run at `position` if necessary and returns the index of the run that begins there.
 std::size_t cutAt(RichText& text, std::size_t position)
 {
     for (std::size_t i = 0; i < text.runs.size(); ++i) {
@@ -62,8 +62,8 @@ void replaceText(RichText& text, std::size_t position, std::size_t length,
 {
     const std::size_t first = cutAt(text, position);
     const std::size_t end = length == 0 ? first : cutAt(text, position + length);
-    const auto place = text.runs.erase(runAt(text, first), runAt(text, std::max(first, end)));
-    text.runs.insert(place, {std::u16string(characters), format});
+    const auto next = text.runs.erase(runAt(text, first), runAt(text, std::max(first, end)));
+    text.runs.insert(next, {std::u16string(characters), format});
     joinRuns(text);
 }
 

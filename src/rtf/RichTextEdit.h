@@ -9,31 +9,32 @@
 
 namespace tarsil {
 
-// Changes of a rich text. Positions count UTF-16 units from 0, a line break as one; ranges that
-// reach beyond the text end with it.
+// Changes of a rich text. Positions count UTF-16 units from 0; a line break counts one. A range
+// that exceeds the text is cut at its end.
 
 std::u16string plainText(const RichText& text);
 
-/// The look of the character at `position`; behind the text, the look that the text ends with.
+/// The look of the character at `position`; after the last character, `last`.
 const TextFormat& formatAt(const RichText& text, std::size_t position);
 
-/// Puts `characters` of one look in place of a range.
+/// Replaces a range by `characters` of one look.
 void replaceText(RichText& text, std::size_t position, std::size_t length,
                  std::u16string_view characters, const TextFormat& format);
 
-/// Changes the look of each character of a range.
+/// Applies `change` to the look of each character of a range.
 void changeFormat(RichText& text, std::size_t position, std::size_t length,
                   const std::function<void(TextFormat&)>& change);
 
-/// Joins neighbouring runs that look the same and drops empty ones.
+/// Joins consecutive runs of equal look and removes empty ones.
 void joinRuns(RichText& text);
 
-// Positions as programs see them that show a line break as the two characters CR LF.
+// The shown text has CR LF for each line break, so its positions differ from those of the plain
+// text.
 
-/// The text with CR LF for each line break.
+/// The plain text with CR LF for each line break.
 std::u16string shownText(std::u16string_view plain);
 
-/// The position in the shown text of a position in the plain one.
+/// Converts a position in the plain text to one in the shown text.
 std::size_t shownPosition(std::u16string_view plain, std::size_t position);
 
 /// A range of the plain text.
@@ -45,9 +46,9 @@ struct TextRange
     bool operator==(const TextRange&) const = default;
 };
 
-/// The smallest range of whole characters that holds a range of the shown one: a line break and a
-/// character of two units are taken whole. An empty range is the place before the character that it
-/// stands in.
+/// The smallest range of whole characters in the plain text that contains a range of the shown
+/// text. A line break and a surrogate pair are never split. An empty range becomes the position
+/// before the character that contains it.
 TextRange plainRange(std::u16string_view plain, std::size_t shownPosition, std::size_t shownLength);
 
 } // namespace tarsil

@@ -18,7 +18,7 @@ constexpr char16_t paragraphSeparator = 0x2029;
 constexpr char16_t firstSymbol = symbolStart + 0x20;
 constexpr char16_t lastSymbol = symbolStart + 0xFF;
 
-/// Rounded half up; what is no size is the smallest.
+/// Rounds half up. At least 1, also for a negative size.
 int halfPointsOf(double points)
 {
     const double halfPoints = std::floor(2 * points + 0.5);

@@ -11,44 +11,44 @@
 
 namespace tarsil {
 
-/// The characters of a text as Rich Text Format, and the fonts and colours that they turned out to
-/// need, in the order of their first use. Of a format only what changes is written.
+/// Builds the body of a Rich Text Format source, with the tables of its fonts and colours in the
+/// order of first use. Writes only the changes from one format to the next.
 class RtfBody
 {
 public:
     void append(const TextRun& run);
 
-    /// Ends the text: an empty last line takes the format.
+    /// Ends the text. An empty last line gets the format `last`.
     void end(const TextFormat& last);
 
     const std::string& text() const { return m_output.text(); }
     const std::vector<std::string>& families() const { return m_families.values; }
     const std::vector<ColorValue>& colors() const { return m_colors.values; }
 
-    /// Whether a font's characters are pictures, which are written as the bytes of the font.
+    /// Whether the font is a symbol font, whose characters are written as bytes of that font.
     static bool isSymbolFamily(std::string_view family);
 
 private:
-    /// The values of a table in the order of their first use, counted from 0.
+    /// The values of a table in the order of first use, counted from 0.
     template <typename Value>
     struct Table
     {
         int numberOf(const Value& value)
         {
-            const auto [place, isNew] = numbers.try_emplace(value, static_cast<int>(values.size()));
+            const auto [entry, isNew] = numbers.try_emplace(value, static_cast<int>(values.size()));
             if (isNew)
                 values.push_back(value);
-            return place->second;
+            return entry->second;
         }
 
         std::vector<Value> values;
         std::map<Value, int> numbers;
     };
 
-    /// A format in the words of the source.
+    /// A format in terms of control words.
     struct Words
     {
-        int color = 0; ///< 0 is the automatic colour
+        int color = 0; ///< 0: automatic
         bool underline = false;
         bool bold = false;
         bool italic = false;

@@ -6,10 +6,10 @@ namespace tarsil {
 
 namespace {
 
-/// \plain means 12 points, whatever the box's own size is.
+/// \plain means 12 points, whatever the size of the box.
 constexpr int plainHalfPoints = 24;
 
-/// A switch is on without a number and off with 0.
+/// A switch without a number is on; 0 turns it off.
 bool isOn(const RtfToken& token)
 {
     return token.number.value_or(1) != 0;
@@ -38,7 +38,7 @@ bool applyFormatWord(RtfFormat& format, RtfWord word, const RtfToken& token,
         format.strikeOut = isOn(token);
         return true;
     case RtfWord::Font:
-        // Before the table any number may turn out to be known.
+        // Before the font table is read, any number may be valid.
         if (token.number && (fonts.isEmpty() || fonts.find(number) != nullptr))
             format.font = number;
         return true;

@@ -9,16 +9,16 @@
 
 namespace tarsil {
 
-/// No reader takes a size beyond 1638 points.
+/// Readers accept at most 1638 points.
 constexpr int largestHalfPoints = 3276;
 
-/// How a character of a source looks, in the source's own terms. What the tables say of the numbers
-/// may come after the text, so that they are looked up at the end.
+/// The format of a character in terms of the source: table indices, which are resolved at the end
+/// because the tables may come after the text.
 struct RtfFormat
 {
-    std::optional<int> font; ///< nothing for the default font
-    std::optional<int> halfPoints; ///< nothing for the box's own size
-    std::optional<int> color; ///< nothing for the automatic colour
+    std::optional<int> font; ///< empty: the default font
+    std::optional<int> halfPoints; ///< empty: the size of the box
+    std::optional<int> color; ///< empty: the automatic colour
     bool bold = false;
     bool italic = false;
     bool underline = false;
@@ -27,15 +27,15 @@ struct RtfFormat
     bool operator==(const RtfFormat&) const = default;
 };
 
-/// Does to a format what a control word says; false for a word that says nothing about it. The
-/// fonts are those that are known so far.
+/// Applies a control word to a format. Returns false for a word that is not about formats. `fonts`
+/// holds the fonts read so far.
 bool applyFormatWord(RtfFormat& format, RtfWord word, const RtfToken& token,
                      const RtfFontTable& fonts);
 
-/// The font of a format, which is the default font where the table lacks it. Null for none.
+/// The font of a format; the default font when the table lacks it. Null when there is none.
 const RtfFont* fontOf(const RtfFormat& format, const RtfFontTable& fonts);
 
-/// The format in terms of the text. What the source does not name is the fallback's.
+/// Resolves a format. What the source does not specify comes from `fallback`.
 TextFormat textFormatOf(const RtfFormat& format, const RtfFontTable& fonts,
                         const RtfColorTable& colors, const TextFormat& fallback);
 

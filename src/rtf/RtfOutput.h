@@ -5,8 +5,8 @@
 
 namespace tarsil {
 
-/// Writes the pieces of a Rich Text Format source one after the other. A control word needs a blank
-/// to end it only where a plain character follows.
+/// Writes a Rich Text Format source piece by piece. A control word is followed by a blank only
+/// where the next character would be read as part of it.
 class RtfOutput
 {
 public:
@@ -14,16 +14,16 @@ public:
 
     explicit RtfOutput(Start start) : m_afterWord(start == Start::AfterWord) { }
 
-    /// A control word with its backslash and number.
+    /// Writes a control word, given with backslash and number.
     void word(std::string_view text);
 
-    /// What ends by itself: a symbol, or the end of a line with its CR LF.
+    /// Writes what needs no delimiter: a symbol, or a line end with its CR LF.
     void symbol(std::string_view text);
 
-    /// A character by its byte, which is plain ASCII where it can be.
+    /// Writes a byte: as plain ASCII where possible, otherwise as \'hh.
     void byte(unsigned char value);
 
-    /// A character by its Unicode number, with what a reader without Unicode shows.
+    /// Writes a UTF-16 unit as \u, with the character that readers without Unicode show.
     void unicode(char16_t unit);
 
     const std::string& text() const { return m_text; }
@@ -33,10 +33,10 @@ private:
     bool m_afterWord;
 };
 
-/// A character that no text is written with: the controls, but for line breaks and tabs.
+/// Whether a character is left out: a control character other than line break and tab.
 bool isLeftOutOfRtf(char16_t unit);
 
-/// A font's name for the font table, to stand after a control word.
+/// The name of a font for the font table, ready to follow a control word.
 std::string rtfFontName(std::string_view family);
 
 } // namespace tarsil

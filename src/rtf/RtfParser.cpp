@@ -9,7 +9,7 @@ namespace tarsil {
 
 namespace {
 
-/// Deeper groups than anybody writes share the format of the deepest that is kept.
+/// Groups nested more deeply share the format of the deepest one kept.
 constexpr std::size_t mostGroups = 10000;
 
 std::u16string symbols(std::string_view bytes)
@@ -113,7 +113,7 @@ void RtfParser::handleWord(const RtfToken& token)
         handleFontWord(meaning.word, token);
 }
 
-/// In the middle of the outermost group such a word is a mistake that would cost the whole text.
+/// In the middle of the outermost group such a word is an error: honouring it would lose the text.
 bool RtfParser::beginDestination(RtfWord word)
 {
     if (!m_atGroupStart && !isInnerGroup())
@@ -178,7 +178,7 @@ void RtfParser::handleColorWord(RtfWord word, const RtfToken& token)
         m_colors.set(RtfColorTable::Part::Blue, value);
 }
 
-/// The number has 16 bits with a sign in most sources.
+/// Most sources write the number as a signed 16-bit value.
 void RtfParser::handleUnicode(int number)
 {
     m_itemsToSkip = m_group.fallbackCount;
@@ -252,7 +252,7 @@ void RtfParser::flush()
     if (m_bytes.empty())
         return;
     if (isInFontTable()) {
-        // A symbol font's own name is no picture.
+        // The name of a symbol font is not written in its own symbols.
         const int charset = m_fonts.openCharset();
         m_fonts.appendName(decoded(charset == rtfcharset::symbol ? rtfcharset::standard : charset));
     } else {

@@ -16,8 +16,8 @@
 
 namespace tarsil {
 
-/// Reads one source that begins with a brace, from the first token to the last. The groups it is in
-/// are a list and no nested calls, so that their depth is no danger.
+/// Parses a source that begins with a brace. Open groups are kept in a list, not in nested calls,
+/// so that deep nesting cannot overflow the stack.
 class RtfParser
 {
 public:
@@ -29,14 +29,14 @@ public:
     RichText read();
 
 private:
-    /// What the characters of a group are.
+    /// What the characters of a group are part of.
     enum class Destination { Text, Skipped, FontTable, FontEntry, ColorTable };
 
-    /// What a group takes over from the one around it, and what ends with it.
+    /// The state of a group: it starts as a copy of the enclosing one and ends with the group.
     struct Group
     {
         Destination destination = Destination::Text;
-        int fallbackCount = 1; ///< items to pass over after a \u
+        int fallbackCount = 1; ///< items to skip after a \u
         RtfFormat format;
     };
 
@@ -55,7 +55,8 @@ private:
     void appendUnit(char16_t unit);
     void endFontEntry();
 
-    /// Decodes the bytes that were collected: the two bytes of a character may come as two tokens.
+    /// Decodes the collected bytes. They are collected first because the bytes of one character may
+    /// come in two tokens.
     void flush();
     std::u16string decoded(int charset);
 
@@ -77,7 +78,7 @@ private:
     std::size_t m_groupsBeyondStack = 0;
     bool m_finished = false;
     bool m_atGroupStart = false;
-    bool m_afterStar = false; ///< the group may be left out by who does not know its next word
+    bool m_afterStar = false; ///< the next word may begin a group that a reader is free to ignore
     int m_itemsToSkip = 0;
 
     RtfFontTable m_fonts;

@@ -11,24 +11,24 @@
 
 namespace tarsil {
 
-/// The characters of a source as they are found, each with its format.
+/// The characters of a source, each with its format.
 class RtfRuns
 {
 public:
-    /// All units that end a line become u'\n', a NUL is left out, and half a character becomes
-    /// U+FFFD. The second half of a character takes the format of the first.
+    /// Appends a unit. Any line end becomes u'\n', NUL is dropped, an unpaired surrogate becomes
+    /// U+FFFD. The second unit of a surrogate pair gets the format of the first.
     void append(char16_t unit, const RtfFormat& format);
 
-    /// Takes a line break off the end and returns its format; nothing when the text ends otherwise.
+    /// Removes a final line break and returns its format; empty when the text does not end in one.
     std::optional<RtfFormat> dropFinalBreak();
 
-    /// The runs, in the formats that `resolve` gives for the source's own.
+    /// The runs of the text; `resolve` converts the formats.
     std::vector<TextRun> resolved(const std::function<TextFormat(const RtfFormat&)>& resolve);
 
 private:
     struct Span
     {
-        std::size_t start; ///< of the first unit in m_text
+        std::size_t start; ///< index of the first unit in m_text
         RtfFormat format;
     };
 

@@ -6,16 +6,17 @@
 
 namespace tarsil {
 
-// How a rich text stands in a workspace: as one value, in which a NUL stands for every CR LF of the
-// source. A value that is longer than its limit loses its end when it is read.
+// The stored value of a rich text in a workspace: the source with NUL for each CR LF. Readers cut a
+// value at its maximum length.
 
-/// The longest value, in bytes.
+/// The maximum length of a value in bytes.
 constexpr std::size_t mostStoredBytes = 1023;
 
-/// The source of a value.
+/// Converts a stored value to its source.
 std::string rtfFromStoredValue(std::string_view value);
 
-/// The value of a source. A NUL of the source itself, which is a blank there, becomes one here.
+/// Converts a source to its stored value. A NUL in the source, which means a blank, becomes a
+/// blank.
 std::string storedValueFromRtf(std::string_view rtf);
 
 } // namespace tarsil

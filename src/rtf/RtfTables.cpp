@@ -14,7 +14,7 @@ namespace tarsil {
 
 namespace {
 
-/// Every run of a text carries its font's name, so that a long one would cost its length each time.
+/// Each run has a copy of its font name, so a long name would be stored many times.
 constexpr std::size_t longestName = 64;
 
 struct CharsetPage
@@ -40,17 +40,17 @@ constexpr std::array charsetPages = {
     CharsetPage {204, 1251}, // Russian
     CharsetPage {222, 874}, // Thai
     CharsetPage {238, 1250}, // Central European
-    CharsetPage {254, 437}, // the first personal computers
-    CharsetPage {255, 850}, // their Western European successor
+    CharsetPage {254, 437}, // the original PC
+    CharsetPage {255, 850}, // PC, Western European
 };
 
-/// What belongs to the table and not to a name in it.
+/// Whether a character is not part of a font name in the table.
 bool isOfTable(char16_t unit)
 {
     return unit < u' ' || unit == 0x7F || (unit >= 0x80 && unit < 0xA0) || unit == u';';
 }
 
-/// The name without blanks around it, and not too long; none where it cannot be a font's name.
+/// Removes surrounding blanks and limits the length. Empty when the rest is not a font name.
 std::string cleanName(std::u16string name)
 {
     std::erase_if(name, isOfTable);
@@ -65,10 +65,10 @@ std::string cleanName(std::u16string name)
 
 int codePageOfCharset(int charset, int documentPage)
 {
-    const auto* const place =
+    const auto* const found =
         std::find_if(charsetPages.begin(), charsetPages.end(),
                      [charset](const CharsetPage& entry) { return entry.charset == charset; });
-    return place == charsetPages.end() ? documentPage : place->codePage;
+    return found == charsetPages.end() ? documentPage : found->codePage;
 }
 
 void RtfFontTable::begin(int number)
@@ -101,8 +101,8 @@ void RtfFontTable::end()
 
 const RtfFont* RtfFontTable::find(int number) const
 {
-    const auto place = m_fonts.find(number);
-    return place == m_fonts.end() ? nullptr : &place->second;
+    const auto found = m_fonts.find(number);
+    return found == m_fonts.end() ? nullptr : &found->second;
 }
 
 const RtfFont* RtfFontTable::defaultFont() const

@@ -10,28 +10,27 @@
 
 namespace tarsil {
 
-/// Numbers of the character sets that are treated for themselves; all others stand for a code page.
+/// The character sets that are treated specially; every other one is a code page.
 namespace rtfcharset {
 constexpr int ansi = 0;
-constexpr int standard = 1; ///< the document's own
-constexpr int symbol = 2; ///< pictures: no code page
+constexpr int standard = 1; ///< the document's code page
+constexpr int symbol = 2; ///< symbols, without a code page
 } // namespace rtfcharset
 
-/// Where the pictures of a symbol font stand in Unicode, in its private part: each at this place
-/// plus its byte.
+/// Symbols are kept in the private use area of Unicode: this value plus the byte of the symbol.
 constexpr char16_t symbolStart = 0xF000;
 
-/// The code page of a font's character set; the document's own for a set that names none.
+/// The code page of a character set; `documentPage` for a set without one.
 int codePageOfCharset(int charset, int documentPage);
 
 struct RtfFont
 {
-    std::string family; ///< UTF-8; empty when the table names none, or what is no font's name
+    std::string family; ///< UTF-8; empty when the table has no valid font name
     int charset = rtfcharset::standard;
 };
 
-/// The font table. An entry is begun by its number and counts from its end on; one that the source
-/// cuts does not. Where a number comes twice the first entry stays.
+/// The font table. An entry is begun by its number and counts once it has ended; a truncated entry
+/// does not. When a number occurs twice, the first entry wins.
 class RtfFontTable
 {
 public:
@@ -40,19 +39,19 @@ public:
     void appendName(std::u16string_view part);
     void end();
 
-    /// The character set of the entry that is being read.
+    /// The character set of the entry being read.
     int openCharset() const { return m_open.charset; }
 
-    /// The number of the font that is meant where none is named.
+    /// Sets the number of the font for text that names none.
     void setDefault(int number) { m_default = number; }
 
     bool isEmpty() const { return m_fonts.empty(); }
 
-    /// Null for a number that the table lacks.
+    /// Null for a number that is not in the table.
     const RtfFont* find(int number) const;
 
-    /// The font where none is named: the declared one, which the table may lack, or else that of
-    /// the lowest number. Null when there is none.
+    /// The font for text that names none: the declared default, or the one of the lowest number
+    /// when the table lacks it. Null when the table is empty.
     const RtfFont* defaultFont() const;
 
 private:
@@ -63,20 +62,20 @@ private:
     std::u16string m_openName;
 };
 
-/// The colour table. An entry without any part stands for the automatic colour.
+/// The colour table. An entry without any component means the automatic colour.
 class RtfColorTable
 {
 public:
     enum class Part { Red, Green, Blue };
 
-    /// Sets a part of the entry that is being read; it is limited to 0 to 255.
+    /// Sets a component of the entry being read, clamped to 0..255.
     void set(Part part, int value);
 
-    /// Ends the entry.
+    /// Ends the entry being read.
     void end();
 
-    /// Nothing for the automatic colour and for an index outside the table. Black is automatic as
-    /// the first entry: controls without an automatic entry begin their table so.
+    /// Empty for the automatic colour and for an index outside the table. Black as the first entry
+    /// is automatic too: text controls without an automatic entry write it that way.
     std::optional<ColorValue> color(int index) const;
 
 private:

@@ -10,10 +10,10 @@ namespace {
 
 using namespace std::string_view_literals;
 
-/// What ends a piece of plain text. A NUL is a blank and stands alone; line ends mean nothing.
+/// The bytes that end plain text. NUL is a blank and a token of its own; line ends are ignored.
 constexpr std::string_view special = "{}\\\r\n\0"sv;
 
-/// Farther digits change nothing any more.
+/// More digits do not change the saturated value.
 constexpr std::size_t mostDigits = 10;
 
 bool isLetter(char c)
@@ -103,12 +103,12 @@ RtfToken RtfTokens::word()
 {
     const std::size_t start = m_position + 1;
     const std::size_t nameEnd = endOfLetters(start);
-    // A minus sign without a digit is text.
+    // A minus sign that is not followed by a digit is text.
     const bool negative =
         !isEnd(nameEnd + 1) && m_source[nameEnd] == '-' && isDigit(m_source[nameEnd + 1]);
     const std::size_t firstDigit = negative ? nameEnd + 1 : nameEnd;
     const std::size_t end = endOfDigits(firstDigit);
-    // What follows the end of a cut source might have belonged to the word.
+    // At the end of a truncated source the word may be incomplete.
     if (isEnd(end) || (isEnd(end + 1) && end == nameEnd && m_source[end] == '-'))
         return cutAtTheEnd();
     RtfToken token {.kind = RtfTokenKind::Word, .text = m_source.substr(start, nameEnd - start)};
@@ -148,18 +148,18 @@ RtfToken RtfTokens::cutAtTheEnd()
     return {};
 }
 
-std::size_t RtfTokens::endOfLetters(std::size_t place) const
+std::size_t RtfTokens::endOfLetters(std::size_t position) const
 {
-    while (!isEnd(place) && isLetter(m_source[place]))
-        ++place;
-    return place;
+    while (!isEnd(position) && isLetter(m_source[position]))
+        ++position;
+    return position;
 }
 
-std::size_t RtfTokens::endOfDigits(std::size_t place) const
+std::size_t RtfTokens::endOfDigits(std::size_t position) const
 {
-    while (!isEnd(place) && isDigit(m_source[place]))
-        ++place;
-    return place;
+    while (!isEnd(position) && isDigit(m_source[position]))
+        ++position;
+    return position;
 }
 
 } // namespace tarsil

@@ -7,25 +7,25 @@
 namespace tarsil {
 
 enum class RtfTokenKind {
-    End, ///< nothing whole is left
+    End, ///< no complete token is left
     GroupStart,
     GroupEnd,
     Word, ///< \word or \wordN
-    Symbol, ///< a backslash and one character that is no letter
+    Symbol, ///< a backslash and a character other than a letter
     CodedByte, ///< \'hh
-    Text ///< neighbouring plain bytes
+    Text ///< consecutive plain bytes
 };
 
 struct RtfToken
 {
     RtfTokenKind kind = RtfTokenKind::End;
-    std::string_view text {}; ///< the letters of a word, or the plain bytes
-    std::optional<int> number {}; ///< of a word; one that is too large is the largest there is
+    std::string_view text {}; ///< letters of a word, or plain bytes
+    std::optional<int> number {}; ///< of a word; saturates
     char byte = 0; ///< of a symbol or a coded byte
 };
 
-/// The tokens of a Rich Text Format source, one after the other, without copying any. The source
-/// may be anything and may end anywhere: what it cuts in the middle of a token is left out.
+/// Splits a Rich Text Format source into tokens without copying it. The source may contain anything
+/// and end anywhere; an incomplete last token is dropped.
 class RtfTokens
 {
 public:
@@ -34,7 +34,7 @@ public:
 
     RtfToken next();
 
-    /// Passes over raw bytes, at most to the end.
+    /// Skips raw bytes, at most up to the end.
     void skip(std::size_t count);
 
 private:
@@ -46,11 +46,11 @@ private:
     RtfToken symbol();
     RtfToken cutAtTheEnd();
 
-    /// The end of the letters, or of the digits, that begin at a place.
-    std::size_t endOfLetters(std::size_t place) const;
-    std::size_t endOfDigits(std::size_t place) const;
+    /// The end of the letters or digits that begin at a position.
+    std::size_t endOfLetters(std::size_t position) const;
+    std::size_t endOfDigits(std::size_t position) const;
 
-    bool isEnd(std::size_t place) const { return place >= m_source.size(); }
+    bool isEnd(std::size_t position) const { return position >= m_source.size(); }
 
     std::string_view m_source;
     std::size_t m_position = 0;

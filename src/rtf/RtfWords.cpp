@@ -15,8 +15,8 @@ struct Entry
     RtfMeaning meaning;
 };
 
-/// In alphabetical order. Groups that begin with a word are named one by one: words such as
-/// \headery or \pnrnot, which only look like them, are settings in the middle of a text.
+/// In alphabetical order. Words that begin a group are listed individually: similar words such as
+/// \headery or \pnrnot are settings in the middle of a text.
 constexpr std::array words = {
     Entry {"annotation", {RtfWord::Skipped}},
     Entry {"ansicpg", {RtfWord::CodePage}},
@@ -112,10 +112,10 @@ static_assert(std::is_sorted(words.begin(), words.end(),
 
 RtfMeaning rtfMeaning(std::string_view name)
 {
-    const auto* const place = std::lower_bound(words.begin(), words.end(), name, isBefore);
-    if (place != words.end() && place->name == name)
-        return place->meaning;
-    // \uldb, \ulwave and all the others: a line is a line.
+    const auto* const found = std::lower_bound(words.begin(), words.end(), name, isBefore);
+    if (found != words.end() && found->name == name)
+        return found->meaning;
+    // \uldb, \ulwave and all other kinds of underline are shown as a plain one.
     return name.starts_with("ul") ? RtfMeaning {RtfWord::Underline} : RtfMeaning {};
 }
 

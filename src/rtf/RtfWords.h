@@ -4,9 +4,9 @@
 
 namespace tarsil {
 
-/// What a control word of the Rich Text Format does here.
+/// The effect of a control word.
 enum class RtfWord {
-    Unknown, ///< nothing; its text is shown
+    Unknown, ///< none; the text that follows is shown
     Bold,
     Italic,
     Underline,
@@ -21,16 +21,16 @@ enum class RtfWord {
     Red,
     Green,
     Blue,
-    CodePage, ///< names the document's code page by its number
-    FixedCodePage, ///< stands for the code page `value`
+    CodePage, ///< sets the document's code page to its number
+    FixedCodePage, ///< sets the document's code page to `value`
     Unicode,
-    FallbackCount, ///< how many items a reader without Unicode shows in place of a character
+    FallbackCount, ///< how many items a reader without Unicode shows instead of a character
     Binary,
-    Character, ///< stands for the character `value`
+    Character, ///< inserts the character `value`
     FontTable,
     ColorTable,
-    Shown, ///< begins a group whose text is shown, even where it may be left out
-    Skipped ///< begins a group that is no text of the document
+    Shown, ///< begins a group whose text is shown even if it is optional
+    Skipped ///< begins a group that is not part of the text
 };
 
 struct RtfMeaning
@@ -39,7 +39,7 @@ struct RtfMeaning
     int value = 0;
 };
 
-/// What a control word means; `name` without its backslash and number.
+/// The meaning of a control word, given without backslash and number.
 RtfMeaning rtfMeaning(std::string_view name);
 
 } // namespace tarsil

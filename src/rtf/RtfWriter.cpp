@@ -10,7 +10,7 @@ namespace tarsil {
 
 namespace {
 
-/// The font table. Every entry names its character set: some controls take a wrong one otherwise.
+/// The font table. Every entry names its character set, because some readers guess a wrong one.
 std::string fontTable(const RtfBody& body, RtfForm form)
 {
     std::string table = "{\\fonttbl";
@@ -28,7 +28,7 @@ std::string colorTable(const RtfBody& body)
 {
     if (body.colors().empty())
         return {};
-    // The first entry, which is empty, stands for the automatic colour.
+    // The empty first entry is the automatic colour.
     std::string table = "{\\colortbl ;";
     for (const ColorValue color : body.colors()) {
         table += "\\red" + std::to_string(color & 0xFF);

@@ -6,20 +6,20 @@
 
 namespace tarsil {
 
-/// How much a source says that a reader can do without.
+/// How much of the optional content is written.
 enum class RtfForm {
-    Full, ///< what a native control writes
-    Short ///< 14 bytes less, and 5 less for each font
+    Full, ///< as a native text control writes it
+    Short ///< 14 bytes shorter, plus 5 for each font
 };
 
-/// A text as Rich Text Format: ASCII, compact, lines ended by CR LF. Sizes are rounded to half
-/// points, colours lose all but red, green and blue, and control characters are left out. Every
-/// line ends as a paragraph, the last one too, so that writing and reading add no line. What the
-/// text's `last` says is written where it is seen: in an empty text and in an empty last line.
+/// Writes a text as Rich Text Format in ASCII, with lines ended by CR LF. Sizes are rounded to half
+/// points, colours reduced to red, green and blue, control characters dropped. Every line ends as a
+/// paragraph, also the last, so that writing and reading add no line. `text.last` is written only
+/// where it is visible: in an empty text or an empty last line.
 std::string writeRtf(const RichText& text, RtfForm form = RtfForm::Full);
 
-/// The source of a text that a workspace is to keep: the full form where its stored value keeps the
-/// limit, else the short one, which may exceed it too.
+/// The source of a text for a workspace: the full form if its stored value fits the limit,
+/// otherwise the short form, which may exceed the limit too.
 std::string rtfToStore(const RichText& text);
 
 } // namespace tarsil

@@ -9,7 +9,7 @@ namespace tarsil {
 
 namespace {
 
-// The face's own encoding, a character for each byte; a blank where it has no sign.
+// The encoding of the font, one character for each byte; a blank where it has no symbol.
 constexpr std::u16string_view from20 =
     u" !\u2200#\u2203%&\u220B()\u2217+,\u2212./0123456789:;<=>?"
     u"\u2245\u0391\u0392\u03A7\u0394\u0395\u03A6\u0393\u0397\u0399\u03D1\u039A\u039B\u039C\u039D"

@@ -5,12 +5,11 @@
 
 namespace tarsil {
 
-/// Whether the face is "Symbol", whose letters are signs of their own: texts hold them as U+F020 to
-/// U+F0FF.
+/// Whether the font is "Symbol". Texts hold its symbols as U+F020 to U+F0FF.
 bool isSymbolFace(std::string_view family);
 
-/// The signs of that face as ordinary characters, which any text face shows: Greek for Latin
-/// letters, and mathematics. Other characters stay.
+/// Converts the symbols of that font to ordinary characters, which any text font can show: Greek
+/// letters for Latin ones, and mathematical signs. Other characters stay.
 std::u16string ordinarySigns(std::u16string_view text);
 
 } // namespace tarsil

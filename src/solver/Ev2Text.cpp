@@ -44,7 +44,7 @@ void requireCountable(const std::vector<ImportedMode>& modes)
     }
 }
 
-/// The Mach number of all points; nothing when they differ.
+/// The Mach number of all points; empty when they differ.
 std::optional<double> commonMach(const std::vector<ImportedMode>& modes)
 {
     std::optional<double> mach;
@@ -71,7 +71,7 @@ public:
         m_text.append(key).append("=").append(encodeText(value)).push_back('\n');
     }
 
-    /// A line for each of the keys, with the values that they have in `owner`.
+    /// Writes a line for each key with its value in `owner`.
     template <typename Keys, typename Owner>
     void texts(const Keys& keys, const Owner& owner)
     {

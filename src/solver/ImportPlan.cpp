@@ -16,7 +16,8 @@ namespace tarsil::solver {
 
 namespace {
 
-constexpr double unitTolerance = 0.02; ///< relative; units are further apart
+constexpr double unitTolerance =
+    0.02; ///< relative; smaller than the difference between any two units
 
 std::string nameOf(const SolverOutput& output)
 {
@@ -34,7 +35,7 @@ bool isSameFile(const std::string& a, const std::string& b)
     return identity && identity == fileIdentity(b);
 }
 
-/// "; so in 3 other analyses", for a sentence on the first of several.
+/// The suffix "; so in 3 other analyses" of a sentence about the first of `count` analyses.
 std::string andOthers(std::size_t count)
 {
     if (count < 2)
@@ -48,7 +49,7 @@ bool isFarFrom(double a, double b)
     return std::abs(a - b) > unitTolerance * b;
 }
 
-/// The path with "_2", "_3" ... before its extension when another file of the plan has it already.
+/// The path with "_2", "_3" ... before its extension if another file of the plan has it.
 std::string freePath(const std::string& folder, const std::string& name,
                      std::set<std::string>& used)
 {

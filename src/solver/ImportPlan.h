@@ -17,7 +17,7 @@ class EVM;
 
 namespace tarsil::solver {
 
-/// Names one analysis of a plan: the output that holds it and its index in that.
+/// An analysis of a plan: the index of its output and its index in that output.
 struct AnalysisIndex
 {
     std::size_t output = 0;
@@ -26,70 +26,69 @@ struct AnalysisIndex
     bool operator==(const AnalysisIndex&) const = default;
 };
 
-/// An evolution file that is to be written.
+/// An evolution file to write.
 struct PlannedFile
 {
     AnalysisIndex analysis;
     std::string path;
 };
 
-/// What has come of writing.
+/// The result of writing.
 struct WrittenFiles
 {
-    std::vector<std::string> paths; ///< those that were written
-    std::vector<std::string> failures; ///< a sentence for each of the others
+    std::vector<std::string> paths; ///< the files written
+    std::vector<std::string> failures; ///< one sentence for each file that was not
 };
 
-/// What is to be imported: solver outputs, which of their analyses, in which units, with which
-/// texts, into which folder. It reads and writes files, and asks nobody. Units are never chosen
-/// here: without a choice nothing can be written.
+/// A planned import: solver outputs, the selected analyses, their units, texts and folder. Reads
+/// and writes files but asks no questions. Never chooses units by itself: without units nothing can
+/// be written.
 class ImportPlan
 {
 public:
-    /// Reads a solver output and chooses all its analyses; one that is in the plan already is
-    /// passed over. A file without an analysis is refused: it is no output of the plan, and
-    /// `refusals` says why.
+    /// Reads a solver output and selects all its analyses. Ignores a file that is in the plan
+    /// already. A file without an analysis is not added, but listed in `refusals`.
     void add(const std::string& path);
 
     const std::vector<SolverOutput>& outputs() const { return m_outputs; }
     const SolverRun& run(const AnalysisIndex& analysis) const;
 
-    /// A sentence for each file that was refused.
+    /// One sentence for each refused file.
     const std::vector<std::string>& refusals() const { return m_refusals; }
 
-    /// What is wrong in the outputs, each with file and line.
+    /// The findings in the outputs, with file and line.
     std::vector<std::string> findings() const;
 
     bool isChosen(const AnalysisIndex& analysis) const;
     void choose(const AnalysisIndex& analysis, bool isChosen);
 
-    /// Nothing until the user has chosen units.
+    /// Empty until the user has chosen units.
     const std::optional<UnitChoice>& units() const { return m_units; }
     void setUnits(const std::optional<UnitChoice>& units) { m_units = units; }
 
-    /// The units of a preset for the chosen analyses: its density unit where one of them prints
-    /// densities, otherwise the ratio that table headings print.
+    /// The units of a preset for the selected analyses: with its density unit if one of them prints
+    /// densities, otherwise with the ratio of table headings.
     UnitChoice unitsOf(const UnitPreset& preset) const;
 
     const ImportTexts& texts() const { return m_texts; }
     void setTexts(ImportTexts texts) { m_texts = std::move(texts); }
 
-    /// Where the evolutions go; empty: each beside its solver output.
+    /// The folder of the evolutions; empty: each beside its solver output.
     void setFolder(std::string folder) { m_folder = std::move(folder); }
 
-    /// The files of the chosen analyses; no two have the same path.
+    /// The files of the selected analyses; their paths are unique.
     std::vector<PlannedFile> files() const;
 
-    /// What speaks against the chosen units, a sentence each: what the outputs prove otherwise, or
-    /// densities that are missing. Analyses with the same doubt share a sentence.
+    /// Doubts about the chosen units, one sentence each: contradicting evidence in the outputs, or
+    /// missing densities. Analyses with the same doubt share a sentence.
     std::vector<std::string> doubts() const;
 
-    /// The evolution of an analysis as it would be read back from its file. Errors: those of
+    /// The evolution of an analysis as it would be read from its file. Errors: those of
     /// `evolutionText`; 5 without units.
     std::unique_ptr<EVM> evolution(const AnalysisIndex& analysis) const;
 
-    /// Writes the files, each whole or not at all, over those that are there. One that cannot be
-    /// written keeps no other from being written. Error 5 without units.
+    /// Writes the files, each whole or not at all, and replaces existing ones. A failure does not
+    /// prevent the others from being written. Error 5 without units.
     WrittenFiles write() const;
 
 private:
@@ -105,7 +104,7 @@ private:
     std::string m_folder;
 };
 
-/// What the first speeds of an evolution are, in KEAS, and what was done to its rows.
+/// The first speeds of an evolution in KEAS, and the changes made to its rows.
 std::string firstSpeedsText(const EVM& evolution);
 
 } // namespace tarsil::solver

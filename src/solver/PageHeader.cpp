@@ -26,13 +26,13 @@ bool isDigit(char c)
     return c >= '0' && c <= '9';
 }
 
-/// The text after the carriage control in column 1.
+/// The text of a line without its carriage control in column 1.
 std::string_view withoutCarriageControl(std::string_view line)
 {
     return line.empty() ? line : line.substr(1);
 }
 
-/// A line that ends in "SUBCASE 12" or "SUBCASE = 12": the position of the word, and the number.
+/// The end of a line "SUBCASE 12" or "SUBCASE = 12": the position of the word, and the number.
 struct SubcaseEnd
 {
     std::size_t position;
@@ -62,7 +62,7 @@ bool isLetter(char c)
     return std::isalpha(static_cast<unsigned char>(c)) != 0;
 }
 
-/// The end of a date "MARCH  23, 2022" at a position; npos when there is none.
+/// The end of a date like "MARCH  23, 2022" at a position; npos when there is none.
 std::size_t endOfDate(std::string_view text, std::size_t position)
 {
     const auto skip = [&text](std::size_t from, auto isPart) {
@@ -109,7 +109,7 @@ std::string_view withoutSlashes(std::string_view text)
     return text.substr(first, text.find_last_not_of(around) - first + 1);
 }
 
-/// The first line of a page: title, date, solver, page; or title / solver / date / page.
+/// Parses the first line of a page: title, date, solver, page; or title / solver / date / page.
 void readFirstLine(std::string_view line, SummaryTable& table)
 {
     std::string_view text = withoutCarriageControl(line);
@@ -143,7 +143,7 @@ std::string labelOf(std::string_view line)
     return decodeText(trimmed(withoutCarriageControl(text)));
 }
 
-/// The text after "NAME =" in a line; nothing when the line lacks it.
+/// The text after "NAME =" in a line; empty when the line has none.
 std::optional<std::string_view> valueAfter(std::string_view line, std::string_view name)
 {
     for (std::size_t i = line.find(name); i != std::string_view::npos; i = line.find(name, i + 1)) {

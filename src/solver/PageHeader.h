@@ -13,10 +13,10 @@ namespace tarsil::solver {
 /// The title of a flutter summary, with two blanks.
 constexpr std::string_view summaryTitle = "FLUTTER  SUMMARY";
 
-/// How many lines above a summary's title belong to its page header.
+/// The number of lines above a title that belong to its page header.
 constexpr std::size_t linesAboveTitle = 5;
 
-/// The last lines before a title, oldest first; empty texts where the file has none.
+/// The last lines before a title, oldest first; empty if the file has fewer.
 using LinesAbove = std::array<std::string_view, linesAboveTitle>;
 
 /// Whether a line ends in the title.
@@ -25,9 +25,9 @@ bool isSummaryTitle(std::string_view line);
 /// Fills subcase, banner, title, subtitle and label of a table from the lines above its title.
 void readPageHeader(const LinesAbove& lines, SummaryTable& table);
 
-/// Reads the line "POINT = 1 MACH NUMBER = ... METHOD = PK" below a title: POINT and method, and
-/// Mach number, sigma value and density ratio where they are printed. False, and nothing changed,
-/// for a line without a POINT number and a method.
+/// Parses the line "POINT = 1 MACH NUMBER = ... METHOD = PK" below a title: POINT and method, and
+/// Mach number, sigma value and density ratio if printed. False, with nothing changed, for a line
+/// without a POINT number and a method.
 bool readPointLine(std::string_view line, SummaryTable& table);
 
 } // namespace tarsil::solver

@@ -14,7 +14,7 @@ constexpr std::size_t mostFields = numbersOfRowWithDensity + 1;
 struct Fields
 {
     std::array<std::string_view, mostFields> texts;
-    std::size_t count = 0; ///< at most `mostFields`, which is more than any row has
+    std::size_t count = 0; ///< up to `mostFields`, which no row has
 };
 
 Fields splitAtBlanks(std::string_view line)
@@ -29,7 +29,7 @@ Fields splitAtBlanks(std::string_view line)
     return fields;
 }
 
-/// What is printed where a value has no digits: a field full of stars, or infinity.
+/// Whether a field is printed without digits: full of stars, or as infinity.
 bool isPrintedInfinity(std::string_view text)
 {
     if (!text.empty() && (text.front() == '-' || text.front() == '+'))
@@ -49,9 +49,9 @@ Values valuesOf(SummaryRow& row, std::size_t count)
             &row.damping, &row.frequency, &row.re,      &row.im};
 }
 
-constexpr std::size_t reducedFrequencies = 2; ///< the values that may be infinite
+constexpr std::size_t reducedFrequencies = 2; ///< values that may be infinite
 
-/// Whether one of the fields begins with a note on the whole system.
+/// Whether a field begins with a note on the whole system.
 bool isSystemNote(std::string_view line)
 {
     return line.find("UNSTABL-SYSTEM") != std::string_view::npos

@@ -35,8 +35,8 @@ bool isBeyondSingles(double value)
     return std::abs(value) > std::numeric_limits<float>::max();
 }
 
-/// Error 6 for what no evolution can hold: the speed of a negative density, or a value beyond
-/// singles.
+/// Error 6 for values that no evolution can hold: the speed of a negative density, or a value
+/// beyond the range of a single.
 void requireSingles(const ImportedPoint& point, const SummaryRow& row)
 {
     if (std::isnan(point.keas) || isBeyondSingles(point.keas))
@@ -58,7 +58,7 @@ ImportedPoint importRow(const SummaryRow& row, const SolverRun& run, const UnitC
     point.sigma = sigmaOf(row, run, units);
     point.keas = equivalentAirspeed(row.speed, std::isnan(point.sigma) ? 1 : point.sigma, units);
     if (isReducedFrequencyMethod(run.key.method)) {
-        // What these methods print as eigenvalue is scaled by the speed.
+        // The eigenvalues that these methods print are scaled by the speed.
         point.re = std::numbers::pi * row.frequency * row.damping;
         point.im = 2 * std::numbers::pi * row.frequency;
     } else {
@@ -81,8 +81,8 @@ bool isSameCondition(const ImportedPoint& a, const ImportedPoint& b)
         && std::abs(a.keas - b.keas) <= sameSpeed * std::max(a.keas, b.keas);
 }
 
-/// The rows to keep, by index: those whose condition no earlier kept row has. The candidates among
-/// the earlier ones are neighbours in order of speed.
+/// The indices of the rows to keep: those whose condition differs from that of every earlier kept
+/// row. Rows are compared only with neighbours in order of speed.
 std::vector<std::size_t> rowsToKeep(const std::vector<ImportedPoint>& points)
 {
     std::vector<std::size_t> kept;

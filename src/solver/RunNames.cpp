@@ -11,7 +11,7 @@ namespace tarsil::solver {
 
 namespace {
 
-/// The parts of a run that stay when its density ratio is left out.
+/// The parts of a run without its density ratio.
 using WithoutRatio = std::tuple<std::optional<std::string>, std::string, std::optional<double>,
                                 std::optional<double>, std::int32_t>;
 

@@ -18,7 +18,7 @@ namespace tarsil::solver {
 
 namespace {
 
-/// The log of the file's lines that belong to a run, then those of the run.
+/// The log entries of the lines of a run, followed by those of its import.
 std::vector<std::string> logOf(const SolverOutput& output, const SolverRun& run,
                                const ImportedRun& imported)
 {
@@ -109,15 +109,15 @@ std::optional<std::string> refusalOf(const SolverOutput& output)
         return std::nullopt;
     const std::string path = shownPath(output.path);
     if (output.file.isBinary)
-        return path + " holds no flutter summary: it is a binary file and no printed output";
+        return path + " contains no flutter summary: it is a binary file and no printed output";
     if (output.file.lines == 0)
         return path + " is empty";
     if (output.file.log.empty())
-        return path + " holds no flutter summary: no line ends in \"" + std::string(summaryTitle)
+        return path + " contains no flutter summary: no line ends in \"" + std::string(summaryTitle)
             + "\"";
     const LogEntry& first = output.file.log.front();
-    return path + " holds no flutter summary that can be read: line " + std::to_string(first.line)
-        + ": " + first.text;
+    return path + " contains no flutter summary that can be read: line "
+        + std::to_string(first.line) + ": " + first.text;
 }
 
 std::string evolutionText(const SolverOutput& output, std::size_t run, const UnitChoice& units,

@@ -11,7 +11,7 @@
 
 namespace tarsil::solver {
 
-/// What the user says of the evolutions besides the units.
+/// The texts that the user gives for the evolutions.
 struct ImportTexts
 {
     std::string programVersion; ///< the name and version of this program
@@ -19,8 +19,8 @@ struct ImportTexts
     std::string massConfiguration;
 };
 
-/// A printed solver output that has been read: its analyses, what evolutions of them are called,
-/// and what it proves about its units.
+/// A printed solver output: its analyses, the names of their evolutions, and the evidence about its
+/// units.
 struct SolverOutput
 {
     std::string path;
@@ -30,22 +30,22 @@ struct SolverOutput
     UnitEvidence evidence;
 };
 
-/// Reads a solver output. Without a flutter summary it has no runs. Errors: those of reading a
+/// Reads a solver output, which has no runs without a flutter summary. Errors: those of reading a
 /// file.
 SolverOutput readSolverOutput(std::string_view path);
 
-/// Whether the rows or headings of a run say which density they are for; without one its speeds
-/// can only be imported as equivalent airspeeds.
+/// Whether the rows or headings of a run contain a density. Without one, its speeds can only be
+/// imported as equivalent airspeeds.
 bool carriesDensity(const SolverRun& run);
 
-/// Whether rows of a run print densities, as those of PKNL do, and not its heading a ratio.
+/// Whether the rows of a run contain densities (PKNL), not its heading a ratio.
 bool printsDensities(const SolverRun& run);
 
-/// Why nothing can be imported from an output, as a sentence with its path; nothing when it has an
-/// analysis.
+/// Why nothing can be imported from an output, as a sentence with its path. Empty when the output
+/// has an analysis.
 std::optional<std::string> refusalOf(const SolverOutput& output);
 
-/// The text of the evolution file of one run. Errors: those of `ev2Text`; 5 for a run without a
+/// The text of the evolution file of a run. Errors: those of `ev2Text`; 5 for a run without a
 /// density whose speeds are not equivalent.
 std::string evolutionText(const SolverOutput& output, std::size_t run, const UnitChoice& units,
                           const ImportTexts& texts);

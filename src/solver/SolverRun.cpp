@@ -15,7 +15,7 @@ bool isLoopMethod(const std::string& method)
     return method == "K";
 }
 
-/// A run with its tables, which are not yet sorted into roots.
+/// A run with its tables, before they are sorted into roots.
 struct Group
 {
     SolverRun run;
@@ -46,11 +46,11 @@ Group newGroup(const SummaryTable& table, std::int32_t cycle)
     return group;
 }
 
-/// A POINT that its group already has begins the next pass.
+/// A POINT that exists in its group already starts the next pass.
 std::vector<Group> groupTables(const SummaryFile& file)
 {
     std::vector<Group> groups;
-    std::map<AnalysisKey, std::size_t, KeyLess> latest; ///< the last group of each key, by index
+    std::map<AnalysisKey, std::size_t, KeyLess> latest; ///< index of the last group of each key
     for (const SummaryTable& table : file.tables) {
         const auto [entry, isFirst] = latest.try_emplace(table.key, groups.size());
         if (isFirst) {

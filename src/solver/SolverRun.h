@@ -10,14 +10,14 @@
 
 namespace tarsil::solver {
 
-/// One root of an analysis through all its rows.
+/// A root of an analysis in all its rows.
 struct PrintedRoot
 {
     std::int32_t id = 0; ///< the number of its mode
     std::vector<SummaryRow> rows;
 };
 
-/// One flutter analysis: the tables of one key and one pass, as roots of equal length.
+/// A flutter analysis: the tables of one key and one pass, as roots of equal length.
 struct SolverRun
 {
     AnalysisKey key;
@@ -30,22 +30,22 @@ struct SolverRun
     std::string label;
     std::size_t firstLine = 0;
     std::size_t lastLine = 0;
-    bool wasCut = false; ///< the roots had unequal lengths
+    bool wasCut = false; ///< whether the roots had unequal lengths
     std::vector<std::string> log;
 };
 
-/// Whether rows are the loops of one reduced frequency, in methods K and KE; otherwise they are the
-/// speeds of one root.
+/// Whether rows are loops at one reduced frequency (methods K and KE); otherwise they are speeds of
+/// one root.
 bool isReducedFrequencyMethod(const std::string& method);
 
 /// The analyses of a file in order of appearance.
 ///
-/// PK, PKNL and KE: POINT is the root; the ids are POINT, or 1..n where the numbering runs on from
-/// the analysis before. K: POINT is the loop, and root r has the r-th row of each table. Roots of
-/// unequal length are cut to the shortest.
+/// PK, PKNL and KE: POINT is the root. The ids are POINT, or 1..n where the numbering continues
+/// that of the previous analysis. K: POINT is the loop, and root r is the r-th row of each table.
+/// Roots of unequal length are cut to the shortest.
 std::vector<SolverRun> runsOf(const SummaryFile& file);
 
-/// One point of an evolution that is made of a run.
+/// A point of an evolution made from a run.
 struct ImportedPoint
 {
     double im = 0; ///< rad/s
@@ -55,7 +55,7 @@ struct ImportedPoint
     double damping = 0;
     double frequency = 0; ///< Hz
     double mach = notPrinted;
-    double sigma = notPrinted; ///< density over that at sea level
+    double sigma = notPrinted; ///< density relative to sea level
 };
 
 struct ImportedMode
@@ -64,7 +64,7 @@ struct ImportedMode
     std::vector<ImportedPoint> points;
 };
 
-/// A run in the units of evolutions, its speeds in order.
+/// A run in the units of evolutions, with its speeds in order.
 struct ImportedRun
 {
     std::vector<ImportedMode> modes; ///< all of one length
@@ -73,10 +73,10 @@ struct ImportedRun
 };
 
 /// Converts speeds to KEAS. PK and PKNL: rows that repeat density, Mach number and speed (within
-/// 5e-4 of it) of an earlier one are dropped, and the others sorted by speed. K and KE: rows are in
-/// order of falling reduced frequency, nothing is dropped, and speeds may turn back. The solver's
-/// damping is kept, also where a root is static (frequency 0). Error 6 "Overflow" for a row whose
-/// speed and density give no equivalent airspeed, or with a value that no single can hold.
+/// 5e-4 of it) of an earlier row are dropped, and the others are sorted by speed. K and KE: rows
+/// are in order of falling reduced frequency, nothing is dropped, and speeds may decrease. The
+/// damping is that of the solver, also for static roots (frequency 0). Error 6 "Overflow" for a row
+/// without a valid equivalent airspeed, or with a value beyond the range of a single.
 ImportedRun importRun(const SolverRun& run, const UnitChoice& units);
 
 } // namespace tarsil::solver

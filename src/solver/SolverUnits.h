@@ -7,11 +7,11 @@
 
 namespace tarsil::solver {
 
-/// A unit of printed speeds or densities, and the factor to what evolutions hold: metres per
-/// second, or the density at sea level (1.225 kg/m3).
+/// A unit of printed speeds or densities, with the factor to metres per second or to the density at
+/// sea level (1.225 kg/m3).
 struct Unit
 {
-    std::string_view name; ///< as the command line spells it
+    std::string_view name; ///< spelling on the command line
     double factor;
 };
 
@@ -27,16 +27,16 @@ constexpr std::array<Unit, 5> densityUnits = {{{"ratio", 1},
                                                {"lbf.s2/in4", 1.0686895e7 / seaLevelDensity},
                                                {"t/mm3", 1e12 / seaLevelDensity}}};
 
-/// The unit of that name; nothing for another name.
+/// The unit of a name; empty for an unknown name.
 std::optional<Unit> speedUnit(std::string_view name);
 std::optional<Unit> densityUnit(std::string_view name);
 
-/// Units that go together in an analysis.
+/// Units that are used together in an analysis.
 struct UnitPreset
 {
     std::string_view name;
     std::string_view speed;
-    std::string_view density; ///< of densities that are printed as such and not as a ratio
+    std::string_view density; ///< the unit of printed densities; not used for ratios
 };
 
 constexpr std::array<UnitPreset, 5> unitPresets = {{{"m, kg", "m/s", "kg/m3"},
@@ -45,7 +45,7 @@ constexpr std::array<UnitPreset, 5> unitPresets = {{{"m, kg", "m/s", "kg/m3"},
                                                     {"in, lbf s2/in", "in/s", "lbf.s2/in4"},
                                                     {"knots", "kt", "ratio"}}};
 
-/// What the user says of the units of a file, which no file tells by itself.
+/// The units of a file as the user gives them; files do not contain them.
 struct UnitChoice
 {
     Unit speed = speedUnits.front();
@@ -54,13 +54,13 @@ struct UnitChoice
     bool isEquivalent = false; ///< the printed speeds are equivalent airspeeds already
 };
 
-/// A choice as one line, to be kept: "ft/s|1|slug/ft3|", with "equivalent" at its end where speeds
-/// are; and what such a line says, nothing when it is none.
+/// A choice of units as a line for storage: "ft/s|1|slug/ft3|", with "equivalent" at the end for
+/// equivalent airspeeds. The reverse is empty for an invalid line.
 std::string unitText(const UnitChoice& units);
 std::optional<UnitChoice> unitsFromText(std::string_view text);
 
-/// The equivalent airspeed in knots of a printed speed; `sigma` is the density over that at sea
-/// level, and does not count for speeds that are equivalent.
+/// The equivalent airspeed in knots of a printed speed. `sigma` is the density relative to sea
+/// level; it is ignored for equivalent speeds.
 double equivalentAirspeed(double printedSpeed, double sigma, const UnitChoice& units);
 
 } // namespace tarsil::solver

@@ -10,7 +10,7 @@ namespace tarsil::solver {
 
 namespace {
 
-/// Whether a piece may hold a title or a card that tells units.
+/// Whether a piece may contain a title, or a card about units.
 bool holdsWords(std::string_view piece)
 {
     const auto holds = [piece](std::string_view words) {
@@ -19,7 +19,7 @@ bool holdsWords(std::string_view piece)
     return holds(summaryTitle) || holds("AERO") || holds("VREF");
 }
 
-/// Whether there is a zero among the first bytes of a file, as in no text of eight bits.
+/// Whether the first bytes of a file contain a zero, which 8-bit text does not.
 bool beginsBinary(std::string_view path)
 {
     std::array<char, 4096> bytes {};
@@ -48,7 +48,7 @@ void SummaryScanner::readLines(std::string_view lines)
     }
 }
 
-/// Counts the lines, and keeps the last ones, which may belong to the title of the next piece.
+/// Counts the lines and keeps the last ones, which may belong to a title in the next piece.
 void SummaryScanner::skip(std::string_view piece)
 {
     std::size_t start = piece.size();

@@ -7,13 +7,12 @@
 
 namespace tarsil::solver {
 
-/// Finds the flutter summaries in a text that comes in pieces. Pieces that hold nothing of interest
-/// are only searched and counted, which is what most of a solver's output is.
+/// Finds the flutter summaries in a text that arrives in pieces. Pieces without a relevant word,
+/// the bulk of a solver's output, are only searched and counted.
 class SummaryScanner
 {
 public:
-    /// Reads whole lines that follow those read before; only the last line of a file may lack its
-    /// end.
+    /// Reads the next whole lines; only the last line of a file may lack its end.
     void read(std::string_view piece);
 
     /// Ends the last table and returns what was read.
@@ -26,10 +25,10 @@ private:
     TableReader m_reader;
 };
 
-/// Reads the flutter summaries of a printed solver output, whatever its name. The file is read once
-/// and in pieces; only tables are kept. Without a summary the result has no tables; a binary file
-/// is known by its first bytes and not read on. Errors: those of reading a file; what is wrong in
-/// the text itself is an entry of the log.
+/// Reads the flutter summaries of a printed solver output, whatever its name. Reads the file once,
+/// in pieces, and stores only tables. Without a summary the result has no tables. A binary file is
+/// recognised by its first bytes, and the rest is not read. Errors: those of reading a file; faults
+/// of the text are entries of the log.
 SummaryFile readSummaries(std::string_view path);
 
 } // namespace tarsil::solver

@@ -9,17 +9,17 @@
 
 namespace tarsil::solver {
 
-/// A value that a table does not carry, or that was printed as stars.
+/// A value that a table lacks, or that was printed as stars.
 constexpr double notPrinted = std::numeric_limits<double>::quiet_NaN();
 
-/// One printed row of a flutter summary, in the solver's own units.
+/// A row of a flutter summary, in the units of the solver.
 struct SummaryRow
 {
     double k = notPrinted; ///< reduced frequency
     double inverseK = notPrinted; ///< 1/k, printed with more digits than k
     double density = notPrinted; ///< of a PKNL table
     double mach = notPrinted; ///< of a PKNL table
-    double speed = 0; ///< as printed, which may be negative
+    double speed = 0; ///< as printed; may be negative
     double damping = 0; ///< g; negative is stable
     double frequency = 0; ///< Hz
     double re = 0; ///< of the eigenvalue, as printed
@@ -27,8 +27,8 @@ struct SummaryRow
     std::size_t line = 0; ///< in the file, counted from 1
 };
 
-/// What the tables of one flutter analysis have in common. The numbers are those of the printed
-/// line above the table; what that line lacks is absent.
+/// The common part of the tables of a flutter analysis: the numbers in the line above a table. A
+/// value that the line lacks is empty.
 struct AnalysisKey
 {
     std::optional<std::string> subcase;
@@ -40,13 +40,13 @@ struct AnalysisKey
     bool operator==(const AnalysisKey&) const = default;
 };
 
-/// One printed table, with its continuation pages: the rows of one POINT.
+/// A printed table with its continuation pages: the rows of one POINT.
 struct SummaryTable
 {
     AnalysisKey key;
-    std::int32_t cycle = 1; ///< counts the passes in which this key and POINT were printed
+    std::int32_t cycle = 1; ///< the pass in which this key and POINT were printed
     std::int32_t point = 0;
-    bool carriesDensity = false; ///< nine numbers a row instead of seven
+    bool carriesDensity = false; ///< nine numbers in a row instead of seven
     std::vector<SummaryRow> rows;
     std::string banner; ///< the solver and its version, as printed
     std::string date; ///< of the run, as printed
@@ -57,22 +57,22 @@ struct SummaryTable
     std::size_t lastLine = 0; ///< of the last row
 };
 
-/// Something that the reader has to say of a line.
+/// A remark of the reader on a line.
 struct LogEntry
 {
     std::size_t line = 0;
     std::string text;
 };
 
-/// What a file holds: its tables in printed order, cards of the echoed deck that tell units, and
-/// what was met on the way.
+/// The contents of a file: its tables in printed order, the cards of the echoed deck about units,
+/// and remarks.
 struct SummaryFile
 {
     std::vector<SummaryTable> tables;
     std::vector<LogEntry> cards; ///< AERO and PARAM,VREF cards as echoed
     std::vector<LogEntry> log;
     std::size_t lines = 0;
-    bool isBinary = false; ///< it begins with bytes that no text has
+    bool isBinary = false; ///< the file begins with bytes that text does not contain
 };
 
 } // namespace tarsil::solver

@@ -9,7 +9,7 @@ namespace tarsil::solver {
 
 namespace {
 
-/// Below a title its POINT line, and below that the column headings, come within so many lines.
+/// The maximum distance of the POINT line from the title, and of the headings from the POINT line.
 constexpr std::size_t linesOfHeading = 8;
 
 constexpr std::size_t mostCards = 20;
@@ -24,8 +24,8 @@ std::string_view withoutLineEnd(std::string_view line)
     return line;
 }
 
-/// Whether a line of the deck's echo, which may be numbered, holds the card `name`, and its first
-/// field begins with one of the characters given.
+/// Whether a line of the deck's echo, which may be numbered, is a card `name` whose first field
+/// begins with one of these characters.
 bool holdsCard(std::string_view line, std::string_view name, std::string_view firstOfRest)
 {
     const std::size_t position = line.find(name);
@@ -41,7 +41,7 @@ bool holdsCard(std::string_view line, std::string_view name, std::string_view fi
         && firstOfRest.find(rest[field]) != std::string_view::npos;
 }
 
-/// Whether a line that is no row begins like one, so that the user should hear of it.
+/// Whether a line that is not a row begins like one, which is worth a remark.
 bool isBrokenRow(std::string_view line)
 {
     const std::size_t first = line.find_first_not_of(' ');
@@ -148,13 +148,13 @@ void TableReader::readTableRow(std::string_view line, bool isWhole)
     }
 }
 
-/// The last row of a file that was cut has fewer digits than the others, and another value.
+/// The last row of a truncated file has fewer digits than the others, and so a wrong value.
 bool TableReader::isCutRow(std::string_view line, bool isWhole) const
 {
     return !isWhole && (m_state != State::InRows || line.size() < m_rowLength);
 }
 
-/// Appends the table to those of the file; a continuation page goes to the table before.
+/// Appends the table to those of the file; a continuation page is appended to its table.
 void TableReader::finishTable()
 {
     if (m_state == State::BeforeRows)
@@ -182,7 +182,7 @@ void TableReader::leaveOut(std::string_view reason)
     m_state = State::BetweenTables;
 }
 
-/// Keeps a card of the echoed deck that tells units: AERO with numbers, or PARAM with VREF.
+/// Stores a card of the echoed deck about units: AERO with numbers, or PARAM with VREF.
 void TableReader::readCard(std::string_view line)
 {
     const bool isCard = holdsCard(line, "AERO", "+-.0123456789") || holdsCard(line, "PARAM", "V");

@@ -10,18 +10,17 @@
 
 namespace tarsil::solver {
 
-/// Finds the flutter summaries among the lines of a printed output, which it is given one after the
-/// other.
+/// Finds the flutter summaries in the lines of a printed output, one line at a time.
 class TableReader
 {
 public:
-    /// Reads the next line, with its line end, which only the last line of a file may lack.
+    /// Reads the next line with its line end; only the last line of a file may lack it.
     void readLine(std::string_view line);
 
-    /// Counts lines that hold nothing of interest and are not given.
+    /// Counts irrelevant lines, which are not passed on.
     void passOver(std::size_t lines) { m_file.lines += lines; }
 
-    /// Whether the next line belongs to a table that has begun.
+    /// Whether the next line belongs to an open table.
     bool isInTable() const { return m_state != State::BetweenTables; }
 
     /// Ends the last table and returns what was read.
@@ -42,12 +41,12 @@ private:
     void remember(std::string_view line);
 
     SummaryFile m_file;
-    SummaryTable m_table; ///< the one that is being read
+    SummaryTable m_table; ///< the open table
     State m_state = State::BetweenTables;
-    std::size_t m_linesLeft = 0; ///< in which the next part of the heading must come
-    std::size_t m_rowLength = 0; ///< of the last row, in characters
-    std::size_t m_unlisted = 0; ///< entries that the log has no room for
-    std::array<std::string, linesAboveTitle> m_last; ///< the lines just read, as a ring
+    std::size_t m_linesLeft = 0; ///< lines in which the next part of the heading must appear
+    std::size_t m_rowLength = 0; ///< length of the last row in characters
+    std::size_t m_unlisted = 0; ///< number of entries beyond the limit of the log
+    std::array<std::string, linesAboveTitle> m_last; ///< the last lines, as a ring buffer
     std::size_t m_nextOfLast = 0;
 };
 

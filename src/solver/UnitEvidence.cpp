@@ -12,7 +12,7 @@ namespace tarsil::solver {
 
 namespace {
 
-// Rows that tell a chord: oscillating, and not at the end of the printed digits of k.
+// Rows that determine a chord: oscillating, and with enough printed digits of k.
 constexpr double leastK = 0.01;
 constexpr double leastFrequency = 0.05; ///< Hz
 
@@ -38,7 +38,7 @@ double median(std::vector<double> values)
     return *middle;
 }
 
-/// The reduced frequency with the digits of its inverse, which is printed to more of them.
+/// The reduced frequency from its inverse, which is printed with more digits.
 double exactK(const SummaryRow& row)
 {
     return std::isfinite(row.inverseK) && row.inverseK != 0 ? 1 / row.inverseK : row.k;
@@ -104,7 +104,7 @@ void findSpeedOfSound(const std::vector<SolverRun>& runs, UnitEvidence& evidence
     }
 }
 
-/// The printed densities, each with the ratio that its row's temperature gives.
+/// The printed densities with the ratios that follow from the temperatures of their rows.
 std::vector<std::pair<double, double>> densitiesAndRatios(const std::vector<SolverRun>& runs,
                                                           const Unit& speed)
 {

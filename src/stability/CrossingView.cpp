@@ -16,7 +16,7 @@ void addRing(const std::optional<Crossing>& crossing, float level, PlotHighlight
         highlight.rings.push_back({crossing->speed, crossing->frequency, level});
 }
 
-/// Where to look at in a stretch.
+/// The part of a stretch to show.
 struct Target
 {
     double speed;
@@ -32,7 +32,7 @@ Target targetOf(const Stretch& stretch)
     return {stretch.peakSpeed, stretch.peakFrequency};
 }
 
-/// The values of a mode at the speeds from `low` to `high`.
+/// A range of values.
 struct Span
 {
     double low;
@@ -45,7 +45,7 @@ struct Span
     }
 };
 
-/// Ends and ticks in round numbers.
+/// Sets round bounds and ticks.
 void setRange(AxisValues& axis, const Span& span, Steps steps = Steps::Any)
 {
     const RoundRange range = roundRange(span.low, span.high, steps);
@@ -102,7 +102,7 @@ PlotHighlight highlightOf(const PlotStretch& stretch)
 
 PlotAxes axesAround(const PlotStretch& stretch, PlotAxes axes)
 {
-    constexpr double part = 0.25; ///< of the speed, to both sides
+    constexpr double part = 0.25; ///< of the speed, to either side
     constexpr double leastDamping = 0.05;
     constexpr double mostDamping = 0.25;
     const Target target = targetOf(stretch.line.stretch);

@@ -7,16 +7,15 @@
 
 namespace tarsil {
 
-/// How a stretch is shown in a plot: its range, and a ring where it starts and where it ends as far
-/// as these have a speed.
+/// The highlight of a stretch: its range, and a ring at its start and its end if they have a speed.
 PlotHighlight highlightOf(const PlotStretch& stretch);
 
-/// How a doubt is shown: the step, and rings around the points of both modes after it.
+/// The highlight of a doubtful step: its range, and rings around the points of both modes after it.
 PlotHighlight highlightOf(const PlotDoubt& doubt);
 
-/// The axes around the start of a stretch, or around its end, or its peak, where the one before is
-/// missing: a quarter of the speed to both sides, damping and frequency as the points beside it
-/// need, in round numbers. Titles and the direction of the damping axis stay as in `axes`.
+/// Axes around the start of a stretch; around its end if it has no start; around its peak if it has
+/// neither: a quarter of the speed to either side, with round bounds of damping and frequency that
+/// include the points around it. Keeps the titles and the direction of the damping axis of `axes`.
 PlotAxes axesAround(const PlotStretch& stretch, PlotAxes axes);
 
 } // namespace tarsil

@@ -10,17 +10,17 @@ namespace tarsil {
 
 class EVM;
 
-/// A step of one of several evolutions that the tracking doubts.
+/// A doubtful step of the tracking of an evolution.
 struct PlotDoubt
 {
     const EVM* evolution = nullptr; ///< not owned
     TrackingDoubt doubt;
 };
 
-/// The doubts about some evolutions, in their order.
+/// The doubtful steps of the evolutions, in their order.
 std::vector<PlotDoubt> doubtsOfAll(const std::vector<const EVM*>& evolutions);
 
-/// Doubts as rows of a table; it needs no window.
+/// The doubtful steps as rows of a table. Needs no window.
 class DoubtModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -30,7 +30,7 @@ public:
 
     void setDoubts(std::vector<PlotDoubt> doubts);
 
-    /// Null for a row that is not there.
+    /// Null for an unknown row.
     const PlotDoubt* doubt(int row) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;

@@ -9,26 +9,26 @@ namespace tarsil {
 class AirplaneInfo;
 class EvmPlot;
 
-/// The evolutions of the rows of a plot, each once, in the order of the rows.
+/// The evolutions of the rows of a plot, each once, in row order.
 std::vector<const EVM*> evolutionsOf(const EvmPlot& plot);
 
-/// A real stretch of one of several evolutions.
+/// A real stretch of an evolution.
 struct PlotStretch
 {
     const EVM* evolution = nullptr; ///< not owned
     StabilityLine line;
 };
 
-/// What the window "Stability" shows; it needs no window.
+/// The contents of the window "Stability". Needs no window.
 struct PlotStability
 {
     std::vector<EvolutionStability> evolutions;
     std::vector<PlotStretch> stretches; ///< of all evolutions, by rising start
-    std::size_t noise = 0; ///< how many stretches are left out
+    std::size_t noise = 0; ///< number of stretches left out
     std::size_t weak = 0;
 };
 
-/// Judges evolutions, with their margins where the airplane has envelopes.
+/// Judges evolutions, with their margins if the airplane has envelopes.
 PlotStability stabilityOfAll(const std::vector<const EVM*>& evolutions,
                              const StabilitySettings& settings, const AirplaneInfo& airplane,
                              const Requirement& requirement);

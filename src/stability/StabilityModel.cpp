@@ -71,7 +71,7 @@ std::string factorText(const std::optional<DominantFactor>& factor)
                   : std::string();
 }
 
-/// The text of a column that is about the start, which is there and has a speed.
+/// The text of a column about the start, which has a speed.
 std::string ofStart(const Crossing& start, StretchColumn column)
 {
     switch (column) {

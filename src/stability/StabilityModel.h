@@ -28,7 +28,7 @@ enum class StretchColumn {
 };
 constexpr int stretchColumnCount = 15;
 
-/// Real stretches as rows of a table, in their order; it needs no window.
+/// Real stretches as rows of a table, in their order. Needs no window.
 class StabilityModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -38,7 +38,7 @@ public:
 
     void setStretches(std::vector<PlotStretch> stretches);
 
-    /// Null for a row that is not there.
+    /// Null for an unknown row.
     const PlotStretch* stretch(int row) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;

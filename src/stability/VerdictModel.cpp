@@ -35,7 +35,7 @@ QVariant colorOf(CellStyle style, int role)
     const QColor ground = groundOf(style);
     if (role == Qt::BackgroundRole && ground.isValid())
         return QBrush(ground);
-    if (role == Qt::ForegroundRole && ground.isValid()) // readable on a dark desktop as well
+    if (role == Qt::ForegroundRole && ground.isValid()) // readable on a dark desktop too
         return QBrush(Qt::black);
     return {};
 }

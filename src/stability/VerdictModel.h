@@ -10,12 +10,12 @@
 
 namespace tarsil {
 
-/// The ground or the text colour of a row of that style, as the sheets have them; no value for
-/// other roles and for plain rows.
+/// The background or text colour of a row with a style, as in the sheets; empty for other roles and
+/// for plain rows.
 QVariant colorOf(CellStyle style, int role);
 
-/// The verdicts of evolutions as rows of a table: one column for the file, one for each level, and
-/// one for the margin where an airplane requires a speed. It needs no window.
+/// The verdicts of evolutions as rows of a table: a column for the file, one for each level, and
+/// one for the margin if an airplane requires a speed. Needs no window.
 class VerdictModel : public QAbstractTableModel
 {
     Q_OBJECT

@@ -22,7 +22,7 @@ namespace {
 
 constexpr std::string_view module = "wndStability";
 
-/// Rows are chosen whole, and nothing is edited.
+/// Selects whole rows; nothing can be edited.
 void prepareTable(QTableView& table, QAbstractItemModel& model)
 {
     table.setModel(&model);
@@ -40,9 +40,9 @@ wndStability::wndStability(Document& document, UserInterface& user, QWidget* par
           ui->setupUi(this);
           return ui;
       }()),
-      m_levelsWarning(*m_ui->levelsInp), m_toleranceWarning(*m_ui->toleranceInp),
-      m_noiseWarning(*m_ui->noiseInp), m_staticWarning(*m_ui->staticInp),
-      m_factorWarning(*m_ui->factorInp), m_requiredLevelWarning(*m_ui->requiredLevelInp),
+      m_levelsMessage(*m_ui->levelsInp), m_toleranceMessage(*m_ui->toleranceInp),
+      m_noiseMessage(*m_ui->noiseInp), m_staticMessage(*m_ui->staticInp),
+      m_factorMessage(*m_ui->factorInp), m_requiredLevelMessage(*m_ui->requiredLevelInp),
       m_document(document), m_user(user)
 {
     setWindowFlag(Qt::WindowMaximizeButtonHint);
@@ -59,7 +59,7 @@ wndStability::wndStability(Document& document, UserInterface& user, QWidget* par
             &wndStability::fillDoubts);
     connect(&m_document.evolutions(), &EvolutionList::pointsChanged, this, &wndStability::judge);
     connect(&m_document.evolutions(), &EvolutionList::aboutToBeRemoved, this, [this] {
-        m_evolutions.clear(); // what is shown refers to them
+        m_evolutions.clear(); // the tables refer to them
         m_doubts.setDoubts({});
         fillTables();
         QMetaObject::invokeMethod(this, &wndStability::followRows, Qt::QueuedConnection);
@@ -102,7 +102,7 @@ void wndStability::run(const std::function<void()>& action)
     guarded(m_user, module, action);
 }
 
-/// A plot announces changes one by one; its rows are looked at when they are over.
+/// A plot signals changes one by one; the tables are updated after the last.
 void wndStability::followPlot(EvmPlot* /*before*/, EvmPlot* now)
 {
     disconnect(m_rowsConnection);
@@ -123,7 +123,7 @@ void wndStability::followRows()
     judge();
 }
 
-/// They depend on the evolutions alone.
+/// The doubtful steps depend only on the evolutions.
 void wndStability::fillDoubts()
 {
     if (!isVisible())
@@ -152,24 +152,24 @@ void wndStability::takeSettings()
     constexpr double leastFactor = 1e-6;
     double requiredLevel = m_requirement.level;
     takeLevels();
-    takeNumber(*m_ui->toleranceInp, m_toleranceWarning, 0, limits.tolerance);
-    takeNumber(*m_ui->noiseInp, m_noiseWarning, 0, limits.noise);
-    takeNumber(*m_ui->staticInp, m_staticWarning, 0, limits.staticFrequency);
-    takeNumber(*m_ui->factorInp, m_factorWarning, leastFactor, m_requirement.factor);
-    takeNumber(*m_ui->requiredLevelInp, m_requiredLevelWarning, -1, requiredLevel);
+    readNumber(*m_ui->toleranceInp, m_toleranceMessage, 0, limits.tolerance);
+    readNumber(*m_ui->noiseInp, m_noiseMessage, 0, limits.noise);
+    readNumber(*m_ui->staticInp, m_staticMessage, 0, limits.staticFrequency);
+    readNumber(*m_ui->factorInp, m_factorMessage, leastFactor, m_requirement.factor);
+    readNumber(*m_ui->requiredLevelInp, m_requiredLevelMessage, -1, requiredLevel);
     m_requirement.level = static_cast<float>(requiredLevel);
     m_settings.isTracked = m_ui->rootsCmb->currentIndex() == 1;
     judge();
 }
 
-/// Marks the input when there is no such number in it.
-void wndStability::takeNumber(QLineEdit& input, InputWarning& warning, double least, double& number)
+/// Stores the number of an input if it is valid; otherwise shows a message at the input.
+void wndStability::readNumber(QLineEdit& input, InputMessage& message, double least, double& number)
 {
     double typed = 0;
     const bool isNumber = parseDouble(input.text().toStdString(), typed) == NumberStatus::Ok;
     if (isNumber && typed >= least)
         number = typed;
-    warning.show(isNumber && typed >= least
+    message.show(isNumber && typed >= least
                      ? QString()
                      : tr("A number of at least %1 is needed; the last one counts.")
                            .arg(QString::fromStdString(shortestText(least))));
@@ -179,9 +179,9 @@ void wndStability::takeLevels()
 {
     try {
         m_settings.levels = levelsOf(m_ui->levelsInp->text().toStdString());
-        m_levelsWarning.show({});
+        m_levelsMessage.show({});
     } catch (const RunTimeError&) {
-        m_levelsWarning.show(
+        m_levelsMessage.show(
             tr("Numbers with commas between them are needed; the last ones count."));
     }
 }
@@ -262,7 +262,8 @@ void wndStability::zoomTo(int row)
                                 [&] { plot.setAxes(axesAround(*stretch, plot.axes())); });
 }
 
-/// A reference speed for each required speed, and a damping line at the level of the requirement.
+/// Adds a reference speed for each required speed, and a damping line at the level of the
+/// requirement.
 void wndStability::addRequirementLines()
 {
     EvmPlot& plot = activePlot();

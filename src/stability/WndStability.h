@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plotwindow/InputWarning.h"
+#include "plotwindow/InputMessage.h"
 #include "plotwindow/PlotHighlight.h"
 #include "stability/DoubtModel.h"
 #include "stability/PlotStability.h"
@@ -29,35 +29,34 @@ class EVM;
 class EvmPlot;
 class UserInterface;
 
-/// The window "Stability": where the evolutions of the active plot are unstable. It follows the
-/// active plot, its rows, the evolutions' parameters and the airplane for as long as it is shown. A
-/// setting that is no number is marked, and the last one that was a number counts.
-///
-/// Choosing a stretch, or a doubt of the tracking, shows it in the plot; a double click on a
-/// stretch sets the axes of the plot around it, as a step that can be undone. From a doubt on two
-/// modes of a tracked evolution can be exchanged.
+/// The window "Stability": where the evolutions of the active plot are unstable. While it is
+/// visible it follows the active plot, its rows, the parameters of the evolutions and the airplane.
+/// An invalid setting shows a message at its input, and the last valid one stays in force.
+/// Selecting a stretch or a doubtful step shows it in the plot. A double click on a stretch sets
+/// the axes of the plot around it as an undo step. Two modes of a tracked evolution can be
+/// exchanged from a doubtful step on.
 class wndStability : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// What is given by reference must outlive the window.
+    /// All references must outlive the window.
     wndStability(Document& document, UserInterface& user, QWidget* parent = nullptr);
     ~wndStability() override;
 
     QSize sizeHint() const override;
 
-    /// Whether there is an exchange that can be taken back.
+    /// Whether there is an exchange to undo.
     void setExchangeUndoable(bool isUndoable);
 
 Q_SIGNALS:
-    /// What the user looks at is to be shown in the active plot, or nothing any more.
+    /// The active plot is to show this highlight; empty for none.
     void pointedOut(const std::optional<tarsil::PlotHighlight>& highlight);
 
-    /// It belongs to a mode, by its number in the file.
+    /// The mode of the highlight, by its number in the file.
     void modeChosen(const tarsil::EVM& evolution, std::int16_t mode);
 
-    /// The user wants two modes exchanged from a speed on, or the last exchange taken back.
+    /// The user asks to exchange two modes from a speed on, or to undo the last exchange.
     void exchangeWanted(const tarsil::EVM& evolution, const tarsil::ModeExchange& exchange);
     void exchangeUndoWanted();
 
@@ -71,7 +70,7 @@ private:
     void followPlot(EvmPlot* before, EvmPlot* now);
     void followRows();
     void takeSettings();
-    void takeNumber(QLineEdit& input, InputWarning& warning, double least, double& number);
+    void readNumber(QLineEdit& input, InputMessage& message, double least, double& number);
     void takeLevels();
     void judge();
     void fillTables();
@@ -85,17 +84,17 @@ private:
     EvmPlot& activePlot() const;
 
     std::unique_ptr<Ui::wndStability> m_ui;
-    InputWarning m_levelsWarning;
-    InputWarning m_toleranceWarning;
-    InputWarning m_noiseWarning;
-    InputWarning m_staticWarning;
-    InputWarning m_factorWarning;
-    InputWarning m_requiredLevelWarning;
+    InputMessage m_levelsMessage;
+    InputMessage m_toleranceMessage;
+    InputMessage m_noiseMessage;
+    InputMessage m_staticMessage;
+    InputMessage m_factorMessage;
+    InputMessage m_requiredLevelMessage;
     Document& m_document;
     UserInterface& m_user;
     StabilitySettings m_settings;
     Requirement m_requirement;
-    std::vector<const EVM*> m_evolutions; ///< that the tables show
+    std::vector<const EVM*> m_evolutions; ///< evolutions shown in the tables
     PlotStability m_stability;
     StabilityModel m_stretches;
     VerdictModel m_verdicts;

@@ -6,11 +6,11 @@
 
 namespace tarsil {
 
-/// Whether a line is drawn with gaps: one wider than a pixel is solid whatever its style.
+/// Whether a pen draws gaps. A pen wider than one pixel is solid whatever its style.
 bool isDashed(const Pen& pen);
 
-/// Lengths of dashes and gaps in pixels, in turn; empty for a solid line. They are measured on the
-/// platform's own pens.
+/// The lengths of dashes and gaps in pixels, alternating; empty for a solid line. Measured on the
+/// original platform's pens.
 QList<qreal> dashPattern(const Pen& pen);
 
 } // namespace tarsil

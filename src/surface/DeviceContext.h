@@ -9,7 +9,7 @@
 
 namespace tarsil {
 
-/// The platform pen styles by their numbers, as files and series hold them.
+/// The numbers of the pen styles in files and series.
 namespace penstyle {
 constexpr int solid = 0;
 constexpr int dash = 1;
@@ -19,18 +19,19 @@ constexpr int dashDotDot = 4;
 constexpr int none = 5;
 } // namespace penstyle
 
-/// How a line is drawn. A dashed line wider than one pixel is drawn solid; a style number outside 0
-/// to 5 is solid too.
+/// How a line is drawn. A dashed pen wider than one pixel is solid, and so is a style outside 0 to
+/// 5.
 struct Pen
 {
     int style = penstyle::solid;
-    int width = 0; ///< pixels; 0 is a line of one pixel at any scale
+    int width = 0; ///< pixels; 0 is one pixel at any scale
     ColorValue color = 0;
 
     bool operator==(const Pen&) const = default;
 };
 
-/// A face and its size in points; points are turned into pixels at 96 per inch on every surface.
+/// A font family and its size in points. Points are converted to pixels at 96 per inch on every
+/// surface.
 struct Font
 {
     QString family = QStringLiteral("Arial");
@@ -43,7 +44,7 @@ struct Font
     bool operator==(const Font&) const = default;
 };
 
-/// Where the reference point of a text lies in it; the values are the platform's.
+/// The position of the reference point in a text. The values are those of the metafile format.
 enum class TextAlignment {
     TopLeft = 0,
     TopRight = 2,
@@ -52,14 +53,14 @@ enum class TextAlignment {
     BaselineLeft = 24
 };
 
-/// The rectangle that a text of this extent covers, whose reference point stands at `reference`.
+/// The rectangle of a text of this extent whose reference point is at `reference`.
 QRect textRectangle(QPoint reference, QSize extent, int ascent, TextAlignment alignment);
 
-/// A surface to draw on: the screen's, a picture file's, or a test's. Coordinates are whole pixels
-/// at 96 per inch, rows downwards, relative to the origin; the style comes with each call, so there
-/// is no state to restore but origin and clip. The background of texts and of the gaps of dashed
-/// lines is transparent. A call says what is seen: a line has a pen of its own whose dashes begin
-/// anew, and a surface may reuse pens and join lines as long as the picture is the same.
+/// A surface to draw on: the screen, a picture file, or a test. Coordinates are whole pixels at 96
+/// per inch relative to the origin, with y downwards. Style is passed with each call, so that only
+/// origin and clip are state. Text and the gaps of dashed lines have a transparent background. Each
+/// line is drawn with its own pen, and dashes begin anew with each line; a surface may reuse pens
+/// and join lines if the picture stays the same.
 class DeviceContext
 {
 public:
@@ -72,19 +73,19 @@ public:
     virtual void drawText(QPoint reference, const QString& text, const Font& font, ColorValue color,
                           TextAlignment alignment) = 0;
 
-    /// Width: the sum of the characters' whole advances; height: ascent and descent.
+    /// Width: the sum of the advances, each a whole pixel. Height: ascent plus descent.
     virtual QSize textExtent(const QString& text, const Font& font) const = 0;
 
-    /// Distance from the top of a text to its baseline.
+    /// The distance from the top of a text to its baseline.
     virtual int textAscent(const Font& font) const = 0;
 
     virtual void fillRectangle(const QRect& rectangle, ColorValue color) = 0;
 
-    /// The rectangle, in pixels of the whole surface whatever the origin, that drawing is kept to.
+    /// Clips drawing to a rectangle in pixels of the whole surface, independent of the origin.
     virtual void setClip(const QRect& rectangle) = 0;
     virtual void clearClip() = 0;
 
-    /// The pixel of the whole surface that (0, 0) of later calls means.
+    /// Sets the pixel of the whole surface that is (0, 0) in later calls.
     virtual void setOrigin(QPoint origin) = 0;
 };
 

@@ -4,9 +4,10 @@ class QString;
 
 namespace tarsil {
 
-/// The face that a name means. Older programs call the characters of one script in a face a face
-/// of its own ("Arial Greek", "Times New Roman CE", "Arial (Hebrew)"), which no machine has: the
-/// face itself has them. Other names, and names of installed faces, stay as they are.
+/// The font family to draw a name with. Older programs name the part of a family for one script
+/// ("Arial Greek", "Times New Roman CE", "Arial (Hebrew)"); no machine has such fonts, but the
+/// family itself contains the script. Other names, and names of installed fonts, are returned
+/// unchanged.
 QString drawnFace(const QString& family);
 
 } // namespace tarsil

@@ -5,12 +5,12 @@
 
 namespace tarsil {
 
-/// A surface that only remembers which rectangle holds all that is drawn on it, the widths of pens
-/// and the reach of letters included.
+/// A surface that only records the bounding rectangle of everything drawn, including pen widths and
+/// the overhang of letters.
 class InkBounds : public DeviceContext
 {
 public:
-    /// In pixels of the whole surface; null when nothing is drawn.
+    /// In pixels of the whole surface; null when nothing was drawn.
     const QRect& bounds() const { return m_bounds; }
 
     void drawLine(QPoint from, QPoint to, const Pen& pen) override;
@@ -27,7 +27,7 @@ private:
     void add(const QRect& rectangle);
 
     QRect m_bounds;
-    QRect m_clip; ///< null while there is none
+    QRect m_clip; ///< null: no clip
     QPoint m_origin;
     TextMetrics m_text;
 };

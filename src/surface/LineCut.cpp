@@ -15,8 +15,8 @@ bool isInside(QPointF point, const QRectF& rectangle)
 
 } // namespace
 
-/// The method of Liang and Barsky (1984): each edge narrows the range of the line's parameter, 0 at
-/// its beginning and 1 at its end.
+/// The algorithm of Liang and Barsky (1984): each edge narrows the range of the line's parameter,
+/// which is 0 at the start and 1 at the end.
 bool cutLine(QPointF& from, QPointF& to, const QRectF& rectangle)
 {
     if (isInside(from, rectangle) && isInside(to, rectangle))

@@ -4,15 +4,14 @@
 
 namespace tarsil {
 
-/// Surfaces and players are exact only so far from the picture: the square that reaches `distance`
-/// pixels to all sides of (0, 0).
+/// Surfaces and metafile players are exact only near the picture: in the square that extends
+/// `distance` pixels from (0, 0) in every direction.
 inline QRectF guardBand(double distance)
 {
     return {QPointF(-distance, -distance), QPointF(distance, distance)};
 }
 
-/// Cuts a line at the edges of a rectangle, so that it keeps its slope; false when no part of it
-/// lies there.
+/// Clips a line to a rectangle and keeps its slope. False when no part of the line is inside.
 bool cutLine(QPointF& from, QPointF& to, const QRectF& rectangle);
 
 } // namespace tarsil

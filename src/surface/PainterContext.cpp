@@ -17,17 +17,17 @@ namespace tarsil {
 namespace {
 
 constexpr qsizetype longestPolyline = 4096;
-/// The raster engine takes ten times as long for round joints as for plain lines; so narrow ones
-/// with square ends, half a pixel or two longer, look no different.
+/// The raster engine is ten times slower with round joins. On narrow lines square ends, up to two
+/// pixels longer, look the same.
 constexpr double narrowLine = 4;
-/// Painters are exact only so far from the surface; a line that goes farther is cut there.
+/// Painters are exact only near the surface; lines are clipped at this distance.
 constexpr double farthest = 16000;
 
 QPen painterPen(const Pen& pen)
 {
     const int width = std::max(pen.width, 1);
     QPen result(qtColor(pen.color), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
-    if (width == 1) { // caps and joins of so thin a line are not seen, but cost time
+    if (width == 1) { // round caps and joins are invisible at this width, but slow
         result.setCapStyle(isDashed(pen) ? Qt::FlatCap : Qt::SquareCap);
         result.setJoinStyle(Qt::BevelJoin);
     }
@@ -46,16 +46,16 @@ bool isRaster(const QPainter& painter)
     return painter.paintEngine()->type() == QPaintEngine::Raster;
 }
 
-/// Whether the raster engine draws lines of one unit's width in its own fast way: one pixel for
-/// each step of the longer side, shared with its neighbour.
+/// Whether the raster engine draws lines one unit wide by its fast path: one pixel for each step
+/// along the longer side, blended with its neighbour.
 bool drawsThinLinesByPixels(const QPainter& painter)
 {
     return isRaster(painter) && painter.deviceTransform().type() <= QTransform::TxTranslate;
 }
 
-/// A line from pixel centre to pixel centre, lengthened by half a step at each end so that both
-/// pixels are inked whole. (Caps would do the same, but that way moves a sloped line sideways with
-/// them.) A dashed line leaves its last pixel to the segment that follows.
+/// A line between pixel centres, extended by half a step at each end so that both end pixels are
+/// fully inked. (Square caps would do the same, but on that path sloped lines shift sideways.) A
+/// dashed line leaves its last pixel to the next segment.
 QLineF wholePixels(QPointF from, QPointF to, bool dashed)
 {
     const QPointF way = to - from;
@@ -82,7 +82,7 @@ PainterContext::~PainterContext()
     try {
         flush();
     } catch (const std::exception&) {
-        return; // comes to pass only after a failure, which is the one that is told
+        return; // happens only after an earlier failure, which is the one to report
     }
 }
 
@@ -135,7 +135,8 @@ void PainterContext::drawNarrowLines()
     m_painter.drawLines(lines);
 }
 
-/// One by one: at the joints of a thin polyline the raster engine leaves lighter pixels.
+/// Draws the segments one by one: in a thin polyline the raster engine leaves lighter pixels at the
+/// joins.
 void PainterContext::drawThinLines()
 {
     QPen pen = painterPen(m_pen);
@@ -153,7 +154,7 @@ void PainterContext::drawText(QPoint reference, const QString& text, const Font&
 {
     const QRect box = m_text.box(reference + m_origin, text, font, alignment);
     if (m_clip && !m_clip->intersects(TextMetrics::reach(box, font)))
-        return; // files would hold a text that nobody sees
+        return; // otherwise files would contain invisible text
     flush();
     m_painter.setFont(m_text.qtFont(font));
     m_painter.setPen(qtColor(color));

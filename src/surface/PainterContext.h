@@ -11,9 +11,9 @@ class QPainter;
 
 namespace tarsil {
 
-/// Draws with a QPainter: on an image or a printer page. Lines run through pixel centres.
-/// Connected solid lines of one pen are drawn as one polyline, which must not outlive this object:
-/// the picture is complete after `flush`. The destructor draws what is left when drawing failed.
+/// Draws with a QPainter on an image or a printer page. Lines run through pixel centres. Connected
+/// solid lines of one pen are collected and drawn as one polyline: the picture is complete after
+/// `flush`. The destructor draws the rest when drawing failed.
 class PainterContext : public DeviceContext
 {
 public:
@@ -30,7 +30,7 @@ public:
     void clearClip() override;
     void setOrigin(QPoint origin) override;
 
-    /// Draws what has been gathered so far.
+    /// Draws the collected lines.
     void flush();
 
 private:
@@ -41,11 +41,11 @@ private:
     QPainter& m_painter;
     QPoint m_origin;
     std::optional<QRect> m_clip; ///< in pixels of the whole surface
-    Pen m_pen; ///< of the lines gathered
-    QPolygonF m_points; ///< connected lines that have not been drawn yet
+    Pen m_pen; ///< pen of the collected lines
+    QPolygonF m_points; ///< connected lines not drawn yet
     TextMetrics m_text;
-    double m_narrowWidth; ///< up to this width lines are drawn without round joints
-    bool m_thinLinesByPixels; ///< lines of one pixel width go through the engine's fast way
+    double m_narrowWidth; ///< up to this width lines have no round joins
+    bool m_thinLinesByPixels; ///< lines one pixel wide use the fast path of the raster engine
 };
 
 } // namespace tarsil

@@ -6,7 +6,7 @@
 
 namespace tarsil {
 
-/// A stored colour, red in the low byte, as the toolkit's.
+/// Converts a stored colour, red in the low byte, to a QColor.
 inline QColor qtColor(ColorValue color)
 {
     return {color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF};

@@ -14,7 +14,7 @@ namespace tarsil {
 namespace {
 
 constexpr double millimetresPerPixel = 25.4 / 96;
-constexpr double farthest = 16000; ///< readers are exact only so far from the picture
+constexpr double farthest = 16000; ///< readers are exact only this near the picture
 
 QString numberText(double number)
 {
@@ -27,7 +27,7 @@ QString colorText(ColorValue color)
     return qtColor(color).name();
 }
 
-/// A family as a value of style sheets: in quotation marks, where it is not made of plain words.
+/// A font family as a CSS value, quoted unless it consists of plain words.
 QString familyText(const QString& family)
 {
     QString name = drawableText(family);
@@ -60,7 +60,7 @@ QString pointsText(const QPolygonF& points)
     return text;
 }
 
-/// How far beyond the clip a line has to go so that its end is not seen within.
+/// The rectangle to cut lines at: far enough outside the clip to hide their ends.
 QRectF cutOf(const std::optional<QRect>& clip, const Pen& pen)
 {
     if (!clip)
@@ -112,7 +112,7 @@ void SvgContext::drawLine(QPoint from, QPoint to, const Pen& pen)
         m_points.append(start);
     }
     m_points.append(end);
-    if (isDashed(pen)) // its dashes begin where the line begins, and not where it is cut
+    if (isDashed(pen)) // the dash pattern begins at the start of the line, not at the cut
         writeLines(QLineF(whole, start).length());
 }
 
@@ -147,8 +147,8 @@ void SvgContext::writeText(QPoint start, const QString& text, const Font& font, 
     m_xml.writeEndElement();
 }
 
-/// Underline and strike-out as rectangles: not every reader knows them as properties of a text.
-/// They stand where painters have them.
+/// Writes underline and strike-out as rectangles, because not every reader supports them as text
+/// properties. The positions are those of QPainter.
 void SvgContext::decorate(QPoint start, int width, const Font& font, ColorValue color)
 {
     const QFontMetricsF metrics(m_text.qtFont(font));
@@ -157,7 +157,7 @@ void SvgContext::decorate(QPoint start, int width, const Font& font, ColorValue 
         writeRectangle({start.x() + 0.0, start.y() + row - thickness / 2, width + 0.0, thickness},
                        colorText(color));
     };
-    if (font.underline) // clear of the letters, but no lower than they reach
+    if (font.underline) // below the letters, but not lower than their descenders
         writeLine(std::min(std::ceil(metrics.underlinePos()) + 0.5, metrics.descent() - 0.5));
     if (font.strikeOut)
         writeLine(-metrics.ascent() / 3);
@@ -195,14 +195,14 @@ void SvgContext::setOrigin(QPoint origin)
     m_origin = origin;
 }
 
-/// What was drawn before belongs to the clip before.
+/// Writes the collected lines first: they belong to the previous clip.
 void SvgContext::changeClip(std::optional<QRect> clip)
 {
     flush();
     m_clip = clip;
 }
 
-/// Opens the group of the present clip, if it is not open yet.
+/// Opens the group of the current clip unless it is open.
 void SvgContext::begin()
 {
     if (m_groupClip == m_clip)
@@ -217,7 +217,7 @@ void SvgContext::begin()
     m_xml.writeAttribute(QStringLiteral("clip-path"), QStringLiteral("url(#") + path + u')');
 }
 
-/// The name of a clip path, which is written when it is first wanted.
+/// The name of a clip path. Writes the path on first use.
 QString SvgContext::pathOf(const QRect& clip)
 {
     const auto nameOf = [](qsizetype index) {
@@ -253,7 +253,7 @@ void SvgContext::flush()
         writeLines(0);
 }
 
-/// Writes the lines gathered; of the pattern of dashes so many pixels are over where they begin.
+/// Writes the collected lines. The dash pattern starts `dashOffset` pixels after its beginning.
 void SvgContext::writeLines(double dashOffset)
 {
     begin();

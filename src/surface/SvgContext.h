@@ -14,9 +14,9 @@ class QIODevice;
 namespace tarsil {
 
 /// Writes a picture as SVG. Lines run through pixel centres; connected solid lines of one pen
-/// become one polyline. What is drawn under a clip belongs to a group with that clip path; texts
-/// wholly outside of it are left out, and lines are cut a little outside of it, for the readers
-/// that know no clip paths. Texts and names from files are values of the XML and never part of it.
+/// become one polyline. Clipped drawing goes into a group with a clip path. For readers without
+/// clip paths, text outside the clip is omitted and lines are cut shortly outside it. Text from
+/// files is written only as XML values.
 class SvgContext : public DeviceContext
 {
 public:
@@ -49,10 +49,10 @@ private:
     QXmlStreamWriter m_xml;
     QPoint m_origin;
     std::optional<QRect> m_clip; ///< in pixels of the whole surface
-    std::optional<QRect> m_groupClip; ///< of the group that is open
-    QList<QRect> m_paths; ///< the clip paths written so far
-    Pen m_pen; ///< of the lines gathered
-    QPolygonF m_points; ///< connected lines that are not written yet
+    std::optional<QRect> m_groupClip; ///< clip of the open group
+    QList<QRect> m_paths; ///< clip paths already written
+    Pen m_pen; ///< pen of the collected lines
+    QPolygonF m_points; ///< connected lines not written yet
     TextMetrics m_text;
 };
 

@@ -11,7 +11,7 @@ namespace tarsil {
 
 namespace {
 
-/// Letters larger than any picture, and a text longer than any: so sums of positions stay in range.
+/// Limits larger than any picture; they keep sums of positions in range.
 constexpr double largestLetters = 10000;
 constexpr int longestText = 1 << 26;
 
@@ -33,7 +33,7 @@ int advanceAt(const QString& text, qsizetype index, const QFontMetrics& metrics)
                   : metrics.horizontalAdvance(text[index]);
 }
 
-/// Shares `width` out in the proportion that the advances have.
+/// Scales the advances to a sum of `width`.
 void stretch(std::vector<int>& advances, int width)
 {
     const auto sum = std::accumulate(advances.begin(), advances.end(), std::int64_t {0});

@@ -9,20 +9,19 @@
 
 namespace tarsil {
 
-/// Height of a font's em in whole pixels, at least 1.
+/// The size of the font's em in whole pixels, at least 1.
 int pixelSize(const Font& font);
 
-/// The font that Qt draws and measures with: pixel size, full hinting and no kerning, so that every
-/// advance is a whole pixel, the same on screen and in files.
+/// The font for drawing and measuring: pixel size, full hinting and no kerning, so that every
+/// advance is a whole pixel, the same on the screen and in files.
 QFont screenFont(const Font& font);
 
-/// A text as it is drawn and measured: a blank for each character that shows nothing, or that
-/// picture files cannot hold (controls, tabs and line ends among them), and the replacement
-/// character for half of a character of two units.
+/// The text to draw and measure: each invisible character, and each that picture files cannot
+/// contain (controls, tabs, line ends), becomes a blank; an unpaired surrogate becomes U+FFFD.
 QString drawableText(const QString& text);
 
-/// Measures texts in whole pixels, for every surface the same. It remembers the font last asked
-/// for, as texts of one font mostly follow each other.
+/// Measures text in whole pixels, the same for every surface. Caches the last font, because texts
+/// of one font usually follow each other.
 class TextMetrics
 {
 public:
@@ -31,22 +30,23 @@ public:
     /// `screenFont` of the font.
     const QFont& qtFont(const Font& font) const;
 
-    /// Width: the sum of the advances; height: ascent and descent.
+    /// Width: the sum of the advances. Height: ascent plus descent.
     QSize extent(const QString& text, const Font& font) const;
 
-    /// Distance from the top of a text to its baseline.
+    /// The distance from the top of a text to its baseline.
     int ascent(const Font& font) const;
 
-    /// How far each UTF-16 unit moves on; the second unit of a character of two does not. Letters
-    /// that join (Arabic ones do) are together narrower than each by itself: all of them give way.
+    /// The advance of each UTF-16 unit; 0 for the second unit of a surrogate pair. Letters that
+    /// join, as in Arabic, are narrower together than alone: their advances are scaled down to the
+    /// joint width.
     std::vector<int> advances(const QString& text, const Font& font) const;
 
-    /// The rectangle of a text whose reference point stands at `reference`.
+    /// The rectangle of a text whose reference point is at `reference`.
     QRect box(QPoint reference, const QString& text, const Font& font,
               TextAlignment alignment) const;
 
-    /// What the letters of a text in this rectangle can ink: they reach out of it, slanted ones
-    /// above all.
+    /// The rectangle that the letters of a text in `box` can ink: some letters, above all slanted
+    /// ones, extend beyond it.
     static QRect reach(const QRect& box, const Font& font);
 
 private:

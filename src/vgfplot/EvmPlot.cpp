@@ -24,7 +24,8 @@ struct Range
     float largest;
 };
 
-/// Smallest and largest frequency of the points in the visible speeds, with a margin below.
+/// The smallest and largest frequency of the points in the visible speed range, with a margin at
+/// its lower end.
 std::optional<Range> visibleFrequencies(const SeriesList& series, float vmin, float vmax)
 {
     constexpr double margin = 0.8;
@@ -55,7 +56,7 @@ EvmPlot::EvmPlot()
     followRows();
 }
 
-/// A change of the rows is shown without being asked for.
+/// Marks the picture as stale on every change of the rows.
 void EvmPlot::followRows()
 {
     connect(&m_rows, &PlotRows::rowsAdded, &m_picture, &PlotPicture::showCurves);

@@ -23,12 +23,12 @@ namespace tarsil {
 
 class DeviceContext;
 
-/// The V-g-f plot of a set of modes: frequency above and damping below one speed axis, axis titles,
-/// and three text boxes. It needs no window. It composes rows, drawn items, properties, marks and
-/// texts, and draws them on the screen and into files alike; a change of any of them marks the
-/// picture as stale, and it is drawn when it is next asked for.
+/// The V-g-f plot of a set of modes: frequency above and damping below a common speed axis, axis
+/// titles, and three text boxes. Needs no window. It composes rows, drawn items, properties, marks
+/// and texts, and draws them on the screen and into files. A change of any of them marks the
+/// picture as stale; it is redrawn on the next request.
 ///
-/// Speeds are knots (KEAS), frequencies Hz, dampings g dimensionless (negative is stable).
+/// Speeds are KEAS, frequencies Hz, dampings g dimensionless (negative is stable).
 class EvmPlot : public QObject, public PlotContainer
 {
     Q_OBJECT
@@ -44,17 +44,17 @@ public:
     const PlotMarks& marks() const { return m_marks; }
     PlotTexts& texts() { return m_texts; }
 
-    /// What is drawn: canvases, axes, labels, text boxes.
+    /// The drawn items: canvases, axes, labels, text boxes.
     const PlotParts& parts() const { return m_parts; }
     const emfRichTextBox& Header() const { return m_parts.box(TextBox::Header); }
     const emfRichTextBox& Legend() const { return m_parts.box(TextBox::Legend); }
     const emfRichTextBox& Mechanism() const { return m_parts.box(TextBox::Mechanism); }
 
-    /// The series in order of drawing: those of the rows that have a curve.
+    /// The series of the rows that have a curve, in drawing order.
     const SeriesList& SeriesCollection() const override { return m_rows.curves(); }
 
-    /// Moves `count` rows from position `from` on, counted from 1, so that the first of them is at
-    /// position `to`; error 9 "Subscript out of range" outside the rows.
+    /// Moves `count` rows from position `from`, counted from 1, so that the first of them gets
+    /// position `to`. Error 9 "Subscript out of range" outside the rows.
     void SerieMove(std::size_t from, std::size_t to, std::size_t count = 1);
 
     PlotAxes axes() const { return m_parts.axes(); }
@@ -63,55 +63,55 @@ public:
                   float& gmax) const;
     void SetScale(float vmin, float vmax, float fmin, float fmax, float gmin, float gmax);
 
-    /// Fits the frequency axis to the points of all series whose speed lies above 0.8 vmin and
-    /// below vmax: 0.95 of the smallest to 1.05 of the largest, in whole Hz; 0.85 when they fall
-    /// together. With no such point, or when the bounds still fall together, the scale stays.
+    /// Fits the frequency axis to the points of all series with a speed above 0.8 vmin and below
+    /// vmax: from 0.95 of the smallest frequency to 1.05 of the largest, in whole Hz; from 0.85
+    /// when these are equal. Without such points, or if the bounds are equal even then, the scale
+    /// is unchanged.
     void fitFreq();
 
-    /// Empties both canvases and draws them at once, each on its own surface. No change needs it.
-    /// Errors: those of `ucPlot`.
+    /// Clears both canvases and draws them at once. Not needed after a change. Errors: those of
+    /// `ucPlot`.
     void plot() { m_picture.plot(); }
 
-    /// Empties both canvases; they stay so until `plot` or a change of the rows.
+    /// Clears both canvases until `plot` or a change of the rows.
     void Cls() { m_picture.Cls(); }
 
     bool Visible() const { return m_visible; }
     void setVisible(bool visible);
 
-    /// Copies the text boxes with their positions, the scale, and every property of `source`; its
-    /// series and marks are not copied.
+    /// Copies the text boxes with their positions, the scale, and every property of `source`, but
+    /// not its series and marks.
     void Clone(const EvmPlot& source);
 
-    /// Size of the plot in pixels at 96 per inch; lays the parts out. `ratio`: physical pixels of
-    /// the screen for each of them.
+    /// Sets the size in pixels at 96 per inch and updates the layout. `ratio`: physical pixels of
+    /// the screen for each pixel.
     void resize(QSize size, double ratio = 1) { m_picture.resize(size, ratio); }
     QSize size() const { return m_picture.size(); }
 
-    /// The picture on the screen, opaque; parts that have changed are drawn first. Errors: those of
-    /// the parts; what could be drawn is in the next picture.
+    /// The opaque picture for the screen. Draws stale items first. Errors: those of drawing; the
+    /// next call returns what could be drawn.
     const QImage& Image() { return m_picture.image(); }
 
-    /// Writes the picture as an Enhanced Metafile, whole or not at all. The file name is taken as
-    /// it is. Errors: those of drawing and of writing a file.
+    /// Writes the picture as an Enhanced Metafile, whole or not at all. The file name is used as
+    /// given. Errors: those of drawing and of writing a file.
     void ExportPic(const QString& fileName) const;
 
-    /// Draws the same picture into a caller's context: white ground, axes, titles, boxes, curves.
-    /// What is being edited is not in it: who wants it there calls `commitEdits` first.
+    /// Draws the picture into `context`: white ground, axes, titles, boxes, curves. Edits in
+    /// progress are not included; call `commitEdits` first to include them.
     void Draw(DeviceContext& context) const;
 
-    /// Asks whoever edits a text of the plot to put into the plot what has been typed. Called
-    /// before the plot is saved, copied or made a picture.
+    /// Asks the editor of a text to apply it to the plot. Call before the plot is saved, copied or
+    /// made a picture.
     void commitEdits() { Q_EMIT editsWanted(); }
 
 Q_SIGNALS:
-    /// The picture on the screen is no longer true.
+    /// The picture for the screen is stale.
     void changed();
 
     /// `commitEdits` was called.
     void editsWanted();
 
-    /// The plot is about to get other contents: what is being edited, or moved, goes with the old
-    /// ones.
+    /// The contents are about to be replaced; edits in progress are to be dropped.
     void contentsReplaced();
 
 private:

@@ -14,16 +14,16 @@ namespace tarsil {
 namespace {
 
 constexpr std::size_t markersPerCurve = 4;
-constexpr qsizetype mostNames = 6; ///< more do not fit into a line
+constexpr qsizetype mostNames = 6; ///< more do not fit on a line
 
-/// In the order in which files take them: a long dash comes last, since dashes begin anew with
-/// every point and close points leave no room for its gap.
+/// In the order of use. Long dashes come last: dashes begin anew at every point, and between close
+/// points there is no room for their gaps.
 constexpr std::array lineStyles = {penstyle::solid, penstyle::dot, penstyle::dashDot,
                                    penstyle::dashDotDot, penstyle::dash};
 
 using Evolutions = std::vector<EVM*>;
 
-/// What all evolutions say alike; empty when they differ.
+/// The text of all evolutions if it is the same, otherwise empty.
 template <typename Text>
 QString commonText(const Evolutions& evolutions, Text textOf)
 {
@@ -33,7 +33,7 @@ QString commonText(const Evolutions& evolutions, Text textOf)
     return isCommon ? QString::fromStdString(first) : QString();
 }
 
-/// The texts that are there, with a dash between them.
+/// Joins the texts that are not empty with dashes.
 QString joined(QStringList texts)
 {
     texts.removeAll(QString());
@@ -51,7 +51,7 @@ std::string machText(const EVM& evolution)
     return mach > 0 ? "Mach No. " + formatNumber(mach, "0.00#") : std::string();
 }
 
-/// Airplane and mass configuration, then method and Mach number: what is the same in all files.
+/// Airplane and mass configuration, then method and Mach number, as far as all files share them.
 QString caseText(const Evolutions& evolutions)
 {
     const QString airplane =
@@ -65,7 +65,7 @@ QString caseText(const Evolutions& evolutions)
     return lines.join(QStringLiteral("\r\n"));
 }
 
-/// How many files have curves in the plot.
+/// The number of files with curves in the plot.
 std::size_t fileCount(const SeriesList& series)
 {
     std::set<const EVM*> files;
@@ -99,7 +99,7 @@ void addCurves(EvmPlot& plot, const EvolutionCurves& curves, const CurveMarkers&
     plot.rows().add(std::move(added));
 }
 
-/// The titles of the axes stay.
+/// Keeps the titles of the axes.
 void fitScales(EvmPlot& plot)
 {
     const PlotAxes fitted = fitAxes(plot.SeriesCollection());

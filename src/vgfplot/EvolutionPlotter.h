@@ -12,8 +12,7 @@ namespace tarsil {
 class EVM;
 class EvmPlot;
 
-/// What is drawn of one file: the evolution and those of its modes that get curves. Nothing is
-/// owned.
+/// An evolution and those of its modes that get curves. Nothing is owned.
 struct EvolutionCurves
 {
     EVM* evolution;
@@ -23,24 +22,24 @@ struct EvolutionCurves
 /// Every mode of an evolution.
 EvolutionCurves allCurvesOf(EVM& evolution);
 
-/// What marks the points of curves.
+/// The markers of the curves of files.
 struct CurveMarkers
 {
     MarkerKind kind = MarkerKind::ModeNumber;
-    std::int32_t factor = 0; ///< counted from 1, for the kind that shows one
-    std::optional<std::int32_t> spacing; ///< points from one marker to the next
+    std::int32_t factor = 0; ///< index of the factor, counted from 1, for the kind that shows one
+    std::optional<std::int32_t>
+        spacing; ///< points between markers; empty: about four markers for each curve
     std::int32_t size = 8; ///< points
 };
 
-/// More make no picture, and take long to draw.
+/// More curves are unreadable and slow to draw.
 constexpr std::size_t mostCurves = 500;
 
-/// The plot that files make before anybody has said how it should look, the same in a window and in
-/// a picture: each mode gets a curve, marked here and there (four times or so, unless `spacing`
-/// says otherwise), and each file a line style of its own, counted over all curves of the plot. A
-/// plot without curves and with the scale of a new one gets axes that fit them; an empty header or
-/// subtitle says what the files have in common and how they are called. Files that would bring the
-/// plot beyond `mostCurves` are left out; returns how many are drawn, the first ones.
+/// Adds files to a plot in the standard look, the same in a window and in a picture. Each mode gets
+/// a curve with about four markers (or as `spacing` says); each file gets its own line style,
+/// counted over all curves of the plot. If the plot was empty and its scale that of a new plot, its
+/// axes are fitted; an empty header or subtitle is filled with what the files have in common and
+/// their names. Stops before the plot would exceed `mostCurves`; returns the number of files drawn.
 std::size_t plotCurves(EvmPlot& plot, const std::vector<EvolutionCurves>& files,
                        const CurveMarkers& markers = {});
 

@@ -18,10 +18,10 @@ std::map<std::size_t, EditedRecord> editedRecordsOf(const std::vector<const EVM*
 void applyEdited(const std::map<std::size_t, EditedRecord>& edited,
                  const std::vector<EVM*>& evolutions)
 {
-    for (const auto& [place, record] : edited) {
-        if (place < 1 || place > evolutions.size() || evolutions[place - 1] == nullptr)
+    for (const auto& [position, record] : edited) {
+        if (position < 1 || position > evolutions.size() || evolutions[position - 1] == nullptr)
             continue;
-        Param& param = evolutions[place - 1]->Param;
+        Param& param = evolutions[position - 1]->Param;
         param.Airplane = record.airplane;
         param.Mass = record.mass;
         param.Mach = record.mach;

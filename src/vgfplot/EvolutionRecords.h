@@ -10,12 +10,12 @@ namespace tarsil {
 
 class EVM;
 
-/// The parameters of those evolutions that are no longer what their files say, by their places in
-/// `evolutions`, from 1.
+/// The edited parameters: those that differ from their files, by position in `evolutions`, counted
+/// from 1.
 std::map<std::size_t, EditedRecord> editedRecordsOf(const std::vector<const EVM*>& evolutions);
 
-/// Gives evolutions their edited parameters. `evolutions` is the list of files as it was saved,
-/// null for one that is not there; what a place beyond it names is passed over.
+/// Applies edited parameters to evolutions. `evolutions` is the list of files as saved, null for a
+/// missing file. Positions beyond the list are ignored.
 void applyEdited(const std::map<std::size_t, EditedRecord>& edited,
                  const std::vector<EVM*>& evolutions);
 

@@ -8,7 +8,7 @@ namespace tarsil {
 
 namespace {
 
-/// Whether a number, counted from 1, is one of a list.
+/// Whether a number, counted from 1, is a position in a list of `count` entries.
 bool isIn(std::int16_t number, std::size_t count)
 {
     return number >= 1 && static_cast<std::size_t>(number) <= count;

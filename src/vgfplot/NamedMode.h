@@ -10,24 +10,24 @@ namespace tarsil {
 class AeMode;
 class EVM;
 
-/// What the numbers of a series in a workspace name.
+/// The evolution and mode that the numbers of a series in a workspace refer to.
 struct NamedMode
 {
     enum class Fault {
         None,
-        NoEvolution, ///< the number of the evolution is not in the workspace's list
+        NoEvolution, ///< the list of the workspace has no evolution of that number
         NoMode ///< the evolution has no mode of that number
     };
 
     Fault fault = Fault::None;
-    EVM* evolution = nullptr; ///< null where it is not open
-    AeMode* mode = nullptr; ///< null at a fault, and where the evolution is not open
+    EVM* evolution = nullptr; ///< null if it is not open
+    AeMode* mode = nullptr; ///< null after a fault, and if the evolution is not open
 };
 
-/// `evolutions` are those of the workspace's list, null for one that is not open.
+/// `evolutions` are those in the list of the workspace; null for one that is not open.
 NamedMode namedMode(const SeriesRecord& series, const std::vector<EVM*>& evolutions);
 
-/// For each entry of a workspace's list, whether a series of these plots names it.
+/// For each entry in the list of a workspace, whether a series of these plots refers to it.
 std::vector<bool> namedEvolutions(const std::vector<PlotRecord>& plots, std::size_t listed);
 
 } // namespace tarsil

@@ -20,14 +20,14 @@ namespace {
 constexpr int pixelsPerInch = 96;
 constexpr double pointsPerInch = 72;
 constexpr double inchesPerMetre = 1 / 0.0254;
-constexpr double clipboardScale = 2; ///< a bitmap that still looks sharp in a printed report
+constexpr double clipboardScale = 2; ///< sharp enough for a printed report
 
 [[noreturn]] void fail(const char* details)
 {
     throw RunTimeError(ErrorNumber::InvalidProcedureCall, "PictureWriter", details);
 }
 
-/// The separators are the two characters backslash and zero, as every such picture has had them.
+/// The separators are a backslash and the digit zero, as in all such pictures so far.
 const QString description = QStringLiteral("Tarsil\\0Created by Kestrin\\0\\0");
 
 const QString title = QStringLiteral("V-g-f plot");
@@ -65,9 +65,8 @@ void writePdf(const EvmPlot& plot, QBuffer& buffer)
     draw(plot, writer);
 }
 
-/// The toolkit rounds a page to whole points and lets the drawing begin at its upper left corner.
-/// Gives it the size it was asked for, in the place of the rounded one, so that nothing else in
-/// the file moves.
+/// Qt rounds the page to whole points, with the drawing at its upper left corner. Writes the exact
+/// size over the rounded one without changing any offset in the file.
 QByteArray withExactPage(QByteArray pdf, QSizeF points)
 {
     const QByteArray key = "/MediaBox [";
@@ -81,7 +80,7 @@ QByteArray withExactPage(QByteArray pdf, QSizeF points)
     const QByteArray box =
         "0 " + text(top - points.height()) + ' ' + text(points.width()) + ' ' + text(top);
     if (box.size() > length)
-        fail("a page size that does not fit into its place");
+        fail("a page size that is too long for its field");
     return pdf.replace(start, length, box.leftJustified(length));
 }
 
@@ -141,7 +140,7 @@ std::unique_ptr<QMimeData> pictureMimeData(const EvmPlot& plot)
 {
     auto data = std::make_unique<QMimeData>();
     const QByteArray metafile = pictureBytes(plot, PictureFormat::Emf);
-    // One picture under the names that it goes by: there is no single one for metafiles.
+    // One picture under several names: there is no standard one for metafiles.
     data->setData(QStringLiteral("application/x-openoffice-emf;windows_formatname=\"Image EMF\""),
                   metafile);
     data->setData(QStringLiteral("image/x-emf"), metafile);

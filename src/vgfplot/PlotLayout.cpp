@@ -8,7 +8,7 @@ namespace tarsil {
 
 namespace {
 
-// Fractions of the plot's own width and height.
+// Fractions of the width and height of the plot.
 constexpr double canvasTop = 0.1 + 0.03;
 constexpr double canvasLeft = 0.1;
 constexpr double canvasWidth = 0.75;
@@ -20,12 +20,12 @@ constexpr double legendLeft = canvasLeft + canvasWidth + titleGap;
 // Pixels. Even, so that the line in the middle of an axis is on a whole pixel.
 constexpr int speedAxisHeight = 64;
 constexpr int verticalAxisWidth = 120;
-constexpr int edge = 8; ///< between a text box and the plot's edge
+constexpr int edge = 8; ///< between a text box and the edge of the plot
 
-/// The upper half is rounded to pixels and the V-g canvas is exactly two of it, so that the speed
-/// axis is on the row of the middle, whatever the size. Half is an even number: a position half-way
-/// between two pixels then falls on the same one, counted from the canvas' upper edge (a curve) or
-/// from the speed axis (a tick).
+/// The upper half has a whole number of pixels and the V-g canvas is exactly twice as high, so that
+/// the speed axis is always on the middle row. The half is even: a position half-way between two
+/// pixels then rounds to the same pixel whether it is counted from the top of the canvas (a curve)
+/// or from the speed axis (a tick).
 void layOutCanvases(QSize plot, PlotLayout& layout)
 {
     const QPoint corner(roundToPixel(canvasLeft * plot.width()),
@@ -48,7 +48,7 @@ void layOutAxes(PlotLayout& layout)
     layout.gAxis = {axisLeft, origin.y(), verticalAxisWidth, half};
 }
 
-/// A title whose left edge is in that column and whose middle is in that row.
+/// The rectangle of a title with its left edge in `column`, centred on row `middle`.
 QRect titleAt(int column, int middle, QSize size)
 {
     return {QPoint(column, middle - size.height() / 2), size};
@@ -96,7 +96,7 @@ QPoint usualSubtitlePosition(const QRect& header)
 
 } // namespace
 
-QRect shownPlace(const QRect& box, QSize plot)
+QRect shownRectangle(const QRect& box, QSize plot)
 {
     return {QPoint(shownPosition(box.left(), box.width(), plot.width()),
                    shownPosition(box.top(), box.height(), plot.height())),
@@ -112,7 +112,7 @@ PlotLayout layOutPlot(QSize plot, const TitleSizes& titles, const BoxSizes& boxe
     layOutHeader(plot, boxes, layout);
     const auto placed = [plot](const PlacedBox& box, QPoint usual) {
         const QPoint position = box.position.value_or(usual);
-        return BoxLayout {position, shownPlace({position, box.size}, plot)};
+        return BoxLayout {position, shownRectangle({position, box.size}, plot)};
     };
     layout.legend =
         placed(boxes.legend, usualLegendPosition(plot, boxes.legend.size.width(), layout));

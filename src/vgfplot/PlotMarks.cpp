@@ -40,7 +40,7 @@ QString PlotMarks::shiftNote() const
         return {};
     const QString side = begin > 0 ? QStringLiteral("right") : QStringLiteral("left");
     const auto text = [](double speed) { return QString::fromStdString(shortestText(speed)); };
-    return QStringLiteral("Reference speeds stand ") + text(std::fabs(begin))
+    return QStringLiteral("Reference speeds are drawn ") + text(std::fabs(begin))
         + QStringLiteral(" knots too far ") + side + QStringLiteral(": the speed axis begins at ")
         + text(begin);
 }

@@ -18,7 +18,7 @@ struct PlotParts;
 class PlotMarks
 {
 public:
-    /// A damping line, wherever it begins and ends.
+    /// A damping line without its ends.
     struct DampLine
     {
         float g = 0;
@@ -28,32 +28,31 @@ public:
     /// Both must outlive the object.
     PlotMarks(PlotParts& parts, PlotPicture& picture) : m_parts(parts), m_picture(picture) { }
 
-    /// Both draw the speed axis again. Error 11 for an axis that cannot be drawn; the change is
-    /// made all the same.
+    /// Adds a mark, or removes all marks, and redraws the speed axis. Error 11 for an axis that
+    /// cannot be drawn; the change is made all the same.
     void AddRef(float speed, const QString& caption);
     void RemoveRef();
 
     const std::vector<RefThick>& referenceSpeeds() const;
 
-    /// Replaces all reference speeds; nothing is drawn.
+    /// Replaces all reference speeds; does not draw.
     void setReferenceSpeeds(std::vector<RefThick> marks);
 
-    /// A note about marks that are not at their speeds: a mark is measured from the left end of the
-    /// speed axis, so that it is elsewhere on an axis that does not begin at 0. Empty while all
-    /// marks are at their speeds.
+    /// A note on misplaced marks: a mark is measured from the left end of the speed axis, so it is
+    /// at its speed only when the axis begins at 0. Empty when all marks are at their speeds.
     QString shiftNote() const;
 
-    /// A horizontal line at damping g across the present speed range. Both draw the plot again;
-    /// errors as `PlotPicture::plot`.
+    /// A horizontal line at damping g across the current speed range. Both functions redraw the
+    /// plot; errors as in `PlotPicture::plot`.
     void AddDampLine(float g, const QString& caption);
     void RemoveDampLine();
 
     const std::vector<RefLine>& dampingLines() const;
 
-    /// Replaces all damping lines by lines across the present speed range; nothing is drawn.
+    /// Replaces all damping lines by lines across the current speed range; does not draw.
     void setDampingLines(const std::vector<DampLine>& lines);
 
-    /// The same with lines that have their own ends.
+    /// Replaces all damping lines by lines with their own ends; does not draw.
     void restoreDampingLines(std::vector<RefLine> lines);
 
 private:

@@ -31,7 +31,7 @@ AxisValues valuesOf(const PlotAxis& axis, const trspLabel& title)
             static_cast<float>(axis.Max()), axis.nThick()};
 }
 
-/// What a person reads in the bounds: -0.35, and not the -0.34999999 of the single.
+/// Sets the decimal values of the bounds: -0.35, not -0.34999999 of the single.
 void setRange(PlotAxis& axis, float min, float max)
 {
     axis.setMin(decimalValue(min));
@@ -47,13 +47,13 @@ PlacedBox placed(const emfRichTextBox& box)
     return wanted;
 }
 
-/// The size of the header without the width that the layout gives it.
+/// The size of the header without the width given by the layout.
 QSize headerSize(const emfRichTextBox& header)
 {
     return {header.textSize().width(), header.Height()};
 }
 
-/// A box that the user has moved keeps its position, also where it is shown elsewhere.
+/// A box that the user moved keeps its position, even where it is shown elsewhere.
 void place(emfRichTextBox& box, const BoxLayout& layout)
 {
     if (!box.wasMoved())

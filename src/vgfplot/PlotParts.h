@@ -16,7 +16,7 @@
 namespace tarsil {
 
 /// The drawn items of a V-g-f plot. Their scales and positions are set together, so that axes and
-/// canvases agree.
+/// canvases are consistent.
 ///
 ///     f(Hz) |  V-f curves            vfPlot (upper half), freqAxis
 ///           |
@@ -36,18 +36,18 @@ struct PlotParts
 
     static constexpr std::size_t count = 8 + allTextBoxes.size();
 
-    /// All items; what is drawn last lies on top.
+    /// All items; the last one is on top.
     std::array<PlotControl*, count> inDrawingOrder();
     std::array<const PlotControl*, count> inDrawingOrder() const;
 
-    /// The ends, tick counts and titles that the axes and labels have.
+    /// The bounds, tick counts and titles of axes and labels.
     PlotAxes axes() const;
 
     /// Sets the scales of axes and canvases. The V-g canvas spans both halves; its lower half
-    /// agrees with the damping axis.
+    /// matches the damping axis.
     void setBounds(const PlotBounds& bounds);
 
-    /// Gives every item its position in a plot of that size (`layOutPlot`).
+    /// Positions every item in a plot of a given size (`layOutPlot`).
     void layOut(QSize plot);
 
     ucPlot vgPlot;
@@ -59,7 +59,7 @@ struct PlotParts
     trspLabel gAxisLabel;
     trspLabel freqAxislabel;
     std::array<emfRichTextBox, allTextBoxes.size()> ertbTexts; ///< by `TextBox`
-    double headerTop = 60; ///< upper edge of the header's row, twentieths of a point
+    double headerTop = 60; ///< upper edge of the header's row in twentieths of a point
 };
 
 } // namespace tarsil

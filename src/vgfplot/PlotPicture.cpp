@@ -101,7 +101,7 @@ void PlotPicture::compose()
     const QSize pixels = m_size * m_ratio;
     if (m_image.size() != pixels)
         m_image = QImage(pixels, QImage::Format_RGB32);
-    m_image.setDevicePixelRatio(1); // the parts' surfaces count physical pixels
+    m_image.setDevicePixelRatio(1); // surfaces are in physical pixels
     m_image.fill(Qt::white);
     m_isComposed = true;
     if (m_image.isNull())

@@ -8,8 +8,8 @@ namespace tarsil {
 
 struct PlotParts;
 
-/// The picture of a V-g-f plot on the screen. Every part is drawn on its own surface, and the
-/// picture is composed of these. What has changed is drawn when the picture is next asked for.
+/// The picture of a V-g-f plot on the screen, composed of the surfaces of the drawn items. Stale
+/// items are redrawn on the next request.
 class PlotPicture : public QObject
 {
     Q_OBJECT
@@ -18,37 +18,37 @@ public:
     /// `parts` must outlive the picture.
     explicit PlotPicture(PlotParts& parts);
 
-    /// Size of the plot in pixels at 96 per inch, at least 1 x 1; lays the parts out. `ratio`:
-    /// physical pixels of the screen for each of them.
+    /// Sets the size in pixels at 96 per inch, at least 1 x 1, and updates the layout. `ratio`:
+    /// physical pixels of the screen for each pixel.
     void resize(QSize size, double ratio);
     QSize size() const { return m_size; }
 
-    /// Lays the parts out again and marks the picture as stale. Called when a size has changed.
+    /// Updates the layout and marks the picture as stale. Call after a size has changed.
     void layOut();
 
     /// Marks the picture as stale.
     void invalidate();
 
-    /// The same, and the canvases show curves from now on.
+    /// Marks the picture as stale; from now on the canvases show curves.
     void showCurves();
 
-    /// A part has been drawn on its own surface: the picture is composed again, and nothing else
-    /// is drawn.
+    /// Composes the picture again on the next request, without drawing any item. Call after an item
+    /// was drawn on its own surface.
     void composeAgain();
 
-    /// Empties both canvases and draws all parts at once. A part that fails does not prevent the
-    /// others from being drawn; its error is raised afterwards.
+    /// Clears both canvases and draws all items at once. If items fail, the others are still drawn,
+    /// and the error is raised afterwards.
     void plot();
 
-    /// Empties both canvases; they stay so until `plot` or `showCurves`.
+    /// Clears both canvases until `plot` or `showCurves`.
     void Cls();
 
-    /// The picture, opaque; parts that have changed are drawn first. Errors: those of the parts;
-    /// the next picture has what could be drawn.
+    /// The opaque picture. Draws stale items first. Errors: those of drawing; the next call returns
+    /// what could be drawn.
     const QImage& image();
 
 Q_SIGNALS:
-    /// The picture is no longer what the plot looks like.
+    /// The picture is out of date.
     void changed();
 
 private:
@@ -56,8 +56,8 @@ private:
     void compose();
 
     PlotParts& m_parts;
-    bool m_isPlotted = false; ///< the canvases show curves
-    bool m_isStale = true; ///< parts have changed since they were drawn
+    bool m_isPlotted = false; ///< whether the canvases show curves
+    bool m_isStale = true; ///< items have changed since they were drawn
     bool m_isComposed = false;
     QSize m_size {1, 1};
     double m_ratio = 1;

@@ -22,14 +22,14 @@ PlotProperties::PlotProperties(PlotParts& parts, PlotPicture& picture)
 void PlotProperties::setCaption(const QString& caption)
 {
     m_caption = caption;
-    m_changed.mark(QStringLiteral("Caption"));
+    m_changed.add(QStringLiteral("Caption"));
     Q_EMIT m_picture.changed();
 }
 
 void PlotProperties::setModeColor(int value)
 {
     m_modeColor = value;
-    m_changed.mark(QStringLiteral("ModeColor"));
+    m_changed.add(QStringLiteral("ModeColor"));
     showModeColor();
 }
 
@@ -47,7 +47,7 @@ std::int16_t PlotProperties::vthicks() const
 void PlotProperties::setVthicks(std::int16_t count)
 {
     m_parts.velAxis.setNThick(count);
-    m_changed.mark(QStringLiteral("vThicks"));
+    m_changed.add(QStringLiteral("vThicks"));
     m_picture.invalidate();
 }
 
@@ -59,7 +59,7 @@ std::int16_t PlotProperties::gthicks() const
 void PlotProperties::setGthicks(std::int16_t count)
 {
     m_parts.gAxis.setNThick(count);
-    m_changed.mark(QStringLiteral("gThicks"));
+    m_changed.add(QStringLiteral("gThicks"));
     m_picture.invalidate();
 }
 
@@ -71,7 +71,7 @@ std::int16_t PlotProperties::fthicks() const
 void PlotProperties::setFthicks(std::int16_t count)
 {
     m_parts.freqAxis.setNThick(count);
-    m_changed.mark(QStringLiteral("fThicks"));
+    m_changed.add(QStringLiteral("fThicks"));
     m_picture.invalidate();
 }
 
@@ -83,7 +83,7 @@ const QString& PlotProperties::vLabel() const
 void PlotProperties::setVLabel(const QString& text)
 {
     m_parts.velAxisLabel.setCaption(text);
-    m_changed.mark(QStringLiteral("vLabel"));
+    m_changed.add(QStringLiteral("vLabel"));
     m_picture.layOut();
 }
 
@@ -95,7 +95,7 @@ const QString& PlotProperties::gLabel() const
 void PlotProperties::setGLabel(const QString& text)
 {
     m_parts.gAxisLabel.setCaption(text);
-    m_changed.mark(QStringLiteral("gLabel"));
+    m_changed.add(QStringLiteral("gLabel"));
     m_picture.layOut();
 }
 
@@ -107,7 +107,7 @@ const QString& PlotProperties::fLabel() const
 void PlotProperties::setFLabel(const QString& text)
 {
     m_parts.freqAxislabel.setCaption(text);
-    m_changed.mark(QStringLiteral("fLabel"));
+    m_changed.add(QStringLiteral("fLabel"));
     m_picture.layOut();
 }
 

@@ -12,12 +12,12 @@ namespace tarsil {
 class PlotPicture;
 struct PlotParts;
 
-/// The properties of a V-g-f plot that a property bag keeps: caption, colour scheme, and tick count
-/// and title of each axis. Setting one passes it to the parts that show it.
+/// The properties of a V-g-f plot that are stored in a property bag: caption, colour scheme, and
+/// the tick count and title of each axis. A setter passes the value to the items that show it.
 class PlotProperties
 {
 public:
-    /// Both must outlive the object. The properties get their defaults (`ReadProperties`).
+    /// Both must outlive the object. Sets the defaults (`ReadProperties`).
     PlotProperties(PlotParts& parts, PlotPicture& picture);
 
     const QString& Caption() const { return m_caption; }

@@ -20,13 +20,13 @@ struct SpeedRange
     double high;
 };
 
-/// The range of t in which a line a + t d lies in a canvas.
+/// The range of t in which a line a + t d is inside a canvas.
 struct LinePart
 {
     double begin = 0;
     double end = 1;
 
-    /// Keeps the part whose coordinate from + t step is within 0 and last; false when none is left.
+    /// Clips to 0 <= from + t step <= last. False when nothing is left.
     bool keepWithin(double from, double step, double last)
     {
         if (step == 0)
@@ -39,17 +39,17 @@ struct LinePart
     }
 };
 
-/// The place nearest to a pixel of all the curves that were looked at.
-struct NearestPlace
+/// The point nearest to a pixel among all curves searched so far.
+struct NearestPoint
 {
     double squaredDistance = curveReach * curveReach;
     const Series* series = nullptr;
     const Point* from = nullptr; ///< the points of the segment
     const Point* to = nullptr;
-    double fraction = 0; ///< where between them, 0 to 1
+    double fraction = 0; ///< between the points, 0 to 1
 };
 
-/// Looks along the curves of one canvas.
+/// Searches the curves of a canvas.
 class CurveSearch
 {
 public:
@@ -58,7 +58,7 @@ public:
           m_speeds(speeds)
     { }
 
-    void lookAt(const Series& series, NearestPlace& nearest) const
+    void lookAt(const Series& series, NearestPoint& nearest) const
     {
         const std::vector<Point>& points = series.Mode->Points;
         for (std::size_t i = 1; i < points.size(); ++i) {
@@ -72,7 +72,7 @@ public:
 
 private:
     void lookAt(const Series& series, const Point& from, const Point& to,
-                NearestPlace& nearest) const
+                NearestPoint& nearest) const
     {
         const QPointF start = m_canvas.pixelOf(from.speed, from.*m_ordinate);
         const QPointF line = m_canvas.pixelOf(to.speed, to.*m_ordinate) - start;
@@ -96,25 +96,25 @@ private:
     SpeedRange m_speeds;
 };
 
-/// Whether a canvas draws lines for a series; it counts points in 16 bits.
+/// Whether a canvas draws lines for a series. A canvas counts points in 16 bits.
 bool drawsLines(const Series& series)
 {
     return series.Mode != nullptr && series.LineStyle != penstyle::none
         && series.Mode->Points.size() <= std::numeric_limits<std::int16_t>::max();
 }
 
-CurveReading curveAt(const NearestPlace& place)
+CurveReading curveAt(const NearestPoint& nearest)
 {
-    const auto between = [&place](float Point::*value) {
-        return std::lerp(static_cast<double>(place.from->*value),
-                         static_cast<double>(place.to->*value), place.fraction);
+    const auto between = [&nearest](float Point::*value) {
+        return std::lerp(static_cast<double>(nearest.from->*value),
+                         static_cast<double>(nearest.to->*value), nearest.fraction);
     };
-    const AeMode& mode = *place.series->Mode;
+    const AeMode& mode = *nearest.series->Mode;
     CurveReading reading;
     if (mode.Parent != nullptr)
         reading.evolution = QString::fromStdString(mode.Parent->FileName);
     reading.mode = mode.Id;
-    reading.tag = place.series->MarkerTag;
+    reading.tag = nearest.series->MarkerTag;
     reading.speed = between(&Point::speed);
     reading.frequency = between(&Point::f);
     reading.damping = between(&Point::G);
@@ -125,7 +125,7 @@ std::optional<CurveReading> nearestCurve(const EvmPlot& plot, QPoint pixel, Spee
 {
     const CurveSearch frequencies(plot.parts().vfPlot, &Point::f, pixel, speeds);
     const CurveSearch dampings(plot.parts().vgPlot, &Point::G, pixel, speeds);
-    NearestPlace nearest;
+    NearestPoint nearest;
     const auto lookAlong = [&](const CurveSearch& curves) {
         for (const Series& series : plot.SeriesCollection()) {
             if (drawsLines(series))
@@ -201,7 +201,7 @@ std::optional<PlotReading> readAt(const EvmPlot& plot, QPoint pixel)
         reading.ordinate = PlotReading::Ordinate::Damping;
         reading.value = mapOf(plot.parts().gAxis, half).valueAt(row);
     }
-    // One pixel more, since the canvas draws on whole pixels.
+    // One pixel more, because the canvas rounds to whole pixels.
     const auto [low, high] =
         std::minmax({speedAt(pixel.x() - curveReach - 1), speedAt(pixel.x() + curveReach + 1)});
     reading.curve = nearestCurve(plot, pixel, {low, high});

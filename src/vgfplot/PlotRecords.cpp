@@ -18,14 +18,14 @@ TextRecord recordOf(const emfRichTextBox& box)
     return {box.TextRTF(), BoxPosition {box.unitsLeft(), box.unitsTop()}};
 }
 
-/// The place from 1 of a thing in a list; 0 when it is not there.
+/// The position of an element in a list, counted from 1; 0 when it is not there.
 template <typename List, typename Thing>
-std::int16_t placeIn(const List& list, const Thing* thing)
+std::int16_t positionIn(const List& list, const Thing* thing)
 {
-    const auto place =
+    const auto found =
         std::find_if(list.begin(), list.end(), [thing](const auto& one) { return &*one == thing; });
-    return place == list.end() ? std::int16_t {0}
-                               : static_cast<std::int16_t>(place - list.begin() + 1);
+    return found == list.end() ? std::int16_t {0}
+                               : static_cast<std::int16_t>(found - list.begin() + 1);
 }
 
 SeriesRecord recordOf(const Series& series, const std::vector<const EVM*>& evolutions)
@@ -34,8 +34,8 @@ SeriesRecord recordOf(const Series& series, const std::vector<const EVM*>& evolu
     if (series.Mode == nullptr || series.Mode->Parent == nullptr)
         return record;
     const EVM& evolution = *series.Mode->Parent;
-    record.evolution = placeIn(evolutions, &evolution);
-    record.mode = placeIn(evolution.Modes, series.Mode);
+    record.evolution = positionIn(evolutions, &evolution);
+    record.mode = positionIn(evolution.Modes, series.Mode);
     record.markerTag = series.MarkerTag.toStdString();
     record.markerSize = series.MarkerSize;
     record.markerSpacing = series.MarkerSpacing;
@@ -45,21 +45,21 @@ SeriesRecord recordOf(const Series& series, const std::vector<const EVM*>& evolu
     record.markerForegroundColor = series.MarkerForegroundColor;
     record.lineStyle = series.LineStyle;
     record.lineWidth = series.LineWidth;
-    record.factor = std::max(series.IthMpf, 1); // 0: nobody chose one
+    record.factor = std::max(series.IthMpf, 1); // 0: never set
     return record;
 }
 
-std::vector<MarkRecord> referenceSpeedsOf(const EvmPlot& plot)
+std::vector<ReferenceRecord> referenceSpeedsOf(const EvmPlot& plot)
 {
-    std::vector<MarkRecord> marks;
+    std::vector<ReferenceRecord> marks;
     for (const RefThick& mark : plot.marks().referenceSpeeds())
         marks.push_back({mark.Speed, mark.Caption.toStdString()});
     return marks;
 }
 
-std::vector<MarkRecord> dampingLinesOf(const EvmPlot& plot)
+std::vector<ReferenceRecord> dampingLinesOf(const EvmPlot& plot)
 {
-    std::vector<MarkRecord> marks;
+    std::vector<ReferenceRecord> marks;
     for (const RefLine& line : plot.marks().dampingLines())
         marks.push_back({line.Y1, line.Caption.toStdString()});
     return marks;
@@ -89,7 +89,7 @@ void applyText(const TextRecord& record, TextBox which, EvmPlot& plot)
                            + std::to_string(record.evolution));
 }
 
-/// The mode that a series of a record draws; null when its file is not there.
+/// The mode of a series; null when its file is missing.
 AeMode* modeOf(const SeriesRecord& record, const std::vector<EVM*>& evolutions, const EvmPlot& plot)
 {
     const NamedMode named = namedMode(record, evolutions);
@@ -117,7 +117,7 @@ Series seriesOf(const SeriesRecord& record, AeMode& mode)
     return series;
 }
 
-/// All rows are added together; before an error those that come before it.
+/// Adds all rows at once; after an error those before the faulty one.
 void applySeries(const PlotRecord& record, const std::vector<EVM*>& evolutions, EvmPlot& plot)
 {
     std::vector<Series> series;
@@ -133,15 +133,15 @@ void applySeries(const PlotRecord& record, const std::vector<EVM*>& evolutions, 
     plot.rows().add(std::move(series));
 }
 
-/// After the scale, which says how long the damping lines are.
-void applyMarks(const PlotRecord& record, EvmPlot& plot)
+/// Call after the scale is set, which determines the ends of the damping lines.
+void applyReferences(const PlotRecord& record, EvmPlot& plot)
 {
     std::vector<RefThick> speeds;
-    for (const MarkRecord& mark : record.referenceSpeeds)
+    for (const ReferenceRecord& mark : record.referenceSpeeds)
         speeds.push_back({mark.value, QString::fromStdString(mark.caption)});
     plot.marks().setReferenceSpeeds(std::move(speeds));
     std::vector<PlotMarks::DampLine> lines;
-    for (const MarkRecord& mark : record.dampingLines)
+    for (const ReferenceRecord& mark : record.dampingLines)
         lines.push_back({mark.value, QString::fromStdString(mark.caption)});
     plot.marks().setDampingLines(lines);
 }
@@ -175,7 +175,7 @@ void applyRecord(const PlotRecord& record, const std::vector<EVM*>& evolutions, 
     applyText(record.legend, TextBox::Legend, plot);
     plot.setAxes(record.axes);
     plot.properties().setBreaksAtJumps(record.breaksAtJumps);
-    applyMarks(record, plot);
+    applyReferences(record, plot);
     applySeries(record, evolutions, plot);
 }
 

@@ -21,7 +21,7 @@ AeMode* modeNumbered(const EVM* evolution, std::int32_t number)
     return index < evolution->Modes.size() ? evolution->Modes[index].get() : nullptr;
 }
 
-/// The number of a mode in its evolution; 0 when it is in none.
+/// The number of a mode in its evolution; 0 when it has none.
 std::int32_t numberOf(const AeMode* mode)
 {
     if (mode == nullptr || mode->Parent == nullptr)
@@ -178,8 +178,8 @@ void PlotRows::removeBlock(std::size_t first, std::size_t count)
     Q_EMIT rowsRemoved(first, count);
 }
 
-/// From the last row to the first, in blocks of neighbours, so that indices of rows that are still
-/// to come stay as they are.
+/// Removes blocks of consecutive rows, from the last to the first, so that the indices of earlier
+/// rows stay valid.
 template <typename IsRemoved>
 void PlotRows::removeWhere(IsRemoved isRemoved)
 {
@@ -265,7 +265,7 @@ void PlotRows::change(RowId id, Series look)
     replace(index, std::move(row));
 }
 
-/// How many rows from `first` on are those of `rows` from `index` on.
+/// The number of rows from `first` on that equal those of `rows` from `index` on.
 std::size_t PlotRows::lengthOfBlock(std::size_t first, const Rows& rows, std::size_t index) const
 {
     std::size_t length = 0;

@@ -16,32 +16,32 @@ namespace tarsil {
 
 class EVM;
 
-/// Identifies a row of a plot. It stays with the row when rows move, and a row that is put back has
-/// the one it had; no other row of the plot ever gets it.
+/// Identifies a row of a plot. A row keeps its id when it moves or is restored. Ids are never
+/// reused within a plot.
 enum class RowId : std::uint32_t {};
 
-/// One curve that was asked for: a mode number of an evolution, and the look of the curve.
+/// A row: a mode number of an evolution, and the look of its curve.
 struct PlotRow
 {
     RowId id {};
-    EVM* evolution = nullptr; ///< not owned; null for a mode that belongs to no evolution
-    std::int32_t mode = 0; ///< counted from 1 in the evolution; may name no mode
-    Series series; ///< the curve; without a mode when the number names none
+    EVM* evolution = nullptr; ///< not owned; null for a mode without evolution
+    std::int32_t mode = 0; ///< counted from 1 in the evolution; may not exist
+    Series series; ///< without a mode when the number does not exist
 
-    /// Whether the row has a curve. A row whose number names no mode of its evolution has none.
+    /// Whether the row has a curve: its number is that of a mode of its evolution.
     bool hasCurve() const;
 
     bool operator==(const PlotRow&) const = default;
 };
 
-/// The series that a new curve in that row has, counted from 0: entry row mod 7 of `BaseColors`,
-/// and the row as tag.
+/// The series of a new curve in a row, counted from 0: colour row mod 7 of `BaseColors`, and the
+/// row number as tag.
 Series newSeries(AeMode& mode, std::size_t row);
 
-/// The rows of a plot, counted from 0, in the order of drawing. A row whose number names no mode
-/// keeps its number and its look, and has its curve again as soon as another number names one.
+/// The rows of a plot in drawing order, counted from 0. A row whose number does not exist keeps its
+/// number and look, and gets a curve again with the next valid number.
 ///
-/// Every change is announced, and rows can be changed in no other way. The signals with "about to"
+/// Rows are changed only through this class, and every change is signalled. The "AboutTo" signals
 /// are emitted before the change, the others after it.
 class PlotRows : public QObject
 {
@@ -59,46 +59,45 @@ public:
     const PlotRow& at(std::size_t index) const { return m_rows.at(index); }
     const Rows& all() const { return m_rows; }
 
-    /// None when there is no such row.
+    /// Empty when there is no such row.
     std::optional<std::size_t> indexOf(RowId id) const;
 
-    /// The series of the rows that have a curve, in their order.
+    /// The series of the rows that have a curve, in row order.
     const SeriesList& curves() const;
     std::size_t curveCount() const { return m_curveCount; }
 
     /// The rows without a curve.
     Indices withoutCurve() const;
 
-    /// Appends a row, with the number that the series' mode has in its evolution.
+    /// Appends a row with the number of the series' mode in its evolution.
     RowId add(Series series);
 
-    /// Appends a row with a series for a mode (`newSeries`), with these markers in the colour of
-    /// the curve. Rows without a curve count, so that none gets the look of another one when its
-    /// curve comes back.
+    /// Appends a row with the series of a mode (`newSeries`); the markers get the colour of the
+    /// curve. Rows without a curve count for the colour, so that none has the look of another when
+    /// its curve returns.
     RowId add(AeMode& mode, const std::optional<MarkerOptions>& markers = {});
 
-    /// Appends rows; announced together.
+    /// Appends rows with one signal.
     void add(std::vector<Series> series);
 
     void remove(const Indices& rows);
 
-    /// Removes all rows of an evolution; returns how many there were.
+    /// Removes all rows of an evolution. Returns their number.
     std::size_t removeRowsOf(const EVM& evolution);
 
     void clear();
 
-    /// Moves `count` rows from index `first` on, so that the first of them has index `to`. Error 9
-    /// "Subscript out of range" beyond the rows.
+    /// Moves `count` rows from index `first` so that the first of them gets index `to`. Error 9
+    /// "Subscript out of range" outside the rows.
     void move(std::size_t first, std::size_t to, std::size_t count = 1);
 
-    /// Gives a row another number, and with it the curve that it names, or none. Error 9 when there
-    /// is no such row.
+    /// Sets the mode number of a row, and its curve if the mode exists. Error 9 for an unknown row.
     void setMode(RowId id, std::int32_t number);
 
-    /// Gives a row another look; which mode it draws stays. Error 9 when there is no such row.
+    /// Sets the look of a row but not its mode. Error 9 for an unknown row.
     void change(RowId id, Series look);
 
-    /// The same with what a function `void (Series&)` makes of the present look.
+    /// Changes the look of a row by a function `void (Series&)`.
     template <typename Change>
     void change(RowId id, const Change& changeLook) requires std::is_invocable_v<Change, Series&>
     {
@@ -107,7 +106,7 @@ public:
         change(id, std::move(look));
     }
 
-    /// Makes these the rows. Those that are there already (by their ids) stay and are moved and
+    /// Makes `rows` the rows of the plot. Existing rows with the same ids stay, and are moved and
     /// changed as needed.
     void restore(const Rows& rows);
 
@@ -117,11 +116,11 @@ Q_SIGNALS:
     void rowsAboutToBeRemoved(std::size_t first, std::size_t count);
     void rowsRemoved(std::size_t first, std::size_t count);
 
-    /// `to` is the index of the first of them afterwards.
+    /// `to` is the index of the first of them after the move.
     void rowsAboutToBeMoved(std::size_t first, std::size_t count, std::size_t to);
     void rowsMoved(std::size_t first, std::size_t count, std::size_t to);
 
-    /// The number or the look of a row is another one.
+    /// The number or the look of a row has changed.
     void rowChanged(std::size_t index, tarsil::RowId id);
 
 private:
@@ -140,7 +139,7 @@ private:
     std::size_t m_curveCount = 0;
     std::uint32_t m_lastId = 0;
 
-    // What follows from the rows, made when it is asked for.
+    // Caches, filled on demand.
     mutable std::optional<SeriesList> m_curves;
     mutable std::unordered_map<RowId, std::size_t> m_indices;
 };

@@ -14,8 +14,8 @@ class PlotPicture;
 class emfRichTextBox;
 struct PlotParts;
 
-/// Changes the text boxes of a V-g-f plot. Every change lays the parts out again and marks the
-/// picture as stale.
+/// Changes the text boxes of a V-g-f plot. Every change updates the layout and marks the picture as
+/// stale.
 class PlotTexts
 {
 public:
@@ -26,17 +26,16 @@ public:
     void setTextRTF(TextBox box, std::string_view rtf);
     void setContent(TextBox box, RichText content);
 
-    /// Any other change of a box.
+    /// Changes a box by a function.
     void change(TextBox box, const std::function<void(emfRichTextBox&)>& change);
 
-    /// Moves a box to a position in twentieths of a point; the header goes back to its row. The box
-    /// keeps the position, but in a plot that is too small for all of it to be seen there it is
-    /// shown, and drawn, at the nearest edge (`shownPlace`); `geometry` of the box is that
-    /// rectangle.
+    /// Moves a box to a position in twentieths of a point; the header returns to its row. The box
+    /// keeps the position. Where it would not be visible as a whole it is shown and drawn at the
+    /// nearest edge (`shownRectangle`); its `geometry` is the shown one.
     void move(TextBox box, double left, double top);
 
-    /// The upper edge of the header's row, in twentieths of a point; 60 in a new plot. In a plot
-    /// that is too small for the header to be seen there it is shown at the nearest edge.
+    /// Sets the top of the header's row in twentieths of a point; 60 in a new plot. When the plot
+    /// is too small, the header is shown at the nearest edge.
     void setHeaderTop(double top);
 
     /// In edit mode the boxes are outlined on the screen, and a click edits one.

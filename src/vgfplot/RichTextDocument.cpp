@@ -20,11 +20,11 @@ double pointsOf(const QTextCharFormat& format, double otherwise)
 {
     if (format.fontPointSize() > 0)
         return format.fontPointSize();
-    const int pixels = format.intProperty(QTextFormat::FontPixelSize); // pasted web pages have them
+    const int pixels = format.intProperty(QTextFormat::FontPixelSize); // used by pasted web pages
     return pixels > 0 ? pixels * pointsPerPixel : otherwise;
 }
 
-/// The first family, where it is the name of a font: what is pasted can hold anything.
+/// The first family if it is a valid font name: pasted text can contain anything.
 std::string familyOf(const QTextCharFormat& format, const std::string& otherwise)
 {
     const QStringList families = format.fontFamilies().toStringList();
@@ -37,7 +37,7 @@ void appendBlock(QTextCursor& cursor, const QTextCharFormat& format)
     cursor.insertBlock(QTextBlockFormat(), format);
 }
 
-/// The characters of a fragment: soft breaks end lines too, and pictures are nothing.
+/// The characters of a fragment, with soft breaks as line ends and without pictures.
 std::u16string charactersOf(QString text)
 {
     text.replace(QChar::LineSeparator, u'\n');
@@ -85,7 +85,7 @@ void fillDocument(QTextDocument& document, const RichText& text)
     document.clear();
     QTextCursor cursor(&document);
     cursor.setBlockCharFormat(charFormatOf(formatAt(text, 0)));
-    // The format of a block is that of the break before it.
+    // The format of a block belongs to the break before it.
     for (const TextRun& run : text.runs) {
         const QTextCharFormat format = charFormatOf(run.format);
         const QString characters = QString::fromStdU16String(run.text);
@@ -107,9 +107,9 @@ RichText richTextOf(const QTextDocument& document, const TextFormat& otherwise)
         TextFormat format = textFormatOf(block.charFormat(), otherwise);
         if (block != document.begin())
             text.runs.push_back({u"\n", format});
-        for (auto place = block.begin(); !place.atEnd(); ++place) {
-            format = textFormatOf(place.fragment().charFormat(), otherwise);
-            text.runs.push_back({charactersOf(place.fragment().text()), format});
+        for (auto fragment = block.begin(); !fragment.atEnd(); ++fragment) {
+            format = textFormatOf(fragment.fragment().charFormat(), otherwise);
+            text.runs.push_back({charactersOf(fragment.fragment().text()), format});
         }
         text.last = format;
     }

@@ -8,16 +8,16 @@ class QTextDocument;
 
 namespace tarsil {
 
-// A rich text in the toolkit's document, which its text edit shows, and back.
+// Conversions between a rich text and the document of Qt's text edit.
 
 QTextCharFormat charFormatOf(const TextFormat& format);
 
-/// The look of a format; what it leaves open is that of `otherwise`.
+/// The look of a format; `otherwise` supplies what it does not specify.
 TextFormat textFormatOf(const QTextCharFormat& format, const TextFormat& otherwise);
 
 void fillDocument(QTextDocument& document, const RichText& text);
 
-/// What the document holds; pictures and tables that somebody pasted leave their texts only.
+/// The text of a document. Of pasted pictures and tables only the text remains.
 RichText richTextOf(const QTextDocument& document, const TextFormat& otherwise);
 
 } // namespace tarsil

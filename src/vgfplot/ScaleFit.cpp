@@ -11,15 +11,15 @@ namespace {
 constexpr double mostDamping = 0.5;
 constexpr double leastDamping = 0.02;
 constexpr double mostSteps = 10;
-constexpr double largestEnd = 1e38; ///< a single still holds it when it is rounded up
-constexpr double frequencyHeadroom = 1.02; ///< keeps the highest curve clear of the axis title
+constexpr double largestEnd = 1e38; ///< still a single when rounded up
+constexpr double frequencyHeadroom = 1.02; ///< keeps the highest curve below the axis title
 
 bool isWhole(double number)
 {
     return std::floor(number) == number;
 }
 
-/// The smallest round step that is not below `least`.
+/// The smallest round step that is at least `least`.
 double roundStep(double least, Steps steps)
 {
     const bool onlyWhole = steps == Steps::Whole;
@@ -33,7 +33,7 @@ double roundStep(double least, Steps steps)
     return 10 * power;
 }
 
-/// Largest speed, frequency and damping (either sign) of all points.
+/// The largest speed, frequency and damping (of either sign) of all points.
 struct Extent
 {
     double speed = 0;

@@ -5,13 +5,13 @@
 
 namespace tarsil {
 
-/// Which steps an axis can label: the speed axis writes whole numbers, so that between others its
-/// labels would stand at values that they do not name.
+/// The steps that an axis can label. The speed axis labels whole numbers only, so other steps would
+/// give wrong labels.
 enum class Steps { Any, Whole };
 
-/// Round numbers from `low` to at least `high`: step 1, 2, 2.5 or 5 times a power of ten, in four
-/// to ten steps. A range without width is widened upwards. Whole steps are 1 at least, so that a
-/// short range has fewer of them.
+/// A round range that contains `low` to `high`, in four to ten steps of 1, 2, 2.5 or 5 times a
+/// power of ten. An empty range is extended upwards. Whole steps are at least 1, so a short range
+/// has fewer of them.
 struct RoundRange
 {
     double low;
@@ -20,11 +20,11 @@ struct RoundRange
 };
 RoundRange roundRange(double low, double high, Steps steps = Steps::Any);
 
-/// The axes, with every tick at a round number, that show all speeds and frequencies of the series
-/// from 0 on, with a little room above the highest frequency, and their dampings to both sides of
-/// the speed axis up to 0.5 (a strongly damped mode must not squeeze the rest). Without any point,
-/// those of a new plot. The speed axis begins at 0 always: only there do reference-speed marks
-/// stand at their data position.
+/// Axes with round ticks that show all speeds and frequencies of the series from 0, with a little
+/// room above the highest frequency, and dampings up to 0.5 on both sides of the speed axis (a
+/// strongly damped mode must not flatten the others). The axes of a new plot when there are no
+/// points. The speed axis always begins at 0, because only then are reference-speed marks at their
+/// speeds.
 PlotAxes fitAxes(const SeriesList& series);
 
 } // namespace tarsil

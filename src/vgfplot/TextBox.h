@@ -7,7 +7,7 @@ namespace tarsil {
 /// The text boxes of a V-g-f plot.
 enum class TextBox { Header, Legend, Mechanism };
 
-/// In the order in which they are drawn: the last one lies on top.
+/// In drawing order: the last one is on top.
 constexpr std::array allTextBoxes = {TextBox::Header, TextBox::Legend, TextBox::Mechanism};
 
 } // namespace tarsil

@@ -20,7 +20,7 @@ std::string canonicalText(const std::string& path)
     return failed ? path : pathText(real);
 }
 
-/// Whether the last name of a path is where it says, below the folder before it.
+/// Whether the last component of a path is a plain name in the folder before it.
 bool isPlainName(const std::string& path)
 {
     const std::string_view name = nameIn(path);
@@ -40,7 +40,7 @@ std::string FileIdentities::of(const std::string& file)
     return pathIn(ofFolder(folder), nameIn(file));
 }
 
-/// Goes up to a folder that is known, or has to be asked for, and down again.
+/// Walks up to a known folder, or one that must be looked up, and down again.
 const std::string& FileIdentities::ofFolder(const std::string& folder)
 {
     std::vector<std::string> below;

@@ -6,12 +6,12 @@
 
 namespace tarsil {
 
-/// The paths of files without links and steps up, so that two ways to one file are one text. What
-/// is known of a folder serves all that is in it.
+/// Canonical paths of files, without links and "..", so that all paths to a file give the same
+/// text. Folders are cached.
 class FileIdentities
 {
 public:
-    /// `file` has "/" between its names; what is not there is its own identity.
+    /// `file` has "/" as separator. A file that does not exist is its own identity.
     std::string of(const std::string& file);
 
 private:
@@ -20,14 +20,14 @@ private:
     std::unordered_map<std::string, std::string> m_folders;
 };
 
-/// The folder of a path with "/" between its names: all before the last name. Empty for a name
-/// alone.
+/// The folder of a path with "/" as separator: everything before the last component. Empty for a
+/// plain name.
 std::string_view folderIn(std::string_view path);
 
-/// The last name of such a path; empty when it ends with "/".
+/// The last component of such a path; empty when it ends with "/".
 std::string_view nameIn(std::string_view path);
 
-/// A name in a folder.
+/// The path of a name in a folder.
 std::string pathIn(std::string_view folder, std::string_view name);
 
 } // namespace tarsil

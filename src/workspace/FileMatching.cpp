@@ -9,7 +9,7 @@
 
 namespace tarsil {
 
-void FileMatching::take(std::string_view path, const std::string& file)
+void FileMatching::addPresent(std::string_view path, const std::string& file)
 {
     m_present.push_back(tailOf(path));
     m_taken.emplace(m_identities.of(file), m_round);
@@ -26,9 +26,8 @@ void FileMatching::addFile(const std::string& file)
         m_candidates.push_back({file, m_identities.of(file)});
 }
 
-/// The files that share more names are looked at first, and equal spelling before names that differ
-/// in case. All that share as many make one round, in which a file can be lost to another path, but
-/// is not out of sight yet.
+/// Files that share longer tails come first, and equal spelling before names that differ in case.
+/// All tails of one length form a round; a file assigned in a round can still be a candidate in it.
 std::map<std::size_t, std::string> FileMatching::match()
 {
     std::vector<Meeting> all = meetings();
@@ -75,7 +74,7 @@ std::vector<FileMatching::Meeting> FileMatching::meetings() const
     return all;
 }
 
-/// A path that means several files gets none of them, nor one that it means less.
+/// A path with several candidates gets no file, also not a worse one later.
 void FileMatching::settle(std::size_t path, std::vector<std::size_t> candidates)
 {
     std::erase_if(candidates, [this](std::size_t candidate) { return !isFree(candidate); });
@@ -92,8 +91,8 @@ bool FileMatching::isFree(std::size_t candidate) const
     return taken == m_taken.end() || taken->second == m_round;
 }
 
-/// The file of them all, which may be there by several ways, or the one beside the workspace; null
-/// when they are several.
+/// The only file among the candidates (which may be several paths to it), or the one beside the
+/// workspace; null if there are several.
 const FileMatching::Candidate*
 FileMatching::onlyOne(const std::vector<std::size_t>& candidates) const
 {

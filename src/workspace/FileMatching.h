@@ -14,45 +14,45 @@
 
 namespace tarsil {
 
-/// Finds for the paths that a workspace lists, and where nothing is, which of the files near it
-/// they mean: the one that shares most of its last folders, besides the name. A wrong file is worse
-/// than none, so a path gets a file only when
+/// For each path of a workspace at which there is no file, finds the nearby file that it means: the
+/// one that shares the longest tail of folders with it, besides the name. A wrong file is worse
+/// than none, so a path gets a file only if
 ///
-/// - what they share tells the path from every other one that the workspace lists: where several
-///   are called "wing.ev2", a file must be in a folder of the right name;
+/// - the shared tail distinguishes the path from all others of the workspace: if several are
+///   named "wing.ev2", a file must be in a folder of the right name;
 /// - no other file shares as much, unless one is beside the workspace;
-/// - the file is no other path's.
+/// - the file does not belong to another path.
 ///
-/// Equal spelling goes before names that differ in their case alone. It takes the
-/// time of sorting the paths and files, and about their memory.
+/// Equal spelling is preferred to names that differ only in case. Time is that of sorting paths and
+/// files; memory is about their size.
 class FileMatching
 {
 public:
-    // Paths and files are texts with "/" between their names.
+    // Paths and files have "/" as separator.
 
     /// `folder` is that of the workspace.
     explicit FileMatching(std::string folder) : m_folder(std::move(folder)) { }
 
-    /// A path of the workspace, and the file that is there.
-    void take(std::string_view path, const std::string& file);
+    /// Adds a path of the workspace and the file at it.
+    void addPresent(std::string_view path, const std::string& file);
 
-    /// A path of the workspace that is to get a file; the first one has the number 0.
+    /// Adds a path of the workspace that needs a file. The first one has index 0.
     void addPath(std::string_view path);
 
-    /// A file that can be got; the same one a second time changes nothing.
+    /// Adds a candidate; a repeated one has no effect.
     void addFile(const std::string& file);
 
-    /// The files by the numbers of the paths that get one.
+    /// Returns the files by the indices of the paths that get one.
     std::map<std::size_t, std::string> match();
 
 private:
     struct Candidate
     {
         std::string file;
-        std::string identity; ///< the same for two ways to one file
+        std::string identity; ///< equal for all paths to one file
     };
 
-    /// A file that shares so many names with a path that they tell it from all others.
+    /// A file whose shared tail with a path distinguishes that path from all others.
     struct Meeting
     {
         std::size_t names;
@@ -68,12 +68,13 @@ private:
 
     std::string m_folder;
     FileIdentities m_identities;
-    std::vector<std::string> m_wanted; ///< tails of paths that are to get a file
-    std::vector<std::string> m_present; ///< tails of paths that have theirs
+    std::vector<std::string> m_wanted; ///< tails of paths that need a file
+    std::vector<std::string> m_present; ///< tails of paths that have one
     std::vector<Candidate> m_candidates;
     std::unordered_set<std::string> m_added; ///< files that were added
-    std::unordered_map<std::string, std::size_t> m_taken; ///< identities, and in which round
-    std::size_t m_round = 0; ///< of matching, each of one number of names
+    std::unordered_map<std::string, std::size_t>
+        m_taken; ///< identities of assigned files, with their round
+    std::size_t m_round = 0; ///< of matching; a round is one length of tails
     std::set<std::size_t> m_settled; ///< paths that have met a file
     std::map<std::size_t, std::string> m_matches;
 };

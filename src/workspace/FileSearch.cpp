@@ -15,8 +15,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// What a search needs to know of a file or folder. Its path is left out: in deep folders that is
-/// much more.
+/// The facts about a file or folder that a search needs. The path is left out, because it is much
+/// longer in deep folders.
 struct Entry
 {
     std::string name;
@@ -28,27 +28,28 @@ Entry entryOf(const fs::directory_entry& found, const std::unordered_set<std::st
 {
     std::error_code unknown;
     Entry entry {pathText(found.path().filename())};
-    const bool canBeNamed = entry.name.find('\\') == std::string::npos; // it separates, in a path
+    const bool canBeNamed =
+        entry.name.find('\\') == std::string::npos; // it is a separator in paths
     entry.isFolder = canBeNamed && found.is_directory(unknown) && !found.is_symlink(unknown);
     entry.isWanted = canBeNamed && !entry.isFolder && names.contains(withoutCase(entry.name))
         && found.is_regular_file(unknown);
     return entry;
 }
 
-/// What is in one folder by name, at most `most` entries; `isComplete` is whether that is all.
+/// The entries of a folder by name, at most `most`; `isComplete` is set to whether that is all.
 std::vector<Entry> entriesOf(const std::string& folder,
                              const std::unordered_set<std::string>& names, std::size_t most,
                              bool& isComplete)
 {
     std::vector<Entry> entries;
     std::error_code failed;
-    fs::directory_iterator place(nativePath(folder), failed);
-    for (; !failed && place != fs::directory_iterator(); place.increment(failed)) {
+    fs::directory_iterator entry(nativePath(folder), failed);
+    for (; !failed && entry != fs::directory_iterator(); entry.increment(failed)) {
         if (entries.size() == most) {
             isComplete = false;
             break;
         }
-        entries.push_back(entryOf(*place, names));
+        entries.push_back(entryOf(*entry, names));
     }
     std::sort(entries.begin(), entries.end(),
               [](const Entry& a, const Entry& b) { return a.name < b.name; });

@@ -7,18 +7,18 @@
 
 namespace tarsil {
 
-/// How many files and folders a search looks at.
+/// The maximum number of files and folders that a search visits.
 constexpr std::size_t mostFilesLookedAt = 20000;
 
-/// What a search has found.
+/// The result of a search.
 struct FileSearch
 {
-    std::vector<std::string> files; ///< those near to the folder first, then by name
-    bool isComplete = true; ///< false when there was more below the folder than is looked at
+    std::vector<std::string> files; ///< sorted by depth, then by name
+    bool isComplete = true; ///< false when the limit was reached
 };
 
-/// The files below a folder whose names are among `names`, which have no case (`withoutCase`). What
-/// may not be read is passed over, and so are links to folders. Paths have "/" between their names.
+/// The files below a folder whose names are in `names`, which are folded by `withoutCase`. Skips
+/// what cannot be read and links to folders. Paths have "/" as separator.
 FileSearch filesBelow(const std::string& folder, const std::unordered_set<std::string>& names);
 
 } // namespace tarsil

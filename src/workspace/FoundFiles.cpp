@@ -20,15 +20,15 @@ namespace tarsil {
 
 namespace {
 
-// Paths are worked with as texts that have "/" between their names: those of hundreds of folders
-// are long to take apart, and large when they are.
+// Paths are handled as texts with "/" as separator: std::filesystem::path is slow and large for
+// hundreds of folders.
 
 std::string folderOf(const std::string& workspacePath)
 {
     return pathText(nativePath(joinPath(resolvePath(workspacePath).folder, "x")).parent_path());
 }
 
-/// Two separators that follow each other are one.
+/// Replaces repeated separators by one.
 std::string plainText(std::string_view stored)
 {
     std::string text(stored);
@@ -38,14 +38,13 @@ std::string plainText(std::string_view stored)
     return text;
 }
 
-/// How many characters of a path are its root, which it begins with; 0 for a relative path.
+/// The length of the root of a path; 0 for a relative path.
 std::size_t rootLength(const std::string& path)
 {
     return pathText(nativePath(path.substr(0, 3)).root_path()).size();
 }
 
-/// The spelling by which entries of one path know each other. On the platform of drive letters case
-/// does not count.
+/// The spelling by which entries of one path are recognised. With drive letters case is ignored.
 std::string keyOf(std::string_view stored)
 {
     const std::string path = plainText(stored);
@@ -53,8 +52,8 @@ std::string keyOf(std::string_view stored)
     return hasDrive ? withoutCase(path) : path;
 }
 
-/// Where a stored path leads when the workspace is in `folder`.
-std::string placeIn(const std::string& folder, const std::string& stored)
+/// The path of a stored path when the workspace is in `folder`.
+std::string pathFor(const std::string& folder, const std::string& stored)
 {
     const std::string path = plainText(stored);
     if (rootLength(path) > 0)
@@ -63,20 +62,20 @@ std::string placeIn(const std::string& folder, const std::string& stored)
     return fileExists(below) ? below : stored;
 }
 
-/// Knows the files that moved together with some of their stored folders, without looking for them.
+/// Finds files that moved together with some of their stored folders, without a search.
 class NearFiles
 {
 public:
     explicit NearFiles(std::string folder) : m_folder(std::move(folder)) { }
 
-    /// Adds those that a path can mean, the one that shares most folders first.
+    /// Adds the candidates of a path, the one with the longest tail first.
     void add(const std::string& path, FileMatching& matching)
     {
         const std::string_view whole = path;
         std::size_t start = rootLength(path);
         while (start < path.size()) {
             const std::string_view tail = whole.substr(start);
-            if (areHere(tail))
+            if (exist(tail))
                 addFile(pathIn(m_folder, tail), matching);
             start = std::min(path.find('/', start), path.size() - 1) + 1;
         }
@@ -90,9 +89,9 @@ private:
             matching.addFile(file);
     }
 
-    /// Whether the folders of a path are there, one below the other. Many paths begin alike, and
-    /// most lead nowhere.
-    bool areHere(std::string_view path)
+    /// Whether the folders of a path exist, one below the other. Cached, because many paths share
+    /// their start, and most do not exist.
+    bool exist(std::string_view path)
     {
         std::size_t end = path.find('/');
         while (end != std::string_view::npos && isHere(path.substr(0, end)))
@@ -113,10 +112,10 @@ private:
     std::unordered_map<std::string, bool> m_folders;
 };
 
-/// Paths that are not at their stored places, each with its number, by their keys.
+/// Paths without a file, with their indices, by key.
 using MissingPaths = std::map<std::string, std::pair<std::size_t, std::string>>;
 
-/// The files of missing paths by the numbers of these.
+/// The files of missing paths by their indices.
 std::map<std::size_t, std::string> movedFiles(const MissingPaths& missing,
                                               const std::string& folder, FileMatching& matching)
 {
@@ -136,9 +135,9 @@ std::map<std::size_t, std::string> movedFiles(const MissingPaths& missing,
 
 } // namespace
 
-std::string storedPlace(const std::string& stored, const std::string& workspacePath)
+std::string storedPath(const std::string& stored, const std::string& workspacePath)
 {
-    return placeIn(folderOf(workspacePath), stored);
+    return pathFor(folderOf(workspacePath), stored);
 }
 
 std::vector<std::string> foundFiles(const std::vector<std::string>& stored,
@@ -150,9 +149,9 @@ std::vector<std::string> foundFiles(const std::vector<std::string>& stored,
     MissingPaths missing;
     for (const std::string& one : stored) {
         const std::string path = plainText(one);
-        files.push_back(placeIn(folder, one));
+        files.push_back(pathFor(folder, one));
         if (fileExists(files.back()))
-            matching.take(path, plainText(files.back()));
+            matching.addPresent(path, plainText(files.back()));
         else if (!one.empty() && missing.try_emplace(keyOf(one), missing.size(), path).second)
             matching.addPath(path);
     }
@@ -174,8 +173,8 @@ bool isTakenByNameAlone(const std::string& stored, const std::string& found,
     };
     const std::string folder = folderOf(workspacePath);
     const std::string file = plainText(found);
-    const std::string place = plainText(placeIn(folder, stored));
-    return file != place && folderIn(file) != folder && folderName(file) != folderName(place);
+    const std::string expected = plainText(pathFor(folder, stored));
+    return file != expected && folderIn(file) != folder && folderName(file) != folderName(expected);
 }
 
 } // namespace tarsil

@@ -5,20 +5,20 @@
 
 namespace tarsil {
 
-/// The files that a workspace names, in the same order: each at its stored place (`storedPlace`),
-/// or else the file of its name below the folder of the workspace that shares most of its last
-/// folders with the stored path, as `FileMatching` decides. Two stored paths never get one file; a
-/// path without a file of its own is given as it is stored, as is an empty one. The folder is gone
-/// through at most once, and not to its end when it is vast.
+/// The files of a workspace, in order: each at its stored path (`storedPath`), or else the file of
+/// its name below the folder of the workspace that shares the longest tail of folders with the
+/// stored path, as decided by `FileMatching`. Two stored paths never get one file. A path without a
+/// file is returned as stored, and so is an empty one. The folder is searched at most once, up to a
+/// limit.
 std::vector<std::string> foundFiles(const std::vector<std::string>& stored,
                                     const std::string& workspacePath);
 
-/// Where a stored path leads: a relative one below the folder of the workspace when there is such a
-/// file; the path itself otherwise.
-std::string storedPlace(const std::string& stored, const std::string& workspacePath);
+/// The path of a stored path: a relative one is below the folder of the workspace if there is such
+/// a file; otherwise it is returned unchanged.
+std::string storedPath(const std::string& stored, const std::string& workspacePath);
 
-/// Whether a file that was found for a stored path has nothing in common with it but the name, and
-/// is not beside the workspace either: it may be another run's.
+/// Whether a found file shares only its name with the stored path and is not beside the workspace
+/// either: it may belong to another run.
 bool isTakenByNameAlone(const std::string& stored, const std::string& found,
                         const std::string& workspacePath);
 

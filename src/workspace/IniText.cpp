@@ -23,7 +23,7 @@ bool continuesCharacter(char byte)
     return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
 }
 
-/// Where a value ends that is decoded: at the limit, or before the character that crosses it.
+/// The end of the decoded part of a value: the limit, or the start of the character across it.
 std::size_t endOfText(std::string_view value)
 {
     std::size_t end = mostStoredBytes;
@@ -62,7 +62,7 @@ void IniText::addLine(std::string_view text, std::size_t line, Section*& current
     const std::size_t sign = text.find('=');
     if (current == nullptr || sign == std::string_view::npos)
         return;
-    // Does nothing where the key is there already: the first one wins.
+    // no effect for an existing key: the first one wins
     current->entries.try_emplace(asciiLower(trimmed(text.substr(0, sign))),
                                  IniEntry {line, withoutQuotes(trimmed(text.substr(sign + 1)))});
 }

@@ -13,13 +13,13 @@ namespace {
 
 constexpr std::size_t everything = std::numeric_limits<std::size_t>::max();
 
-/// A path or a file among all of them, in the order of their tails.
+/// A path or a file, sorted by tails.
 struct Entry
 {
     std::string_view tail;
     std::size_t number;
     bool isPath;
-    std::size_t namesAsBefore = 0; ///< first names that it shares with the entry before it
+    std::size_t namesAsBefore = 0; ///< number of leading components shared with the previous entry
 };
 
 std::size_t sharedNames(std::string_view a, std::string_view b)
@@ -44,8 +44,8 @@ std::vector<Entry> inOrder(const std::vector<std::string>& paths,
     return entries;
 }
 
-/// Calls `meet` with each entry, the path that was met before it in this direction, and how many
-/// names they share: as many as any two neighbours on the way.
+/// Calls `meet` for each entry with the last path before it in this direction and the number of
+/// components that they share: the minimum over all adjacent entries in between.
 template <typename Meet>
 void sweep(const std::vector<Entry>& entries, bool isForwards, Meet meet)
 {
@@ -88,7 +88,7 @@ std::string withoutCaseOfNames(std::string_view tail)
 {
     if (isUtf8(tail))
         return withoutCase(tail);
-    std::string folded; // a name that is no text does not make the others none
+    std::string folded; // names that are not text do not spoil the others
     while (!tail.empty()) {
         const std::size_t size = tail.find('/') + 1;
         folded += withoutCase(tail.substr(0, size));
@@ -101,7 +101,8 @@ std::vector<SharedTail> sharedTails(const std::vector<std::string>& paths,
                                     const std::vector<std::string>& files)
 {
     const std::vector<Entry> entries = inOrder(paths, files);
-    std::vector<std::size_t> withOthers(paths.size()); // names that a path shares with another
+    std::vector<std::size_t> withOthers(
+        paths.size()); // components that a path shares with another one
     std::vector<SharedTail> shared(files.size());
     for (const bool isForwards : {true, false}) {
         sweep(entries, isForwards, [&](const Entry& entry, const Entry& path, std::size_t names) {

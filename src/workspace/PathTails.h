@@ -7,23 +7,23 @@
 
 namespace tarsil {
 
-/// The names of a path from the last to the first, each closed by "/": paths that end alike begin
-/// alike so. The root is a name, too, and so is the empty one after a "/" at the end. `path` has
-/// "/" between its names.
+/// The components of a path from the last to the first, each followed by "/", so that paths with a
+/// common tail have a common start. The root is a component, and so is the empty one after a final
+/// "/". `path` has "/" as separator.
 std::string tailOf(std::string_view path);
 
-/// A tail by which names that differ in case alone are the same.
+/// A tail in which names that differ only in case are equal.
 std::string withoutCaseOfNames(std::string_view tail);
 
-/// What a file shares with the one path that it shares most with.
+/// The longest tail that a file shares with a path.
 struct SharedTail
 {
-    std::size_t path = 0; ///< its number
-    std::size_t names = 0; ///< how many last names are the same; 0: there is no such path
+    std::size_t path = 0; ///< its index
+    std::size_t names = 0; ///< number of shared components; 0: there is no such path
 };
 
-/// For each file the path that shares most last names with it, if these names tell this path from
-/// all others. All are tails of `tailOf`. Takes the time of sorting them.
+/// For each file, the path that shares the longest tail with it, if that tail distinguishes this
+/// path from all others. Arguments are results of `tailOf`. Time is that of sorting them.
 std::vector<SharedTail> sharedTails(const std::vector<std::string>& paths,
                                     const std::vector<std::string>& files);
 

@@ -37,13 +37,13 @@ std::size_t longestField(std::string_view value)
     return longest;
 }
 
-ValueFields::ValueFields(std::string_view value, std::size_t least, std::string place)
-    : m_fields(fieldsOf(value)), m_place(std::move(place))
+ValueFields::ValueFields(std::string_view value, std::size_t least, std::string location)
+    : m_fields(fieldsOf(value)), m_location(std::move(location))
 {
     if (m_fields.size() >= least)
         return;
     throw RunTimeError(ErrorNumber::SubscriptOutOfRange, std::string(workspaceModule),
-                       m_place + " needs " + std::to_string(least) + " fields and has "
+                       m_location + " needs " + std::to_string(least) + " fields and has "
                            + std::to_string(m_fields.size()) + ": " + quotedText(value));
 }
 
@@ -78,7 +78,7 @@ double ValueFields::number(std::size_t index, std::string_view content) const
 
 std::string ValueFields::where(std::size_t index, std::string_view content) const
 {
-    return m_place + ", field " + std::to_string(index) + " (" + std::string(content) + ")";
+    return m_location + ", field " + std::to_string(index) + " (" + std::string(content) + ")";
 }
 
 } // namespace tarsil

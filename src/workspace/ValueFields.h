@@ -8,23 +8,23 @@
 
 namespace tarsil {
 
-/// What errors of the workspace file are raised by.
+/// The source of errors of the workspace file.
 inline constexpr std::string_view workspaceModule = "mdlWorkSpace";
 
-/// The length of the longest field of a value, in bytes.
+/// The length of the longest field of a value in bytes.
 std::size_t longestField(std::string_view value);
 
-/// The fields of one value of a workspace, separated by NUL. A field that is no number of the kind
-/// asked for is error 13 "Type mismatch" or 6 "Overflow", which names the value's place, the field
-/// and the text found.
+/// The fields of a value of a workspace, separated by NUL. A field that is not a number of the
+/// requested type is error 13 "Type mismatch" or 6 "Overflow", with the location of the value, the
+/// field and the text.
 class ValueFields
 {
 public:
-    /// `place` says where the value is. Error 9 "Subscript out of range" when there are fewer
-    /// than `least` fields; more are passed over.
-    ValueFields(std::string_view value, std::size_t least, std::string place);
+    /// `location` names the value in errors. Error 9 "Subscript out of range" when there are fewer
+    /// than `least` fields; more are ignored.
+    ValueFields(std::string_view value, std::size_t least, std::string location);
 
-    // `index` counts from 0 and is less than `least`; `content` says what the field is.
+    // `index` counts from 0 and is less than `least`; `content` names the field in errors.
 
     const std::string& text(std::size_t index) const { return m_fields[index]; }
     std::int16_t integer16(std::size_t index, std::string_view content) const;
@@ -36,7 +36,7 @@ private:
     std::string where(std::size_t index, std::string_view content) const;
 
     std::vector<std::string> m_fields;
-    std::string m_place;
+    std::string m_location;
 };
 
 } // namespace tarsil

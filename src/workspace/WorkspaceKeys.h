@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-/// The names of the sections and keys of a workspace, as reader and writer share them.
+/// The sections and keys of a workspace, for reader and writer.
 namespace tarsil::workspacekeys {
 
 inline constexpr std::string_view general = "GENERAL INFORMATION";
@@ -18,7 +18,7 @@ inline constexpr std::string_view evolutionFiles = "MODAL EVOLUTION FILES";
 inline constexpr std::string_view fileCount = "NoOfFiles";
 inline constexpr std::string_view file = "File";
 
-// What others do not look for.
+// Further keys, ignored by older programs.
 inline constexpr std::string_view edited = "Edited";
 inline constexpr std::string_view reference = "Reference";
 
@@ -38,7 +38,7 @@ inline constexpr std::string_view gAxis = "gAxis";
 inline constexpr std::string_view seriesCount = "NoOfSeries";
 inline constexpr std::string_view series = "Serie";
 
-// What others do not look for.
+// Further keys, ignored by older programs.
 inline constexpr std::string_view referenceSpeed = "RefSpeed";
 inline constexpr std::string_view dampingLine = "DampLine";
 inline constexpr std::string_view seriesLook = "SerieLook";
@@ -46,10 +46,10 @@ inline constexpr std::string_view breakAtJumps = "BreakAtJumps";
 
 inline constexpr std::string_view endOfFile = "END OF FILE";
 
-/// The text that replaces a missing general text or count.
+/// The default of a general text or count.
 inline constexpr std::string_view noText = "   ";
 
-/// The text that replaces a missing value of a plot.
+/// The default of a value of a plot.
 inline constexpr std::string_view absent = "Empty";
 
 /// "PLOT1" and so on.

@@ -29,8 +29,8 @@ constexpr std::size_t mostMarks = std::numeric_limits<std::int16_t>::max();
                        what + " " + std::to_string(value));
 }
 
-/// The look of a curve: line style, line width, factor index.
-void takeLook(const ValueFields& values, SeriesRecord& series)
+/// Reads the look of a curve: line style, line width, factor index.
+void readLook(const ValueFields& values, SeriesRecord& series)
 {
     const std::int32_t style = values.integer32(0, "line style");
     const std::int16_t width = values.integer16(1, "line width");
@@ -43,10 +43,10 @@ void takeLook(const ValueFields& values, SeriesRecord& series)
         throwNotWithin(factor, "factor index");
     series.lineStyle = style;
     series.lineWidth = width;
-    series.factor = std::max(factor, 1); // 0: nobody chose one
+    series.factor = std::max(factor, 1); // 0: never set
 }
 
-/// Reads one file into one record.
+/// Reads a file into a record.
 class WorkspaceReader
 {
 public:
@@ -54,12 +54,12 @@ public:
         : m_ini(bytes), m_name(name), m_reading(reading), m_record(reading.record)
     { }
 
-    /// Stops at the first error, which the reading has then.
+    /// Stops at the first error, which becomes part of the reading.
     void read();
 
 private:
     void readAll();
-    std::string place(std::string_view section, std::string_view key);
+    std::string location(std::string_view section, std::string_view key);
     std::string text(std::string_view section, std::string_view key, std::string_view otherwise);
     std::string fields(std::string_view section, std::string_view key);
     void noteCut(std::string_view section, std::string_view key, std::size_t longest);
@@ -72,7 +72,7 @@ private:
     void readFiles();
     void readEdited();
     void readPlot(const std::string& section, PlotRecord& plot);
-    std::vector<MarkRecord> marks(const std::string& section, std::string_view key);
+    std::vector<ReferenceRecord> references(const std::string& section, std::string_view key);
     TextRecord box(std::string_view section, std::string_view textKey,
                    std::string_view positionKey);
     AxisValues axis(std::string_view section, std::string_view key);
@@ -97,7 +97,7 @@ void WorkspaceReader::readAll()
 {
     m_record.description = text(keys::general, keys::description, keys::noText);
     if (m_record.description.empty())
-        m_record.description = keys::noText; // whose blanks are not read
+        m_record.description = keys::noText; // the default, whose blanks IniText removes
     m_record.dateCreated = text(keys::general, keys::dateCreated, keys::noText);
     m_record.dateModified = text(keys::general, keys::dateModified, keys::noText);
     readFiles();
@@ -108,22 +108,22 @@ void WorkspaceReader::readAll()
     }
 }
 
-/// What errors call a value that is about to be read.
-std::string WorkspaceReader::place(std::string_view section, std::string_view key)
+/// The name of a value in errors.
+std::string WorkspaceReader::location(std::string_view section, std::string_view key)
 {
     m_reading.section = section;
     m_reading.key = key;
     return m_name + ", [" + std::string(section) + "], " + std::string(key);
 }
 
-/// Notes a value of which a part of `longest` bytes is more than is taken.
+/// Records a value of which a part of `longest` bytes exceeds the limit.
 void WorkspaceReader::noteCut(std::string_view section, std::string_view key, std::size_t longest)
 {
     if (longest > mostStoredBytes)
         m_reading.cutValues.push_back({std::string(section), std::string(key), longest});
 }
 
-/// A text in one piece, in which NUL is a line break just as in rich texts.
+/// A single text, in which NUL is a line break, as in rich texts.
 std::string WorkspaceReader::text(std::string_view section, std::string_view key,
                                   std::string_view otherwise)
 {
@@ -143,11 +143,11 @@ std::string WorkspaceReader::fields(std::string_view section, std::string_view k
 int WorkspaceReader::count(std::string_view section, std::string_view key)
 {
     const std::string_view value = m_ini.bytes(section, key).value_or(keys::noText);
-    return ValueFields(value, 1, place(section, key)).integer16(0, "count");
+    return ValueFields(value, 1, location(section, key)).integer16(0, "count");
 }
 
-/// Gives away the fields of a value that others do not know. One that does not fit, so that taking
-/// it raises an error, is passed over. Returns whether the value is there.
+/// Passes the fields of a further key to `take`. A value that does not fit, so that `take` raises
+/// an error, is ignored. Returns whether the value is there.
 bool WorkspaceReader::further(std::string_view section, const std::string& key, std::size_t least,
                               const Take& take)
 {
@@ -183,10 +183,10 @@ void WorkspaceReader::readEdited()
                                           values.single(2, "Mach number")};
                 });
     further(keys::evolutionFiles, std::string(keys::reference), 1, [&](const ValueFields& values) {
-        const std::int16_t place = values.integer16(0, "number of a file");
-        if (place < 1 || std::cmp_greater(place, files))
-            throwNotWithin(place, "there is no file");
-        m_record.reference = place;
+        const std::int16_t position = values.integer16(0, "number of a file");
+        if (position < 1 || std::cmp_greater(position, files))
+            throwNotWithin(position, "there is no file");
+        m_record.reference = position;
     });
 }
 
@@ -196,7 +196,7 @@ void WorkspaceReader::readPlot(const std::string& section, PlotRecord& plot)
     plot.header = box(section, keys::header, keys::headerPosition);
     plot.mechanism = box(section, keys::mechanism, keys::mechanismPosition);
     plot.legend = box(section, keys::legend, keys::legendPosition);
-    // The three ranges belong together: none is taken when one is damaged.
+    // The three axes belong together: if one is damaged, none is used.
     plot.axes = {axis(section, keys::velAxis), axis(section, keys::freqAxis),
                  axis(section, keys::gAxis)};
     const int seriesCount = count(section, keys::seriesCount);
@@ -204,27 +204,28 @@ void WorkspaceReader::readPlot(const std::string& section, PlotRecord& plot)
         const std::string key = keys::numbered(keys::series, static_cast<std::size_t>(i));
         plot.series.push_back(series(section, key));
         further(section, keys::numbered(keys::seriesLook, static_cast<std::size_t>(i)), 3,
-                [&](const ValueFields& values) { takeLook(values, plot.series.back()); });
+                [&](const ValueFields& values) { readLook(values, plot.series.back()); });
     }
-    plot.referenceSpeeds = marks(section, keys::referenceSpeed);
-    plot.dampingLines = marks(section, keys::dampingLine);
+    plot.referenceSpeeds = references(section, keys::referenceSpeed);
+    plot.dampingLines = references(section, keys::dampingLine);
     further(section, std::string(keys::breakAtJumps), 1, [&plot](const ValueFields& values) {
         plot.breaksAtJumps = values.integer16(0, "switch") != 0;
     });
 }
 
-/// Those of one kind, as far as they are numbered without a gap.
-std::vector<MarkRecord> WorkspaceReader::marks(const std::string& section, std::string_view key)
+/// The references of one kind, up to the first missing number.
+std::vector<ReferenceRecord> WorkspaceReader::references(const std::string& section,
+                                                         std::string_view key)
 {
-    std::vector<MarkRecord> marks;
-    const auto take = [&marks](const ValueFields& values) {
-        marks.push_back({values.single(0, "number"), values.text(1)});
+    std::vector<ReferenceRecord> list;
+    const auto take = [&list](const ValueFields& values) {
+        list.push_back({values.single(0, "number"), values.text(1)});
     };
     for (std::size_t i = 1; i <= mostMarks; ++i) {
         if (!further(section, keys::numbered(key, i), 2, take))
             break;
     }
-    return marks;
+    return list;
 }
 
 TextRecord WorkspaceReader::box(std::string_view section, std::string_view textKey,
@@ -238,7 +239,7 @@ TextRecord WorkspaceReader::box(std::string_view section, std::string_view textK
     }
     const std::string position = fields(section, positionKey);
     if (position != keys::absent) {
-        const ValueFields values(position, 2, place(section, positionKey));
+        const ValueFields values(position, 2, location(section, positionKey));
         record.position = {values.number(0, "left"), values.number(1, "top")};
     }
     return record;
@@ -246,14 +247,14 @@ TextRecord WorkspaceReader::box(std::string_view section, std::string_view textK
 
 AxisValues WorkspaceReader::axis(std::string_view section, std::string_view key)
 {
-    const ValueFields values(fields(section, key), 4, place(section, key));
+    const ValueFields values(fields(section, key), 4, location(section, key));
     return {values.text(0), values.single(1, "minimum"), values.single(2, "maximum"),
             values.integer16(3, "tick count")};
 }
 
 SeriesRecord WorkspaceReader::series(std::string_view section, std::string_view key)
 {
-    const ValueFields values(fields(section, key), 9, place(section, key));
+    const ValueFields values(fields(section, key), 9, location(section, key));
     SeriesRecord record;
     record.evolution = values.integer16(0, "evolution");
     record.mode = values.integer16(1, "mode");

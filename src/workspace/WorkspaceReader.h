@@ -10,23 +10,23 @@
 
 namespace tarsil {
 
-/// Turns the bytes of a workspace file into a record; `name` is what errors call the file. Values
-/// are found by section and key alone, whatever the order; the user and the version are not read.
-/// An empty description is the three blanks of one that is absent. Of a value 1023 bytes are taken;
-/// of one with several fields as many of each, so that a long text costs no number.
+/// Converts the bytes of a workspace file to a record; `name` is the file name in errors. Values
+/// are found by section and key in any order; user and version are not read. The default of the
+/// description is three blanks. A value is cut at 1023 bytes; in one with several fields the limit
+/// applies to each, so that a long text does not cost the numbers.
 ///
-/// An entry of the list of files that is counted and not there is an empty path. What only newer
-/// files hold (edited parameters, the reference evolution, marks, looks of curves) is taken where
-/// it is there and fits, and passed over otherwise.
+/// An entry of the file list that is counted but missing is an empty path. Further keys (edited
+/// parameters, reference evolution, reference speeds, damping lines, looks of curves) are used if
+/// they are valid and ignored otherwise.
 ///
-/// An error (a count or number that is none, a list of plots or series shorter than its count, an
-/// axis or series with too few fields) names file, section, key and the text found. `record` then
-/// holds what stood before it: the last plot lacks what had not been read yet. But for empty paths,
-/// at most 32767, a count never says how much memory is taken. That a series names an evolution or
-/// mode that does not exist is for the caller to find.
+/// An error (an invalid count or number, a list of plots or series shorter than its count, an axis
+/// or series with too few fields) names file, section, key and text. `record` then contains
+/// everything before it: the last plot is incomplete. Counts do not determine memory use, except
+/// for empty paths, at most 32767. Whether the evolution and mode of a series exist is for the
+/// caller to check.
 void readWorkspace(std::string_view bytes, const std::string& name, WorkspaceRecord& record);
 
-/// A value that may be missing and was passed over.
+/// A further value that was ignored.
 struct UnusedValue
 {
     std::string section;
@@ -34,21 +34,21 @@ struct UnusedValue
     std::string why;
 };
 
-/// What could be read of a workspace, and why not the rest.
+/// The readable part of a workspace, and the error that ended reading.
 struct WorkspaceReading
 {
     WorkspaceRecord record;
-    std::optional<RunTimeError> error; ///< that of `readWorkspace`; nothing when all could be read
+    std::optional<RunTimeError> error; ///< that of `readWorkspace`; empty when everything was read
 
-    // The value that raised it; it may be absent.
+    // The faulty value, which may be absent.
     std::string section;
     std::string key;
 
-    std::vector<UnusedValue> unusedValues; ///< those that do not fit
-    std::vector<LongValue> cutValues; ///< texts of which the file holds more than the record
+    std::vector<UnusedValue> unusedValues; ///< those that are invalid
+    std::vector<LongValue> cutValues; ///< texts that are longer in the file than in the record
 };
 
-/// The same for a caller that wants both; raises no such error.
+/// Like `readWorkspace`, but returns the error together with the record.
 WorkspaceReading tryToReadWorkspace(std::string_view bytes, const std::string& name);
 
 } // namespace tarsil

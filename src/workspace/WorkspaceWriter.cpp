@@ -23,8 +23,8 @@ namespace keys = workspacekeys;
 
 enum class Encoding { Windows1252, Utf8 };
 
-/// Every break alike, so that a value stays one line: the stored form of CR LF, and its single
-/// characters, which mean nothing else.
+/// Replaces every kind of line break by NUL, the stored form of CR LF, so that a value stays on one
+/// line.
 std::string oneLine(std::string_view text)
 {
     std::string value = storedValueFromRtf(text);
@@ -33,7 +33,7 @@ std::string oneLine(std::string_view text)
     return value;
 }
 
-/// Whether a reader would take something off the ends.
+/// Whether a reader would remove something from the ends.
 bool needsQuotes(std::string_view value)
 {
     if (value.empty())
@@ -48,7 +48,7 @@ bool isAscii(std::string_view text)
                        [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
-/// The fields of a value, one after the other.
+/// Joins the fields of a value.
 std::string joined(std::initializer_list<std::string> fields)
 {
     std::string value;
@@ -60,7 +60,7 @@ std::string joined(std::initializer_list<std::string> fields)
     return value;
 }
 
-/// Writes one record once, in the given encoding.
+/// Writes a record once, in the given encoding.
 class WorkspaceWriter
 {
 public:
@@ -68,7 +68,7 @@ public:
 
     void write(const WorkspaceRecord& record, std::string_view userName);
 
-    /// Whether a text has come that could not be Windows-1252.
+    /// Whether a text did not fit into Windows-1252.
     bool needsUtf8() const { return m_needsUtf8; }
     WrittenWorkspace result() { return std::move(m_result); }
 
@@ -86,7 +86,7 @@ private:
     void addPosition(std::string_view key, const TextRecord& box);
     void addAxis(std::string_view key, const AxisValues& axis);
     void addSeries(std::string_view key, const SeriesRecord& series);
-    void addMarks(std::string_view key, const std::vector<MarkRecord>& marks);
+    void addReferences(std::string_view key, const std::vector<ReferenceRecord>& references);
     void addLooks(const std::vector<SeriesRecord>& series);
 
     std::string encoded(const std::string& text);
@@ -138,7 +138,7 @@ void WorkspaceWriter::addLine(std::string_view key, std::string_view value)
     m_result.bytes.append(quote).append(value).append(quote).append("\r\n");
 }
 
-/// Adds a value that others do not read, so that only our own reader can cut it.
+/// Adds a further value, which only this program's reader can cut.
 void WorkspaceWriter::addFurther(std::string_view key, const std::string& value)
 {
     const std::size_t longest = longestField(value);
@@ -147,8 +147,8 @@ void WorkspaceWriter::addFurther(std::string_view key, const std::string& value)
     addLine(key, value);
 }
 
-/// The blanks of a description that nobody gave stay as they are: what a reader takes off them, it
-/// takes for none as well.
+/// The default blanks of a description are not quoted: a reader removes them and restores the
+/// default.
 void WorkspaceWriter::addDescription(const std::string& text)
 {
     if (text == keys::noText)
@@ -171,8 +171,8 @@ void WorkspaceWriter::addFiles(const WorkspaceRecord& record)
     addCount(keys::fileCount, record.files.size());
     for (std::size_t i = 0; i < record.files.size(); ++i)
         addText(keys::numbered(keys::file, i + 1), record.files[i]);
-    for (const auto& [place, edited] : record.edited) {
-        const std::string key = keys::numbered(keys::edited, place);
+    for (const auto& [position, edited] : record.edited) {
+        const std::string key = keys::numbered(keys::edited, position);
         addFurther(key,
                    joined({field(edited.airplane), field(edited.mass), number(key, edited.mach)}));
     }
@@ -195,8 +195,8 @@ void WorkspaceWriter::addPlot(const PlotRecord& plot)
     addCount(keys::seriesCount, plot.series.size());
     for (std::size_t i = 0; i < plot.series.size(); ++i)
         addSeries(keys::numbered(keys::series, i + 1), plot.series[i]);
-    addMarks(keys::referenceSpeed, plot.referenceSpeeds);
-    addMarks(keys::dampingLine, plot.dampingLines);
+    addReferences(keys::referenceSpeed, plot.referenceSpeeds);
+    addReferences(keys::dampingLine, plot.dampingLines);
     addLooks(plot.series);
     if (plot.breaksAtJumps)
         addFurther(keys::breakAtJumps, "1");
@@ -232,15 +232,16 @@ void WorkspaceWriter::addSeries(std::string_view key, const SeriesRecord& series
                 std::to_string(series.markerForegroundColor)}));
 }
 
-void WorkspaceWriter::addMarks(std::string_view key, const std::vector<MarkRecord>& marks)
+void WorkspaceWriter::addReferences(std::string_view key,
+                                    const std::vector<ReferenceRecord>& references)
 {
-    for (std::size_t i = 0; i < marks.size(); ++i) {
+    for (std::size_t i = 0; i < references.size(); ++i) {
         const std::string one = keys::numbered(key, i + 1);
-        addFurther(one, joined({number(one, marks[i].value), field(marks[i].caption)}));
+        addFurther(one, joined({number(one, references[i].value), field(references[i].caption)}));
     }
 }
 
-/// Of a curve that looks like a new one nothing is written.
+/// Omits curves of the default look.
 void WorkspaceWriter::addLooks(const std::vector<SeriesRecord>& series)
 {
     const SeriesRecord usual;
@@ -264,7 +265,7 @@ std::string WorkspaceWriter::encoded(const std::string& text)
     return bytes;
 }
 
-/// A text that is one field of several.
+/// A text as one of several fields.
 std::string WorkspaceWriter::field(std::string_view text)
 {
     std::string value = oneLine(text);
@@ -289,7 +290,7 @@ WrittenWorkspace writeWorkspace(const WorkspaceRecord& record, std::string_view 
     writer.write(record, userName);
     if (!writer.needsUtf8())
         return writer.result();
-    // Texts of two encodings in one file would confuse whoever looks at it.
+    // Two encodings in one file would be confusing.
     WorkspaceWriter unicode(Encoding::Utf8);
     unicode.write(record, userName);
     return unicode.result();

@@ -11,22 +11,21 @@ namespace tarsil {
 struct WrittenWorkspace
 {
     std::string bytes;
-    std::vector<LongValue> longValues; ///< written whole, in the order of the file
+    std::vector<LongValue> longValues; ///< written in full, in the order of the file
 };
 
-/// Turns a record into the bytes of a workspace file saved by that user (his name ends at its first
-/// NUL). The texts are Windows-1252 when all of them fit there, else all UTF-8; rich texts are the
-/// bytes that they are.
+/// Converts a record to the bytes of a workspace file saved by `userName` (cut at its first NUL).
+/// Texts are Windows-1252 if all of them fit, otherwise UTF-8; rich texts are copied as bytes.
 ///
-/// A line break within a value is a NUL, whatever its kind; the texts of values of several fields,
-/// which NULs separate, have a blank there. A value that would lose blanks or quotes at its
-/// ends when it is read is quoted; only the three blanks of a description that nobody gave
-/// do not. What is absent is written "Empty".
+/// A line break within a value becomes NUL; in the texts of values with several fields, which NUL
+/// separates, it becomes a blank. A value whose ends a reader would strip is quoted, except the
+/// three default blanks of a description. An absent value is written as "Empty".
 ///
-/// Edited parameters, the reference evolution, marks, and looks of curves that are not the usual
-/// one follow the other keys of their sections, where they mislead nobody who does not know them.
+/// Edited parameters, the reference evolution, reference speeds, damping lines and looks that
+/// differ from the default are further keys at the end of their sections, which older programs
+/// ignore.
 ///
-/// Error 6 "Overflow" for a number that is not finite or more than 32767 files, plots or series.
+/// Error 6 "Overflow" for a number that is not finite, or more than 32767 files, plots or series.
 WrittenWorkspace writeWorkspace(const WorkspaceRecord& record, std::string_view userName);
 
 } // namespace tarsil

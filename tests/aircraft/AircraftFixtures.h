@@ -11,7 +11,7 @@
 
 namespace tarsil::test {
 
-/// What the reader makes of a text; "wing.inp" is its name in messages.
+/// Reads a text; "wing.inp" is its name in messages.
 inline AirplaneInfo readText(std::string_view text)
 {
     AirplaneInfo info;
@@ -20,7 +20,7 @@ inline AirplaneInfo readText(std::string_view text)
     return info;
 }
 
-/// The error that stops the reader, with what was read before it; no error when there is none.
+/// The error that stops the reader, if any, and what was read before it.
 struct StoppedReading
 {
     AirplaneInfo info;

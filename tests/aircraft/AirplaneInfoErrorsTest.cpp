@@ -21,7 +21,7 @@ TEST(AirplaneInfoErrors, refuseAMechanismOfTenFields)
     EXPECT_EQ(read.description(),
               "Subscript out of range: wing.inp, line 3: only 10 of 11 fields, no vthick: "
               "\"FIN|fin|1|2|3|4|5|6|7|8\"");
-    ASSERT_EQ(read.info.FlutterMechs.size(), 1U); // what was read before
+    ASSERT_EQ(read.info.FlutterMechs.size(), 1U); // read before the error
     EXPECT_EQ(read.info.FlutterMechs[0].ShortName, "a");
 }
 
@@ -75,7 +75,7 @@ TEST(AirplaneInfoErrors, nameLineFieldAndTextOfALimitThatIsNoNumber)
     EXPECT_TRUE(read.info.FlutterMechs.empty());
 }
 
-TEST(AirplaneInfoErrors, countTheFieldsOfAnEnvelopeBehindItsName)
+TEST(AirplaneInfoErrors, countTheFieldsOfAnEnvelopeAfterItsName)
 {
     const StoppedReading read = readUntilError("[FLUTTER ENVELOPE]\n0.40=1||3\n");
     EXPECT_EQ(read.description(), "Type mismatch: wing.inp, line 2, field 1 (Vd): \"\"");
@@ -89,7 +89,7 @@ TEST(AirplaneInfoErrors, refuseANumberBeyondTheRangeOfASingle)
     EXPECT_EQ(read.description(), "Overflow: wing.inp, line 2, field 0 (Ceiling): \"3.5E38\"");
 }
 
-TEST(AirplaneInfoErrors, takeTagsBehindAnEntryForAnEntry)
+TEST(AirplaneInfoErrors, treatTagsAfterAnEntryAsAnEntry)
 {
     const StoppedReading read = readUntilError("[FLUTTER ENVELOPE]\n0.40=1|2|3\nTAG=a|b|c\n");
     EXPECT_EQ(read.number(), 13);
@@ -135,7 +135,7 @@ TEST(AirplaneInfoErrors, keepTheSectionsBeforeThem)
     EXPECT_EQ(read.number(), 9);
     EXPECT_EQ(read.info.VLTag, "a");
     EXPECT_EQ(read.info.FlutterEnvs.size(), 1U);
-    EXPECT_EQ(read.info.MassConfs.size(), 1U); // and nothing behind it
+    EXPECT_EQ(read.info.MassConfs.size(), 1U); // nothing after it
     EXPECT_TRUE(read.info.FlutterMechs.empty());
 }
 

@@ -7,7 +7,7 @@
 #include <random>
 #include <string>
 
-// Files that nobody meant as aircraft information: each is read or refused, never more.
+// Files that are not aircraft information are read or refused, and never crash the reader.
 
 namespace tarsil {
 

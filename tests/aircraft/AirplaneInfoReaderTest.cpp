@@ -88,7 +88,7 @@ TEST(AirplaneInfoReader, readsTheTagOfTheLimitSpeedFirst)
     EXPECT_EQ(info.CeTag, "ceiling");
 }
 
-TEST(AirplaneInfoReader, takesAnyTextBetweenTagAndItsEqualSign)
+TEST(AirplaneInfoReader, acceptsAnyTextBetweenTagAndItsEqualSign)
 {
     const AirplaneInfo info = readText("[FLUTTER ENVELOPE]\nTAGS in KEAS =a|b=c|\n");
     EXPECT_EQ(info.VLTag, "a");
@@ -105,7 +105,7 @@ TEST(AirplaneInfoReader, needsNoTags)
     EXPECT_EQ(info.FlutterEnvs[0].VL, 3);
 }
 
-TEST(AirplaneInfoReader, takesTheSectionsInAnyOrder)
+TEST(AirplaneInfoReader, acceptsTheSectionsInAnyOrder)
 {
     const AirplaneInfo info = readText("[FLUTTER ENVELOPE]\n0.40=1|2|3\n\n"
                                        "[FLUTTER MECHANISM]\na|b|1|2|3|4|5|6|7|8|9\n\n"
@@ -181,7 +181,7 @@ TEST(AirplaneInfoReader, keepsTextsAsTheyAre)
     EXPECT_EQ(info.MassConfs.at(0).CGval, "e ");
 }
 
-TEST(AirplaneInfoReader, takesNumbersWithBlanksAroundAndExponents)
+TEST(AirplaneInfoReader, acceptsNumbersWithBlanksAroundAndExponents)
 {
     const AirplaneInfo info = readText("[FLUTTER ENVELOPE]\n0.40= 1.5e2 |+.25D+3|-2d-1\n");
     EXPECT_EQ(info.FlutterEnvs.at(0).Ceiling, 150);
@@ -189,7 +189,7 @@ TEST(AirplaneInfoReader, takesNumbersWithBlanksAroundAndExponents)
     EXPECT_EQ(info.FlutterEnvs.at(0).VL, -0.2F);
 }
 
-TEST(AirplaneInfoReader, takesWindowsLineEndsAndAByteOrderMark)
+TEST(AirplaneInfoReader, acceptsWindowsLineEndsAndAByteOrderMark)
 {
     const AirplaneInfo info = readText("\xEF\xBB\xBF[FLUTTER ENVELOPE]\r\nTAG=a|b|c\r\n"
                                        "0.40=1|2|3\r\n\r\n0.50=1|2|3\r\n");

@@ -9,7 +9,7 @@
 
 #include <cmath>
 
-// The aircraft file of the samples fits the modal evolutions beside it.
+// The aircraft file of the samples matches the modal evolutions beside it.
 
 namespace tarsil {
 

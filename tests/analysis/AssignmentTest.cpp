@@ -43,7 +43,7 @@ TEST(Assignment, costsAsLittleAsTheBestPermutation)
     }
 }
 
-TEST(Assignment, takesADetourWhereTheCheapestColumnIsWantedTwice)
+TEST(Assignment, reassignsRowsWhereTheCheapestColumnIsWantedTwice)
 {
     CostMatrix costs(3);
     const double rows[3][3] = {{1, 2, 3}, {1, 4, 6}, {1, 5, 9}};

@@ -35,19 +35,19 @@ bool isEmpty(const Sheet& sheet, std::size_t row, std::size_t column)
     return std::holds_alternative<std::monostate>(sheet.cell(row, column));
 }
 
-/// Answers nothing; a test that expects no question fails.
+/// No answer; a test that expects no question fails.
 std::optional<std::string> noQuestion(const AeMode&, std::string_view)
 {
     ADD_FAILURE() << "asked for a Mach number";
     return std::nullopt;
 }
 
-/// Counts the questions and gives the same answer to each.
+/// Counts the questions and always gives the same answer.
 struct Answer
 {
     std::optional<std::string> text;
     int questions = 0;
-    std::vector<int> modes {}; ///< of which it was asked
+    std::vector<int> modes {}; ///< that the question was about
 
     FlutterReport::MachQuestion asker()
     {
@@ -131,7 +131,7 @@ TEST(Report, laysOutBlocksOfTheLargestNumberOfCrossings)
     EXPECT_EQ(number(sheet, 2, 6), -1) << "350 KEAS is before the second point";
     EXPECT_EQ(number(sheet, 2, 7), 300) << "the speed of the first point, which is the maximum";
 
-    // Half-way between the points, all of them.
+    // All half-way between the points.
     EXPECT_EQ(number(sheet, 2, 8), 350);
     EXPECT_TRUE(isEmpty(sheet, 2, 9));
     EXPECT_EQ(number(sheet, 2, 10), 5);
@@ -246,7 +246,7 @@ TEST(Report, asksForTheMachNumberOncePerCrossing)
     EXPECT_EQ(number(sheet, 4, 4), 0);
 }
 
-TEST(Report, takesNoAnswerAndAWrongAnswerAsTypeMismatch)
+TEST(Report, treatsNoAnswerAndAWrongAnswerAsTypeMismatch)
 {
     EVM evolution;
     describe(evolution, false);
@@ -310,7 +310,7 @@ TEST(Report, writesTheOtherRowsWhenASearchFails)
 {
     EVM evolution;
     describe(evolution, true);
-    // Crosses zero at 250 KEAS before it cannot be searched on: none of the two is written.
+    // Crosses zero at 250 KEAS before the search fails: none of the two crossings is written.
     AeMode& jump = addMode(evolution, 1, {{200, -1, 1}, {300, 1, 1}, {300, -1, 1}});
     AeMode& good = addMode(evolution, 2, {{300, -1, 4}, {400, 1, 6}});
     Sheet sheet;
@@ -337,7 +337,7 @@ TEST(Report, writesTheOtherCellsWhenAMaximumOrAnAltitudeFails)
     EVM evolution;
     describe(evolution, true);
     AeMode& empty = addMode(evolution, 1, {});
-    // Crosses zero at standstill, where no altitude belongs to the Mach number, and at 150 KEAS.
+    // Crosses zero at standstill, where the Mach number has no altitude, and at 150 KEAS.
     AeMode& still = addMode(evolution, 2, {{-100, -1, 1}, {100, 1, 1}, {200, -1, 1}});
     Sheet sheet;
     int errors = 0;

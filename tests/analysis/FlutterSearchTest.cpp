@@ -20,8 +20,8 @@ TEST(Crossings, lieWhereTheStraightLineReachesTheReference)
 {
     EVM evolution;
     AeMode& mode = addMode(evolution, 1, {{300, -0.125F, 8}, {400, 0.375F, 10}});
-    // A quarter of the way, since 0.125 / (0.125 + 0.375) = 1/4: 300 + 100/4 and 8 + 2/4. All
-    // numbers are exact in binary.
+    // A quarter of the way: 0.125 / (0.125 + 0.375) = 1/4, so 300 + 100/4 and 8 + 2/4. All numbers
+    // are exact in binary.
     EXPECT_FALSE(FlutterPtsCalc(mode, 0));
     ASSERT_EQ(mode.flutterPoints.size(), 1U);
     EXPECT_EQ(mode.flutterPoints[0].speed, 325.0F);
@@ -71,7 +71,7 @@ TEST(Crossings, needTwoPoints)
     EXPECT_TRUE(single.flutterPoints.empty());
 }
 
-TEST(Crossings, replaceThoseOfTheSearchBefore)
+TEST(Crossings, replaceThoseOfThePreviousSearch)
 {
     EVM evolution;
     AeMode& mode = addMode(evolution, 1, {{100, -1}, {200, 1}});
@@ -129,7 +129,7 @@ TEST(Crossings, takeTheFactorsThatBothPointsHave)
 TEST(Crossings, copyAValueThatBothPointsShare)
 {
     EVM evolution;
-    const float odd = 0.1F; // would not survive the construction bit by bit
+    const float odd = 0.1F; // interpolation would change its bits
     AeMode& mode = addMode(evolution, 1, {{100, -0.3F, odd}, {200, 0.7F, odd}});
     FlutterPtsCalc(mode, 0);
     ASSERT_EQ(mode.flutterPoints.size(), 1U);
@@ -196,7 +196,7 @@ TEST(Crossings, takeTheLargestSingles)
 TEST(Crossings, refuseAValueThatNoSingleHolds)
 {
     EVM evolution;
-    const float infinite = std::numeric_limits<float>::infinity(); // read from no file
+    const float infinite = std::numeric_limits<float>::infinity(); // cannot come from a file
     AeMode& mode = addMode(evolution, 3, {{100, -infinite}, {200, 1}});
     const auto error = errorOf([&mode] { FlutterPtsCalc(mode, 0); });
     EXPECT_EQ(error.value().number(), ErrorNumber::Overflow);

@@ -17,7 +17,7 @@ constexpr double knots = 1.94384449244; // in a metre per second
 constexpr double squareOfSoundSpeed = 115794.8064; // (m/s)^2
 constexpr double feetPerMetre = 1 / 0.3048; // by definition
 
-/// The equivalent airspeed (m/s) that belongs to Mach 1 at a pressure ratio.
+/// The equivalent airspeed (m/s) of Mach 1 at a pressure ratio.
 double speedAtRatio(double delta)
 {
     return std::sqrt(delta * squareOfSoundSpeed);
@@ -49,7 +49,7 @@ TEST(Isa, givesTheAltitudeOfADensity)
     EXPECT_NEAR(ISA::densityAltitude(0.0880349 / 1.225), 20000 * feetPerMetre, 20);
 }
 
-TEST(Isa, takesMetresPerSecond)
+TEST(Isa, expectsMetresPerSecond)
 {
     EXPECT_DOUBLE_EQ(IsaAltitude(300 / knots, 0.5, "mps"), IsaAltitude(300, 0.5, "knot"));
 }
@@ -57,7 +57,7 @@ TEST(Isa, takesMetresPerSecond)
 TEST(Isa, agreesWithThePublishedPressuresOfTheStandardAtmosphere)
 {
     // ISO 2533:1975, table of geopotential altitude (m) and pressure (hPa); 1013.25 hPa at 0 m. The
-    // rounded constants are good for a few feet.
+    // rounded constants are accurate to a few feet.
     const struct
     {
         double metres;
@@ -79,14 +79,14 @@ TEST(Isa, isNegativeBelowTheSea)
 
 TEST(Isa, usesTheStratosphereAtTheBoundary)
 {
-    // The ratio 0.223358 itself takes the logarithm of 1. A square root squared may be off by a
-    // last bit, so the speed is the largest whose ratio does not pass the boundary.
+    // The ratio 0.223358 gives the logarithm of 1. The square of a square root may be off by its
+    // last bit, so this finds the largest speed whose ratio does not exceed the boundary.
     double boundary = speedAtRatio(0.223358);
     while (boundary * boundary / squareOfSoundSpeed > 0.223358)
         boundary = std::nextafter(boundary, 0.0);
     EXPECT_NEAR(IsaAltitude(boundary, 1, "mps"), 36089, 1e-6);
     EXPECT_GT(IsaAltitude(speedAtRatio(0.22335), 1, "mps"), 36089);
-    // (1 - 0.22336^(1/5.2561)) * 145442.156 ft; the two laws meet only roughly.
+    // (1 - 0.22336^(1/5.2561)) * 145442.156 ft; the two laws do not meet exactly.
     const double below = IsaAltitude(speedAtRatio(0.22336), 1, "mps");
     EXPECT_LT(below, 36089);
     EXPECT_NEAR(below, 36088, 1);
@@ -94,7 +94,7 @@ TEST(Isa, usesTheStratosphereAtTheBoundary)
 
 TEST(Isa, followsTheExponentialLawAboveTheTropopause)
 {
-    // A pressure falls to 1/e within 1 / 4.8063e-5 ft.
+    // The pressure falls to 1/e within 1 / 4.8063e-5 ft.
     EXPECT_NEAR(IsaAltitude(speedAtRatio(0.223358 / std::exp(1.0)), 1, "mps"),
                 36089 + 1 / 4.8063e-5, 1e-6);
 }

@@ -11,10 +11,10 @@
 using namespace tarsil;
 
 // The uniform cantilever wing of M. Goland and Y. L. Luke, "The Flutter of a Uniform Wing with Tip
-// Weights", Journal of Applied Mechanics 15 (1948), pp. 13-20: at sea level the wing without tip
-// weight flutters at 137.2 m/s (266.7 KEAS) with 70.7 rad/s (11.25 Hz). The samples come from a
-// strip theory with a few beam modes, tabulated every few knots: 1 % in speed and 2 % in frequency
-// are what such a model is good for.
+// Weights", Journal of Applied Mechanics 15 (1948), pp. 13-20: without tip weight, at sea level, it
+// flutters at 137.2 m/s (266.7 KEAS) with 70.7 rad/s (11.25 Hz). The samples are strip theory with
+// a few beam modes, tabulated every few knots. Such a model is accurate to 1 % in speed and 2 % in
+// frequency.
 
 namespace {
 

@@ -68,9 +68,9 @@ TEST(ModeTracking, keepsTheLabelsOfRootsThatStayApart)
     EXPECT_FALSE(tracking.isMarked(0, 0));
 }
 
-TEST(ModeTracking, marksAnAmbiguousStep)
+TEST(ModeTracking, reportsAnAmbiguousStep)
 {
-    // At the third point the two roots are as near to the one prediction as to the other.
+    // At the third point both roots are equally close to one of the predictions.
     BuiltEvolution built;
     built.add({{0, 10}, {0, 10}, {-0.5F, 10.5F}});
     built.add({{0, 11}, {0, 11}, {0.5F, 10.5F}});
@@ -81,7 +81,7 @@ TEST(ModeTracking, marksAnAmbiguousStep)
     EXPECT_TRUE(tracking.isMarked(1, 0));
 }
 
-TEST(ModeTracking, marksAJumpAndPredictsNothingFromIt)
+TEST(ModeTracking, reportsAJumpAndPredictsNothingFromIt)
 {
     BuiltEvolution built;
     built.add({{0, 10}, {0, 10.1F}, {0, 10.2F}, {0, 20}, {0, 20.1F}});
@@ -111,7 +111,7 @@ TEST(ModeTracking, leavesOneModeAlone)
     EXPECT_TRUE(ModeTracking(built.evolution).marks().empty());
 }
 
-TEST(ModeTracking, saysWhatStandsInItsWay)
+TEST(ModeTracking, reportsWhatPreventsIt)
 {
     BuiltEvolution unequal;
     unequal.add({{0, 10}, {0, 90}});

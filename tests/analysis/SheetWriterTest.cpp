@@ -51,7 +51,7 @@ std::size_t fileCount(const TemporaryFolder& folder)
     return count;
 }
 
-/// Lets no file of this process grow beyond so many bytes, as on a full disk.
+/// Limits the size of the files of this process, as a full disk does.
 class FileSizeLimit
 {
 public:
@@ -100,7 +100,7 @@ TEST(SheetAsCsv, letsASpreadsheetRunNoText)
         "\r\n-1\r\n1000000000\r\n");
 }
 
-TEST(SheetAsCsv, isUtf8WhereTheEightBitTextHasNoPlace)
+TEST(SheetAsCsv, isUtf8WhereEightBitTextCannotBeUsed)
 {
     const TemporaryFolder folder;
     Sheet sheet;
@@ -185,7 +185,7 @@ TEST(SheetAsXlsx, givesEqualBytesForEqualSheets)
     EXPECT_THAT(test::zipPart(folder.file("a.xlsx"), "docProps/core.xml"), HasSubstr("1980-01-01"));
 }
 
-TEST(SheetAsXlsx, takesTextThatIsNoUtf8)
+TEST(SheetAsXlsx, acceptsTextThatIsNoUtf8)
 {
     const TemporaryFolder folder;
     Sheet sheet;
@@ -266,7 +266,7 @@ TEST(SheetAsXlsx, refusesMoreColumnsThanASpreadsheetHas)
     EXPECT_EQ(fileCount(folder), 0U);
 }
 
-/// A temporary file elsewhere could fail unseen.
+/// A temporary file elsewhere could fail unnoticed.
 TEST(SheetAsXlsx, needsNoFolderForTemporaryFiles)
 {
     const TemporaryFolder folder;
@@ -281,7 +281,7 @@ TEST(SheetAsXlsx, needsNoFolderForTemporaryFiles)
     EXPECT_EQ(test::readXlsx(folder.file("a.xlsx")).cell(4, 4), example().cell(4, 4));
 }
 
-/// The way of every report: the largest one that is written in the tests, and the smallest.
+/// Writes the largest and the smallest report that the tests use.
 TEST(SheetAsXlsx, readsBackAtEverySize)
 {
     const TemporaryFolder folder;

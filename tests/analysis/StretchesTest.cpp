@@ -8,7 +8,7 @@ using namespace tarsil;
 
 namespace {
 
-/// Points at 100, 125, 150 ... KEAS with these dampings, at 5 Hz.
+/// Points at 100, 125, 150 ... KEAS with these dampings and one frequency.
 std::vector<StabilityPoint> pointsOf(const std::vector<float>& dampings, float frequency = 5)
 {
     std::vector<StabilityPoint> points;
@@ -142,7 +142,7 @@ TEST(Stretches, ofNothingAreNone)
     EXPECT_FALSE(one.stretches[0].end);
 }
 
-// Values of scipy's PchipInterpolator, which has the same slopes.
+// Values of scipy's PchipInterpolator, which uses the same slopes.
 TEST(MonotoneCubic, isZeroWhereOtherProgramsSay)
 {
     const std::vector<CurvePoint> four = {{100, -0.02}, {125, -0.01}, {150, 0.01}, {175, 0.03}};

@@ -18,7 +18,7 @@ QByteArray xmlPart(const std::string& path, const std::string& part)
     return QByteArray::fromStdString(zipPart(path, part));
 }
 
-/// The texts that cells refer to by their position.
+/// The texts that cells refer to by index.
 std::vector<std::string> sharedTexts(const std::string& path)
 {
     std::vector<std::string> texts;
@@ -48,24 +48,24 @@ std::string titleOf(const std::string& path, int number)
     return {};
 }
 
-struct Place
+struct CellPosition
 {
     std::size_t row = 0;
     std::size_t column = 0;
 };
 
 /// "B3" is row 3, column 2.
-Place placeOf(const QString& reference)
+CellPosition positionOf(const QString& reference)
 {
-    Place place;
+    CellPosition position;
     for (const QChar c : reference) {
         const auto value = static_cast<std::size_t>(c.unicode());
         if (c.isLetter())
-            place.column = place.column * 26 + value - 'A' + 1;
+            position.column = position.column * 26 + value - 'A' + 1;
         else
-            place.row = place.row * 10 + value - '0';
+            position.row = position.row * 10 + value - '0';
     }
-    return place;
+    return position;
 }
 
 } // namespace
@@ -98,21 +98,21 @@ Sheet readXlsx(const std::string& path, int number)
     Sheet sheet(titleOf(path, number));
     const std::vector<std::string> texts = sharedTexts(path);
     QXmlStreamReader xml(xmlPart(path, "xl/worksheets/sheet" + std::to_string(number) + ".xml"));
-    Place place;
+    CellPosition position;
     bool isText = false;
     while (!xml.atEnd()) {
         if (xml.readNext() != QXmlStreamReader::StartElement)
             continue;
         EXPECT_NE(xml.name(), u"f") << "a formula";
         if (xml.name() == u"c") {
-            place = placeOf(xml.attributes().value(QStringLiteral("r")).toString());
+            position = positionOf(xml.attributes().value(QStringLiteral("r")).toString());
             isText = xml.attributes().value(QStringLiteral("t")) == u"s";
         } else if (xml.name() == u"v") {
             const QString value = xml.readElementText();
             if (isText)
-                sheet.setText(place.row, place.column, texts.at(value.toUInt()));
+                sheet.setText(position.row, position.column, texts.at(value.toUInt()));
             else
-                sheet.setNumber(place.row, place.column, value.toDouble());
+                sheet.setNumber(position.row, position.column, value.toDouble());
         }
     }
     EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();

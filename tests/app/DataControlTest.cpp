@@ -1,4 +1,4 @@
-// The Data Control window among the others: a day's round through the main window.
+// The Data Control window together with the others: a typical session in the main window.
 
 #include "app/WndMainFixture.h"
 
@@ -37,14 +37,14 @@ protected:
         user.openFiles.push_back(files);
         choose("AddMenu");
     }
-    QTreeWidgetItem& evolutionNode(int place)
+    QTreeWidgetItem& evolutionNode(int index)
     {
         auto& tree = partOf<QTreeWidget>(window.explorer(), "tvwEvolExplorer");
-        return *tree.topLevelItem(0)->child(1)->child(place);
+        return *tree.topLevelItem(0)->child(1)->child(index);
     }
-    void selectNode(int place)
+    void selectNode(int index)
     {
-        evolutionNode(place).treeWidget()->setCurrentItem(&evolutionNode(place));
+        evolutionNode(index).treeWidget()->setCurrentItem(&evolutionNode(index));
     }
     wndData& data() { return partOf<wndData>(window, "wndData"); }
     QAbstractItemModel& rows() { return *partOf<SeriesGridView>(data(), "flxSerieViewer").model(); }
@@ -88,7 +88,7 @@ TEST_F(DataControl, showsTheCurvesThatTheExplorerAddsAndLetsGo)
     EXPECT_THAT(column(SeriesColumn::Evolution), ElementsAre("goland_tipstore_m040.ev2"));
 }
 
-TEST_F(DataControl, headsAndMarksThePlotAfterTheReferenceEvolution)
+TEST_F(DataControl, fillsTitleAndReferenceSpeedsFromTheReferenceEvolution)
 {
     add({sample("goland_tipstore_m040.ev2")});
     selectNode(0);
@@ -99,7 +99,7 @@ TEST_F(DataControl, headsAndMarksThePlotAfterTheReferenceEvolution)
     EXPECT_EQ(plot().Header().Text(),
               QStringLiteral("GOLAND WING - Configuration TIP_STORE\r\n"
                              "PK Method - Mach No. 0.40\r\n"));
-    // Of samples/goland.inp: the ceiling at Mach 0.40, the dive speed and the limit speed.
+    // From samples/goland.inp: the ceiling at Mach 0.40, the dive speed and the limit speed.
     ASSERT_EQ(plot().parts().velAxis.marks().size(), 3U);
     EXPECT_EQ(plot().parts().velAxis.marks()[0].Speed, 113.8F);
     EXPECT_EQ(plot().parts().velAxis.marks()[1].Speed, 210);
@@ -140,7 +140,7 @@ TEST_F(DataControl, countsWhatIsTypedAsAChangeOfTheWorkspace)
     EXPECT_GT(rows().rowCount(), 0) << "the answer was no";
 }
 
-TEST_F(DataControl, takesWhatIsBeingTypedAlongBeforeItIsAskedAboutOrSaved)
+TEST_F(DataControl, commitsWhatIsBeingTypedBeforeItIsAskedAboutOrSaved)
 {
     user.openFiles.push_back({sample("goland.tsw")});
     choose("OpenMenu");
@@ -163,7 +163,7 @@ TEST_F(DataControl, takesWhatIsBeingTypedAlongBeforeItIsAskedAboutOrSaved)
     EXPECT_THAT(test::fileBytes(folder.file("case.tsw")), ::testing::HasSubstr("typed last"));
 }
 
-TEST_F(DataControl, takesALabelThatIsBeingTypedAlongToo)
+TEST_F(DataControl, commitsALabelThatIsBeingTypedToo)
 {
     auto& tree = partOf<QTreeWidget>(window.explorer(), "tvwEvolExplorer");
     QTreeWidgetItem* const description = tree.topLevelItem(0)->child(0)->child(0)->child(0);

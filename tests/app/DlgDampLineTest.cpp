@@ -33,7 +33,7 @@ protected:
     void add() { test::click(dialog, "sdampBtn"); }
     const std::vector<RefLine>& lines() const { return plot.parts().vgPlot.lines(); }
     QLineEdit& value() const { return partOf<QLineEdit>(dialog, "sdampInp"); }
-    /// The focus goes from the value to another control.
+    /// Moves the focus from the value to another widget.
     void leaveFor(const char* control, Qt::FocusReason reason) const
     {
         value().setFocus();
@@ -98,8 +98,8 @@ TEST_F(DlgDampLine, addsALineAcrossTheSpeedRangeAndStaysOpenForMore)
 
 TEST_F(DlgDampLine, writesTheValueInPerCentIntoTheCaption)
 {
-    // Two decimals with a point in every locale; half-way digits go away from zero as they were
-    // typed: 0.00225 * 100 is a double a little below 0.225.
+    // Two decimals with a point in every locale. Ties round away from zero, judged by the typed
+    // digits: as a double, 0.00225 * 100 is a little less than 0.225.
     const std::map<std::string, std::string> captions = {{"0.025", "g = 2.50 %"},
                                                          {"0.01", "g = 1.00 %"},
                                                          {"-0.03", "g = -3.00 %"},
@@ -236,7 +236,7 @@ TEST_F(DlgDampLine, asksForAPlotWhenNoneIsActive)
 
 TEST_F(DlgDampLine, reportsADampingBeyondTheRangeOfNumbers)
 {
-    test::type(dialog, "sdampInp", "1e39"); // a single ends at 3.4e38
+    test::type(dialog, "sdampInp", "1e39"); // beyond the largest single, 3.4e38
     EXPECT_TRUE(user.messages.empty());
     add();
     EXPECT_EQ(
@@ -249,7 +249,7 @@ TEST_F(DlgDampLine, reportsADampingBeyondTheRangeOfNumbers)
 
 TEST_F(DlgDampLine, reportsAPercentageBeyondTheRangeOfNumbers)
 {
-    test::type(dialog, "sdampInp", "1e307"); // a double ends at 1.8e308
+    test::type(dialog, "sdampInp", "1e307"); // beyond the largest double, 1.8e308
     ASSERT_EQ(user.messages.size(), 1U);
     EXPECT_TRUE(user.messages[0].text.starts_with("Error # 6 ")) << user.messages[0].text;
     EXPECT_EQ(caption(), "");

@@ -64,7 +64,7 @@ TEST_F(DlgRefSpeed, hasALabelBeforeEachInput)
     EXPECT_EQ(test::accessibleName(partOf<QWidget>(dialog, "capInp")), "Label:");
 }
 
-TEST_F(DlgRefSpeed, addsAMarkAndStaysOpenForMore)
+TEST_F(DlgRefSpeed, addsAReferenceSpeedAndStaysOpenForMore)
 {
     add();
     test::type(dialog, "posInp", " 4.1E2 ");
@@ -95,7 +95,7 @@ TEST_F(DlgRefSpeed, addsToThePlotThatIsActiveThen)
     EXPECT_EQ(other.parts().velAxis.marks().size(), 1U);
 }
 
-TEST_F(DlgRefSpeed, addsOneMarkForEnterInAnInputOnTheButtonOrOnTheForm)
+TEST_F(DlgRefSpeed, addsOneReferenceSpeedForEnterInAnInputOnTheButtonOrOnTheForm)
 {
     std::size_t count = 0;
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
@@ -144,7 +144,7 @@ TEST_F(DlgRefSpeed, asksForAPlotWhenNoneIsActive)
 
 TEST_F(DlgRefSpeed, reportsASpeedBeyondTheRangeOfNumbers)
 {
-    test::type(dialog, "posInp", "1e39"); // a single ends at 3.4e38
+    test::type(dialog, "posInp", "1e39"); // beyond the largest single, 3.4e38
     add();
     EXPECT_EQ(
         user.messages,
@@ -156,7 +156,7 @@ TEST_F(DlgRefSpeed, reportsASpeedBeyondTheRangeOfNumbers)
 
 TEST_F(DlgRefSpeed, reportsAFailureOfDrawing)
 {
-    plot.SetScale(100, 100, 0, 50, 0, -0.25F); // a mark has no place between equal bounds
+    plot.SetScale(100, 100, 0, 50, 0, -0.25F); // equal bounds: a mark has no position
     add();
     ASSERT_EQ(user.messages.size(), 1U);
     EXPECT_TRUE(user.messages[0].text.starts_with(

@@ -20,7 +20,7 @@ using ::testing::HasSubstr;
 
 namespace {
 
-/// A plot of one mode of the old format (it holds no Mach number) that crosses zero damping at 250
+/// A plot of one mode of the old format, without a Mach number, that crosses zero damping at 250
 /// and at 350 KEAS.
 class FlutterReportCommandTest : public ::testing::Test
 {
@@ -134,7 +134,7 @@ TEST_F(FlutterReportCommandTest, offersNoAnswerThatWasNoNumber)
     EXPECT_EQ(user.initials.back(), "0.5");
 }
 
-TEST_F(FlutterReportCommandTest, saysThatItTakesTimeAndWhoseMachNumberIsAsked)
+TEST_F(FlutterReportCommandTest, saysThatItNeedsTimeAndWhoseMachNumberIsAsked)
 {
     user.texts = {"0", "1000", "0.5", "0.5"};
     run();

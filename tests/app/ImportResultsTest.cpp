@@ -56,7 +56,7 @@ protected:
         QMimeData data;
         data.setUrls(urls);
         QDropEvent event(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        static_cast<QObject&>(window).event(&event); // there is no source to drag from
+        static_cast<QObject&>(window).event(&event); // no drag source
         QApplication::processEvents();
     }
 
@@ -96,7 +96,7 @@ TEST_F(ImportResults, openTheDialogWhenTheyAreDropped)
     EXPECT_THAT(listedFiles(), ElementsAre("wing.f06", "tail.f06"));
 }
 
-TEST_F(ImportResults, areTakenByTheWindowAndOtherThingsAreNot)
+TEST_F(ImportResults, areAcceptedByTheWindowAndOtherThingsAreNot)
 {
     load();
     const auto isTaken = [this](const QMimeData& data) {
@@ -135,7 +135,7 @@ TEST_F(ImportResults, areRefusedWhenTheyHoldNoSummary)
     load({folder.write("notes.txt", "notes\n")});
     EXPECT_EQ(dialog(), nullptr);
     ASSERT_EQ(user.messages.size(), 1U);
-    EXPECT_THAT(user.messages[0].text, HasSubstr("notes.txt holds no flutter summary"));
+    EXPECT_THAT(user.messages[0].text, HasSubstr("notes.txt contains no flutter summary"));
 }
 
 TEST_F(ImportResults, leaveWorkspacesToThemselves)

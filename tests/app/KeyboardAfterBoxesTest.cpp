@@ -1,4 +1,4 @@
-// Where the keyboard is after a box of a dialog: real boxes over the real windows.
+// The focus after a message box of a dialog, with real boxes and windows.
 
 #include "app/QtUserInterface.h"
 #include "app/StatusPanels.h"
@@ -34,7 +34,7 @@ protected:
         window.show();
         window.MDIForm_Load({test::sample("goland_clean_m040.ev2")});
         window.activateWindow();
-        choose("mnuDataControl"); // the grid has the keyboard
+        choose("mnuDataControl"); // the grid has the focus
     }
 
     void choose(const char* command)
@@ -43,7 +43,7 @@ protected:
         QApplication::processEvents();
     }
 
-    /// Opens a dialog from its menu item.
+    /// Opens a dialog by its menu item.
     QDialog& open(const char* command, const char* name)
     {
         choose(command);
@@ -54,7 +54,7 @@ protected:
         return dialog;
     }
 
-    /// Types over the text of an input, key by key, and closes each box that comes.
+    /// Replaces the text of an input, key by key, and closes each box that appears.
     void typeOver(QLineEdit& input, const char* text)
     {
         input.setFocus();
@@ -67,7 +67,7 @@ protected:
         }
     }
 
-    /// Closes the box that is there when the event loop runs next.
+    /// Closes the box that is open when the event loop runs next.
     void closeBoxSoon()
     {
         QTimer::singleShot(0, &window, [this] { closeBox(); });
@@ -79,11 +79,11 @@ protected:
         if (box == nullptr)
             return;
         ++boxes;
-        window.activateWindow(); // as some window managers do when a dialog goes
+        window.activateWindow(); // as some window managers do when a dialog closes
         box->accept();
     }
 
-    /// Presses a key where the keyboard is.
+    /// Presses a key in the widget that has the focus.
     static void press(Qt::Key key)
     {
         ASSERT_NE(QApplication::focusWidget(), nullptr);
@@ -167,7 +167,7 @@ TEST_F(KeyboardAfterBoxes, isInTheCellWhoseModeWasNoNumber)
     grid.setCurrentIndex(grid.model()->index(0, static_cast<int>(SeriesColumn::Mode)));
     grid.edit(grid.currentIndex());
     test::openEditor(grid)->setText(QStringLiteral("x2"));
-    QTimer closer; // the cell hears of Return when the event loop runs, and no box is there before
+    QTimer closer; // the cell handles Return in the event loop, and the box opens there
     QObject::connect(&closer, &QTimer::timeout, &window, [this] { closeBox(); });
     closer.start();
     press(Qt::Key_Return);

@@ -1,4 +1,4 @@
-// The options in the main window: at the start, while it runs, and at its end.
+// The options in the main window: at the start, during the run, and at its end.
 
 #include "app/WndMainFixture.h"
 
@@ -30,7 +30,7 @@ protected:
 
     dlgOptions* dialog() const { return window.findChild<dlgOptions*>(); }
 
-    const OptionsStore store {folder.file("tarsil.ini")}; // of the window
+    const OptionsStore store {folder.file("tarsil.ini")}; // the file of the window
 };
 
 } // namespace
@@ -73,7 +73,7 @@ TEST_F(Options, thatCannotBeReadStayAsTheyAre)
 {
     const std::string text = "[Options]\nvgfThicks=4|3|2\n";
     folder.write("real.ini", text);
-    std::filesystem::create_directory(store.path()); // as good as a fault of the medium
+    std::filesystem::create_directory(store.path()); // a folder: cannot be read as a file
     load();
     EXPECT_EQ(user.messages.size(), 1U);
     std::filesystem::remove(store.path());
@@ -87,7 +87,7 @@ TEST_F(Options, thatNobodyChangedAreNotWritten)
 {
     keep("", "0|100|0|-1|0|10", "4|3|2");
     load();
-    const std::string newer = "[Options]\nvgfThicks=8|8|8\n"; // of another window
+    const std::string newer = "[Options]\nvgfThicks=8|8|8\n"; // written by another window
     folder.write("tarsil.ini", newer);
     choose("QuitMenu");
     EXPECT_EQ(test::fileBytes(store.path()), newer);
@@ -180,7 +180,7 @@ TEST_F(Options, areTheAxesOfANewWorkspaceAndOfNoneThatIsOpened)
 {
     load();
     user.saveFiles.push_back(folder.file("case.tsw"));
-    choose("mnuSaveWorkspace"); // with the axes that the program makes
+    choose("mnuSaveWorkspace"); // with the default axes
     choose("mnuOptions");
     test::type(*dialog(), "txtVgfScale", "0|100|0|-1|0|10");
     test::click(*dialog(), "btnOK");

@@ -24,7 +24,7 @@ protected:
 
 } // namespace
 
-TEST_F(PlainMessageBoxesTest, showTheQuestionOfAFileDialogAsItStands)
+TEST_F(PlainMessageBoxesTest, showTheQuestionOfAFileDialogUnchanged)
 {
     const test::TemporaryFolder folder;
     folder.write("<b>x.evm", "");

@@ -38,7 +38,7 @@ protected:
     }
     ~QtUserInterfaceTest() override { panels.setParent(nullptr); }
 
-    /// Does something with the dialog that opens next.
+    /// Runs an action on the dialog that opens next.
     template <typename Dialog, typename Action>
     void onDialog(Action action)
     {
@@ -170,7 +170,7 @@ TEST_F(QtUserInterfaceTest, belongsToTheWindowThatAsksAndGivesItTheKeyboardBack)
     for (const auto& ask : questions) {
         onDialog<QDialog>([&](QDialog& dialog) {
             EXPECT_EQ(dialog.parentWidget(), &asking) << asked;
-            window.activateWindow(); // as some window managers do when a dialog goes
+            window.activateWindow(); // as some window managers do when a dialog closes
             dialog.reject();
         });
         ask();
@@ -211,7 +211,7 @@ TEST_F(QtUserInterfaceTest, showsANoteBesideTheStatusUntilTheNextCommand)
     user.showStatus("of before");
     EXPECT_EQ(note->text(), path);
     EXPECT_EQ(note->textFormat(), Qt::PlainText);
-    EXPECT_TRUE(note->toolTip().contains(QStringLiteral("&lt;b&gt;"))) << "as it stands";
+    EXPECT_TRUE(note->toolTip().contains(QStringLiteral("&lt;b&gt;"))) << "unchanged";
     user.beginCommand();
     EXPECT_FALSE(note->isVisible());
     EXPECT_EQ(note->text(), QString());
@@ -233,7 +233,7 @@ TEST_F(QtUserInterfaceTest, showsStatusAndProgress)
     EXPECT_FALSE(bar->isVisible());
 }
 
-TEST_F(QtUserInterfaceTest, showsAStatusThatLooksLikeMarkUpAsItStands)
+TEST_F(QtUserInterfaceTest, showsAStatusThatLooksLikeMarkUpUnchanged)
 {
     const auto* const label = panels.findChild<QLabel*>(QStringLiteral("stBar_Status"));
     user.showStatus("R&D<br>D");

@@ -1,4 +1,4 @@
-// The plot of files named on the command line: the same in the window and in a picture without one.
+// The plot of files on the command line is the same in the window and in a picture.
 
 #include "WndMainFixture.h"
 
@@ -22,7 +22,7 @@ protected:
         return pictureBytes(plot(), format).toStdString();
     }
 
-    /// What tarsil-batch draws in the size of the window's plot.
+    /// The picture that tarsil-batch draws in the size of the window's plot.
     std::string batchPicture(const std::string& name, std::vector<std::string> files)
     {
         const QSize size = plot().size();

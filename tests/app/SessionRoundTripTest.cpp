@@ -21,13 +21,13 @@ namespace {
 
 constexpr unsigned sessions = 20;
 
-/// A text without control characters, which a rich text does not keep.
+/// A text without control characters, which rich text does not keep.
 std::string printed(std::string text)
 {
     const std::string control = "\u0081";
-    for (std::size_t place = text.find(control); place != std::string::npos;
-         place = text.find(control))
-        text.erase(place, control.size());
+    for (std::size_t index = text.find(control); index != std::string::npos;
+         index = text.find(control))
+        text.erase(index, control.size());
     return text;
 }
 
@@ -59,7 +59,7 @@ protected:
         choose("OpenMenu");
     }
 
-    /// What was saved, but for the date of saving.
+    /// The saved file without the date of saving.
     std::string saved(const std::string& name)
     {
         std::string text = test::fileBytes(folder.file(name));
@@ -67,7 +67,7 @@ protected:
         return text.erase(date, text.find('\r', date) - date);
     }
 
-    /// The picture of every plot, all of one size.
+    /// The pictures of all plots, in one size.
     std::vector<QByteArray> pictures()
     {
         std::vector<QByteArray> result;
@@ -81,7 +81,7 @@ protected:
     RandomTexts random {0};
 };
 
-/// Names with a blank, a semicolon, and letters that 7 bits do not have.
+/// Opens files whose names contain a blank, a semicolon, and letters beyond ASCII.
 void SessionRoundTripTest::openEvolutions()
 {
     std::vector<std::string> paths;
@@ -141,18 +141,18 @@ void SessionRoundTripTest::addSeries(EvmPlot& one)
         series.MarkerTag = line(6);
         series.MarkerSize = static_cast<std::int32_t>(random.below(30));
         series.MarkerSpacing = static_cast<std::int32_t>(random.below(8)) - 1;
-        series.MarkerStyle = static_cast<std::int32_t>(random.below(5)); // 4: there is none
+        series.MarkerStyle = static_cast<std::int32_t>(random.below(5)); // style 4 does not exist
         series.LegendText = line(random.below(4) == 0 ? 120 : 20);
         series.ColorIndex = color();
         series.MarkerForegroundColor = color();
         series.LineStyle = static_cast<std::int32_t>(random.below(6));
         series.LineWidth = static_cast<std::int16_t>(random.below(12));
-        series.IthMpf = static_cast<std::int32_t>(1 + random.below(6)); // five are there
+        series.IthMpf = static_cast<std::int32_t>(1 + random.below(6)); // 6 does not exist
         one.rows().add(series);
     }
 }
 
-/// After the scale, over which damping lines run.
+/// Called after the scale is set, which determines the ends of damping lines.
 void SessionRoundTripTest::addMarks(EvmPlot& one)
 {
     for (std::size_t left = random.below(4); left > 0; --left)
@@ -194,7 +194,7 @@ RichText SessionRoundTripTest::richText()
         if (random.below(2) == 0)
             characters.insert(random.below(2), "\n");
         TextFormat format = look();
-        format.strikeOut = !before.strikeOut; // neighbours of one look would be one run
+        format.strikeOut = !before.strikeOut; // adjacent runs must differ
         text.runs.push_back({utf16FromUtf8(characters), format});
         before = format;
     }
@@ -207,7 +207,7 @@ TextFormat SessionRoundTripTest::look()
     static const std::array<std::string, 3> families = {"Arial", "Courier New", "Größe"};
     TextFormat format;
     format.family = families.at(random.below(families.size()));
-    format.points = static_cast<double>(12 + random.below(60)) / 2; // halves, as RTF has them
+    format.points = static_cast<double>(12 + random.below(60)) / 2; // RTF has half points
     format.bold = random.below(2) == 0;
     format.italic = random.below(2) == 0;
     format.underline = random.below(2) == 0;

@@ -1,4 +1,4 @@
-// The window "Stability" within the program.
+// The window "Stability" in the program.
 
 #include "app/WndMainFixture.h"
 

@@ -15,7 +15,7 @@ using ::testing::HasSubstr;
 
 namespace {
 
-/// A document with the sample of a clean wing, copied into a folder of its own.
+/// A document with a copy of the sample of a clean wing in its own folder.
 class TrackingCommandsTest : public ::testing::Test
 {
 protected:
@@ -85,7 +85,7 @@ TEST_F(TrackingCommandsTest, exchangesModesInTheFileAndInThePlots)
     EXPECT_EQ(modifications[modifications.size() - 1].text, line);
 }
 
-TEST_F(TrackingCommandsTest, takesExchangesBackOneByOne)
+TEST_F(TrackingCommandsTest, undoesExchangesOneByOne)
 {
     EXPECT_FALSE(commands.canUndo());
     commands.track(*source);
@@ -102,7 +102,7 @@ TEST_F(TrackingCommandsTest, takesExchangesBackOneByOne)
     EXPECT_FALSE(commands.canUndo());
 }
 
-TEST_F(TrackingCommandsTest, takesNothingBackWhenAnotherProgramHasChangedTheFile)
+TEST_F(TrackingCommandsTest, undoesNothingWhenAnotherProgramHasChangedTheFile)
 {
     commands.track(*source);
     commands.exchange(tracked(), {1, 2, 200});

@@ -16,7 +16,7 @@
 
 namespace tarsil::test {
 
-/// The main window, shown, over a scripted user.
+/// The visible main window with a scripted user.
 class WndMainTest : public ::testing::Test
 {
 protected:
@@ -66,7 +66,7 @@ protected:
 
     TemporaryFolder folder;
     ScriptedUserInterface user;
-    QStringList opened; ///< by the system's programs
+    QStringList opened; ///< files opened in other programs
     bool canOpen = true;
     wndMain window;
 };

@@ -27,14 +27,14 @@ std::vector<std::string> captionsOf(const QMenu& menu)
     return captions;
 }
 
-/// The letters that open the items of a menu or menu bar from the keyboard.
+/// The mnemonics of the items of a menu or menu bar.
 std::vector<QChar> mnemonicsOf(const QList<QAction*>& actions)
 {
     std::vector<QChar> letters;
     for (const QAction* action : actions) {
-        const qsizetype place = action->text().indexOf(u'&');
-        if (place >= 0)
-            letters.push_back(action->text()[place + 1].toLower());
+        const qsizetype mnemonic = action->text().indexOf(u'&');
+        if (mnemonic >= 0)
+            letters.push_back(action->text()[mnemonic + 1].toLower());
     }
     return letters;
 }
@@ -142,7 +142,7 @@ TEST_F(WndMainTest, startsWithTheFirstPlotActive)
     EXPECT_EQ(plot().properties().Caption(), QStringLiteral("Plot1"));
 }
 
-TEST_F(WndMainTest, tellsThatAPlotTakesNoMoreCurves)
+TEST_F(WndMainTest, reportsThatAPlotAcceptsNoMoreCurves)
 {
     std::vector<std::string> many;
     const std::string text = test::fileBytes(sample("goland_clean_m040.ev2"));
@@ -152,8 +152,8 @@ TEST_F(WndMainTest, tellsThatAPlotTakesNoMoreCurves)
     EXPECT_EQ(window.document().evolutions().all().size(), 80U);
     ASSERT_EQ(user.messages.size(), 1U);
     EXPECT_EQ(user.messages[0].text,
-              "80 modal evolutions are loaded. The first 71 are drawn: a plot takes no more curves "
-              "at once."); // 71 x 7 = 497 of 500
+              "80 modal evolutions are loaded. The first 71 are drawn: a plot is limited to 500 "
+              "curves."); // 71 x 7 = 497 of 500
     ASSERT_FALSE(user.progress.empty());
     EXPECT_EQ(user.progress.back(), std::pair(std::size_t {80}, std::size_t {80}));
 }
@@ -175,7 +175,7 @@ TEST_F(WndMainTest, startsEmptyWithACommandLineThatItDoesNotKnow)
     EXPECT_TRUE(frame("wndEvolPlot").isVisible());
 }
 
-TEST_F(WndMainTest, takesAWorkspaceAloneFromACommandLineThatNamesBoth)
+TEST_F(WndMainTest, opensOnlyTheWorkspaceOfACommandLineThatNamesBoth)
 {
     load({sample("goland_clean_m040.ev2"), "case.tsw"});
     EXPECT_TRUE(window.document().evolutions().all().empty());
@@ -231,11 +231,11 @@ TEST_F(WndMainTest, togglesTheEditModeByItsPanelOnly)
     EXPECT_FALSE(plot().texts().EditMode());
 }
 
-TEST_F(WndMainTest, saysInTheStatusBarWhereReferenceSpeedsStandElsewhere)
+TEST_F(WndMainTest, saysInTheStatusBarWhereReferenceSpeedsAreDrawnElsewhere)
 {
     load();
     const QString note = QStringLiteral(
-        "Reference speeds stand 100 knots too far right: the speed axis begins at 100");
+        "Reference speeds are drawn 100 knots too far right: the speed axis begins at 100");
     const auto shown = [this] {
         QApplication::processEvents();
         return window.findChild<QLabel*>(QStringLiteral("stBar_PlotNote"))->text();

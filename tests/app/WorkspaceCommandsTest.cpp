@@ -34,7 +34,7 @@ namespace {
 class WorkspaceCommandsTest : public WndMainTest
 {
 protected:
-    /// Two evolutions beside the workspace, drawn in a plot with texts of its own.
+    /// Creates two evolutions beside the workspace, drawn in a plot with its own texts.
     void work()
     {
         for (const char* name : {"one.ev2", "two.ev2"})
@@ -47,7 +47,7 @@ protected:
         second.SetScale(0, 100, 0, 10, 0, -1);
     }
 
-    /// Two evolutions of one name in two folders, drawn in one plot.
+    /// Opens two evolutions of one name in two folders, drawn in one plot.
     void openNamesakes()
     {
         for (const char* const name : {"clean", "store"})
@@ -66,7 +66,7 @@ protected:
         return masses;
     }
 
-    /// Reference speeds, a damping line, a line of its own, edited parameters and a reference.
+    /// Sets everything that only further keys can store.
     void makeWhatOnlyNewerFilesHold()
     {
         plot().marks().AddRef(352.1F, QStringLiteral("Vd    "));
@@ -110,8 +110,8 @@ protected:
     void typeHeader(const QString& text)
     {
         EvmPlotView& view = *window.evolPlot().viewOf(plot());
-        const QPoint place = plot().Header().geometry().center();
-        QMouseEvent event(QEvent::MouseButtonDblClick, place, view.mapToGlobal(place),
+        const QPoint position = plot().Header().geometry().center();
+        QMouseEvent event(QEvent::MouseButtonDblClick, position, view.mapToGlobal(position),
                           Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(&view, &event);
         const QList<QTextEdit*> editors = view.findChildren<QTextEdit*>();
@@ -128,7 +128,7 @@ protected:
     }
 };
 
-/// Two plots of one name, each with that many series.
+/// Two plots of the same caption, each with these series.
 std::string twoPlots(const std::string& series)
 {
     const std::string axis = "a" + std::string(1, '\0') + "0" + std::string(1, '\0') + "9"
@@ -183,7 +183,7 @@ TEST_F(WorkspaceCommandsTest, nameTheUserWhateverTheEnvironmentSays)
                 HasSubstr("\r\nUsername=" + std::string(account->pw_name) + "\r\ntsw_Version="));
 }
 
-TEST_F(WorkspaceCommandsTest, writeADescriptionThatNobodyGaveAsItStands)
+TEST_F(WorkspaceCommandsTest, writeADescriptionThatNobodyGaveUnchanged)
 {
     load();
     save();
@@ -304,7 +304,7 @@ TEST_F(WorkspaceCommandsTest, writeNothingNewWhereAUserMadeNothingNew)
     work();
     test::changeAllSeries(plot(), [](Series& series) {
         series.LineStyle = 0;
-        series.IthMpf = 0; // nobody chose one
+        series.IthMpf = 0; // never set
     });
     save();
     for (const char* const key : {"RefSpeed", "DampLine", "SerieLook", "Edited", "Reference"})
@@ -428,7 +428,7 @@ TEST_F(WorkspaceCommandsTest, sayWhichCaptionsWillBeCut)
     choose("mnuNewWorkspace");
     open(folder.file("case.tsw"));
     EXPECT_EQ(user.note,
-              "RefSpeed(1) of [PLOT1] is cut: the format takes 1023 characters of each.");
+              "RefSpeed(1) of [PLOT1] is cut: the limit of the format is 1023 characters.");
     EXPECT_EQ(plot().marks().referenceSpeeds().at(0).Caption.size(), 1023);
     EXPECT_EQ(plot().marks().dampingLines().at(0).Caption.size(), 1023);
 }
@@ -508,12 +508,12 @@ TEST_F(WorkspaceCommandsTest, tellOfAFileThatIsTakenByItsNameAlone)
     open(folder.file("case.tsw"));
     ASSERT_EQ(user.messages.size(), 1U);
     EXPECT_THAT(user.messages[0].text,
-                StartsWith("These modal evolutions are not where the workspace says."));
+                StartsWith("These modal evolutions are not at their paths."));
     EXPECT_THAT(user.messages[0].text,
                 HasSubstr("\n" + folder.file("one.ev2") + ": " + folder.file("other/one.ev2")));
     user.confirmations = {true, false};
     save();
-    EXPECT_EQ(user.questions.size(), 2U) << "the true place would be lost";
+    EXPECT_EQ(user.questions.size(), 2U) << "the true position would be lost";
 }
 
 TEST_F(WorkspaceCommandsTest, tellOfTextsThatWereCutAndAskBeforeTheyAreLost)
@@ -812,7 +812,7 @@ TEST_F(WorkspaceCommandsTest, renewTheDateOfSavingAlone)
     }
     open(folder.write("old.tsw", bytes));
     for (const char* const name : {"again.tsw", "again.tsw"}) {
-        user.confirmations = {true}; // to replace it the second time
+        user.confirmations = {true}; // replaces the file the second time
         setTexts([](WorkspaceTexts& texts) {
             texts.dateModified = QStringLiteral("07-Mar-2024 14:05:31");
         });

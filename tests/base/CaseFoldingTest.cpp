@@ -20,7 +20,7 @@ TEST(CaseFolding, leavesWhatIsNoCapital)
         EXPECT_EQ(withoutCase(text), text);
 }
 
-TEST(CaseFolding, takesWhatIsNoTextByItsBytes)
+TEST(CaseFolding, comparesWhatIsNoTextByItsBytes)
 {
     EXPECT_EQ(withoutCase("FL\xDCGEL"), "fl\xDCgel");
     EXPECT_NE(withoutCase("\xDC"), withoutCase("\xDD"));

@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-// Expected characters are those of the mapping tables that the Unicode Consortium publishes.
+// Expected characters are those of the mapping tables of the Unicode Consortium.
 
 namespace tarsil {
 

@@ -124,7 +124,7 @@ TEST(FileLines, ofAFileWithoutLineEndsTakeNoMoreMemoryThanALineMay)
 {
     const TemporaryFolder folder;
     const std::string path = folder.write("a.txt", "");
-    std::filesystem::resize_file(path, std::uintmax_t {1} << 33); // bytes, of which none is stored
+    std::filesystem::resize_file(path, std::uintmax_t {1} << 33); // bytes, none of them stored
     FileLines file(path);
     EXPECT_THROW(file.next(), RunTimeError);
 }

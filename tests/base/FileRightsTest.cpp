@@ -1,4 +1,4 @@
-// What a saved file lets whom do, what a signal leaves, and each failure of the system on the way.
+// Rights of a saved file, cleanup after signals, and failures of the system during saving.
 
 #include "base/files/AtomicFile.h"
 #include "base/user/RunTimeError.h"
@@ -37,7 +37,7 @@ using test::fileBytes;
 using test::TemporaryFolder;
 using ::testing::EndsWith;
 
-constexpr uid_t somebody = 54321; // of whom the system knows nothing
+constexpr uid_t somebody = 54321; // a user id without an account
 constexpr gid_t ownGroup = 54322;
 constexpr gid_t sharedGroup = 54323;
 
@@ -53,7 +53,7 @@ int modeOf(const std::string& path)
     return static_cast<int>(statusOf(path).st_mode & 07777);
 }
 
-/// The mode of the temporary file that is being written; -1 without one.
+/// The mode of the temporary file being written; -1 when there is none.
 int modeOfTemporary(const TemporaryFolder& folder)
 {
     for (const auto& entry : fs::directory_iterator(folder.path())) {
@@ -75,7 +75,7 @@ std::string writeOver(const TemporaryFolder& folder, mode_t mode)
     return path;
 }
 
-/// The access list in the short form of the system's own tools; nothing where there are none.
+/// The access list in the short form of the system's tools; empty when unsupported.
 std::string accessListOf(const std::string& path)
 {
     const acl_t list = acl_get_file(path.c_str(), ACL_TYPE_ACCESS);
@@ -96,8 +96,8 @@ bool setAccessList(const std::string& path, const char* text, acl_type_t type = 
     return isSet;
 }
 
-/// Runs the action in a process of its own and returns its wait status; what the action raises is
-/// exit status 1.
+/// Runs an action in a child process and returns its wait status. An exception becomes exit status
+/// 1.
 int inChild(const std::function<void()>& action)
 {
     const pid_t child = ::fork();
@@ -114,7 +114,7 @@ int inChild(const std::function<void()>& action)
     return status;
 }
 
-/// Runs the action as a user who is in the group of the folder's files only by membership.
+/// Runs an action as a user who belongs to the group of the folder's files only by membership.
 int asSomebody(const std::function<void()>& action)
 {
     return inChild([&action] {
@@ -130,7 +130,7 @@ protected:
     TemporaryFolder folder;
 };
 
-/// With two users, of whom the second saves; only root can play both.
+/// Two users, the second of whom saves. Only root can act as both.
 class SavedByAnother : public SavedRights
 {
 protected:
@@ -163,7 +163,7 @@ TEST_F(SavedRights, areTheNineBitsAndNoneBeyond)
     }
 }
 
-TEST_F(SavedRights, areTheOwnersAloneBeforeTheFileTakesItsName)
+TEST_F(SavedRights, areTheOwnersAloneBeforeTheFileGetsItsName)
 {
     for (const mode_t mode : {0600, 0644, 0666}) {
         const std::string path = writeOver(folder, mode);
@@ -229,7 +229,8 @@ TEST_F(SavedByAnother, areNarrowedToWhatAllMightWhenTheGroupIsLost)
     EXPECT_EQ(asSomebody([&path] { writeFile(path, "new"); }), 0);
     EXPECT_EQ(fileBytes(path), "new");
     EXPECT_EQ(statusOf(path).st_gid, ownGroup);
-    // The old group might read, all others read and write: each may be either now.
+    // The old group could read, all others could read and write; each person may now be in either
+    // class.
     EXPECT_EQ(modeOf(path), 0644);
 }
 
@@ -319,7 +320,7 @@ namespace {
 class SavedUnderSignals : public SavedRights
 {
 protected:
-    /// What is left in the folder when the signal meets a process that writes a file.
+    /// What remains in the folder when a signal ends a process that is writing a file.
     int endedBy(int signal)
     {
         return inChild([this, signal] {
@@ -342,7 +343,7 @@ TEST_F(SavedUnderSignals, leavesNoTemporary)
     for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
         const int status = endedBy(signal);
         ASSERT_TRUE(WIFSIGNALED(status)) << signal;
-        EXPECT_EQ(WTERMSIG(status), signal) << "whoever waits is told the truth";
+        EXPECT_EQ(WTERMSIG(status), signal) << "the parent process sees the signal";
         EXPECT_EQ(filesIn(folder), 1);
         EXPECT_EQ(fileBytes(path), "old");
     }
@@ -355,8 +356,8 @@ TEST_F(SavedUnderSignals, goesOnWhereTheSignalIsIgnored)
     std::signal(SIGHUP, before);
 }
 
-/// Bytes that fit into the buffer of the stream fail when it is emptied, more of them at once, and
-/// a patch when it looks for its place.
+/// A few bytes fail when the buffer of the stream is flushed, many bytes fail at once, a patch
+/// fails when it seeks.
 TEST_F(SavedUnderSignals, failsAtTheLimitOfAFilesSize)
 {
     const std::string expected =

@@ -39,7 +39,7 @@ TEST(AtomicFile, putsTheNewFileInPlaceOnCommit)
     EXPECT_EQ(filesIn(folder), 1);
 }
 
-TEST(AtomicFile, patchesWhatIsWrittenAndGoesOnBehindTheLastByte)
+TEST(AtomicFile, patchesWhatIsWrittenAndContinuesAfterTheLastByte)
 {
     const TemporaryFolder folder;
     const std::string path = folder.file("a.txt");
@@ -78,7 +78,7 @@ TEST(AtomicFile, makesAnEmptyFile)
     EXPECT_EQ(fileBytes(folder.file("empty.txt")), "");
 }
 
-TEST(AtomicFile, takesBackslashesInItsPath)
+TEST(AtomicFile, acceptsBackslashesInItsPath)
 {
     const TemporaryFolder folder;
     writeFile(folder.path().string() + "\\a.txt", "text");
@@ -125,7 +125,7 @@ TEST(AtomicFile, refusesAPipeAndADeviceAsTarget)
     EXPECT_TRUE(fs::is_character_file("/dev/null"));
 }
 
-TEST(AtomicFile, takesTheLongestNameThatAFolderTakes)
+TEST(AtomicFile, acceptsTheLongestNameThatAFolderAccepts)
 {
     const TemporaryFolder folder;
     const std::string path = folder.file(std::string(251, 'a').append(".txt"));

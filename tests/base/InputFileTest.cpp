@@ -23,7 +23,7 @@ using test::TemporaryFolder;
 using ::testing::HasSubstr;
 
 #if defined(__SANITIZE_ADDRESS__)
-constexpr bool endsWithoutMemory = true; // its allocator does not fail, but ends the program
+constexpr bool endsWithoutMemory = true; // its allocator ends the program instead of failing
 #else
 constexpr bool endsWithoutMemory = false;
 #endif
@@ -134,7 +134,7 @@ TEST(FileBytes, moreThanTheMemoryHoldsAreAnError)
         GTEST_SKIP() << "the sanitizer's allocator does not fail";
     const TemporaryFolder folder;
     const std::string path = folder.write("vast", "");
-    constexpr std::uintmax_t vast = std::uintmax_t {15} << 40; // bytes, of which none is stored
+    constexpr std::uintmax_t vast = std::uintmax_t {15} << 40; // bytes, none of them stored
     std::error_code refused;
     fs::resize_file(path, vast, refused);
     if (refused)

@@ -14,7 +14,8 @@ TEST(NumberFormat, writesAFixedNumberOfDecimals)
 {
     EXPECT_EQ(formatNumber(1.0F, "##0.000"), "1.000");
     EXPECT_EQ(formatNumber(0.0F, "##0.000"), "0.000");
-    EXPECT_EQ(formatNumber(273.6455F, "####0.000"), "273.646"); // half-way in decimal, away from 0
+    EXPECT_EQ(formatNumber(273.6455F, "####0.000"),
+              "273.646"); // a tie in decimal, rounded away from 0
     EXPECT_EQ(formatNumber(-12.3F, "##0.000"), "-12.300");
     EXPECT_EQ(formatNumber(12345.678F, "####0.000"), "12345.678");
     EXPECT_EQ(formatNumber(1234567.0F, "##0.000"), "1234567.000"); // digits are never cut
@@ -61,7 +62,7 @@ TEST(NumberFormat, roundsHalfWayAwayFromZero)
     EXPECT_EQ(formatNumber(-0.125, "0.00"), "-0.13");
     EXPECT_EQ(formatNumber(2.5, "0"), "3");
     EXPECT_EQ(formatNumber(0.0005F, "##0.000"), "0.001");
-    EXPECT_EQ(formatNumber(1.0005, "0.000"), "1.001"); // by its shortest text, not by its bits
+    EXPECT_EQ(formatNumber(1.0005, "0.000"), "1.001"); // by its shortest text, not its binary value
     EXPECT_EQ(formatNumber(1.000005F, "0.00000E+00"), "1.00001E+00");
 }
 

@@ -17,8 +17,8 @@ namespace {
 using test::errorOf;
 using test::errorTextOf;
 
-// The compiler's own reading of a literal is the expected value everywhere in this file: it rounds
-// decimal text to the nearest single or double.
+// The expected values are literals: the compiler rounds decimal text to the nearest single or
+// double.
 
 float single(std::string_view text)
 {
@@ -46,7 +46,7 @@ NumberStatus integerStatusOf(std::string_view text)
     return parseInteger16(text, value);
 }
 
-TEST(Numbers, takesEveryWayToWriteANumber)
+TEST(Numbers, acceptsEveryWayToWriteANumber)
 {
     EXPECT_EQ(single("5"), 5.0F);
     EXPECT_EQ(single("-5"), -5.0F);
@@ -57,7 +57,7 @@ TEST(Numbers, takesEveryWayToWriteANumber)
     EXPECT_EQ(single("00012.50"), 12.5F);
 }
 
-TEST(Numbers, takesFourLettersForTheExponent)
+TEST(Numbers, acceptsFourLettersForTheExponent)
 {
     EXPECT_EQ(single("1.5E2"), 150.0F);
     EXPECT_EQ(single("1.5e+02"), 150.0F);
@@ -67,7 +67,7 @@ TEST(Numbers, takesFourLettersForTheExponent)
     EXPECT_EQ(single(" 1.14964E-02"), 1.14964E-02F);
 }
 
-TEST(Numbers, takesBlanksAround)
+TEST(Numbers, acceptsBlanksAround)
 {
     EXPECT_EQ(single("   1.5"), 1.5F);
     EXPECT_EQ(single("1.5   "), 1.5F);
@@ -118,7 +118,8 @@ TEST(Numbers, readsWhatIsTooSmallAsZero)
 
 TEST(Numbers, roundsOnlyOnce)
 {
-    // 1 + 2^-24 lies half-way between two singles: it goes to the even one, a hair more goes up.
+    // 1 + 2^-24 is half-way between two singles: it rounds to the even one; slightly more rounds
+    // up.
     EXPECT_EQ(single("1.000000059604644775390625"), 1.0F);
     EXPECT_EQ(single("1.0000000596046447753906250000001"), std::nextafter(1.0F, 2.0F));
     EXPECT_EQ(single("1.00000005960464477"), 1.0F);
@@ -211,8 +212,8 @@ TEST(Numbers, writesAllDigitsOfADoubleWhereAnExponentSavesNone)
 
 TEST(Numbers, writesTheDigitsOfALargeSingleThatTellItFromOthers)
 {
-    // The singles next to it are 2^28, or 268435456, away: its own
-    // binary value, 3000000028082176, says no more.
+    // The neighbouring singles are 2^28 = 268435456 away: the digits of the binary value,
+    // 3000000028082176, carry no more information.
     EXPECT_EQ(shortestText(3e15F), "3000000000000000");
     EXPECT_EQ(decimalValue(3e15F), 3e15);
     EXPECT_EQ(shortestText(266.23883F), "266.23883");

@@ -18,7 +18,7 @@ TEST(PathNames, joinsWithABackslash)
     EXPECT_EQ(joinPath("", "x"), "\\x");
 }
 
-TEST(PathNames, takesBothSeparators)
+TEST(PathNames, acceptBothSeparators)
 {
     EXPECT_EQ(nativePath("a\\b/c.evm"), nativePath("a/b/c.evm"));
     EXPECT_EQ(nativePath("/a/b\\c.evm").filename(), "c.evm");
@@ -74,7 +74,7 @@ TEST(PathNames, showsARelativePathFromTheRootOn)
     EXPECT_EQ(wholePath("/wing.evm"), "/wing.evm");
 }
 
-TEST(PathNames, takesAFolderForNoFile)
+TEST(PathNames, treatAFolderAsNoFile)
 {
     const TemporaryFolder folder;
     EXPECT_FALSE(fileExists(folder.path().string()));
@@ -83,7 +83,7 @@ TEST(PathNames, takesAFolderForNoFile)
     EXPECT_TRUE(fileExists(folder.file("there")));
 }
 
-TEST(PathNames, tellsAFileFromOthersWhateverThePath)
+TEST(PathNames, distinguishFilesWhateverThePath)
 {
     const TemporaryFolder folder;
     const std::string wing = folder.write("wing.evm", "x");

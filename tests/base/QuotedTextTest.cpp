@@ -6,7 +6,7 @@ namespace tarsil {
 
 namespace {
 
-TEST(QuotedText, standsInQuotationMarks)
+TEST(QuotedText, isInQuotationMarks)
 {
     EXPECT_EQ(quotedText("12x"), "\"12x\"");
     EXPECT_EQ(quotedText(""), "\"\"");

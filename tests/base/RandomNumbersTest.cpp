@@ -11,7 +11,7 @@
 #include <random>
 #include <string>
 
-// A million random fields are read bit for bit as the standard library's from_chars reads them.
+// A million random fields are read bit for bit as by std::from_chars.
 
 namespace tarsil {
 
@@ -34,7 +34,7 @@ public:
 
     std::string sign() { return upTo(1) == 0 ? "" : "-"; }
 
-    /// As the files have them: 0.123, 273.646, -4.96966E-05.
+    /// As in files: 0.123, 273.646, -4.96966E-05.
     std::string fileField()
     {
         const std::string plain = sign() + digits(1 + upTo(4)) + "." + digits(upTo(6));
@@ -59,13 +59,14 @@ public:
         return sign() + digits(1) + "." + digits(upTo(12)) + "E" + std::to_string(power);
     }
 
-    /// Exactly half-way between two singles, or one unit of the last digit beside it.
+    /// Exactly half-way between two singles, or one unit of the last digit away.
     std::string halfWay()
     {
         const auto mantissa = static_cast<std::uint64_t>((1 << 23) + upTo((1 << 23) - 1));
         std::uint64_t twice = 2 * mantissa + 1;
         int halvings = upTo(10);
-        // Digits of twice / 2^halvings: twice * 5^halvings, the point moved by the halvings.
+        // The digits of twice / 2^halvings: twice * 5^halvings with the point shifted by the
+        // halvings.
         std::uint64_t decimal = twice;
         for (int i = 0; i < halvings; ++i)
             decimal *= 5;
@@ -80,10 +81,10 @@ private:
         return letter + std::string(kind == 0 ? "" : kind == 1 ? "+" : "-") + digits(count);
     }
 
-    std::mt19937_64 m_engine {20240917}; // fixed, so that a failure comes again
+    std::mt19937_64 m_engine {20240917}; // fixed, so that failures are reproducible
 };
 
-/// What from_chars makes of the field; a number too small for a single is 0.
+/// The value of the field by from_chars; a number too small for a single is 0.
 float expectedSingle(std::string field, bool& overflows)
 {
     const bool negative = field.starts_with('-');
@@ -95,7 +96,7 @@ float expectedSingle(std::string field, bool& overflows)
     if (result.ec == std::errc::result_out_of_range) {
         double wide = 0;
         const auto second = std::from_chars(field.data(), field.data() + field.size(), wide);
-        // Out of the double's range too: its exponent tells which end.
+        // Outside the range of doubles too: the exponent determines which end.
         overflows = second.ec == std::errc() ? std::abs(wide) > 1.0
                                              : field.find_first_of("eE") != std::string::npos
                 && field.find('-', 1) == std::string::npos;
@@ -124,7 +125,7 @@ void compareMany(Make make)
     for (int i = 0; i < rounds && !::testing::Test::HasFatalFailure(); ++i) {
         const std::string field = make(random);
         std::string written = field;
-        // As in a Fortran file: D for the exponent, blanks around.
+        // As in Fortran files: D in the exponent, blanks around.
         if (const auto letter = written.find_first_of("eE");
             letter != std::string::npos && random.upTo(3) == 0)
             written[letter] = random.upTo(1) == 0 ? 'D' : 'd';
@@ -159,7 +160,7 @@ TEST(RandomNumbers, readsHalfWayCasesAsTheStandardLibrary)
     compareMany([](RandomFields& random) { return random.halfWay(); });
 }
 
-/// The plain form of a text that is a number, for from_chars; empty for anything else.
+/// The form of a number that from_chars accepts; empty for other texts.
 std::string plainForm(std::string text)
 {
     text.erase(0, text.find_first_not_of(' '));
@@ -179,7 +180,7 @@ std::string plainForm(std::string text)
 
 std::string anyCharacters(RandomFields& random)
 {
-    // Likely characters more than once, and neighbours of digits and signs in the code table.
+    // Likely characters occur several times; others are neighbours of digits and signs in ASCII.
     constexpr std::string_view characters = "    ---...00012345678999EEeDd++:/,*P\xB5";
     std::string text(static_cast<std::size_t>(random.upTo(16)), ' ');
     for (char& c : text)
@@ -188,13 +189,13 @@ std::string anyCharacters(RandomFields& random)
     return text;
 }
 
-TEST(RandomNumbers, theQuickWayTakesNothingThatIsNoNumber)
+TEST(RandomNumbers, theQuickWayAcceptsNothingThatIsNoNumber)
 {
     RandomFields random;
     int taken = 0;
     for (int i = 0; i < 5 * rounds; ++i) {
         std::string text = anyCharacters(random);
-        if (random.upTo(1) == 0) // a likelier form, often with something behind
+        if (random.upTo(1) == 0) // a likely form, often with text after it
             text = std::string(static_cast<std::size_t>(random.upTo(3)), ' ') + random.fileField()
                 + text.substr(0, static_cast<std::size_t>(random.upTo(2)));
         float value = 0;
@@ -219,7 +220,7 @@ TEST(RandomNumbers, everySingleComesBackFromItsShortestText)
     for (int i = 0; i < rounds; ++i) {
         const auto value = std::bit_cast<float>(static_cast<std::uint32_t>(engine()));
         if (value != value || value - value != 0)
-            continue; // no number, or infinite
+            continue; // not a number, or infinite
         float back = 0;
         ASSERT_EQ(parseSingle(shortestText(value), back), NumberStatus::Ok);
         ASSERT_EQ(back, value);

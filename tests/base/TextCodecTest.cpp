@@ -8,7 +8,7 @@ namespace tarsil {
 
 namespace {
 
-TEST(TextCodec, takesUtf8AsItIs)
+TEST(TextCodec, leavesUtf8Unchanged)
 {
     EXPECT_EQ(decodeText("plain"), "plain");
     EXPECT_EQ(decodeText("Fl\xC3\xBCgel"), "Fl\xC3\xBCgel");
@@ -24,14 +24,14 @@ TEST(TextCodec, readsOtherBytesAsWindows1252)
     EXPECT_EQ(decodeText("\x81 \xE9"), "\xC2\x81 \xC3\xA9"); // an unused byte keeps its value
 }
 
-TEST(TextCodec, tellsWellFormedUtf8)
+TEST(TextCodec, recognisesWellFormedUtf8)
 {
     EXPECT_TRUE(isUtf8("\xED\x9F\xBF")); // U+D7FF
     EXPECT_FALSE(isUtf8("\xED\xA0\x80")); // a surrogate
     EXPECT_FALSE(isUtf8("\xC0\xAF")); // overlong
     EXPECT_FALSE(isUtf8("\xE0\x80\x80")); // overlong
-    EXPECT_FALSE(isUtf8("\xF4\x90\x80\x80")); // past U+10FFFF
-    EXPECT_FALSE(isUtf8("\xC3")); // cut
+    EXPECT_FALSE(isUtf8("\xF4\x90\x80\x80")); // beyond U+10FFFF
+    EXPECT_FALSE(isUtf8("\xC3")); // truncated
     EXPECT_FALSE(isUtf8("\x80")); // a continuation alone
 }
 

@@ -23,14 +23,14 @@ std::vector<std::string> linesOf(std::string_view text)
 
 using Lines = std::vector<std::string>;
 
-TEST(TextStream, takesBothLineEnds)
+TEST(TextStream, acceptsBothLineEnds)
 {
     EXPECT_EQ(linesOf("a\nb\n"), (Lines {"a", "b"}));
     EXPECT_EQ(linesOf("a\r\nb\r\n"), (Lines {"a", "b"}));
     EXPECT_EQ(linesOf("a\r\n\r\nb"), (Lines {"a", "", "b"}));
 }
 
-TEST(TextStream, takesALastLineWithoutEnd)
+TEST(TextStream, acceptsALastLineWithoutEnd)
 {
     EXPECT_EQ(linesOf("a\nb"), (Lines {"a", "b"}));
     EXPECT_EQ(linesOf("a\nb\r"), (Lines {"a", "b"}));
@@ -57,7 +57,7 @@ TEST(TextStream, saysWhereItEnded)
 {
     TextStream stream("a\n", "wing.evm");
     stream.readLine();
-    EXPECT_EQ(stream.place(), "wing.evm, line 1");
+    EXPECT_EQ(stream.location(), "wing.evm, line 1");
     EXPECT_EQ(stream.rest(), "");
     EXPECT_EQ(test::errorTextOf([&stream] { stream.readLine(); }),
               "62 Input past end of file: wing.evm ends after line 1");

@@ -9,7 +9,7 @@
 
 namespace tarsil::test {
 
-/// What a run of the batch program gave.
+/// The result of a run of the batch program.
 struct BatchResult
 {
     int status;
@@ -17,13 +17,13 @@ struct BatchResult
     std::string err;
 };
 
-/// Runs the program within this process.
+/// Runs the program in this process.
 BatchResult runBatch(const std::vector<std::string>& arguments);
 
 /// All texts of an SVG, each followed by a bar.
 std::string svgTexts(const std::string& path);
 
-/// Tests with a folder of their own for the files of the batch program.
+/// Tests with a temporary folder for the files of the batch program.
 class BatchFixture : public ::testing::Test
 {
 protected:
@@ -38,7 +38,7 @@ protected:
     std::string file(std::string_view name) const { return m_folder.file(name); }
     const TemporaryFolder& folder() const { return m_folder; }
 
-    /// How many entries the folder has: none is left behind by a run that fails.
+    /// The number of entries in the folder: a run that fails leaves none.
     std::size_t fileCount() const;
 
 private:

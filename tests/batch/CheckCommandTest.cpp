@@ -11,7 +11,7 @@ namespace {
 class CheckCommand : public test::BatchFixture
 {
 protected:
-    /// Two points of the same speed.
+    /// Writes two points of equal speed.
     std::string writeDoubtful() const
     {
         return folder().write("twice.evm",
@@ -41,7 +41,7 @@ TEST_F(CheckCommand, printsEachFindingWithFileAndLine)
     EXPECT_EQ(result.err, "");
 }
 
-TEST_F(CheckCommand, goesOnBehindAMissingFile)
+TEST_F(CheckCommand, continuesAfterAMissingFile)
 {
     const std::string path = writeDoubtful();
     const auto result = runBatch({"check", file("missing.evm"), path});
@@ -72,7 +72,7 @@ TEST_F(CheckCommand, printsEachFindingInOneLineWhateverTheNames)
 
 TEST_F(CheckCommand, namesALastRowThatIsCut)
 {
-    // Read without a word: the last frequency is 1 Hz instead of 14, and all factors vanish.
+    // Read without an error: the last frequency becomes 1 Hz instead of 14, and all factors vanish.
     std::string text = test::fileBytes(writeEv2());
     text.resize(text.rfind("|14|") + 2);
     const std::string path = folder().write("cut.ev2", text);

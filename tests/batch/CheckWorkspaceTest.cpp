@@ -16,7 +16,7 @@ namespace {
 class CheckOfAWorkspace : public test::WorkspaceFixture
 {
 protected:
-    /// The record with the paths where its files are.
+    /// The record with the present paths of its files.
     WorkspaceRecord settled() const
     {
         WorkspaceRecord record = this->record();
@@ -24,7 +24,7 @@ protected:
         return record;
     }
 
-    /// What is printed about a workspace that has findings, without the path in front of lines.
+    /// The findings in a workspace, without the path at the start of lines.
     std::string findings(const std::string& path) const
     {
         const auto result = runBatch({"check", path});
@@ -39,7 +39,7 @@ protected:
 
     std::string findings(const WorkspaceRecord& record) const { return findings(write(record)); }
 
-    /// The same of bytes that are changed.
+    /// The findings after a part of the bytes is replaced.
     std::string findingsWith(std::string_view part, std::string_view replacement) const
     {
         const std::string bytes = test::fileBytes(write(settled()));
@@ -85,7 +85,7 @@ TEST_F(CheckOfAWorkspace, findsAFileThatCannotBeRead)
 
 TEST_F(CheckOfAWorkspace, doesNotCheckTheEvolutionsThemselves)
 {
-    // Speeds that do not increase are a finding of the evolution alone.
+    // Speeds that do not increase are a finding of the evolution, not of the workspace.
     folder().write("old.evm",
                    "\n\n\n" + std::string(60, ' ')
                        + "   2       1\n"
@@ -103,8 +103,8 @@ TEST_F(CheckOfAWorkspace, findsSeriesThatNameNothing)
     record.plots[1].series[0].mode = 0;
     EXPECT_EQ(findings(record),
               "25: [PLOT1], Serie(1): there is no modal evolution 3; the workspace lists 2\n"
-              "26: [PLOT1], Serie(2): old.evm has no mode at position 2; it holds 1\n"
-              "39: [PLOT2], Serie(1): wing.ev2 has no mode at position 0; it holds 2\n");
+              "26: [PLOT1], Serie(2): old.evm has no mode at position 2; it has 1\n"
+              "39: [PLOT2], Serie(1): wing.ev2 has no mode at position 0; it has 2\n");
 }
 
 TEST_F(CheckOfAWorkspace, findsValuesThatAreTooLongToBeRead)
@@ -113,13 +113,13 @@ TEST_F(CheckOfAWorkspace, findsValuesThatAreTooLongToBeRead)
     record.plots[0].caption = std::string(1023, 'x');
     EXPECT_EQ(runBatch({"check", write(record)}).status, 0);
     record.description = std::string(1024, 'x');
-    record.plots[1].caption = std::string(2000, ' ') + "x"; // in quotes, which do not count
+    record.plots[1].caption = std::string(2000, ' ') + "x"; // quotes do not count
     record.plots[1].legend.rtf = test::rtfOf(std::string(5000, 'y'));
     EXPECT_EQ(findings(record),
               "4: [GENERAL INFORMATION], Analysis_Description: the value has 1024 bytes; the "
-              "format takes 1023\n"
-              "28: [PLOT2], Caption: the value has 2001 bytes; the format takes 1023\n"
-              "33: [PLOT2], Legend: the value has 5014 bytes; the format takes 1023\n");
+              "limit is 1023\n"
+              "28: [PLOT2], Caption: the value has 2001 bytes; the limit is 1023\n"
+              "33: [PLOT2], Legend: the value has 5014 bytes; the limit is 1023\n");
 }
 
 TEST_F(CheckOfAWorkspace, findsATextThatWasCut)
@@ -128,21 +128,20 @@ TEST_F(CheckOfAWorkspace, findsATextThatWasCut)
     record.plots[0].header.rtf = "{\\rtf1{\\fonttbl{\\f0 Arial;}}text";
     record.plots[1].mechanism.rtf = "{no format";
     EXPECT_EQ(findings(record),
-              "15: [PLOT1], Header: the text ends before its last brace: it was cut\n");
+              "15: [PLOT1], Header: the text ends before its last brace: it is truncated\n");
 }
 
 TEST_F(CheckOfAWorkspace, findsCountsThatDisagreeWithWhatFollows)
 {
-    EXPECT_THAT(
-        findingsWith("NoOfFiles=2", "NoOfFiles=1"),
-        HasSubstr("10: [MODAL EVOLUTION FILES], File(2): is passed over: NoOfFiles is 1\n"));
+    EXPECT_THAT(findingsWith("NoOfFiles=2", "NoOfFiles=1"),
+                HasSubstr("10: [MODAL EVOLUTION FILES], File(2): is ignored: NoOfFiles is 1\n"));
     EXPECT_EQ(findingsWith("NoOfPlots=2", "NoOfPlots=1"),
-              "27: [PLOT2] is passed over: NoOfPlots is 1\n");
+              "27: [PLOT2] is ignored: NoOfPlots is 1\n");
     EXPECT_EQ(findingsWith("NoOfSeries=2", "NoOfSeries=-5"),
-              "25: [PLOT1], Serie(1): is passed over: NoOfSeries is 0\n");
+              "25: [PLOT1], Serie(1): is ignored: NoOfSeries is 0\n");
 }
 
-TEST_F(CheckOfAWorkspace, isSilentAboutMarksLooksAndEditedParametersThatFit)
+TEST_F(CheckOfAWorkspace, isSilentAboutReferencesLooksAndEditedParametersThatFit)
 {
     WorkspaceRecord record = settled();
     record.edited = {{2, {"QRX", "B", 0.62F}}};
@@ -155,20 +154,20 @@ TEST_F(CheckOfAWorkspace, isSilentAboutMarksLooksAndEditedParametersThatFit)
     EXPECT_EQ(result.status, 0);
 }
 
-TEST_F(CheckOfAWorkspace, findsMarksLooksAndEditedParametersThatDoNotFit)
+TEST_F(CheckOfAWorkspace, findsReferencesLooksAndEditedParametersThatDoNotFit)
 {
     EXPECT_EQ(findingsWith("[PLOTS]\r\n", "Reference=3\r\nEdited(1)=x\r\n[PLOTS]\r\n"),
-              "11: [MODAL EVOLUTION FILES], Reference: is passed over: Invalid procedure call or "
+              "11: [MODAL EVOLUTION FILES], Reference: is ignored: Invalid procedure call or "
               "argument: there is no file 3\n"
-              "12: [MODAL EVOLUTION FILES], Edited(1): is passed over: Subscript out of range: "
+              "12: [MODAL EVOLUTION FILES], Edited(1): is ignored: Subscript out of range: "
               "Edited(1) needs 3 fields and has 1: \"x\"\n");
     EXPECT_EQ(findingsWith("[END", "RefSpeed(1)=x\r\n[END"),
-              "40: [PLOT2], RefSpeed(1): is passed over: Subscript out of range: RefSpeed(1) needs "
+              "40: [PLOT2], RefSpeed(1): is ignored: Subscript out of range: RefSpeed(1) needs "
               "2 fields and has 1: \"x\"\n");
     WorkspaceRecord record = settled();
     record.plots[0].dampingLines = {{0.01F, std::string(1030, 'x')}};
     EXPECT_EQ(findings(record),
-              "27: [PLOT1], DampLine(1): a text of it has 1030 bytes; the format takes 1023\n");
+              "27: [PLOT1], DampLine(1): a text of it has 1030 bytes; the limit is 1023\n");
 }
 
 TEST_F(CheckOfAWorkspace, findsFilesThatAreCountedButNotListed)
@@ -178,12 +177,12 @@ TEST_F(CheckOfAWorkspace, findsFilesThatAreCountedButNotListed)
               "8: [MODAL EVOLUTION FILES], NoOfFiles: counts File(4), which is missing\n");
     WorkspaceRecord record = settled();
     record.files.emplace_back();
-    EXPECT_EQ(findings(record), "11: [MODAL EVOLUTION FILES], File(3): says no path\n");
+    EXPECT_EQ(findings(record), "11: [MODAL EVOLUTION FILES], File(3): has no path\n");
 }
 
 TEST_F(CheckOfAWorkspace, listsFindingsInTheOrderOfTheirLines)
 {
-    // A section that comes again goes on; a key that comes again does not count.
+    // A repeated section continues the first; a repeated key is ignored.
     const std::string bytes = test::fileBytes(write(settled()));
     const std::string text =
         findings(folder().write("case.tsw",
@@ -193,7 +192,7 @@ TEST_F(CheckOfAWorkspace, listsFindingsInTheOrderOfTheirLines)
     EXPECT_THAT(text, HasSubstr("2: [PLOT2], Mechanism: "));
     EXPECT_THAT(text, HasSubstr("\n20: [PLOT1], Mechanism: "));
     EXPECT_LT(text.find("2: [PLOT2], Mechanism"), text.find("20: [PLOT1], Mechanism"));
-    EXPECT_LT(text.find("20: [PLOT1], Mechanism"), text.find("[PLOT2], Serie(1): is passed over"));
+    EXPECT_LT(text.find("20: [PLOT1], Mechanism"), text.find("[PLOT2], Serie(1): is ignored"));
 }
 
 TEST_F(CheckOfAWorkspace, listsOnlyTheFirstOfVeryManyFindings)
@@ -220,17 +219,17 @@ TEST_F(CheckOfAWorkspace, goesOnAfterAFileThatCannotBeOpenedOrRead)
     EXPECT_THAT(result.out, HasSubstr(path + ":25: "));
 }
 
-TEST_F(CheckOfAWorkspace, findsWhereReadingEndsBesidesWhatStandsBeforeIt)
+TEST_F(CheckOfAWorkspace, findsWhereReadingEndsBesidesWhatPrecedesIt)
 {
     WorkspaceRecord record = settled();
     record.files.push_back("C:\\flutter\\gone.ev2");
     record.plots[0].series[0].mode = 9;
     const std::string bytes = test::fileBytes(write(record));
-    // The axis of the first plot stands before its series, that of the second behind them.
+    // The axis of the first plot comes before its series, that of the second after them.
     EXPECT_EQ(findings(folder().write("case.tsw",
                                       with(bytes, "[PLOT2]\r\n", "[PLOT2]\r\nNoOfSeries=x\r\n"))),
               "11: [MODAL EVOLUTION FILES], File(3): C:\\flutter\\gone.ev2 is missing\n"
-              "26: [PLOT1], Serie(1): wing.ev2 has no mode at position 9; it holds 2\n"
+              "26: [PLOT1], Serie(1): wing.ev2 has no mode at position 9; it has 2\n"
               "29: reading ends here: Type mismatch: case.tsw, [PLOT2], NoOfSeries, field 0 "
               "(count): \"x\"\n");
     EXPECT_EQ(findings(folder().write("case.tsw", with(bytes, "NoOfPlots=2\r\n", ""))),
@@ -261,11 +260,11 @@ TEST_F(CheckOfAWorkspace, findsValuesWhoseFieldsAreTooLongTogether)
     record.plots[1].axes.speed.title = std::string(2000, 'v');
     EXPECT_THAT(findings(record),
                 AllOf(HasSubstr("25: [PLOT1], Serie(1): the value has 10"),
-                      HasSubstr("35: [PLOT2], velAxis: the value has 2008 bytes; the format takes "
+                      HasSubstr("35: [PLOT2], velAxis: the value has 2008 bytes; the limit is "
                                 "1023\n")));
 }
 
-TEST_F(CheckOfAWorkspace, takesARelativePathFromTheFolderOfTheWorkspace)
+TEST_F(CheckOfAWorkspace, resolvesARelativePathFromTheFolderOfTheWorkspace)
 {
     WorkspaceRecord record = settled();
     record.files = {"wing.ev2", "old.evm"};

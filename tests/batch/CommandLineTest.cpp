@@ -37,7 +37,7 @@ std::string usageErrorOf(const std::vector<std::string>& arguments)
 
 } // namespace
 
-TEST(Arguments, takeValuesBehindABlankOrAnEqualSign)
+TEST(Arguments, haveValuesAfterABlankOrAnEqualSign)
 {
     EXPECT_EQ(parse({"--number", "1", "f"}).value("--number"), "1");
     EXPECT_EQ(parse({"--number=a=b", "f"}).value("--number"), "a=b");
@@ -66,7 +66,7 @@ TEST(Arguments, takeANegativeNumberAsAValue)
     EXPECT_EQ(parse({"--number=-0.02", "f"}).number("--number"), -0.02);
 }
 
-TEST(Arguments, mayStandInAnyOrder)
+TEST(Arguments, mayBeInAnyOrder)
 {
     const CommandLine line = parse({"a", "--many", "1", "b", "--many=2", "--flag"});
     EXPECT_THAT(line.operands(), ElementsAre("a", "b"));
@@ -74,7 +74,7 @@ TEST(Arguments, mayStandInAnyOrder)
     EXPECT_TRUE(line.has("--flag"));
 }
 
-TEST(Arguments, areOperandsBehindTwoDashes)
+TEST(Arguments, areOperandsAfterTwoDashes)
 {
     EXPECT_THAT(parse({"--", "--flag", "-x"}).operands(), ElementsAre("--flag", "-x"));
     EXPECT_THAT(parse({"-"}).operands(), ElementsAre("-"));
@@ -85,7 +85,7 @@ TEST(Arguments, refuseWhatTheCommandDoesNotKnow)
     EXPECT_EQ(usageErrorOf({"--other", "f"}), "unknown option --other");
     EXPECT_EQ(usageErrorOf({"-x", "f"}), "unknown option -x");
     EXPECT_EQ(usageErrorOf({"f", "--number"}), "--number needs a value");
-    EXPECT_EQ(usageErrorOf({"--flag=1", "f"}), "--flag takes no value");
+    EXPECT_EQ(usageErrorOf({"--flag=1", "f"}), "--flag does not accept a value");
     EXPECT_EQ(usageErrorOf({"--flag", "--flag", "f"}), "--flag is given twice");
     EXPECT_EQ(usageErrorOf({}), "no file is given");
     EXPECT_EQ(usageErrorOf({"a", "b", "c"}), "too many files: \"c\"");
@@ -111,7 +111,7 @@ TEST(Arguments, areExplainedInTheHelpText)
               "  --number N   a number\n"
               "               of two lines\n"
               "  --many TEXT  many\n"
-              "  --help       shows this text\n");
+              "  --help       prints this text\n");
 }
 
 TEST(Usage, isShownForTheProgramAndForEachCommand)
@@ -138,7 +138,7 @@ TEST(Usage, isPointedToWhenItIsWrong)
     EXPECT_EQ(nothing.out, "");
     EXPECT_EQ(nothing.err,
               "tarsil-batch: no command is given\n"
-              "tarsil-batch: \"tarsil-batch --help\" tells how it is used.\n");
+              "tarsil-batch: \"tarsil-batch --help\" shows how to use it.\n");
     const auto unknown = runBatch({"draw", "x"});
     EXPECT_EQ(unknown.status, 2);
     EXPECT_THAT(unknown.err, HasSubstr("unknown command draw"));

@@ -50,7 +50,7 @@ TEST_F(ConvertCommand, leavesAnOldOutputAsItWasWhenAValueDoesNotFit)
     EXPECT_EQ(fileCount(), 2U);
 }
 
-TEST_F(ConvertCommand, takesOneFileAndAnOutputOfItsKind)
+TEST_F(ConvertCommand, acceptsOneFileAndAnOutputOfItsKind)
 {
     const std::string path = writeEv2();
     EXPECT_EQ(runBatch({"convert", "--output", file("out.evm"), path, path}).status, 2);

@@ -42,7 +42,7 @@ TEST_F(ImportCommand, writesEachAnalysisAsAnEvolution)
     EXPECT_THAT(text,
                 AllOf(HasSubstr("Airplane=GLIDER\n"), HasSubstr("Mass_config=EMPTY\n"),
                       HasSubstr("|194.384449|"), HasSubstr("|388.768898|")));
-    // The ordinary commands read it.
+    // The other commands can read it.
     const auto info = runBatch({"info", file("wing_s1_M0.30.ev2")});
     EXPECT_EQ(info.status, 0);
     EXPECT_THAT(info.out,
@@ -97,7 +97,7 @@ TEST_F(ImportCommand, refusesWhatHoldsNoSummary)
     const auto result = runBatch({"import", "--speed-unit", "m/s", "--output",
                                   folder().path().string(), folder().write("x.f06", "nothing\n")});
     EXPECT_EQ(result.status, 1);
-    EXPECT_THAT(result.err, HasSubstr("holds no flutter summary"));
+    EXPECT_THAT(result.err, HasSubstr("contains no flutter summary"));
 }
 
 TEST_F(ImportCommand, refusesUnknownUnitsAndMissingFolders)
@@ -117,7 +117,7 @@ TEST_F(ImportCommand, refusesUnknownUnitsAndMissingFolders)
     EXPECT_EQ(fileCount(), 1U);
 }
 
-TEST_F(ImportCommand, tellsNamesOfTwoSourcesApart)
+TEST_F(ImportCommand, distinguishesNamesOfTwoSources)
 {
     const std::filesystem::path other = folder().path() / "other";
     std::filesystem::create_directory(other);

@@ -16,7 +16,7 @@ namespace {
 class InfoCommand : public test::BatchFixture
 {
 protected:
-    /// The objects of "files", parsed by an independent reader.
+    /// The objects of "files", parsed by Qt.
     static QJsonArray filesOf(const std::string& json)
     {
         QJsonParseError error {};
@@ -139,7 +139,7 @@ TEST_F(InfoCommand, namesFileLineAndTextOfAnError)
     EXPECT_THAT(result.err, HasSubstr("damping"));
 }
 
-TEST_F(InfoCommand, refusesANameThatTellsNoFormat)
+TEST_F(InfoCommand, refusesANameWithoutAKnownFormat)
 {
     const auto result = runBatch({"info", folder().write("notes.txt", "x")});
     EXPECT_EQ(result.status, 1);

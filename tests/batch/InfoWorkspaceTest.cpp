@@ -26,7 +26,7 @@ protected:
     }
 };
 
-/// A run of a text without any format but this, in JSON.
+/// A run without format except these, in JSON.
 std::string run(const std::string& text, const std::string& bold, const std::string& color)
 {
     return R"({"text":")" + text + R"(","font":"Arial","size":10,"bold":)" + bold
@@ -156,7 +156,7 @@ TEST_F(InfoOfAWorkspace, givesTextForPeople)
               "  damping axis           g from 0 to -2, 4 ticks\n");
 }
 
-TEST_F(InfoOfAWorkspace, givesMarksLooksAndEditedParameters)
+TEST_F(InfoOfAWorkspace, givesReferencesLooksAndEditedParameters)
 {
     WorkspaceRecord record = this->record();
     record.files.emplace_back();
@@ -192,7 +192,7 @@ TEST_F(InfoOfAWorkspace, givesMarksLooksAndEditedParameters)
     EXPECT_THAT(people.out, HasSubstr("  old\n  line of series 2       style 2, 3 px\n\n"));
 }
 
-TEST_F(InfoOfAWorkspace, standsAlone)
+TEST_F(InfoOfAWorkspace, acceptsNoFurtherFile)
 {
     const std::string path = write(record());
     for (const std::vector<std::string>& arguments : {std::vector<std::string> {"info", path, path},

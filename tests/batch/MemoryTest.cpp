@@ -1,5 +1,5 @@
-// Memory ends at every allocation of a command: the program says so, and the old file is there. An
-// executable of its own, for it replaces the allocation of the whole process.
+// Lets every allocation of a command fail: the program reports it, and the old file is unchanged.
+// Its own executable, because it replaces the allocation functions of the process.
 
 #include "batch/Batch.h"
 #include "batch/BatchFixture.h"
@@ -14,12 +14,12 @@
 
 namespace {
 
-/// Which allocations fail: the n-th from now on, and those after it or not; 0 for none.
+/// Which allocations fail: the n-th from now on, or all from the n-th on; 0 for none.
 struct Shortage
 {
     long at = 0;
     bool lasts = false;
-    long count = 0; ///< of the allocations so far
+    long count = 0; ///< number of allocations so far
 };
 
 Shortage shortage; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
@@ -55,7 +55,7 @@ namespace tarsil {
 
 namespace {
 
-/// A stream that needs no memory of its own.
+/// A stream that does not allocate.
 class FixedStream : private std::streambuf, public std::ostream
 {
 public:
@@ -70,7 +70,7 @@ private:
 class Memory : public test::BatchFixture
 {
 protected:
-    /// The status of a run in which memory is short.
+    /// The exit status of a run in which allocations fail.
     static int run(const std::vector<std::string>& arguments, long at, bool lasts, bool& hasMessage)
     {
         FixedStream out;
@@ -82,7 +82,7 @@ protected:
         return status;
     }
 
-    /// Lets the n-th allocation fail for all n until the command is done without it.
+    /// Lets the n-th allocation fail, for all n until the command succeeds.
     void lackAtEach(const std::vector<std::string>& arguments, bool lasts) const
     {
         int status = 1;
@@ -151,7 +151,7 @@ TEST_F(Memory, isShortWhileFilesAreLookedAt)
 
 TEST_F(Memory, isShortWhileALongNumberIsRead)
 {
-    // Only beyond the digits that fit into a machine word does reading a number need memory.
+    // Reading a number allocates only when its digits exceed a machine word.
     const std::string digits(2000, '1');
     const std::string path = folder().write("long.ev2", test::fileBytes(wing));
     std::string text = test::fileBytes(path);

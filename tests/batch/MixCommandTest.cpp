@@ -12,7 +12,7 @@ namespace {
 class MixCommand : public test::BatchFixture
 {
 protected:
-    /// The first columns of the fields of points, which hold the mode numbers.
+    /// The first columns of the point fields, which contain the mode numbers.
     static std::string modeNumbers(const std::string& path)
     {
         const std::string text = fileBytes(path);
@@ -49,20 +49,20 @@ TEST_F(MixCommand, warnsOfDifferentNumbersOfPoints)
     EXPECT_EQ(modeNumbers(file("out.mix")), "33555");
 }
 
-TEST_F(MixCommand, takesAFileWithAColonInItsName)
+TEST_F(MixCommand, acceptsAFileWithAColonInItsName)
 {
     const std::string colon = writeEvm("a:1.evm");
     EXPECT_EQ(runBatch({"mix", "--output", file("out.mix"), colon}).status, 0);
     EXPECT_EQ(runBatch({"mix", "--output", file("out.mx2"), colon + ":1"}).status, 0);
     EXPECT_EQ(modeNumbers(file("out.mx2")), "77");
-    // The name is there as written, although "1" behind the colon could be a list.
+    // The name is used as given, although "1" after the colon could be a list.
     writeEvm("b.evm");
     const std::string listLike = writeEv2("b.ev2:1");
     EXPECT_EQ(runBatch({"mix", "--output", file("out.mix"), listLike}).status, 0);
     EXPECT_EQ(modeNumbers(file("out.mix")), "33555");
 }
 
-TEST_F(MixCommand, takesAColonInAPathForNoList)
+TEST_F(MixCommand, treatsAColonInAPathAsNoList)
 {
     const auto result = runBatch({"mix", "--output", file("out.mix"), "C:\\wing.ev2"});
     EXPECT_EQ(result.status, 1);
@@ -81,7 +81,7 @@ TEST_F(MixCommand, refusesABadListAsWrongUsage)
 {
     const auto result = runBatch({"mix", "--output", file("out.mix"), writeEv2() + ":1-x"});
     EXPECT_EQ(result.status, 2);
-    EXPECT_THAT(result.err, HasSubstr("\"1-x\" is no list of modes"));
+    EXPECT_THAT(result.err, HasSubstr("\"1-x\" is not a list of modes"));
 }
 
 TEST_F(MixCommand, namesAPositionThatIsNotThere)

@@ -21,7 +21,7 @@ protected:
         return runBatch(all);
     }
 
-    /// The mode numbers of the points, which are the first three columns of fields of 40.
+    /// The mode numbers of the points: the first three columns of fields of 40.
     std::string modes() const
     {
         const std::string text = fileBytes(file("out.mix"));
@@ -46,7 +46,7 @@ TEST_F(MixOfAWorkspace, gathersTheModesOfItsSeries)
     EXPECT_EQ(modes(), "5557733"); // three points, two and two
 }
 
-TEST_F(MixOfAWorkspace, takesThePlotAskedForAmongEvolutions)
+TEST_F(MixOfAWorkspace, usesThePlotAskedForAmongEvolutions)
 {
     EXPECT_EQ(mix({"--plot", "Store", old, write(record()), wing + ":2"}).status, 0);
     EXPECT_EQ(modes(), "7733555");
@@ -69,11 +69,11 @@ TEST_F(MixOfAWorkspace, isNotWrittenOverWhatIsRead)
     EXPECT_EQ(fileBytes(old), fileBytes(file("out.mix")));
 }
 
-TEST_F(MixOfAWorkspace, takesNoList)
+TEST_F(MixOfAWorkspace, acceptsNoList)
 {
     const auto list = mix({write(record()) + ":1"});
     EXPECT_EQ(list.status, 2);
-    EXPECT_THAT(list.err, HasSubstr("a workspace takes no list of modes"));
+    EXPECT_THAT(list.err, HasSubstr("a workspace does not accept a list of modes"));
     EXPECT_EQ(mix({"--plot", "1", wing}).status, 2);
     EXPECT_FALSE(std::filesystem::exists(file("out.mix")));
 }

@@ -11,7 +11,7 @@ using namespace tarsil::batch;
 
 namespace {
 
-/// The positions chosen from a file of five modes, as text.
+/// The positions selected from a file of five modes, as text.
 std::string chosen(const char* list)
 {
     EVM evolution;
@@ -57,7 +57,7 @@ TEST(ListOfModes, namesFileAndPositionThatIsNotThere)
             ADD_FAILURE() << list;
         } catch (const Failure& failure) {
             EXPECT_STREQ(failure.what(),
-                         "wing.ev2: there is no mode at position 6; the file holds 5");
+                         "wing.ev2: there is no mode at position 6; the file has 5");
         }
     }
 }

@@ -17,7 +17,7 @@ namespace {
 class PictureCommand : public test::BatchFixture
 {
 protected:
-    /// Draws into a file of this name, with more arguments, and returns its path.
+    /// Draws to a file of this name, with more arguments, and returns its path.
     std::string draw(std::string_view name, const std::vector<std::string>& more) const
     {
         const std::string output = file(name);
@@ -31,8 +31,7 @@ protected:
 
     static QImage imageOf(const std::string& path) { return QImage(QString::fromStdString(path)); }
 
-    /// Pixels of the picture that have more blue than red: those of a blue curve, smooth edges
-    /// included.
+    /// The number of pixels with more blue than red: those of a blue curve, with its smooth edges.
     static std::size_t bluePixels(const QImage& image)
     {
         return count(image, [](QRgb color) { return qBlue(color) > qRed(color) + 60; });
@@ -84,7 +83,7 @@ TEST_F(PictureCommand, drawsAnSvgWithTheTexts)
 
 TEST_F(PictureCommand, keepsSvgCurvesWithinTheirCanvas)
 {
-    // With a damping axis that ends at 0.1 the curves, which reach from -1 to 1, leave the canvas.
+    // With a damping axis that ends at 0.1 the curves, which range from -1 to 1, leave the canvas.
     const std::string path = draw("out.svg",
                                   {"--header", "", "--subtitle", "", "--marker", "none", "--scale",
                                    "0,400,0,20,0,-0.1", writeEv2()});
@@ -102,27 +101,27 @@ TEST_F(PictureCommand, drawsAPdf)
     const std::string bytes = fileBytes(draw("out.pdf", {"--size", "960x480", writeEv2()}));
     EXPECT_TRUE(bytes.starts_with("%PDF-"));
     EXPECT_TRUE(bytes.ends_with("%%EOF\n"));
-    // 960 x 480 pixels in points.
+    // 960 x 480 pixels, in points.
     EXPECT_THAT(bytes, HasSubstr("/MediaBox [0 0 720 360 "));
 }
 
 TEST_F(PictureCommand, givesAPdfPageTheExactSize)
 {
-    // 801 x 601 pixels are 600.75 x 450.75 points. The drawing begins at the upper edge, which the
-    // toolkit has put at 451.
+    // 801 x 601 pixels are 600.75 x 450.75 points. The drawing begins at the upper edge, which Qt
+    // rounds to 451.
     const std::string bytes = fileBytes(draw("out.pdf", {"--size", "801x601", writeEv2()}));
     EXPECT_THAT(bytes, HasSubstr("/MediaBox [0 0.25 600.75 451 "));
-    // 803 x 603 are 602.25 x 452.25, which is more than the whole points 602 x 452.
+    // 803 x 603 pixels are 602.25 x 452.25 points, more than the whole points 602 x 452.
     EXPECT_THAT(fileBytes(draw("more.pdf", {"--size", "803x603", writeEv2()})),
                 HasSubstr("/MediaBox [0 -0.25 602.25 452 "));
     EXPECT_THAT(bytes, ::testing::EndsWith("%%EOF\n"));
 }
 
-TEST_F(PictureCommand, takesScaleAndTicks)
+TEST_F(PictureCommand, acceptsScaleAndTicks)
 {
     const std::string texts = svgTexts(
         draw("out.svg", {"--scale", "100,500,0,20,0,-0.5", "--ticks", "4,5,2", writeEv2()}));
-    // Every 100 knots, 10 Hz and 0.1.
+    // Ticks at every 100 knots, 10 Hz and 0.1.
     for (const char* text : {"200|", "300|", "400|", "10.0|", "-0.10|", "-0.40|"})
         EXPECT_THAT(texts, HasSubstr(text));
     EXPECT_THAT(texts, ::testing::Not(HasSubstr("250|")));
@@ -138,7 +137,7 @@ TEST_F(PictureCommand, putsRoundTicksOnAScale)
 
 TEST_F(PictureCommand, putsTheTicksOfTheSpeedAxisOnWholeNumbers)
 {
-    // Its labels are whole numbers: every 5 knots, and not every 2.5.
+    // Labels are whole numbers: every 5 knots, not every 2.5.
     const std::string texts =
         svgTexts(draw("out.svg", {"--scale", "0,25,0,30,0,-0.2", writeEv2()}));
     EXPECT_THAT(texts, ::testing::StartsWith("5|10|15|20|"));
@@ -146,14 +145,14 @@ TEST_F(PictureCommand, putsTheTicksOfTheSpeedAxisOnWholeNumbers)
 
 TEST_F(PictureCommand, fitsTheAxesWithoutAScale)
 {
-    // Up to 400 knots, 14 Hz and a damping of 1, of which no more than 0.5 is shown.
+    // Up to 400 knots, 14 Hz and a damping of 1, of which 0.5 is shown.
     const std::string texts = svgTexts(draw("out.svg", {writeEv2()}));
     for (const char* text : {"200|", "10.0|", "-0.45|"})
         EXPECT_THAT(texts, HasSubstr(text));
     EXPECT_THAT(texts, ::testing::Not(HasSubstr("-0.60|")));
 }
 
-TEST_F(PictureCommand, saysThatReferenceSpeedsStandElsewhere)
+TEST_F(PictureCommand, saysThatReferenceSpeedsAreDrawnElsewhere)
 {
     const auto messages = [this](const char* scale) {
         const auto result = runBatch({"picture", "--scale", scale, "--reference-speed", "350=VD",
@@ -161,14 +160,15 @@ TEST_F(PictureCommand, saysThatReferenceSpeedsStandElsewhere)
         EXPECT_EQ(result.status, 0);
         return result.err;
     };
-    EXPECT_EQ(messages("100,500,0,20,0,-0.5"),
-              "tarsil-batch: " + file("out.svg")
-                  + ": Reference speeds stand 100 knots too far right: the speed axis begins at "
-                    "100\n");
+    EXPECT_EQ(
+        messages("100,500,0,20,0,-0.5"),
+        "tarsil-batch: " + file("out.svg")
+            + ": Reference speeds are drawn 100 knots too far right: the speed axis begins at "
+              "100\n");
     EXPECT_EQ(messages("0,500,0,20,0,-0.5"), "");
 }
 
-TEST_F(PictureCommand, marksThePointsAsAskedFor)
+TEST_F(PictureCommand, drawsTheMarkersAskedFor)
 {
     const std::string path = writeEv2();
     const auto texts = [this, &path](std::vector<std::string> more) {
@@ -206,7 +206,7 @@ TEST_F(PictureCommand, leavesOutTheFilesThatHaveTooManyCurves)
     }
     const std::string many = folder().write("many.evm", text + "\n");
     const std::string few = writeEv2();
-    const std::string why = " is left out: a plot takes 500 curves; choose with --modes\n";
+    const std::string why = " is left out: a plot is limited to 500 curves; use --modes\n";
     const auto result = runBatch({"picture", "--output", file("out.svg"), many, few});
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.err, "tarsil-batch: " + few + why);
@@ -240,7 +240,7 @@ TEST_F(PictureCommand, leavesNoPictureWhenAFileIsRefused)
     const std::string path = folder().write("bad.evm", "\n\n\n" + std::string(80, ' ') + "\n");
     const auto result = runBatch({"picture", "--output", file("out.png"), writeEv2(), path});
     EXPECT_EQ(result.status, 1);
-    EXPECT_THAT(result.err, HasSubstr("bad.evm, line 4")); // blank counts are no numbers
+    EXPECT_THAT(result.err, HasSubstr("bad.evm, line 4")); // blank counts are not numbers
     EXPECT_EQ(fileCount(), 2U);
 }
 
@@ -290,7 +290,7 @@ TEST_F(PictureCommand, doesNotWriteOverAnInput)
     EXPECT_EQ(fileBytes(path), before);
 }
 
-TEST_F(PictureCommand, takesAnOptionsNameAsText)
+TEST_F(PictureCommand, acceptsAnOptionsNameAsText)
 {
     EXPECT_EQ(
         runBatch({"picture", "--header", "--help", "--output", file("a.svg"), writeEv2()}).status,

@@ -72,7 +72,7 @@ TEST_F(PictureOfAWorkspace, isNumberedBeforeItsLastExtension)
 TEST_F(PictureOfAWorkspace, hasTheAxesAndColoursOfThePlot)
 {
     EXPECT_EQ(draw({write(record())}).status, 0);
-    // Every 50 knots, 5 Hz and 0.5.
+    // Ticks at every 50 knots, 5 Hz and 0.5.
     for (const char* text : {"|400|", "|15.0|", "|-1.50|", "|V(keas)|"})
         EXPECT_THAT(texts("out-1.svg"), HasSubstr(text));
     EXPECT_THAT(fileBytes(file("out-1.svg")), HasSubstr("#0000ff"));
@@ -95,7 +95,7 @@ TEST_F(PictureOfAWorkspace, putsTheTextsWhereTheyStood)
     EXPECT_NE(with, without);
 }
 
-TEST_F(PictureOfAWorkspace, takesTextsScaleAndSizeOfTheCommandLine)
+TEST_F(PictureOfAWorkspace, usesTextsScaleAndSizeOfTheCommandLine)
 {
     const auto result =
         draw({"--plot=1", "--header", "mine", "--legend", "l", "--subtitle", "s", "--size",
@@ -110,7 +110,7 @@ TEST_F(PictureOfAWorkspace, takesTextsScaleAndSizeOfTheCommandLine)
     EXPECT_THAT(fileBytes(file("out.svg")), HasSubstr("viewBox=\"0 0 800 600\""));
 }
 
-TEST_F(PictureOfAWorkspace, hasTheMarksAndLinesThatWereSaved)
+TEST_F(PictureOfAWorkspace, hasTheReferencesAndLinesThatWereSaved)
 {
     WorkspaceRecord record = this->record();
     const auto picture = [&] {
@@ -166,10 +166,10 @@ TEST_F(PictureOfAWorkspace, leavesOutWhatIsMissing)
     const auto result = draw({write(record)});
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.err, HasSubstr("File not found: C:\\flutter\\old.evm"));
-    EXPECT_THAT(result.err, HasSubstr("wing.ev2 has no mode at position 9; it holds 2"));
+    EXPECT_THAT(result.err, HasSubstr("wing.ev2 has no mode at position 9; it has 2"));
     EXPECT_THAT(texts("out-1.svg"), HasSubstr("|t|"));
     EXPECT_THAT(texts("out-1.svg"), Not(HasSubstr("|o|")));
-    EXPECT_THAT(texts("out-2.svg"), HasSubstr("|b|")) << "behind the series that names nothing";
+    EXPECT_THAT(texts("out-2.svg"), HasSubstr("|b|")) << "after the series that names nothing";
 }
 
 TEST_F(PictureOfAWorkspace, namesThePlotThatCannotBeDrawn)
@@ -192,7 +192,7 @@ TEST_F(PictureOfAWorkspace, needsAPlot)
     record.plots.clear();
     const auto none = draw({write(record)});
     EXPECT_EQ(none.status, 1);
-    EXPECT_THAT(none.err, HasSubstr("case.tsw holds no plot"));
+    EXPECT_THAT(none.err, HasSubstr("case.tsw has no plot"));
     EXPECT_EQ(fileCount(), 3U);
 }
 

@@ -10,7 +10,7 @@ using ::testing::HasSubstr;
 
 namespace {
 
-/// The real executable.
+/// Runs the real executable.
 class Program : public test::BatchFixture
 {
 protected:
@@ -28,7 +28,7 @@ protected:
         for (const std::string& argument : arguments)
             list << QString::fromStdString(argument);
         QProcess process;
-        // It must draw without a display, and without being told so.
+        // It must draw without a display and without this variable.
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.remove(QStringLiteral("QT_QPA_PLATFORM"));
         environment.remove(QStringLiteral("DISPLAY"));

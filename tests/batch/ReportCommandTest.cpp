@@ -16,7 +16,7 @@ namespace {
 class ReportCommand : public test::BatchFixture
 {
 protected:
-    /// The arguments of a report, with more of them at the end.
+    /// The arguments of a report, followed by more.
     static std::vector<std::string> arguments(const std::string& output,
                                               const std::vector<std::string>& more)
     {
@@ -71,7 +71,7 @@ TEST_F(ReportCommand, writesDelimitedText)
                            "old.evm,,,0.5,7,0.5,200,150,6,3780"));
 }
 
-TEST_F(ReportCommand, takesANegativeReferenceDamping)
+TEST_F(ReportCommand, acceptsANegativeReferenceDamping)
 {
     const auto result = runBatch({"report", "--reference-damping", "-0.25", "--speed-limit", "350",
                                   "--mach=0.5", "--output", file("out.csv"), writeEvm()});
@@ -84,11 +84,11 @@ TEST_F(ReportCommand, needsTheMachNumberOfAFileThatHoldsNone)
     const std::string path = writeEvm();
     const auto result = runBatch(arguments(file("out.csv"), {path}));
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.err, "tarsil-batch: " + path + " holds no Mach number; give it with --mach\n");
+    EXPECT_EQ(result.err, "tarsil-batch: " + path + " has no Mach number; use --mach\n");
     EXPECT_EQ(fileCount(), 1U);
 }
 
-TEST_F(ReportCommand, takesTheModesListedOfEachFile)
+TEST_F(ReportCommand, usesTheModesListedOfEachFile)
 {
     const std::string first = writeEv2("a.ev2");
     const std::string second = writeEv2("b.ev2");
@@ -106,7 +106,7 @@ TEST_F(ReportCommand, namesAPositionThatIsNotThere)
     const auto result = runBatch(arguments(file("out.csv"), {"--modes", "3", path}));
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.err,
-              "tarsil-batch: " + path + ": there is no mode at position 3; the file holds 2\n");
+              "tarsil-batch: " + path + ": there is no mode at position 3; the file has 2\n");
 }
 
 TEST_F(ReportCommand, namesTheFileOfAnErrorAsItWasGiven)

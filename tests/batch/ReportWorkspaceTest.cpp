@@ -26,7 +26,7 @@ protected:
         return runBatch(all);
     }
 
-    /// Evolution, case, mode and first flutter speed of the rows, each row followed by a bar.
+    /// Evolution, case, mode and first flutter speed of the rows, each followed by a bar.
     std::string rows() const
     {
         const std::string text = fileBytes(file("out.csv"));
@@ -53,7 +53,7 @@ TEST_F(ReportOfAWorkspace, hasARowForEachSeriesInOrder)
     const auto result = report({write(record())});
     EXPECT_EQ(result.status, 0) << result.err;
     EXPECT_EQ(result.out + result.err, "");
-    // Zeros half-way between two points; the case is shown for the new format only.
+    // Zeros are half-way between two points; the case is shown for the new format only.
     EXPECT_EQ(rows(), "wing.ev2 torsion 5 250|old.evm  7 150|wing.ev2 bending 3 350|");
 }
 
@@ -67,7 +67,7 @@ TEST_F(ReportOfAWorkspace, hasTheParametersThatWereEdited)
     const std::string text = fileBytes(file("out.csv"));
     EXPECT_THAT(text, HasSubstr("\r\nwing.ev2,torsion,heavy,0.5,5,"));
     EXPECT_THAT(text, HasSubstr("\r\nold.evm,,empty,0.25,7,"));
-    // The same files are what they say everywhere else.
+    // Elsewhere the parameters of the files themselves are used.
     EXPECT_THAT(text, HasSubstr("\r\nwing.ev2,torsion,\"FULL \"\"A\"\"\",0.78,5,"));
     EXPECT_THAT(text, HasSubstr("\r\nold.evm,,,0.5,7,")) << "that of --mach, where there is none";
 }
@@ -86,7 +86,7 @@ TEST_F(ReportOfAWorkspace, saysWhichFileHasNoPath)
     EXPECT_EQ(rows(), "wing.ev2 torsion 5 250|wing.ev2 bending 3 350|");
 }
 
-TEST_F(ReportOfAWorkspace, takesThePlotAskedFor)
+TEST_F(ReportOfAWorkspace, usesThePlotAskedFor)
 {
     const std::string path = write(record());
     EXPECT_EQ(report({"--plot", "2", path}).status, 0);
@@ -95,7 +95,7 @@ TEST_F(ReportOfAWorkspace, takesThePlotAskedFor)
     EXPECT_EQ(rows(), "wing.ev2 torsion 5 250|old.evm  7 150|");
 }
 
-TEST_F(ReportOfAWorkspace, takesANumberBeforeACaptionAndTheFirstOfEqualCaptions)
+TEST_F(ReportOfAWorkspace, prefersANumberToACaptionAndTheFirstOfEqualCaptions)
 {
     WorkspaceRecord record = this->record();
     record.plots[0].caption = "2";
@@ -121,7 +121,7 @@ TEST_F(ReportOfAWorkspace, namesThePlotsWhenOneIsUnknown)
     }
     WorkspaceRecord empty = record();
     empty.plots.clear();
-    EXPECT_THAT(report({"--plot", "1", write(empty)}).err, HasSubstr("the workspace holds none"));
+    EXPECT_THAT(report({"--plot", "1", write(empty)}).err, HasSubstr("the workspace has none"));
     EXPECT_FALSE(std::filesystem::exists(file("out.csv")));
 }
 
@@ -138,7 +138,7 @@ TEST_F(ReportOfAWorkspace, leavesOutTheSeriesOfAMissingFile)
     EXPECT_EQ(rows(), "wing.ev2 torsion 5 250|wing.ev2 bending 3 350|");
 }
 
-TEST_F(ReportOfAWorkspace, takesNoFileThatSeveralPathsMean)
+TEST_F(ReportOfAWorkspace, usesNoFileThatSeveralPathsMean)
 {
     WorkspaceRecord record = this->record();
     record.files = {"C:\\clean\\wing.ev2", "C:\\store\\wing.ev2"};
@@ -158,10 +158,10 @@ TEST_F(ReportOfAWorkspace, saysWhichFilesAreTakenForTheirNamesAlone)
     const auto result = report({path});
     EXPECT_EQ(result.status, 0);
     EXPECT_THAT(result.err, HasSubstr("modal evolution 2, C:/flutter/old.evm, is not there; "));
-    EXPECT_THAT(result.err, HasSubstr("other/old.evm is taken for its name alone\n"));
+    EXPECT_THAT(result.err, HasSubstr("other/old.evm is used because of its name alone\n"));
 }
 
-TEST_F(ReportOfAWorkspace, tellsNamesakesApartByTheirFolders)
+TEST_F(ReportOfAWorkspace, distinguishesNamesakesByTheirFolders)
 {
     std::filesystem::create_directories(folder().path() / "moved" / "clean");
     std::filesystem::create_directories(folder().path() / "moved" / "store");
@@ -212,7 +212,7 @@ TEST_F(ReportOfAWorkspace, leavesOutSeriesThatNameNothing)
     EXPECT_THAT(result.err,
                 HasSubstr("tarsil-batch: " + path
                           + ": plot \"Wing\", series 1 is left out: wing.ev2 has no mode at "
-                            "position 3; it holds 2\n"));
+                            "position 3; it has 2\n"));
     EXPECT_THAT(result.err,
                 HasSubstr("series 2 is left out: there is no modal evolution 3; the workspace "
                           "lists 2\n"));
@@ -221,7 +221,7 @@ TEST_F(ReportOfAWorkspace, leavesOutSeriesThatNameNothing)
     EXPECT_EQ(rows(), "wing.ev2 bending 3 350|");
 }
 
-TEST_F(ReportOfAWorkspace, standsAmongEvolutionsInTheOrderGiven)
+TEST_F(ReportOfAWorkspace, isAmongEvolutionsInTheOrderGiven)
 {
     const auto result = report({old, write(record()), wing});
     EXPECT_EQ(result.status, 0) << result.err;
@@ -248,7 +248,7 @@ TEST_F(ReportOfAWorkspace, hasHeadingsOnlyWithoutPlots)
 
 TEST_F(ReportOfAWorkspace, isNotWrittenOverWhatIsRead)
 {
-    // Names that end as an output does; the first is a hard link to the workspace.
+    // Names that end like an output; the first is a hard link to the workspace.
     const std::string path = write(record());
     std::filesystem::create_hard_link(path, file("out.csv"));
     const std::string before = fileBytes(path);
@@ -274,7 +274,7 @@ TEST_F(ReportOfAWorkspace, refusesOptionsThatDoNotGoWithIt)
 {
     const auto modes = report({"--modes", "1", wing, write(record())});
     EXPECT_EQ(modes.status, 2);
-    EXPECT_THAT(modes.err, HasSubstr("--modes: the series of a workspace say that already"));
+    EXPECT_THAT(modes.err, HasSubstr("--modes: already determined by the series of the workspace"));
     const auto plot = report({"--plot", "1", wing});
     EXPECT_EQ(plot.status, 2);
     EXPECT_THAT(plot.err, HasSubstr("--plot needs a workspace"));

@@ -1,4 +1,4 @@
-// The workspace of the samples, whose stored paths exist nowhere.
+// The workspace of the samples, whose stored paths do not exist.
 
 #include "batch/BatchFixture.h"
 
@@ -39,7 +39,7 @@ TEST_F(SampleWorkspace, givesTheFlutterSpeedsOfTheSamples)
     EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 13);
     EXPECT_THAT(text,
                 HasSubstr("goland_clean_m040.ev2,\"CLEAN, Mach 0.40, sea level\",CLEAN,0.4,2,"));
-    // The table of samples/README.md, rounded there: 266.2 KEAS, and 282.7 and 388.2.
+    // The values in samples/README.md are rounded: 266.2 KEAS, 282.7 and 388.2.
     EXPECT_THAT(text, HasSubstr(",266.23"));
     EXPECT_THAT(text, HasSubstr(",282.66"));
     EXPECT_THAT(text, HasSubstr(",388.16"));

@@ -1,4 +1,4 @@
-// The small editor for the line of a series.
+// The small dialog for the line of a series.
 
 #include "datacontrol/DlgSeriesStyle.h"
 
@@ -23,7 +23,7 @@ TEST(DlgSeriesStyle, showsTheLineThatItIsGiven)
     EXPECT_EQ(partOf<QSpinBox>(dialog, "inpWidth").value(), 4);
 }
 
-TEST(DlgSeriesStyle, tellsWhatTheUserChose)
+TEST(DlgSeriesStyle, returnsWhatTheUserChose)
 {
     dlgSeriesStyle dialog({0, penstyle::solid, 1});
     dialog.setColor(rgb(9, 8, 7));
@@ -32,7 +32,7 @@ TEST(DlgSeriesStyle, tellsWhatTheUserChose)
     EXPECT_EQ(dialog.look(), (LineLook {rgb(9, 8, 7), penstyle::none, 3}));
 }
 
-TEST(DlgSeriesStyle, takesStrangeValuesOfAFileAsTheyAreDrawn)
+TEST(DlgSeriesStyle, showsStrangeValuesOfAFileAsTheyAreDrawn)
 {
     // An unknown style is drawn solid and a width of 0 as one pixel.
     const dlgSeriesStyle dialog({0, 77, 0});

@@ -1,4 +1,4 @@
-// The line of a series as a sample.
+// The sample of a series' line.
 
 #include "datacontrol/LineSample.h"
 
@@ -14,7 +14,7 @@ using namespace tarsil;
 
 namespace {
 
-/// How many pixels of a sample of 40 x 11 pixels have the colour of the series, blue.
+/// The number of pixels of a 40 x 11 sample that have the colour of the series, blue.
 int inked(std::int32_t style, std::int16_t width)
 {
     QImage image(40, 11, QImage::Format_RGB32);
@@ -38,14 +38,14 @@ int inked(std::int32_t style, std::int16_t width)
 
 TEST(LineSample, isAsLongAsTheCellAllows)
 {
-    EXPECT_EQ(inked(penstyle::solid, 0), 40 - 2 * 3); // three pixels of margin at both ends
+    EXPECT_EQ(inked(penstyle::solid, 0), 40 - 2 * 3); // margins of three pixels at both ends
     EXPECT_EQ(inked(penstyle::solid, 1), 40 - 2 * 3);
     EXPECT_GT(inked(penstyle::solid, 3), 3 * (40 - 2 * 3) - 6);
 }
 
 TEST(LineSample, hasTheDashesOfTheCurve)
 {
-    const int dots = inked(penstyle::dot, 1); // three pixels, a gap of three
+    const int dots = inked(penstyle::dot, 1); // three pixels, then a gap of three
     EXPECT_GE(dots, 15);
     EXPECT_LE(dots, 19);
 }

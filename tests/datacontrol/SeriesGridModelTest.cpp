@@ -1,4 +1,4 @@
-// The series of a plot as rows of a grid.
+// The series of a plot as the rows of a grid.
 
 #include "datacontrol/SeriesGridModel.h"
 
@@ -52,7 +52,7 @@ protected:
     {
         return model.setData(index(row, column), QString::fromLatin1(typed), Qt::EditRole);
     }
-    /// Whether a mode number is marked as not drawn, in its colour and by a sign beside it.
+    /// Whether a mode number is shown as not drawn: by its colour and a sign beside it.
     bool isRed(int row)
     {
         const QModelIndex cell = index(row, SeriesColumn::Mode);
@@ -112,7 +112,7 @@ TEST_F(SeriesGridModelTest, showsARowForEachSeries)
     EXPECT_EQ(text(1, SeriesColumn::Evolution, Qt::ToolTipRole), "/runs/case.ev2");
 }
 
-TEST_F(SeriesGridModelTest, showsTextsOfFilesAsTheyStandInItsTips)
+TEST_F(SeriesGridModelTest, showsTextsOfFilesUnchangedInItsTips)
 {
     test::changeSeries(plot, 1, [](Series& one) { one.LegendText = QStringLiteral("R&D"); });
     EXPECT_EQ(text(1, SeriesColumn::Legend, Qt::ToolTipRole), "R&D");
@@ -133,7 +133,7 @@ TEST_F(SeriesGridModelTest, followsSeriesThatOthersAddAndRemove)
 TEST_F(SeriesGridModelTest, writesTagAndLegendIntoTheSeries)
 {
     EXPECT_TRUE(type(0, SeriesColumn::Tag, "A"));
-    EXPECT_TRUE(type(0, SeriesColumn::Legend, "bending\r\n")); // as copied from a sheet
+    EXPECT_TRUE(type(0, SeriesColumn::Legend, "bending\r\n")); // as copied from a spreadsheet
     EXPECT_EQ(plot.SeriesCollection()[0].MarkerTag, QStringLiteral("A"));
     EXPECT_EQ(plot.SeriesCollection()[0].LegendText, QStringLiteral("bending"));
     EXPECT_FALSE(type(0, SeriesColumn::Index, "9"));
@@ -190,7 +190,7 @@ TEST_F(SeriesGridModelTest, keepsWhatWasTypedWhileAnotherPlotIsShown)
     EXPECT_TRUE(type(2, SeriesColumn::Mode, "8"));
     model.setPlot(&other);
     EXPECT_EQ(text(2, SeriesColumn::Mode), "3");
-    plot.rows().add(*evolution.Modes[0]); // meanwhile
+    plot.rows().add(*evolution.Modes[0]); // while the change is undone
     model.setPlot(&plot);
     EXPECT_EQ(text(2, SeriesColumn::Mode), "8");
     EXPECT_EQ(text(3, SeriesColumn::Mode), "1");
@@ -200,7 +200,7 @@ TEST_F(SeriesGridModelTest, keepsWhatWasTypedWhileAnotherPlotIsShown)
 
 TEST_F(SeriesGridModelTest, keepsPositionsAtTheirRowsWhileOthersMoveAndGo)
 {
-    tester.reset(); // expects first cells to go with their rows, and these count rows
+    tester.reset(); // it expects first cells to move with rows, but they number the rows
     const QPersistentModelIndex second(index(1, SeriesColumn::Legend));
     const QPersistentModelIndex third(index(2, SeriesColumn::Tag));
     int resets = 0;
@@ -223,14 +223,14 @@ TEST_F(SeriesGridModelTest, keepsPositionsAtTheirRowsWhileOthersMoveAndGo)
 
 TEST_F(SeriesGridModelTest, saysWhichRowsHaveOtherNumbersAndTexts)
 {
-    tester.reset(); // expects first cells to go with their rows, and these count rows
+    tester.reset(); // it expects first cells to move with rows, but they number the rows
     std::vector<std::pair<int, int>> changes; // first row, last row
     QObject::connect(&model, &QAbstractItemModel::dataChanged,
                      [&](const QModelIndex& from, const QModelIndex& to) {
                          changes.emplace_back(from.row(), to.row());
                      });
     plot.rows().setMode(plot.rows().at(2).id, 1);
-    test::changeSeries(plot, 2, [](Series&) {}); // nothing
+    test::changeSeries(plot, 2, [](Series&) {}); // changes nothing
     EXPECT_THAT(changes, ElementsAre(std::pair(2, 2)));
     changes.clear();
     plot.SerieMove(3, 2);

@@ -1,4 +1,4 @@
-// The grid of series under keys and mouse.
+// The grid of series with keys and mouse.
 
 #include "WndDataFixture.h"
 
@@ -39,7 +39,7 @@ protected:
 
 } // namespace
 
-TEST_F(SeriesGridViewTest, tellsWhichRowsAreSelected)
+TEST_F(SeriesGridViewTest, reportsWhichRowsAreSelected)
 {
     EXPECT_THAT(grid().selectedRows(), IsEmpty());
     EXPECT_FALSE(grid().isSelectedOnlyIn(3));
@@ -86,7 +86,9 @@ TEST_F(SeriesGridViewTest, movesRowsWithAltAndTheArrows)
 TEST_F(SeriesGridViewTest, movesRowsToTheGapWhereTheyAreDropped)
 {
     select(3, 1, SeriesColumn::Index);
-    const auto drop = [this](QPoint place) { Q_EMIT grid().rowsDropped(grid().gapAt(place)); };
+    const auto drop = [this](QPoint position) {
+        Q_EMIT grid().rowsDropped(grid().gapAt(position));
+    };
     drop(cellCenter(0, SeriesColumn::Index) - QPoint(0, 4));
     EXPECT_THAT(drawnModes(), ElementsAre(4, 1, 2, 3));
     drop(cellCenter(1, SeriesColumn::Index) + QPoint(0, 4));
@@ -119,7 +121,7 @@ TEST_F(SeriesGridViewTest, editsACellInPlace)
 TEST_F(SeriesGridViewTest, keepsWhatIsBeingTypedWhenThePlotChanges)
 {
     startTyping(1, SeriesColumn::Legend, "typed");
-    plot().marks().RemoveRef(); // as by a command of a menu, which takes no focus
+    plot().marks().RemoveRef(); // like a menu command, which does not take the focus
     add(*evolutions().front(), 2);
     auto* const editor = test::openEditor(grid());
     ASSERT_NE(editor, nullptr);
@@ -133,7 +135,7 @@ TEST_F(SeriesGridViewTest, showsAModeThatIsNotDrawnInASelectedCellToo)
 {
     select(0, 1, SeriesColumn::Mode);
     const QRect cell = grid().visualRect(model().index(0, static_cast<int>(SeriesColumn::Mode)));
-    // The left half of the cell, where no digit stands.
+    // The left half of the cell, which has no digits.
     const QRect beside(cell.topLeft(), QSize(cell.width() / 2, cell.height()));
     const QImage before = grid().viewport()->grab(beside).toImage();
     press(Qt::Key_Minus);

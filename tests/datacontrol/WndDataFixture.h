@@ -30,7 +30,7 @@ inline ScriptedUserInterface::Message warning(const std::string& text)
     return {text, "Tarsil", MessageIcon::Exclamation};
 }
 
-/// The Data Control window over a plot window, whose first plot is active, and an airplane with one
+/// The Data Control window with a plot window whose first plot is active, and an airplane with one
 /// mass configuration, two mechanisms and one envelope.
 class WndDataTest : public ::testing::Test
 {
@@ -95,7 +95,7 @@ protected:
     EvmPlot& plot() { return *plots.ActivePlot(); }
     const SeriesList& series() { return plot().SeriesCollection(); }
 
-    /// Changes the look of a row as others do.
+    /// Changes the look of a row from outside the window.
     template <typename Change>
     void change(std::size_t row, const Change& changeLook)
     {
@@ -135,7 +135,7 @@ protected:
         std::iota(rows.begin(), rows.end(), first);
         grid().selectRows(rows, static_cast<int>(column));
     }
-    /// Opens the editor of a cell and types over what stands there.
+    /// Opens the editor of a cell and replaces its text.
     void startTyping(int row, SeriesColumn column, const std::string& text)
     {
         grid().setCurrentIndex(model().index(row, static_cast<int>(column)));
@@ -146,7 +146,7 @@ protected:
     }
     void click(const char* button) { test::click(data, button); }
 
-    AirplaneInfo airplane; ///< that of the document once it is set there
+    AirplaneInfo airplane; ///< becomes that of the document when set there
     Document document;
     UndoHistory& history = document.history();
     ScriptedUserInterface user;

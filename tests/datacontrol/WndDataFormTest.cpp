@@ -1,4 +1,4 @@
-// The form of the Data Control window: names, captions and default texts of its controls.
+// The form of the Data Control window: names, captions and default texts of its widgets.
 
 #include "WndDataFixture.h"
 

@@ -41,7 +41,7 @@ protected:
     }
     void choose(const char* marker) { partOf<QRadioButton>(data, marker).click(); }
     test::Texts modes() { return column(SeriesColumn::Mode); }
-    /// Does something in the editor of the line and closes it.
+    /// Runs an action in the editor of the line and closes it.
     static void inLineEditor(const std::function<void(dlgSeriesStyle&)>& action,
                              QDialog::DialogCode end)
     {
@@ -69,7 +69,7 @@ TEST_F(WndDataSeries, showsTheSeriesOfTheActivePlot)
     EXPECT_EQ(model().rowCount(), 4);
 }
 
-TEST_F(WndDataSeries, givesAddedCurvesTheMarkersThatStandThere)
+TEST_F(WndDataSeries, givesAddedCurvesTheMarkersOfTheInputs)
 {
     test::type(data, "mksizeInp", "12");
     choose("tagBtn");
@@ -101,7 +101,7 @@ TEST_F(WndDataSeries, raisesTheModesOfTheSelectedRowsUpToTheLast)
     EXPECT_THAT(user.messages, IsEmpty());
 }
 
-TEST_F(WndDataSeries, lowersTheModesOfTheSelectedRowsAndTellsOfAMissingOne)
+TEST_F(WndDataSeries, lowersTheModesOfTheSelectedRowsAndReportsAMissingOne)
 {
     addRows();
     select(0, 2, SeriesColumn::Mode);
@@ -134,7 +134,7 @@ TEST_F(WndDataSeries, refusesToChangeModesWithoutASelectionInTheirColumn)
 TEST_F(WndDataSeries, raisesNoModeBeyondWhatTheEvolutionDeclares)
 {
     EVM& cut = load("cut.ev2", 2);
-    cut.na = 3; // the file declares one more than it holds
+    cut.na = 3; // the file declares one mode more than it has
     add(cut, 2);
     select(0, 1, SeriesColumn::Mode);
     click("cmdIncMode");
@@ -163,7 +163,7 @@ TEST_F(WndDataSeries, removesTheSelectedRowsAndTheOnlyOne)
     select(1, 1, SeriesColumn::Evolution);
     click("cmdRemove");
     EXPECT_THAT(drawnModes(), ElementsAre(1, 3, 1));
-    EXPECT_THAT(grid().selectedRows(), ElementsAre(1)) << "the row behind it";
+    EXPECT_THAT(grid().selectedRows(), ElementsAre(1)) << "the row after it";
     select(0, 2, SeriesColumn::Evolution);
     click("cmdRemove");
     EXPECT_THAT(column(SeriesColumn::Evolution), ElementsAre("b.ev2"));
@@ -212,7 +212,7 @@ TEST_F(WndDataSeries, keepsSelectionAndCurrentCellWithTheirRows)
     };
     partOf<QToolButton>(data, "btnSerieMove").click();
     hasMoved(1);
-    plot().rows().remove({0}); // by others
+    plot().rows().remove({0}); // from outside the window
     hasMoved(0);
     click("cmdDrawPlot");
     hasMoved(0);
@@ -262,7 +262,7 @@ TEST_F(WndDataSeries, storesTheMarkerOptionsIntoEveryRow)
     choose("ithmpfBtn");
     for (const Series& one : series()) {
         EXPECT_EQ(one.MarkerStyle, markerNumber(MarkerKind::ParticipationFactor));
-        EXPECT_EQ(one.MarkerSize, 10); // half a point rounds to the even number
+        EXPECT_EQ(one.MarkerSize, 10); // half a point rounds to even
         EXPECT_EQ(one.MarkerSpacing, 4);
         EXPECT_EQ(one.IthMpf, 3);
     }
@@ -303,7 +303,7 @@ TEST_F(WndDataSeries, changesOnlyTheMarkerOptionThatTheUserChanges)
     EXPECT_THAT(user.messages, IsEmpty());
 }
 
-TEST_F(WndDataSeries, marksAMarkerOptionThatIsNoNumberAndTakesTheOthers)
+TEST_F(WndDataSeries, highlightsAMarkerOptionThatIsNoNumberAndUsesTheOthers)
 {
     addRows();
     auto& size = partOf<QLineEdit>(data, "mksizeInp");
@@ -327,7 +327,7 @@ TEST_F(WndDataSeries, marksAMarkerOptionThatIsNoNumberAndTakesTheOthers)
     EXPECT_THAT(user.messages, IsEmpty());
 }
 
-TEST_F(WndDataSeries, marksTheIndexOfAFactorOnlyWhereItIsTheMarker)
+TEST_F(WndDataSeries, highlightsTheIndexOfAFactorOnlyWhereItIsTheMarker)
 {
     addRows();
     const QAction& sign = *partOf<QLineEdit>(data, "ithmpfInp").actions().front();
@@ -388,7 +388,7 @@ TEST_F(WndDataSeries, keepsRowsWithoutACurveThroughTheOtherCommands)
     partOf<QToolButton>(data, "btnSerieMove").click();
     EXPECT_THAT(modes(), ElementsAre("0", "1", "3", "1"));
     EXPECT_THAT(grid().selectedRows(), ElementsAre(0));
-    click("btnFilltLeg"); // the file's name, into this row alone
+    click("btnFilltLeg"); // the file name, in this row only
     click("btnPlotLeg");
     EXPECT_EQ(cell(0, SeriesColumn::Legend), "a.ev2");
     EXPECT_EQ(plot().Legend().Text(), QString()) << "a legend has lines for curves";
@@ -442,7 +442,7 @@ TEST_F(WndDataSeries, reportsMarkerOptionsThatCannotBe)
     EXPECT_THAT(user.messages.back().text, EndsWith("Size: 0 is less than 1"));
 }
 
-TEST_F(WndDataSeries, takesTheSpacingOfAFileThatMarksNearlyNothing)
+TEST_F(WndDataSeries, acceptsTheSpacingOfAFileThatDrawsNearlyNoMarkers)
 {
     EVM& evolution = load("a.ev2");
     EvmPlot& opened = plots.AddPlot({});
@@ -456,11 +456,12 @@ TEST_F(WndDataSeries, takesTheSpacingOfAFileThatMarksNearlyNothing)
 
 TEST_F(WndDataSeries, refusesASpacingThatIsNotPositive)
 {
-    for (const char* spacing : {"0", "-3", "0.5", "-1e99"}) { // a half rounds to the even number
+    for (const char* spacing : {"0", "-3", "0.5", "-1e99"}) { // 0.5 rounds to even
         test::type(data, "mkspaceInp", "7");
         Q_EMIT partOf<QLineEdit>(data, "mkspaceInp").editingFinished();
         test::type(data, "mkspaceInp", spacing);
-        Q_EMIT partOf<QLineEdit>(data, "mkspaceInp").editingFinished(); // as by leaving it
+        Q_EMIT partOf<QLineEdit>(data, "mkspaceInp")
+            .editingFinished(); // as when the focus leaves it
         ASSERT_EQ(user.messages.size(), 1U);
         EXPECT_EQ(user.messages[0], warning("The spacing must be greater then zero!"));
         EXPECT_EQ(test::textIn(data, "mkspaceInp"), "7");
@@ -540,7 +541,7 @@ TEST_F(WndDataSeries, asksForAPlotWhenNoneIsActive)
     plots.ActivatePlot(nullptr);
     for (const char* button : {"cmdDrawPlot", "btnFitFreq", "btnResColor", "SavePic", "btnPlotLeg"})
         click(button);
-    partOf<QToolButton>(data, "btnSerieMove").click(); // there is nothing to move
+    partOf<QToolButton>(data, "btnSerieMove").click(); // nothing to move
     click("cmdRemove");
     EXPECT_EQ(user.messages.size(), 5U);
     for (const auto& message : user.messages)

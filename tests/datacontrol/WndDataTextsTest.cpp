@@ -30,7 +30,7 @@ protected:
     std::string header() { return plot().Header().Text().toStdString(); }
     std::string legend() { return plot().Legend().Text().toStdString(); }
 
-    /// Chooses a mechanism as the user does.
+    /// Selects a mechanism as the user does.
     void choose(int mechanism)
     {
         auto& list = partOf<QComboBox>(data, "cmbFlutMech");
@@ -89,7 +89,7 @@ TEST_F(WndDataTexts, needsAReferenceAndItsMassConfigurationForTheHeader)
     EXPECT_EQ(header(), "");
 }
 
-TEST_F(WndDataTexts, marksTheEnvelopeInThePlaceOfOtherReferenceSpeeds)
+TEST_F(WndDataTexts, replacesOtherReferenceSpeedsByTheEnvelope)
 {
     setReference(load("a.ev2"));
     plot().marks().AddRef(300, QStringLiteral("mine"));
@@ -155,7 +155,7 @@ TEST_F(WndDataTexts, showsTheMechanismThatIsChosen)
     EXPECT_EQ(plot().axes().bounds(), (PlotBounds {100, 400, 2, 22, 0, -0.5F}));
     EXPECT_EQ(plot().properties().vthicks(), 6);
     EXPECT_EQ(plot().properties().fthicks(), 4);
-    EXPECT_EQ(plot().properties().gthicks(), 2); // 2.5 rounds to the even number
+    EXPECT_EQ(plot().properties().gthicks(), 2); // 2.5 rounds to even
     partOf<QRadioButton>(data, "optFlutMecShort").click();
     EXPECT_EQ(plot().Mechanism().Text(), QStringLiteral("STORE"));
     partOf<QRadioButton>(data, "optFlutMecLong").click();
@@ -187,7 +187,7 @@ TEST_F(WndDataTexts, fillsTheLegendsOfAllRowsWithFileNames)
 {
     add(load("a.ev2"));
     add(load("b.ev2"));
-    click("btnFilltLeg"); // the text that explains the index begins with -1
+    click("btnFilltLeg"); // the text about the index begins with -1
     EXPECT_THAT(column(SeriesColumn::Legend), ElementsAre("a.ev2", "b.ev2"));
 }
 
@@ -213,7 +213,7 @@ TEST_F(WndDataTexts, fillsTheLegendsOfTheSelectedRows)
     EXPECT_THAT(column(SeriesColumn::Legend), ElementsAre("", "clean"));
 }
 
-TEST_F(WndDataTexts, tellsOnceThatLegendEntriesAreNotThere)
+TEST_F(WndDataTexts, reportsOnceThatLegendEntriesAreMissing)
 {
     EVM& first = load("a.ev2");
     first.Param.legends.add("1", "clean");
@@ -238,14 +238,14 @@ TEST_F(WndDataTexts, writesTheLegendInTheColoursOfTheCurves)
         add(evolution, mode);
     type(0, SeriesColumn::Legend, "same");
     type(2, SeriesColumn::Legend, "same");
-    type(2, SeriesColumn::Tag, "0"); // two lines that are alike
+    type(2, SeriesColumn::Tag, "0"); // two equal lines
     test::type(data, "txtLegFontSize", "12");
     click("btnPlotLeg");
     EXPECT_EQ(legend(), "[0] same\r\n[0] same");
     EXPECT_EQ(plot().Legend().Font().points, 12);
     EXPECT_EQ(colorAt(0), BaseColors[0]);
     EXPECT_EQ(colorAt(7), BaseColors[0]);
-    EXPECT_EQ(colorAt(10), BaseColors[2]) << "behind the line break";
+    EXPECT_EQ(colorAt(10), BaseColors[2]) << "after the line break";
     EXPECT_EQ(colorAt(17), BaseColors[2]);
 }
 
@@ -254,7 +254,7 @@ TEST_F(WndDataTexts, writesALegendTextWithALineBreakAsOneLine)
     EVM& evolution = load("a.ev2");
     add(evolution, 1);
     add(evolution, 2);
-    change(0, [](Series& one) { one.LegendText = QStringLiteral("one\r\ntwo"); }); // of a file
+    change(0, [](Series& one) { one.LegendText = QStringLiteral("one\r\ntwo"); }); // from a file
     change(1, [](Series& one) { one.LegendText = QStringLiteral("three"); });
     click("btnPlotLeg");
     EXPECT_EQ(legend(), "[0] one two\r\n[1] three");

@@ -1,4 +1,4 @@
-// What the Data Control window changes, undone and made again.
+// Undo and redo of the commands of the Data Control window.
 
 #include "WndDataFixture.h"
 
@@ -25,7 +25,7 @@ namespace {
 class WndDataUndo : public test::WndDataTest
 {
 protected:
-    /// Three rows, markers as the window shows them, and a reference evolution.
+    /// Three rows with the markers of the window, and a reference evolution.
     WndDataUndo()
     {
         EVM& evolution = load("a.ev2");
@@ -53,7 +53,7 @@ protected:
 
 } // namespace
 
-TEST_F(WndDataUndo, takesEveryCommandBackInOneStep)
+TEST_F(WndDataUndo, undoesEveryCommandInOneStep)
 {
     select(1, 2, SeriesColumn::Mode);
     const std::vector<std::pair<const char*, std::function<void()>>> commands = {

@@ -26,7 +26,7 @@ inline std::unique_ptr<EVM> makeEvolution(const std::string& name)
     return evolution;
 }
 
-/// Appends an evolution as if it had been read from a file.
+/// Appends an evolution as if it were read from a file.
 inline EVM& addEvolution(EvolutionList& list, const std::string& name)
 {
     OwnedEvolutions evolutions;

@@ -1,4 +1,4 @@
-// What the lists of a document have to do with each other.
+// How the lists of a document work together.
 
 #include "DocumentFixture.h"
 
@@ -60,7 +60,7 @@ TEST_F(DocumentTest, removesAnEvolutionWithItsRows)
     EvmPlot& first = document.plots().first();
     EvmPlot& second = document.plots().add({});
     first.rows().add(*a.Modes[0]);
-    first.rows().setMode(first.rows().at(0).id, 9); // names no mode
+    first.rows().setMode(first.rows().at(0).id, 9); // does not exist
     first.rows().add(*b.Modes[0]);
     second.rows().add(*b.Modes[0]);
     document.remove(a);

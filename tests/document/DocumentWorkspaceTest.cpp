@@ -1,4 +1,4 @@
-// Opening and saving, and what counts as a change.
+// Opening, saving and unsaved changes.
 
 #include "DocumentFixture.h"
 
@@ -20,11 +20,11 @@ using ::testing::IsEmpty;
 
 namespace {
 
-/// A document over the folder of its workspace.
+/// A document in the folder of its workspace.
 class DocumentWorkspace : public ::testing::Test
 {
 protected:
-    /// Two evolutions beside the workspace, in two plots, and saves them.
+    /// Saves two evolutions beside the workspace, drawn in two plots.
     void work()
     {
         for (const char* const name : {"one.ev2", "two.ev2"})

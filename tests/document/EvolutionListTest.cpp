@@ -1,4 +1,4 @@
-// Which evolutions are open, and which is the reference.
+// The list of open evolutions and the reference evolution.
 
 #include "DocumentFixture.h"
 
@@ -16,7 +16,7 @@ using ::testing::IsEmpty;
 
 namespace {
 
-/// A list with a listener that writes down what it announces.
+/// A list with a listener that records its signals.
 class EvolutionListTest : public ::testing::Test
 {
 protected:

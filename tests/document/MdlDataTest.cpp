@@ -1,4 +1,4 @@
-// How rows of the grid become series.
+// The commands on the rows of the grid.
 
 #include "document/MdlData.h"
 
@@ -104,14 +104,18 @@ TEST_F(MdlData, changesOnlyTheMarkerOptionsThatDiffer)
     EXPECT_EQ(look(2).MarkerSize, 12) << "its curve may come back";
 }
 
-TEST_F(MdlData, resetsColoursToThoseOfThePlaces)
+TEST_F(MdlData, resetsColoursToThoseOfTheRowIndexes)
 {
     for (int i = 0; i < 3; ++i)
         plot.rows().add(*evolution.Modes[0]);
     changeAllSeries(plot, [](Series& one) { one.ColorIndex = 77; });
-    changeSeries(plot, 1, [](Series& one) { one.MarkerForegroundColor = 77; }); // goes along
-    changeSeries(plot, 2, [](Series& one) { one.MarkerForegroundColor = 5; }); // the user's own
-    setMode(0, 0); // its colour waits for it
+    changeSeries(plot, 1, [](Series& one) {
+        one.MarkerForegroundColor = 77;
+    }); // was equal, so it changes too
+    changeSeries(plot, 2, [](Series& one) {
+        one.MarkerForegroundColor = 5;
+    }); // set by the user, so it stays
+    setMode(0, 0); // its colour stays reserved
     mdlData::resetColors(rows());
     setMode(0, 1);
     for (std::size_t i = 0; i < series().size(); ++i)
@@ -141,7 +145,7 @@ TEST_F(MdlData, movesRowsTogetherToAGap)
     }
 }
 
-TEST_F(MdlData, movesRowsByOnePlaceAsFarAsThereIsRoom)
+TEST_F(MdlData, movesRowsByOneAsFarAsThereIsRoom)
 {
     setMode(3, 99);
     mdlData::moveRowsUp(plot, {0, 3});
@@ -158,7 +162,7 @@ TEST_F(MdlData, movesRowsByOnePlaceAsFarAsThereIsRoom)
 
 TEST_F(MdlData, raisesModesToWhatTheEvolutionDeclaresAndLowersThemToNothing)
 {
-    evolution.na = 6; // the file declares one more than it holds
+    evolution.na = 6; // the file declares one mode more than it has
     mdlData::raiseModes(rows(), {0, 4});
     EXPECT_THAT(numbers(), ElementsAre(2, 2, 3, 4, 6));
     EXPECT_THAT(order(), ElementsAre(12, 12, 13, 14));

@@ -1,4 +1,4 @@
-// Which plots there are, what they are called, and which is active.
+// The plots of a document, their captions and the active one.
 
 #include "DocumentFixture.h"
 
@@ -15,7 +15,7 @@ using ::testing::IsEmpty;
 
 namespace {
 
-/// A list with a listener that writes down what it announces.
+/// A list with a listener that records its signals.
 class PlotListTest : public ::testing::Test
 {
 protected:
@@ -117,7 +117,7 @@ TEST_F(PlotListTest, removesAPlotAndActivatesItsPredecessor)
     EXPECT_THAT(announced, ElementsAre("active Plot2 Plot1", "removed Plot2"));
 }
 
-TEST_F(PlotListTest, removesNeitherTheFirstNorAStranger)
+TEST_F(PlotListTest, removesNeitherTheFirstNorAPlotOfAnotherList)
 {
     EvmPlot stranger;
     for (EvmPlot* const plot : {&list.first(), &stranger})

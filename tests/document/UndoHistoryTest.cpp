@@ -1,4 +1,4 @@
-// Changes of plots that are undone and made again.
+// Undo and redo of changes of plots.
 
 #include "document/UndoHistory.h"
 
@@ -101,7 +101,7 @@ protected:
     UndoHistory& history = document.history();
 };
 
-/// A user who does anything, in any order.
+/// A user who runs random commands.
 class RandomUser
 {
 public:
@@ -172,7 +172,7 @@ private:
     }
 
     QString text() { return QString::number(below(1000)); }
-    std::int32_t number() { return static_cast<std::int32_t>(below(8)); } // not all are modes
+    std::int32_t number() { return static_cast<std::int32_t>(below(8)); } // some do not exist
     float value() { return 0.25F * static_cast<float>(1 + below(400)); }
 
     void changeRows(EvmPlot& plot, const PlotRows::Indices& rows)
@@ -240,7 +240,7 @@ private:
 
 } // namespace
 
-TEST_F(UndoHistoryTest, takesStepsBackAndMakesThemAgain)
+TEST_F(UndoHistoryTest, undoesAndRedoesSteps)
 {
     change("Raise Modes", [&] { mdlData::raiseModes(plot.rows(), {0, 2}); });
     change("Type Mode", [&] { plot.rows().setMode(id(1), 99); });
@@ -250,7 +250,7 @@ TEST_F(UndoHistoryTest, takesStepsBackAndMakesThemAgain)
     EXPECT_FALSE(history.steps().canUndo());
     EXPECT_EQ(plot.rows().at(0).mode, 1);
     EXPECT_EQ(history.steps().redoText(), QStringLiteral("Raise Modes"));
-    history.undo(); // there is nothing more
+    history.undo(); // nothing left to undo
     history.redo();
     EXPECT_EQ(plot.rows().at(0).mode, 2);
     EXPECT_EQ(plot.rows().at(1).mode, 2);
@@ -350,7 +350,7 @@ TEST_F(UndoHistoryTest, makesStepsOfChangesThatAreMadePastIt)
     history.undo();
     EXPECT_EQ(snapshot(), renamed);
     history.undo();
-    plot.marks().AddRef(400, QStringLiteral("VL")); // the plot goes on from here
+    plot.marks().AddRef(400, QStringLiteral("VL")); // changes the plot outside the history
     history.redo();
     EXPECT_EQ(plot.marks().referenceSpeeds().size(), 1U);
     EXPECT_FALSE(history.steps().canRedo());

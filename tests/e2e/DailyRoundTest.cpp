@@ -1,5 +1,5 @@
-// A day's round by mouse and keyboard: options, evolutions, modes, header, speeds, subtitle,
-// legend, picture. With TARSIL_GUIDE naming a folder, the pictures of the user's guide are taken on
+// A typical session by mouse and keyboard: options, evolutions, modes, header, speeds, subtitle,
+// legend, picture. If TARSIL_GUIDE names a folder, the pictures of the user's guide are taken on
 // the way.
 
 #include "Person.h"
@@ -18,7 +18,7 @@ namespace {
 using ::testing::HasSubstr;
 
 constexpr QRect wholeScreen(0, 0, 1000, 800);
-constexpr QRect optionsDialog(230, 272, 520, 177); // in the middle of the screen
+constexpr QRect optionsDialog(230, 272, 520, 177); // at the centre of the screen
 constexpr QRgb green = qRgb(0, 128, 0); // of the third curve
 constexpr QRgb cyan = qRgb(0, 191, 191); // of the fifth
 
@@ -30,7 +30,7 @@ void keepForTheGuide(const char* name, const QImage& picture)
     }
 }
 
-/// A text as a metafile holds it.
+/// The bytes of a text in a metafile.
 std::string inMetafile(const char* text)
 {
     std::string bytes;
@@ -47,7 +47,8 @@ protected:
     void readTheAircraftFile()
     {
         person.inDialog("alt+t Up Return", "^Options$", [this] {
-            person.type(QStringLiteral("/home/me/wing/goland.inp")); // for the picture
+            person.type(
+                QStringLiteral("/home/me/wing/goland.inp")); // a path for the picture in the guide
             person.press("Tab Tab");
             person.type(QStringLiteral("0|450|0|-0.25|0|20"));
             person.press("Tab");
@@ -60,7 +61,7 @@ protected:
         });
     }
 
-    /// Three modes of the first file, which is the reference, and one of the second.
+    /// Draws three modes of the first file, which is the reference, and one of the second.
     void chooseModes()
     {
         person.addEvolution("goland_clean_m040.ev2");
@@ -76,7 +77,7 @@ protected:
         EXPECT_TRUE(person.waitForColor(green));
     }
 
-    /// From the grid on, the Tab key goes through the buttons and inputs in their order.
+    /// From the grid on, Tab visits the buttons and inputs in their order.
     void headAndMark()
     {
         person.goToDataControl();
@@ -112,7 +113,7 @@ TEST_F(DailyRound, goesFromTheFilesToThePicture)
     headAndMark();
     writeTheLegend();
 
-    // The first row shows the next mode; plus and minus are keys of the column "Mode".
+    // Modes of the rows are raised and lowered by the keys plus and minus in the column "Mode".
     person.goToDataControl();
     const QImage before = person.look(plotArea);
     person.press("ctrl+Home Right Right Right plus");

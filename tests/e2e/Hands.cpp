@@ -9,7 +9,7 @@ namespace tarsil::test {
 
 bool waitUntil(const std::function<bool()>& condition)
 {
-    constexpr int patience = 30000; // milliseconds; only a program that hangs takes so long
+    constexpr int patience = 30000; // milliseconds; reached only if a program hangs
     const QDeadlineTimer deadline(patience);
     while (!condition()) {
         if (deadline.hasExpired())
@@ -32,7 +32,7 @@ QString Hands::run(const QStringList& arguments, QString* failure) const
     return QString::fromLatin1(process.readAllStandardOutput());
 }
 
-/// A search fails when some window goes while it looks, and has found too little then.
+/// A search fails, with an incomplete result, when a window closes meanwhile.
 QStringList Hands::windows(const QString& title) const
 {
     QString found;
@@ -93,16 +93,16 @@ void Hands::type(const QString& text) const
     run({QStringLiteral("type"), text});
 }
 
-void Hands::click(QPoint place, int button) const
+void Hands::click(QPoint position, int button) const
 {
-    run({QStringLiteral("mousemove"), QString::number(place.x()), QString::number(place.y()),
+    run({QStringLiteral("mousemove"), QString::number(position.x()), QString::number(position.y()),
          QStringLiteral("click"), QString::number(button)});
 }
 
-/// Both clicks at once: however busy the machine is, they stay one double click.
-void Hands::doubleClick(QPoint place) const
+/// Sends both clicks at once, so that they are a double click even on a busy machine.
+void Hands::doubleClick(QPoint position) const
 {
-    run({QStringLiteral("mousemove"), QString::number(place.x()), QString::number(place.y()),
+    run({QStringLiteral("mousemove"), QString::number(position.x()), QString::number(position.y()),
          QStringLiteral("click"), QStringLiteral("--repeat"), QStringLiteral("2"),
          QStringLiteral("--delay"), QStringLiteral("1"), QStringLiteral("1")});
 }
@@ -110,21 +110,22 @@ void Hands::doubleClick(QPoint place) const
 void Hands::drag(QPoint from, QPoint to) const
 {
     constexpr int steps = 8;
-    const auto place = [](QPoint point) {
+    const auto moveTo = [](QPoint point) {
         return QStringList {QStringLiteral("mousemove"), QString::number(point.x()),
                             QString::number(point.y())};
     };
     QStringList script =
-        place(from) + QStringList {QStringLiteral("mousedown"), QStringLiteral("1")};
+        moveTo(from) + QStringList {QStringLiteral("mousedown"), QStringLiteral("1")};
     for (int step = 1; step <= steps; ++step)
-        script += place(from + (to - from) * step / steps)
+        script += moveTo(from + (to - from) * step / steps)
             + QStringList {QStringLiteral("sleep"), QStringLiteral("0.05")};
     run(script + QStringList {QStringLiteral("mouseup"), QStringLiteral("1")});
 }
 
-void Hands::point(QPoint place) const
+void Hands::point(QPoint position) const
 {
-    run({QStringLiteral("mousemove"), QString::number(place.x()), QString::number(place.y())});
+    run({QStringLiteral("mousemove"), QString::number(position.x()),
+         QString::number(position.y())});
 }
 
 } // namespace tarsil::test

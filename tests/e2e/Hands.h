@@ -8,42 +8,42 @@
 
 namespace tarsil::test {
 
-/// Looks until `condition` holds; false when it does not within half a minute.
+/// Polls until `condition` is true. False after half a minute.
 bool waitUntil(const std::function<bool()>& condition);
 
-/// A person before a display: real key events to the window that has the focus, and a mouse.
-/// There is no window manager, so a window gets the focus by being told.
+/// Simulates a user of a display: real key events to the focused window, and a mouse. There is no
+/// window manager, so the focus of a window is set explicitly.
 class Hands
 {
 public:
     explicit Hands(QString display) : m_display(std::move(display)) { }
 
-    /// Waits for a window whose title matches the regular expression, other than the one of this
-    /// name that was focused before, and gives it the keyboard; false when none comes.
+    /// Waits for a window whose title matches the regular expression, other than earlier ones of
+    /// this name, and focuses it. False when none appears.
     bool focusNew(const QString& title);
 
-    /// Gives the keyboard back to a window that has been there before.
+    /// Focuses a window that was focused before.
     bool focus(const QString& title);
 
-    /// Keys by their names, such as "alt+t" or "Return".
+    /// Presses keys given by name, such as "alt+t" or "Return".
     void press(const QStringList& keys) const;
     void type(const QString& text) const;
 
-    /// A click of a button (1 left, 3 right) at a place of the screen.
-    void click(QPoint place, int button = 1) const;
+    /// Clicks a button (1 left, 3 right) at a position on the screen.
+    void click(QPoint position, int button = 1) const;
 
-    void doubleClick(QPoint place) const;
+    void doubleClick(QPoint position) const;
 
-    /// Presses the left button at one place and releases it at another, with a few steps between.
+    /// Drags with the left button, with a few steps on the way.
     void drag(QPoint from, QPoint to) const;
 
-    /// Moves the pointer to a place of the screen.
-    void point(QPoint place) const;
+    /// Moves the pointer to a position on the screen.
+    void point(QPoint position) const;
 
-    /// Whether the window that has the keyboard is called so.
+    /// Whether the focused window has this name.
     bool isFocused(const QString& name) const;
 
-    /// Whether a window of this title is on the screen.
+    /// Whether a window of this title is visible.
     bool isShown(const QString& title) const;
 
 private:
@@ -51,7 +51,7 @@ private:
     QString run(const QStringList& arguments, QString* failure = nullptr) const;
 
     QString m_display;
-    QStringList m_known; ///< windows that have had the focus
+    QStringList m_known; ///< windows that were focused before
 };
 
 } // namespace tarsil::test

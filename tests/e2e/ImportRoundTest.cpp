@@ -1,5 +1,5 @@
-// The day of a run: from the solver's print to the plot and the report, by mouse and keyboard. With
-// TARSIL_GUIDE naming a folder, the pictures of the user's guide are taken on the way.
+// From a solver output to the plot and the report, by mouse and keyboard. If TARSIL_GUIDE names a
+// folder, the pictures of the user's guide are taken on the way.
 
 #include "Person.h"
 #include "Program.h"
@@ -18,7 +18,7 @@ namespace {
 using ::testing::HasSubstr;
 
 constexpr const char* importDialog = "^Import Solver Results$";
-constexpr QRect dialogArea(10, 30, 960, 660); // where the screen shows it
+constexpr QRect dialogArea(10, 30, 960, 660); // position on the screen
 constexpr QRgb blue = qRgb(0, 0, 255); // of the second curve
 
 void keepForTheGuide(const char* name, const QImage& picture)
@@ -44,7 +44,7 @@ class ImportRound : public ::testing::Test
 protected:
     ImportRound() : program(display, {}), person(display), hands(display.name()) { }
 
-    /// The print as the solver left it, in a folder of its own.
+    /// Copies the solver output to its own folder.
     void runTheSolver()
     {
         ASSERT_TRUE(QFile::copy(QString::fromStdString(sample("goland_clean.f06")), print()));

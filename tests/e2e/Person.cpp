@@ -10,11 +10,11 @@ namespace tarsil::test {
 namespace {
 
 const QString mainWindow = QStringLiteral("^Tarsil 4\\.0$");
-constexpr int enoughLooks = 5; // in a row that see the same
+constexpr int enoughLooks = 5; // consecutive equal screenshots
 constexpr QPoint onCanvas(700, 480);
-constexpr QPoint aside(400, 787); // where the pointer is in no picture: the status bar
+constexpr QPoint aside(400, 787); // the status bar, which no picture shows
 
-/// How many pixels of a rectangle have a colour.
+/// The number of pixels of a colour in a rectangle.
 int count(const QImage& screen, const QRect& rectangle, QRgb color)
 {
     int pixels = 0;
@@ -25,9 +25,9 @@ int count(const QImage& screen, const QRect& rectangle, QRgb color)
     return pixels;
 }
 
-/// The middle of the first line of text on the plot, which is the header. The title above it is
-/// that of the active window, so it has no white row.
-QPoint headerPlace(const QImage& screen)
+/// The middle of the first line of text on the plot, which is the header. The title bar above is
+/// not confused with it: the active window's has no white row.
+QPoint headerPosition(const QImage& screen)
 {
     constexpr int left = 600;
     constexpr int width = 80;
@@ -96,13 +96,13 @@ void Person::addEvolution(const char* name)
 
 void Person::typeHeader(const QStringList& lines)
 {
-    press("alt+v Up Return"); // the plot window is the active one
-    const QRgb ground = m_display.screen().pixel(990, 10) | 0xFF000000U; // of bars and tools
+    press("alt+v Up Return"); // activates the plot window
+    const QRgb ground = m_display.screen().pixel(990, 10) | 0xFF000000U; // of menu bar and toolbars
     const auto isEditing = [ground](const QImage& screen) {
         constexpr int leastBar = 1000; // pixels
         return count(screen, plotArea, ground) > leastBar;
     };
-    m_hands.doubleClick(headerPlace(m_display.screen()));
+    m_hands.doubleClick(headerPosition(m_display.screen()));
     ASSERT_TRUE(m_display.waitForScreen(isEditing));
     for (const QString& line : lines) {
         if (&line != &lines.front())
@@ -174,8 +174,8 @@ bool Person::seesChange(const QRect& rectangle, const QImage& before) const
     return waitFor(rectangle, [&before](const QImage& now) { return now != before; });
 }
 
-/// What comes back is no change: a text cursor blinks, in less time than a slow machine takes for a
-/// few looks.
+/// A rectangle that returns to an earlier look counts as stable: a text cursor blinks faster than a
+/// slow machine takes screenshots.
 bool Person::standsStill(const QRect& rectangle) const
 {
     int looks = 0;

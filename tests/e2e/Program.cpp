@@ -11,8 +11,8 @@ Program::Program(const VirtualDisplay& display, const QStringList& arguments)
     environment.insert(QStringLiteral("DISPLAY"), display.name());
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
     environment.insert(QStringLiteral("HOME"), QString::fromStdString(m_home.path().string()));
-    environment.remove(QStringLiteral("XDG_CONFIG_HOME")); // the settings of this run are at home
-    // Without the system's programs none of them opens a workbook over the test.
+    environment.remove(QStringLiteral("XDG_CONFIG_HOME")); // settings are below HOME
+    // With an empty PATH no other program opens the workbook over the test.
     environment.insert(QStringLiteral("PATH"), QString());
     m_process.setProcessEnvironment(environment);
     m_process.setProcessChannelMode(QProcess::ForwardedChannels);

@@ -6,7 +6,7 @@
 
 namespace tarsil::test {
 
-/// The program on a display, with a home folder of its own; it is asked to end with the object.
+/// The program on a display, with its own home folder. Destruction asks it to end.
 class Program
 {
 public:
@@ -17,10 +17,10 @@ public:
 
     bool isRunning();
 
-    /// Waits for the end; the exit status, or -1 when the program goes on or crashed.
+    /// Waits for the end. Returns the exit status, or -1 when the program still runs or crashed.
     int exitStatus();
 
-    /// The user's folder.
+    /// The home folder.
     const TemporaryFolder& home() const { return m_home; }
 
 private:
@@ -28,8 +28,8 @@ private:
     QProcess m_process;
 };
 
-/// Whether the full colours of the first three curves are there: a line along the pixels shows them
-/// unmixed.
+/// Whether the full colours of the first three curves are visible: horizontal and vertical lines
+/// show them unmixed.
 bool showsCurves(const QImage& screen);
 
 } // namespace tarsil::test

@@ -31,8 +31,8 @@ QStringList workbooks(const Program& program)
     return paths;
 }
 
-/// The first sheet of a workbook as text, by LibreOffice where it is installed, otherwise by the
-/// reader of the tests.
+/// The first sheet of a workbook as text, read by LibreOffice if installed, otherwise by the reader
+/// of the tests.
 std::string readByAnotherProgram(const QString& workbook)
 {
     const TemporaryFolder folder;
@@ -59,13 +59,14 @@ std::string readByAnotherProgram(const QString& workbook)
     return text;
 }
 
-/// Whether a picture shows something else than another within a rectangle.
+/// Whether two pictures differ within a rectangle.
 bool differs(const QImage& a, const QImage& b, const QRect& rectangle)
 {
     return a.copy(rectangle) != b.copy(rectangle);
 }
 
-/// Opens a dialog with keys of the Tools menu; there, Return adds a mark and Escape closes.
+/// Opens a dialog by keys of the Tools menu, adds a reference with Return, and closes it with
+/// Escape.
 void addMark(const VirtualDisplay& display, Hands& hands, const char* menuKeys, const char* title)
 {
     const QImage before = display.screen();
@@ -115,7 +116,7 @@ TEST(RealProgram, saysThatAFileIsMissingAndDrawsTheOthers)
     EXPECT_TRUE(program.isRunning());
 }
 
-TEST(RealProgram, addsMarksWritesTheReportAndExportsByTheKeyboard)
+TEST(RealProgram, addsReferencesWritesTheReportAndExportsByTheKeyboard)
 {
     const VirtualDisplay display;
     ASSERT_FALSE(display.name().isEmpty()) << "Xvfb did not start";
@@ -127,7 +128,7 @@ TEST(RealProgram, addsMarksWritesTheReportAndExportsByTheKeyboard)
     addMark(display, hands, "alt+t Return", "Add Reference Speed");
     addMark(display, hands, "alt+t Down Down Return", "Add Damping Line");
 
-    // The report: two questions, and where it is, since nothing opens it here.
+    // The report asks two questions and then shows where it is, because no program opens it here.
     hands.press(keys("alt+t Down Down Down Down Return"));
     for (const char* answer : {"0", "450"}) {
         ASSERT_TRUE(hands.focusNew(QStringLiteral("^Tarsil$"))) << answer;
@@ -181,7 +182,7 @@ TEST(RealProgram, followsTheMouse)
     Hands hands(display.name());
     ASSERT_TRUE(hands.focusNew(mainWindow));
 
-    // The plot window fills the right half: its middle is on the plot, clear of all text boxes.
+    // The plot window fills the right half; this position is on the plot, outside all text boxes.
     const QPoint onPlot(700, 480);
     const QRect aroundPlot(510, 60, 480, 700);
     const QImage before = display.screen();
@@ -191,7 +192,7 @@ TEST(RealProgram, followsTheMouse)
     })) << "the menu of the plot";
     hands.press(keys("Escape"));
 
-    // The last panel of the status bar stands at its right end.
+    // The last panel of the status bar is at its right end.
     const QRect panel(900, 775, 100, 25);
     const QImage off = display.screen();
     hands.click({930, 786});

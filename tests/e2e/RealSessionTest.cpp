@@ -1,4 +1,4 @@
-// A session of a person: made by mouse and keyboard, saved, and there again after a restart.
+// A session by mouse and keyboard, saved and restored after a restart.
 
 #include "Person.h"
 #include "Program.h"
@@ -16,7 +16,7 @@ namespace {
 constexpr QRgb blue = qRgb(0, 0, 255); // of the second curve
 constexpr QRgb cyan = qRgb(0, 191, 191); // of the fifth
 
-/// Whether a program ends without a question.
+/// Expects the program to quit without a question.
 void quit(Person& person, Program& program)
 {
     person.press("ctrl+q");
@@ -29,7 +29,8 @@ struct Pictures
     QImage second;
 };
 
-/// Two files and two plots with texts and scales of their own, saved; the pictures of both plots.
+/// Creates and saves two files and two plots with different texts and scales; returns the pictures
+/// of both.
 Pictures makeSession(const VirtualDisplay& display, const QString& file)
 {
     Pictures pictures;
@@ -103,7 +104,7 @@ TEST(RealSession, savesTheRowsInTheOrderInWhichTheyWereDragged)
     Program program(display, {QString::fromStdString(sample("goland_clean_m040.ev2"))});
     Person person(display);
     EXPECT_TRUE(person.waitForColor(cyan));
-    constexpr QPoint firstRow(30, 265); // in the column "Idx", which is its handle
+    constexpr QPoint firstRow(30, 265); // in the column "Idx", the handle for dragging
     constexpr QPoint belowTheThirdRow(30, 311);
     person.drag(firstRow, belowTheThirdRow, dataArea);
     EXPECT_TRUE(person.standsStill(dataArea));
@@ -119,7 +120,7 @@ TEST(RealSession, savesTheRowsInTheOrderInWhichTheyWereDragged)
     quit(person, program);
 }
 
-/// A wrong number in a dialog is put right with the keyboard, as after a box of any other program.
+/// A wrong number in a dialog can be corrected with the keyboard after the message box.
 TEST(RealSession, keepsTheKeyboardInTheDialogAfterABox)
 {
     const VirtualDisplay display;

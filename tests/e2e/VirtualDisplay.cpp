@@ -10,10 +10,10 @@ namespace tarsil::test {
 
 namespace {
 
-constexpr int startTimeout = 30000; // milliseconds; only a dead server takes that long
+constexpr int startTimeout = 30000; // milliseconds; reached only if the server hangs
 constexpr int screenTimeout = 30000;
 
-/// The fields of an X window dump that are needed (X11/XWDFile.h), each 32 bits, big-endian.
+/// The required fields of an X window dump (X11/XWDFile.h), 32 bits each, big-endian.
 enum DumpField {
     HeaderSize = 0,
     PixmapWidth = 4,
@@ -29,8 +29,7 @@ quint32 dumpField(const std::string& dump, DumpField field)
 
 } // namespace
 
-/// Without "-noreset" the server begins anew when a program ends, and turns the next one away
-/// meanwhile.
+/// Without "-noreset" the server restarts when a program ends, and refuses the next one meanwhile.
 VirtualDisplay::VirtualDisplay()
 {
     m_server.start(QStringLiteral("Xvfb"),

@@ -9,7 +9,7 @@
 
 namespace tarsil::test {
 
-/// An X server of its own, with a screen of 1000 x 800 pixels in a file that can be looked at.
+/// A private X server with a screen of 1000 x 800 pixels that is mapped to a file.
 class VirtualDisplay
 {
 public:
@@ -21,10 +21,10 @@ public:
     /// The name of the display (":5"); empty when the server did not start.
     const QString& name() const { return m_name; }
 
-    /// What is on the screen now.
+    /// The present contents of the screen.
     QImage screen() const;
 
-    /// Looks at the screen until `condition` holds; false when it does not within half a minute.
+    /// Polls the screen until `condition` is true. False after half a minute.
     bool waitForScreen(const std::function<bool(const QImage&)>& condition) const;
 
 private:

@@ -9,14 +9,14 @@
 
 namespace tarsil::test {
 
-// What every drawing surface must do. A surface takes part through a type with two functions:
-// `context()`, the surface to draw on (400 x 300 pixels and empty), and `ink()`, the bounds of what
-// is inked so far in pixels of the whole surface, empty when nothing is.
+// The contract of every drawing surface. A surface is tested through a type with two functions:
+// `context()` returns an empty surface of 400 x 300 pixels, `ink()` the bounds of everything inked
+// so far in pixels of the whole surface, empty for nothing.
 template <typename Surface>
 class DeviceContextContract : public ::testing::Test
 {
 protected:
-    /// Where the ink of "HHHH" lies: an H fills its line from near the top down to the baseline.
+    /// The ink of "HHHH". An H extends from near the top of its line down to the baseline.
     QRect inkOfText(QPoint reference, TextAlignment alignment)
     {
         Surface fresh;
@@ -24,8 +24,8 @@ protected:
         return fresh.ink();
     }
 
-    /// The ink of a text stands on `baseline` and fills, but for the letters' own margins (at most
-    /// 2 pixels for 12 points), the columns from `left` on.
+    /// Expects the ink of a text to end on `baseline` and to fill the columns from `left` on,
+    /// except for the letters' side bearings (at most 2 pixels at 12 points).
     void expectText(const QRect& ink, int left, int baseline)
     {
         const int width = surface.context().textExtent(text, font).width();
@@ -143,7 +143,7 @@ TYPED_TEST_P(DeviceContextContract, clipsALineThatWasDrawnBeforeTheClipWasCleare
     EXPECT_EQ(this->surface.ink(), QRect(QPoint(20, 30), QPoint(24, 30)));
 }
 
-// Each alignment names the place of the reference point (200, 100) in the text's rectangle.
+// Each alignment names the position of the reference point (200, 100) in the text's rectangle.
 TYPED_TEST_P(DeviceContextContract, putsTheTopLeftOfATextAtTheReference)
 {
     this->expectText(this->inkOfText({200, 100}, TextAlignment::TopLeft), 200,
@@ -190,7 +190,7 @@ TYPED_TEST_P(DeviceContextContract, drawsNothingForAnEmptyText)
 
 TYPED_TEST_P(DeviceContextContract, measuresATextAsTheSumOfItsCharacters)
 {
-    // "AV", "To" and "P," are pairs that a face with kerning draws closer together.
+    // "AV", "To" and "P," are pairs that kerning moves closer together.
     for (const QString& words :
          {QStringLiteral("AVAVATo P,"), QStringLiteral("V(keas) 0.25 fil")}) {
         int sum = 0;

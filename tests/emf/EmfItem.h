@@ -40,7 +40,7 @@ enum Type : std::uint32_t {
 constexpr std::uint32_t stockBit = 0x80000000;
 } // namespace emf
 
-/// One record and its little-endian fields, which are found by their offset in bytes.
+/// A record with little-endian fields, which are addressed by their offset in bytes.
 class EmfItem
 {
 public:
@@ -56,16 +56,16 @@ public:
     float real(std::size_t offset) const;
     QPoint point(std::size_t offset) const;
 
-    /// Four integers: left, top, right and bottom, as they stand.
+    /// Four integers, as stored: left, top, right and bottom.
     QRect rectangle(std::size_t offset) const;
 
-    /// UTF-16 text of so many units.
+    /// UTF-16 text of `units` units.
     QString text(std::size_t offset, std::size_t units) const;
 
-    /// The points of a polyline of either width.
+    /// The points of a polyline, 16 or 32 bits wide.
     std::vector<QPoint> points() const;
 
-    /// The text of a text record, and how far each of its units moves on.
+    /// The text of a text record, and the advances of its units.
     QString shownText() const;
     std::vector<int> advances() const;
 

@@ -22,7 +22,7 @@ std::string number(std::uint32_t value)
     return " " + std::to_string(value);
 }
 
-/// A colour record has red in its low byte and nothing in its high one.
+/// A colour has red in its low byte and 0 in its high byte.
 std::string colorText(std::uint32_t color)
 {
     std::array<char, 16> text {};

@@ -9,7 +9,7 @@
 
 namespace tarsil::test {
 
-/// The records of a metafile, without header and end, one line each:
+/// The records of a metafile without header and end, one on a line:
 ///
 ///     save                               restore -1
 ///     pen 1 solid 1 #000000              brush 2 #0000ff
@@ -20,14 +20,14 @@ namespace tarsil::test {
 ///     fill 1,2 30x40                     align 24 | color #ff0000
 ///     text 10,20 6 6 two
 ///
-/// A clip is given by its upper left corner and the first pixel outside of its lower right one; a
-/// text with the advances of its units.
+/// A clip is given by its upper left corner and the first pixel outside its lower right one; a text
+/// with the advances of its units.
 std::vector<std::string> listingOf(const EmfContents& contents);
 
 /// The polylines of a metafile.
 std::vector<EmfItem> polylinesOf(const EmfContents& contents);
 
-/// The metafile that `draw` makes, read back.
+/// The metafile made by `draw`, read by the tests' reader.
 template <typename Draw>
 EmfContents metafileOf(Draw draw)
 {
@@ -38,8 +38,8 @@ EmfContents metafileOf(Draw draw)
     return readMetafile(memory.bytes());
 }
 
-/// Its listing without what every metafile begins and ends with: the state that is kept and
-/// restored, and the removal of objects.
+/// Its listing without the common start and end: saving and restoring the state, and deleting
+/// objects.
 template <typename Draw>
 std::vector<std::string> drawnRecords(Draw draw)
 {

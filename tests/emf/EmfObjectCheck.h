@@ -9,22 +9,21 @@
 
 namespace tarsil::test {
 
-/// Raises std::runtime_error, which says `what` is wrong.
+/// Throws std::runtime_error with `what` unless `holds`.
 void require(bool holds, const std::string& what);
 
-/// Follows objects and saved states through the records of a metafile. Raises std::runtime_error at
-/// an object that is used without being there, that is removed while a player needs it, or that
-/// stays.
+/// Follows objects and saved states through the records of a metafile. Throws std::runtime_error
+/// when an object is used without existing, deleted while it is selected, or never deleted.
 class EmfObjectCheck
 {
 public:
     void see(const EmfItem& item);
 
-    /// `handles` is what the header counts: the highest index and one.
+    /// `handles` is the count in the header: the highest index plus one.
     void seeEnd(std::uint32_t handles) const;
 
 private:
-    /// Which object is selected, by the type of the record that created it.
+    /// The selected objects, by the type of the record that created them.
     using Selection = std::map<std::uint32_t, std::uint32_t>;
 
     void create(std::uint32_t index, std::uint32_t kind);

@@ -15,7 +15,7 @@ constexpr std::size_t smallestHeader = 108;
 constexpr std::size_t smallestTextOut = 76;
 constexpr std::size_t smallestPolyline = 28;
 
-/// Size in bytes of the records that always have the same one.
+/// The size in bytes of record types with a fixed size.
 std::size_t fixedSize(std::uint32_t type)
 {
     static const std::map<std::uint32_t, std::size_t> sizes = {{emf::endOfFile, 20},
@@ -102,7 +102,7 @@ std::vector<EmfItem> splitIntoRecords(std::string_view bytes)
 {
     std::vector<EmfItem> items;
     while (!bytes.empty()) {
-        require(bytes.size() >= smallestRecord, "bytes behind the last record");
+        require(bytes.size() >= smallestRecord, "bytes after the last record");
         const std::size_t size = EmfItem(std::string(bytes.substr(0, smallestRecord))).word(4);
         require(size >= smallestRecord && size % 4 == 0, "size of a record");
         require(size <= bytes.size(), "record passes the end of the file");
@@ -132,7 +132,7 @@ void checkEnd(const std::vector<EmfItem>& records)
     require(records.back().word(16) == 20, "size of the last record in itself");
 }
 
-/// The frame is the bounds in hundredths of a millimetre, to the nearest.
+/// The frame must be the bounds in hundredths of a millimetre, rounded to nearest.
 void checkFrame(const EmfContents& contents)
 {
     const auto hundredths = [](int pixels, int millimetres, int devicePixels) {

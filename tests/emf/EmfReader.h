@@ -12,7 +12,7 @@
 
 namespace tarsil::test {
 
-/// A metafile that holds together: the header and all records, the header itself among them.
+/// A valid metafile: the header and all records including the header.
 struct EmfContents
 {
     QRect bounds;
@@ -21,13 +21,13 @@ struct EmfContents
     QSize device;
     QSize millimetres;
     QSize micrometres;
-    QString description; ///< with the zeros at its end
+    QString description; ///< with the final zeros
     std::vector<EmfItem> records;
 };
 
-/// Reads a metafile. Raises std::runtime_error at anything that is not as it must be: sizes, counts
-/// and offsets, the use of objects and of saved states, the end, the frame of the bounds, and
-/// records that no picture here should have.
+/// Reads a metafile. Throws std::runtime_error at any fault: sizes, counts and offsets, the use of
+/// objects and saved states, the end, the frame, and record types that these pictures must not
+/// have.
 EmfContents readMetafile(std::string_view bytes);
 
 } // namespace tarsil::test

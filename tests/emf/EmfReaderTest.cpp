@@ -6,7 +6,7 @@
 #include <stdexcept>
 #include <string>
 
-// That the tests' own reader sees what is wrong: every test damages a sound metafile in one place.
+// Tests of the tests' own reader: each damages a valid metafile at one point.
 
 using namespace tarsil;
 using test::EmfItem;
@@ -38,21 +38,20 @@ std::uint32_t wordAt(const std::string& bytes, std::size_t offset)
     return EmfItem(bytes).word(offset);
 }
 
-/// Where the first record of a type begins.
-std::size_t placeOf(const std::string& bytes, std::uint32_t type)
+/// The offset of the first record of a type.
+std::size_t offsetOf(const std::string& bytes, std::uint32_t type)
 {
-    std::size_t place = 0;
-    while (wordAt(bytes, place) != type)
-        place += wordAt(bytes, place + 4);
-    return place;
+    std::size_t start = 0;
+    while (wordAt(bytes, start) != type)
+        start += wordAt(bytes, start + 4);
+    return start;
 }
 
-/// What the reader says of a metafile in which one word is another, at `offset` of the first record
-/// of a type.
+/// The error of the reader after one word is replaced, at `offset` of the first record of a type.
 std::string findingWith(std::uint32_t type, std::size_t offset, std::uint32_t word)
 {
     std::string bytes = soundMetafile();
-    put(bytes, placeOf(bytes, type) + offset, word);
+    put(bytes, offsetOf(bytes, type) + offset, word);
     try {
         readMetafile(bytes);
     } catch (const std::runtime_error& error) {
@@ -61,12 +60,12 @@ std::string findingWith(std::uint32_t type, std::size_t offset, std::uint32_t wo
     return "nothing";
 }
 
-/// What it says of one without the first record of a type; the header's counts are right.
+/// The error after the first record of a type is removed and the counts in the header are adjusted.
 std::string findingWithout(std::uint32_t type)
 {
     std::string bytes = soundMetafile();
-    const std::size_t place = placeOf(bytes, type);
-    bytes.erase(place, wordAt(bytes, place + 4));
+    const std::size_t start = offsetOf(bytes, type);
+    bytes.erase(start, wordAt(bytes, start + 4));
     put(bytes, 48, static_cast<std::uint32_t>(bytes.size()));
     put(bytes, 52, wordAt(bytes, 52) - 1);
     try {
@@ -79,7 +78,7 @@ std::string findingWithout(std::uint32_t type)
 
 } // namespace
 
-TEST(EmfReader, takesASoundMetafile)
+TEST(EmfReader, acceptsASoundMetafile)
 {
     EXPECT_NO_THROW(readMetafile(soundMetafile()));
 }

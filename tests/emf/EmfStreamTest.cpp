@@ -13,7 +13,7 @@ using test::errorNumberOf;
 
 namespace {
 
-/// The bytes that are written for one record.
+/// The bytes written for one record.
 std::string bytesOf(const EmfRecord& record)
 {
     EmfMemory memory;
@@ -46,7 +46,7 @@ TEST(EmfStream, fillsTextUpToAWholeWord)
 
 TEST(EmfStream, writesFloatsAsTheyAreInMemory)
 {
-    // 1 is the sign 0, the exponent 127 and the fraction 0: 0x3F800000.
+    // 1.0 has sign 0, exponent 127 and fraction 0: 0x3F800000.
     EXPECT_EQ(bytesOf(EmfRecord(EmfType::SaveContext).add(1.0F)),
               "\x21\0\0\0\x0C\0\0\0\0\0\x80\x3F"sv);
 }
@@ -61,7 +61,7 @@ TEST(EmfStream, countsBytesAndRecords)
     EXPECT_EQ(stream.recordCount(), 2);
 }
 
-TEST(EmfStream, putsTheFinalHeaderInTheFirstPlace)
+TEST(EmfStream, writesTheFinalHeaderOverTheFirstRecord)
 {
     EmfMemory memory;
     EmfStream stream(memory);
@@ -88,5 +88,5 @@ TEST(EmfStream, refusesMoreBytesThanTheHeaderCanCount)
               ErrorNumber::Overflow);
     EXPECT_EQ(stream.byteCount(), 16);
     EXPECT_EQ(errorNumberOf([&] { stream.write(EmfRecord(EmfType::SaveContext)); }), std::nullopt);
-    EXPECT_EQ(EmfStream::mostBytes, 4294967295U); // 4 GiB less one, the highest 32-bit count
+    EXPECT_EQ(EmfStream::mostBytes, 4294967295U); // 4 GiB - 1, the largest 32-bit count
 }

@@ -12,7 +12,7 @@ namespace {
 
 constexpr Pen thin {penstyle::solid, 1, 0};
 
-/// The bounds of the picture that `draw` makes.
+/// The bounds of the picture made by `draw`.
 template <typename Draw>
 QRect boundsOf(Draw draw)
 {
@@ -23,7 +23,7 @@ QRect boundsOf(Draw draw)
 
 TEST(MetafileClip, isWrittenAsRegionAndAsRectangle)
 {
-    // Right and bottom of a clip are outside: 20 + 5 and 10 + 50.
+    // Right and bottom of a clip are exclusive: 20 + 5 and 10 + 50.
     EXPECT_THAT(drawnRecords([](DeviceContext& context) {
                     context.setClip({20, 10, 5, 50});
                     context.drawLine({0, 30}, {100, 30}, thin);
@@ -49,7 +49,7 @@ TEST(MetafileClip, makesAllOtherStateBeWrittenAgain)
     const auto again = std::find(lines.begin(), lines.end(), "restore -1");
     std::vector<std::string> after(again, lines.end());
     ASSERT_FALSE(after.empty());
-    after.pop_back(); // the text, whose advance is the font's
+    after.pop_back(); // the text, whose advances depend on the font
     EXPECT_THAT(after,
                 ElementsAre("restore -1", "save", "clip region 20,10 25,60",
                             "clip intersect 20,10 25,60", "background transparent", "select 1",

@@ -19,7 +19,7 @@ namespace {
 constexpr Pen thin {penstyle::solid, 1, 0};
 constexpr Pen dashed {penstyle::dash, 0, 0};
 
-/// A connected curve of so many segments, one row down and up again.
+/// A connected curve of `segments` segments, alternately one row down and up.
 void drawCurve(DeviceContext& context, int segments, const Pen& pen)
 {
     for (int i = 0; i < segments; ++i)
@@ -51,7 +51,7 @@ TEST(MetafileContext, beginsAPolylineWhereALineBeginsElsewhere)
 
 TEST(MetafileContext, splitsALongCurveAndRepeatsThePointBetween)
 {
-    // 5000 segments have 5001 points: 4096 and, with the joint again, 5001 - 4096 + 1 = 906.
+    // 5000 segments have 5001 points: 4096 and, with the repeated joint, 5001 - 4096 + 1 = 906.
     const auto polylines =
         polylinesOf(metafileOf([](DeviceContext& context) { drawCurve(context, 5000, thin); }));
     ASSERT_EQ(polylines.size(), 2);
@@ -62,7 +62,7 @@ TEST(MetafileContext, splitsALongCurveAndRepeatsThePointBetween)
     EXPECT_EQ(polylines[1].points().back(), QPoint(5000, 0));
 }
 
-TEST(MetafileContext, takes32BitsForAPolylineThatLeaves16)
+TEST(MetafileContext, uses32BitsForAPolylineThatExceeds16)
 {
     const auto typeOfLineTo = [](QPoint end) {
         return polylinesOf(metafileOf([&](DeviceContext& context) {
@@ -141,15 +141,16 @@ TEST(MetafileContext, fillsByCopyingTheBrushWithoutABitmap)
         if (item.type() != emf::bitBlt)
             continue;
         EXPECT_EQ(item.rectangle(8), QRect(1, 2, 30, 40));
-        EXPECT_EQ(item.word(40), 0x00F00021); // the operation that copies the pattern
+        EXPECT_EQ(item.word(40), 0x00F00021); // the raster operation PATCOPY
         for (std::size_t offset = 80; offset < item.size(); offset += 4)
-            EXPECT_EQ(item.word(offset), 0) << offset; // bitmap's use, header and bits
+            EXPECT_EQ(item.word(offset), 0) << offset; // the bitmap's usage, header and bits
     }
 }
 
 TEST(MetafileContext, cutsLinesThatGoFarAwayWhereTheyLeave)
 {
-    // 2^16 is 65536. With a slope of one half, a line through (0, 10) leaves at half as many rows.
+    // 2^16 is 65536. A line through (0, 10) with slope one half leaves the range after half as many
+    // rows.
     constexpr int far = 1 << 26;
     EXPECT_EQ(drawnRecords([](DeviceContext& context) {
                   context.drawLine({-far, 10 - far / 2}, {far, 10 + far / 2}, thin);
@@ -200,7 +201,7 @@ TEST(MetafileContext, drawsNothingOnceItIsClosed)
     context.close();
     const std::string bytes = memory.bytes();
     context.drawLine({1, 0}, {2, 0}, thin);
-    for (int i = 0; i < 10000; ++i) { // more than a buffer could hold back
+    for (int i = 0; i < 10000; ++i) { // more than a buffer could hold
         context.drawLine({1, 0}, {2, 0}, dashed);
         context.fillRectangle({1, 2, 3, 4}, 0);
         context.drawText({5, 5}, QStringLiteral("x"), {}, 0, TextAlignment::TopLeft);

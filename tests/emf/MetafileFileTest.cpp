@@ -34,7 +34,7 @@ EmfContents withDescription(const QString& description)
     return readMetafile(memory.bytes());
 }
 
-/// Keeps the files that this process writes below a size, so that writing more fails.
+/// Limits the size of the files that this process writes.
 class FileSizeLimit
 {
 public:
@@ -57,7 +57,7 @@ private:
     void (*m_signal)(int);
 };
 
-/// A disk that is full from the first byte on.
+/// A disk that is full from the first byte.
 class FullDisk : public EmfSink
 {
 public:
@@ -68,7 +68,7 @@ private:
     static void fail() { throw RunTimeError(ErrorNumber::DiskFull, "FullDisk"); }
 };
 
-/// Counts what arrives and keeps none of it.
+/// Counts bytes without storing them.
 class Counter : public EmfSink
 {
 public:
@@ -83,7 +83,7 @@ public:
     void patch(std::size_t /*offset*/, std::string_view /*bytes*/) override { }
 };
 
-/// So many dashed lines, 32 bytes of records each.
+/// Draws `count` dashed lines, 32 bytes of records each.
 void drawDashes(DeviceContext& context, int count)
 {
     for (int i = 0; i < count; ++i)
@@ -103,7 +103,7 @@ TEST(MetafileHeader, namesADeviceOfExactly96PixelsAnInch)
 
 TEST(MetafileHeader, givesTheFrameInHundredthsOfAMillimetre)
 {
-    // 96 pixels are an inch, 2540 hundredths; so 48 are 1270.
+    // 96 pixels are an inch, that is 2540 hundredths of a millimetre; 48 are 1270.
     const EmfContents contents = metafileOf([](DeviceContext& context) {
         context.drawLine({-48, 96}, {480, 144}, thin);
     });
@@ -122,7 +122,7 @@ TEST(MetafileHeader, holdsTheDescriptionAndTwoZeros)
     EXPECT_EQ(contents.records.front().size(), 108 + 2 * 32);
 }
 
-TEST(MetafileHeader, takesADescriptionOfAnyLength)
+TEST(MetafileHeader, acceptsADescriptionOfAnyLength)
 {
     for (const int length : {0, 1, 2, 1001}) {
         const QString text(length, u'd');

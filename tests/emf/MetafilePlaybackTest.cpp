@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-// What a player shows of a metafile, against what the screen shows of the same calls.
+// Compares what a player shows of a metafile with what the screen shows of the same calls.
 
 using namespace tarsil;
 using test::MetafileSurface;
@@ -58,15 +58,18 @@ TEST(MetafilePlayback, showsFillsAsOnTheScreen)
 
 TEST(MetafilePlayback, beginsTheDashesAnewWithEverySegment)
 {
-    // Two connected segments of 20 pixels; the pattern is 18 on and 6 off.
+    // Two connected segments of 20 pixels; the dash pattern is 18 on and 6 off.
     MetafileSurface metafile;
     metafile.context().drawLine({0, row}, {20, row}, {penstyle::dash, 1, 0});
     metafile.context().drawLine({20, row}, {40, row}, {penstyle::dash, 1, 0});
     const QImage image = metafile.image();
     EXPECT_EQ(image.pixelColor(10, row), QColor(Qt::black));
-    EXPECT_EQ(image.pixelColor(19, row), QColor(Qt::white)); // the first's gap from pixel 18 on
-    EXPECT_EQ(image.pixelColor(25, row), QColor(Qt::black)); // would be a gap if it went on
-    EXPECT_EQ(image.pixelColor(39, row), QColor(Qt::white)); // the second's, from 38 on
+    EXPECT_EQ(image.pixelColor(19, row),
+              QColor(Qt::white)); // gap of the first segment, from pixel 18 on
+    EXPECT_EQ(image.pixelColor(25, row),
+              QColor(Qt::black)); // would be a gap if the pattern continued
+    EXPECT_EQ(image.pixelColor(39, row),
+              QColor(Qt::white)); // gap of the second segment, from pixel 38 on
 }
 
 TEST(MetafilePlayback, leavesTheGapsOfDashedLinesTransparentUnderEveryClip)
@@ -108,7 +111,7 @@ TEST(MetafilePlayback, showsLinesFromFarAwayWithTheirSlope)
 
 TEST(MetafilePlayback, showsAllTextWithinTheBounds)
 {
-    // Slanted letters lean out of their box: the j to the left and downwards, the f to the right.
+    // Slanted letters extend beyond their box: the j to the left and downwards, the f to the right.
     for (const double points : {6.0, 8.0, 12.0, 30.0, 60.0}) {
         const Font slanted {QStringLiteral("Times New Roman"), points, true, true};
         EmfMemory memory;

@@ -16,7 +16,7 @@ QColor colorOf(std::uint32_t value)
     return QColor::fromRgb(value & 0xFF, value >> 8 & 0xFF, value >> 16 & 0xFF);
 }
 
-/// Pixels on and off of the pens of the platform.
+/// Pixels on and off of the platform's pens.
 QList<qreal> dashesOf(std::uint32_t style)
 {
     static const std::map<std::uint32_t, QList<qreal>> patterns = {
@@ -49,7 +49,7 @@ QFont fontOf(const EmfItem& item)
     return font;
 }
 
-/// Repeats the records with a painter.
+/// Plays the records with a painter.
 class Player
 {
 public:
@@ -178,7 +178,7 @@ private:
         }
     }
 
-    /// A dashed line on an opaque background has white gaps.
+    /// On an opaque background the gaps of a dashed line are white.
     void drawLine(QPoint from, QPoint to)
     {
         if (m_state.isOpaque && m_state.pen.style() == Qt::CustomDashLine) {
@@ -195,7 +195,7 @@ private:
         m_painter.drawPolyline(points.data(), static_cast<int>(points.size()));
     }
 
-    /// Where the text begins, on its baseline.
+    /// The start of the text on its baseline.
     QPoint beginOfText(QPoint reference, int width, const QFontMetrics& metrics) const
     {
         constexpr std::uint32_t right = 2;

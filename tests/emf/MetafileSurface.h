@@ -8,13 +8,13 @@
 
 namespace tarsil::test {
 
-/// The picture that a metafile shows on white, a pixel for each of its device's.
+/// The picture of a metafile on white, one pixel for each pixel of its device.
 QImage playMetafile(const EmfContents& contents, QSize size);
 
-/// Bounds of all pixels that are not white.
+/// The bounds of all pixels that are not white.
 QRect inkOf(const QImage& image);
 
-/// A metafile in memory, and what a player makes of it on 400 x 300 pixels. Looking at it ends the
+/// A metafile in memory, and its picture of 400 x 300 pixels. Asking for the picture ends the
 /// drawing.
 class MetafileSurface
 {

@@ -94,7 +94,7 @@ TEST(MetafileText, isWrittenWithTheAdvanceOfEachCharacter)
     EXPECT_EQ(item.advances(), widths);
 }
 
-TEST(MetafileText, standsAtTheReferencePointWhateverTheAlignment)
+TEST(MetafileText, isAtTheReferencePointWhateverTheAlignment)
 {
     for (const TextAlignment alignment :
          {TextAlignment::TopLeft, TextAlignment::TopRight, TextAlignment::TopCenter,
@@ -131,7 +131,7 @@ TEST(MetafileText, coversTheRectangleOfItsExtentAndWhatLeansOutOfIt)
     const QSize extent = context.textExtent(words, arial);
     const int ascent = context.textAscent(arial);
     const auto cornerOf = [&](TextAlignment alignment) {
-        // An eighth of the 16 pixels of the letters' height and one more, to all sides.
+        // An eighth of the letters' height of 16 pixels, plus one, on every side.
         const QRect covered = textRecordOf(words, alignment).rectangle(8).adjusted(3, 3, -3, -3);
         EXPECT_EQ(covered.size(), extent);
         return covered.topLeft();
@@ -203,7 +203,7 @@ TEST(MetafileText, roundsTheHeightToWholePixelsAndNeverToNone)
     EXPECT_EQ(fontRecordOf({QStringLiteral("Arial"), 0}).integer(12), -1);
 }
 
-TEST(MetafileText, takesTheSymbolCharacterSetForFacesOfSigns)
+TEST(MetafileText, usesTheSymbolCharacterSetForFacesOfSigns)
 {
     for (const QString& face :
          {QStringLiteral("Symbol"), QStringLiteral("Wingdings"), QStringLiteral("wingdings 3")})
@@ -211,12 +211,12 @@ TEST(MetafileText, takesTheSymbolCharacterSetForFacesOfSigns)
     EXPECT_EQ(fontRecordOf({QStringLiteral("Symbolic"), 8}).byte(35), 1);
 }
 
-TEST(MetafileText, shortensFaceNamesToTheirPlace)
+TEST(MetafileText, shortensFaceNamesToTheirField)
 {
     const QString longest(31, u'n');
     EXPECT_EQ(fontRecordOf({longest, 8}).face(), longest);
     EXPECT_EQ(fontRecordOf({longest + u'n', 8}).face(), longest);
-    const QString thirty(30, u'n'); // the next character needs the places 31 and 32
+    const QString thirty(30, u'n'); // the next character needs the units 31 and 32
     EXPECT_EQ(fontRecordOf({thirty + QStringLiteral("\U0001D6FC"), 8}).face(), thirty);
     EXPECT_EQ(fontRecordOf({QString(), 8}).face(), QStringLiteral("Arial"));
 }

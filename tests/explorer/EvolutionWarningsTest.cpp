@@ -1,4 +1,4 @@
-// Warnings about the files of evolutions, and how the explorer shows them.
+// Warnings about the files of evolutions, and their signs in the explorer.
 
 #include "explorer/EvolutionWarnings.h"
 
@@ -19,7 +19,7 @@ const std::string emptyFileText = "line 1: the file is empty";
 class EvolutionWarningsTest : public test::WndEvolExplorerTest
 {
 protected:
-    /// An evolution that names a file of these bytes.
+    /// An evolution whose file contains these bytes.
     EVM& loadFile(const std::string& name, const std::string& bytes)
     {
         folder.write(name, bytes);
@@ -30,7 +30,7 @@ protected:
         return evolutionNode(evolution).toolTip(0).toStdString();
     }
 
-    /// Lets the event loop go round, more often than there are files.
+    /// Runs the event loop more often than there are files.
     static void settle()
     {
         for (int i = 0; i < 20; ++i)
@@ -40,7 +40,7 @@ protected:
     test::TemporaryFolder folder;
 };
 
-/// A sample with `count` more rows that repeat the speed of the row before.
+/// A sample with `count` additional rows that repeat a speed.
 std::string repeatedRows(int count)
 {
     std::string text = test::fileBytes(test::sample("goland_clean_m040.ev2"));
@@ -63,7 +63,7 @@ TEST_F(EvolutionWarningsTest, showsAWarningOnlyWhenNobodyWaits)
     EXPECT_EQ(text(evolutionNode(evolution)), "a.evm");
 }
 
-TEST_F(EvolutionWarningsTest, tellsAScreenReaderWhatTheSignTells)
+TEST_F(EvolutionWarningsTest, givesAScreenReaderTheMeaningOfTheSign)
 {
     EVM& evolution = loadFile("a.evm", "");
     settle();
@@ -155,7 +155,7 @@ TEST_F(EvolutionWarningsTest, countsTheWarningsBeyondTwentyLines)
     EXPECT_EQ(lines.back().toStdString(), "and " + std::to_string(count - 19) + " more");
 }
 
-TEST(NodeToolTip, showsTextThatLooksLikeHtmlAsItStands)
+TEST(NodeToolTip, showsTextThatLooksLikeHtmlUnchanged)
 {
     QTreeWidgetItem node;
     setPlainToolTip(node, QStringLiteral("<b>x</b>"));

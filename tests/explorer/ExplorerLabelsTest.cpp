@@ -27,7 +27,7 @@ TEST_F(WndEvolExplorerTest, writesTheParametersBack)
 TEST_F(WndEvolExplorerTest, changesNothingWhenTheTextStaysTheSame)
 {
     EVM& a = load("a.evm");
-    a.Param.Mach = 0.5F; // changed elsewhere, and not shown yet
+    a.Param.Mach = 0.5F; // changed elsewhere; the label is not updated yet
     EXPECT_TRUE(retype(valueOf(a.path() + "_mach"), "0.78"));
     EXPECT_EQ(a.Param.Mach, 0.5F);
 }
@@ -49,7 +49,7 @@ TEST_F(WndEvolExplorerTest, keepsTheMachNumberWhenTheTextIsNone)
 TEST_F(WndEvolExplorerTest, reportsAMachNumberBeyondTheRangeOfNumbers)
 {
     EVM& a = load("a.evm");
-    EXPECT_TRUE(retype(valueOf(a.path() + "_mach"), "1e39")); // a single ends at 3.4e38
+    EXPECT_TRUE(retype(valueOf(a.path() + "_mach"), "1e39")); // beyond the largest single, 3.4e38
     EXPECT_EQ(a.Param.Mach, 0.78F);
     EXPECT_EQ(text(valueOf(a.path() + "_mach")), "0.78");
     ASSERT_EQ(user.messages.size(), 1U);
@@ -82,7 +82,7 @@ TEST_F(WndEvolExplorerTest, refusesTheNameOfAnotherPlot)
     EXPECT_EQ(plots.ActivePlot(), &plotAt(0));
 }
 
-TEST_F(WndEvolExplorerTest, takesAPlotsOwnNameAndMakesItTheActiveOne)
+TEST_F(WndEvolExplorerTest, acceptsAPlotsOwnNameAndMakesItTheActiveOne)
 {
     choose("AddPlot");
     EXPECT_TRUE(retype(node("Plot2"), "Plot2"));
@@ -91,7 +91,7 @@ TEST_F(WndEvolExplorerTest, takesAPlotsOwnNameAndMakesItTheActiveOne)
     EXPECT_EQ(plots.ActivePlot(), &plotAt(1));
 }
 
-TEST_F(WndEvolExplorerTest, tellsNamesOfPlotsApartByCase)
+TEST_F(WndEvolExplorerTest, distinguishesNamesOfPlotsByCase)
 {
     choose("AddPlot");
     EXPECT_TRUE(retype(node("Plot2"), "plot1"));
@@ -108,7 +108,7 @@ TEST_F(WndEvolExplorerTest, leavesNoPlotWithoutAName)
     }
 }
 
-TEST_F(WndEvolExplorerTest, takesAnyTextAsDescription)
+TEST_F(WndEvolExplorerTest, acceptsAnyTextAsDescription)
 {
     EXPECT_TRUE(retype(valueOf("AnaDesc"), "clean wing"));
     EXPECT_EQ(document.texts().description.toStdString(), "clean wing");
@@ -138,7 +138,7 @@ TEST_F(WndEvolExplorerTest, editsAValueThatIsActivated)
     EXPECT_NE(tree().viewport()->findChild<QLineEdit*>(), nullptr);
 }
 
-TEST_F(WndEvolExplorerTest, takesALabelThatIsBeingTypedWhenItIsAskedTo)
+TEST_F(WndEvolExplorerTest, commitsALabelThatIsBeingTypedOnRequest)
 {
     openEditor(valueOf("AnaDesc")).setText(QStringLiteral("clean wing"));
     explorer.commitEdits();
@@ -148,12 +148,13 @@ TEST_F(WndEvolExplorerTest, takesALabelThatIsBeingTypedWhenItIsAskedTo)
     EXPECT_EQ(tree().viewport()->findChild<QLineEdit*>(), nullptr);
 }
 
-TEST_F(WndEvolExplorerTest, takesOneLabelAfterTheOther)
+TEST_F(WndEvolExplorerTest, commitsOneLabelAfterTheOther)
 {
     choose("AddPlot");
     openEditor(valueOf("AnaDesc")).setText(QStringLiteral("clean wing"));
     explorer.commitEdits();
-    openEditor(node("Plot2")).setText(QStringLiteral("wing")); // the first editor has not ended yet
+    openEditor(node("Plot2"))
+        .setText(QStringLiteral("wing")); // the first editor is not deleted yet
     document.setDescription(QStringLiteral("another"));
     explorer.commitEdits();
     EXPECT_EQ(plotAt(1).properties().Caption().toStdString(), "wing");

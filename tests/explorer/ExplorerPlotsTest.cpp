@@ -45,8 +45,8 @@ TEST_F(WndEvolExplorerTest, scrollsToANewPlot)
     explorer.resize(300, 200);
     explorer.show();
     const auto isSeen = [this](const char* caption) {
-        const QRect place = tree().visualItemRect(&node(caption));
-        return place.isValid() && tree().viewport()->rect().contains(place.center());
+        const QRect area = tree().visualItemRect(&node(caption));
+        return area.isValid() && tree().viewport()->rect().contains(area.center());
     };
     tree().scrollToTop();
     ASSERT_FALSE(isSeen("Plot1"));
@@ -105,7 +105,7 @@ TEST_F(WndEvolExplorerTest, removesTheActivePlotButNotTheFirst)
 TEST_F(WndEvolExplorerTest, givesAPlotACaptionOfItsOwn)
 {
     plotAt(0).properties().setCaption(QStringLiteral("Plot2"));
-    choose("AddPlot"); // would be Plot2 as well
+    choose("AddPlot"); // would be Plot2 too
     EXPECT_THAT(childTexts(node("Plots")), ElementsAre("Plot2", "Plot2(2)"));
     EXPECT_EQ(plotAt(1).properties().Caption().toStdString(), "Plot2(2)");
     plots.AddPlot(QStringLiteral("Plot2"));

@@ -69,7 +69,8 @@ TEST_F(WndEvolExplorerTest, removesAnEvolutionAlsoWhenAPlotCannotBeDrawn)
     EVM& a = load("a.evm");
     plots.AddSerie(*a.Modes[0]);
     plots.AddSerie(*load("long.evm").Modes[0]);
-    document.evolutions().all()[1]->Modes[0]->Points.resize(32768); // more than a canvas draws
+    document.evolutions().all()[1]->Modes[0]->Points.resize(
+        32768); // more points than a canvas draws
     select(evolutionNode(a));
     choose("Remove");
     EXPECT_TRUE(user.messages.empty());

@@ -29,7 +29,7 @@ using Texts = std::vector<std::string>;
 const ScriptedUserInterface::Message noEvolution {"Please select a modal evolution.", "Tarsil",
                                                   MessageIcon::Exclamation};
 
-/// The explorer over a document and a plot window, whose first plot is active.
+/// The explorer with a document and a plot window, whose first plot is active.
 class WndEvolExplorerTest : public ::testing::Test
 {
 protected:
@@ -39,7 +39,7 @@ protected:
         plots.ActivatePlot(plots.plots().front());
     }
 
-    /// Appends an evolution with modes of these numbers, each of two points.
+    /// Appends an evolution with modes of these numbers, two points each.
     EVM& load(const std::string& name, const std::vector<std::int16_t>& modes = {1},
               const std::string& folder = "/runs")
     {
@@ -59,7 +59,7 @@ protected:
 
     QTreeWidget& tree() { return partOf<QTreeWidget>(explorer, "tvwEvolExplorer"); }
 
-    /// The node with a key; a tree without it fails the test.
+    /// The node with a key; fails the test if there is none.
     QTreeWidgetItem& node(const std::string& key)
     {
         for (QTreeWidgetItemIterator it(&tree()); *it != nullptr; ++it) {
@@ -92,7 +92,7 @@ protected:
         explorer.findChild<QAction*>(QString::fromLatin1(key))->trigger();
     }
 
-    /// Begins to edit a node's label, which can be edited.
+    /// Starts editing a node's label.
     QLineEdit& openEditor(QTreeWidgetItem& item)
     {
         for (QTreeWidgetItem* above = item.parent(); above != nullptr; above = above->parent())
@@ -108,7 +108,7 @@ protected:
                            [](const QLineEdit* editor) { return !editor->isHidden(); });
     }
 
-    /// Types a text over a node's label and presses Enter; false when the label cannot be edited.
+    /// Replaces a node's label by typing and Enter. False when the label cannot be edited.
     bool retype(QTreeWidgetItem& item, const std::string& newText)
     {
         if (!item.flags().testFlag(Qt::ItemIsEditable))
@@ -121,12 +121,12 @@ protected:
         return true;
     }
 
-    /// Opens the editor of the first plot's legend and types; the editor stays open.
+    /// Opens the editor of the first plot's legend and types; leaves the editor open.
     QTextEdit& typeLegend(const std::string& newText)
     {
         EvmPlotView& view = *plots.viewOf(plotAt(0));
-        const QPoint place = plotAt(0).Legend().geometry().center();
-        QMouseEvent twice(QEvent::MouseButtonDblClick, place, view.mapToGlobal(place),
+        const QPoint position = plotAt(0).Legend().geometry().center();
+        QMouseEvent twice(QEvent::MouseButtonDblClick, position, view.mapToGlobal(position),
                           Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(&view, &twice);
         auto* const editor = view.findChild<QTextEdit*>();
@@ -136,7 +136,7 @@ protected:
         return *editor;
     }
 
-    /// The modes of a plot's series, as file and mode number: "a.evm 1".
+    /// The modes of a plot's series as file and mode number: "a.evm 1".
     static Texts curves(EvmPlot& plot)
     {
         Texts result;
@@ -144,7 +144,7 @@ protected:
             result.push_back(series.Mode->Parent->FileName + " " + std::to_string(series.Mode->Id));
         return result;
     }
-    EvmPlot& plotAt(std::size_t place) { return *plots.plots().at(place); }
+    EvmPlot& plotAt(std::size_t position) { return *plots.plots().at(position); }
 
     ScriptedUserInterface user;
     Document document;

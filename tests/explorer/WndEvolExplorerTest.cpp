@@ -1,4 +1,4 @@
-// The form of the explorer and the nodes that are always there.
+// The form of the explorer and its permanent nodes.
 
 #include "document/DateText.h"
 #include "explorer/ExplorerImages.h"
@@ -77,7 +77,7 @@ TEST_F(WndEvolExplorerTest, isCreatedNow)
     document.startNew();
     const QString after = dateText(QDateTime::currentDateTime());
     const QString created = document.texts().dateCreated;
-    // The second may change once in between; then it is one of the two.
+    // The clock may tick once in between; then the date is one of the two.
     EXPECT_TRUE(created == before || created == after) << created.toStdString();
     EXPECT_EQ(text(valueOf("Date_Created")), created.toStdString());
 }
@@ -132,14 +132,14 @@ TEST_F(WndEvolExplorerTest, announcesWhatNeedsFiles)
 TEST_F(WndEvolExplorerTest, asksForItsMenuWhereTheRightButtonWas)
 {
     explorer.show();
-    std::vector<QPoint> places;
+    std::vector<QPoint> positions;
     QObject::connect(&explorer, &wndEvolExplorer::menuRequested,
-                     [&](QPoint place) { places.push_back(place); });
-    const QPoint place(30, 20);
-    const QPoint global = tree().viewport()->mapToGlobal(place);
-    QContextMenuEvent event(QContextMenuEvent::Mouse, place, global);
+                     [&](QPoint position) { positions.push_back(position); });
+    const QPoint position(30, 20);
+    const QPoint global = tree().viewport()->mapToGlobal(position);
+    QContextMenuEvent event(QContextMenuEvent::Mouse, position, global);
     QApplication::sendEvent(tree().viewport(), &event);
-    EXPECT_THAT(places, ElementsAre(global));
+    EXPECT_THAT(positions, ElementsAre(global));
 }
 
 TEST_F(WndEvolExplorerTest, startsAnewWithTheTreeOfTheBeginning)

@@ -38,12 +38,12 @@ protected:
         return texts;
     }
 
-    /// Adds these entries, counted from 1, to the chosen ones.
-    void add(const std::vector<int>& places)
+    /// Moves these entries, counted from 1, to the selected ones.
+    void add(const std::vector<int>& positions)
     {
         list("lst_AllModes").clearSelection();
-        for (const int place : places)
-            list("lst_AllModes").item(place - 1)->setSelected(true);
+        for (const int position : positions)
+            list("lst_AllModes").item(position - 1)->setSelected(true);
         test::click(dialog, "cmd_Add");
     }
 
@@ -64,12 +64,12 @@ TEST_F(WndSelModes, hasItsControlsUnderTheirNamesWithTheirCaptions)
     EXPECT_EQ(test::accessibleName(list("lst_SelModes")), "Modes chosen");
 }
 
-TEST_F(WndSelModes, numbersTheModesAndTellsWhichTheyAre)
+TEST_F(WndSelModes, numbersTheModesAndSaysWhichTheyAre)
 {
     EVM& evolution = open();
     EXPECT_THAT(entries("lst_AllModes"), ElementsAre("1", "2", "3"));
     EXPECT_THAT(entries("lst_SelModes"), IsEmpty());
-    // Points of 5 and 6 Hz.
+    // The points have 5 and 6 Hz.
     EXPECT_EQ(list("lst_AllModes").item(1)->toolTip().toStdString(), "Mode 5: 5.0 to 6.0 Hz");
     evolution.Modes[0]->Points.clear();
     evolution.Modes[2]->Points[0].f = 12.126F;
@@ -131,7 +131,7 @@ TEST_F(WndSelModes, addsTheChosenModesDrawsThePlotAndCloses)
     EXPECT_THAT(entries("lst_SelModes"), IsEmpty()) << "keeps nothing";
 }
 
-TEST_F(WndSelModes, takesTheModesOfTheEvolutionThatIsSelectedNow)
+TEST_F(WndSelModes, usesTheModesOfTheEvolutionThatIsSelectedNow)
 {
     open();
     add({1, 3});
@@ -166,7 +166,8 @@ TEST_F(WndSelModes, addsAModeThatCannotBeDrawn)
     plots.show();
     open();
     add({1});
-    document.evolutions().all()[0]->Modes[0]->Points.resize(32768); // more than a canvas draws
+    document.evolutions().all()[0]->Modes[0]->Points.resize(
+        32768); // more points than a canvas draws
     test::click(dialog, "cmd_Ok");
     EXPECT_FALSE(dialog.isVisible());
     EXPECT_EQ(curves(plotAt(0)).size(), 1U);

@@ -23,10 +23,10 @@ namespace tarsil::test {
 
 namespace {
 
-constexpr int cannotStart = 126; // what a child says that cannot be watched
-constexpr int exitOfCall = SIGTRAP | 0x80; // what PTRACE_O_TRACESYSGOOD makes of a stop there
+constexpr int cannotStart = 126; // exit status of a child that cannot be traced
+constexpr int exitOfCall = SIGTRAP | 0x80; // the stop signal with PTRACE_O_TRACESYSGOOD
 
-/// Stops the process at the calls that concern files, and at no other.
+/// Stops the process only at system calls that concern files.
 std::vector<sock_filter> callFilter()
 {
     std::vector<sock_filter> filter {
@@ -57,7 +57,7 @@ void sendTo(const std::string& path, int descriptor)
     ::close(file);
 }
 
-/// What all runs of one command share.
+/// What all runs of a command share.
 struct Command
 {
     std::vector<std::string> words;
@@ -84,7 +84,7 @@ struct Command
     ::_exit(cannotStart);
 }
 
-/// Follows one program from its start to its end.
+/// Traces a program from start to end.
 class Watcher
 {
 public:
@@ -102,7 +102,7 @@ private:
     const std::string& m_watched;
     const Fault& m_fault;
     RunResult m_result;
-    std::set<pid_t> m_failAtExit; ///< processes in a call that is made, and then fails
+    std::set<pid_t> m_failAtExit; ///< processes in a call that is executed and then fails
 };
 
 bool Watcher::isMet(const FileCall& call) const
@@ -121,9 +121,9 @@ void Watcher::meet(pid_t process)
     if (call == nullptr)
         return;
     const std::string files = filesOf(process, *call, registers);
-    const std::size_t place = files.find(" " + m_watched);
-    const std::size_t end = place + 1 + m_watched.size();
-    if (place == std::string::npos
+    const std::size_t start = files.find(" " + m_watched);
+    const std::size_t end = start + 1 + m_watched.size();
+    if (start == std::string::npos
         || (end < files.size() && files[end] != '/' && files[end] != ' '))
         return;
     m_result.calls.push_back(call->kind);
@@ -147,7 +147,7 @@ void Watcher::apply(pid_t process, const FileCall& call, user_regs_struct& regis
             failNow(process, registers);
         break;
     case FaultKind::Shorten:
-        // Half of the bytes, or of the pieces that a call has.
+        // Half of the bytes, or of the buffers of a call.
         if ((call.kind == CallKind::Write || call.kind == CallKind::Read)
             && call.operand == CallOperand::Descriptor && registers.rdx > 1) {
             registers.rdx /= 2;
@@ -165,7 +165,7 @@ void Watcher::apply(pid_t process, const FileCall& call, user_regs_struct& regis
 
 void Watcher::failNow(pid_t process, user_regs_struct& registers) const
 {
-    registers.orig_rax = static_cast<unsigned long long>(-1); // no call
+    registers.orig_rax = static_cast<unsigned long long>(-1); // skips the call
     registers.rax = static_cast<unsigned long long>(-static_cast<long long>(m_fault.error));
     ::ptrace(PTRACE_SETREGS, process, 0, &registers);
 }

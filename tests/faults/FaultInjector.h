@@ -10,45 +10,45 @@
 
 namespace tarsil::test {
 
-/// What happens to one call of a program to the system.
+/// What happens to one system call of a program.
 enum class FaultKind {
-    None, ///< the calls are only counted
-    Fail, ///< the call is not made, and fails; a close is made, and says that it failed
-    FailFromThen, ///< and so do all that write, make or rename, as on a full disk
-    Shorten, ///< a call that writes or reads transfers one half, the others are made
-    Kill, ///< the program ends before the call
-    Meddle ///< before the call, something is done to the files
+    None, ///< calls are only counted
+    Fail, ///< the call is not executed and fails; a close is executed and fails
+    FailFromThen, ///< also all later calls that write, create or rename, as on a full disk
+    Shorten, ///< a write or read transfers half of its bytes; other calls are executed
+    Kill, ///< the program is killed before the call
+    Meddle ///< an action changes files before the call
 };
 
 struct Fault
 {
     FaultKind kind = FaultKind::None;
-    std::size_t call = 0; ///< which one of those that concern the watched folder, from 1 on
-    int error = 0; ///< the number that failing calls report
+    std::size_t call =
+        0; ///< the number of the call, from 1, among those that concern the watched folder
+    int error = 0; ///< errno of failing calls
     std::function<void()> meddle;
 };
 
 /// How a program ended.
 struct RunResult
 {
-    std::optional<int> status; ///< none when a signal ended it
+    std::optional<int> status; ///< empty when a signal ended it
     int signal = 0;
     std::string out;
     std::string err;
-    std::vector<CallKind> calls; ///< those that concerned the watched folder
-    std::string metCall; ///< the call that met the fault, and its files; empty when none did
+    std::vector<CallKind> calls; ///< the calls that concerned the watched folder
+    std::string metCall; ///< the call that met the fault, and its files; empty for none
 };
 
-/// Runs a program and does something to one of its calls to the system. It is asked about every
-/// call, also those that libraries make, and counts those that name the watched folder or anything
-/// in it.
+/// Runs a program with a fault at one of its system calls. Traces every call, also those of
+/// libraries, and counts those that name the watched folder or anything in it.
 class FaultInjector
 {
 public:
-    /// Why this machine lets no program be watched; empty when it does.
+    /// Why programs cannot be traced on this machine; empty when they can.
     static std::string hindrance();
 
-    /// `variables` are the whole environment, each as NAME=VALUE. Standard output and error go to
+    /// `variables` is the whole environment, each as NAME=VALUE. Standard output and error go to
     /// files in `scratch`.
     FaultInjector(std::string watched, std::string scratch, std::vector<std::string> variables);
 

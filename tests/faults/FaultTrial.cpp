@@ -12,9 +12,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::size_t mostCalls = 500; // a writer that needs more does not come to its end
+constexpr std::size_t mostCalls = 500; // a writer with more calls does not terminate
 
-std::vector<std::string> variables(const fs::path& place, const fs::path& home)
+std::vector<std::string> variables(const fs::path& watched, const fs::path& home)
 {
     return {"PATH=/usr/bin:/bin",
             "LC_ALL=C.UTF-8",
@@ -22,7 +22,7 @@ std::vector<std::string> variables(const fs::path& place, const fs::path& home)
             "ASAN_OPTIONS=detect_leaks=0",
             "HOME=" + home.string(),
             "XDG_RUNTIME_DIR=" + home.string(),
-            "TMPDIR=" + (place / "tmp").string()};
+            "TMPDIR=" + (watched / "tmp").string()};
 }
 
 std::string cellsOf(const fs::path& workbook)
@@ -37,7 +37,7 @@ std::string cellsOf(const fs::path& workbook)
     return cells;
 }
 
-/// Without the lines that tell one run from another.
+/// Removes the lines that differ from run to run.
 std::string timeless(const std::string& bytes)
 {
     std::istringstream lines(bytes);
@@ -52,8 +52,8 @@ std::string timeless(const std::string& bytes)
     return kept;
 }
 
-/// Whether a fault does anything to a call of this kind. A program that ends before a call that
-/// only looks leaves what it leaves before the next one.
+/// Whether a fault has an effect on this kind of call. Killing a program before a call that only
+/// looks has the same result as before the next one.
 bool concerns(FaultKind fault, CallKind call)
 {
     switch (fault) {
@@ -124,7 +124,7 @@ void FaultTrial::tryFaults(FaultKind kind, int error)
                      + std::to_string(call) + ": " + result.metCall + "\n" + result.err);
         judge(result, kind);
     }
-    ADD_FAILURE() << m_writer.name << " is not written after so many calls";
+    ADD_FAILURE() << m_writer.name << " is not written after that many calls";
 }
 
 RunResult FaultTrial::runOnce(const Fault& fault)
@@ -163,7 +163,7 @@ void FaultTrial::judgeEnd(const RunResult& result)
     }
 }
 
-/// A file that is not removed because removing failed is nobody's fault.
+/// Ignores a temporary file that is left because removing it failed.
 void FaultTrial::judgeFolder(const RunResult& result)
 {
     if (result.metCall.starts_with("unlink"))
@@ -174,7 +174,7 @@ void FaultTrial::judgeFolder(const RunResult& result)
     }
 }
 
-/// Where the file is, or is to be.
+/// The path of the target.
 fs::path FaultTrial::target() const
 {
     const fs::path folder = m_place / "out";

@@ -11,34 +11,34 @@
 
 namespace tarsil::test {
 
-/// One way to write a file.
+/// A way to write a file.
 struct Writer
 {
-    /// The command that writes the file of this path.
+    /// The command that writes the file `target`.
     std::function<std::vector<std::string>(const std::string& target)> command;
 
-    /// Of the file; a "*" in it is what only the program knows, such as the time of day. Its ending
-    /// tells how two files are compared.
+    /// The file name; "*" replaces what only the program knows, such as the time of day. The
+    /// extension determines how two files are compared.
     std::string name;
 
-    /// What there is before; empty where there is no file.
+    /// The old contents; empty for no file.
     std::string old = "the file that was there before\n";
 
-    bool makesFile = true; ///< false when there must be one before
+    bool makesFile = true; ///< false when the file must exist before
 
-    /// Of a message about something else than writing, after which the new file may be there.
+    /// Part of a message that is not about writing; the new file may exist when it appears.
     std::string remark = {};
 };
 
-/// Tries a writer with a fault at each of its calls, until it meets none. After each the target is
-/// the old file or the new one, whole; the status and the message say which; and nothing else is
-/// left in its folder.
+/// Runs a writer with a fault at each of its system calls, until it meets none. After each run the
+/// target must be the old or the new file, whole; status and message must say which; and nothing
+/// else may be left in its folder.
 class FaultTrial
 {
 public:
     explicit FaultTrial(Writer writer);
 
-    /// Fails a test expectation for each broken promise.
+    /// Reports a test failure for each violation.
     void run();
 
 private:
@@ -54,13 +54,13 @@ private:
 
     Writer m_writer;
     TemporaryFolder m_folder;
-    std::filesystem::path m_place; ///< the folder that is watched
-    std::vector<CallKind> m_calls; ///< of the writer that meets no fault
-    std::string m_good; ///< what is in a file that is whole
+    std::filesystem::path m_place; ///< the watched folder
+    std::vector<CallKind> m_calls; ///< those of the writer without a fault
+    std::string m_good; ///< the contents of a complete file
 };
 
-/// What is in a file apart from the time when it was made: the cells of a workbook, the bytes of
-/// others. Empty for no file.
+/// The contents of a file without its time of creation: the cells of a workbook, the bytes of other
+/// files. Empty for no file.
 std::string lastingContents(const std::filesystem::path& file);
 
 } // namespace tarsil::test

@@ -1,5 +1,5 @@
-// The main window without a person: opens the files, gives one command, and quits. Ends with 1 when
-// the user was told of anything but success, which goes to standard error.
+// The main window without a user: opens the files, runs one command, and quits. Exits with 1 when a
+// message other than of success was shown, and prints it to standard error.
 //
 // usage: fault_window save|picture|mix|report|options|quit TARGET [FILE...]
 
@@ -18,7 +18,7 @@ namespace {
 
 using namespace tarsil;
 
-/// Names the target whenever a file is asked for, and agrees to everything.
+/// Answers every question for a file with the target, and every other one with yes.
 class EagerUser : public UserInterface
 {
 public:
@@ -69,7 +69,7 @@ void choose(wndMain& window, const char* name)
     window.findChild<QAction*>(QString::fromLatin1(name))->trigger();
 }
 
-/// Types other axes into the dialog, which writes them when the program is quit.
+/// Types other axes into the dialog, which saves them when the program quits.
 void changeOptions(wndMain& window)
 {
     choose(window, "mnuOptions");

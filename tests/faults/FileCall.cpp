@@ -18,7 +18,7 @@ namespace {
 using enum CallKind;
 using enum CallOperand;
 
-/// Where a link of the process' folder in /proc leads.
+/// The target of a link in the process' folder of /proc.
 std::string linkOf(pid_t process, const std::string& name)
 {
     std::error_code failed;

@@ -17,11 +17,11 @@ enum class CallKind {
     Rename,
     Close,
     Remove,
-    Rights, ///< mode, owner, times and the like
-    Look ///< at what a path or an open file is
+    Rights, ///< mode, owner, times etc.
+    Look ///< queries a path or an open file
 };
 
-/// Whether such a call makes, changes or renames files, as a full disk refuses.
+/// Whether calls of this kind create, change or rename files, which fails on a full disk.
 bool changesFiles(CallKind kind);
 
 /// How a system call names its file.
@@ -42,14 +42,14 @@ struct FileCall
     const char* name;
 };
 
-/// All that are met; `count` of them.
+/// All of them; their number is `fileCallCount`.
 extern const FileCall fileCalls[];
 extern const std::size_t fileCallCount;
 
-/// The call of this number; null when it concerns no file.
+/// The call of a number; null when it does not concern files.
 const FileCall* fileCall(long number);
 
-/// The files that a call of a stopped process names, each after a blank; empty for none.
+/// The files named by a call of a stopped process, each after a blank; empty for none.
 std::string filesOf(pid_t process, const FileCall& call, const user_regs_struct& registers);
 
 } // namespace tarsil::test

@@ -14,11 +14,11 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A file of several pieces of what is read at once.
+/// A file of several reading pieces.
 std::string largeEvolution()
 {
     constexpr int modes = 100;
-    constexpr int points = 100; // of each mode, two in a line
+    constexpr int points = 100; // of each mode, two on a line
     std::string text = "WING\nCLEAN\nsubcase 1\n" + std::string(60, ' ') + " 100     100\n";
     for (int mode = 1; mode <= modes; ++mode) {
         std::string number = std::to_string(mode);
@@ -33,7 +33,7 @@ std::string largeEvolution()
 struct Reading
 {
     const char* name;
-    std::string command; ///< of the program without windows
+    std::string command; ///< a command of tarsil-batch
     std::string file;
     std::string bytes;
 };
@@ -69,7 +69,7 @@ protected:
         return injector.run({TARSIL_BATCH, GetParam().command, folder.write(name, bytes)}, fault);
     }
 
-    /// Whether two runs have seen the same file.
+    /// Whether two runs read the same contents.
     static bool areSame(const RunResult& a, const RunResult& b)
     {
         return a.status == b.status && a.out == b.out && a.err == b.err;
@@ -81,7 +81,7 @@ protected:
 
 } // namespace
 
-/// Wherever it is cut: what is read is the file as it was, or as it is, or it is an error.
+/// Wherever the file is truncated: the program reads the old or the new file, or reports an error.
 TEST_P(InputFaults, areErrorsLikeAnyOther)
 {
     if (const std::string hindrance = FaultInjector::hindrance(); !hindrance.empty())

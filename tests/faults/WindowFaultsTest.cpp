@@ -12,7 +12,7 @@ namespace {
 
 constexpr const char* settings =
     "[Options]\nAcInfoDataFile=\nvgfScale=0|700|0|-0.4|0|60\nvgfThicks=8|8|10\n";
-constexpr const char* unreadSettings = "cannot read the settings"; // when the program starts
+constexpr const char* unreadSettings = "cannot read the settings"; // shown when the program starts
 
 struct WindowWriter
 {

@@ -27,7 +27,7 @@ std::vector<std::string> check(const std::string& text)
     return findings;
 }
 
-// Model lines from line 5 on; with two of them the rows begin in line 13.
+// Model lines start at line 5; with two of them the rows start at line 13.
 const std::string twoByTwo = "Aeroel_modes=2\nNo_of_speeds=2\n";
 const std::string rows = //
     "1|1|17.2|-0.1|0|35.8|0.015|2.7|0|0|\n"
@@ -50,12 +50,12 @@ TEST(Ev2Checker, findsNothingInACleanFile)
     EXPECT_THAT(check(ev2Header("") + ev2Row(26)), ElementsAre());
 }
 
-TEST(Ev2Checker, tellsAnEmptyFile)
+TEST(Ev2Checker, reportsAnEmptyFile)
 {
     EXPECT_THAT(check(""), ElementsAre("1: the file is empty"));
 }
 
-TEST(Ev2Checker, tellsMissingSectionsAndChecksTheRest)
+TEST(Ev2Checker, reportsMissingSectionsAndChecksTheRest)
 {
     EXPECT_THAT(check("text\n"),
                 ElementsAre("1: the section \"[PROCESSING DATA INFO]\" is missing",
@@ -67,7 +67,7 @@ TEST(Ev2Checker, tellsMissingSectionsAndChecksTheRest)
                             "14: the section \"[PROCESSING DATA INFO]\" is missing"));
 }
 
-TEST(Ev2Checker, tellsASectionThatIsSpelledDifferently)
+TEST(Ev2Checker, reportsASectionThatIsSpelledDifferently)
 {
     EXPECT_THAT(
         check(with(ev2Header(twoByTwo) + with(rows, "0.015", "stars"), "[MODEL DATA INFO]",
@@ -77,7 +77,7 @@ TEST(Ev2Checker, tellsASectionThatIsSpelledDifferently)
                     "13: field 6 (damping): \"stars\" is not a number"));
 }
 
-TEST(Ev2Checker, tellsAMissingEmptyLineBetweenSections)
+TEST(Ev2Checker, reportsAMissingEmptyLineBetweenSections)
 {
     EXPECT_THAT(
         check(with(ev2Header(twoByTwo) + rows, "\n\n[RESULT", "\n[RESULT")),
@@ -85,7 +85,7 @@ TEST(Ev2Checker, tellsAMissingEmptyLineBetweenSections)
                     "is not found"));
 }
 
-TEST(Ev2Checker, tellsCountsThatDisagreeWithTheRows)
+TEST(Ev2Checker, reportsCountsThatDisagreeWithTheRows)
 {
     EXPECT_THAT(check(ev2Header("Aeroel_modes=3\nNo_of_speeds=2\n") + rows),
                 ElementsAre("5: 3 aeroelastic modes are declared, but the results hold 2"));
@@ -94,22 +94,22 @@ TEST(Ev2Checker, tellsCountsThatDisagreeWithTheRows)
                             "16: mode 2 has 2 points, but 1 speeds are declared"));
 }
 
-TEST(Ev2Checker, tellsAModeCutShort)
+TEST(Ev2Checker, reportsAModeCutShort)
 {
     EXPECT_THAT(check(ev2Header(twoByTwo) + rows.substr(0, rows.rfind("2|2|"))),
                 ElementsAre("15: mode 2 is cut short: it has 1 point, but 2 speeds are declared"));
 }
 
-TEST(Ev2Checker, tellsRowsAfterTheEndOfTheResults)
+TEST(Ev2Checker, reportsRowsAfterTheEndOfTheResults)
 {
     EXPECT_THAT(
         check(ev2Header(twoByTwo) + with(rows, "\n2|2", "\n\n2|2")),
         ElementsAre("15: mode 2 is cut short: it has 1 point, but 2 speeds are declared",
-                    "17: this row stands after the empty line that ends the results, and is not "
+                    "17: this row is after the empty line that ends the results, and is not "
                     "read"));
 }
 
-TEST(Ev2Checker, tellsSpeedsThatDoNotIncrease)
+TEST(Ev2Checker, reportsSpeedsThatDoNotIncrease)
 {
     EXPECT_THAT(
         check(ev2Header(twoByTwo) + with(rows, "|36.7|", "|35.8|")),
@@ -119,14 +119,14 @@ TEST(Ev2Checker, tellsSpeedsThatDoNotIncrease)
                 ElementsAre("14: mode 1, point 2: the speed falls from 35.8 to 30 KEAS"));
 }
 
-TEST(Ev2Checker, tellsAModeNumberThatComesAgain)
+TEST(Ev2Checker, reportsAModeNumberThatComesAgain)
 {
     EXPECT_THAT(
         check(ev2Header("") + rows + with(rows.substr(0, rows.find('\n') + 1), "2.7", "2.9")),
         ElementsAre("15: mode number 1 comes again: there is a mode 1 that ends in line 12"));
 }
 
-TEST(Ev2Checker, tellsFieldCountsThatCarryNoFactors)
+TEST(Ev2Checker, reportsFieldCountsThatCarryNoFactors)
 {
     EXPECT_THAT(
         check(ev2Header("") + ev2Row(12)),
@@ -134,7 +134,7 @@ TEST(Ev2Checker, tellsFieldCountsThatCarryNoFactors)
                     "11 fields have none, rows of 21 or 26 have five)"));
 }
 
-TEST(Ev2Checker, tellsRowsOfTheSameOddFieldCountOnce)
+TEST(Ev2Checker, reportsRowsOfTheSameOddFieldCountOnce)
 {
     const std::string other = "2|1|2|3|4|5|6|7\n";
     EXPECT_THAT(check(ev2Header("") + with(ev2Row(22), "|5|", "|1|") + ev2Row(22) + other),
@@ -146,7 +146,7 @@ TEST(Ev2Checker, tellsRowsOfTheSameOddFieldCountOnce)
                             "13: 8 fields, but the first row has 22"));
 }
 
-TEST(Ev2Checker, tellsRowsOfAnotherWidthThanTheFirstOnce)
+TEST(Ev2Checker, reportsRowsOfAnotherWidthThanTheFirstOnce)
 {
     const auto row = [](std::size_t fields, const std::string& speed) {
         return with(ev2Row(fields), "|5|", "|" + speed + "|");
@@ -157,7 +157,7 @@ TEST(Ev2Checker, tellsRowsOfAnotherWidthThanTheFirstOnce)
                 ElementsAre("12: 21 fields, but the first row has 11"));
 }
 
-TEST(Ev2Checker, tellsFactorsThatDoNotCount)
+TEST(Ev2Checker, reportsFactorsThatDoNotCount)
 {
     const std::string factors = ev2Row(21);
     const std::string none = with(ev2Row(11), "|5|", "|6|");
@@ -170,13 +170,13 @@ TEST(Ev2Checker, tellsFactorsThatDoNotCount)
                 ElementsAre("12: " + other));
 }
 
-TEST(Ev2Checker, tellsALastRowThatIsCut)
+TEST(Ev2Checker, reportsALastRowThatIsCut)
 {
     const std::string whole = ev2Header("") + "1|1|2|3||20|0.1|62.4||"
         + "|0.1||0.2||0.3||0.4||0.5||\n1|2|2|3||30|0.2|62.4|||0.1||0.2||0.3||0.4||0.5||\n";
     EXPECT_THAT(check(whole), ElementsAre());
     EXPECT_THAT(check(whole.substr(0, whole.size() - 1)), ElementsAre()) << "no number is cut";
-    // Read without a word, with a frequency of 6 Hz, and with no factors at all.
+    // Read without an error, with a frequency of 6 Hz, or without any factors.
     EXPECT_THAT(check(whole.substr(0, whole.rfind("62.4") + 1)),
                 ElementsAre("12: the file ends in this row without an end of line: its last field, "
                             "\"6\", may be cut",
@@ -188,7 +188,7 @@ TEST(Ev2Checker, tellsALastRowThatIsCut)
                             HasSubstr("12: from here on no row has participation factors")));
 }
 
-TEST(Ev2Checker, tellsAFileThatEndsInItsLastNumber)
+TEST(Ev2Checker, reportsAFileThatEndsInItsLastNumber)
 {
     const std::string text = ev2Header(twoByTwo) + rows;
     const std::string bare = text.substr(0, text.rfind("|0|0|"));
@@ -204,7 +204,7 @@ TEST(Ev2Checker, tellsAFileThatEndsInItsLastNumber)
     EXPECT_THAT(check(narrow + "\r"), ElementsAre()) << "the end of line itself is cut";
 }
 
-TEST(Ev2Checker, tellsARowOfTooFewFieldsAndGoesOn)
+TEST(Ev2Checker, reportsARowOfTooFewFieldsAndGoesOn)
 {
     EXPECT_THAT(check(ev2Header(twoByTwo) + with(rows, "\n1|2", "\n1|2|3\n1|2")),
                 ElementsAre("14: a result row has at least 8 fields, this one only 3: \"1|2|3\""));
@@ -228,13 +228,13 @@ TEST(Ev2Checker, goesOnAfterANumberThatIsNone)
                     "KEAS"));
 }
 
-TEST(Ev2Checker, tellsAFactorThatIsNone)
+TEST(Ev2Checker, reportsAFactorThatIsNone)
 {
     EXPECT_THAT(check(ev2Header("") + with(ev2Row(26), "|13|", "|x|")),
                 ElementsAre("11: field 13 (participation factor): \"x\" is not a number"));
 }
 
-TEST(Ev2Checker, tellsRepeatedAndIncompleteKeys)
+TEST(Ev2Checker, reportsRepeatedAndIncompleteKeys)
 {
     EXPECT_THAT(check(ev2Header("Legend(1)=a\nModif(1)=b\nLegend(1)=c\nModif(1)=d\nModif=e\n")),
                 ElementsAre("7: the key \"Legend(1)\" comes twice",
@@ -242,13 +242,13 @@ TEST(Ev2Checker, tellsRepeatedAndIncompleteKeys)
                             "9: the key \"Modif\" has no index in parentheses"));
 }
 
-TEST(Ev2Checker, tellsAModelLineWithoutAnEqualSign)
+TEST(Ev2Checker, reportsAModelLineWithoutAnEqualSign)
 {
     EXPECT_THAT(check(ev2Header("Airplane WING\n")),
-                ElementsAre("5: no \"=\" stands between a key and its value: \"Airplane WING\""));
+                ElementsAre("5: there is no \"=\" between a key and its value: \"Airplane WING\""));
 }
 
-TEST(Ev2Checker, tellsCountsThatAreNoNumbers)
+TEST(Ev2Checker, reportsCountsThatAreNoNumbers)
 {
     EXPECT_THAT(check(ev2Header("Struct_modes=\nAeroel_modes=two\nNo_of_speeds=99999\n") + rows),
                 ElementsAre("5: Struct_modes: the value is blank, where a number should stand",
@@ -256,7 +256,7 @@ TEST(Ev2Checker, tellsCountsThatAreNoNumbers)
                             "7: No_of_speeds: the value \"99999\" is too large"));
 }
 
-TEST(Ev2Checker, tellsAFileThatEndsWithinItsHeadings)
+TEST(Ev2Checker, reportsAFileThatEndsWithinItsHeadings)
 {
     std::string text = ev2Header("");
     text.resize(text.size() - 4);

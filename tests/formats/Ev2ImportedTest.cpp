@@ -4,7 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-// Evolutions that were imported from printed solver outputs.
+// Evolutions imported from printed solver outputs.
 
 namespace tarsil {
 

@@ -54,7 +54,7 @@ TEST(Ev2Reader, readsTheHeaderTexts)
     EXPECT_EQ(evolution.solverVersion, "2001");
     EXPECT_EQ(evolution.flutterMethod, "PK");
     EXPECT_EQ(evolution.Param.Airplane, "GOLAND WING");
-    EXPECT_EQ(evolution.Param.Script, "run.bat /m=3"); // only the first "=" separates here
+    EXPECT_EQ(evolution.Param.Script, "run.bat /m=3"); // only the first "=" separates
     EXPECT_EQ(evolution.Param.Mass, "CLEAN");
     EXPECT_EQ(evolution.Param.AnalysisType, "Flutter");
     EXPECT_EQ(evolution.Param.Mach, 0.78F);
@@ -107,7 +107,7 @@ TEST(Ev2Reader, leavesMachAtZeroWhenTheFileGivesNone)
     EXPECT_TRUE(evolution.Modes.empty());
 }
 
-TEST(Ev2Reader, takesNoFactorsFromEightToElevenFields)
+TEST(Ev2Reader, readsNoFactorsFromEightToElevenFields)
 {
     for (const std::size_t fields : {8U, 9U, 10U, 11U}) {
         EVM evolution;
@@ -118,19 +118,19 @@ TEST(Ev2Reader, takesNoFactorsFromEightToElevenFields)
     }
 }
 
-TEST(Ev2Reader, takesEverySecondFieldOfTwentyOne)
+TEST(Ev2Reader, readsEverySecondFieldOfTwentyOne)
 {
     EVM evolution;
     readEv2Text(ev2Header("") + ev2Row(21), evolution);
     EXPECT_TRUE(evolution.hasParticipationFactors);
     const ParticipationFactors& factors = evolution.Modes[0]->Points[0].mpf;
     ASSERT_EQ(factors.size(), 5U);
-    // The row's fields hold their own numbers.
+    // Each field of the row contains its own number.
     for (std::size_t i = 0; i < 5; ++i)
         EXPECT_EQ(factors[i], static_cast<float>(10 + 2 * i));
 }
 
-TEST(Ev2Reader, takesEveryThirdFieldOfTwentySix)
+TEST(Ev2Reader, readsEveryThirdFieldOfTwentySix)
 {
     EVM evolution;
     readEv2Text(ev2Header("") + ev2Row(26), evolution);
@@ -173,7 +173,7 @@ TEST(Ev2Reader, startsAModeWheneverTheNumberChanges)
     EXPECT_EQ(evolution.Modes[2]->Points.size(), 2U);
 }
 
-TEST(Ev2Reader, takesTheKeyBetweenEitherParenthesis)
+TEST(Ev2Reader, readsTheKeyBetweenEitherParenthesis)
 {
     EVM evolution;
     readEv2Text(ev2Header("Modif)a)=one\nModif(b=two\nThe_Modif_(c)(d)=three\nLegend()=four\n"),
@@ -304,7 +304,7 @@ TEST(Ev2Reader, readsWhatIsThereWhenCountsDisagree)
     EXPECT_LT(evolution.Modes[0]->Points.capacity(), 8U);
 }
 
-TEST(Ev2Reader, takesWindowsLineEndsAndAByteOrderMark)
+TEST(Ev2Reader, acceptsWindowsLineEndsAndAByteOrderMark)
 {
     EVM evolution;
     std::string text(wholeFile.substr(wholeFile.find('[')));

@@ -54,18 +54,18 @@ TEST(EvmChecker, findsNothingInTheTagsAfterTheModes)
     EXPECT_THAT(check(points + "1234123412341234123412341234123412341234\n"), ElementsAre());
 }
 
-TEST(EvmChecker, tellsAnEmptyFile)
+TEST(EvmChecker, reportsAnEmptyFile)
 {
     EXPECT_THAT(check(""), ElementsAre("1: the file is empty"));
 }
 
-TEST(EvmChecker, tellsAFileThatEndsBeforeItsCounts)
+TEST(EvmChecker, reportsAFileThatEndsBeforeItsCounts)
 {
     EXPECT_THAT(check("a\nb\n"),
-                ElementsAre("2: the file ends before line 4, which holds the counts"));
+                ElementsAre("2: the file ends before line 4, which has the counts"));
 }
 
-TEST(EvmChecker, tellsTheCountsOfAnExportedFile)
+TEST(EvmChecker, reportsTheCountsOfAnExportedFile)
 {
     EVM evolution;
     AeMode& mode = evolution.appendMode();
@@ -90,21 +90,21 @@ TEST(EvmChecker, goesOnWithoutCounts)
                             "5: mode 3, point 2: the speed falls from 35.81 to 35 KEAS"));
 }
 
-TEST(EvmChecker, tellsCountsOfNothing)
+TEST(EvmChecker, reportsCountsOfNothing)
 {
     EXPECT_THAT(check(evmHeader("0", "-2") + twoModesOfThree),
                 ElementsAre("4: the number of speeds is declared as 0",
                             "4: the number of aeroelastic modes is declared as -2"));
 }
 
-TEST(EvmChecker, tellsThatFewerModesAreThereThanDeclared)
+TEST(EvmChecker, reportsThatFewerModesAreThereThanDeclared)
 {
     EXPECT_THAT(check(evmHeader("3", "32767") + twoModesOfThree),
                 ElementsAre("4: 32767 aeroelastic modes are declared, but only 2 in the file have "
                             "the declared number of points"));
 }
 
-TEST(EvmChecker, tellsThatMoreModesAreThereThanDeclared)
+TEST(EvmChecker, reportsThatMoreModesAreThereThanDeclared)
 {
     EXPECT_THAT(
         check(evmHeader("3", "1") + twoModesOfThree),
@@ -112,7 +112,7 @@ TEST(EvmChecker, tellsThatMoreModesAreThereThanDeclared)
                     "they are not read"));
 }
 
-TEST(EvmChecker, tellsAModeThatTheFileCutsShort)
+TEST(EvmChecker, reportsAModeThatTheFileCutsShort)
 {
     EXPECT_THAT(check(evmHeader("3", "2") + twoModesOfThree.substr(0, 162)),
                 ElementsAre("4: 2 aeroelastic modes are declared, but only 1 in the file have the "
@@ -120,7 +120,7 @@ TEST(EvmChecker, tellsAModeThatTheFileCutsShort)
                             "6: mode 5 is cut short: it has 1 point, but 3 speeds are declared"));
 }
 
-TEST(EvmChecker, tellsAModeThatTheNextCutsShort)
+TEST(EvmChecker, reportsAModeThatTheNextCutsShort)
 {
     EXPECT_THAT(check(evmHeader("3", "2") + twoModesOfThree.substr(0, 81) + "  5"
                       + twoModesOfThree.substr(84)),
@@ -130,7 +130,7 @@ TEST(EvmChecker, tellsAModeThatTheNextCutsShort)
                             HasSubstr("6: mode 5, point 2: the speed falls from 37.717 to 35.81")));
 }
 
-TEST(EvmChecker, tellsAModeNumberThatComesAgain)
+TEST(EvmChecker, reportsAModeNumberThatComesAgain)
 {
     const std::string point = "  1  0.056   35.810 1.50000E-02    2.737";
     EXPECT_THAT(
@@ -140,7 +140,7 @@ TEST(EvmChecker, tellsAModeNumberThatComesAgain)
                 ElementsAre("5: mode number 1 comes again: there is a mode 1 that ends in line 5"));
 }
 
-TEST(EvmChecker, tellsEqualSpeeds)
+TEST(EvmChecker, reportsEqualSpeeds)
 {
     EXPECT_THAT(check(evmHeader("3", "2") + with(twoModesOfThree, "   36.749", "   35.810")),
                 ElementsAre("5: mode 3, point 2: the speed is the same as at the point before, "
@@ -163,7 +163,7 @@ TEST(EvmChecker, goesOnAfterANumberThatIsNone)
                     "7: columns 32-40 (frequency): \"1E99999\" is too large"));
 }
 
-TEST(EvmChecker, tellsAModeNumberThatIsNone)
+TEST(EvmChecker, reportsAModeNumberThatIsNone)
 {
     EXPECT_THAT(check(evmHeader("3", "2") + "***" + twoModesOfThree.substr(3)),
                 ElementsAre(HasSubstr("5: columns 1-3 (mode number): \"***\" is not a number")));
@@ -171,7 +171,7 @@ TEST(EvmChecker, tellsAModeNumberThatIsNone)
                 ElementsAre(HasSubstr("5: columns 1-3 (mode number): \"***\" is not a number")));
 }
 
-TEST(EvmChecker, tellsALastRowThatIsCut)
+TEST(EvmChecker, reportsALastRowThatIsCut)
 {
     // The last point has 5.2 Hz in the last of 80 columns: "    5.200".
     const std::string whole = evmHeader("3", "2") + twoModesOfThree;
@@ -188,24 +188,24 @@ TEST(EvmChecker, tellsALastRowThatIsCut)
                             "its last number may be cut"));
 }
 
-TEST(EvmChecker, tellsAFirstHalfThatIsCut)
+TEST(EvmChecker, reportsAFirstHalfThatIsCut)
 {
     const std::string one = evmHeader("1", "1") + twoModesOfThree.substr(0, 38);
     EXPECT_THAT(check(one),
                 ElementsAre("5: the file ends in column 38 of this line without an end of line: "
                             "its last number may be cut"));
-    EXPECT_THAT(check(one + "\n"), ElementsAre()) << "nothing tells how wide a number is";
+    EXPECT_THAT(check(one + "\n"), ElementsAre()) << "the width of a number is unknown";
     EXPECT_THAT(check(one + " "), ElementsAre());
 }
 
-TEST(EvmChecker, letsNumbersStandAtTheLeftOfTheirColumns)
+TEST(EvmChecker, acceptsNumbersAtTheLeftOfTheirColumns)
 {
     EXPECT_THAT(check(evmHeader("2", "1") + "3  0.1    100      0.02        5.125\n"
                       + "3  0.1    200      0.02        5.1\n"),
                 ElementsAre(HasSubstr("5: columns 41-80: blank, though more points follow")));
 }
 
-TEST(EvmChecker, tellsALineThatIsNoPoint)
+TEST(EvmChecker, reportsALineThatIsNoPoint)
 {
     EXPECT_THAT(
         check(evmHeader("3", "2") + "a heading\n" + twoModesOfThree),
@@ -224,7 +224,7 @@ TEST(EvmChecker, listsAThousandFindingsAtMost)
     EXPECT_THAT(findings.back(), HasSubstr("9000 more findings"));
 }
 
-TEST(EvmChecker, takesLittleTimeForManyBlankLines)
+TEST(EvmChecker, isFastForManyBlankLines)
 {
     const std::string text = evmHeader("3", "2") + std::string(1000000, '\n') + twoModesOfThree;
     EXPECT_EQ(check(text).size(), mostFindings + 1);

@@ -10,7 +10,7 @@ using test::errorOf;
 using test::evmHeader;
 using test::readEvmText;
 
-// Two points to a line; each is number (3), reduced frequency (7), speed (9), damping (12),
+// Two points on a line; each is number (3), reduced frequency (7), speed (9), damping (12),
 // frequency (9 columns).
 //    "nnnkkkkkkksssssssssddddddddddddfffffffff"
 constexpr std::string_view twoModesOfThree = //
@@ -66,7 +66,7 @@ TEST(EvmReader, keepsTheFileModeNumber)
     EXPECT_EQ(evolution.Modes[1]->Id, 5);
 }
 
-TEST(EvmReader, takesTheModeNumberOfTheLastPoint)
+TEST(EvmReader, usesTheModeNumberOfTheLastPoint)
 {
     EVM evolution;
     readEvmText(
@@ -102,7 +102,7 @@ TEST(EvmReader, readsTouchingFields)
     EXPECT_EQ(mode.Points[1].f, 54321.678F);
 }
 
-TEST(EvmReader, ignoresWhatStandsBehindColumn80)
+TEST(EvmReader, ignoresTextAfterColumn80)
 {
     EVM evolution;
     readEvmText(evmHeader("2", "1")
@@ -205,7 +205,7 @@ TEST(EvmReader, refusesABlankHalfBeforeMorePoints)
               "Type mismatch: wing.evm, line 5, columns 41-43 (mode number): \"\"");
 }
 
-TEST(EvmReader, takesWindowsLineEnds)
+TEST(EvmReader, acceptsWindowsLineEnds)
 {
     EVM evolution;
     std::string text = evmHeader("3", "2") + std::string(twoModesOfThree);

@@ -169,7 +169,7 @@ TEST(EvmWriter, writesAFileThatReadsBackOnceItsCountsAreMoved)
     ASSERT_EQ(back.Modes.size(), 2U);
     EXPECT_EQ(back.Modes[1]->Id, 6);
     EXPECT_EQ(back.Modes[1]->Points[2].speed, 102.0F);
-    EXPECT_EQ(back.Modes[1]->Points[2].G, 0.015F); // written as stored, read with the other sign
+    EXPECT_EQ(back.Modes[1]->Points[2].G, 0.015F); // written as stored, read with the opposite sign
 }
 
 } // namespace

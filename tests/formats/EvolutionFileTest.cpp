@@ -72,11 +72,11 @@ TEST_F(EvolutionFile, readsANameWithBothExtensionsAsTheOldFormat)
 TEST_F(EvolutionFile, leavesAnEvolutionOfAnotherNameEmpty)
 {
     EXPECT_TRUE(read("wing.txt", onePointEvm).Modes.empty());
-    EXPECT_TRUE(read("wing.EVM", onePointEvm).Modes.empty()); // case counts
+    EXPECT_TRUE(read("wing.EVM", onePointEvm).Modes.empty()); // case-sensitive
     EXPECT_TRUE(open("missing.txt").Modes.empty());
 }
 
-TEST_F(EvolutionFile, takesANameWithBlanks)
+TEST_F(EvolutionFile, acceptsANameWithBlanks)
 {
     EXPECT_EQ(read("wing 1 new.evm", onePointEvm).Modes.size(), 1U);
 }

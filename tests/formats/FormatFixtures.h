@@ -17,7 +17,7 @@ std::string ev2Header(std::string_view modelLines);
 /// An .ev2 row with this number of fields: 1|1|2|3|...
 std::string ev2Row(std::size_t fields);
 
-/// What the three readers make of a text; `name` in messages is "wing.evm" and so on.
+/// Reads a text with one of the readers; its name in messages is "wing.evm" etc.
 void readEvmText(std::string_view text, EVM& evolution);
 void readEv2Text(std::string_view text, EVM& evolution);
 void readSemicolonText(std::string_view text, EVM& evolution);

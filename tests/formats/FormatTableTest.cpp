@@ -43,7 +43,7 @@ TEST(FormatTable, refusesANameWithoutAFormat)
     ASSERT_TRUE(error);
     EXPECT_EQ(error->number(), ErrorNumber::InvalidProcedureCall);
     EXPECT_THAT(error->description(),
-                HasSubstr("the name \"wing.txt\" holds neither \".evm\" nor \".ev2\""));
+                HasSubstr("the name \"wing.txt\" contains neither \".evm\" nor \".ev2\""));
 }
 
 TEST(FormatTable, makesTheFilterOfTheDialogThatOpensEvolutions)
@@ -58,7 +58,7 @@ TEST(FormatTable, listsItsExtensionsForASentence)
     EXPECT_EQ(formatExtensions("or"), ".evm or .ev2");
 }
 
-// What no compiler can connect with the table: a new format has to be added to each of these files.
+// A new format must be added to each of these files, which no compiler checks.
 
 TEST(FormatTable, isDocumented)
 {

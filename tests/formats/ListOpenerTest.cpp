@@ -17,7 +17,7 @@ using ::testing::IsEmpty;
 
 namespace {
 
-/// Writes down what becomes of each file.
+/// Records the result for each file.
 class Recorder : public ListOpener
 {
 public:
@@ -70,7 +70,7 @@ TEST_F(ListOpenerTest, opensTheFilesInTheirOrder)
     EXPECT_THAT(recorder.calls, IsEmpty());
 }
 
-TEST_F(ListOpenerTest, goesOnAfterFilesThatAreMissingOrCannotBeRead)
+TEST_F(ListOpenerTest, continuesAfterFilesThatAreMissingOrCannotBeRead)
 {
     folder.write("bad.evm", "no evolution");
     const std::vector<EVM*> listed =
@@ -94,7 +94,7 @@ TEST_F(ListOpenerTest, opensAFileOnceByWhateverPath)
     EXPECT_THAT(later.opened, IsEmpty());
 }
 
-TEST_F(ListOpenerTest, passesOverFilesThatAreNotWanted)
+TEST_F(ListOpenerTest, skipsFilesThatAreNotWanted)
 {
     recorder.unwanted = 0;
     const std::vector<EVM*> listed = openListed({}, {file("gone.evm"), file("a.ev2")}, recorder);

@@ -1,4 +1,4 @@
-// A file is read in pieces; where one piece ends must not be seen in what is read.
+// A file is read in pieces; the result must not depend on where they end.
 
 #include "base/files/FileLines.h"
 #include "base/files/TextStream.h"
@@ -58,8 +58,7 @@ void expectSameInPieces(const std::string& path, Reader reader)
     }
 }
 
-/// Modes whose numbers change with every other line, so that what is kept of a line is needed
-/// after it.
+/// Modes whose numbers alternate from line to line, so that a part of each line is needed after it.
 std::string manyModes()
 {
     std::string text = test::evmHeader("2", "40");

@@ -12,8 +12,8 @@
 #include <string>
 #include <vector>
 
-// Results of published flutter runs, each written in both layouts: what the two readers make of
-// one case must agree within the digits of the fixed-column layout.
+// Results of published flutter runs, each in both layouts: the two readers must agree within the
+// digits of the fixed-column layout.
 
 namespace tarsil {
 
@@ -39,10 +39,10 @@ protected:
 
 void expectSamePoint(const Point& old, const Point& point)
 {
-    // Half a unit of the last digit of three decimals, half a unit of the four decimals that the
-    // other layout has, and what rounding to singles adds below 1000: twice 2^-15.
+    // Half a unit of the last of three decimals, half a unit of the four decimals of the other
+    // layout, and the rounding to singles below 1000: twice 2^-15.
     constexpr float threeDecimals = 0.0005F + 0.00005F + 0.00007F;
-    // Half a unit of the sixth digit, and as little again for the singles.
+    // Half a unit of the sixth digit, and a little for the singles.
     constexpr float sixDigits = 0.51e-5F;
     EXPECT_NEAR(old.speed, point.speed, threeDecimals);
     EXPECT_NEAR(old.f, point.f, threeDecimals);

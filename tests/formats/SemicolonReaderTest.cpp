@@ -55,14 +55,14 @@ std::string row(std::size_t fields)
     return "[Result Data Summary]\nheading\n" + text + "\n";
 }
 
-TEST(SemicolonReader, takesFiveFactorsFromEveryLongRow)
+TEST(SemicolonReader, readsFiveFactorsFromEveryLongRow)
 {
     for (const std::size_t fields : {19U, 21U, 26U, 30U}) {
         EVM evolution;
         readSemicolonText(row(fields), evolution);
         const ParticipationFactors& factors = evolution.Modes[0]->Points[0].mpf;
         ASSERT_EQ(factors.size(), 5U) << fields;
-        // The row's fields hold their own numbers.
+        // Each field of the row contains its own number.
         for (std::size_t i = 0; i < 5; ++i)
             EXPECT_EQ(factors[i], static_cast<float>(10 + 2 * i));
         EXPECT_TRUE(evolution.hasParticipationFactors);
@@ -79,7 +79,7 @@ TEST(SemicolonReader, refusesALongRowThatEndsBeforeItsFactors)
     }
 }
 
-TEST(SemicolonReader, takesNoFactorsFromElevenFields)
+TEST(SemicolonReader, readsNoFactorsFromElevenFields)
 {
     EVM evolution;
     readSemicolonText(row(11), evolution);

@@ -344,14 +344,14 @@ TEST_F(DlgImport, saysWhyAnAnalysisCannotBeConverted)
     EXPECT_THAT(label("lblSpeeds"), HasSubstr("194.38"));
 }
 
-TEST_F(DlgImport, takesFilesThatAreDropped)
+TEST_F(DlgImport, addsFilesThatAreDropped)
 {
     add(folder.write("wing.f06", summary()));
     QMimeData data;
     data.setUrls({QUrl::fromLocalFile(
         QString::fromStdString(folder.write("tail.f06", summary("1.5E+02"))))});
     QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    static_cast<QObject&>(*dialog).event(&drop); // there is no source to drag from
+    static_cast<QObject&>(*dialog).event(&drop); // no drag source
     EXPECT_EQ(file(1).text(0).toStdString(), "tail.f06");
 }
 

@@ -15,7 +15,7 @@ TEST(PlotAxes, areThoseOfANewPlotAtFirst)
     EXPECT_EQ(axes.damping, (AxisValues {"g", 0, -0.25F, 5}));
 }
 
-TEST(PlotAxes, takeBoundsInTheOrderSpeedFrequencyDamping)
+TEST(PlotAxes, acceptBoundsInTheOrderSpeedFrequencyDamping)
 {
     PlotAxes axes;
     axes.setBounds({1, 2, 3, 4, 5, 6});
@@ -25,7 +25,7 @@ TEST(PlotAxes, takeBoundsInTheOrderSpeedFrequencyDamping)
     EXPECT_EQ(axes.bounds(), (PlotBounds {1, 2, 3, 4, 5, 6}));
 }
 
-TEST(PlotAxes, takeTicksInTheOrderSpeedDampingFrequency)
+TEST(PlotAxes, acceptTicksInTheOrderSpeedDampingFrequency)
 {
     PlotAxes axes;
     axes.setTicks({1, 2, 3});

@@ -15,7 +15,7 @@
 
 namespace tarsil::test {
 
-/// The dialog over a document without an active plot, as at the start, and a store of its own.
+/// The dialog with a document without an active plot, as at the start, and its own store.
 class DlgOptionsTest : public ::testing::Test
 {
 protected:
@@ -46,7 +46,7 @@ protected:
     EvmPlot& plot() { return plots().first(); }
     void activate() { plots().activate(&plot()); }
 
-    /// Tick counts of speed, damping and frequency axis.
+    /// Tick counts of the speed, damping and frequency axis.
     static std::vector<int> thicksOf(const EvmPlot& plot)
     {
         return {plot.properties().vthicks(), plot.properties().gthicks(),

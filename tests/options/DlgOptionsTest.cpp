@@ -1,4 +1,4 @@
-// What the options dialog does: reading, applying and keeping the options.
+// Reading, applying and saving of the options.
 
 #include "options/DlgOptionsFixture.h"
 #include "support/Errors.h"
@@ -70,7 +70,7 @@ TEST_F(DlgOptionsTest, applyToTheActivePlotAlone)
     EXPECT_THAT(thicksOf(plot()), ElementsAre(7, 5, 5));
 }
 
-TEST_F(DlgOptionsTest, takeTheNumbersIntoTheirEntriesWithoutApplyingThem)
+TEST_F(DlgOptionsTest, putTheNumbersIntoTheirEntriesWithoutApplyingThem)
 {
     typeAll("", "1|2|3|4|5|6", "7|8|9.5");
     dialog->UpDateOpt();
@@ -104,7 +104,7 @@ TEST_F(DlgOptionsTest, leaveAScaleThatWasSetOtherwiseWhenTheListIsIgnored)
     typeAll("", "0|100|0|-1|0", "");
     EXPECT_TRUE(dialog->ApplyOpt());
     EXPECT_EQ(plot().axes().speed.max, 321.0F);
-    EXPECT_EQ(plots().add(QString()).axes().speed.max, 100.0F); // the numbers before stay
+    EXPECT_EQ(plots().add(QString()).axes().speed.max, 100.0F); // unchanged
 }
 
 TEST_F(DlgOptionsTest, sayInTheInputWhatIsNeeded)
@@ -113,8 +113,8 @@ TEST_F(DlgOptionsTest, sayInTheInputWhatIsNeeded)
     const auto description = [this](const char* name) {
         return test::partOf<QLineEdit>(*dialog, name).accessibleDescription().toStdString();
     };
-    EXPECT_EQ(description("txtVgfScale"), "Ignored: six numbers with | between them are needed");
-    EXPECT_EQ(description("txtVgfThicks"), "Ignored: three numbers with | between them are needed");
+    EXPECT_EQ(description("txtVgfScale"), "Ignored: six numbers separated by | are required");
+    EXPECT_EQ(description("txtVgfThicks"), "Ignored: three numbers separated by | are required");
 }
 
 TEST_F(DlgOptionsTest, roundTickCountsWithTiesToEven)
@@ -295,7 +295,7 @@ TEST_F(DlgOptionsTest, areTheAxesOfPlotsMadeLater)
     EvmPlot& usual = plots().add(QString());
     EXPECT_EQ(usual.axes().bounds(), PlotAxes().bounds());
     EXPECT_THAT(thicksOf(usual), ElementsAre(7, 5, 5));
-    EXPECT_EQ(plot().axes().speed.max, 100.0F); // an empty list leaves a plot as it is
+    EXPECT_EQ(plot().axes().speed.max, 100.0F); // an empty list leaves a plot unchanged
 }
 
 TEST_F(DlgOptionsTest, showThatTheAircraftFileIsNotThere)

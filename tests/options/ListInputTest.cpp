@@ -28,20 +28,19 @@ protected:
     void type(const char* text) { edit.setText(QString::fromLatin1(text)); }
     std::vector<float> numbers() const { return list->numbers("aModule"); }
 
-    /// Whether sign, tool tip and description, which must agree, say that the text is ignored.
+    /// Whether sign, tool tip and description, which must agree, report the text as ignored.
     bool isShownAsIgnored() const
     {
         const QAction* const warning = edit.actions().front();
         const bool isShown = warning->isVisible();
-        const QString text =
-            QStringLiteral("Ignored: three numbers with | between them are needed");
+        const QString text = QStringLiteral("Ignored: three numbers separated by | are required");
         EXPECT_EQ(warning->toolTip(), isShown ? text : QString());
         EXPECT_EQ(edit.toolTip(), isShown ? text : QStringLiteral("for example 7|5|5"));
         EXPECT_EQ(edit.accessibleDescription(), isShown ? text : QStringLiteral("three counts"));
         return isShown;
     }
 
-    /// The description of the error of the numbers.
+    /// The description of the error of `numbers`.
     std::string errorText() const
     {
         const auto error = test::errorOf([this] { numbers(); });
@@ -55,7 +54,7 @@ protected:
 
 } // namespace
 
-TEST_F(ListInputTest, takesItsNumbersWithBlanksAndExponents)
+TEST_F(ListInputTest, acceptsItsNumbersWithBlanksAndExponents)
 {
     type(" 7 |5.5|-1E2");
     EXPECT_TRUE(list->fits());
@@ -93,6 +92,6 @@ TEST_F(ListInputTest, namesThePartThatIsNoNumber)
     EXPECT_EQ(errorText(), "Type mismatch: Counts, number 3: \"\"");
     type("7,5|5|5");
     EXPECT_EQ(errorText(), "Type mismatch: Counts, number 1: \"7,5\"");
-    type("7|5|1e39"); // a single ends at 3.4e38
+    type("7|5|1e39"); // beyond the largest single, 3.4e38
     EXPECT_EQ(errorText(), "Overflow: Counts, number 3: \"1e39\"");
 }

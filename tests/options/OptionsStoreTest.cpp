@@ -24,7 +24,7 @@ namespace {
 class OptionsStoreTest : public ::testing::Test
 {
 protected:
-    /// A store over a file with this text.
+    /// A store with a file of this text.
     OptionsStore storeOf(std::string_view text) const
     {
         return OptionsStore(folder.write("tarsil.ini", text));
@@ -108,7 +108,7 @@ TEST_F(OptionsStoreTest, writesThroughASymbolicLink)
     EXPECT_EQ(OptionsStore(folder.file("real.ini")).read(), texts("wing.inp", "", ""));
 }
 
-TEST_F(OptionsStoreTest, tellsThatAFileIsDamagedAndSaysNothingOfIt)
+TEST_F(OptionsStoreTest, reportsThatAFileIsDamagedAndUsesNothingOfIt)
 {
     const std::string zeros(100, '\0');
     for (const std::string& text :
@@ -125,7 +125,7 @@ TEST_F(OptionsStoreTest, tellsThatAFileIsDamagedAndSaysNothingOfIt)
     }
 }
 
-TEST_F(OptionsStoreTest, putsAWholeFileInThePlaceOfADamagedOne)
+TEST_F(OptionsStoreTest, replacesADamagedFileByAWholeOne)
 {
     const OptionsStore store = storeOf("[Options\nvgfScale\n");
     store.write(texts("wing.inp", "", "7|5|5"), {});
@@ -214,7 +214,7 @@ TEST_F(OptionsStoreTest, leavesWhatAnotherProgramHasWrittenMeanwhile)
 TEST_F(OptionsStoreTest, refusesAtOnceWhatIsNoPlainFile)
 {
     const OptionsStore store(folder.file("tarsil.ini"));
-    ASSERT_EQ(::mkfifo(store.path().c_str(), 0600), 0); // which would be waited for
+    ASSERT_EQ(::mkfifo(store.path().c_str(), 0600), 0); // opening it would block
     const auto error = errorOf([&store] { static_cast<void>(store.read()); });
     ASSERT_TRUE(error);
     EXPECT_EQ(error->description(),

@@ -18,10 +18,10 @@ QString key()
     return QStringLiteral("Options/vgfScale");
 }
 
-/// What the toolkit reads from a file with these bytes; nothing where it reads no text.
+/// The text that Qt reads from a file with these bytes; empty when it reads none.
 std::optional<QString> readByToolkit(const std::string& bytes)
 {
-    const test::TemporaryFolder folder; // a new name, for the toolkit remembers files
+    const test::TemporaryFolder folder; // a new name, because Qt caches files
     const QSettings file(QString::fromStdString(folder.write("a.ini", bytes)),
                          QSettings::IniFormat);
     static_cast<void>(file.allKeys());
@@ -63,7 +63,7 @@ std::string writtenByUs(const QString& value)
 TEST(SettingsText, readsWhatTheToolkitWritesAndTheOtherWayRound)
 {
     constexpr std::u16string_view letters = u"aF0 9\"\\,;=@()|%\n\t\r\x01\x7F?'[]#xü€\x3B1";
-    std::mt19937 random(7); // the same texts in every run
+    std::mt19937 random(7); // reproducible
     for (int i = 0; i < 1500; ++i) {
         QString value;
         for (auto length = random() % 8; length > 0; --length)
@@ -85,7 +85,8 @@ TEST(SettingsText, readsForeignBytesAsTheToolkitDoes)
         std::string bytes = "[Options]\nvgfScale=";
         for (auto count = random() % 10; count > 0; --count)
             bytes += pieces[random() % pieces.size()];
-        // An open quote at the end is damage only here, and to the toolkit alone a list with "@".
+        // Two known differences from Qt: an open quote at the end is damage only here, and a value
+        // with "@" and commas is a list only for Qt.
         if (!SettingsText(bytes).isWhole() || (bytes.find('@') != npos && bytes.find(',') != npos))
             continue;
         EXPECT_EQ(readByUs(bytes), readByToolkit(bytes)) << bytes;
@@ -97,7 +98,7 @@ TEST(SettingsText, keepsASymbolBeyondTheFirstPlane)
     const QString value = QString::fromUtf8("wing \xF0\x9F\x9B\xA9.inp");
     EXPECT_EQ(readByUs(writtenByToolkit(value)), value);
     EXPECT_EQ(readByToolkit(writtenByUs(value)), value);
-    const QString mark(1, QChar(0xFEFF)); // which the toolkit itself takes for a mark of the file
+    const QString mark(1, QChar(0xFEFF)); // which the toolkit itself reads as a byte order mark
     EXPECT_EQ(readByUs(writtenByUs(mark)), mark);
 }
 

@@ -13,8 +13,8 @@
 
 namespace tarsil::test {
 
-/// A canvas of 100 x 100 pixels at (10, 20) of its container, with a scale of one pixel for each
-/// unit and the ordinate growing upwards: the data point (x, y) is pixel (x, 100 - y).
+/// A canvas of 100 x 100 pixels at (10, 20) of its plot. One pixel is one unit, and the ordinate
+/// grows upwards: the data point (x, y) is pixel (x, 100 - y).
 class Canvas : public ::testing::Test, public PlotContainer
 {
 protected:
@@ -26,13 +26,13 @@ protected:
 
     const SeriesList& SeriesCollection() const override { return series; }
 
-    /// A series of a new mode with these points.
+    /// Adds a series of a new mode with these points.
     Series& addCurve(std::initializer_list<DrawnPoint> points)
     {
         return addSeries(addMode(evolution, 7, points));
     }
 
-    /// A series of a new mode with `count` points (1, 50), (2, 50), ... of frequency 50.
+    /// Adds a series of a new mode with `count` points (1, 50), (2, 50), ... of frequency 50.
     Series& addLevelCurve(int count)
     {
         AeMode& mode = addMode(evolution, 7, {});
@@ -51,7 +51,7 @@ protected:
         return added;
     }
 
-    /// What the canvas draws: lines and texts, relative to the canvas.
+    /// The lines and texts that the canvas draws, relative to the canvas.
     std::vector<std::string> drawing()
     {
         RecordingContext context;
@@ -59,7 +59,7 @@ protected:
         return context.drawingCalls();
     }
 
-    /// The texts alone.
+    /// Only the texts.
     std::vector<std::string> texts()
     {
         std::vector<std::string> result;

@@ -1,4 +1,4 @@
-// The scale of a canvas: from data to pixels.
+// The scale of a canvas: conversion of data to pixels.
 
 #include "plot/Canvas.h"
 
@@ -18,7 +18,7 @@ TEST_F(CanvasScale, putsTheFirstCornerAtTheTopLeftAndTheSecondAtTheBottomRight)
     canvas.SetScale(200, 0.5, 700, -0.25);
     EXPECT_EQ(canvas.pixelOf(200, 0.5), QPoint(0, 0));
     EXPECT_EQ(canvas.pixelOf(700, -0.25), QPoint(100, 100));
-    // 450 is half of the way from 200 to 700, 0.125 half of the way from 0.5 to -0.25.
+    // 450 is half-way from 200 to 700, 0.125 half-way from 0.5 to -0.25.
     EXPECT_EQ(canvas.pixelOf(450, 0.125), QPoint(50, 50));
 }
 

@@ -30,7 +30,7 @@ TEST_F(CanvasSeries, breakWhereARootTurnsFromStaticToOscillatoryWhenThatIsWanted
         ElementsAre("line 10,100 30,100 solid 0 #000000", "line 50,40 70,20 solid 0 #000000"));
 }
 
-TEST_F(CanvasSeries, takeStyleWidthAndColourAsTheyAre)
+TEST_F(CanvasSeries, keepStyleWidthAndColour)
 {
     Series& curve = addCurve({{10, 0, 20}, {30, 0, 40}});
     curve.LineStyle = penstyle::dashDot;
@@ -110,7 +110,7 @@ TEST_F(CanvasSeries, haveMarkersAtTheMultiplesOfTheSpacing)
     curve.MarkerSpacing = 3;
     curve.MarkerStyle = markerNumber(MarkerKind::ModeNumber);
     curve.MarkerSize = 9;
-    // Points 3, 6 and 9 of ten. 9 points are 12 pixels, half of which stand above row 50.
+    // Points 3, 6 and 9 of ten. 9 points are 12 pixels, half of them above row 50.
     EXPECT_THAT(texts(),
                 ElementsAre("text TopCenter 3,44 Arial 9 #000000 7",
                             "text TopCenter 6,44 Arial 9 #000000 7",

@@ -1,4 +1,4 @@
-// Reference lines, the own surface and the properties of a canvas.
+// Reference lines, own surface and properties of a canvas.
 
 #include "plot/Canvas.h"
 
@@ -47,13 +47,13 @@ TEST_F(CanvasLines, areDrawnAfterTheCurvesInTheirOrder)
 TEST_F(CanvasLines, haveTheirCaptionThirtyPixelsLeftOfTheSecondEndAndOneLineAboveIt)
 {
     canvas.AddLine(0, 50, 100, 40, QStringLiteral("flutter"), red, penstyle::solid);
-    // The second end is (100, 60); 12 points are 16 pixels; the caption is black.
+    // The second point is (100, 60); 12 points are 16 pixels; the caption is black.
     EXPECT_THAT(drawing(),
                 ElementsAre("line 0,50 100,60 solid 0 #ff0000",
                             "text TopCenter 70,44 Arial 8 #000000 flutter"));
 }
 
-TEST_F(CanvasLines, takeAWidthThatIsSetAfterwards)
+TEST_F(CanvasLines, useAWidthThatIsSetAfterwards)
 {
     canvas.AddLine(0, 50, 100, 50, {}, 0, penstyle::solid).LineWidth = 2;
     EXPECT_THAT(drawing(), ElementsAre("line 0,50 100,50 solid 2 #000000"));
@@ -128,7 +128,7 @@ TEST_F(CanvasSurface, keepsWhatWasDrawnBeforeAnError)
     EXPECT_EQ(canvas.surface().pixelColor(50, 50), QColor(255, 0, 0));
 }
 
-TEST_F(CanvasExport, standsAtThePlaceOfTheCanvasAndIsClippedToIt)
+TEST_F(CanvasExport, isAtThePositionOfTheCanvasAndIsClippedToIt)
 {
     addCurve({{0, 0, 50}, {100, 0, 50}});
     RecordingContext context;

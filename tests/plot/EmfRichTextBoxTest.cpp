@@ -33,7 +33,7 @@ TEST(EmfRichTextBox, drawsEachLineOnItsBaseline)
 {
     emfRichTextBox box;
     box.setText(QStringLiteral("header\nsecond"));
-    // The first baseline is one ascent (8) below the edge, the next a line (10) farther.
+    // The first baseline is one ascent (8) below the edge, the next one line (10) further down.
     EXPECT_THAT(drawing(box),
                 ElementsAre("text BaselineLeft 0,8 Arial 10 #000000 header",
                             "text BaselineLeft 0,18 Arial 10 #000000 second"));
@@ -60,7 +60,7 @@ TEST(EmfRichTextBox, standsWhereItWasMovedInTwentiethsOfAPoint)
 {
     emfRichTextBox box;
     box.setText(QStringLiteral("x"));
-    box.Move(150, 300); // 15 to a pixel
+    box.Move(150, 300); // 15 units for each pixel
     EXPECT_EQ(box.geometry().topLeft(), QPoint(10, 20));
     RecordingContext context;
     box.drawEMF(context);
@@ -89,11 +89,11 @@ TEST(EmfRichTextBox, isAsLargeAsItsText)
     EXPECT_EQ(box.geometry().size(), QSize(line.width(), 2 * line.height()));
 }
 
-TEST(EmfRichTextBox, isAtLeastAsLargeAsItWasTold)
+TEST(EmfRichTextBox, isAtLeastAsLargeAsAskedFor)
 {
     emfRichTextBox box;
     box.setText(QStringLiteral("a"));
-    box.setUnitsWidth(7500); // 15 to a pixel
+    box.setUnitsWidth(7500); // 15 units for each pixel
     box.setUnitsHeight(900);
     EXPECT_EQ(box.geometry().size(), QSize(500, 60));
     EXPECT_EQ(box.unitsWidth(), 7500);
@@ -139,7 +139,7 @@ TEST(EmfRichTextBox, drawsEachCharacterInItsOwnFontAndColour)
     box.setTextRTF("{\\rtf1{\\fonttbl{\\f0 Arial;}{\\f1 Courier New;}}"
                    "{\\colortbl ;\\red255\\green0\\blue0;}"
                    "\\f0\\fs20 ab\\cf1\\b c\\cf0\\b0\\f1\\fs40 d\\par}");
-    // Each character of the recording surface is 6 wide.
+    // Each character of the recording surface is 6 pixels wide.
     EXPECT_THAT(drawing(box),
                 ElementsAre("text BaselineLeft 0,8 Arial 10 #000000 ab",
                             "text BaselineLeft 12,8 Arial 10 bold #ff0000 c",
@@ -165,7 +165,7 @@ TEST(EmfRichTextBox, drawsATabAsAGap)
 {
     emfRichTextBox box;
     box.setText(QStringLiteral("a\tb"));
-    // To the next half inch: 48 pixels.
+    // A tab goes to the next half inch: 48 pixels.
     EXPECT_THAT(drawing(box),
                 ElementsAre("text BaselineLeft 0,8 Arial 10 #000000 a",
                             "text BaselineLeft 48,8 Arial 10 #000000 b"));
@@ -204,7 +204,7 @@ TEST(EmfRichTextBox, keepsItsTextThroughRichTextFormat)
     EXPECT_EQ(copy.content(), box.content());
 }
 
-TEST(EmfRichTextBox, takesOtherTextForItselfWhereRichTextIsSet)
+TEST(EmfRichTextBox, treatsOtherTextAsPlainWhereRichTextIsSet)
 {
     emfRichTextBox box;
     box.setTextRTF("header\r\nsecond");
@@ -236,7 +236,7 @@ TEST(Selection, countsACharacterOutsideTheBasicPlaneAsTwo)
     EXPECT_EQ(box.SelText(), QStringLiteral("b"));
     box.setSelColor(rgb(255, 0, 0));
     EXPECT_EQ(drawing(box)[1], "text BaselineLeft 12,8 Arial 10 #ff0000 b");
-    // Half a character is the whole one where it is changed.
+    // A change of half a line break affects the whole.
     box.setSelStart(1);
     box.setSelLength(1);
     box.setSelText(QStringLiteral("x"));
@@ -278,7 +278,7 @@ TEST(Selection, isReplacedByTextOfItsOwnLook)
                             "text BaselineLeft 6,8 Arial 10 #ff0000 x",
                             "text BaselineLeft 0,18 Arial 10 #ff0000 y",
                             "text BaselineLeft 6,18 Arial 10 #000000 d"));
-    EXPECT_EQ(box.SelStart(), 5) << "behind the new text";
+    EXPECT_EQ(box.SelStart(), 5) << "after the new text";
     EXPECT_EQ(box.SelLength(), 0);
 }
 
@@ -292,7 +292,7 @@ TEST(Selection, replacesHalfALineBreakAsAWhole)
     EXPECT_EQ(box.Text(), QStringLiteral("a-b"));
 }
 
-TEST(Selection, insertsBeforeTheBreakThatItStandsIn)
+TEST(Selection, insertsBeforeTheBreakThatItIsIn)
 {
     emfRichTextBox box;
     box.setText(QStringLiteral("a\nb"));
@@ -338,7 +338,7 @@ TEST(EmfRichTextBox, marksWhatWasSet)
         EXPECT_TRUE(box.changedProperties().contains(QString::fromLatin1(key))) << key;
 }
 
-TEST(EmfRichTextBox, tellsAPositionThatWasGivenFromOneThatItsContainerChose)
+TEST(EmfRichTextBox, distinguishesAPositionThatWasGivenFromOneThatItsContainerChose)
 {
     emfRichTextBox box;
     box.place(150, 300);
@@ -354,11 +354,11 @@ TEST(EmfRichTextBox, tellsAPositionThatWasGivenFromOneThatItsContainerChose)
         EXPECT_TRUE(box.changedProperties().contains(QString::fromLatin1(key))) << key;
 }
 
-TEST(EmfRichTextBox, takesNoMemoryForWhatCannotBeSeen)
+TEST(EmfRichTextBox, usesNoMemoryForWhatCannotBeSeen)
 {
     emfRichTextBox box;
     box.setContainer({0, 0, 400, 300});
-    // 900 wide letters of 1638 points: two million columns.
+    // 900 wide letters of 1638 points are two million columns.
     box.setTextRTF("{\\rtf\\fs3276 " + std::string(900, 'W') + "}");
     box.Draw(nullptr);
     EXPECT_LE(box.surface().width(), 400);
@@ -419,7 +419,7 @@ TEST(Selection, keepsAColourForTextThatIsInserted)
     EXPECT_EQ(box.SelColor(), rgb(255, 0, 0)) << "the selection has moved";
 }
 
-TEST(Selection, tellsTheColourThatInsertedTextWillHave)
+TEST(Selection, returnsTheColourThatInsertedTextWillHave)
 {
     emfRichTextBox box;
     box.setTextRTF("{\\rtf1{\\colortbl ;\\red255\\green0\\blue0;}a\\cf1 b}");

@@ -11,20 +11,20 @@ using test::RecordingContext;
 
 namespace {
 
-/// A control with a black pixel at its corner, a white one 3 pixels to its left and 2 above,
-/// and perhaps a failure.
+/// An item with a black pixel at its corner, a white one 3 pixels to its left and 2 above, and
+/// optionally a failure.
 class Dot : public PlotControl
 {
 public:
     bool fails = false;
     bool erases = true;
-    QPoint place;
+    QPoint position;
 
 protected:
     void paint(DeviceContext& context) const override
     {
         context.fillRectangle({-3, -2, 1, 1}, rgb(255, 255, 255));
-        context.fillRectangle({place, QSize(1, 1)}, 0);
+        context.fillRectangle({position, QSize(1, 1)}, 0);
         if (fails)
             throw std::runtime_error("no more");
     }
@@ -53,7 +53,7 @@ TEST(PlotControl, erasesWhatWasDrawnBefore)
     Dot dot;
     dot.setGeometry({0, 0, 20, 10});
     dot.Draw(nullptr);
-    dot.place = {5, 5};
+    dot.position = {5, 5};
     dot.Draw(nullptr);
     EXPECT_FALSE(isBlack(dot.surface(), 3, 2));
     EXPECT_TRUE(isBlack(dot.surface(), 8, 7));
@@ -65,7 +65,7 @@ TEST(PlotControl, keepsWhatWasDrawnBeforeWhenItDoesNotErase)
     dot.erases = false;
     dot.setGeometry({0, 0, 20, 10});
     dot.Draw(nullptr);
-    dot.place = {5, 5};
+    dot.position = {5, 5};
     dot.Draw(nullptr);
     EXPECT_TRUE(isBlack(dot.surface(), 3, 2));
     EXPECT_TRUE(isBlack(dot.surface(), 8, 7));
@@ -126,7 +126,7 @@ TEST(PlotControl, setsTheOriginBackAfterAFailureInAnotherContext)
 
 namespace {
 
-/// A surface on a disk that is full.
+/// A surface on a full disk.
 class FullContext : public RecordingContext
 {
 public:
@@ -145,7 +145,7 @@ std::string failureOf(Dot& dot, DeviceContext& context)
 
 } // namespace
 
-TEST(PlotControl, raisesTheFirstFailureOfASurfaceThatTakesNothingMore)
+TEST(PlotControl, raisesTheFirstFailureOfASurfaceThatAcceptsNothingMore)
 {
     Dot dot;
     dot.setGeometry({7, 8, 20, 10});

@@ -26,7 +26,7 @@ bool hasInk(const QImage& image)
 
 } // namespace
 
-TEST(TrspLabel, writesItsCaptionAtItsPlace)
+TEST(TrspLabel, writesItsCaptionAtItsPosition)
 {
     trspLabel label(QStringLiteral("velAxisLabel"));
     label.setGeometry({5, 6, 100, 20});
@@ -59,7 +59,7 @@ TEST(TrspLabel, doesNotFailWithoutACaption)
     EXPECT_TRUE(context.ink().isEmpty());
 }
 
-TEST(TrspLabel, keepsItsSizeUnlessToldOtherwise)
+TEST(TrspLabel, keepsItsSizeWithoutAutoSize)
 {
     trspLabel label(QStringLiteral("velAxisLabel"));
     EXPECT_FALSE(label.AutoSize());

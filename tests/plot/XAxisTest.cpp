@@ -12,10 +12,9 @@ using test::RecordingContext;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-// Strokes are measured in t, 8 points: 8 * 96 / 72 = 10.667 pixels. With a height of 64 the line is
-// row 32; the end mark reaches 0.9 t = 9.6 to both sides (rows 42 and 22), a tick t / 2 = 5.33
-// (rows 27 and 37), a reference mark from 0.4 t = 4.27 below (row 36) to 1.1 t = 11.73 above (row
-// 20).
+// Lengths are in t, 8 points: 8 * 96 / 72 = 10.667 pixels. With a height of 64 the line is row 32.
+// The end stroke extends 0.9 t = 9.6 to both sides (rows 42 and 22), a tick t / 2 = 5.33 (rows 27
+// and 37), a mark from 0.4 t = 4.27 below (row 36) to 1.1 t = 11.73 above the line (row 20).
 namespace {
 
 class XAxis : public ::testing::Test
@@ -40,7 +39,7 @@ protected:
         return result;
     }
 
-    /// The bounds of what shows on the own surface, in pixels of the axis; empty for nothing.
+    /// The bounds of the ink on the axis' own surface, in pixels of the axis; empty for none.
     QRect surfaceInk() const
     {
         QRect ink;
@@ -95,7 +94,7 @@ TEST_F(XAxis, canRunFromHighToLow)
 TEST_F(XAxis, roundsEachLabelToAWholeNumber)
 {
     axis.setNThick(4);
-    axis.setMax(650); // 162.5, 325 and 487.5; a half goes away from zero
+    axis.setMax(650); // 162.5, 325 and 487.5; ties round away from zero
     EXPECT_THAT(labels(), ElementsAre("163", "325", "488"));
 }
 
@@ -149,11 +148,11 @@ TEST_F(XAxis, doesNotSubtractTheMinimumFromAReferenceSpeed)
     axis.setNThick(1);
     axis.setMin(350);
     axis.setMax(700);
-    axis.AddRef(100, {}); // 100 * 700 / (700 - 350) = 200, and not left of the axis
+    axis.AddRef(100, {}); // 100 * 700 / (700 - 350) = 200, not left of the axis
     EXPECT_EQ(drawing().at(2), "line 200,36 200,20 solid 0 #000000");
 }
 
-TEST_F(XAxis, keepsTheTicksInPlaceAfterReferenceMarksWereDrawn)
+TEST_F(XAxis, keepsTheTicksInPlaceAfterReferencesWereDrawn)
 {
     const std::vector<std::string> before = drawing();
     axis.AddRef(350, QStringLiteral("Vd"));

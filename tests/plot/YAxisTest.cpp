@@ -11,10 +11,10 @@ using test::errorNumberOf;
 using test::RecordingContext;
 using ::testing::ElementsAre;
 
-// Strokes are measured in t, 8 points: 8 * 96 / 72 = 10.667 pixels. With a width of 120 the line is
-// column 60; the end mark reaches 1.8 t = 19.2 to the right (column 79), a tick t (column 71), and
-// labels end t / 2 = 5.33 to the left (column 55). The recording surface writes lines 10 pixels
-// high, so a label begins 5 rows above its tick.
+// Lengths are in t, 8 points: 8 * 96 / 72 = 10.667 pixels. With a width of 120 the line is column
+// 60. The end stroke extends 1.8 t = 19.2 to the right (column 79), a tick t (column 71), and
+// labels end t / 2 = 5.33 to the left (column 55). The recording surface has lines 10 pixels high,
+// so a label begins 5 rows above its tick.
 namespace {
 
 class YAxis : public ::testing::Test
@@ -91,7 +91,7 @@ TEST_F(YAxis, writesItsLabelsWithTheFormat)
     axis.setMax(0.25); // the label is 0.125
     axis.setThickFormat(QStringLiteral("0.00#"));
     EXPECT_THAT(labels(), ElementsAre("0.125"));
-    axis.setThickFormat(QStringLiteral("0.0#")); // a half goes away from zero
+    axis.setThickFormat(QStringLiteral("0.0#")); // ties round away from zero
     EXPECT_THAT(labels(), ElementsAre("0.13"));
     axis.setThickFormat(QStringLiteral("0"));
     EXPECT_THAT(labels(), ElementsAre("0"));
@@ -99,14 +99,14 @@ TEST_F(YAxis, writesItsLabelsWithTheFormat)
 
 TEST_F(YAxis, roundsLabelsByTheirDecimalValue)
 {
-    // -0.35 / 4 = -0.0875, twice -0.175, and three times -0.2625: half-way is away from zero. In
+    // -0.35 / 4 = -0.0875, twice that is -0.175, three times -0.2625: ties round away from zero. In
     // binary the last is -0.26249999999999996.
     axis.setDirection(true);
     axis.setNThick(4);
     axis.setMax(-0.35);
     axis.setThickFormat(QStringLiteral("0.00#"));
     EXPECT_THAT(labels(), ElementsAre("-0.088", "-0.175", "-0.263"));
-    // From 0.3 up to -0.3 in 800 steps: tick 398 is 0.0015 above zero, tick 402 as much below.
+    // From 0.3 to -0.3 in 800 steps: tick 398 is at 0.0015, tick 402 at -0.0015.
     axis.setNThick(800);
     axis.setMin(0.3);
     axis.setMax(-0.3);

@@ -1,4 +1,4 @@
-// The form of the dialog of the plot properties: names, captions and places of its controls.
+// The form of the dialog of the plot properties: names, captions and positions of its widgets.
 
 #include "plotwindow/DlgPlotProp.h"
 
@@ -19,7 +19,7 @@ namespace {
 
 using Texts = std::map<std::string, std::string>;
 
-/// One axis after the other.
+/// In the order of the axes.
 const std::vector<std::string> inputNames = {"inpVmin", "inpVmax", "inpVnthicks", "inpVlabel",
                                              "inpGmin", "inpGmax", "inpGnthicks", "inpGlabel",
                                              "inpFmin", "inpFmax", "inpFnthicks", "inpFlabel"};
@@ -51,7 +51,7 @@ TEST_F(DlgPlotPropForm, hasItsControlsUnderTheirNamesWithTheirCaptions)
     EXPECT_EQ(partOf<QPushButton>(dialog, "CancelButton").text().toStdString(), "Cancel");
 }
 
-TEST_F(DlgPlotPropForm, tellsAScreenReaderRowAndColumnOfEveryInput)
+TEST_F(DlgPlotPropForm, givesAScreenReaderRowAndColumnOfEveryInput)
 {
     const Texts names = {
         {"inpVmin", "Min. Scale Vel. Axis"},          {"inpVmax", "Max. Scale Vel. Axis"},

@@ -1,4 +1,4 @@
-// What the dialog of the plot properties does.
+// The behaviour of the dialog of the plot properties.
 
 #include "plotwindow/DlgPlotProp.h"
 #include "model/EVM.h"
@@ -51,7 +51,7 @@ protected:
 
     void confirm() { test::click(dialog, "OKButton"); }
 
-    /// Confirms a dialog with a number in `input` that is none, and compares the one report.
+    /// Confirms the dialog with an invalid number in `input` and expects this report.
     void expectRefusal(const std::string& input, const std::string& text, const std::string& report)
     {
         type(input, text);
@@ -157,7 +157,7 @@ TEST_F(DlgPlotProp, changesNothingWhenEscapeClosesIt)
     EXPECT_EQ(plot.axes().bounds(), PlotAxes().bounds());
 }
 
-TEST_F(DlgPlotProp, takesEnterForOkInEveryInput)
+TEST_F(DlgPlotProp, treatsEnterAsOkInEveryInput)
 {
     for (const std::string& name : inputNames) {
         for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
@@ -174,7 +174,7 @@ TEST_F(DlgPlotProp, takesEnterForOkInEveryInput)
     }
 }
 
-TEST_F(DlgPlotProp, takesEnterForOkOnTheForm)
+TEST_F(DlgPlotProp, treatsEnterAsOkOnTheForm)
 {
     typeAll();
     test::press(dialog, Qt::Key_Return);
@@ -182,7 +182,7 @@ TEST_F(DlgPlotProp, takesEnterForOkOnTheForm)
     EXPECT_EQ(plot.axes().bounds(), typedScale);
 }
 
-TEST_F(DlgPlotProp, takesEnterOnTheCancelButtonForCancel)
+TEST_F(DlgPlotProp, treatsEnterOnTheCancelButtonAsCancel)
 {
     typeAll();
     auto& cancel = partOf<QPushButton>(dialog, "CancelButton");
@@ -252,7 +252,7 @@ TEST_F(DlgPlotProp, keepsTheTickCountsBeforeTheOneThatIsNoNumber)
     EXPECT_EQ(plot.properties().vthicks(), 8);
     EXPECT_EQ(plot.properties().gthicks(), 9);
     EXPECT_EQ(plot.properties().fthicks(), 5);
-    EXPECT_EQ(plot.properties().vLabel(), QStringLiteral("V(keas)")); // the titles come last
+    EXPECT_EQ(plot.properties().vLabel(), QStringLiteral("V(keas)")); // the titles are applied last
 }
 
 TEST_F(DlgPlotProp, refusesATickCountBeyond16Bits)

@@ -40,11 +40,12 @@ protected:
         QApplication::processEvents();
     }
 
-    void mouse(QEvent::Type type, QPoint place, Qt::MouseButton button = Qt::LeftButton)
+    void mouse(QEvent::Type type, QPoint position, Qt::MouseButton button = Qt::LeftButton)
     {
         const Qt::MouseButtons held = type == QEvent::MouseButtonRelease ? Qt::NoButton : button;
         const Qt::MouseButton changed = type == QEvent::MouseMove ? Qt::NoButton : button;
-        QMouseEvent event(type, place, view.mapToGlobal(place), changed, held, Qt::NoModifier);
+        QMouseEvent event(type, position, view.mapToGlobal(position), changed, held,
+                          Qt::NoModifier);
         QApplication::sendEvent(&view, &event);
     }
 
@@ -55,14 +56,14 @@ protected:
         mouse(QEvent::MouseButtonRelease, to);
     }
 
-    void doubleClick(QPoint place)
+    void doubleClick(QPoint position)
     {
-        mouse(QEvent::MouseButtonPress, place);
-        mouse(QEvent::MouseButtonRelease, place);
-        mouse(QEvent::MouseButtonDblClick, place);
+        mouse(QEvent::MouseButtonPress, position);
+        mouse(QEvent::MouseButtonRelease, position);
+        mouse(QEvent::MouseButtonDblClick, position);
     }
 
-    /// The editor that is open over the plot; null when there is none.
+    /// The open editor; null when there is none.
     QTextEdit* editor()
     {
         for (QTextEdit* child : view.findChildren<QTextEdit*>()) {
@@ -86,10 +87,10 @@ protected:
 
     QMenu* boxMenu() { return view.findChild<QMenu*>(QStringLiteral("mnuErtb")); }
 
-    /// Opens the menu of a place with the right button; whether the view took that.
-    bool openMenu(QPoint place)
+    /// Opens the menu at a position with the right button. Returns whether the view accepted it.
+    bool openMenu(QPoint position)
     {
-        QContextMenuEvent event(QContextMenuEvent::Mouse, place, view.mapToGlobal(place));
+        QContextMenuEvent event(QContextMenuEvent::Mouse, position, view.mapToGlobal(position));
         QApplication::sendEvent(&view, &event);
         return event.isAccepted();
     }
@@ -141,17 +142,17 @@ TEST_F(EvmPlotViewTest, showsThePromptsOfEmptyBoxesOnTheScreenOnly)
     const QImage screen = view.grab().toImage();
     for (const TextBox which : {TextBox::Legend, TextBox::Mechanism}) {
         SCOPED_TRACE(static_cast<int>(which));
-        const QRect place = plot.parts().box(which).geometry();
-        EXPECT_TRUE(isInked(screen, place));
-        EXPECT_FALSE(isInked(plot.Image(), place));
+        const QRect area = plot.parts().box(which).geometry();
+        EXPECT_TRUE(isInked(screen, area));
+        EXPECT_FALSE(isInked(plot.Image(), area));
     }
 }
 
 TEST_F(EvmPlotViewTest, showsNoPromptOnceTheBoxHasAText)
 {
-    const QRect place = plot.Legend().geometry();
+    const QRect area = plot.Legend().geometry();
     plot.texts().setText(TextBox::Legend, QStringLiteral(" "));
-    EXPECT_FALSE(isInked(view.grab().toImage(), place));
+    EXPECT_FALSE(isInked(view.grab().toImage(), area));
 }
 
 TEST_F(EvmPlotViewTest, movesABoxThatIsDragged)
@@ -159,18 +160,18 @@ TEST_F(EvmPlotViewTest, movesABoxThatIsDragged)
     const QPoint before = plot.Legend().geometry().topLeft();
     drag(legendCentre(), legendCentre() + QPoint(-300, 140));
     EXPECT_EQ(plot.Legend().geometry().topLeft(), before + QPoint(-300, 140));
-    // Its position is kept in twentieths of a point, 15 to a pixel.
+    // The position is kept in twentieths of a point, 15 for each pixel.
     EXPECT_EQ(plot.Legend().unitsLeft(), 15 * (before.x() - 300));
     EXPECT_EQ(plot.Legend().unitsTop(), 15 * (before.y() + 140));
 }
 
-TEST_F(EvmPlotViewTest, keepsADraggedBoxInItsPlaceWhenItIsResized)
+TEST_F(EvmPlotViewTest, keepsADraggedBoxAtItsPositionWhenItIsResized)
 {
     drag(legendCentre(), legendCentre() + QPoint(-300, 140));
-    const QPoint place = plot.Legend().geometry().topLeft();
+    const QPoint position = plot.Legend().geometry().topLeft();
     view.resize(900, 700);
     QApplication::processEvents();
-    EXPECT_EQ(plot.Legend().geometry().topLeft(), place);
+    EXPECT_EQ(plot.Legend().geometry().topLeft(), position);
 }
 
 TEST_F(EvmPlotViewTest, keepsABoxInThePlotThatIsDraggedOutOfIt)
@@ -179,8 +180,8 @@ TEST_F(EvmPlotViewTest, keepsABoxInThePlotThatIsDraggedOutOfIt)
     EXPECT_TRUE(view.rect().contains(plot.Legend().geometry()));
 }
 
-/// Where a box is dropped it stays: the pointer cannot take it to where it would be shown
-/// elsewhere.
+/// A dropped box stays where it is shown: the pointer cannot move it to a position at which it
+/// would be shown elsewhere.
 TEST_F(EvmPlotViewTest, showsADraggedBoxWhereItWasDropped)
 {
     plot.texts().setText(TextBox::Legend, QStringLiteral("a legend\nof three\nlines"));
@@ -198,7 +199,7 @@ TEST_F(EvmPlotViewTest, showsADraggedBoxWhereItWasDropped)
     EXPECT_EQ(plot.Legend().unitsLeft(), 15 * (900 - size.width()));
 }
 
-TEST_F(EvmPlotViewTest, movesABoxFromThePlaceWhereItIsShown)
+TEST_F(EvmPlotViewTest, movesABoxFromThePositionWhereItIsShown)
 {
     plot.texts().setText(TextBox::Legend, QStringLiteral("legend"));
     plot.texts().move(TextBox::Legend, 15 * 1200, 15 * 100.25); // right of the plot
@@ -231,7 +232,7 @@ TEST_F(EvmPlotViewTest, doesNotMoveABoxByATremor)
     EXPECT_EQ(plot.Legend().geometry(), before);
 }
 
-TEST_F(EvmPlotViewTest, movesNothingWithAnotherButtonOrFromAnotherPlace)
+TEST_F(EvmPlotViewTest, movesNothingWithAnotherButtonOrFromAnotherPosition)
 {
     const QRect before = plot.Legend().geometry();
     mouse(QEvent::MouseButtonPress, legendCentre(), Qt::RightButton);
@@ -264,7 +265,7 @@ TEST_F(EvmPlotViewTest, opensNoEditorElsewhere)
     EXPECT_EQ(editor(), nullptr);
 }
 
-TEST_F(EvmPlotViewTest, takesTheEditedTextWhenTheFocusGoesElsewhere)
+TEST_F(EvmPlotViewTest, acceptsTheEditedTextWhenTheFocusGoesElsewhere)
 {
     doubleClick(legendCentre());
     ASSERT_NE(editor(), nullptr);
@@ -274,7 +275,7 @@ TEST_F(EvmPlotViewTest, takesTheEditedTextWhenTheFocusGoesElsewhere)
     EXPECT_EQ(editor(), nullptr);
 }
 
-TEST_F(EvmPlotViewTest, takesTheEditedTextWhenThePlotIsClicked)
+TEST_F(EvmPlotViewTest, acceptsTheEditedTextWhenThePlotIsClicked)
 {
     doubleClick(legendCentre());
     ASSERT_NE(editor(), nullptr);
@@ -423,7 +424,7 @@ TEST_F(EvmPlotViewTest, letsABoxFollowThePointerUntilAClick)
     EXPECT_EQ(legendCentre(), QPoint(400, 450));
 }
 
-TEST_F(EvmPlotViewTest, takesAMovementBackOnEscape)
+TEST_F(EvmPlotViewTest, revertsAMovementOnEscape)
 {
     const QPoint before = plot.Legend().geometry().topLeft();
     openMenu(legendCentre());
@@ -448,7 +449,7 @@ TEST_F(EvmPlotViewTest, copiesThePictureInEveryFormThatReportProgramsKnow)
     ASSERT_NE(data, nullptr);
     EXPECT_EQ(data->data(QStringLiteral("image/x-emf")), pictureBytes(plot, PictureFormat::Emf));
     EXPECT_TRUE(data->data(QStringLiteral("image/svg+xml")).contains("<svg"));
-    // Twice as fine as the screen, so that it is sharp in print.
+    // Twice the resolution of the screen, to be sharp in print.
     EXPECT_EQ(qvariant_cast<QImage>(data->imageData()).size(), QSize(1600, 1200));
 }
 
@@ -524,10 +525,10 @@ TEST_F(EvmPlotViewTest, letsNoBoxFollowThePointerIntoOtherContents)
     EXPECT_EQ(plot.Legend().geometry(), before);
 }
 
-TEST_F(EvmPlotViewTest, takesTheUppermostOfTwoBoxesAtAPlace)
+TEST_F(EvmPlotViewTest, picksTheUppermostOfTwoBoxesAtAPosition)
 {
     plot.texts().setText(TextBox::Legend, QStringLiteral("legend"));
-    plot.texts().move(TextBox::Legend, 15 * 400, 15 * 4); // in the header's row
+    plot.texts().move(TextBox::Legend, 15 * 400, 15 * 4); // in the row of the header
     drag(legendCentre(), legendCentre() + QPoint(-50, 200));
     EXPECT_EQ(plot.Legend().geometry().topLeft(), QPoint(350, 204));
 }
@@ -563,7 +564,7 @@ TEST_F(EvmPlotViewTest, describesItselfToAScreenReader)
     EXPECT_TRUE(view.accessibleDescription().contains(QStringLiteral("from 0 to 1000000, ")));
 }
 
-TEST_F(EvmPlotViewTest, describesTitlesThatLookLikePlacesOfTheText)
+TEST_F(EvmPlotViewTest, describesTitlesThatLookLikePlaceholders)
 {
     plot.properties().setCaption(QStringLiteral("%2 and %1"));
     plot.properties().setVLabel(QStringLiteral("%4 V"));
@@ -587,7 +588,7 @@ TEST_F(EvmPlotViewTest, isAGraphicToAScreenReader)
     EXPECT_NE(QAccessible::queryAccessibleInterface(&other)->role(), QAccessible::Graphic);
 }
 
-TEST_F(EvmPlotViewTest, tellsOfCommandsThatBegin)
+TEST_F(EvmPlotViewTest, reportsCommandsThatBegin)
 {
     int begun = 0;
     QObject::connect(&view, &EvmPlotView::commandBegun, &view, [&begun] { ++begun; });

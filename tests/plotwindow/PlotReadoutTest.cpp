@@ -16,7 +16,7 @@ using namespace tarsil;
 
 namespace {
 
-/// Counts the events of one type that a widget gets.
+/// Counts the events of a type that a widget receives.
 class EventCounter : public QObject
 {
 public:
@@ -43,7 +43,7 @@ class PlotReadoutTest : public ::testing::Test
 protected:
     PlotReadoutTest() : view(plot)
     {
-        new PlotReadout(plot, view); // belongs to the view
+        new PlotReadout(plot, view); // owned by the view
         view.resize(800, 600);
         view.show();
         QApplication::processEvents();
@@ -51,22 +51,22 @@ protected:
         QApplication::processEvents();
     }
 
-    void mouse(QEvent::Type type, QPoint place, Qt::MouseButton button, Qt::MouseButtons held)
+    void mouse(QEvent::Type type, QPoint position, Qt::MouseButton button, Qt::MouseButtons held)
     {
-        QMouseEvent event(type, place, view.mapToGlobal(place), button, held, Qt::NoModifier);
+        QMouseEvent event(type, position, view.mapToGlobal(position), button, held, Qt::NoModifier);
         QApplication::sendEvent(&view, &event);
     }
-    void moveTo(QPoint place, Qt::MouseButtons held = Qt::NoButton)
+    void moveTo(QPoint position, Qt::MouseButtons held = Qt::NoButton)
     {
-        mouse(QEvent::MouseMove, place, Qt::NoButton, held);
+        mouse(QEvent::MouseMove, position, Qt::NoButton, held);
     }
-    void press(QPoint place, Qt::MouseButton button)
+    void press(QPoint position, Qt::MouseButton button)
     {
-        mouse(QEvent::MouseButtonPress, place, button, button);
+        mouse(QEvent::MouseButtonPress, position, button, button);
     }
-    void release(QPoint place, Qt::MouseButton button)
+    void release(QPoint position, Qt::MouseButton button)
     {
-        mouse(QEvent::MouseButtonRelease, place, button, Qt::NoButton);
+        mouse(QEvent::MouseButtonRelease, position, button, Qt::NoButton);
     }
     void send(QEvent::Type type)
     {
@@ -75,11 +75,11 @@ protected:
     }
     void openLegendEditor()
     {
-        const QPoint place = plot.Legend().geometry().center();
-        press(place, Qt::LeftButton);
-        release(place, Qt::LeftButton);
-        mouse(QEvent::MouseButtonDblClick, place, Qt::LeftButton, Qt::LeftButton);
-        release(place, Qt::LeftButton);
+        const QPoint position = plot.Legend().geometry().center();
+        press(position, Qt::LeftButton);
+        release(position, Qt::LeftButton);
+        mouse(QEvent::MouseButtonDblClick, position, Qt::LeftButton, Qt::LeftButton);
+        release(position, Qt::LeftButton);
     }
 
     QLabel& box() { return *view.findChild<QLabel*>(QStringLiteral("plotReadout")); }
@@ -102,7 +102,7 @@ TEST_F(PlotReadoutTest, showsTheValuesWhereThePointerMoves)
 {
     moveTo({280, 270});
     EXPECT_TRUE(isShown());
-    // (330 - 270) / 4 rows to a Hz = 15; a column is 1 KEAS.
+    // (330 - 270) / 4 rows for each Hz = 15 Hz; a column is 1 KEAS.
     EXPECT_EQ(box().text(), QStringLiteral("V 200.0 KEAS   f 15.00 Hz"));
     moveTo({281, 430});
     EXPECT_TRUE(isShown());
@@ -156,12 +156,12 @@ TEST_F(PlotReadoutTest, staysWhileThePointerRestsOrMovesOn)
 
 TEST_F(PlotReadoutTest, hidesOutsideTheCanvases)
 {
-    for (const QPoint place :
+    for (const QPoint position :
          {QPoint(79, 270), QPoint(680, 270), QPoint(280, 77), QPoint(280, 582)}) {
         moveTo(inCanvas);
         ASSERT_TRUE(isShown());
-        moveTo(place);
-        EXPECT_FALSE(isShown()) << place.x() << ',' << place.y();
+        moveTo(position);
+        EXPECT_FALSE(isShown()) << position.x() << ',' << position.y();
     }
 }
 
@@ -229,7 +229,7 @@ TEST_F(PlotReadoutTest, hidesWhenThePlotChanges)
 TEST_F(PlotReadoutTest, showsNothingOverAnEditor)
 {
     plot.texts().move(TextBox::Legend, 15 * 300,
-                      15 * 200); // the legend into the canvas, 15 units to a pixel
+                      15 * 200); // moves the legend onto the canvas, 15 units for each pixel
     openLegendEditor();
     QTextEdit* const editor = view.findChild<QTextEdit*>();
     ASSERT_NE(editor, nullptr);
@@ -281,7 +281,7 @@ TEST_F(PlotReadoutTest, standsRightBelowThePointerAndOnTheOtherSideNearAnEdge)
     moveTo({280, 270});
     EXPECT_GT(box().geometry().left(), 280);
     EXPECT_GT(box().geometry().top(), 270);
-    moveTo({679, 581}); // 120 columns and 18 rows are left
+    moveTo({679, 581}); // leaves 120 columns and 18 rows
     EXPECT_LT(box().geometry().right(), 679);
     EXPECT_LT(box().geometry().bottom(), 581);
 }

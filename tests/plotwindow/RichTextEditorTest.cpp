@@ -54,7 +54,7 @@ protected:
 
 } // namespace
 
-TEST_F(RichTextEditorTest, beginsBehindTheText)
+TEST_F(RichTextEditorTest, beginsAfterTheText)
 {
     EXPECT_FALSE(editor.edit()->textCursor().hasSelection());
     EXPECT_TRUE(editor.edit()->textCursor().atEnd());

@@ -8,7 +8,7 @@ using tarsil::toolTipText;
 
 namespace {
 
-/// What a person reads in a tool tip of this text.
+/// The text that a person reads in a tool tip.
 QString shown(const QString& toolTip)
 {
     if (!Qt::mightBeRichText(toolTip))
@@ -20,7 +20,7 @@ QString shown(const QString& toolTip)
 
 } // namespace
 
-TEST(ToolTipText, showsEveryTextAsItStands)
+TEST(ToolTipText, showsEveryTextUnchanged)
 {
     for (const char* text : {"", "R&D", "R&amp;D", "1 < 2", "<b>x</b>", "<img src='file:///a.png'>",
                              "a\n<b>b</b>", "&lt;b&gt;", "  <p>", "<!doctype html>"})

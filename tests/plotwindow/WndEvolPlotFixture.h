@@ -12,7 +12,7 @@
 
 namespace tarsil::test {
 
-/// A window over a list of plots, with a listener that writes down what is announced.
+/// A window with a list of plots, and a listener that records signals.
 class WndEvolPlotTest : public ::testing::Test
 {
 protected:
@@ -25,7 +25,7 @@ protected:
         QApplication::processEvents();
     }
 
-    EvmPlot* plotAt(std::size_t place) { return window.plots().at(place); }
+    EvmPlot* plotAt(std::size_t index) { return window.plots().at(index); }
     void activateFirst() { window.ActivatePlot(plotAt(0)); }
     EvmPlot* add(const char* caption = "") { return &window.AddPlot(QString::fromLatin1(caption)); }
 
@@ -37,7 +37,7 @@ protected:
         return result;
     }
 
-    /// The captions of the plots that can be seen.
+    /// The captions of the visible plots.
     std::vector<std::string> visibleCaptions()
     {
         std::vector<std::string> result;
@@ -49,7 +49,7 @@ protected:
         return result;
     }
 
-    /// What the list and the window announce from now on, with the captions of the plots.
+    /// Records the signals of list and window from now on, with the captions of the plots.
     void listen()
     {
         const auto name = [](const EvmPlot* plot) {
@@ -69,10 +69,11 @@ protected:
             EXPECT_NE(window.ActivePlot(), plot);
             announced.push_back("removed " + name(plot));
         });
-        QObject::connect(&window, &wndEvolPlot::plotMenuRequested, &window, [this](QPoint place) {
-            announced.push_back("menu " + std::to_string(place.x()) + ","
-                                + std::to_string(place.y()));
-        });
+        QObject::connect(&window, &wndEvolPlot::plotMenuRequested, &window,
+                         [this](QPoint position) {
+                             announced.push_back("menu " + std::to_string(position.x()) + ","
+                                                 + std::to_string(position.y()));
+                         });
     }
 
     ScriptedUserInterface user;

@@ -1,4 +1,4 @@
-// What the window does with its size, the keyboard and the mouse.
+// The window's reactions to its size, the keyboard and the mouse.
 
 #include "plotwindow/WndEvolPlotFixture.h"
 
@@ -24,12 +24,12 @@ protected:
         QApplication::sendEvent(&widget, &event);
     }
 
-    /// Double-clicks the legend of the first plot and types; the editor stays open.
+    /// Double-clicks the legend of the first plot and types; leaves the editor open.
     void typeLegend(const QString& text)
     {
         EvmPlotView& view = *window.viewOf(*plotAt(0));
-        const QPoint place = plotAt(0)->Legend().geometry().center();
-        QMouseEvent twice(QEvent::MouseButtonDblClick, place, view.mapToGlobal(place),
+        const QPoint position = plotAt(0)->Legend().geometry().center();
+        QMouseEvent twice(QEvent::MouseButtonDblClick, position, view.mapToGlobal(position),
                           Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(&view, &twice);
         auto* const editor = view.findChild<QTextEdit*>();
@@ -109,7 +109,7 @@ TEST_F(WndEvolPlotInput, givesTheKeyboardToTheActivePlot)
     EXPECT_EQ(window.focusProxy(), nullptr);
 }
 
-TEST_F(WndEvolPlotInput, takesTheKeyboardFromNobodyElse)
+TEST_F(WndEvolPlotInput, leavesTheKeyboardToOthers)
 {
     QWidget frame;
     QTextEdit other(&frame);
@@ -156,8 +156,8 @@ TEST_F(WndEvolPlotInput, asksForThePlotsMenuByTheMouseAndByTheKeyboard)
     const QPoint second = view.mapToGlobal(QPoint(400, 300));
     askForMenu(view, QContextMenuEvent::Mouse, first);
     askForMenu(view, QContextMenuEvent::Keyboard, second);
-    const auto text = [](QPoint place) {
-        return "menu " + std::to_string(place.x()) + "," + std::to_string(place.y());
+    const auto text = [](QPoint position) {
+        return "menu " + std::to_string(position.x()) + "," + std::to_string(position.y());
     };
     EXPECT_THAT(announced, ElementsAre(text(first), text(second)));
 }
@@ -205,8 +205,8 @@ TEST_F(WndEvolPlotInput, givesEachPlotAReadout)
         EvmPlotView& view = *window.viewOf(*plot);
         auto* const box = view.findChild<QLabel*>(QStringLiteral("plotReadout"));
         ASSERT_NE(box, nullptr);
-        const QPoint place(300, 200);
-        QMouseEvent move(QEvent::MouseMove, place, view.mapToGlobal(place), Qt::NoButton,
+        const QPoint position(300, 200);
+        QMouseEvent move(QEvent::MouseMove, position, view.mapToGlobal(position), Qt::NoButton,
                          Qt::NoButton, Qt::NoModifier);
         QApplication::sendEvent(&view, &move);
         EXPECT_TRUE(box->isVisible());

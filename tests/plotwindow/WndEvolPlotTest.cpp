@@ -1,4 +1,4 @@
-// The plots of the window: which there are, which is active, and their series.
+// The plots of the window, the active one, and their series.
 
 #include "analysis/ModeBuilder.h"
 #include "plotwindow/WndEvolPlotFixture.h"
@@ -71,7 +71,7 @@ TEST_F(WndEvolPlotTest, announcesWhichPlotWasActiveAndWhichIs)
     add();
     listen();
     activateFirst();
-    activateFirst(); // is already
+    activateFirst(); // active already
     window.ActivatePlot(plotAt(1));
     window.ActivatePlot(nullptr);
     window.ActivatePlot(nullptr);
@@ -91,7 +91,7 @@ TEST_F(WndEvolPlotTest, activatesNoPlotOfAnotherWindow)
     EXPECT_THAT(announced, IsEmpty());
 }
 
-TEST_F(WndEvolPlotTest, namesANewPlotAfterItsPlace)
+TEST_F(WndEvolPlotTest, namesANewPlotAfterItsIndex)
 {
     listen();
     EXPECT_EQ(add()->properties().Caption(), QStringLiteral("Plot2"));
@@ -111,7 +111,7 @@ TEST_F(WndEvolPlotTest, doesNotActivateANewPlot)
     EXPECT_THAT(visibleCaptions(), ElementsAre("Plot1"));
 }
 
-TEST_F(WndEvolPlotTest, namesACopyAfterTheActivePlotAndItsPlace)
+TEST_F(WndEvolPlotTest, namesACopyAfterTheActivePlotAndItsIndex)
 {
     activateFirst();
     listen();

@@ -55,7 +55,7 @@ TEST(RichTextEdit, changesTheLookOfARangeOnly)
     EXPECT_TRUE(formatAt(text, 1).italic);
     EXPECT_TRUE(formatAt(text, 2).italic);
     EXPECT_FALSE(formatAt(text, 3).italic);
-    EXPECT_TRUE(formatAt(text, 4).bold) << "behind the text: the look at its end";
+    EXPECT_TRUE(formatAt(text, 4).bold) << "after the text: the look at its end";
     changeFormat(text, 0, 0, [](TextFormat& format) { format.underline = true; });
     EXPECT_FALSE(formatAt(text, 0).underline);
 }
@@ -70,7 +70,7 @@ TEST(ShownText, hasTwoCharactersForALineBreak)
 
 TEST(ShownText, givesRangesOfWholeCharacters)
 {
-    // Shown: a 0, CR 1, LF 2, b 3.
+    // Shown positions: a 0, CR 1, LF 2, b 3.
     EXPECT_EQ(plainRange(u"a\nb", 0, 1), (TextRange {0, 1}));
     EXPECT_EQ(plainRange(u"a\nb", 1, 2), (TextRange {1, 1}));
     EXPECT_EQ(plainRange(u"a\nb", 2, 1), (TextRange {1, 1}));
@@ -79,7 +79,7 @@ TEST(ShownText, givesRangesOfWholeCharacters)
     EXPECT_EQ(plainRange(u"a\nb", 2, 0), (TextRange {1, 0}));
     EXPECT_EQ(plainRange(u"a\nb", 4, 0), (TextRange {3, 0}));
     EXPECT_EQ(plainRange(u"a\nb", 9, 9), (TextRange {3, 0}));
-    // A character of two units is never cut.
+    // A surrogate pair is never split.
     EXPECT_EQ(plainRange(u"\U0001D6FAb", 1, 1), (TextRange {0, 2}));
     EXPECT_EQ(plainRange(u"\U0001D6FAb", 0, 1), (TextRange {0, 2}));
     EXPECT_EQ(plainRange(u"\U0001D6FAb", 1, 0), (TextRange {0, 0}));

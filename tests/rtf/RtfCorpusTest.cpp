@@ -19,9 +19,9 @@
 #include <utility>
 #include <vector>
 
-// Sources of many writers with what they mean, in a folder that TARSIL_RTF_CORPUS names: NAME.rtf
-// and NAME.json there and in trunc/, stored values in ini/. The expected texts were written by hand
-// or are what the writers were given.
+// Sources of many writers with their meaning, in the folder TARSIL_RTF_CORPUS: NAME.rtf and
+// NAME.json there and in trunc/, stored values in ini/. The expected texts are hand-written or the
+// input of the writers.
 
 using namespace tarsil;
 using namespace Qt::StringLiterals;
@@ -30,8 +30,8 @@ namespace {
 
 using Characters = std::vector<std::pair<char16_t, TextFormat>>;
 
-/// The characters with their formats, where a line break looks like the character before it, or at
-/// the very start like the one after it: writers differ in this, and it cannot be seen.
+/// The characters with their formats. A line break gets the format of the character before it, or
+/// at the start of the one after it: writers differ here, and the difference is invisible.
 Characters charactersOf(const RichText& text)
 {
     Characters characters;
@@ -93,7 +93,7 @@ void expectAsDescribed(const std::filesystem::path& path, bool isStoredValue)
         << ::testing::PrintToString(test::looksOf(expected));
 }
 
-/// The sources of a folder in the order of their names.
+/// The sources of a folder, sorted by name.
 std::vector<std::filesystem::path> sourcesIn(const std::filesystem::path& folder)
 {
     std::vector<std::filesystem::path> paths;
@@ -107,7 +107,7 @@ std::vector<std::filesystem::path> sourcesIn(const std::filesystem::path& folder
     return paths;
 }
 
-/// The folder; empty when there is none.
+/// The folder; empty when it is not set.
 std::filesystem::path corpus()
 {
     const char* const folder = std::getenv("TARSIL_RTF_CORPUS");

@@ -9,8 +9,8 @@
 #include <string>
 #include <string_view>
 
-// Sources that nobody writes but that may be opened. They must come back in time and memory that
-// grow with their length alone; what is tested beside that is what little is certain about them.
+// Sources that no writer produces but that may be opened. Time and memory must be linear in their
+// length; the tests also check the little that is defined about the result.
 
 using namespace tarsil;
 using namespace std::string_literals;
@@ -49,7 +49,7 @@ TEST(RtfHostile, returnsFromGroupsWithoutEnd)
               "abc");
 }
 
-TEST(RtfHostile, restoresTheFormatBehindGroupsThatAreTooDeep)
+TEST(RtfHostile, restoresTheFormatAfterGroupsThatAreTooDeep)
 {
     const RichText text =
         read("{\\rtf1 a" + repeated("{\\b ", 20'000) + "b" + repeated("}", 20'000) + "c}");
@@ -118,7 +118,7 @@ TEST(RtfHostile, returnsFromAMillionColoursAndCodePages)
 
 TEST(RtfHostile, returnsFromBytesWithoutAnyMeaning)
 {
-    // Every byte in a scrambled order, over and over: 167 has no factor in common with 256.
+    // All bytes in a scrambled order, repeatedly: 167 is coprime to 256.
     std::string noise;
     for (unsigned i = 0; i < million; ++i)
         noise += static_cast<char>((i * 167U + i / 256U) & 0xFFU);

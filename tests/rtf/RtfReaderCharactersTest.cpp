@@ -18,7 +18,7 @@ std::u16string shown(std::string_view source)
     return utf16FromUtf8(charactersOf(readRtf(source, {})));
 }
 
-/// What a byte in a font with this character set shows.
+/// The text of a byte in a font with this character set.
 std::u16string inCharset(int charset, std::string_view text)
 {
     return shown(R"({\rtf1{\fonttbl{\f0\fcharset)" + std::to_string(charset) + R"( A;}}\f0 )"
@@ -31,7 +31,7 @@ std::u16string inCharset(int charset, std::string_view text)
 
 TEST(RtfReaderCharacters, decodesBytesByTheCharacterSetOfTheFont)
 {
-    // From the published mapping tables of the pages.
+    // From the published mapping tables of the code pages.
     EXPECT_EQ(inCharset(0, R"(\'e9\'80\'96)"), u"\u00E9\u20AC\u2013");
     EXPECT_EQ(inCharset(77, R"(\'8e)"), u"\u00E9");
     EXPECT_EQ(inCharset(128, R"(\'93\'fa)"), u"\u65E5");
@@ -52,7 +52,7 @@ TEST(RtfReaderCharacters, decodesBytesByTheCharacterSetOfTheFont)
     EXPECT_EQ(inCharset(255, R"(\'b5)"), u"\u00C1");
 }
 
-TEST(RtfReaderCharacters, keepsTheBytesOfASymbolFontInThePrivatePlaceOfUnicode)
+TEST(RtfReaderCharacters, keepsTheBytesOfASymbolFontInThePrivateUseArea)
 {
     EXPECT_EQ(inCharset(2, R"(w \'e9\tab\u32?)"), u"\uF077\uF020\uF0E9\t ");
 }
@@ -76,14 +76,14 @@ TEST(RtfReaderCharacters, usesThePageOfTheDefaultFont)
               u"\u010D\u010D");
 }
 
-TEST(RtfReaderCharacters, takesRawBytesLikeWrittenOnes)
+TEST(RtfReaderCharacters, readsRawBytesLikeWrittenOnes)
 {
     EXPECT_EQ(shown("{\\rtf1 caf\xE9 \x96}"), u"caf\u00E9 \u2013");
 }
 
 TEST(RtfReaderCharacters, joinsTheTwoBytesOfACharacter)
 {
-    // Shift JIS 83 41, 83 5C and 83 7B are U+30A2, U+30BD and U+30DC: their second bytes are ASCII.
+    // Shift JIS 83 41, 83 5C and 83 7B are U+30A2, U+30BD and U+30DC; their second bytes are ASCII.
     EXPECT_EQ(inCharset(128, R"(\'83A)"), u"\u30A2");
     EXPECT_EQ(inCharset(128, R"(\'83\'5c\'83\\)"), u"\u30BD\u30BD");
     EXPECT_EQ(inCharset(128, R"(\'83\{)"), u"\u30DC");

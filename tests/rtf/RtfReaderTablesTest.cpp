@@ -21,7 +21,7 @@ std::vector<std::string> looks(std::string_view source)
     return looksOf(readRtf(source, {.family = "Tahoma", .points = 9}));
 }
 
-/// The name of the only font of a table that holds this entry.
+/// The name of the only font in a table with this entry.
 std::string familyOf(std::string_view entry)
 {
     const std::string source = R"({\rtf1{\fonttbl)" + std::string(entry) + R"(}\f0 x})";
@@ -66,18 +66,18 @@ TEST(RtfReaderTables, decodesAFontNameByItsCharacterSet)
     EXPECT_EQ(familyOf(R"({\f0\fcharset2 Symbol;})"), "Symbol");
 }
 
-TEST(RtfReaderTables, takesNoControlsOuterBlanksOrEndlessLengthIntoAFontName)
+TEST(RtfReaderTables, acceptsNoControlsOuterBlanksOrEndlessLengthInAFontName)
 {
     EXPECT_EQ(familyOf("{\\f0   A\x01\x7F\\u59?B  ;}"), "AB");
     EXPECT_EQ(familyOf("{\\f0 " + std::string(1000, 'x') + ";}"), std::string(64, 'x'));
 }
 
-TEST(RtfReaderTables, takesTheBoxesFontForOneWithoutAName)
+TEST(RtfReaderTables, usesTheBoxesFontForOneWithoutAName)
 {
     EXPECT_EQ(familyOf(R"({\f0\fnil;})"), "Tahoma");
 }
 
-TEST(RtfReaderTables, takesTheBoxesFontForANameThatIsNone)
+TEST(RtfReaderTables, usesTheBoxesFontForANameThatIsNone)
 {
     EXPECT_EQ(familyOf(R"({\f0 R&D Sans;})"), "R&D Sans");
     for (const char* entry : {R"({\f0 A" onmouseover="x;})", R"({\f0 <b>;})", R"({\f0 a\{b\};})",
@@ -89,7 +89,7 @@ TEST(RtfReaderTables, beginsWithTheDefaultFont)
 {
     const std::string table = R"({\fonttbl{\f2 B;}{\f1 A;}{\f3 C;}})";
     EXPECT_THAT(looks(R"({\rtf1\deff3)" + table + "x}"), ElementsAre("C 9: x"));
-    EXPECT_THAT(looks(R"({\rtf1)" + table + "x}"), ElementsAre("A 9: x")); // the lowest
+    EXPECT_THAT(looks(R"({\rtf1)" + table + "x}"), ElementsAre("A 9: x")); // the lowest number
     EXPECT_THAT(looks(R"({\rtf1\deff7)" + table + "x}"), ElementsAre("Tahoma 9: x"));
     EXPECT_THAT(looks(R"({\rtf1\deff3\f3 x})"), ElementsAre("Tahoma 9: x"));
 }
@@ -114,13 +114,13 @@ TEST(RtfReaderTables, readsColoursWithMissingAndTooLargeParts)
                 ElementsAre("Tahoma 9: a", "Tahoma 9 #090807: b", "Tahoma 9 #ff0000: c"));
 }
 
-TEST(RtfReaderTables, takesEveryEmptyEntryAsAutomatic)
+TEST(RtfReaderTables, treatsEveryEmptyEntryAsAutomatic)
 {
     EXPECT_THAT(colors(R"({\colortbl;;\blue255;})"),
                 ElementsAre("Tahoma 9: ab", "Tahoma 9 #0000ff: c"));
 }
 
-TEST(RtfReaderTables, takesAnIndexOutsideTheTableAsAutomatic)
+TEST(RtfReaderTables, treatsAnIndexOutsideTheTableAsAutomatic)
 {
     EXPECT_THAT(colors(R"({\colortbl;\red255;})"),
                 ElementsAre("Tahoma 9: a", "Tahoma 9 #ff0000: b", "Tahoma 9: c"));

@@ -19,7 +19,7 @@ using ::testing::IsEmpty;
 
 namespace {
 
-/// What the box shows without a source.
+/// The look of the box.
 const TextFormat box {.family = "Tahoma", .points = 9};
 
 RichText read(std::string_view source)
@@ -42,7 +42,7 @@ std::vector<std::string> looks(std::string_view text)
 
 } // namespace
 
-// What a source is.
+// Recognising the format.
 
 TEST(RichTextFormat, isKnownByItsFirstWord)
 {
@@ -53,7 +53,7 @@ TEST(RichTextFormat, isKnownByItsFirstWord)
         EXPECT_FALSE(looksLikeRtf(text)) << text;
 }
 
-TEST(RtfReader, passesOverWhatStandsBeforeTheFirstBrace)
+TEST(RtfReader, skipsTextBeforeTheFirstBrace)
 {
     EXPECT_EQ(shown("\xEF\xBB\xBF \r\n\0 {\\rtf1 lead}"s), "lead");
 }
@@ -67,7 +67,7 @@ TEST(RtfReader, acceptsEveryBeginningWithABrace)
     EXPECT_EQ(shown("{Text}"), "Text");
 }
 
-TEST(RtfReader, takesAnythingElseAsPlainTextInTheLookOfTheBox)
+TEST(RtfReader, readsAnythingElseAsPlainTextInTheLookOfTheBox)
 {
     const TextFormat bold {.family = "Tahoma", .points = 9, .bold = true, .color = rgb(255, 0, 0)};
     const RichText text = readRtf("one\r\ntwo\nthree\rfour\n", bold);
@@ -91,9 +91,9 @@ TEST(RtfReader, endsWithTheOutermostGroup)
     EXPECT_EQ(shown("{\\rtf1 one}\r\n\0 junk }"s), "one");
 }
 
-// The pieces of a source.
+// Tokens.
 
-TEST(RtfReader, takesOneBlankForTheEndOfAWordButNoLineEnd)
+TEST(RtfReader, treatsOneBlankAsTheEndOfAWordButNoLineEnd)
 {
     EXPECT_EQ(shown("{\\rtf1 a\\b  b\\b0\r\n c}"), "a b c");
     EXPECT_EQ(shown("{\\rtf1 a\\b-c\\b0-}"), "a-c-");
@@ -149,12 +149,12 @@ TEST(RtfReader, underlinesForEveryKindOfLineButNotForItsColour)
 
 TEST(RtfReader, readsSizesInHalfPoints)
 {
-    // No size, a size of 0 and a negative one change nothing; 1638 points are the most.
+    // A missing, zero or negative size changes nothing; 1638 points are the maximum.
     EXPECT_THAT(looks(R"(\fs17 a\fs0 b\fs-4 c\fs d\fs23 e\fs4000 f)"),
                 ElementsAre("Arial 8.5: abcd", "Arial 11.5: e", "Arial 1638: f"));
 }
 
-TEST(RtfReader, takesSizeAndFontFromTheBoxWhereNoneAreNamed)
+TEST(RtfReader, usesSizeAndFontOfTheBoxWhereNoneAreNamed)
 {
     EXPECT_THAT(looksOf(read(R"({\rtf1 a})")), ElementsAre("Tahoma 9: a"));
     const TextFormat bold {.family = "Tahoma", .points = 9, .bold = true, .color = rgb(1, 2, 3)};
@@ -206,10 +206,10 @@ TEST(RtfReader, showsResultsAndListTexts)
     EXPECT_EQ(shown(R"({\rtf1{\listtext 1.\tab}one})"), "1.\tone");
 }
 
-TEST(RtfReader, keepsTheTextBehindWordsThatOnlyLookLikeDestinations)
+TEST(RtfReader, keepsTheTextAfterWordsThatOnlyLookLikeDestinations)
 {
     EXPECT_EQ(shown(R"({\rtf1\headery720\footery720\pnrnot0 text})"), "text");
-    // In the middle of the outermost group a destination would swallow the rest.
+    // In the middle of the outermost group a destination would swallow the rest of the text.
     EXPECT_EQ(shown(R"({\rtf1\ansi\info\*\foo text})"), "text");
 }
 
@@ -219,7 +219,7 @@ TEST(RtfReader, passesOverBinaryBytes)
     EXPECT_EQ(shown(R"({\rtf1 a\bin99 bc})"), "a");
 }
 
-// The end.
+// The end of the text.
 
 TEST(RtfReader, dropsOneFinalLineBreak)
 {

@@ -17,7 +17,7 @@ TEST(RtfStoredValue, keepsEveryLineEndAsANul)
     EXPECT_EQ(rtfFromStoredValue("\0\0"s), "\r\n\r\n");
 }
 
-TEST(RtfStoredValue, leavesLoneLineEndsAloneAndTakesANulOfTheSourceForABlank)
+TEST(RtfStoredValue, leavesLoneLineEndsAloneAndReadsANulOfTheSourceAsABlank)
 {
     EXPECT_EQ(storedValueFromRtf("a\rb\nc\r\r\nd\n\r"), "a\rb\nc\r\0d\n\r"s);
     EXPECT_EQ(storedValueFromRtf("a\0b"s), "a b");

@@ -10,7 +10,7 @@ using namespace tarsil;
 
 namespace {
 
-/// A text of so many characters in one line.
+/// A text of `length` characters in one line.
 RichText lineOf(std::size_t length)
 {
     RichText text;
@@ -42,7 +42,7 @@ TEST(RtfToStore, storesTheFullFormAsLongAsItFits)
 
     const RichText longer = lineOf(2 + rest);
     EXPECT_EQ(rtfToStore(longer), writeRtf(longer, RtfForm::Short));
-    // One character more, and 14 bytes less for \viewkind4\uc1 and 5 less for \fnil.
+    // One character more, but 14 bytes less for \viewkind4\uc1 and 5 less for \fnil.
     EXPECT_EQ(storedSize(rtfToStore(longer)), mostStoredBytes + 1 - 19);
 }
 

@@ -24,8 +24,7 @@ RichText textOf(std::vector<TextRun> runs)
     return text;
 }
 
-/// What is written between \pard and the last paragraph's end, in Arial 10 at first: that is left
-/// out too.
+/// The output between \pard and the end of the last paragraph, without the initial Arial 10.
 std::string bodyOf(const RichText& text)
 {
     const std::string rtf = writeRtf(text);
@@ -40,13 +39,13 @@ std::string bodyOf(std::u16string characters, TextFormat format = {})
     return bodyOf(textOf({{std::move(characters), std::move(format)}}));
 }
 
-/// The bytes that a text takes in a workspace.
+/// The size of a text in a workspace.
 std::size_t storedSize(const RichText& text)
 {
     return storedValueFromRtf(writeRtf(text)).size();
 }
 
-/// A line of so many characters for every format.
+/// A line of `length` characters for each format.
 RichText linesOf(std::size_t length, const std::vector<TextFormat>& formats)
 {
     RichText text;
@@ -58,7 +57,7 @@ RichText linesOf(std::size_t length, const std::vector<TextFormat>& formats)
 
 } // namespace
 
-// The frame.
+// The frame of the source.
 
 TEST(RtfWriter, writesAnEmptyTextInItsFormat)
 {
@@ -142,7 +141,7 @@ TEST(RtfWriter, roundsSizesHalfUpToHalfPoints)
     EXPECT_EQ(bodyOf(u"a", {.points = std::numeric_limits<double>::quiet_NaN()}), "\\f0\\fs1 a");
 }
 
-TEST(RtfWriter, tellsBlackFromTheAutomaticColour)
+TEST(RtfWriter, distinguishesBlackFromTheAutomaticColour)
 {
     EXPECT_EQ(bodyOf(textOf({{u"a", {.color = 0}}, {u"b", {}}})), "\\cf1\\f0\\fs20 a\\cf0 b");
 }
@@ -215,7 +214,7 @@ TEST(RtfWriter, writesWhatIsReadAgainAsItWas)
                           .strikeOut = true,
                           .color = 0};
     TextFormat named = all;
-    named.family = "Courier New"; // no ';' in a name
+    named.family = "Courier New"; // ';' is not allowed in a name
     RichText text = textOf({{u" a \u03A9\u20AC{\U0001D538\n", {}}, {u"\uF077 w\n", symbol}});
     RichText expected = text;
     text.runs.push_back({u"\n\t\u00A0-1\n", all});
@@ -225,7 +224,8 @@ TEST(RtfWriter, writesWhatIsReadAgainAsItWas)
     EXPECT_EQ(readRtf(writeRtf(text, RtfForm::Short), {}), expected);
 }
 
-// Sizes: the three-line header that is to fit into a workspace, and what a value's 1023 bytes hold.
+// Sizes: a typical three-line header must fit into a workspace, that is into the 1023 bytes of a
+// value.
 
 TEST(RtfWriter, staysSmall)
 {

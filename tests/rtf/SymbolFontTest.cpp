@@ -12,8 +12,8 @@ TEST(SymbolFont, isKnownByItsNameInAnyCase)
     EXPECT_FALSE(isSymbolFace("Arial"));
 }
 
-// The encoding is the one of the face that printers have had since the first page description
-// languages: Greek at the Latin letters, infinity at A5, sum at E5.
+// The encoding that printers have used since the first page description languages: Greek letters
+// for Latin ones, infinity at A5, sum at E5.
 TEST(SymbolFont, showsGreekAndMathematics)
 {
     EXPECT_EQ(ordinarySigns(u"\uF061\uF072\uF077\uF057"), u"\u03B1\u03C1\u03C9\u03A9");

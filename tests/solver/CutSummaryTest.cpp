@@ -1,4 +1,4 @@
-// Printed outputs that end anywhere: a disk that was full, a run that was killed.
+// Solver outputs truncated anywhere, because a disk was full or a run was killed.
 
 #include "base/user/RunTimeError.h"
 #include "solver/Ev2Text.h"
@@ -30,7 +30,7 @@ std::size_t rowsOf(const SummaryFile& file)
     return rows;
 }
 
-/// Everything that an import does with a text; how many rows its tables have.
+/// Runs the whole import of a text. Returns the number of rows of its tables.
 std::size_t importText(std::string_view text)
 {
     const SummaryFile file = readSummariesOfText(text);
@@ -83,7 +83,7 @@ TEST(CutSummary, hasNoMoreRowsThanTheWholeOfLoopsOfK)
     expectNeverMoreThanTheWhole(text);
 }
 
-/// At every byte around the first borders of pages, and at some between.
+/// Truncates at every byte around the first page breaks, and at some bytes between.
 TEST(CutSummary, hasNoMoreRowsThanTheWholeOfASample)
 {
     const std::string text = fileBytes(sample("goland_clean.f06"));

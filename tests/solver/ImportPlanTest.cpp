@@ -170,7 +170,7 @@ TEST_F(Import, makesTheEvolutionThatItsFileHolds)
     EXPECT_EQ(evolution->provenance.speedUnit, "m/s");
 }
 
-TEST_F(Import, takesTheDensityUnitOfAPresetOnlyForPrintedDensities)
+TEST_F(Import, usesTheDensityUnitOfAPresetOnlyForPrintedDensities)
 {
     const UnitPreset& metric = unitPresets[0];
     plan.add(folder.write("ratio.f06", twoAnalyses()));
@@ -224,7 +224,7 @@ TEST_F(Import, doubtsRealSpeedsWithoutADensity)
     EXPECT_THAT(plan.doubts(), IsEmpty());
 }
 
-/// What the sample's evolutions say was computed; it is printed with fewer digits here and there.
+/// Compares with the evolutions of the sample, which have more digits in some values.
 TEST_F(Import, givesTheSamplesOfThePrintAgain)
 {
     plan.add(sample("goland_clean.f06"));

@@ -8,7 +8,7 @@
 
 namespace tarsil::test {
 
-/// One page of a flutter summary as solvers print it.
+/// A page of a flutter summary as solvers print it.
 struct PrintedPage
 {
     std::string title = "WING";
@@ -21,7 +21,7 @@ struct PrintedPage
     std::vector<std::string> rows;
 };
 
-/// The text of a page; its rows follow line 10.
+/// The text of a page; its rows start after line 10.
 inline std::string printed(const PrintedPage& page)
 {
     const std::string headings = page.hasDensity
@@ -59,7 +59,7 @@ inline std::string row(const std::string& speed, const std::string& damping = "-
         + frequency + "    -1.5000000E-01     3.1415927E+01";
 }
 
-/// What a text in memory holds.
+/// Reads a text in memory.
 inline solver::SummaryFile readSummariesOfText(std::string_view text)
 {
     solver::SummaryScanner scanner;

@@ -11,8 +11,8 @@
 #include <cstdlib>
 #include <filesystem>
 
-// Outputs of several solvers in the folder that TARSIL_SOLVER_CASES names, with what an independent
-// program makes of them in NAME.expected.json.
+// Outputs of several solvers in the folder TARSIL_SOLVER_CASES, with the results of an independent
+// program in NAME.expected.json.
 
 using namespace tarsil;
 using namespace tarsil::solver;

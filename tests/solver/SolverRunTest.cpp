@@ -117,7 +117,7 @@ TEST(SolverRuns, ofMethodKTakeRootsFromTheRowsOfEachLoop)
 
 TEST(ImportedRun, hasEquivalentAirspeedsInKnots)
 {
-    // 100 m/s are 194.384449244 kt; at a quarter of the density at sea level, half of it.
+    // 100 m/s are 194.384449244 kt; a quarter of the density at sea level halves that.
     const auto runs = runsOfText(page(pointLine(1, "0.3000", "2.5000E-01"), {row("-1.0E+02")}));
     EXPECT_NEAR(speedsOf(importRun(runs[0], {}))[0], 97.192224622, 1e-9);
     EXPECT_NEAR(speedsOf(importRun(runs[0], unitsNamed("ft/s", "ratio")))[0], 97.192224622 * 0.3048,

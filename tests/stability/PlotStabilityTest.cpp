@@ -83,7 +83,7 @@ TEST_F(PlotStabilityTest, sortsTheStretchesOfAllEvolutionsByTheirStart)
 
 TEST_F(PlotStabilityTest, putsAltitudesOutsideTheAtmosphereInBrackets)
 {
-    first.Param.Mach = 0.1F; // 350 KEAS at Mach 0.1 is far below the sea
+    first.Param.Mach = 0.1F; // 350 KEAS at Mach 0.1 is far below sea level
     StabilityModel model;
     model.setStretches(stabilityOfAll({&first}, settings, airplane, {}).stretches);
     const std::string altitude = text(model, 0, StretchColumn::Altitude);

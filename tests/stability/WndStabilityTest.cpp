@@ -108,7 +108,7 @@ TEST_F(WndStabilityTest, judgesAgainWithOtherSettings)
     EXPECT_EQ(verdictCount(), 2);
 }
 
-TEST_F(WndStabilityTest, marksASettingThatIsNoNumberAndKeepsTheLast)
+TEST_F(WndStabilityTest, highlightsASettingThatIsNoNumberAndKeepsTheLast)
 {
     draw(*first);
     QLineEdit& levels = part<QLineEdit>("levelsInp");

@@ -13,7 +13,7 @@ void changeSeries(EvmPlot& plot, std::size_t row, const Change& change)
     plot.rows().change(plot.rows().at(row).id, change);
 }
 
-/// The same for every row.
+/// Changes every row in this way.
 template <typename Change>
 void changeAllSeries(EvmPlot& plot, const Change& change)
 {

@@ -7,7 +7,7 @@
 
 namespace tarsil::test {
 
-/// The run-time error that `action` raises; none when it raises none.
+/// The run-time error that `action` raises; empty for none.
 template <typename Action>
 std::optional<RunTimeError> errorOf(Action action)
 {
@@ -19,7 +19,7 @@ std::optional<RunTimeError> errorOf(Action action)
     return std::nullopt;
 }
 
-/// Its number.
+/// The number of that error.
 template <typename Action>
 std::optional<ErrorNumber> errorNumberOf(Action action)
 {
@@ -27,7 +27,7 @@ std::optional<ErrorNumber> errorNumberOf(Action action)
     return error ? std::optional(error->number()) : std::nullopt;
 }
 
-/// Its number and description, such as "53 File not found: a.evm"; "no error" for none.
+/// Number and description of that error, such as "53 File not found: a.evm"; "no error" for none.
 template <typename Action>
 std::string errorTextOf(Action action)
 {

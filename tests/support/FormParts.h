@@ -12,7 +12,7 @@
 
 namespace tarsil::test {
 
-/// A control of a form by its object name; a form without it fails the test.
+/// A widget of a form by its object name; fails the test if there is none.
 template <typename Control>
 Control& partOf(const QWidget& form, const std::string& name)
 {
@@ -37,18 +37,18 @@ inline void click(const QWidget& form, const std::string& button)
     partOf<QPushButton>(form, button).click();
 }
 
-/// The input that is open in a cell or label of a view; null when none is.
+/// The open editor of a cell or label in a view; null when there is none.
 inline QLineEdit* openEditor(const QAbstractItemView& view)
 {
     for (auto* const editor :
          view.viewport()->findChildren<QLineEdit*>(Qt::FindDirectChildrenOnly)) {
-        if (!editor->isHidden()) // otherwise it is one that goes soon
+        if (!editor->isHidden()) // a hidden one is about to be deleted
             return editor;
     }
     return nullptr;
 }
 
-/// Presses and releases a key; `isHeld` for one that has been down for a while.
+/// Presses and releases a key; `isHeld` for an auto-repeated one.
 inline void press(QWidget& receiver, Qt::Key key, bool isHeld = false)
 {
     for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
@@ -57,7 +57,7 @@ inline void press(QWidget& receiver, Qt::Key key, bool isHeld = false)
     }
 }
 
-/// What a screen reader calls a control.
+/// The accessible name of a widget.
 inline std::string accessibleName(QWidget& control)
 {
     return QAccessible::queryAccessibleInterface(&control)->text(QAccessible::Name).toStdString();

@@ -9,7 +9,7 @@ namespace tarsil::test {
 
 namespace {
 
-/// How much of red, green and blue is missing from white.
+/// The difference of a colour from white, in red, green and blue.
 struct InkColor
 {
     int red;
@@ -25,7 +25,7 @@ InkColor inkAt(const QImage& image, int column, int row)
     return {255 - qRed(pixel), 255 - qGreen(pixel), 255 - qBlue(pixel)};
 }
 
-/// Whether one could be a paler shade of the other: the directions agree.
+/// Whether one colour could be a paler shade of the other: the directions agree.
 bool isSameHue(const InkColor& a, const InkColor& b)
 {
     const auto product = [](const InkColor& x, const InkColor& y) {
@@ -34,12 +34,13 @@ bool isSameHue(const InkColor& a, const InkColor& b)
     return product(a, b) > 0.8 * std::sqrt(product(a, a) * product(b, b));
 }
 
-constexpr int strongInk = 110; ///< what must be found again
-constexpr int anyInk = 24; ///< what counts as found
+constexpr int strongInk = 110; ///< pixels that must be found in the other picture
+constexpr int anyInk = 24; ///< pixels that count as found
 
-bool hasInkNear(const QImage& image, QPoint place, int distance, const InkColor& wanted)
+bool hasInkNear(const QImage& image, QPoint position, int distance, const InkColor& wanted)
 {
-    const QRect around(place - QPoint(distance, distance), place + QPoint(distance, distance));
+    const QRect around(position - QPoint(distance, distance),
+                       position + QPoint(distance, distance));
     const QRect rectangle = around & image.rect();
     for (int row = rectangle.top(); row <= rectangle.bottom(); ++row) {
         for (int column = rectangle.left(); column <= rectangle.right(); ++column) {

@@ -11,13 +11,13 @@
 
 namespace tarsil::test {
 
-/// Numbers and texts of a seed, the same on every machine: the engine's sequence is fixed by the
-/// language, and nothing else of its library is used. The texts are made of what a reader of
+/// Random numbers and texts from a seed, the same on every machine: the sequence of the engine is
+/// fixed by the standard, and no library distribution is used. The texts consist of what readers of
 /// workspaces could stumble over, and of letters of three encodings.
 class RandomTexts
 {
 public:
-    /// With half of the seeds all texts can be written as Windows-1252.
+    /// For half of the seeds all texts can be written as Windows-1252.
     explicit RandomTexts(unsigned seed) : m_engine(seed)
     {
         m_pieceCount = below(2) == 0 ? pieces.size() : pieces.size() - unicodeOnly;
@@ -26,7 +26,7 @@ public:
     std::size_t below(std::size_t limit) { return m_engine() % limit; }
     std::uint32_t bits() { return static_cast<std::uint32_t>(m_engine()); }
 
-    /// Small and large numbers alike.
+    /// Small and large numbers with equal probability.
     template <typename Integer>
     Integer integer()
     {
@@ -46,7 +46,7 @@ public:
 
     const std::string& piece() { return pieces.at(below(m_pieceCount)); }
 
-    /// A text of one line, shorter than `limit` pieces; it may be empty.
+    /// A text of one line with fewer than `limit` pieces; may be empty.
     std::string line(std::size_t limit = 30)
     {
         std::string text;
@@ -56,7 +56,8 @@ public:
     }
 
 private:
-    static constexpr std::size_t unicodeOnly = 3; ///< the last of the pieces
+    static constexpr std::size_t unicodeOnly =
+        3; ///< number of pieces at the end that only Unicode has
     static inline const std::array<std::string, 22> pieces = {
         "a", "B", "7",  " ", "\t",     "=", "[", "]", ";", "\"", "'",
         "|", ",", "\\", "ü", "\u0081", "Ã", "¼", "–", "α", "漢", "𝛼"};

@@ -8,9 +8,9 @@
 
 namespace tarsil::test {
 
-/// A surface that writes down what is asked of it, one line of text a call, in the caller's own
-/// coordinates. Every character is 6 pixels wide and every line 10 high, whatever the font, so that
-/// a record is the same everywhere.
+/// A surface that records the calls, one line of text for each, in the caller's coordinates. Every
+/// character is 6 pixels wide and every line 10 pixels high in every font, so that records are the
+/// same everywhere.
 ///
 ///     origin 10,20                          clip 10,20 100x50          clip none
 ///     fill 0,0 800x600 #ffffff              line 0,32 699,32 solid 0 #000000
@@ -22,7 +22,7 @@ public:
     static constexpr int ascent = 8;
     static constexpr int descent = 2;
 
-    /// A line that was drawn, in pixels of the whole surface, and the origin it was drawn from.
+    /// A line in pixels of the whole surface, and the origin of its call.
     struct Stroke
     {
         QPoint origin;
@@ -33,14 +33,14 @@ public:
     const std::vector<std::string>& calls() const { return m_calls; }
     const std::vector<Stroke>& strokes() const { return m_strokes; }
 
-    /// The lines, texts and fills alone.
+    /// Only the lines, texts and fills.
     std::vector<std::string> drawingCalls() const;
 
-    /// The strokes drawn from this origin: those of the control that stands there.
+    /// The strokes drawn from this origin, that is by the item at this position.
     std::vector<Stroke> strokesFrom(QPoint origin) const;
 
-    /// What is inked, in pixels of the whole surface, clip considered: every character reaches from
-    /// the top of its line to the baseline. Empty when nothing is.
+    /// The bounds of the ink in pixels of the whole surface, clipped. A character extends from the
+    /// top of its line to the baseline. Empty for none.
     const QRect& ink() const { return m_ink; }
 
     void drawLine(QPoint from, QPoint to, const Pen& pen) override;

@@ -10,7 +10,7 @@
 namespace tarsil::test {
 
 /// The main function of a test program. Every test runs with the locale of its environment in
-/// force, as in the real program, and first makes sure that this locale is really there.
+/// force, as in the real program, and first checks that this locale is active.
 template <typename Application>
 int runTests(int argc, char** argv)
 {

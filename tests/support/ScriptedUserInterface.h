@@ -6,7 +6,7 @@
 
 namespace tarsil::test {
 
-/// Answers from lists and writes down what it is told. A question without an answer is cancelled.
+/// Answers from lists and records messages. A question without an answer is cancelled.
 class ScriptedUserInterface : public UserInterface
 {
 public:
@@ -64,7 +64,7 @@ public:
         progress.emplace_back(done, total);
     }
 
-    // Answers, used up one after the other.
+    // Answers, used in order.
     std::deque<bool> confirmations;
     std::deque<Unsaved> unsaved;
     std::deque<std::string> texts;
@@ -72,14 +72,14 @@ public:
     std::deque<std::string> saveFiles;
     std::deque<std::string> folders;
 
-    // What was asked and told.
+    // Questions and messages so far.
     std::vector<Message> messages;
     std::vector<std::string> questions;
-    std::vector<std::string> titles; ///< of the texts that were asked for
+    std::vector<std::string> titles; ///< titles of the questions for texts
     std::vector<std::string> initials;
     std::vector<FileQuestion> fileQuestions;
     std::vector<std::string> statuses;
-    std::string note; ///< that stands beside the status now
+    std::string note; ///< the current note
     std::vector<std::pair<std::size_t, std::size_t>> progress;
 
 private:

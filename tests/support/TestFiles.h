@@ -8,7 +8,7 @@
 
 namespace tarsil::test {
 
-/// A folder of its own for one test, removed with everything in it.
+/// A temporary folder for one test, removed with its contents.
 class TemporaryFolder
 {
 public:
@@ -32,13 +32,13 @@ private:
 /// All bytes of a file.
 std::string fileBytes(const std::filesystem::path& path);
 
-/// Path of a file of the samples.
+/// The path of a file of the samples.
 std::string sample(std::string_view name);
 
-/// All bytes of a file of the repository, by its path from the root of it.
+/// All bytes of a file of the repository, given by its path in it.
 std::string projectFile(std::string_view path);
 
-/// The folder of published results of other programs, which the repository does not hold; it may be
+/// The folder of published results of other programs, which are not in the repository; may be
 /// missing.
 std::string realResults();
 

@@ -2,7 +2,7 @@
 
 #include <QApplication>
 
-// The main function of the test programs that make widgets.
+// The main function of test programs with widgets.
 int main(int argc, char** argv)
 {
     return tarsil::test::runTests<QApplication>(argc, argv);

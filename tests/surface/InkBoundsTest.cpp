@@ -17,7 +17,7 @@ TEST(InkBounds, holdLinesWithTheWidthOfTheirPens)
     InkBounds ink;
     ink.setOrigin({100, 50});
     ink.drawLine({10, 20}, {0, 30}, {penstyle::solid, 1, 0});
-    // Columns 100 to 110 and rows 70 to 80, and a pixel around them.
+    // Columns 100 to 110 and rows 70 to 80, and one pixel around them.
     EXPECT_EQ(ink.bounds(), QRect(QPoint(99, 69), QPoint(111, 81)));
     ink.drawLine({0, 0}, {0, 0}, {penstyle::solid, 8, 0});
     EXPECT_EQ(ink.bounds().topLeft(), QPoint(95, 45));

@@ -6,7 +6,7 @@ using namespace tarsil;
 
 namespace {
 
-/// A line and what the rectangle from (0, 0) to (10, 10) leaves of it.
+/// Expects the part of a line inside the rectangle from (0, 0) to (10, 10).
 void expectCut(QPointF from, QPointF to, QPointF cutFrom, QPointF cutTo)
 {
     ASSERT_TRUE(cutLine(from, to, QRectF(0, 0, 10, 10)));
@@ -47,7 +47,8 @@ TEST(LineCut, reachesTheGuardBandOnAllSides)
     QPointF from(-30, 0);
     QPointF to(0, 40);
     ASSERT_TRUE(cutLine(from, to, guardBand(20)));
-    // From (-30, 0) three columns for four rows: column -20 at row 13.33, row 20 at column -15.
+    // From (-30, 0) with three columns for four rows: column -20 at row 13.33, row 20 at column
+    // -15.
     EXPECT_NEAR(from.y(), 40.0 / 3, 1e-12);
     EXPECT_DOUBLE_EQ(to.x(), -15);
 }

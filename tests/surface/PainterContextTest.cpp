@@ -14,7 +14,7 @@ namespace {
 
 constexpr int row = 10;
 
-/// How much of the columns from `first` up to `last` (not included) of a picture's row is black.
+/// The amount of black in the columns from `first` to `last` (exclusive) of a row.
 double inkOfRow(const QImage& image, int first, int last)
 {
     double ink = 0;
@@ -23,7 +23,7 @@ double inkOfRow(const QImage& image, int first, int last)
     return ink;
 }
 
-/// Ink of a row of segments of `length` pixels from column 0 to 400, one call each.
+/// The ink of a row of segments of `length` pixels from column 0 to 400, one call each.
 double inkOfSegments(int style, int length)
 {
     Picture picture;
@@ -41,8 +41,8 @@ int percentOfSolid(int style, int length)
 const std::vector<QPoint> zigzag = {{10, 40},   {60, 40},   {60, 90},   {130, 20},
                                     {200, 130}, {201, 131}, {300, 133}, {380, 30}};
 
-/// The picture of the zigzag; `joined` draws it in one go, otherwise each segment is finished
-/// first.
+/// The picture of the zigzag: drawn at once if `joined`, otherwise with each segment completed
+/// before the next.
 QImage zigzagPicture(const Pen& pen, bool joined)
 {
     Picture picture;
@@ -74,10 +74,10 @@ QImage lineWith(const Pen& pen)
 
 } // namespace
 
-// Measured on the platform's own pens: the share of the pixels of a row of segments of 2, 5, 10, 20
-// and 400 pixels, each with a pen of its own, that is inked. It follows from the pen patterns 18 6
-// / 3 3 / 9 6 3 6 / 9 3 3 3 3 3 (pixels on and off) when every segment begins with a whole dash: 20
-// pixels of a dashed line hold 18 of ink, 90 %; 400 pixels 16 times 18 and 16 more, 304 or 76 %.
+// Measured on the original platform's pens: the share of inked pixels in a row of segments of 2, 5,
+// 10, 20 and 400 pixels, each with its own pen. It follows from the patterns 18 6 / 3 3 / 9 6 3 6 /
+// 9 3 3 3 3 3 (pixels on and off) if every segment begins with a whole dash: of 20 pixels of a
+// dashed line 18 are inked, 90 %; of 400 pixels 16 times 18 and 16 more, 304 or 76 %.
 struct MeasuredInk
 {
     int style;
@@ -133,7 +133,7 @@ TEST(PainterContext, drawsPensOfWidthZeroOnePixelWide)
         EXPECT_EQ(lineWith({style, 0, 0}), lineWith({style, 1, 0})) << style;
 }
 
-TEST(PainterContext, takesRedFromTheLowByteOfAColour)
+TEST(PainterContext, readsRedFromTheLowByteOfAColour)
 {
     Picture picture;
     picture.context().fillRectangle({0, 0, 10, 10}, 0x00010203);
@@ -162,9 +162,8 @@ TEST(PainterContext, joinsThinSegmentsToTheSamePictureAsSingleOnes)
 
 TEST(PainterContext, joinsThickSegmentsToThePictureOfSingleOnesButForBlending)
 {
-    // Where two smoothed segments meet, single ones blend twice: a pixel that each covers to the
-    // share c shows 1 - (1 - c)^2 instead of c. The difference is at most 1/4 (at c = 1/2), 64 of
-    // 255.
+    // Where two antialiased segments meet, separate ones blend twice: a pixel with coverage c gets
+    // 1 - (1 - c)^2 instead of c. The difference is at most 1/4 (at c = 1/2), 64 of 255.
     for (const int width : {2, 3, 5})
         EXPECT_LE(largestDifference(zigzagPicture({penstyle::solid, width, 0}, true),
                                     zigzagPicture({penstyle::solid, width, 0}, false)),
@@ -174,9 +173,9 @@ TEST(PainterContext, joinsThickSegmentsToThePictureOfSingleOnesButForBlending)
 
 TEST(PainterContext, drawsThinLinesThroughTheMiddleOfTheirPixels)
 {
-    // A line of one pixel width inks, at each step of its longer side, the two pixels around it:
-    // the nearer one all the more. Slope 1/4 over 80 columns, to all four sides; every fourth pixel
-    // is hit exactly, half-way between them the two share the ink.
+    // A line one pixel wide inks, at each step of its longer side, the two pixels around it in
+    // proportion to their nearness. Slope 1/4 over 80 columns, in all directions: every fourth
+    // pixel is hit exactly, half-way between them two pixels share the ink.
     for (const QPoint way : {QPoint(80, 20), QPoint(80, -20), QPoint(-80, 20), QPoint(-80, -20),
                              QPoint(20, 80), QPoint(-20, 80), QPoint(20, -80), QPoint(-20, -80)}) {
         Picture picture;
@@ -278,7 +277,7 @@ TEST(PainterContext, drawsMoreConnectedSegmentsThanFitIntoOnePolyline)
 
 TEST(ScreenFont, hasItsPixelsAtNinetySixPerInch)
 {
-    // 8 points are 8 * 96 / 72 = 10.67 pixels, 12 points 16, and less than a pixel is one.
+    // 8 points are 8 * 96 / 72 = 10.67 pixels, 12 points are 16; the minimum is one pixel.
     EXPECT_EQ(screenFont({QStringLiteral("Arial"), 8}).pixelSize(), 11);
     EXPECT_EQ(screenFont({QStringLiteral("Arial"), 12}).pixelSize(), 16);
     EXPECT_EQ(screenFont({QStringLiteral("Arial"), 0}).pixelSize(), 1);

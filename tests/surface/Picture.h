@@ -7,7 +7,7 @@
 
 namespace tarsil::test {
 
-/// A white image of 400 x 300 pixels and the context that draws on it.
+/// A white image of 400 x 300 pixels and a context that draws on it.
 class Picture
 {
 public:
@@ -25,7 +25,7 @@ public:
         return m_image;
     }
 
-    /// Bounds of all pixels that are not white.
+    /// The bounds of all pixels that are not white.
     QRect ink()
     {
         QRect bounds;

@@ -13,7 +13,7 @@ TEST(RoundToPixel, roundsToTheNearestPixel)
     EXPECT_EQ(roundToPixel(-2.6), -3);
 }
 
-TEST(RoundToPixel, takesTheEvenPixelOfATie)
+TEST(RoundToPixel, choosesTheEvenPixelOfATie)
 {
     EXPECT_EQ(roundToPixel(0.5), 0);
     EXPECT_EQ(roundToPixel(1.5), 2);
@@ -37,7 +37,7 @@ TEST(RoundToPixel, decidesByWhatIsMoreThanNoise)
 
 TEST(RoundToPixel, staysFarOutsideOfAnySurfaceForWhatIsFartherStill)
 {
-    // 2^26 = 67,108,864: twice of it still fits into 32 bits, so that an origin can be added.
+    // 2^26 = 67,108,864: twice that fits into 32 bits, so that an origin can be added.
     EXPECT_EQ(roundToPixel(1e30), 67108864);
     EXPECT_EQ(roundToPixel(-1e30), -67108864);
     EXPECT_EQ(roundToPixel(std::numeric_limits<double>::infinity()), 67108864);

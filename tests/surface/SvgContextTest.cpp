@@ -25,7 +25,7 @@ QByteArray svgOf(const Drawing& draw)
     return surface.bytes();
 }
 
-/// Expects the SVG to show what the screen shows of the same calls.
+/// Expects the SVG to show the same as the screen.
 void expectTheScreen(const Drawing& draw)
 {
     SvgSurface svg;
@@ -43,7 +43,7 @@ QStringList list(std::initializer_list<const char*> texts)
     return all;
 }
 
-/// The elements of a name with one attribute of each.
+/// An attribute of all elements of a name.
 QStringList attributesOf(const QByteArray& svg, QStringView element, QStringView attribute)
 {
     QStringList values;
@@ -114,7 +114,7 @@ TEST(SvgContext, cutsLinesWhereTheirEndsAreNotSeen)
         context.drawLine({0, 120}, {100000, 120}, {penstyle::solid, 4, 0});
         context.drawLine({0, 90}, {400, 90}, {penstyle::solid, 4, 0});
     });
-    // Half the width and one pixel beyond the clip; the second line lies farther away than that.
+    // Half the width and one pixel beyond the clip; the second line is further away.
     EXPECT_EQ(attributesOf(svg, u"polyline", u"points"), list({"97,120.5 153,120.5"}));
 }
 
@@ -128,7 +128,7 @@ TEST(SvgContext, beginsTheDashesWhereTheLineBeginsAndNotWhereItIsCut)
     SvgSurface svg;
     draw(svg.context());
     const QImage image = svg.image();
-    // Dashes of 18 pixels with gaps of 6: from column 10.5 on the fifth begins at 106.5.
+    // Dashes of 18 pixels with gaps of 6: from column 10.5 the fifth begins at 106.5.
     EXPECT_EQ(image.pixelColor(103, 20), Qt::white);
     EXPECT_EQ(image.pixelColor(110, 20), Qt::black);
     expectTheScreen(draw);
@@ -152,7 +152,7 @@ TEST(SvgContext, writesEachClipPathOnce)
             context.setClip({left, 0, 40, 40});
             context.fillRectangle({left, 5, 10, 10}, 0);
         }
-        context.setClip({1, 2, 3, 4}); // nothing is drawn under it
+        context.setClip({1, 2, 3, 4}); // nothing is drawn under this clip
     });
     EXPECT_EQ(attributesOf(svg, u"clipPath", u"id"), list({"clip1", "clip2"}));
     EXPECT_EQ(attributesOf(svg, u"g", u"clip-path"),
@@ -201,7 +201,7 @@ TEST(SvgContext, isWellFormedWhateverTextsAndNamesHold)
             font.family = text;
             context.drawText({10, 10}, text, font, 0, TextAlignment::TopLeft);
         }
-        // One title and one text, with the very characters that can be shown.
+        // One title and one text, with exactly the characters that can be shown.
         EXPECT_EQ(attributesOf(svg, u"text", u"onmouseover"), QStringList(QString()));
         EXPECT_TRUE(attributesOf(svg, u"script", u"id").isEmpty());
         QXmlStreamReader xml(svg);

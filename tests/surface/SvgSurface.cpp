@@ -145,7 +145,7 @@ private:
     QXmlStreamReader m_xml;
     QImage m_image;
     QPainter m_painter;
-    QString m_path; ///< the clip path that is being read
+    QString m_path; ///< the clip path being read
     QHash<QString, QRectF> m_paths;
 };
 

@@ -9,13 +9,12 @@
 
 namespace tarsil::test {
 
-/// The picture that an SVG of `SvgContext` shows on white. The player knows the elements that such
-/// a picture is made of, and raises std::runtime_error for any other and for XML that is not well
-/// formed.
+/// The picture that an SVG of `SvgContext` shows on white. Throws std::runtime_error for any
+/// element that `SvgContext` does not write, and for XML that is not well-formed.
 QImage playSvg(const QByteArray& svg);
 
-/// An SVG in memory, and what the player makes of it on 400 x 300 pixels. Looking at it ends the
-/// drawing; another one, empty, takes its place.
+/// An SVG in memory, and its picture of 400 x 300 pixels. Asking for the picture ends the drawing
+/// and starts an empty one.
 class SvgSurface
 {
 public:

@@ -18,7 +18,7 @@ int sumOf(const std::vector<int>& advances)
     return std::accumulate(advances.begin(), advances.end(), 0);
 }
 
-/// The width that Qt gives the text that it draws.
+/// The width that Qt gives the drawn text.
 int drawnWidth(const QString& text)
 {
     return QFontMetrics(screenFont(arial)).horizontalAdvance(drawableText(text));
@@ -68,7 +68,7 @@ TEST(TextMetrics, followsTheFontThatItIsAskedFor)
     EXPECT_EQ(metrics.ascent(arial), small);
 }
 
-TEST(TextMetrics, takesAnyNumberOfPoints)
+TEST(TextMetrics, acceptAnyNumberOfPoints)
 {
     constexpr double infinite = std::numeric_limits<double>::infinity();
     EXPECT_EQ(pixelSize({QStringLiteral("Arial"), 72}), 96);

@@ -1,4 +1,4 @@
-// The metafile of a plot as other programs show it, where they are installed.
+// The metafile of a plot in other programs, if they are installed.
 
 #include "analysis/ModeBuilder.h"
 #include "support/ChangeSeries.h"
@@ -26,8 +26,8 @@ protected:
     EmfElsewhere()
     {
         plot.resize({800, 600});
-        // A curve from corner to corner shows where the canvas' clip is, and its ends where the
-        // axes are.
+        // A curve from corner to corner shows the clip of the canvas, and its ends show the
+        // positions of the axes.
         plot.rows().add(
             addMode(evolution, 1, {{0, -0.02F, 10}, {350, -0.1F, 20}, {700, 0.05F, 80}}));
         plot.rows().add(addMode(evolution, 2, {{0, -0.2F, 45}, {700, -0.1F, 30}}));
@@ -49,23 +49,23 @@ protected:
 
     QString path(std::string_view name) const { return QString::fromStdString(folder.file(name)); }
 
-    /// Has a program make "plot.png" of the metafile.
+    /// Lets a program convert the metafile to "plot.png".
     QImage convert(const QString& program, const QStringList& arguments)
     {
-        constexpr int patience = 120000; // milliseconds; the first start prepares a profile
+        constexpr int patience = 120000; // milliseconds; the first start creates a profile
         QProcess process;
         process.start(program, arguments);
         EXPECT_TRUE(process.waitForFinished(patience)) << process.errorString().toStdString();
         return QImage(path("plot.png")).convertToFormat(QImage::Format_RGB32);
     }
 
-    /// Three pixels for rounding, for letters drawn by other means, and for a scale.
+    /// A tolerance of three pixels for rounding, other text rendering, and scaling.
     void expectTheScreen(const QImage& shown)
     {
         constexpr int tolerance = 3;
         const QImage screen = plot.Image();
         test::expectSameInk(shown, screen, tolerance, 0.98);
-        // Each text by itself, so that none of them can be missing.
+        // Compares each text separately, so that none can be missing.
         const QRect canvas = plot.parts().vgPlot.geometry();
         const int axis = plot.parts().velAxis.geometry().center().y();
         const std::vector<std::pair<const char*, QRect>> parts = {
@@ -86,7 +86,7 @@ protected:
     EvmPlot plot;
 };
 
-/// A picture on white, as large as the plot.
+/// The picture on a white background of this size.
 QImage laidOnWhite(const QImage& picture, QPoint corner, QSize size)
 {
     QImage ground(size, QImage::Format_RGB32);
@@ -108,8 +108,7 @@ TEST_F(EmfElsewhere, looksLikeTheScreenInLibreOffice)
                                  QStringLiteral("png"), QStringLiteral("--outdir"),
                                  QString::fromStdString(folder.path().string()), path("plot.emf")});
     ASSERT_FALSE(page.isNull());
-    // The page is larger than the picture and shows it at a scale of its own: the inks are laid
-    // over each other.
+    // The page is larger than the picture and has another scale: the inks are superimposed.
     const QRect onScreen = test::inkBounds(plot.Image());
     const QRect onPage = test::inkBounds(page);
     const double scale = double(onPage.width()) / onScreen.width();

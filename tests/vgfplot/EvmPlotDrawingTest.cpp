@@ -1,4 +1,4 @@
-// What a V-g-f plot draws, on the screen and into a caller's context.
+// What a V-g-f plot draws on the screen and into other contexts.
 
 #include "analysis/ModeBuilder.h"
 #include "support/ChangeSeries.h"
@@ -22,7 +22,7 @@ const QColor black(Qt::black);
 
 /// A plot of 800 x 600 pixels with a level curve of 25 Hz and damping -0.125 in blue. The canvases
 /// begin at column 80 and row 78, the speed axis is row 330, and each half is 252 rows high: 25 of
-/// 50 Hz are row 78 + 126 = 204, and half of the way down to -0.25 is row 330 + 126 = 456.
+/// 50 Hz are row 78 + 126 = 204, and half of the way to -0.25 is row 330 + 126 = 456.
 class EvmPlotDrawing : public ::testing::Test
 {
 protected:
@@ -44,7 +44,7 @@ std::string textOf(QPoint point)
     return std::to_string(point.x()) + "," + std::to_string(point.y());
 }
 
-/// The calls that begin a part: its origin, when it is not the set back one.
+/// The calls that start a part: its origin, unless it is the reset one.
 std::vector<std::string> originsOf(const RecordingContext& context)
 {
     std::vector<std::string> origins;
@@ -128,7 +128,7 @@ TEST_F(EvmPlotDrawing, followsANewScaleWithoutBeingPlottedAgain)
 {
     plot.plot();
     plot.SetScale(0, 700, 0, 100, 0, -0.25F);
-    // 25 of 100 Hz are three quarters of the 252 rows down from row 78.
+    // 25 of 100 Hz are three quarters of 252 rows below row 78.
     EXPECT_EQ(pixel(400, 78 + 189), blue);
     EXPECT_EQ(pixel(400, 204), white);
 }
@@ -138,7 +138,7 @@ TEST_F(EvmPlotDrawing, followsANewSizeWithoutBeingPlottedAgain)
     plot.plot();
     plot.resize({400, 300});
     EXPECT_EQ(plot.Image().size(), QSize(400, 300));
-    // Top 39, half 126 rows: 25 Hz are row 39 + 63.
+    // The top is 39, the half 126 rows: 25 Hz are row 39 + 63.
     EXPECT_EQ(pixel(200, 102), blue);
 }
 
@@ -163,7 +163,7 @@ TEST_F(EvmPlotDrawing, showsDampingLinesAtOnce)
 TEST_F(EvmPlotDrawing, showsReferenceSpeedsAtOnce)
 {
     plot.Image();
-    plot.marks().AddRef(350, {}); // at 80 + 300; the mark reaches 12 rows above the axis
+    plot.marks().AddRef(350, {}); // at 80 + 300; the mark extends 12 rows above the axis
     EXPECT_EQ(pixel(380, 330 - 8), black);
     plot.marks().RemoveRef();
     EXPECT_EQ(pixel(380, 330 - 8), white);
@@ -195,8 +195,8 @@ TEST_F(EvmPlotDrawing, hasAllPixelsOfAFinerScreen)
 
 TEST_F(EvmPlotDrawing, putsCurveAndTickOfOneValueOnTheSamePixelsOfAScreenOfAnyRatio)
 {
-    // Level curves at the values of ticks, 10 to 40 Hz and -0.05 to -0.2; of each, the rows of ink
-    // in a column of the tick and in one of the curve.
+    // Level curves at the values of ticks, 10 to 40 Hz and -0.05 to -0.2; compares the rows of ink
+    // in a column of the tick and one of the curve.
     plot.rows().clear();
     for (std::int16_t k = 1; k < 5; ++k) {
         const float part = static_cast<float>(k);
@@ -275,7 +275,7 @@ TEST_F(EvmPlotDrawing, labelsTheDecimalNumbersOfTheBounds)
     plot.properties().setGthicks(4);
     RecordingContext context;
     plot.Draw(context);
-    // -0.35 / 4 = -0.0875, half-way: away from zero. The single is -0.34999999.
+    // -0.35 / 4 = -0.0875, a tie: rounds away from zero. The single is -0.34999999.
     EXPECT_THAT(context.calls(), ::testing::Contains(::testing::HasSubstr("-0.088")));
 }
 

@@ -1,4 +1,4 @@
-// Where the parts of a V-g-f plot stand.
+// The positions of the drawn items of a V-g-f plot.
 
 #include "surface/Picture.h"
 #include "vgfplot/EvmPlot.h"
@@ -19,7 +19,7 @@ protected:
         plot.resize(GetParam());
     }
 
-    /// A label stands with its left edge at `left` and its middle at `middle`, to a pixel.
+    /// Expects a label with its left edge at `left` and its middle at `middle`, to a pixel.
     static void expectLabel(const trspLabel& label, double left, double middle)
     {
         EXPECT_NEAR(label.Left(), left, 1);
@@ -31,8 +31,8 @@ protected:
     const double height;
 };
 
-// The upper half is an even number of pixels, so its lower edge is at most one pixel away, and half
-// a pixel more for the upper edge.
+// The upper half has an even number of pixels, so its lower edge is up to one pixel off, plus half
+// a pixel for the upper edge.
 constexpr double rowTolerance = 1.6;
 constexpr double columnTolerance = 0.5;
 
@@ -83,7 +83,7 @@ TEST_P(EvmPlotLayout, runsTheHeaderFromTheFrequencyTitleToTheRightEdge)
     const int left = plot.parts().freqAxislabel.Left() + plot.parts().freqAxislabel.Width();
     EXPECT_EQ(plot.Header().Left(), left);
     const double right = (1 - 0.045) * width;
-    if (right - left > 200) { // otherwise the header needs more than that for its text
+    if (right - left > 200) { // otherwise the text of the header needs more
         EXPECT_NEAR(plot.Header().Left() + plot.Header().Width(), right, 0.5);
     }
 }

@@ -56,7 +56,7 @@ protected:
     EvmPlot plot;
 };
 
-/// The texts of a metafile in their order.
+/// The texts of a metafile in order.
 QStringList textsOf(const test::EmfContents& contents)
 {
     QStringList texts;
@@ -69,16 +69,16 @@ QStringList textsOf(const test::EmfContents& contents)
 
 qsizetype placeOf(const QStringList& texts, const char* text)
 {
-    const qsizetype place = texts.indexOf(QString::fromLatin1(text));
-    EXPECT_GE(place, 0) << text;
-    return place;
+    const qsizetype area = texts.indexOf(QString::fromLatin1(text));
+    EXPECT_GE(area, 0) << text;
+    return area;
 }
 
 } // namespace
 
 TEST_F(EvmPlotPicture, looksLikeTheScreen)
 {
-    // The player of the tests draws lines without smooth edges: they agree to a pixel.
+    // The player of the tests draws without antialiasing: the pictures agree to a pixel.
     test::expectSameInk(test::playMetafile(contents(), plot.size()), plot.Image(), 1, 1.0);
 }
 
@@ -129,17 +129,17 @@ TEST_F(EvmPlotPicture, endsAtThePlotWhateverItsTextsHold)
     test::expectSameInk(test::playMetafile(contents(), plot.size()), plot.Image(), 1, 1.0);
 }
 
-TEST_F(EvmPlotPicture, showsABoxWhosePlaceLiesBeyondThePlotAsTheScreenDoes)
+TEST_F(EvmPlotPicture, showsABoxWhosePositionIsOutsideThePlotAsTheScreenDoes)
 {
     plot.texts().setText(TextBox::Legend, QStringLiteral("beyond"));
     plot.texts().move(TextBox::Legend, 15 * 1200, 15 * 100);
-    const QRect place = plot.Legend().geometry();
-    EXPECT_TRUE(plot.Image().rect().contains(place));
+    const QRect area = plot.Legend().geometry();
+    EXPECT_TRUE(plot.Image().rect().contains(area));
     EXPECT_EQ(pictureImage(plot, 1), plot.Image());
     test::expectSameInk(test::playMetafile(contents(), plot.size()), plot.Image(), 1, 1.0);
-    const QImage shown = plot.Image().copy(place);
+    const QImage shown = plot.Image().copy(area);
     plot.texts().setText(TextBox::Legend, {});
-    EXPECT_NE(plot.Image().copy(place), shown);
+    EXPECT_NE(plot.Image().copy(area), shown);
 }
 
 TEST_F(EvmPlotPicture, showsSlantedLettersAsTheScreenDoes)
@@ -208,7 +208,7 @@ TEST_F(EvmPlotPicture, isAWellFormedSvgWhateverTheTextsHold)
     }
 }
 
-TEST_F(EvmPlotPicture, takesNothingButNamesOfFontsIntoAnSvg)
+TEST_F(EvmPlotPicture, writesNothingButNamesOfFontsIntoAnSvg)
 {
     const auto svgWith = [this](const char* face) {
         plot.texts().setTextRTF(TextBox::Header,
@@ -230,7 +230,7 @@ TEST_F(EvmPlotPicture, keepsThickPensWithinTheCanvasInAnSvg)
     test::changeAllSeries(plot, [](Series& series) { series.LineWidth = 40; });
     const QImage svg = test::playSvg(pictureBytes(plot, PictureFormat::Svg));
     test::expectSameInk(svg, plot.Image(), 1, 1.0);
-    // Left of the canvases, above the frequency axis, there is nothing but its labels.
+    // Left of the canvases, above the frequency axis, are only its labels.
     EXPECT_EQ(svg.copy(0, 60, 20, 500), plot.Image().copy(0, 60, 20, 500));
 }
 

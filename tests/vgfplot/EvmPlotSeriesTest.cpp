@@ -1,4 +1,4 @@
-// The series of a V-g-f plot, and the frequency axis that fits them.
+// The series of a V-g-f plot, and fitting the frequency axis.
 
 #include "analysis/ModeBuilder.h"
 #include "support/Errors.h"
@@ -56,7 +56,7 @@ using Bounds = std::pair<float, float>;
 
 } // namespace
 
-TEST_F(EvmPlotSeries, takeTheBaseColoursInTurnAndTheirNumberAsTag)
+TEST_F(EvmPlotSeries, getTheBaseColoursInTurnAndTheirNumberAsTag)
 {
     addSeries(9);
     const SeriesList& series = plot.SeriesCollection();
@@ -127,7 +127,7 @@ TEST_F(EvmPlotSeries, cannotMoveOutOfTheCollection)
     EXPECT_THAT(tags(), ElementsAre("0", "1", "2"));
 }
 
-TEST_F(FitFreq, takesFivePercentMoreThanTheFrequenciesInWholeHertz)
+TEST_F(FitFreq, addsFivePercentToTheFrequenciesInWholeHertz)
 {
     // 20 * 0.95 = 19 and 40 * 1.05 = 42.
     EXPECT_EQ(fit({{550, 0, 20}, {600, 0, 30}, {650, 0, 40}}), Bounds(19.0F, 42.0F));
@@ -137,7 +137,7 @@ TEST_F(FitFreq, roundsTiesToEven)
 {
     // 10 * 0.95 = 9.5 -> 10 and 30 * 1.05 = 31.5 -> 32.
     EXPECT_EQ(fit({{550, 0, 10}, {600, 0, 30}}), Bounds(10.0F, 32.0F));
-    // With 50 Hz in sight as well: 50 * 1.05 = 52.5 -> 52.
+    // With 50 Hz visible as well: 50 * 1.05 = 52.5 -> 52.
     EXPECT_EQ(fit({{550, 0, 50}, {600, 0, 30}}), Bounds(10.0F, 52.0F));
 }
 
@@ -154,18 +154,18 @@ TEST_F(FitFreq, leavesOutPointsAtTheHighestSpeedAndAtEightTenthsOfTheLowest)
     EXPECT_EQ(fit({{400, 0, 1}, {600, 0, 20}, {650, 0, 40}, {700, 0, 100}}), Bounds(19.0F, 42.0F));
 }
 
-TEST_F(FitFreq, takesPointsJustInsideTheRange)
+TEST_F(FitFreq, includesPointsJustInsideTheRange)
 {
     EXPECT_EQ(fit({{400.5F, 0, 20}, {699.5F, 0, 40}}), Bounds(19.0F, 42.0F));
 }
 
-TEST_F(FitFreq, takesPointsBelowTheLowestSpeedWithAMargin)
+TEST_F(FitFreq, includesPointsBelowTheLowestSpeedWithAMargin)
 {
-    // 450 lies below vmin = 500, but above 400.
+    // 450 is below vmin = 500 but above 400.
     EXPECT_EQ(fit({{450, 0, 20}, {600, 0, 40}}), Bounds(19.0F, 42.0F));
 }
 
-TEST_F(FitFreq, takesEightyFivePercentBelowWhenTheBoundsFallTogether)
+TEST_F(FitFreq, usesEightyFivePercentBelowWhenTheBoundsAreEqual)
 {
     // 5 * 0.95 = 4.75 -> 5 and 5 * 1.05 = 5.25 -> 5; then 5 * 0.85 = 4.25 -> 4.
     EXPECT_EQ(fit({{550, 0, 5}, {600, 0, 5}}), Bounds(4.0F, 5.0F));
@@ -188,7 +188,7 @@ TEST_F(FitFreq, leavesSpeedsAndDampingsAsTheyAre)
 {
     fit({{550, 0, 20}, {600, 0, 40}});
     EXPECT_EQ(plot.axes().bounds(), (PlotBounds {500, 700, 19, 42, 0, -0.25F}));
-    // The canvas follows: 42 Hz at its upper edge.
+    // The canvas follows: 42 Hz is at its upper edge.
     EXPECT_EQ(plot.parts().vfPlot.pixelOf(500, 42), QPoint(0, 0));
 }
 

@@ -9,7 +9,7 @@ using namespace tarsil;
 
 namespace {
 
-/// Gives every property a value that is not its default.
+/// Sets every property to a value other than its default.
 void setAllProperties(EvmPlot& plot)
 {
     plot.properties().setCaption(QStringLiteral("Wing"));
@@ -54,7 +54,7 @@ TEST(EvmPlot, countsHeaderLegendAndSubtitleAsBoxes0To2)
     EXPECT_EQ(&plot.Mechanism(), &plot.parts().box(TextBox::Mechanism));
 }
 
-TEST(EvmPlot, takesItsScaleAsSpeedsFrequenciesAndDampings)
+TEST(EvmPlot, acceptsItsScaleAsSpeedsFrequenciesAndDampings)
 {
     EvmPlot plot;
     plot.SetScale(100, 600, 5, 40, 0.05F, -0.3F);
@@ -62,7 +62,7 @@ TEST(EvmPlot, takesItsScaleAsSpeedsFrequenciesAndDampings)
     EXPECT_EQ(plot.parts().velAxis.Max(), 600);
     EXPECT_EQ(plot.parts().freqAxis.Min(), 5);
     EXPECT_EQ(plot.parts().freqAxis.Max(), 40);
-    // The numbers that a person reads in the singles.
+    // The decimal values of the singles.
     EXPECT_EQ(plot.parts().gAxis.Min(), 0.05);
     EXPECT_EQ(plot.parts().gAxis.Max(), -0.3);
 }
@@ -93,11 +93,11 @@ TEST(EvmPlot, setsTheScaleOfBothCanvasesWithTheAxes)
     plot.SetScale(100, 600, 5, 40, 0, -0.25F);
     const int width = plot.parts().vfPlot.Width();
     const int half = plot.parts().vfPlot.Height();
-    // fmax at the top and fmin at the bottom of the upper half.
+    // fmax is at the top and fmin at the bottom of the upper half.
     EXPECT_EQ(plot.parts().vfPlot.pixelOf(100, 40), QPoint(0, 0));
     EXPECT_EQ(plot.parts().vfPlot.pixelOf(600, 5), QPoint(width, half));
-    // gmin in the middle and gmax at the bottom of both halves; the top is as far on the other
-    // side.
+    // gmin is in the middle and gmax at the bottom of both halves; the top is symmetric to the
+    // bottom.
     EXPECT_EQ(plot.parts().vgPlot.pixelOf(100, 0), QPoint(0, half));
     EXPECT_EQ(plot.parts().vgPlot.pixelOf(600, -0.25), QPoint(width, 2 * half));
     EXPECT_EQ(plot.parts().vgPlot.pixelOf(350, 0.25), QPoint(width / 2, 0));
@@ -140,7 +140,7 @@ TEST(EvmPlot, clonesIntoAPlotOfAnotherSize)
     copy.resize({400, 300});
     copy.Clone(source);
     EXPECT_EQ(copy.size(), QSize(400, 300));
-    EXPECT_EQ(copy.Legend().unitsLeft(), 4500); // stays where it was put
+    EXPECT_EQ(copy.Legend().unitsLeft(), 4500); // keeps its position
     EXPECT_EQ(copy.parts().vfPlot.Width(), 300);
 }
 
@@ -154,7 +154,7 @@ TEST(EvmPlot, doesNotCloneTheSeries)
     EXPECT_TRUE(copy.SeriesCollection().empty());
 }
 
-TEST(EvmPlot, tellsThatItsPictureHasChanged)
+TEST(EvmPlot, reportsThatItsPictureHasChanged)
 {
     EvmPlot plot;
     int count = 0;

@@ -1,5 +1,5 @@
-// The axes and the canvases of a V-g-f plot agree: a point whose value is that of a tick falls on
-// the pixel of that tick, in every size, for all bounds and tick counts.
+// The axes and canvases of a V-g-f plot agree: a point with the value of a tick falls on the pixel
+// of that tick, in every size, for all bounds and tick counts.
 
 #include "support/RecordingContext.h"
 #include "vgfplot/EvmPlot.h"
@@ -14,7 +14,8 @@ using test::RecordingContext;
 
 namespace {
 
-/// A plot and a record of it; tick k is the stroke after axis line, end mark and the ticks before.
+/// A plot and its recorded drawing. Tick k is a stroke after the axis line, the end stroke and
+/// earlier ticks.
 class Ticks
 {
 public:
@@ -52,7 +53,7 @@ public:
         }
     }
 
-    /// Where the axis line of the speed axis and damping gmin lie, in rows of the plot.
+    /// The row of the speed axis and of damping gmin.
     int speedAxisRow() const
     {
         return m_record.strokesFrom(plot.parts().velAxis.geometry().topLeft())[0].from.y();
@@ -70,7 +71,7 @@ private:
         return static_cast<float>(first + k * ((last - first) / count));
     }
 
-    /// The end of tick k that lies nearest to the axis' left or upper end.
+    /// The end of tick k that is nearest to the axis' left or upper end.
     QPoint tick(const PlotControl& axis, int k) const
     {
         return m_record.strokesFrom(axis.geometry().topLeft())
@@ -82,7 +83,7 @@ private:
     RecordingContext m_record;
 };
 
-/// Bounds and counts such as people type them, and others.
+/// Bounds and counts as people type them, and others.
 class RandomPlots
 {
 public:
@@ -181,7 +182,7 @@ TEST(EvmPlotTicks, haveTheLowestDampingOnTheSpeedAxisInEverySize)
 TEST(EvmPlotTicks, showADampingBeyondTheLowestAboveTheSpeedAxis)
 {
     const Ticks ticks({800, 600}, {});
-    // The axis is row 330, and 0.25 are 252 pixels: 0.125 are 126.
+    // The axis is row 330, and 0.25 is 252 pixels: 0.125 is 126.
     EXPECT_EQ(ticks.speedAxisRow(), 330);
     EXPECT_EQ(ticks.rowOfDamping(0.125), 204);
     EXPECT_EQ(ticks.rowOfDamping(-0.125), 456);

@@ -10,7 +10,7 @@ using test::addMode;
 
 namespace {
 
-/// An evolution of `modes` modes, level at 10, 20, ... Hz from 100 to 600 knots.
+/// An evolution of `modes` modes, level at 10, 20, ... Hz from 100 to 600 KEAS.
 std::unique_ptr<EVM> evolutionOf(const std::string& name, std::int16_t modes, float mach = 0)
 {
     auto evolution = std::make_unique<EVM>();
@@ -32,7 +32,7 @@ protected:
     EvolutionPlotter() : one(evolutionOf("one.evm", 3, 0.5F)), two(evolutionOf("two.evm", 2, 0.8F))
     { }
 
-    /// Draws every mode of these.
+    /// Draws every mode of these evolutions.
     std::size_t plotAll(const std::vector<EVM*>& evolutions)
     {
         std::vector<EvolutionCurves> files;

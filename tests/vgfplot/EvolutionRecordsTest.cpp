@@ -40,7 +40,7 @@ TEST_F(EvolutionRecords, areEmptyWhereEverythingIsAsInTheFiles)
 {
     EXPECT_TRUE(editedRecordsOf(evolutions()).empty());
     two.Param.Mach = 0.8F;
-    two.Param.Mach = 0.78F; // back again
+    two.Param.Mach = 0.78F; // the original value
     EXPECT_TRUE(editedRecordsOf(evolutions()).empty());
 }
 
@@ -80,6 +80,6 @@ TEST_F(EvolutionRecords, knowTheFileAlsoAfterAnotherEvolutionWasTakenOver)
 {
     EVM other;
     other.Param.Mass = "OTHER";
-    two.Change(other); // takes the modes
+    two.Change(other); // replaces the modes
     EXPECT_TRUE(editedRecordsOf(evolutions()).empty());
 }

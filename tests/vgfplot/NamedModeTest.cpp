@@ -1,4 +1,4 @@
-// What the series of a workspace name.
+// The evolutions and modes of the series of a workspace.
 
 #include "vgfplot/NamedMode.h"
 #include "model/EVM.h"

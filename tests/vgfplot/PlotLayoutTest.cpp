@@ -5,7 +5,7 @@
 using tarsil::BoxSizes;
 using tarsil::layOutPlot;
 using tarsil::PlotLayout;
-using tarsil::shownPlace;
+using tarsil::shownRectangle;
 using tarsil::TitleSizes;
 
 namespace {
@@ -32,7 +32,7 @@ QPoint usualLegend(QSize plot, QSize legend)
 TEST(PlotLayout, putsTheCanvasesAtTheirFractionsOfThePlot)
 {
     const PlotLayout layout = layoutOf({800, 600});
-    // 0.1 and 0.75 of 800, 0.13 of 600; a half is twice 0.21 of 600.
+    // 0.1 and 0.75 of 800, 0.13 of 600; the half is twice 0.21 of 600.
     EXPECT_EQ(layout.vfPlot, QRect(80, 78, 600, 252));
     EXPECT_EQ(layout.vgPlot, QRect(80, 78, 600, 504));
 }
@@ -116,7 +116,7 @@ TEST(PlotLayout, showsAMovedBoxAtItsPositionOrTheNearestOneInThePlot)
 
 TEST(PlotLayout, coversThePlotWithABoxThatIsLarger)
 {
-    EXPECT_EQ(shownPlace({-150, 500, 1000, 200}, {800, 600}), QRect(-150, 400, 1000, 200));
-    EXPECT_EQ(shownPlace({-500, 500, 1000, 200}, {800, 600}), QRect(-200, 400, 1000, 200));
-    EXPECT_EQ(shownPlace({50, 500, 1000, 200}, {800, 600}), QRect(0, 400, 1000, 200));
+    EXPECT_EQ(shownRectangle({-150, 500, 1000, 200}, {800, 600}), QRect(-150, 400, 1000, 200));
+    EXPECT_EQ(shownRectangle({-500, 500, 1000, 200}, {800, 600}), QRect(-200, 400, 1000, 200));
+    EXPECT_EQ(shownRectangle({50, 500, 1000, 200}, {800, 600}), QRect(0, 400, 1000, 200));
 }

@@ -52,15 +52,15 @@ TEST(PlotMarks, reportReferenceSpeedsThatAreNotAtTheirSpeeds)
     plot.SetScale(100, 500, 0, 20, 0, -0.5F);
     EXPECT_EQ(plot.marks().shiftNote(), QString()) << "there is none";
     plot.marks().AddRef(350, QStringLiteral("VD"));
-    // On an axis from 100 to 500 the mark of 350 stands 350 / 400 of the way along, where 450 is.
+    // On an axis from 100 to 500 the mark of 350 is drawn at 350 / 400 of the width, where 450 is.
     EXPECT_EQ(
         plot.marks().shiftNote(),
-        QStringLiteral("Reference speeds stand 100 knots too far right: the speed axis begins "
+        QStringLiteral("Reference speeds are drawn 100 knots too far right: the speed axis begins "
                        "at 100"));
     plot.SetScale(-52.5F, 500, 0, 20, 0, -0.5F);
     EXPECT_EQ(
         plot.marks().shiftNote(),
-        QStringLiteral("Reference speeds stand 52.5 knots too far left: the speed axis begins "
+        QStringLiteral("Reference speeds are drawn 52.5 knots too far left: the speed axis begins "
                        "at -52.5"));
     plot.SetScale(0, 500, 0, 20, 0, -0.5F);
     EXPECT_EQ(plot.marks().shiftNote(), QString());

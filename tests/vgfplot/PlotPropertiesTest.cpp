@@ -13,7 +13,7 @@ const QStringList propertyKeys = {QStringLiteral("Caption"), QStringLiteral("Mod
                                   QStringLiteral("fThicks"), QStringLiteral("vLabel"),
                                   QStringLiteral("gLabel"),  QStringLiteral("fLabel")};
 
-/// Gives every property a value that is not its default.
+/// Sets every property to a value other than its default.
 void setAllProperties(EvmPlot& plot)
 {
     plot.properties().setCaption(QStringLiteral("Wing"));

@@ -1,10 +1,10 @@
-// The values under a pixel of the plot. Every plot is 800 x 600, so its canvases are, by the
-// fractions of the layout,
+// The values at a pixel of the plot. Every plot is 800 x 600, so by the fractions of the layout its
+// canvases are
 //
 //     left 0.1 * 800 = 80, width 0.75 * 800 = 600, top 0.13 * 600 = 78, half 0.42 * 600 = 252,
 //
 // and the speed axis is row 78 + 252 = 330. With 600 KEAS, 63 Hz and a damping of -0.252 at the
-// ends of the axes a column is 1 KEAS, a row above the speed axis 63 / 252 = 0.25 Hz, and a row
+// ends of the axes, a column is 1 KEAS, a row above the speed axis 63 / 252 = 0.25 Hz, and a row
 // below it -0.252 / 252 = -0.001:
 //
 //     column = 80 + V        row = 330 - 4 f        row = 330 - 1000 g
@@ -23,7 +23,7 @@ namespace {
 using Ordinate = PlotReading::Ordinate;
 
 constexpr double tiny = 1e-9; ///< rounding of a few operations in double precision
-constexpr double single = 1e-6; ///< the values of points are singles
+constexpr double single = 1e-6; ///< values of points are singles
 
 class PlotReadingTest : public ::testing::Test
 {
@@ -40,13 +40,14 @@ protected:
         return plot.rows().add(addMode(evolution, nextMode++, points));
     }
 
-    /// A curve of one frequency from 100 to 300 KEAS, far from the speed axis in the V-g canvas.
+    /// Draws a curve of one frequency from 100 to 300 KEAS, far from the speed axis in the V-g
+    /// canvas.
     RowId drawLevel(float frequency)
     {
         return draw({{100, -0.2F, frequency}, {300, -0.2F, frequency}});
     }
 
-    /// A curve of one damping from 100 to 300 KEAS, at the upper end of the V-f canvas.
+    /// Draws a curve of one damping from 100 to 300 KEAS, at the upper end of the V-f canvas.
     RowId drawLevelDamping(float damping) { return draw({{100, damping, 60}, {300, damping, 60}}); }
 
     std::optional<CurveReading> curveAt(int column, int row)
@@ -112,7 +113,7 @@ TEST_F(PlotReadingTest, countsFromTheLowerBoundsOfTheAxes)
 {
     plot.SetScale(100, 400, 10, 31, -0.1F, -0.352F);
     // 300 KEAS in 600 columns: 100 + 200 / 2 = 200. 21 Hz in 252 rows: 10 + 60 / 12 = 15. The
-    // damping axis begins with -0.1 at the speed axis.
+    // damping axis starts at -0.1 on the speed axis.
     expectReading({280, 270}, 200, Ordinate::Frequency, 15);
     expectReading({280, 430}, 200, Ordinate::Damping, -0.2);
 }
@@ -148,16 +149,16 @@ TEST_F(PlotReadingTest, namesNoCurveWhenThereIsNone)
 TEST_F(PlotReadingTest, isLinearBetweenTheTwoPointsOfTheSegment)
 {
     draw({{100, -0.05F, 10}, {300, -0.15F, 20}});
-    // The V-f curve runs from (180, 290) to (380, 250): a quarter of the way is (230, 280).
+    // The V-f curve goes from (180, 290) to (380, 250): a quarter of the way is (230, 280).
     expectPlace(curveAt(230, 280), 150, 12.5, -0.075);
-    // The V-g curve runs from (180, 380) to (380, 480).
+    // The V-g curve goes from (180, 380) to (380, 480).
     expectPlace(curveAt(230, 405), 150, 12.5, -0.075);
 }
 
-TEST_F(PlotReadingTest, takesTheFootOfThePerpendicular)
+TEST_F(PlotReadingTest, findsTheFootOfThePerpendicular)
 {
     draw({{100, -0.05F, 10}, {300, -0.15F, 20}});
-    // From the middle (280, 270) at right angles to (200, -40): (282, 280) is sqrt(104) pixels off.
+    // (282, 280) is sqrt(104) pixels from the middle (280, 270), at right angles to (200, -40).
     expectPlace(curveAt(282, 280), 200, 15, -0.1);
     expectReading({282, 280}, 202, Ordinate::Frequency, 12.5);
 }
@@ -171,21 +172,21 @@ TEST_F(PlotReadingTest, reachesTwelvePixelsFar)
     EXPECT_FALSE(curveAt(280, 237).has_value());
 }
 
-TEST_F(PlotReadingTest, takesTheEndOfACurveBeyondIt)
+TEST_F(PlotReadingTest, findsTheEndOfACurveBeyondIt)
 {
     drawLevel(20);
     expectPlace(curveAt(168, 250), 100, 20, -0.2);
     EXPECT_FALSE(curveAt(167, 250).has_value());
     expectPlace(curveAt(392, 250), 300, 20, -0.2);
     EXPECT_FALSE(curveAt(393, 250).has_value());
-    // 8 and 9 pixels off in either direction: sqrt(145) is more than 12.
+    // 8 and 9 pixels off in the two directions: sqrt(145) is more than 12.
     EXPECT_FALSE(curveAt(172, 259).has_value());
 }
 
 TEST_F(PlotReadingTest, findsTheSegmentAmongMany)
 {
     draw({{100, 0, 20}, {200, -0.1F, 20}, {200, -0.2F, 40}, {300, -0.2F, 40}});
-    // The upright segment is column 280, rows 250 to 170.
+    // The vertical segment is column 280, rows 250 to 170.
     expectPlace(curveAt(285, 190), 200, 35, -0.175);
     expectPlace(curveAt(330, 170), 250, 40, -0.2);
 }
@@ -196,7 +197,7 @@ TEST_F(PlotReadingTest, findsPointsThatFallOnOnePixel)
     expectPlace(curveAt(283, 254), 200, 20, -0.1);
 }
 
-TEST_F(PlotReadingTest, takesTheNearestOfSeveralCurves)
+TEST_F(PlotReadingTest, findsTheNearestOfSeveralCurves)
 {
     drawLevel(20); // row 250
     drawLevel(24); // row 234
@@ -204,7 +205,7 @@ TEST_F(PlotReadingTest, takesTheNearestOfSeveralCurves)
     EXPECT_EQ(curveAt(280, 241)->mode, 2);
 }
 
-TEST_F(PlotReadingTest, takesTheCurveOnTopOfEqualDistances)
+TEST_F(PlotReadingTest, findsTheCurveOnTopOfEqualDistances)
 {
     drawLevel(20);
     drawLevel(20);
@@ -249,8 +250,8 @@ TEST_F(PlotReadingTest, findsNothingOfACurveOutsideItsCanvas)
 TEST_F(PlotReadingTest, endsACurveWhereItLeavesTheCanvas)
 {
     draw({{100, -0.1F, 53}, {300, -0.2F, 73}});
-    // From (180, 118) to (380, 38); at the upper edge, row 78, it is in the middle. From (290, 78)
-    // the perpendicular would fall on a place outside: 25200 / 46400 of the way.
+    // From (180, 118) to (380, 38); half-way it crosses the upper edge, row 78. The perpendicular
+    // from (290, 78) would end outside, at 25200 / 46400 of the way.
     expectPlace(curveAt(290, 78), 200, 63, -0.15);
     EXPECT_FALSE(curveAt(293, 78).has_value());
 }
@@ -258,7 +259,7 @@ TEST_F(PlotReadingTest, endsACurveWhereItLeavesTheCanvas)
 TEST_F(PlotReadingTest, findsACurveThatOnlyCrossesTheCanvas)
 {
     draw({{-100, -0.2F, 20}, {900, -0.2F, 20}});
-    // The foot in column 280 is 300 / 1000 of the way.
+    // The foot of the perpendicular from column 280 is at 300 / 1000 of the way.
     expectPlace(curveAt(280, 250), 200, 20, -0.2);
 }
 
@@ -287,7 +288,7 @@ TEST_F(PlotReadingTest, passesOverAModeThatIsTooLongToBeDrawn)
     EXPECT_FALSE(curveAt(280, 250).has_value());
 }
 
-TEST_F(PlotReadingTest, tellsWhoseCurveItIs)
+TEST_F(PlotReadingTest, namesTheEvolutionOfTheCurve)
 {
     drawLevel(10);
     plot.rows().change(drawLevel(20), [](Series& one) { one.MarkerTag = QStringLiteral("B1"); });
@@ -298,7 +299,7 @@ TEST_F(PlotReadingTest, tellsWhoseCurveItIs)
     EXPECT_EQ(curve->tag, QStringLiteral("B1"));
 }
 
-TEST_F(PlotReadingTest, tellsNoEvolutionOfAModeOfNone)
+TEST_F(PlotReadingTest, namesNoEvolutionOfAModeOfNone)
 {
     drawLevel(20);
     plot.SeriesCollection().back().Mode->Parent = nullptr;

@@ -52,7 +52,7 @@ protected:
 
     std::vector<const EVM*> evolutions() const { return {&one, &two}; }
 
-    /// Fills another plot with what a file keeps of this one.
+    /// Fills another plot with what a file stores of this one.
     void throughAFile(EvmPlot& other)
     {
         WorkspaceRecord saved;
@@ -147,7 +147,7 @@ TEST_F(PlotRecords, keepThatCurvesBreakAtJumpsThroughTheBytesOfAFile)
     EXPECT_TRUE(other.properties().breaksAtJumps());
 }
 
-TEST_F(PlotRecords, takeTheMarksOfTheFileForThoseOfThePlot)
+TEST_F(PlotRecords, replaceTheReferencesOfThePlotByThoseOfTheFile)
 {
     const PlotRecord record = recordOf(plot, evolutions());
     plot.marks().AddRef(1, QStringLiteral("old"));
@@ -189,7 +189,7 @@ TEST_F(PlotRecords, keepARowThatLiesBeyondThePlot)
 
 TEST_F(PlotRecords, keepEveryCharacterOfAHeaderThatOnlyItsShortFormHoldsWhole)
 {
-    // The full form of one line in one font takes 93 characters besides the text, the short 74.
+    // The full form of one line in one font has 93 characters besides the text, the short one 74.
     for (int length = 925; length <= 945; ++length) {
         plot.texts().setText(TextBox::Header, QString(length, u'x'));
         EvmPlot other;
@@ -231,7 +231,7 @@ TEST_F(PlotRecords, leaveABoxAloneOfWhichTheyKnowNothing)
     EXPECT_FALSE(other.Legend().wasMoved());
 }
 
-TEST_F(PlotRecords, keepPlacesThatLieBeyondASmallerPlot)
+TEST_F(PlotRecords, keepPositionsOutsideASmallerPlot)
 {
     plot.resize({1600, 1000});
     plot.texts().move(TextBox::Legend, 15 * 1400.25, 15 * 300);

@@ -1,4 +1,4 @@
-// The rows of a plot: those with a series, and those whose number names no mode.
+// The rows of a plot, with and without a curve.
 
 #include "vgfplot/PlotRows.h"
 
@@ -103,7 +103,7 @@ TEST_F(PlotRowsTest, haveNoSeriesForANumberThatNamesNoMode)
     EXPECT_THAT(rows().withoutCurve(), ElementsAre(1));
 }
 
-TEST_F(PlotRowsTest, getTheirCurveBackWithItsLookInItsPlace)
+TEST_F(PlotRowsTest, getTheirCurveBackWithItsLookAtItsIndex)
 {
     for (const std::size_t index : {0U, 2U, 3U})
         setMode(index, 0);
@@ -242,7 +242,7 @@ TEST_F(PlotRowsTest, sayWhatHappensToThem)
     rows().move(2, 0);
     setMode(1, 2);
     setMode(1, 2); // again
-    rows().change(row(1).id, [](Series&) {}); // nothing
+    rows().change(row(1).id, [](Series&) {}); // changes nothing
     rows().move(1, 1);
     EXPECT_EQ(events, "?+5,2 +5,2 ?-3,1 -3,1 ?-0,2 -0,2 ?m2,1 m2,1 to 0 c1 ");
 }
@@ -260,7 +260,7 @@ TEST_F(PlotRowsTest, areUnchangedAndSilentAfterAnError)
     EXPECT_EQ(signals, 0);
 }
 
-/// Every operation beside a plain list of rows that does the same.
+/// Compares every operation with that of a plain list of rows.
 TEST_F(PlotRowsTest, areAListUnderAnyOperations)
 {
     struct Plain
@@ -290,7 +290,7 @@ TEST_F(PlotRowsTest, areAListUnderAnyOperations)
             plain.erase(plain.begin() + static_cast<std::ptrdiff_t>(from));
             plain.insert(plain.begin() + static_cast<std::ptrdiff_t>(to), moved);
         } else if (!plain.empty()) {
-            plain[from].number = static_cast<int>(upTo(8)); // 0, 6 and 7 name no mode
+            plain[from].number = static_cast<int>(upTo(8)); // 0, 6 and 7 do not exist
             setMode(from, plain[from].number);
         }
         ASSERT_EQ(rows().count(), plain.size());

@@ -48,7 +48,7 @@ TEST(PlotTexts, areShownAtTheNearestEdgeOfAPlotThatEndsBeforeTheirPosition)
     plot.texts().move(TextBox::Mechanism, 15 * 200, 15 * 950.5);
     const QSize legend = plot.Legend().geometry().size();
     const QSize subtitle = plot.Mechanism().geometry().size();
-    for (int i = 0; i < 2; ++i) { // as often as one likes
+    for (int i = 0; i < 2; ++i) { // also repeatedly
         plot.resize({800, 600});
         EXPECT_EQ(plot.Legend().geometry(), QRect(QPoint(800 - legend.width(), 300), legend));
         EXPECT_EQ(plot.Mechanism().geometry(),
@@ -70,7 +70,7 @@ TEST(PlotTexts, areShownWhereTheirBeginningCanBeReadWhenTheyDoNotFit)
     EXPECT_EQ(plot.Legend().geometry().topLeft(), QPoint(0, 0));
 }
 
-TEST(PlotTexts, areShownWholeAtTheNearestPlaceWhereTheyFit)
+TEST(PlotTexts, areShownWholeAtTheNearestPositionWhereTheyFit)
 {
     EvmPlot plot; // 800 x 600
     plot.texts().setText(TextBox::Legend, QStringLiteral("a legend\nof two lines"));

@@ -77,7 +77,7 @@ TEST(RichTextDocument, keepsTheNameOfAFaceThatIsDrawnAsAnother)
               QStringList({QStringLiteral("Arial Greek"), QStringLiteral("Arial")}));
 }
 
-TEST(RichTextDocument, takesNoFamilyThatIsNoNameOfAFont)
+TEST(RichTextDocument, acceptsNoFamilyThatIsNoNameOfAFont)
 {
     QTextCharFormat format;
     format.setFontFamilies({QStringLiteral("A\" onload=\"x")});

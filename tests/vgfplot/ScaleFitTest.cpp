@@ -23,7 +23,7 @@ void expectRange(double low, double high, const RoundRange& expected)
     EXPECT_EQ(range.steps, expected.steps) << low << " to " << high;
 }
 
-/// A step is round when its first digits are 1, 2, 2.5 or 5.
+/// A step is round if its first digits are 1, 2, 2.5 or 5.
 void expectRoundStep(double step)
 {
     const double digits = step / std::pow(10.0, std::floor(std::log10(step * (1 + 1e-6))));
@@ -33,7 +33,7 @@ void expectRoundStep(double step)
         << "step " << step;
 }
 
-/// The axes that fit one mode with these points.
+/// The axes fitted to one mode with these points.
 PlotAxes axesOf(std::initializer_list<test::DrawnPoint> points)
 {
     EVM evolution;
@@ -85,7 +85,7 @@ TEST(RoundRange, holdsWhatItWasGivenInFourToTenRoundSteps)
     }
 }
 
-TEST(RoundRange, takesStepsThatAreWholeNumbersWhereTheyAreAskedFor)
+TEST(RoundRange, usesStepsThatAreWholeNumbersOnRequest)
 {
     const auto expectWhole = [](double high, const RoundRange& expected) {
         const RoundRange range = roundRange(0, high, Steps::Whole);

@@ -8,7 +8,8 @@
 #include <random>
 #include <string>
 
-// Files that nobody saves but that may be opened: they give a record or an error, never more.
+// Files that no program saves but that may be opened: they give a record or an error, and never
+// crash.
 
 using namespace tarsil;
 using namespace tarsil::test;
@@ -18,7 +19,7 @@ namespace {
 
 const std::string whole = drawn(wholeWorkspace);
 
-/// How many files, plots and series a record has.
+/// The number of files, plots and series of a record.
 std::size_t entries(const WorkspaceRecord& record)
 {
     std::size_t sum = static_cast<std::size_t>(
@@ -29,12 +30,11 @@ std::size_t entries(const WorkspaceRecord& record)
     return sum;
 }
 
-/// Two files, a plot and two series, and a second plot of which only a wrong count speaks; what a
-/// wrong count of files says is not counted.
+/// Two files, a plot with two series, and a second plot that exists only by a wrong count. A wrong
+/// count of files is excluded.
 constexpr std::size_t mostEntries = 6;
 
-/// Whether all that a reading gives is what the whole file says, as far as it goes. Texts may be
-/// cut themselves; lists may be shorter.
+/// Whether everything in a reading is in the whole file too. Texts may be truncated, lists shorter.
 bool isPartOfTheWhole(const WorkspaceRecord& record)
 {
     const WorkspaceRecord all = wholeRecord();
@@ -49,7 +49,7 @@ bool isPartOfTheWhole(const WorkspaceRecord& record)
 
 TEST(DamagedWorkspace, isAnErrorOrARecordWhereverItIsCut)
 {
-    // The last series ends in a number, which is one from its first digit on.
+    // The last series ends in a number, which is valid from its first digit on.
     const std::size_t firstWhole = whole.rfind('\0') + 2;
     for (std::size_t size = 0; size <= whole.size(); ++size) {
         const FailedReading reading = failedReading(whole.substr(0, size));

@@ -17,13 +17,13 @@ namespace {
 class FoundFiles : public ::testing::Test
 {
 protected:
-    /// Where a file is found, in the spelling of the platform.
+    /// The path at which a file is found, in native form.
     std::string found(const std::string& stored) const
     {
         return shownPath(foundFiles({stored}, folder.file("case.tsw")).front());
     }
 
-    /// The same of several.
+    /// The paths of several files.
     std::vector<std::string> foundAll(const std::vector<std::string>& stored) const
     {
         std::vector<std::string> files = foundFiles(stored, folder.file("case.tsw"));
@@ -103,7 +103,7 @@ TEST_F(FoundFiles, areThoseThatShareMostOfTheirLastFolders)
 
 TEST_F(FoundFiles, areNotTakenByTheirNamesWhereSeveralPathsHaveThem)
 {
-    // The run of m060 is gone; that of m050 is not of this workspace.
+    // The run of m060 is gone; that of m050 does not belong to this workspace.
     const std::string listed = writeBelow("m040", "wing.ev2");
     writeBelow("m050", "wing.ev2");
     const std::string gone = folder.file("m060/wing.ev2");
@@ -148,7 +148,7 @@ TEST_F(FoundFiles, belongToThePathThatMeansThemBest)
                 ElementsAre("C:/a/wing.ev2", wing));
 }
 
-TEST_F(FoundFiles, areNotTakenFromThePathAtWhosePlaceTheyAre)
+TEST_F(FoundFiles, areNotFilesThatTheWorkspaceListsItself)
 {
     const std::string wing = writeBelow("a", "wing.ev2");
     EXPECT_THAT(foundAll({"C:\\a\\wing.ev2", wing}), ElementsAre("C:/a/wing.ev2", wing));
@@ -157,7 +157,7 @@ TEST_F(FoundFiles, areNotTakenFromThePathAtWhosePlaceTheyAre)
         << "a link leads to the same file";
 }
 
-TEST_F(FoundFiles, areAtTheirRelativePlaceFromTheWorkspaceFirst)
+TEST_F(FoundFiles, areSearchedAtTheirPathRelativeToTheWorkspaceFirst)
 {
     const test::TemporaryFolder current;
     current.write("wing.ev2", "x");
@@ -196,7 +196,7 @@ TEST_F(FoundFiles, areTwoWhereOtherPathsDifferInCase)
 
 TEST_F(FoundFiles, areFoundInAVastFolderWithTheirStoredFolders)
 {
-    constexpr int more = 20'500; // than the 20000 that are looked at
+    constexpr int more = 20'500; // more than the limit of 20000
     std::filesystem::create_directory(folder.path() / "many");
     for (int i = 0; i < more; ++i)
         std::ofstream(folder.path() / "many" / std::to_string(i)) << 'x';

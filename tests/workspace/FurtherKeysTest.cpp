@@ -8,8 +8,8 @@
 #include <limits>
 #include <string>
 
-// What only newer workspaces hold: reference speeds, damping lines, looks of curves, edited
-// parameters and the reference evolution.
+// The further keys: reference speeds, damping lines, looks of curves, edited parameters and the
+// reference evolution.
 
 using namespace tarsil;
 using namespace tarsil::test;
@@ -26,7 +26,7 @@ constexpr std::string_view furtherPlot = "RefSpeed(1)=352.1|Vd\n"
                                          "SerieLook(2)=1|3|4\n"
                                          "BreakAtJumps=1\n";
 
-/// The whole workspace with lines at the end of the section of the files and of that of the plot.
+/// The whole workspace with lines appended to the section of the files and to that of the plot.
 std::string drawing(std::string_view files, std::string_view plot)
 {
     const std::string text =
@@ -49,8 +49,8 @@ WorkspaceRecord furtherRecord()
     return record;
 }
 
-/// Whether a line in the section of the files, or of the plot, is passed over and nothing else is
-/// changed by it.
+/// Expects a line in the section of the files, or of the plot, to be ignored without any other
+/// effect.
 void expectUnused(std::string_view files, std::string_view plot, std::string_view why)
 {
     const WorkspaceReading reading = tryToReadWorkspace(drawn(drawing(files, plot)), "test.tsw");
@@ -117,7 +117,7 @@ TEST(FurtherKeys, arePassedOverWhereTheyDoNotFit)
     expectUnused("Reference=clean\n", "", "Type mismatch");
 }
 
-TEST(FurtherKeys, areReadBehindOneThatDoesNotFit)
+TEST(FurtherKeys, areReadAfterOneThatDoesNotFit)
 {
     const WorkspaceRecord record =
         readDrawn(drawing("Edited(1)=no|number\nEdited(2)=a|m|0.5\n",
@@ -125,7 +125,7 @@ TEST(FurtherKeys, areReadBehindOneThatDoesNotFit)
                           "SerieLook(1)=9|9|9\nSerieLook(2)=2|0|1\n"));
     EXPECT_EQ(record.edited, (decltype(record.edited) {{2, {"a", "m", 0.5F}}}));
     EXPECT_THAT(record.plots[0].referenceSpeeds,
-                ElementsAre(MarkRecord {1, "a"}, MarkRecord {3, "c"}));
+                ElementsAre(ReferenceRecord {1, "a"}, ReferenceRecord {3, "c"}));
     EXPECT_EQ(record.plots[0].series[0], wholeRecord().plots[0].series[0]);
     EXPECT_EQ(record.plots[0].series[1].lineStyle, 2);
 }
@@ -138,7 +138,7 @@ TEST(FurtherKeys, ofFilesAndCurvesThatThereAreNotArePassedOver)
               wholeRecord());
 }
 
-TEST(FurtherKeys, takeAFactorThatNobodyChoseForTheFirst)
+TEST(FurtherKeys, useTheFirstFactorWhereNobodyChoseOne)
 {
     const WorkspaceRecord record = readDrawn(drawing("", "SerieLook(1)=2|5|0\n"));
     EXPECT_EQ(record.plots[0].series[0].lineStyle, 2);
@@ -182,7 +182,7 @@ TEST(FurtherKeys, haveTextsOfEveryScript)
     record.plots[0].dampingLines[0].caption = "阻尼 α";
     EXPECT_THAT(writeWorkspace(record, "rivera").bytes, HasSubstr("Größe"));
     EXPECT_EQ(readBytes(writeWorkspace(record, "rivera").bytes), record);
-    // Two characters, whose bytes C3 BC are one of UTF-8.
+    // Two characters whose bytes C3 BC are one character of UTF-8.
     record.plots[0].dampingLines[0].caption = "Ã¼";
     EXPECT_EQ(readBytes(writeWorkspace(record, "rivera").bytes), record);
 }
@@ -214,7 +214,7 @@ TEST(FurtherKeys, loseOnlyTheEndOfATextThatIsTooLong)
     EXPECT_EQ(reading.record.plots, cut.plots);
 }
 
-TEST(FurtherKeys, takeAsManyMarksAsACountCanSay)
+TEST(FurtherKeys, acceptAsManyReferencesAsACountCanExpress)
 {
     std::string plot;
     for (int i = 1; i <= 40'000; ++i)

@@ -10,7 +10,7 @@ using namespace std::string_literals;
 
 namespace {
 
-/// The value of "key" in a section "S" that holds these lines.
+/// The value of "key" in a section "S" with these lines.
 std::optional<std::string> valueOf(const std::string& lines)
 {
     const std::string text = "[S]\r\n" + lines;
@@ -37,7 +37,7 @@ TEST(IniText, comparesNamesWithoutCase)
     EXPECT_EQ(ini.text("plot1", "velaxis"), "1");
 }
 
-TEST(IniText, takesTheFirstOfTwoEqualKeys)
+TEST(IniText, usesTheFirstOfTwoEqualKeys)
 {
     EXPECT_EQ(valueOf("key=1\r\nKEY=2\r\n"), "1");
     EXPECT_EQ(valueOf("key=\r\nkey=2\r\n"), "");
@@ -71,7 +71,7 @@ TEST(IniText, dropsOnePairOfQuotesAroundTheWholeValue)
         EXPECT_EQ(valueOf("key="s + kept + "\r\n"), kept);
 }
 
-TEST(IniText, takesANulForACharacterOfTheValue)
+TEST(IniText, treatsANulAsACharacterOfTheValue)
 {
     EXPECT_EQ(valueOf("key=a\0b\0\r\n"s), "a\0b\0"s);
     EXPECT_EQ(valueOf("key=\0\0a\r\n"s), "\0\0a"s);
@@ -85,7 +85,7 @@ TEST(IniText, passesOverWhatIsNeitherSectionNorKey)
     EXPECT_EQ(IniText("").text("S", "key"), std::nullopt);
 }
 
-TEST(IniText, takesLinesWithoutCarriageReturnOrEnd)
+TEST(IniText, acceptsLinesWithoutCarriageReturnOrEnd)
 {
     EXPECT_EQ(IniText("[S]\nother=1\nkey=2").text("S", "key"), "2");
     EXPECT_EQ(IniText("\xEF\xBB\xBF[S]\r\nkey=2\r\n").text("S", "key"), "2");
@@ -93,7 +93,7 @@ TEST(IniText, takesLinesWithoutCarriageReturnOrEnd)
 
 TEST(IniText, cutsAValueAt1023Bytes)
 {
-    // One less than a buffer of 1024 characters, whose last one ends the text.
+    // One less than a buffer of 1024 characters with a final zero.
     EXPECT_EQ(mostStoredBytes, 1023U);
     const std::string longest(1023, 'x');
     EXPECT_EQ(valueOf("key=" + longest + "\r\n"), longest);
@@ -124,9 +124,9 @@ TEST(IniText, decodesEveryValueByItself)
 
 TEST(IniText, decodesAfterTheCut)
 {
-    // 1023 bytes of Windows-1252 are 1023 characters, each of them two bytes of UTF-8.
+    // 1023 bytes of Windows-1252 are 1023 characters of two bytes in UTF-8.
     EXPECT_EQ(valueOf("key=" + std::string(1500, '\xE9'))->size(), 2046U);
-    // A character that crosses the limit is left out: 1022 bytes hold 511 of two bytes.
+    // A character across the limit is dropped: 1022 bytes are 511 characters of two bytes.
     std::string umlauts;
     for (int i = 0; i < 600; ++i)
         umlauts += "ü";
@@ -139,7 +139,7 @@ TEST(IniText, decodesAfterTheCut)
     EXPECT_EQ(valueOf("key=x" + dashes), "x" + dashes.substr(0, 1020));
 }
 
-TEST(IniText, tellsLineAndWholeLengthOfAValue)
+TEST(IniText, reportsLineAndWholeLengthOfAValue)
 {
     const std::string text = "[S]\r\n\r\nkey= \"" + std::string(2000, 'x') + "\"\r\nKEY=2\r\n";
     const IniText ini(text);
@@ -151,7 +151,7 @@ TEST(IniText, tellsLineAndWholeLengthOfAValue)
     EXPECT_FALSE(ini.entry("T", "key"));
 }
 
-TEST(IniText, tellsWhereASectionBeginsFirst)
+TEST(IniText, reportsWhereASectionBeginsFirst)
 {
     const IniText ini("; comment\r\n[A]\r\nx=1\r\n [ b ]\r\n[a]\r\ny=2\r\n");
     EXPECT_EQ(ini.lineOfSection("a"), 2U);
@@ -176,7 +176,7 @@ TEST(IniText, cutsNoCharacterOfAFieldInTwo)
         umlauts += "ü";
     const std::string text = "[S]\r\nkey=" + umlauts + "\0ü\r\n"s;
     EXPECT_EQ(IniText(text).fields("S", "key"), umlauts.substr(0, 1022) + "\0ü"s);
-    // Windows-1252: 1023 bytes are as many characters.
+    // 1023 bytes of Windows-1252 are 1023 characters.
     const std::string bytes = "[S]\r\nkey=" + std::string(1500, '\xE9') + "\0\xFC\r\n"s;
     EXPECT_EQ(IniText(bytes).fields("S", "key")->size(), 2046U + 1 + 2);
 }

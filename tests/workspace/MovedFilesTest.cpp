@@ -1,5 +1,5 @@
-// Random folders and random workspaces: each path gets the file that a plain reading of the rules
-// gives it.
+// Random folders and random workspaces: each path must get the file that a direct implementation of
+// the rules finds.
 
 #include "workspace/FoundFiles.h"
 
@@ -24,7 +24,7 @@ namespace fs = std::filesystem;
 
 using Names = std::vector<std::string>;
 
-/// Folders and name from the last to the first.
+/// The components of a path from the last to the first.
 Names namesOf(const std::string& path, bool isCaseless)
 {
     Names names;
@@ -33,7 +33,7 @@ Names namesOf(const std::string& path, bool isCaseless)
     return names;
 }
 
-/// A path that is looked at as often as the rules ask.
+/// A path with its components, as the rules compare them.
 struct KnownPath
 {
     explicit KnownPath(const std::string& text)
@@ -60,7 +60,7 @@ bool shareNames(const KnownPath& a, const KnownPath& b, bool isCaseless, std::si
                       right.begin());
 }
 
-/// The rules as they are written, one number of names after the other.
+/// A direct implementation of the rules, one length of path tails after the other.
 class PlainMatching
 {
 public:
@@ -71,7 +71,7 @@ public:
             if (path.isThere)
                 m_taken.insert(path.identity);
         }
-        // By depth, and in one depth by name.
+        // By depth, and within a depth by name.
         std::vector<fs::path> folders {m_folder};
         for (std::size_t i = 0; i < folders.size(); ++i) {
             std::set<fs::path> entries;
@@ -187,10 +187,10 @@ private:
 
     void addFile()
     {
-        const fs::path place = folder() / folders();
-        const fs::path file = place / name();
-        std::error_code failed; // a name that is there already, as a file or as a folder
-        fs::create_directories(place, failed);
+        const fs::path below = folder() / folders();
+        const fs::path file = below / name();
+        std::error_code failed; // the name exists already, as a file or folder
+        fs::create_directories(below, failed);
         const std::size_t kind = pick(10);
         if (kind == 0 && !m_files.empty())
             fs::create_symlink(m_files[pick(m_files.size())], file, failed);

@@ -5,8 +5,8 @@
 
 #include <string>
 
-// Workspaces of the kind that older installations left: Windows-1252, drive letters, blank lines
-// between the sections, and rich texts of the platform's own control.
+// Workspaces as older installations saved them: Windows-1252, drive letters, blank lines between
+// the sections, and rich texts of the platform's own control.
 
 using namespace tarsil;
 using namespace tarsil::test;
@@ -80,7 +80,7 @@ TEST(OldWorkspace, hasItsRichTextsAsTheControlGaveThem)
               "\\deflang1031\\pard\\qc\\plain\\f2\\fs20\\b Fl\\'fcgel = \"A\"\r\n"
               "\\par \\plain\\f2\\fs16 Ma 0.4\r\n"
               "\\par }\r\n");
-    // The bytes of a rich text are its reader's to decode.
+    // The bytes of a rich text are decoded by its own reader.
     EXPECT_EQ(plot.mechanism.rtf,
               "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 Arial;}}\r\n\\pard roh: \xFC\\par }\r\n");
     EXPECT_EQ(plot.legend.rtf, "");
@@ -100,7 +100,7 @@ TEST(OldWorkspace, staysWhatItIsWhenItIsSavedAgain)
     const WorkspaceRecord record = readDrawn(oldWorkspace);
     const std::string bytes = writeWorkspace(record, "J. Müller").bytes;
     EXPECT_EQ(readBytes(bytes), record);
-    // The lines that the older program wrote in the same words come back byte for byte.
+    // Lines that both programs write in the same way are reproduced byte for byte.
     for (const std::string_view key : {"Username=", "File(1)=", "File(2)=", "Caption=", "Header=",
                                        "Mechanism=", "Legend=", "HeadPos=", "Serie(1)="}) {
         const std::string old = drawn(oldWorkspace);
@@ -125,7 +125,7 @@ TEST(OldWorkspace, losesTheEndOfALongRichText)
     const std::string text(2000, 'x');
     const std::string drawing = with(std::string(oldWorkspace), "Ma 0.4", text);
     const PlotRecord plot = readDrawn(drawing).plots.at(0);
-    // Three line breaks stand before the long line: each is one byte of the value and two here.
+    // Three line breaks precede the long line: each is one byte in the value and two here.
     EXPECT_EQ(plot.header.rtf->size(), 1023U + 3U);
     EXPECT_TRUE(plot.header.rtf->ends_with("xxxx"));
     EXPECT_EQ(plot.header.position, (BoxPosition {1275, 60}));

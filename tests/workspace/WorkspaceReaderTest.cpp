@@ -14,7 +14,7 @@ namespace {
 
 const std::string whole(wholeWorkspace);
 
-/// The error of the whole workspace with one part of its drawing replaced.
+/// The error of reading the whole workspace with one part replaced.
 FailedReading failedWith(std::string_view part, std::string_view replacement)
 {
     return failedReading(drawn(with(whole, part, replacement)));
@@ -37,7 +37,7 @@ TEST(WorkspaceReader, readsEveryValue)
 
 TEST(WorkspaceReader, findsValuesInAnyOrder)
 {
-    // The same sections backwards, and the keys of the plot turned round.
+    // The same sections in reverse order, and the keys of the plot too.
     const std::string_view plot = wholeWorkspace.substr(wholeWorkspace.find("[PLOT1]\n") + 8);
     std::string lines;
     for (std::size_t start = 0; !plot.substr(start).starts_with('[');) {
@@ -111,7 +111,7 @@ TEST(WorkspaceReader, roundsWholeNumbersToTheNearestEvenOne)
     EXPECT_EQ(series.markerStyle, -2);
 }
 
-TEST(WorkspaceReader, takesWholeNumbersUpToTheirLimits)
+TEST(WorkspaceReader, acceptsWholeNumbersUpToTheirLimits)
 {
     const WorkspaceRecord record = readDrawn(with(
         whole, "=1|3||8|5|1|clean|255|0", "=32767|-32768||8|5|1|clean|2147483647|-2147483648"));
@@ -122,7 +122,7 @@ TEST(WorkspaceReader, takesWholeNumbersUpToTheirLimits)
     EXPECT_EQ(series.markerForegroundColor, -2147483647 - 1);
 }
 
-TEST(WorkspaceReader, passesOverFieldsBehindTheLast)
+TEST(WorkspaceReader, skipsFieldsAfterTheLast)
 {
     EXPECT_EQ(readDrawn(with(with(with(whole, "|700|7\n", "|700|7|8\n"), "|255|0\n", "|255|0|x\n"),
                              "1500|120\n", "1500|120|\n")),
@@ -173,7 +173,7 @@ TEST(WorkspaceReader, keepsWhatStoodBeforeAnError)
     WorkspaceRecord expected = wholeRecord();
     expected.plots[0].series.pop_back();
     EXPECT_EQ(failedWith("=2|1|s", "=2|one|s").record, expected);
-    // None of the three axes is taken where one is damaged: a new plot has the same ones.
+    // If one of the three axes is damaged, none is used.
     expected.plots[0].series.clear();
     EXPECT_EQ(
         failedWith("V(keas)|0|700|7\nfreqAxis=f(Hz)|0|", "V|1|600|9\nfreqAxis=f(Hz)|x|").record,
@@ -187,7 +187,7 @@ TEST(WorkspaceReader, keepsNothingOfAnEarlierRecord)
     EXPECT_EQ(record, (WorkspaceRecord {"   ", "   ", "   ", {}, {}}));
 }
 
-TEST(WorkspaceReader, tellsTheValueAtWhichItEnds)
+TEST(WorkspaceReader, reportsTheValueAtWhichItEnds)
 {
     const auto endOf = [](std::string_view part, std::string_view replacement) {
         const WorkspaceReading reading =

@@ -14,7 +14,7 @@ using namespace std::string_literals;
 
 namespace {
 
-/// What cannot stand in the texts as it is.
+/// Sequences that texts cannot contain unchanged.
 const std::array<std::string, 5> lost = {"\r", "\n", "\0"s, "\n\r", "\r\r\n"};
 
 enum class Kind { Clean, Wild };
@@ -31,7 +31,7 @@ private:
     std::string field();
     std::string text();
     TextRecord box();
-    std::vector<MarkRecord> marks();
+    std::vector<ReferenceRecord> marks();
     AxisValues axis() { return {field(), single(), single(), integer<std::int16_t>()}; }
     SeriesRecord series();
     PlotRecord plot();
@@ -47,7 +47,7 @@ std::string Generator::field()
     return text;
 }
 
-/// A text that may have several lines.
+/// A text of possibly several lines.
 std::string Generator::text()
 {
     std::string text = field();
@@ -86,9 +86,9 @@ SeriesRecord Generator::series()
     return record;
 }
 
-std::vector<MarkRecord> Generator::marks()
+std::vector<ReferenceRecord> Generator::marks()
 {
-    std::vector<MarkRecord> marks;
+    std::vector<ReferenceRecord> marks;
     for (std::size_t left = below(4); left > 0; --left)
         marks.push_back({single(), field()});
     return marks;
@@ -106,7 +106,7 @@ PlotRecord Generator::plot()
 
 WorkspaceRecord Generator::record()
 {
-    // An empty description would be read as one that nobody gave.
+    // An empty description would be read as the default.
     WorkspaceRecord record {"d" + text(), text(), text(), {}, {}, {}, 0};
     for (std::size_t left = below(6); left > 0; --left) {
         record.files.push_back(text());
@@ -198,7 +198,7 @@ TEST(WorkspaceRoundTrip, keepsEveryNumberHoweverLongTheTextsAre)
         WorkspaceRecord record = Generator(seed, Kind::Clean).record();
         for (PlotRecord& plot : record.plots) {
             plot.axes.damping.title.insert(0, seed * 7, 'g');
-            for (MarkRecord& mark : plot.referenceSpeeds)
+            for (ReferenceRecord& mark : plot.referenceSpeeds)
                 mark.caption.insert(0, seed * 7, 'm');
             for (SeriesRecord& series : plot.series)
                 series.legendText.insert(0, seed * 7, 'l');

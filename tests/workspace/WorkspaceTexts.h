@@ -9,12 +9,11 @@
 #include <string>
 #include <string_view>
 
-// How the tests draw workspaces: a line end stands for CR LF, and a bar for NUL, which no text can
-// show.
+// The notation for workspaces in tests: a line end means CR LF, and a bar means NUL.
 
 namespace tarsil::test {
 
-/// The bytes of a drawn workspace.
+/// The bytes of a workspace in this notation.
 inline std::string drawn(std::string_view drawing)
 {
     std::string bytes;
@@ -26,7 +25,7 @@ inline std::string drawn(std::string_view drawing)
     return bytes;
 }
 
-/// The text with one part of it replaced; a part that is not there is an error of the test.
+/// The text with one part replaced; throws if the part is missing.
 inline std::string with(std::string text, std::string_view part, std::string_view replacement)
 {
     return text.replace(text.find(part), part.size(), replacement);
@@ -39,13 +38,13 @@ inline WorkspaceRecord readBytes(std::string_view bytes)
     return record;
 }
 
-/// Reads a drawn workspace.
+/// Reads a workspace in this notation.
 inline WorkspaceRecord readDrawn(std::string_view drawing)
 {
     return readBytes(drawn(drawing));
 }
 
-/// The error that reading raises, and the record that is there then.
+/// The error of a reading, and the record read before it.
 struct FailedReading
 {
     std::optional<RunTimeError> error;
@@ -59,7 +58,7 @@ inline FailedReading failedReading(std::string_view bytes)
     return reading;
 }
 
-/// A workspace of two files and one plot with two curves, as the system writes it.
+/// A workspace of two files and a plot with two curves, as the program writes it.
 inline constexpr std::string_view wholeWorkspace = R"([GENERAL INFORMATION]
 Username=rivera
 tsw_Version=1.1.0
@@ -89,7 +88,7 @@ Serie(2)=2|1|s|10|0|2|store, half full|16711680|32768
 [END OF FILE]
 )";
 
-/// What it says.
+/// The record of that workspace.
 inline WorkspaceRecord wholeRecord()
 {
     WorkspaceRecord record {"Goland wing, clean",

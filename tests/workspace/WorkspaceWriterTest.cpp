@@ -23,7 +23,7 @@ std::string written(const WorkspaceRecord& record)
     return writeWorkspace(record, "rivera").bytes;
 }
 
-/// The bytes written for the value of a description.
+/// The bytes written for a description.
 std::string writtenDescription(const std::string& text)
 {
     WorkspaceRecord record;
@@ -61,7 +61,7 @@ void expectOverflow(const WorkspaceRecord& record, const std::string& details)
 
 } // namespace
 
-TEST(WorkspaceWriter, writesEverySectionAndKeyInItsPlace)
+TEST(WorkspaceWriter, writesEverySectionAndKeyInItsOrder)
 {
     EXPECT_EQ(written(wholeRecord()), drawn(wholeWorkspace));
 }
@@ -109,7 +109,7 @@ TEST(WorkspaceWriter, writesNumbersAsShortAsTheyCanBe)
     record.plots[0].axes.damping = {"g", 0.1F, -1.0F / 3, -3};
     record.plots[0].header.position = BoxPosition {0.1, 1e6};
     const std::string bytes = written(record);
-    // A single has nine digits at most; the one nearest to a third is 0.33333334.
+    // A single has at most nine digits; the nearest to a third is 0.33333334.
     EXPECT_THAT(bytes,
                 HasSubstr("gAxis=g\0"
                           "0.1\0-0.33333334\0-3\r\n"s));
@@ -145,7 +145,7 @@ TEST(WorkspaceWriter, quotesOnlyWhatAReaderWouldShorten)
 
 TEST(WorkspaceWriter, writesWindows1252WhereEveryTextFits)
 {
-    // The byte of the umlaut is FC there, that of the dash 96.
+    // The byte of the umlaut is FC, that of the dash 96.
     EXPECT_EQ(writtenDescription("Flügel –"),
               "Fl\xFC"
               "gel \x96");
@@ -165,7 +165,7 @@ TEST(WorkspaceWriter, writesUtf8WhereOneTextDoesNotFit)
 
 TEST(WorkspaceWriter, writesUtf8WhereWindows1252WouldBeTakenForIt)
 {
-    // Two characters, whose bytes C3 BC are one of UTF-8.
+    // Two characters whose bytes C3 BC are one character of UTF-8.
     EXPECT_EQ(writtenDescription("Ã¼"), "Ã¼");
 }
 

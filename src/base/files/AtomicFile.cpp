@@ -21,10 +21,10 @@ namespace fs = std::filesystem;
     throw fileError(code, "AtomicFile", path);
 }
 
-/// The file that is meant, where the name is a symbolic link; it need not be there.
+/// The file that `path` leads to when it is a symbolic link. The file need not exist.
 fs::path targetOf(std::string_view path)
 {
-    constexpr int mostLinks = 40; // as the system follows
+    constexpr int mostLinks = 40; // the limit of the system
     std::error_code failed;
     fs::path target = nativePath(path);
     for (int links = 0; fs::is_symlink(fs::symlink_status(target, failed)); ++links) {
@@ -36,9 +36,9 @@ fs::path targetOf(std::string_view path)
     return target;
 }
 
-/// Refuses what a rename would silently replace: a folder, or a file that nobody may write. The
-/// path is the one that was asked for, so that the system has its say on the links of others.
-/// Returns whether there is a file.
+/// Refuses a target that the rename would silently replace: a folder, a device, or a file that
+/// cannot be written. Checks the path as given, so that the system applies its own rules for
+/// symbolic links. Returns whether the file exists.
 bool checkTarget(std::string_view path)
 {
     std::error_code failed;
@@ -50,7 +50,7 @@ bool checkTarget(std::string_view path)
         fail(failed.value(), path);
     if (fs::is_directory(status))
         fail(EISDIR, path);
-    if (!fs::is_regular_file(status)) // a device or a pipe would be replaced, not written to
+    if (!fs::is_regular_file(status)) // a device or a pipe would be replaced instead of written to
         fail(EINVAL, path);
     constexpr auto anyWrite =
         fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
@@ -63,7 +63,8 @@ bool checkTarget(std::string_view path)
     return true;
 }
 
-/// The error of a file that cannot be made: nothing is wrong with the one that was asked for.
+/// Raises the error for a temporary file that cannot be created. The folder is at fault, not
+/// `path`.
 [[noreturn]] void failInFolder(int code, const fs::path& target, std::string_view path)
 {
     const std::string file = shownPath(path);
@@ -82,7 +83,7 @@ bool checkTarget(std::string_view path)
 AtomicFile::AtomicFile(std::string_view path)
     : m_path(path), m_target(targetOf(path)), m_temporary(m_target)
 {
-    // Nobody may see more of the new file than he could of the old one, whose rights may be few.
+    // Until the rename, nobody may read more than the rights of the old file allow.
     const auto access =
         checkTarget(path) ? TemporaryFile::Access::Private : TemporaryFile::Access::Usual;
     if (const int code = m_temporary.open(access); code != 0)
@@ -92,7 +93,7 @@ AtomicFile::AtomicFile(std::string_view path)
 void AtomicFile::write(std::string_view bytes)
 {
     if (bytes.empty())
-        return; // whose data may be null, which the platform does not take
+        return; // the data pointer may be null, which fwrite does not allow
     errno = 0;
     failUnless(std::fwrite(bytes.data(), 1, bytes.size(), m_temporary.stream()) == bytes.size());
 }
@@ -105,7 +106,7 @@ void AtomicFile::patch(std::size_t offset, std::string_view bytes)
     failUnless(std::fseek(m_temporary.stream(), 0, SEEK_END) == 0);
 }
 
-/// Nothing fails after the renaming: an error always means that the old file is there.
+/// Nothing fails after the rename: after an error the old file is still there.
 void AtomicFile::commit()
 {
     removeOldTemporaries(m_target.parent_path());

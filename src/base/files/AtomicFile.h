@@ -9,13 +9,12 @@
 
 namespace tarsil {
 
-/// A file that is written whole or not at all: the bytes go into a temporary file in the same
-/// folder, and `commit` puts it into the place of `path`. Without `commit`, or after an error, the
-/// old file is as it was. The new file has the rights of the old one (`copyRights`), and only its
-/// owner can read it before it takes the name. A symbolic link is followed, also one to a file that
-/// is not there yet. Errors of every operation name `path`: 61 disk full, 70 not permitted (a
-/// read-only file included), 75 a folder, device or pipe of that name, 76 folder missing, 57 broken
-/// medium.
+/// Writes a file whole or not at all. The bytes go to a temporary file in the same folder; `commit`
+/// renames it to `path`. Without `commit`, or after an error, the old file is unchanged. The new
+/// file gets the rights of the old one (`copyRights`); before the rename only its owner can read
+/// it. A symbolic link is followed, even when the file it leads to does not exist yet. The errors
+/// of every operation name `path`: 61 disk full, 70 not permitted (also a read-only file), 75
+/// `path` is a folder, device or pipe, 76 folder missing, 57 input/output error.
 class AtomicFile
 {
 public:
@@ -23,8 +22,7 @@ public:
 
     void write(std::string_view bytes);
 
-    /// Replaces bytes that are already written, from `offset` on; what is written next still goes
-    /// after the last byte.
+    /// Overwrites bytes already written, starting at `offset`. The next `write` still appends.
     void patch(std::size_t offset, std::string_view bytes);
 
     void commit();
@@ -38,7 +36,7 @@ private:
     TemporaryFile m_temporary;
 };
 
-/// Writes all bytes in one go.
+/// Writes all bytes and commits.
 void writeFile(std::string_view path, std::string_view bytes);
 
 } // namespace tarsil

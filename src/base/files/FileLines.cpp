@@ -37,7 +37,7 @@ std::string_view FileLines::next()
     }
 }
 
-/// Makes room for a line that is longer than the buffer.
+/// Enlarges the buffer for a line that does not fit.
 void FileLines::grow()
 {
     if (m_capacity >= longestLine)

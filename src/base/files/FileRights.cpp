@@ -23,14 +23,14 @@ struct Free
 };
 using AccessList = std::unique_ptr<std::remove_pointer_t<acl_t>, Free>;
 
-/// What of the old file the new one has too.
+/// Whether the new file has the owner and the group of the old one.
 struct Kept
 {
     bool owner;
     bool group;
 };
 
-/// The owner is kept when root saves, the group when the user is one of its members.
+/// Changing the owner needs root. Changing the group needs a user who is a member of it.
 Kept keepOwner(const struct stat& old, int handle)
 {
     constexpr auto asItIs = static_cast<uid_t>(-1);
@@ -38,7 +38,7 @@ Kept keepOwner(const struct stat& old, int handle)
     return {::fchown(handle, old.st_uid, asItIs) == 0, group};
 }
 
-/// The access list of a file; that of its nine bits where it has none. Nothing when it is unknown.
+/// The access list of a file, made from `mode` where the file system has none; null on failure.
 AccessList accessListOf(const std::filesystem::path& path, mode_t mode)
 {
     AccessList list(acl_get_file(path.c_str(), ACL_TYPE_ACCESS));
@@ -60,7 +60,7 @@ acl_entry_t entryOf(const AccessList& list, acl_tag_t wanted)
     return nullptr;
 }
 
-/// Takes from an entry what another one does not allow; an entry that is not there allows all.
+/// Removes from `entry` each permission that `by` lacks. A missing entry counts as all permissions.
 void narrow(acl_entry_t entry, acl_entry_t by)
 {
     acl_permset_t own = nullptr;
@@ -74,8 +74,8 @@ void narrow(acl_entry_t entry, acl_entry_t by)
     }
 }
 
-/// Who was the owner, or in the group, may now be one of the group or of all others, and the other
-/// way round: each of these may do what all of those might.
+/// When the owner or the group changed, people move between the classes owner, group and others.
+/// Each affected class keeps only the permissions that all of them had.
 void narrowToKept(const AccessList& list, Kept kept)
 {
     acl_entry_t owner = entryOf(list, ACL_USER_OBJ);
@@ -92,7 +92,7 @@ void narrowToKept(const AccessList& list, Kept kept)
     }
 }
 
-/// Whether the file has these rights now; where the system knows no access lists, the nine bits do.
+/// Sets the access list, or the nine bits where lists are not supported. Returns success.
 bool give(const AccessList& list, int handle)
 {
     mode_t mode = 0;
@@ -112,7 +112,7 @@ void copyRights(const std::filesystem::path& target, std::FILE* file)
     const AccessList list = accessListOf(target, old.st_mode);
     if (list)
         narrowToKept(list, kept);
-    if (!list || !give(list, handle)) // what the group's bits mean is unknown then
+    if (!list || !give(list, handle)) // the meaning of the group bits is unknown
         static_cast<void>(::fchmod(handle, old.st_mode & S_IRWXU));
 }
 

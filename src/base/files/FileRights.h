@@ -5,11 +5,11 @@
 
 namespace tarsil {
 
-/// Gives an open file, which will replace `target`, the rights of that one: owner and group where
-/// the system lets the user give them away, the access list, and the nine bits of who may read,
-/// write and run it, but none of the bits beyond (set-user-id and the like), which would lend the
-/// rights of a new owner. Whatever cannot be kept is narrowed: nobody may do with the new file what
-/// he could not do with the old one. Nothing changes when there is no target.
+/// Gives `file`, which will replace `target`, the rights of `target`: owner and group where the
+/// system permits it, the access list, and the nine permission bits. Set-user-id and similar bits
+/// are dropped, because they would apply to a new owner. Where owner or group cannot be kept,
+/// permissions are reduced: nobody gets access to the new file that he did not have to the old one.
+/// Does nothing when `target` does not exist.
 void copyRights(const std::filesystem::path& target, std::FILE* file);
 
 } // namespace tarsil

@@ -6,7 +6,7 @@
 #include <cerrno>
 #include <new>
 
-#if __has_include(<sys/mman.h>) // what POSIX has, and Windows has not
+#if __has_include(<sys/mman.h>) // POSIX, not Windows
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -31,7 +31,7 @@ RunTimeError readError(int code, std::string_view path)
 class InputFile::Source
 {
 public:
-    // Not blocking, so that a pipe is refused as one instead of being waited for.
+    // Opens without blocking, so that a pipe is refused instead of waiting for its writer.
     explicit Source(std::string_view path)
         : m_handle(::open(nativePath(path).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK))
     {

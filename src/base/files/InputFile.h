@@ -7,32 +7,32 @@
 
 namespace tarsil {
 
-/// A file that is read from its start to its end, as long as it was when it was opened. It is read
-/// and never mapped into memory: what another program does to it meanwhile is an error here, and
-/// would be the end of this program there.
+/// Reads a file sequentially. The length is fixed when the file is opened. The file is read and
+/// never memory-mapped: if another program truncates it meanwhile, reading raises an error, where
+/// an access to mapped memory would end this program.
 class InputFile
 {
 public:
-    /// `path` in stored or native form. Errors: 53 missing, 76 folder missing, 70 not readable,
-    /// 75 a folder or anything else that is no plain file, 57 unreadable medium.
+    /// `path` is in stored or native form. Errors: 53 missing, 76 folder missing, 70 not readable,
+    /// 75 not a regular file, 57 input/output error.
     explicit InputFile(std::string_view path);
     ~InputFile();
     InputFile(const InputFile&) = delete;
     InputFile& operator=(const InputFile&) = delete;
 
-    /// How many bytes have not been read yet.
+    /// The number of bytes that have not been read yet.
     std::size_t bytesLeft() const { return m_bytesLeft; }
 
-    /// Reads the next bytes, at most as many as are left. Errors: 57 unreadable medium, 75 when the
-    /// file has become shorter.
+    /// Reads the next `count` bytes; `count` is at most `bytesLeft()`. Errors: 57 input/output
+    /// error, 75 the file has become shorter.
     void read(char* to, std::size_t count);
 
-    /// Reads bytes from `offset` on, counted from the next one that has not been read, which stays
-    /// the next one. Errors as for `read`.
+    /// Reads `count` bytes that begin `offset` bytes after the read position, and does not move
+    /// that position. Errors: as for `read`.
     void peek(std::size_t offset, char* to, std::size_t count) const;
 
-    /// Error 75 when another program has changed the file since it was opened, so that what was
-    /// read may be of two files.
+    /// Raises error 75 when another program has changed the file since it was opened: the bytes
+    /// read may be a mix of two versions.
     void requireUnchanged() const;
 
 private:
@@ -46,11 +46,11 @@ private:
     std::size_t m_bytesLeft = 0;
 };
 
-/// All bytes of a file, for as long as this object lives.
+/// The contents of a file, read into memory.
 class FileBytes
 {
 public:
-    /// Errors: those of `InputFile`, and 75 when there is no memory for so many bytes.
+    /// Errors: those of `InputFile`, and 75 when memory does not suffice.
     explicit FileBytes(std::string_view path);
 
     std::string_view bytes() const { return {m_buffer.get(), m_size}; }

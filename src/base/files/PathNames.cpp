@@ -30,7 +30,7 @@ ErrorNumber numberOf(int code, std::string_view path)
         return ErrorNumber::PermissionDenied;
     case ENOSPC:
 #ifdef EDQUOT
-    case EDQUOT: // nothing is left of what the user is given of the disk
+    case EDQUOT: // the user's disk quota is exhausted
 #endif
         return ErrorNumber::DiskFull;
     case EIO:
@@ -85,7 +85,7 @@ FilePath resolvePath(std::string_view path)
     if (failed)
         whole = native;
     if (stepsUp(whole)) {
-        // A step up leaves the folder that a symbolic link leads to, not the one that holds it.
+        // ".." after a symbolic link means the parent of the link's target.
         const auto real = std::filesystem::weakly_canonical(whole.parent_path(), failed);
         if (!failed)
             whole = real / whole.filename();
@@ -100,7 +100,8 @@ FilePath resolvePath(std::string_view path)
 bool fileExists(std::string_view path)
 {
 #if __has_include(<sys/stat.h>) && __has_include(<sys/mman.h>)
-    // As a text: a workspace asks for thousands of paths, and taking them apart is the longer part.
+    // Plain text instead of std::filesystem: this is called for thousands of paths of a workspace,
+    // and parsing a path would take longer than the system call.
     std::string native(path);
     std::replace(native.begin(), native.end(), '\\', '/');
     struct stat status = {};

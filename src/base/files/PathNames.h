@@ -9,7 +9,7 @@
 
 namespace tarsil {
 
-/// A file name in two pieces: the folder without a trailing separator, and the name in it.
+/// A file name in two parts: the folder without a trailing separator, and the name in it.
 struct FilePath
 {
     std::string folder;
@@ -19,29 +19,29 @@ struct FilePath
 /// The stored form of a path: folder, a backslash, name.
 std::string joinPath(std::string_view folder, std::string_view name);
 
-/// The path (relative or not, with "\" or "/") made absolute and cut at its last separator.
+/// Makes a path absolute and splits it at its last separator. Both "\" and "/" separate.
 FilePath resolvePath(std::string_view path);
 
-/// The one way from a stored or typed path to the platform's: "\" and "/" both separate.
+/// Converts a stored or typed path to a native one. Both "\" and "/" separate.
 std::filesystem::path nativePath(std::string_view path);
 
-/// A path as messages show it: with the platform's separators.
+/// A path for messages: with the platform's separators.
 std::string shownPath(std::string_view path);
 
-/// The same with the folders that a relative path is counted from.
+/// The absolute path for messages, with the platform's separators.
 std::string wholePath(std::string_view path);
 
 /// The UTF-8 text of a platform path.
 std::string pathText(const std::filesystem::path& path);
 
-/// Whether the path names an existing file (a folder is none).
+/// Whether the path names an existing file other than a folder.
 bool fileExists(std::string_view path);
 
-/// A text that is the same for all paths to one file, by links of either kind too; nothing when the
-/// path leads nowhere.
+/// A text that identifies a file: equal for all paths to it, also through symbolic and hard links.
+/// Empty when there is no such file.
 std::optional<std::string> fileIdentity(std::string_view path);
 
-/// The run-time error of a failed file operation: `code` is the platform's errno.
+/// The error for a failed file operation; `code` is the errno value.
 RunTimeError fileError(int code, std::string source, std::string_view path);
 
 } // namespace tarsil

@@ -66,7 +66,7 @@ void Sha256::add(std::string_view bytes)
     }
 }
 
-/// The round function of the standard, with its names a to h in `work`.
+/// The round function of the standard; `work` has its variables a to h.
 void Sha256::addBlock(const char* block)
 {
     const Schedule words = scheduleOf(block);

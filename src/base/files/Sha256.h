@@ -8,15 +8,15 @@
 
 namespace tarsil {
 
-/// The SHA-256 digest of bytes that come in pieces (FIPS 180-4, section 6.2). It identifies the
-/// contents of a file: two files of one digest hold the same bytes.
+/// The SHA-256 digest of bytes that arrive in pieces (FIPS 180-4, section 6.2). It identifies
+/// contents: files with equal digests have equal bytes.
 class Sha256
 {
 public:
     void add(std::string_view bytes);
 
-    /// The digest of all bytes added, as 64 hexadecimal digits in lower case. Nothing can be added
-    /// afterwards.
+    /// Returns the digest of all bytes as 64 lower-case hexadecimal digits. Call once, as the last
+    /// function.
     std::string finish();
 
 private:
@@ -26,9 +26,9 @@ private:
 
     std::array<std::uint32_t, 8> m_state = {0x6a09e667, 0xbb67ae85, 0x3c6ef372, 0xa54ff53a,
                                             0x510e527f, 0x9b05688c, 0x1f83d9ab, 0x5be0cd19};
-    std::array<char, blockSize> m_buffer {}; ///< bytes that do not fill a block yet
+    std::array<char, blockSize> m_buffer {}; ///< bytes of an incomplete block
     std::size_t m_buffered = 0;
-    std::uint64_t m_size = 0; ///< bytes added
+    std::uint64_t m_size = 0; ///< total number of bytes
 };
 
 } // namespace tarsil

@@ -34,13 +34,14 @@ std::string freeName()
     return name.append(suffix);
 }
 
-/// The names of the temporary files that exist. A handler of signals reads them, in whichever
-/// thread, so that nothing here may lock or allocate. Whoever takes a name out of its entry removes
-/// the file; a name that a signal has taken is not freed, for the process ends.
+/// The names of the existing temporary files. A signal handler reads this list, on any thread, so
+/// nothing here may lock or allocate. Whoever takes a name out of its entry removes the file. A
+/// name taken by the handler is not freed, because the process ends.
 using Entry = std::atomic<const std::string*>;
 static_assert(Entry::is_always_lock_free);
 
-/// More files than are ever written at once; those beyond are removed by their objects alone.
+/// More than the number of files ever open at once. A file without an entry is removed only by its
+/// destructor.
 std::array<Entry, 64> entries;
 
 std::size_t enter(const fs::path& path)
@@ -71,12 +72,12 @@ extern "C" void removeTemporariesAndEnd(int signal)
         if (name != nullptr)
             ::unlink(name->c_str());
     }
-    // The usual action is in force again, so this ends the process as if nothing had been done.
+    // The default action is restored, so this ends the process as the signal would have.
     ::raise(signal);
 }
 
-/// That the limit was exceeded is what the call that writes returns.
-extern "C" void goOn(int /*signal*/) { }
+/// Empty: the failed write itself reports that the limit was exceeded.
+extern "C" void ignoreSignal(int /*signal*/) { }
 
 void handle(int signal, void (*handler)(int), int flags)
 {
@@ -89,8 +90,8 @@ void handle(int signal, void (*handler)(int), int flags)
     ::sigaction(signal, &action, nullptr);
 }
 
-/// An open folder that closes itself. The standard library's iterator ends the program when memory
-/// runs out within it.
+/// Closes a folder. std::filesystem::directory_iterator is not used because it terminates the
+/// program when it runs out of memory.
 struct CloseFolder
 {
     void operator()(DIR* folder) const { ::closedir(folder); }
@@ -116,8 +117,8 @@ bool isOldAndOwn(int folder, const char* name)
         && system_clock::now() - system_clock::from_time_t(status.st_mtime) > hours(24);
 }
 
-/// A rename lasts through a loss of power when its folder is on the medium too. Where that cannot
-/// be had, the folder holds the old file or the new one, whole, and the new one is what is seen.
+/// Flushes the folder to the disk, so that a rename survives a power loss. A failure is ignored:
+/// the folder then holds either the old or the new file, each of them whole.
 void flushFolder(const fs::path& folder)
 {
     const int handle = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
@@ -150,11 +151,10 @@ TemporaryFile::~TemporaryFile()
     forget();
 }
 
-/// The name is entered before the file is made, so that there is no moment at which a signal would
-/// leave it.
+/// Enters the name in the list before it creates the file, so that a signal never misses it.
 int TemporaryFile::open(Access access)
 {
-    constexpr int attempts = 100; // names of other programs' making may be taken
+    constexpr int attempts = 100; // a name may already exist
     int code = EEXIST;
     for (int i = 0; i < attempts && code == EEXIST; ++i) {
         m_path = m_folder / freeName();
@@ -201,7 +201,7 @@ int TemporaryFile::flush()
     if (std::fflush(m_stream.get()) != 0)
         return errno;
 #if __has_include(<unistd.h>)
-    // What cannot be synchronised (some network folders) has still been written.
+    // Some network folders do not support fsync; the data has been written nevertheless.
     if (::fsync(::fileno(m_stream.get())) != 0 && errno != EINVAL && errno != ENOSYS)
         return errno;
 #endif
@@ -239,7 +239,7 @@ void removeTemporariesOnSignals()
 #if __has_include(<unistd.h>)
     for (const int signal : {SIGINT, SIGTERM, SIGHUP})
         handle(signal, removeTemporariesAndEnd, static_cast<int>(SA_RESETHAND | SA_NODEFER));
-    handle(SIGXFSZ, goOn, SA_RESTART);
+    handle(SIGXFSZ, ignoreSignal, SA_RESTART);
 #endif
 }
 

@@ -6,14 +6,14 @@
 
 namespace tarsil {
 
-/// A new file in the folder of a target, open for writing, under a short name that is free. It is
-/// removed with this object unless it was renamed; `removeTemporariesOnSignals` says what happens
-/// when the program is ended meanwhile. Failures are returned as the platform's errno, 0 for none.
+/// A new file with a free name in the folder of a target, open for writing. The destructor removes
+/// it unless it was renamed; `removeTemporariesOnSignals` covers signals. Functions that return int
+/// return an errno value, 0 for success.
 class TemporaryFile
 {
 public:
-    /// Who may read the file until `renameTo`: its owner alone, or whoever may read a file that is
-    /// made in this folder.
+    /// Who may read the file before `renameTo`: only its owner, or everyone who may read a new file
+    /// in this folder.
     enum class Access { Private, Usual };
 
     explicit TemporaryFile(const std::filesystem::path& target);
@@ -23,15 +23,15 @@ public:
 
     int open(Access access);
 
-    /// Only while it is open.
+    /// Null unless the file is open.
     std::FILE* stream() const { return m_stream.get(); }
 
-    /// Hands all bytes over to the medium.
+    /// Flushes all bytes to the disk.
     int flush();
 
     int close();
 
-    /// Gives the file, which is closed, the name of the target, whose file it replaces.
+    /// Renames the closed file to `target` and replaces a file of that name.
     int renameTo(const std::filesystem::path& target);
 
 private:
@@ -45,18 +45,18 @@ private:
 
     std::filesystem::path m_folder;
     std::filesystem::path m_path;
-    std::size_t m_entry; ///< in the list of those that a signal removes
+    std::size_t m_entry; ///< index in the list of files that a signal removes
     bool m_exists = false;
     std::unique_ptr<std::FILE, Closer> m_stream;
 };
 
-/// From now on SIGINT, SIGTERM and SIGHUP remove the temporary files of this process before they
-/// end it, and a file beyond the size limit (SIGXFSZ) is a failure of its writer and no end of the
-/// process. Signals that are ignored stay so. For the main function of a program.
+/// Call this in main. From then on SIGINT, SIGTERM and SIGHUP remove the temporary files of this
+/// process before they end it, and exceeding the file size limit (SIGXFSZ) fails the write instead
+/// of ending the process. Ignored signals stay ignored.
 void removeTemporariesOnSignals();
 
-/// Removes the user's own temporary files from a folder that are older than a day: runs that were
-/// killed have left them.
+/// Removes the user's own temporary files older than one day from a folder. They are left over from
+/// killed runs.
 void removeOldTemporaries(const std::filesystem::path& folder);
 
 } // namespace tarsil

@@ -9,16 +9,16 @@ namespace tarsil {
 TextStream::TextStream(std::string_view text, std::string name)
     : m_text(text), m_name(std::move(name))
 {
-    passOverByteOrderMark();
+    skipByteOrderMark();
 }
 
 TextStream::TextStream(FileLines& file, std::string name)
-    : m_file(&file), m_text(file.next()), m_bytesBehind(file.bytesLeft()), m_name(std::move(name))
+    : m_file(&file), m_text(file.next()), m_bytesAfter(file.bytesLeft()), m_name(std::move(name))
 {
-    passOverByteOrderMark();
+    skipByteOrderMark();
 }
 
-void TextStream::passOverByteOrderMark()
+void TextStream::skipByteOrderMark()
 {
     if (m_text.starts_with("\xEF\xBB\xBF"))
         m_text.remove_prefix(3);
@@ -29,19 +29,19 @@ bool TextStream::onlyBlanksLeft() const
     return isBlankText(rest()) && (m_file == nullptr || m_file->onlyBlanksLeft());
 }
 
-std::string TextStream::place() const
+std::string TextStream::location() const
 {
     return m_name + ", line " + std::to_string(m_lineNumber);
 }
 
-/// Puts the next lines of the file into the place of those that have been read.
-void TextStream::takeNextLines()
+/// Replaces the lines already read by the next lines of the file.
+void TextStream::readNextPiece()
 {
-    if (m_bytesBehind == 0)
+    if (m_bytesAfter == 0)
         throw RunTimeError(ErrorNumber::InputPastEndOfFile, "TextStream",
                            m_name + " ends after line " + std::to_string(m_lineNumber));
     m_text = m_file->next();
-    m_bytesBehind = m_file->bytesLeft();
+    m_bytesAfter = m_file->bytesLeft();
     m_position = 0;
 }
 

@@ -39,12 +39,12 @@ Pattern readPattern(std::string_view text)
 {
     Pattern pattern;
     std::string_view mantissa = text;
-    if (const auto mark = text.find("E+"); mark != std::string_view::npos) {
-        const std::string_view exponent = text.substr(mark + 2);
+    if (const auto letter = text.find("E+"); letter != std::string_view::npos) {
+        const std::string_view exponent = text.substr(letter + 2);
         if (exponent.empty() || exponent.find_first_not_of('0') != std::string_view::npos)
             refuse(text);
         pattern.exponentDigits = static_cast<int>(exponent.size());
-        mantissa = text.substr(0, mark);
+        mantissa = text.substr(0, letter);
     }
     for (const char c : mantissa) {
         if (c == '.' && !pattern.point)
@@ -69,12 +69,12 @@ Digits decompose(Number value)
                                        std::fabs(value), std::chars_format::scientific);
     const std::string_view text(buffer.data(),
                                 static_cast<std::size_t>(written.ptr - buffer.data()));
-    const auto mark = text.find('e');
-    for (const char c : text.substr(0, mark)) {
+    const auto letter = text.find('e');
+    for (const char c : text.substr(0, letter)) {
         if (c != '.')
             result.digits += c;
     }
-    const char* exponent = text.data() + mark + 1;
+    const char* exponent = text.data() + letter + 1;
     std::from_chars(*exponent == '+' ? exponent + 1 : exponent, written.ptr, result.pointPosition);
     ++result.pointPosition;
     if (value == 0)
@@ -82,7 +82,7 @@ Digits decompose(Number value)
     return result;
 }
 
-/// Keeps `count` digits (none for a negative count), rounding half away from zero.
+/// Keeps the first `count` digits (none when negative), rounding half away from zero.
 void keepDigits(Digits& number, int count)
 {
     if (count >= static_cast<int>(number.digits.size()))
@@ -91,21 +91,21 @@ void keepDigits(Digits& number, int count)
     number.digits.resize(static_cast<std::size_t>(std::max(count, 0)));
     if (!up)
         return;
-    auto place = number.digits.rbegin();
-    while (place != number.digits.rend() && *place == '9')
-        *place++ = '0';
-    if (place != number.digits.rend()) {
-        ++*place;
+    auto digit = number.digits.rbegin();
+    while (digit != number.digits.rend() && *digit == '9')
+        *digit++ = '0';
+    if (digit != number.digits.rend()) {
+        ++*digit;
     } else {
         number.digits.insert(number.digits.begin(), '1');
         ++number.pointPosition;
     }
 }
 
-/// The digit at decimal position `place`: 1 is the first after the point, 0 the units.
-char digitAt(const Digits& number, int place)
+/// The digit at a decimal position: 1 is the first after the point, 0 the units.
+char digitAt(const Digits& number, int position)
 {
-    const int index = number.pointPosition + place - 1;
+    const int index = number.pointPosition + position - 1;
     const bool inside = index >= 0 && index < static_cast<int>(number.digits.size());
     return inside ? number.digits[static_cast<std::size_t>(index)] : '0';
 }
@@ -119,15 +119,15 @@ std::string plainText(const Digits& number, const Pattern& pattern)
 {
     std::string text = number.negative && !isZero(number) ? "-" : "";
     const int whole = isZero(number) ? 0 : std::max(number.pointPosition, 0);
-    for (int place = 1 - std::max(whole, pattern.integerDigits); place <= 0; ++place)
-        text += digitAt(number, place);
+    for (int position = 1 - std::max(whole, pattern.integerDigits); position <= 0; ++position)
+        text += digitAt(number, position);
     if (pattern.point)
         text += '.';
     int decimals = pattern.fixedDecimals + pattern.optionalDecimals;
     while (decimals > pattern.fixedDecimals && digitAt(number, decimals) == '0')
         --decimals;
-    for (int place = 1; place <= decimals; ++place)
-        text += digitAt(number, place);
+    for (int position = 1; position <= decimals; ++position)
+        text += digitAt(number, position);
     return text;
 }
 

@@ -37,7 +37,7 @@ unsigned digitOf(char c)
     return static_cast<unsigned>(static_cast<unsigned char>(c)) - unsigned {'0'};
 }
 
-/// Reads the exponent that stands from `p` to the end; false when it is none.
+/// Reads an exponent from `p` to `end`; false when the text is none.
 bool scanExponent(const char* p, const char* end, Decimal& number)
 {
     bool negative = false;
@@ -57,7 +57,7 @@ bool scanExponent(const char* p, const char* end, Decimal& number)
     return true;
 }
 
-/// Scans a text without blanks around; false when it is not a number.
+/// Scans a text without surrounding blanks; false when it is not a number.
 bool scanDecimal(const char* p, const char* end, Decimal& number)
 {
     if (p != end && (*p == '+' || *p == '-'))
@@ -90,7 +90,7 @@ bool scanDecimal(const char* p, const char* end, Decimal& number)
     return (letter == 'e' || letter == 'd') && scanExponent(p + 1, end, number);
 }
 
-/// The double nearest to a number whose digits and power of ten are both exact in a double.
+/// The nearest double of a number whose digits and power of ten are both exact doubles.
 bool exactDouble(const Decimal& number, double& value)
 {
     if (!number.exact || number.mantissa > exactMantissa || number.exponent < -exactPowers
@@ -104,8 +104,8 @@ bool exactDouble(const Decimal& number, double& value)
     return true;
 }
 
-/// Whether rounding this double once more, to a single, gives the single nearest to the decimal
-/// text: not when it lies exactly between two singles, nor outside their normal range.
+/// Whether rounding this double to a single gives the single nearest to the decimal text. False
+/// when the double lies exactly between two singles or outside their normal range.
 bool roundsOnce(double value)
 {
     std::uint64_t bits = 0;
@@ -115,7 +115,7 @@ bool roundsOnce(double value)
     return (bits & dropped) != halfWay && (value == 0.0 || (value > 2e-38 && value < 3e38));
 }
 
-/// Whether a number out of a type's range is too large for it, and not too small.
+/// Whether a number outside the range of a type is too large (otherwise it is too small).
 bool isLarge(std::string_view text, const Decimal& scanned)
 {
     std::int64_t digits = 0;
@@ -126,15 +126,15 @@ bool isLarge(std::string_view text, const Decimal& scanned)
     return digits + scanned.exponent > 0;
 }
 
-/// The long way, for any number of digits and any exponent: the library's own conversion.
+/// The slow path, for any number of digits and any exponent: the library's conversion.
 template <typename Number>
 NumberStatus convertByLibrary(std::string_view text, const Decimal& scanned, Number& value)
 {
     std::string copy(text.front() == '+' || text.front() == '-' ? text.substr(1) : text);
-    if (const auto mark = copy.find_first_of("eEdD"); mark != std::string::npos) {
-        copy[mark] = 'e';
-        if (copy[mark + 1] == '+')
-            copy.erase(mark + 1, 1);
+    if (const auto letter = copy.find_first_of("eEdD"); letter != std::string::npos) {
+        copy[letter] = 'e';
+        if (copy[letter + 1] == '+')
+            copy.erase(letter + 1, 1);
     }
     Number magnitude = 0;
     const auto result = std::from_chars(copy.data(), copy.data() + copy.size(), magnitude);
@@ -147,9 +147,9 @@ NumberStatus convertByLibrary(std::string_view text, const Decimal& scanned, Num
     return NumberStatus::Ok;
 }
 
-/// Whether digits are written without an exponent when the decimal point comes after so many of
-/// them, or so many zeros before them: up to sixteen digits with the zeros, and always where the
-/// exponent would save none or few.
+/// Whether `digits` digits are written without an exponent when the decimal point comes after
+/// `point` of them (negative: after that many leading zeros). True up to sixteen digits with the
+/// zeros, and wherever an exponent would save few characters or none.
 bool isPlain(int digits, int point)
 {
     constexpr int most = 16;
@@ -166,14 +166,14 @@ template <typename Number>
     const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
                                        std::chars_format::scientific);
     std::string text(buffer.data(), written.ptr);
-    const std::size_t mark = text.find('e');
-    if (mark == std::string::npos) // no finite number
+    const std::size_t letter = text.find('e');
+    if (letter == std::string::npos) // not finite
         return text;
     const std::string sign = text.front() == '-' ? "-" : "";
-    std::string digits = text.substr(sign.size(), mark - sign.size());
+    std::string digits = text.substr(sign.size(), letter - sign.size());
     std::erase(digits, '.');
     int point = 0;
-    const std::size_t exponent = mark + (text[mark + 1] == '+' ? 2 : 1);
+    const std::size_t exponent = letter + (text[letter + 1] == '+' ? 2 : 1);
     std::from_chars(text.data() + exponent, text.data() + text.size(), point);
     ++point;
     const int count = static_cast<int>(digits.size());

@@ -7,14 +7,13 @@
 #include <cstring>
 #include <string_view>
 
-/// The quick way to read a number of at most sixteen characters and eight digits, as result files
-/// are made of: [blanks][-]digits[.digits][E±dd]. All characters are looked at together, in two
-/// machine words, so that the time does not depend on where the point or the first digit stands.
-/// Whatever looks different is left to `parseSingle`, which knows every form; the values are the
-/// same.
+/// The fast path for numbers of at most sixteen characters and eight digits, the usual form in
+/// result files: [blanks][-]digits[.digits][E±dd]. It processes all characters at once in two
+/// machine words, so that the time does not depend on the position of the point or the first digit.
+/// Any other form is left to `parseSingle`. The values are the same.
 namespace tarsil::shortnumber {
 
-/// Up to sixteen characters, the last of them in the top byte of `high`, blanks before the first.
+/// Up to sixteen characters, right-aligned: the last is the top byte of `high`, blanks come first.
 struct Characters
 {
     std::uint64_t low;
@@ -36,7 +35,7 @@ Word load(const char* p)
     return word;
 }
 
-/// Only for `bytes` from 0 to 7.
+/// The lowest `bytes` bytes of a word; `bytes` is 0 to 7.
 constexpr std::uint64_t lowest(std::uint64_t word, std::size_t bytes)
 {
     return word & ((std::uint64_t {1} << (8 * bytes)) - 1);
@@ -61,7 +60,7 @@ inline Characters characters(const char* p, std::size_t size)
     return result;
 }
 
-/// The top bit of every byte of `word` that is `c`.
+/// Sets the top bit of every byte of `word` that equals `c`.
 constexpr std::uint64_t bytesEqual(std::uint64_t word, char c)
 {
     constexpr std::uint64_t lowBits = everyByte('\x7F');
@@ -69,14 +68,14 @@ constexpr std::uint64_t bytesEqual(std::uint64_t word, char c)
     return ~(((different & lowBits) + lowBits) | different | lowBits);
 }
 
-/// The characters that cannot be digits: bit 4 of their byte. Of all that a number is made of, only
-/// the digits have that bit set.
+/// Sets bit 4 of every byte that is not a digit. Of all characters of a number only digits have
+/// that bit set.
 constexpr std::uint64_t notDigits(std::uint64_t word)
 {
     return ~word & everyByte('\x10');
 }
 
-/// Eight digits as bytes 0 to 9, the first of them in the lowest byte.
+/// The value of eight digits given as bytes 0 to 9, the first in the lowest byte.
 constexpr std::uint32_t eightDigits(std::uint64_t digits)
 {
     constexpr std::uint64_t pairs = 0x000000FF000000FF;
@@ -87,7 +86,7 @@ constexpr std::uint32_t eightDigits(std::uint64_t digits)
 }
 
 constexpr int largestPower = 22;
-constexpr unsigned largestExponent = 15; ///< with seven decimals it makes the largest power
+constexpr unsigned largestExponent = 15; ///< seven decimals more give the largest power
 
 /// 10^-22 to 10^22, each the nearest double.
 constexpr std::array<double, 2 * largestPower + 1> powersOfTen = {
@@ -96,7 +95,7 @@ constexpr std::array<double, 2 * largestPower + 1> powersOfTen = {
     1e2,   1e3,   1e4,   1e5,   1e6,   1e7,   1e8,   1e9,   1e10,  1e11,  1e12,  1e13,
     1e14,  1e15,  1e16,  1e17,  1e18,  1e19,  1e20,  1e21,  1e22};
 
-/// Takes an exponent of the form E±dd off the end, where there is one; false for another form.
+/// Removes an exponent of the form E±dd from the end, if there is one. False for another form.
 inline bool takeExponent(Characters& text, int& exponent)
 {
     const auto end = static_cast<std::uint32_t>(text.high >> 32);
@@ -115,16 +114,16 @@ inline bool takeExponent(Characters& text, int& exponent)
     return true;
 }
 
-/// Takes out the character that has so many behind it, at most seven.
-inline void takeOut(Characters& text, int behind)
+/// Removes the character that is followed by `after` others; `after` is at most seven.
+inline void removeCharacter(Characters& text, int after)
 {
-    const std::uint64_t upToIt = ~std::uint64_t {0} >> (8 * behind);
+    const std::uint64_t upToIt = ~std::uint64_t {0} >> (8 * after);
     const std::uint64_t moved = (text.high << 8) | (text.low >> 56);
     text.high ^= (text.high ^ moved) & upToIt;
     text.low = (text.low << 8) | ' ';
 }
 
-/// Takes out a decimal point that has at most seven digits behind it, and returns how many.
+/// Removes a decimal point followed by at most seven digits, and returns their number.
 inline int takePoint(Characters& text)
 {
     const std::uint64_t others = notDigits(text.high);
@@ -133,14 +132,14 @@ inline int takePoint(Characters& text)
     const int decimals = std::countl_zero(others) / 8;
     if ((text.high << (8 * decimals)) >> 56 != '.')
         return 0;
-    takeOut(text, decimals);
+    removeCharacter(text, decimals);
     return decimals;
 }
 
-/// The single nearest to the digits times a power of ten, by one multiplication; false when that is
-/// not sure to be the nearest. The product of an exact integer and a power rounded to double is
-/// less than two units of its last place off, so both round to the same single unless the product
-/// lies within two units of the middle between two singles. It is never outside the range of a
+/// The single nearest to `digits` times a power of ten, computed by one multiplication. False when
+/// the result is not certainly the nearest. The product of an exact integer and a rounded power is
+/// less than two units in the last place off, so both round to the same single unless the product
+/// lies within two units of the midpoint between two singles. It is never outside the range of a
 /// single.
 inline bool scale(std::uint32_t digits, int exponent, std::uint32_t signBit, float& value)
 {
@@ -155,24 +154,24 @@ inline bool scale(std::uint32_t digits, int exponent, std::uint32_t signBit, flo
     return ((std::bit_cast<std::uint64_t>(product) - middle + doubt) & dropped) > 2 * doubt;
 }
 
-/// The number of what is left when exponent and point are taken out: [blanks][-]digits, at most
-/// eight of them, the last `decimals` of which stood behind the point.
+/// Reads what remains without exponent and point: [blanks][-]digits. At most eight digits, of which
+/// the last `decimals` came after the point.
 [[gnu::always_inline]] inline bool readDigits(const Characters& text, int decimals, int exponent,
                                               float& value)
 {
     const std::uint64_t others = notDigits(text.high);
     std::uint64_t digits = text.high ^ everyByte('0');
-    // What stands before the digits, as the difference from blanks; its last character on top.
+    // The characters before the digits, XOR blanks; the last one in the top byte.
     std::uint64_t before = text.low ^ blanks;
     if (others != 0) {
         const int digitBits = std::countl_zero(others) & ~7;
-        // The point stood before or among the digits, not before a sign or a blank.
+        // The point must be before or among the digits, not before a sign or a blank.
         if (digitBits == 0 || digitBits < 8 * decimals || before != 0)
             return false;
         digits &= ~(~std::uint64_t {0} >> digitBits);
         before = (text.high ^ blanks) << digitBits;
     }
-    // No branch on the sign: in a damping curve nobody can predict it.
+    // No branch on the sign: in a damping curve it is unpredictable.
     constexpr std::uint64_t minus = std::uint64_t {' ' ^ '-'} << 56;
     const std::uint64_t isNegative = (before >> 59) & 1;
     const std::uint64_t wrongSign = before ^ (minus & (0 - isNegative));
@@ -188,8 +187,8 @@ constexpr bool isPossible(std::size_t size)
     return std::endian::native == std::endian::little && size <= 16;
 }
 
-/// Reads a text of the form above with at most eight digits; false, with `value` undefined, for
-/// every other.
+/// Reads a number of the form described above with at most eight digits. False for any other text;
+/// `value` is then undefined.
 [[gnu::always_inline]] inline bool read(const char* p, std::size_t size, float& value)
 {
     if (!isPossible(size))
@@ -207,15 +206,15 @@ constexpr bool isPossible(std::size_t size)
     return read(text.data(), text.size(), value);
 }
 
-/// The form that the numbers of one column usually have.
+/// The usual form of the numbers of one column.
 struct Shape
 {
     int decimals = 3; ///< one to seven
     bool hasExponent = false;
 };
 
-/// The same for a number that is expected to have a certain shape: where that is known when this is
-/// compiled, nothing has to be searched. False for another shape as well.
+/// Reads a number of a given shape. Faster than `read` when the shape is known at compile time,
+/// because nothing is searched. False for any other shape too.
 [[gnu::always_inline]] inline bool readShaped(const char* p, std::size_t size, Shape shape,
                                               float& value)
 {
@@ -227,7 +226,7 @@ struct Shape
         return false;
     if (((text.high >> (8 * (7 - shape.decimals))) & 0xFF) != '.')
         return false;
-    takeOut(text, shape.decimals);
+    removeCharacter(text, shape.decimals);
     return readDigits(text, shape.decimals, exponent, value);
 }
 
@@ -237,8 +236,8 @@ constexpr Shape shapeOf(std::string_view text)
     const std::size_t letter = text.find_first_of("EeDd");
     const std::string_view mantissa = text.substr(0, letter);
     const std::size_t point = mantissa.find('.');
-    const std::size_t behind = point < mantissa.size() ? mantissa.size() - point - 1 : 0;
-    const std::size_t decimals = behind < 1 ? 1 : behind > 7 ? 7 : behind;
+    const std::size_t after = point < mantissa.size() ? mantissa.size() - point - 1 : 0;
+    const std::size_t decimals = after < 1 ? 1 : after > 7 ? 7 : after;
     return {static_cast<int>(decimals), letter < text.size()};
 }
 

@@ -21,19 +21,19 @@ constexpr std::string_view trimmed(std::string_view text)
     return text;
 }
 
-/// Whether a text has nothing but spaces, tabs and line ends.
+/// Whether a text consists of spaces, tabs and line ends only.
 bool isBlankText(std::string_view text);
 
-/// The small letter of a capital of ASCII; any other character as it is.
+/// Converts an ASCII capital to a small letter; returns any other character unchanged.
 constexpr char asciiLower(char c)
 {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
-/// A text with its capitals of ASCII as small letters. For file names see `withoutCase`.
+/// Converts ASCII capitals to small letters. For file names use `withoutCase`.
 std::string asciiLower(std::string_view text);
 
-/// Whether two texts are equal but for the case of the letters of ASCII.
+/// Whether two texts are equal when the case of ASCII letters is ignored.
 bool equalIgnoringAsciiCase(std::string_view a, std::string_view b);
 
 } // namespace tarsil

@@ -10,7 +10,7 @@ namespace tarsil {
 
 namespace {
 
-/// Capitals that follow each other, as far from their small letters.
+/// Consecutive capitals at the same distance from their small letters.
 struct CapitalRange
 {
     char16_t first;
@@ -18,7 +18,7 @@ struct CapitalRange
     int distance;
 };
 
-/// Capitals that take turns with their small letters; `first` is a capital.
+/// Capitals that alternate with their small letters; `first` is a capital.
 struct PairedRange
 {
     char16_t first;
@@ -34,7 +34,7 @@ constexpr std::array capitals = {
     CapitalRange {0x0400, 0x040F, 80}, CapitalRange {0x0410, 0x042F, 32},
 };
 
-// The dotless i and its capital with a dot (U+0130, U+0131) are no pair.
+// Dotted capital I and dotless small i (U+0130, U+0131) are not a pair.
 constexpr std::array pairs = {
     PairedRange {0x0100, 0x012F}, PairedRange {0x0132, 0x0137}, PairedRange {0x0139, 0x0148},
     PairedRange {0x014A, 0x0177}, PairedRange {0x0179, 0x017E}, PairedRange {0x0460, 0x0481},
@@ -64,7 +64,7 @@ std::string withoutCase(std::string_view utf8)
 {
     const bool isAscii = std::all_of(utf8.begin(), utf8.end(), [](char c) { return c >= 0; });
     if (isAscii || !isUtf8(utf8)) {
-        // What is no text is compared by its bytes.
+        // Bytes that are not text are compared as they are, except for ASCII case.
         return asciiLower(utf8);
     }
     std::u16string text = utf16FromUtf8(utf8);

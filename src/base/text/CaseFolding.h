@@ -5,8 +5,9 @@
 
 namespace tarsil {
 
-/// A UTF-8 text in small letters, for comparing file names without case: letters of the Latin,
-/// Greek and Cyrillic alphabets that have one small letter. The length in characters stays.
+/// Converts a UTF-8 text to small letters, for comparing file names without case. Covers letters of
+/// the Latin, Greek and Cyrillic alphabets with a single small letter. The number of characters
+/// does not change.
 std::string withoutCase(std::string_view utf8);
 
 } // namespace tarsil

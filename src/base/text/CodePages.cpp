@@ -22,13 +22,13 @@ constexpr std::array<char16_t, 32> windows1252 = {
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
-/// The pages the system is asked for as "CP" and their number. A fixed list, so that a text full of
-/// invented numbers does not send the system searching for each of them.
+/// The pages that iconv knows as "CP" and their number. The list is fixed, so that a text full of
+/// invented page numbers does not make iconv search for each of them.
 constexpr std::array<int, 28> numberedPages = {
     437, 737, 775, 850, 852, 855, 857,  858,  860,  861,  862,  863,  865,  866,
     869, 874, 932, 936, 949, 950, 1250, 1251, 1253, 1254, 1255, 1256, 1257, 1258};
 
-/// What the system calls a page; empty for one that is not known.
+/// The iconv name of a page; empty for an unknown page.
 std::string systemName(int codePage)
 {
     if (std::find(numberedPages.begin(), numberedPages.end(), codePage) != numberedPages.end())
@@ -61,7 +61,7 @@ std::u16string decodeWindows1252(std::string_view bytes)
 
 } // namespace
 
-/// One open table of the system.
+/// An open iconv conversion.
 class CodePageDecoder::Converter
 {
 public:
@@ -85,7 +85,7 @@ public:
         while (!bytes.empty()) {
             if (step(bytes, text) || errno == E2BIG)
                 continue;
-            // The byte has no meaning, or begins a character that the text cuts.
+            // An invalid byte, or the start of a truncated character.
             flush(text);
             text += replacementCharacter;
             bytes.remove_prefix(1);
@@ -95,14 +95,14 @@ public:
     }
 
 private:
-    /// What a handle is when the page could not be opened; the system says so with -1.
+    /// The handle of a page that could not be opened: iconv_open returns -1.
     static iconv_t noHandle() { return reinterpret_cast<iconv_t>(std::intptr_t {-1}); }
 
-    /// Decodes as many bytes as the buffer has room for and takes them off; false when it stopped
-    /// before the end, with the reason in errno.
+    /// Decodes as many bytes as the buffer allows and removes them from `bytes`. False when it
+    /// stopped before the end; errno holds the reason.
     bool step(std::string_view& bytes, std::u16string& text)
     {
-        // The system does not write to the bytes, although its declaration does not say so.
+        // iconv does not write to the bytes, although its declaration allows it.
         char* in = const_cast<char*>(bytes.data());
         std::size_t left = bytes.size();
         const bool whole = convert(&in, &left, text);
@@ -110,7 +110,7 @@ private:
         return whole;
     }
 
-    /// Pages with combining accents hold a letter back until they know what follows.
+    /// Pages with combining accents hold back a letter until the next byte is known.
     void flush(std::u16string& text) { convert(nullptr, nullptr, text); }
 
     bool convert(char** in, std::size_t* left, std::u16string& text)
@@ -136,10 +136,10 @@ std::optional<unsigned char> windows1252Byte(char32_t character)
 {
     if (character < 0x80 || (character >= 0xA0 && character <= 0xFF))
         return static_cast<unsigned char>(character);
-    const auto* const place = std::find(windows1252.begin(), windows1252.end(), character);
-    if (place == windows1252.end())
+    const auto* const found = std::find(windows1252.begin(), windows1252.end(), character);
+    if (found == windows1252.end())
         return std::nullopt;
-    return static_cast<unsigned char>(0x80 + (place - windows1252.begin()));
+    return static_cast<unsigned char>(0x80 + (found - windows1252.begin()));
 }
 
 CodePageDecoder::CodePageDecoder() = default;

@@ -8,7 +8,7 @@ namespace {
 
 constexpr std::size_t longest = 60;
 
-/// Whether a character of several bytes goes on here.
+/// Whether a byte continues a character of several bytes.
 bool continues(char c)
 {
     return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;

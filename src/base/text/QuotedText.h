@@ -5,8 +5,8 @@
 
 namespace tarsil {
 
-/// Foreign text in quotation marks, fit for a message: cut after sixty bytes, then as at
-/// `printableText`.
+/// Foreign text in quotation marks for a message: cut after sixty bytes and made printable
+/// (`printableText`).
 std::string quotedText(std::string_view text);
 
 } // namespace tarsil

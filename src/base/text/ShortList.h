@@ -7,13 +7,13 @@
 
 namespace tarsil {
 
-/// The most entries of a list in a message: a message box must not be higher than a small screen.
+/// The maximum number of entries of a list in a message, so that its box fits on a small screen.
 constexpr std::size_t mostRowLines = 30; ///< short lines, one for each row of a plot
-constexpr std::size_t mostFileLines = 20; ///< paths and findings, which the box may break
+constexpr std::size_t mostFileLines = 20; ///< paths and findings, which the box may wrap
 constexpr std::size_t mostReports = 8; ///< reports of errors, of two lines or more
 
-/// The entries of a list as one text. When there are more than `most`, only the first ones, and in
-/// a last line how many more there are.
+/// Joins the entries of a list. Of more than `most` entries the text contains the first `most`, and
+/// a last line with the number of the others.
 std::string shortList(const std::vector<std::string>& entries, std::size_t most,
                       std::string_view separator = "\n");
 

@@ -17,7 +17,7 @@ unsigned byteAt(std::string_view bytes, std::size_t index)
     return static_cast<unsigned char>(bytes[index]);
 }
 
-/// The number of bytes of the well-formed sequence at `start` and its character; 0 when malformed.
+/// The length of the well-formed sequence at `start`, with its character; 0 when malformed.
 std::size_t sequence(std::string_view bytes, std::size_t start, char32_t& character)
 {
     const unsigned lead = byteAt(bytes, start);
@@ -90,7 +90,7 @@ std::string encodeText(std::string_view utf8)
         bytes += static_cast<char>(*byte);
         i += length;
     }
-    // Bytes that would be taken for UTF-8 when read again stay UTF-8.
+    // Text whose Windows-1252 bytes would be read back as UTF-8 stays UTF-8.
     return bytes != utf8 && isUtf8(bytes) ? std::string(utf8) : bytes;
 }
 
@@ -110,7 +110,7 @@ std::string printableText(std::string_view text)
         char32_t character = 0;
         std::size_t length = sequence(text, i, character);
         if (length == 0) {
-            character = byteAt(text, i); // what it is in an 8-bit text
+            character = byteAt(text, i); // read as 8-bit text
             length = 1;
         }
         result.append(isControlCharacter(character) ? "?" : text.substr(i, length));

@@ -4,31 +4,31 @@
 
 namespace tarsil {
 
-/// What stands in the place of bytes or units that are no character.
+/// Replaces malformed bytes and unpaired surrogates.
 constexpr char16_t replacementCharacter = 0xFFFD;
 
-/// The largest character there is.
+/// The largest code point.
 constexpr char32_t lastCharacter = 0x10FFFF;
 
-/// The first half of a character beyond U+FFFF.
+/// The first half of a code point beyond U+FFFF.
 constexpr bool isHighSurrogate(char16_t unit)
 {
     return unit >= 0xD800 && unit <= 0xDBFF;
 }
 
-/// The second half of a character beyond U+FFFF.
+/// The second half of a code point beyond U+FFFF.
 constexpr bool isLowSurrogate(char16_t unit)
 {
     return unit >= 0xDC00 && unit <= 0xDFFF;
 }
 
-/// The character of its two halves.
+/// The code point of a surrogate pair.
 constexpr char32_t joinSurrogates(char16_t high, char16_t low)
 {
     return 0x10000U + ((high & 0x3FFU) << 10U) + (low & 0x3FFU);
 }
 
-/// Appends a character up to `lastCharacter`: one unit or two.
+/// Appends a code point as one unit or two.
 inline void appendUtf16(std::u16string& text, char32_t character)
 {
     if (character < 0x10000) {

@@ -17,7 +17,7 @@ BusyStatus::~BusyStatus()
     try {
         m_userInterface.showStatus(readyStatus);
     } catch (const std::exception&) {
-        return; // without memory for a text the program goes on with the old one
+        return; // out of memory: the old text stays
     }
 }
 

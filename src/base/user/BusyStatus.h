@@ -6,10 +6,10 @@ namespace tarsil {
 
 class UserInterface;
 
-/// What the status bar says while nothing is going on.
+/// The status bar text while no operation runs.
 constexpr std::string_view readyStatus = "Ready";
 
-/// Shows a status text for as long as it lives, and "Ready" afterwards, after an error as well.
+/// Shows a status text while it exists, and "Ready" afterwards, also after an error.
 class BusyStatus
 {
 public:

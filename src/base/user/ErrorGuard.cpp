@@ -9,7 +9,7 @@ namespace tarsil {
 
 namespace {
 
-/// `Catcher` is the kind of thing that catches: a module's name, or a class.
+/// `Catcher` is a module name or a `ClassName`.
 template <typename Catcher>
 std::optional<std::string> reportOfAction(Catcher catcher, std::string_view name,
                                           const std::function<void()>& action)
@@ -25,8 +25,8 @@ std::optional<std::string> reportOfAction(Catcher catcher, std::string_view name
     }
 }
 
-/// Shows a report, if there is one; whether all went well.
-bool told(UserInterface& userInterface, const std::optional<std::string>& report)
+/// Shows the report of a failure. Returns whether there was none.
+bool showFailure(UserInterface& userInterface, const std::optional<std::string>& report)
 {
     if (report)
         userInterface.showMessage(*report, "Error", MessageIcon::Critical);
@@ -43,12 +43,12 @@ std::optional<std::string> reportOf(std::string_view module, const std::function
 bool guarded(UserInterface& userInterface, std::string_view module,
              const std::function<void()>& action)
 {
-    return told(userInterface, reportOf(module, action));
+    return showFailure(userInterface, reportOf(module, action));
 }
 
 bool guarded(UserInterface& userInterface, ClassName className, const std::function<void()>& action)
 {
-    return told(userInterface, reportOfAction(className, className.name, action));
+    return showFailure(userInterface, reportOfAction(className, className.name, action));
 }
 
 } // namespace tarsil

@@ -11,12 +11,13 @@ namespace tarsil {
 
 class UserInterface;
 
-/// Runs an action; the text of the report when it fails, for a caller that tells several failures
-/// together, otherwise nothing. An exception that is no RunTimeError is error 5 with its own text.
+/// Runs an action and returns the text of the error report when it fails, for a caller that shows
+/// several failures together. An exception other than RunTimeError becomes error 5 with its own
+/// text.
 std::optional<std::string> reportOf(std::string_view module, const std::function<void()>& action);
 
-/// Runs what the user asked for and turns a failure into the one report, a box titled "Error" that
-/// names `module`. Returns whether all went well.
+/// Runs a command of the user. A failure is shown in a box titled "Error" that names `module`.
+/// Returns whether the command succeeded.
 bool guarded(UserInterface& userInterface, std::string_view module,
              const std::function<void()>& action);
 

@@ -48,10 +48,10 @@ RunTimeError::RunTimeError(ErrorNumber number, std::string source, std::string_v
         m_description.append(": ").append(details);
 }
 
-RunTimeError RunTimeError::at(std::string_view place) const
+RunTimeError RunTimeError::at(std::string_view where) const
 {
     RunTimeError error = *this;
-    error.m_description.append(" (").append(place).append(")");
+    error.m_description.append(" (").append(where).append(")");
     return error;
 }
 

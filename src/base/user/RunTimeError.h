@@ -6,7 +6,7 @@
 
 namespace tarsil {
 
-/// The run-time errors of the system; the value is the number shown to the user.
+/// The run-time errors; the value is the number shown to the user.
 enum class ErrorNumber {
     InvalidProcedureCall = 5,
     Overflow = 6,
@@ -26,19 +26,19 @@ enum class ErrorNumber {
     KeyAlreadyAssociated = 457
 };
 
-/// The standard sentence of an error number, e.g. "Type mismatch".
+/// The standard text of an error number, e.g. "Type mismatch".
 std::string_view standardText(ErrorNumber number);
 
-/// The one exception of the system: what went wrong (number), which class or module found it
-/// (source), and the user's sentence (description): the standard text followed by where and what.
+/// The exception of this program: the error number, the class or module that found the error
+/// (source), and a text for the user (description): the standard text followed by the details.
 class RunTimeError : public std::exception
 {
 public:
-    /// `details` says where and what (file, line, columns or field, text found); empty for none.
+    /// `details` says where and what (file, line, columns or field, text found). May be empty.
     RunTimeError(ErrorNumber number, std::string source, std::string_view details = {});
 
-    /// The same error, whose description also says where; for a caller that knows more.
-    RunTimeError at(std::string_view place) const;
+    /// The same error with `where` appended to its description; for callers that know more.
+    RunTimeError at(std::string_view where) const;
 
     ErrorNumber number() const { return m_number; }
     const std::string& source() const { return m_source; }

@@ -1,4 +1,4 @@
-#include "app/MarkDialog.h"
+#include "app/ReferenceDialog.h"
 
 #include "base/user/ErrorGuard.h"
 #include "base/user/RunTimeError.h"
@@ -11,18 +11,18 @@
 
 namespace tarsil {
 
-MarkDialog::MarkDialog(Document& document, UserInterface& userInterface, QWidget* parent)
+ReferenceDialog::ReferenceDialog(Document& document, UserInterface& userInterface, QWidget* parent)
     : QDialog(parent), m_document(document), m_userInterface(userInterface)
 { }
 
-void MarkDialog::done(int result)
+void ReferenceDialog::done(int result)
 {
-    fillDefaults(); // first: whoever hears that the dialog is closed may delete it
+    fillDefaults(); // first, because a slot of the signal may delete the dialog
     QDialog::done(result);
 }
 
-void MarkDialog::addMark(QLineEdit& input, const QString& name, std::string_view module,
-                         const std::function<void(EvmPlot&, float)>& add)
+void ReferenceDialog::addNumber(QLineEdit& input, const QString& name, std::string_view module,
+                                const std::function<void(EvmPlot&, float)>& add)
 {
     m_userInterface.beginCommand();
     guarded(m_userInterface, module, [&] {
@@ -46,13 +46,13 @@ void MarkDialog::addMark(QLineEdit& input, const QString& name, std::string_view
     m_document.history().note(name);
 }
 
-void MarkDialog::askForNumber()
+void ReferenceDialog::askForNumber()
 {
     m_userInterface.showMessage("Please enter a numeric value.", "Tarsil", MessageIcon::None);
 }
 
-/// Enter presses the default button; held down, it adds one mark and not a row of them.
-void MarkDialog::keyPressEvent(QKeyEvent* event)
+/// Enter presses the default button, but adds only once while it is held down.
+void ReferenceDialog::keyPressEvent(QKeyEvent* event)
 {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (!isEnter || !event->isAutoRepeat())

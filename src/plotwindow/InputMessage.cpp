@@ -1,4 +1,4 @@
-#include "plotwindow/InputWarning.h"
+#include "plotwindow/InputMessage.h"
 
 #include <QAction>
 #include <QLineEdit>
@@ -6,7 +6,7 @@
 
 namespace tarsil {
 
-InputWarning::InputWarning(QLineEdit& input)
+InputMessage::InputMessage(QLineEdit& input)
     : m_input(input), m_usualToolTip(input.toolTip()),
       m_usualDescription(input.accessibleDescription()),
       m_sign(input.addAction(input.style()->standardIcon(QStyle::SP_MessageBoxWarning),
@@ -15,7 +15,7 @@ InputWarning::InputWarning(QLineEdit& input)
     m_sign->setVisible(false);
 }
 
-void InputWarning::show(const QString& text)
+void InputMessage::show(const QString& text)
 {
     const bool isShown = !text.isEmpty();
     m_sign->setVisible(isShown);
