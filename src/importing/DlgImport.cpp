@@ -35,7 +35,6 @@ using solver::SolverRun;
 constexpr std::string_view moduleName = "dlgImport";
 constexpr std::string_view reading = "Read Solver Results. Please Wait ...";
 constexpr std::string_view writing = "Import Solver Results. Please Wait ...";
-constexpr std::size_t mostLines = 8; ///< lines of a list in a message
 
 enum Role { OutputRole = Qt::UserRole, RunRole };
 
@@ -145,7 +144,7 @@ bool dlgImport::addFiles(const std::vector<std::string>& paths)
     if (refusals.size() > refused)
         m_user.showMessage(
             shortList({refusals.begin() + static_cast<std::ptrdiff_t>(refused), refusals.end()},
-                      mostLines),
+                      mostReports),
             "Tarsil", MessageIcon::Exclamation);
     if (m_plan.outputs().empty())
         return false;
@@ -281,7 +280,7 @@ void dlgImport::btnImport_Click()
             return m_plan.write();
         }();
         if (!written.failures.empty())
-            m_user.showMessage(shortList(written.failures, mostLines), "Error",
+            m_user.showMessage(shortList(written.failures, mostReports), "Error",
                                MessageIcon::Critical);
         if (written.paths.empty())
             return;
@@ -303,7 +302,7 @@ bool dlgImport::mayReplace() const
         return true;
     return m_user.confirm(
         (existing.size() == 1 ? "This file exists already:\n" : "These files exist already:\n")
-            + shortList(existing, mostLines) + "\nDo you want to replace "
+            + shortList(existing, mostReports) + "\nDo you want to replace "
             + (existing.size() == 1 ? "it?" : "them all?")
             + " Open evolutions of these files are read again, and their curves are removed from "
               "the plots.",
