@@ -9,7 +9,7 @@ namespace tarsil::fuzz {
 namespace {
 
 constexpr std::size_t mostChanges = 8;
-constexpr std::size_t mostBytes = 1 << 16; ///< longer ones cost time and find nothing more
+constexpr std::size_t mostBytes = 1 << 16; ///< longer inputs are slow and find nothing more
 constexpr std::size_t mostOfPart = 200;
 
 constexpr std::array<std::string_view, 14> awkwardTexts = {
@@ -23,7 +23,7 @@ bool isOfNumber(char character)
 
 } // namespace
 
-/// 0 when there is nothing to choose from.
+/// Returns 0 for a count of 0.
 std::size_t Mutations::below(std::size_t count)
 {
     return count < 2 ? 0 : std::uniform_int_distribution<std::size_t>(0, count - 1)(m_random);
@@ -63,7 +63,7 @@ void Mutations::change(std::string& text)
         break;
     }
     case 4:
-        text.resize(part.start); // as a file that was cut
+        text.resize(part.start); // like a truncated file
         break;
     case 5:
         text.insert(part.start, awkwardTexts[below(awkwardTexts.size())]);

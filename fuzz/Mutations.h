@@ -8,12 +8,12 @@
 
 namespace tarsil::fuzz {
 
-/// Variations of seeds: bytes changed, parts cut out, repeated or taken from another seed, numbers
-/// replaced by awkward ones.
+/// Variations of seeds: changed bytes, parts removed, repeated or copied from another seed, and
+/// numbers replaced by extreme ones.
 class Mutations
 {
 public:
-    /// `seeds` are at least one, and must outlive the object.
+    /// `seeds` must not be empty and must outlive the object.
     Mutations(const std::vector<std::string>& seeds, std::uint32_t randomSeed)
         : m_seeds(seeds), m_random(randomSeed)
     { }

@@ -11,15 +11,15 @@
 #include <string_view>
 #include <vector>
 
-// Runs a fuzz target over every file of the folders given, and then over variations of them.
+// Runs a fuzz target over every file in the given folders, and then over variations of them.
 //
 // usage: fuzz_NAME [--seconds N] FOLDER...
-//   --seconds N  for so long; without it the files alone
+//   --seconds N  the time for the variations; the default is no variations
 //
-// No file at all is an error, so that a moved folder is noticed. An input at which the program ends
-// is left in the working folder as NAME-input.
+// No file is an error, so that a moved folder is noticed. An input that ends the program is written
+// to the working folder as NAME-input.
 
-/// Of the sanitizers, where the program is built with them.
+/// A function of the sanitizers, null without them.
 extern "C" void __sanitizer_set_death_callback( // NOLINT(bugprone-reserved-identifier)
     void (*callback)()) __attribute__((weak));
 
@@ -27,8 +27,8 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-std::string program; // name of the file that keeps the input
-std::string input; // the one that runs
+std::string program; // name of the program, for the file of the input
+std::string input; // the current input
 
 void keepInput()
 {
@@ -37,7 +37,7 @@ void keepInput()
 
 void keepInputAtSignal(int /*signal*/)
 {
-    keepInput(); // the program is lost anyhow
+    keepInput(); // not signal-safe, but the program ends anyway
     std::_Exit(EXIT_FAILURE);
 }
 
@@ -64,7 +64,7 @@ std::vector<std::string> seedsIn(const char* folder)
     return seeds;
 }
 
-/// Returns how many variations there was time for.
+/// Returns the number of variations run in the time.
 int runVariations(const std::vector<std::string>& seeds, std::chrono::seconds duration)
 {
     tarsil::fuzz::Mutations mutations(seeds, std::random_device()());

@@ -31,7 +31,7 @@ void ReferenceDialog::addNumber(QLineEdit& input, const QString& name, std::stri
         try {
             value = number.single();
         } catch (const RunTimeError& error) {
-            number.goTo(); // where the button was pressed, there is no field with the focus
+            number.goTo(); // after a click on the button no field has the focus
             if (error.number() == ErrorNumber::TypeMismatch)
                 return askForNumber();
             throw;

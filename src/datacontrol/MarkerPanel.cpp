@@ -24,14 +24,14 @@ std::int32_t countIn(QLineEdit& input, std::int32_t most)
     return NumberInput(input, "wndData").count(most);
 }
 
-/// Stores the number in an input when it is valid; the input shows when it is not.
-void readCount(QLineEdit& input, std::int32_t most, InputWarning& warning, std::int32_t& count)
+/// Stores the number of an input if it is valid; otherwise shows a message at the input.
+void readCount(QLineEdit& input, std::int32_t most, InputMessage& message, std::int32_t& count)
 {
     try {
         count = countIn(input, most);
-        warning.show({});
+        message.show({});
     } catch (const RunTimeError&) {
-        warning.show(most == factorCount
+        message.show(most == factorCount
                          ? QStringLiteral("Ignored: a number from 1 to 5 is needed")
                          : QStringLiteral("Ignored: a number of at least 1 is needed"));
     }
@@ -40,8 +40,8 @@ void readCount(QLineEdit& input, std::int32_t most, InputWarning& warning, std::
 } // namespace
 
 MarkerPanel::MarkerPanel(const Ui::wndData& form)
-    : m_form(form), m_sizeWarning(*form.mksizeInp), m_spacingWarning(*form.mkspaceInp),
-      m_factorWarning(*form.ithmpfInp)
+    : m_form(form), m_sizeMessage(*form.mksizeInp), m_spacingMessage(*form.mkspaceInp),
+      m_factorMessage(*form.ithmpfInp)
 {
     read();
 }
@@ -84,18 +84,18 @@ MarkerOptions MarkerPanel::options() const
 void MarkerPanel::read()
 {
     m_valid.kind = kind();
-    readCount(*m_form.mksizeInp, anyCount, m_sizeWarning, m_valid.size);
-    readCount(*m_form.mkspaceInp, anyCount, m_spacingWarning, m_valid.spacing);
-    readCount(*m_form.ithmpfInp, factorCount, m_factorWarning, m_valid.ithMpf);
-    if (!traitsOf(m_valid.kind).needsFactor) // it may be anything then
-        m_factorWarning.show({});
+    readCount(*m_form.mksizeInp, anyCount, m_sizeMessage, m_valid.size);
+    readCount(*m_form.mkspaceInp, anyCount, m_spacingMessage, m_valid.spacing);
+    readCount(*m_form.ithmpfInp, factorCount, m_factorMessage, m_valid.ithMpf);
+    if (!traitsOf(m_valid.kind).needsFactor) // its text does not matter then
+        m_factorMessage.show({});
 }
 
 void MarkerPanel::show(const Series& series)
 {
-    const QSignalBlocker quiet[] = {
-        QSignalBlocker(m_form.mksizeInp), QSignalBlocker(m_form.mkspaceInp),
-        QSignalBlocker(m_form.ithmpfInp)}; // it is not the user's change
+    const QSignalBlocker quiet[] = {QSignalBlocker(m_form.mksizeInp),
+                                    QSignalBlocker(m_form.mkspaceInp),
+                                    QSignalBlocker(m_form.ithmpfInp)}; // not a change by the user
     if (const auto kind = markerOfNumber(series.MarkerStyle))
         buttonOf(*kind).setChecked(true);
     if (series.MarkerSize > 0)
@@ -111,7 +111,7 @@ bool MarkerPanel::resetSpacing()
 {
     double spacing = 0;
     if (parseDouble(m_form.mkspaceInp->text().toStdString(), spacing) != NumberStatus::Ok)
-        return false; // "Plot" says so
+        return false; // "Plot" reports it
     if (std::nearbyint(spacing) > 0)
         return false;
     m_form.mkspaceInp->setText(QString::number(m_valid.spacing));

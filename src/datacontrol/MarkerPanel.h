@@ -1,7 +1,7 @@
 #pragma once
 
 #include "plot/Marker.h"
-#include "plotwindow/InputWarning.h"
+#include "plotwindow/InputMessage.h"
 
 class QRadioButton;
 
@@ -13,29 +13,29 @@ class wndData;
 
 struct Series;
 
-/// The controls of the Data Control window that set the markers of curves.
+/// The marker inputs of the Data Control window.
 class MarkerPanel
 {
 public:
     /// `form` must outlive the panel.
     explicit MarkerPanel(const Ui::wndData& form);
 
-    /// The options in the controls. Errors 13, 6 and 5 name the input that is wrong. The index of
-    /// the participation factor must be a number only where it is the marker.
+    /// The options in the inputs. Errors 13, 6 and 5 name the faulty input. The index of the
+    /// participation factor must be valid only if it is the marker.
     MarkerOptions options() const;
 
-    /// Of each option the last valid one.
+    /// The last valid value of each option.
     const MarkerOptions& valid() const { return m_valid; }
 
-    /// Reads the valid options; inputs that are ignored show a warning.
+    /// Reads the valid options; ignored inputs show a message.
     void read();
 
-    /// Shows the options of a series, and reads them. A series without markers says nothing about
-    /// their size and spacing.
+    /// Shows the options of a series and reads them. A series without markers does not determine
+    /// size and spacing.
     void show(const Series& series);
 
-    /// Puts the last valid spacing back when the input has a number that is 0 or less, rounded;
-    /// returns whether it did.
+    /// Restores the last valid spacing if the input has a number that rounds to 0 or less. Returns
+    /// whether it did.
     bool resetSpacing();
 
 private:
@@ -43,9 +43,9 @@ private:
     MarkerKind kind() const;
 
     const Ui::wndData& m_form;
-    InputWarning m_sizeWarning;
-    InputWarning m_spacingWarning;
-    InputWarning m_factorWarning;
+    InputMessage m_sizeMessage;
+    InputMessage m_spacingMessage;
+    InputMessage m_factorMessage;
     MarkerOptions m_valid;
 };
 

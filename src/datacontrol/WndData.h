@@ -72,7 +72,7 @@ private:
     EvmPlot* activePlot();
     const EVM* reference();
     void warn(const std::string& text);
-    void takeMarkers();
+    void readMarkers();
     void applyMarkers();
     void showMarkers();
     bool isModeSelected(const char* refusal);

@@ -205,8 +205,8 @@ void wndData::chooseLine()
     });
 }
 
-/// Curves that are added later get what the controls say.
-void wndData::takeMarkers()
+/// Also sets the markers of curves that will be added.
+void wndData::readMarkers()
 {
     m_markers.read();
     m_document.plots().setNewSeriesMarkers(m_markers.valid());
@@ -217,7 +217,7 @@ void wndData::takeMarkers()
 void wndData::applyMarkers()
 {
     const MarkerOptions before = m_markers.valid();
-    takeMarkers();
+    readMarkers();
     EvmPlot* const plot = m_model.plot();
     if (plot == nullptr || m_markers.valid() == before)
         return;
@@ -227,8 +227,8 @@ void wndData::applyMarkers()
         UndoHistory::Joining::Yes);
 }
 
-/// The controls show what the first series of the plot has, so that "Plot" leaves a plot as it was
-/// opened.
+/// Shows the markers of the first series of the plot, so that "Plot" leaves an opened plot
+/// unchanged.
 void wndData::showMarkers()
 {
     const PlotRow* const first = m_model.row(0);

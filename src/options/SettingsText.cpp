@@ -43,7 +43,7 @@ Extent readLine(std::string_view bytes, std::size_t begin)
     Extent line {begin, std::string_view::npos, begin, true};
     bool isQuoted = false;
     bool isEscaped = false;
-    std::size_t afterEscapedLineEnd = std::string_view::npos; // what follows goes on with the line
+    std::size_t afterEscapedLineEnd = std::string_view::npos; // the next text continues the line
     for (; line.end < bytes.size(); ++line.end) {
         const char c = bytes[line.end];
         if (isEscaped) {

@@ -12,7 +12,7 @@ namespace tarsil {
 
 namespace {
 
-/// Some names are those of the labels, which end in a colon.
+/// Removes the final colon of a label that is used as a name.
 std::string nameOf(const QLineEdit& input)
 {
     return input.accessibleName().remove(u':').toStdString();

@@ -18,7 +18,7 @@ public:
     /// source of errors.
     NumberInput(QLineEdit& input, std::string_view module);
 
-    /// The same with another name.
+    /// With `name` as the name in errors.
     NumberInput(QLineEdit& input, std::string_view module, std::string name);
 
     double number() const;

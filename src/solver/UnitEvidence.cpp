@@ -55,7 +55,7 @@ void forEachRow(const std::vector<SolverRun>& runs, Visit visit)
     }
 }
 
-/// A quotient beyond the range of numbers proves nothing.
+/// A quotient outside the range of numbers proves nothing.
 void addFinite(double value, std::vector<double>& values)
 {
     if (std::isfinite(value))

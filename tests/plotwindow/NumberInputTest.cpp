@@ -67,7 +67,7 @@ TEST_F(NumberInputTest, namesTheFieldAndItsTextInErrors)
     EXPECT_EQ(errorNumberOf([&] { named.single(); }), ErrorNumber::TypeMismatch);
 }
 
-TEST_F(NumberInputTest, takesTheColonOfALabelOffTheName)
+TEST_F(NumberInputTest, removesTheColonOfALabelFromTheName)
 {
     field.setText(QStringLiteral("0"));
     const std::string message = messageOf([this] { input().count(); });
