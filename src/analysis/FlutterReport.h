@@ -60,10 +60,10 @@ public:
     /// the searches (9 for a mode without points among them) and of the altitude.
     void write(const std::vector<ReportRow>& rows, Sheet& sheet) const;
 
-    /// Like `write`, but continues after a failure. A mode that cannot be searched (two points of one
-    /// speed around a crossing, for instance) gets empty cells for its crossings; an altitude or
-    /// maximum that cannot be computed leaves its own cell empty. Each such error goes to `report`.
-    /// Errors: 13 for a Mach number as above, and those that `report` raises.
+    /// Like `write`, but continues after a failure. A mode that cannot be searched (two points of
+    /// one speed around a crossing, for instance) gets empty cells for its crossings; an altitude
+    /// or maximum that cannot be computed leaves its own cell empty. Each such error goes to
+    /// `report`. Errors: 13 for a Mach number as above, and those that `report` raises.
     void writeWhatCan(const std::vector<ReportRow>& rows, Sheet& sheet,
                       const FailureReport& report) const;
 

@@ -43,12 +43,6 @@ std::vector<wndMain::CommandMenu> wndMain::commandTable()
           {"ImportMenu", nullptr, "&Import Solver Results ...", &wndMain::ImportMenu_Click},
           {"ExportMenu", nullptr, "&Export Mix File ...", &wndMain::ExportMenu_Click},
           {"QuitMenu", nullptr, "Quit", &wndMain::QuitMenu_Click, "Ctrl+Q"}}},
-        {"EditMenu",
-         "&Edit",
-         nullptr,
-         nullptr,
-         {{"mnuUndo", nullptr, "&Undo", &wndMain::mnuUndo_Click, "Ctrl+Z"},
-          {"mnuRedo", nullptr, "&Redo", &wndMain::mnuRedo_Click, "Ctrl+Shift+Z"}}},
         {"mnuView",
          "&View",
          nullptr,
@@ -81,6 +75,12 @@ std::vector<wndMain::CommandMenu> wndMain::commandTable()
          {{"mnuDefLayout", nullptr, "Defalut Layout", &wndMain::mnuDefLayout_Click},
           {"TileVertMenu", nullptr, "Tile Vertically", &wndMain::TileVertMenu_Click},
           {"TileHorizMenu", nullptr, "Tile Horizontally", &wndMain::TileHorizMenu_Click}}},
+        {"EditMenu",
+         "&Edit",
+         nullptr,
+         nullptr,
+         {{"mnuUndo", nullptr, "&Undo", &wndMain::mnuUndo_Click, "Ctrl+Z"},
+          {"mnuRedo", nullptr, "&Redo", &wndMain::mnuRedo_Click, "Ctrl+Shift+Z"}}},
     };
 }
 

@@ -292,8 +292,7 @@ bool SeriesGridModel::setModeText(const QModelIndex& cell, const QString& text)
         if (status != NumberStatus::Ok)
             throwNumberError(status, typed, "wndData",
                              "Mode of row " + std::to_string(cell.row() + 1));
-        m_history.change(tr("Mode"),
-                         [&] { m_plot->rows().setMode(row(cell.row())->id, number); });
+        m_history.change(tr("Mode"), [&] { m_plot->rows().setMode(row(cell.row())->id, number); });
         return true;
     } catch (const RunTimeError& error) {
         Q_EMIT refused(cell, text, error);

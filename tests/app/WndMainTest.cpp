@@ -69,7 +69,7 @@ TEST_F(WndMainTest, hasTheMenusLetterForLetter)
     std::vector<std::string> bar;
     for (const QAction* entry : window.menuBar()->actions())
         bar.push_back(entry->text().toStdString());
-    EXPECT_THAT(bar, ElementsAre("&File", "&Edit", "&View", "&Format", "&Tools", "&Window"));
+    EXPECT_THAT(bar, ElementsAre("&File", "&View", "&Format", "&Tools", "&Window", "&Edit"));
 }
 
 TEST_F(WndMainTest, hasThePopupsOfPlotAndExplorer)

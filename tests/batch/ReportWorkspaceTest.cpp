@@ -81,8 +81,8 @@ TEST_F(ReportOfAWorkspace, saysWhichFileHasNoPath)
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.err,
               "tarsil-batch: " + path
-                  + ": the series of modal evolution 2 are left out: the workspace does not say "
-                    "its path\n");
+                  + ": the series of modal evolution 2 are left out: the workspace has no path "
+                    "for it\n");
     EXPECT_EQ(rows(), "wing.ev2 torsion 5 250|wing.ev2 bending 3 350|");
 }
 

@@ -93,7 +93,7 @@ TEST_F(TrackCommand, refusesWhatItCannotDo)
     EXPECT_THAT(runBatch({"track", "--swap", "3,3@100", path}).err, HasSubstr("with itself"));
     EXPECT_THAT(runBatch({"track", "--swap", "3,4@900", path}).err,
                 HasSubstr("no point is above 900.00 KEAS"));
-    EXPECT_THAT(runBatch({"track", writeEvm()}).err, HasSubstr("no evolution with sections"));
+    EXPECT_THAT(runBatch({"track", writeEvm()}).err, HasSubstr("not an evolution with sections"));
     EXPECT_THAT(runBatch({"track", "--output", path, path}).err,
                 HasSubstr("is one of the files to read"));
     EXPECT_EQ(fileCount(), 2U) << "nothing is written";
