@@ -151,6 +151,7 @@ void WorkspaceCommands::show(const OpenedWorkspace& opened)
 void WorkspaceCommands::showNamesakes(const std::vector<Namesake>& namesakes)
 {
     std::vector<std::string> lines;
+    lines.reserve(namesakes.size());
     for (const Namesake& one : namesakes)
         lines.push_back(shownPath(one.stored) + ": " + shownPath(one.taken));
     const std::string text =

@@ -36,7 +36,7 @@ std::shared_ptr<const DocumentState::Plot> find(const DocumentState& before, con
 std::shared_ptr<const DocumentState::Plot> plotOf(const PlotList::Element& element,
                                                   const DocumentState& before)
 {
-    const auto known = find(before, element.plot.get());
+    auto known = find(before, element.plot.get());
     const DocumentState::Plot nothing;
     const DocumentState::Plot& like = known != nullptr ? *known : nothing;
     DocumentState::Plot plot {element.index,
