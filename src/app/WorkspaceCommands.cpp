@@ -119,14 +119,21 @@ bool WorkspaceCommands::recover(RecoveryCopy& copy)
     const std::optional<std::string> path = copy.takeOver();
     if (!path)
         return false;
-    if (m_userInterface.confirm("Tarsil has ended without saving a workspace. A copy of it, not "
-                                "older than a minute, is there. Open it? No removes the copy.",
+    if (m_userInterface.confirm("Tarsil ended before a workspace was saved. Open the copy that was "
+                                "made of it, at most a minute before?",
                                 "Tarsil")) {
         guarded(m_userInterface, mdlWorkSpace::module,
                 [&] { show(m_document.recover(*path, m_userInterface)); });
-        return true;
+        if (!m_document.isSaved())
+            return true;
+        copy.release(); // nothing of it is open
+    } else if (m_userInterface.confirm("Remove the copy of the unsaved workspace? Otherwise the "
+                                       "next start offers it again.",
+                                       "Tarsil")) {
+        copy.remove();
+    } else {
+        copy.release();
     }
-    copy.remove();
     return false;
 }
 

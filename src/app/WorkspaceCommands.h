@@ -37,7 +37,7 @@ public:
     void OpenWorkSpace(const std::string& path);
 
     /// Offers to open the copy of a program that did not end properly. Returns whether it is open
-    /// now; a copy that the user does not want is removed.
+    /// now. The copy is removed only if the user confirms that, too.
     bool recover(RecoveryCopy& copy);
 
     /// Asks for a file and writes it, whole or not at all. First shows which rows of the plots have

@@ -77,6 +77,11 @@ void RecoveryCopy::remove()
 {
     if (!m_path.empty())
         QFile::remove(QString::fromStdString(m_path));
+    release();
+}
+
+void RecoveryCopy::release()
+{
     m_path.clear();
     m_lock.reset(); // removes its file
     m_written.reset();

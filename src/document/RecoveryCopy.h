@@ -33,8 +33,11 @@ public:
     /// writing a file; the old copy stays then.
     void follow(const Document& document);
 
-    /// Removes the copy: what it holds is saved, or is wanted no more.
+    /// Removes the copy: what it holds is saved, or is not wanted any more.
     void remove();
+
+    /// Leaves the copy to the next start of a program.
+    void release();
 
 private:
     bool lock(const std::string& path);

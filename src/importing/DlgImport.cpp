@@ -273,7 +273,8 @@ void dlgImport::btnFolder_Click()
 void dlgImport::btnImport_Click()
 {
     guarded(m_user, moduleName, [this] {
-        if (!mayReplace())
+        const std::vector<std::string> existing = existingFiles();
+        if (!existing.empty() && !mayReplace(existing))
             return;
         const solver::WrittenFiles written = [this] {
             const BusyStatus status(m_user, writing);
@@ -287,19 +288,26 @@ void dlgImport::btnImport_Click()
         keepUnits();
         accept();
         load(written.paths);
+        if (existing.empty())
+            m_document.history().note(tr("Import Solver Results"));
+        else
+            m_document.history().clear(); // its steps may hold curves that are in no file any more
     });
 }
 
-/// Asks once for all files that exist already.
-bool dlgImport::mayReplace() const
+std::vector<std::string> dlgImport::existingFiles() const
 {
     std::vector<std::string> existing;
     for (const solver::PlannedFile& file : m_plan.files()) {
         if (fileExists(file.path))
             existing.push_back(shownPath(file.path));
     }
-    if (existing.empty())
-        return true;
+    return existing;
+}
+
+/// Asks once for all files that exist already.
+bool dlgImport::mayReplace(const std::vector<std::string>& existing) const
+{
     return m_user.confirm(
         (existing.size() == 1 ? "This file exists already:\n" : "These files exist already:\n")
             + shortList(existing, mostReports) + "\nDo you want to replace "
@@ -323,7 +331,6 @@ void dlgImport::load(const std::vector<std::string>& paths)
     for (EVM* const evolution : replaced)
         m_document.remove(*evolution);
     const std::size_t count = m_document.load(paths, m_user).size();
-    m_document.history().note(tr("Import Solver Results"));
     m_user.showNote(std::to_string(count)
                     + (count == 1 ? " modal evolution is" : " modal evolutions are")
                     + " imported: they are listed in the explorer.");

@@ -75,7 +75,8 @@ private:
     void showEvidence();
     void showPreview();
 
-    bool mayReplace() const;
+    std::vector<std::string> existingFiles() const;
+    bool mayReplace(const std::vector<std::string>& existing) const;
     void load(const std::vector<std::string>& paths);
 
     std::unique_ptr<Ui::dlgImport> m_ui;

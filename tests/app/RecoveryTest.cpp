@@ -35,7 +35,7 @@ TEST_F(Recovery, opensTheCopyThatIsThereAndKeepsItUntilItIsSaved)
     user.confirmations = {true};
     load();
     ASSERT_EQ(user.questions.size(), 1U);
-    EXPECT_THAT(user.questions[0], StartsWith("Tarsil has ended without saving a workspace."));
+    EXPECT_THAT(user.questions[0], StartsWith("Tarsil ended before a workspace was saved."));
     EXPECT_EQ(description(), "an evening");
     EXPECT_TRUE(std::filesystem::exists(copy));
     user.saveFiles.push_back(folder.file("case.tsw"));
@@ -46,10 +46,31 @@ TEST_F(Recovery, opensTheCopyThatIsThereAndKeepsItUntilItIsSaved)
 TEST_F(Recovery, removesACopyThatTheUserDoesNotWant)
 {
     const std::string copy = leaveCopy();
-    user.confirmations = {false};
+    user.confirmations = {false, true};
     load();
     EXPECT_EQ(description(), "   ");
     EXPECT_FALSE(std::filesystem::exists(copy));
+}
+
+TEST_F(Recovery, keepsTheCopyWhenTheQuestionsAreLeftByEscape)
+{
+    const std::string copy = leaveCopy();
+    load(); // both questions are answered with No
+    EXPECT_EQ(user.questions.size(), 2U);
+    choose("mnuClearRef");
+    EXPECT_TRUE(std::filesystem::exists(copy));
+    choose("QuitMenu");
+    EXPECT_TRUE(std::filesystem::exists(copy)) << "the next start offers it again";
+}
+
+TEST_F(Recovery, keepsACopyThatCannotBeRead)
+{
+    const std::string copy = folder.write("unsaved-1.tsw", "a letter");
+    user.confirmations = {true};
+    load();
+    EXPECT_EQ(user.messages.size(), 1U);
+    choose("mnuClearRef");
+    EXPECT_TRUE(std::filesystem::exists(copy));
 }
 
 TEST_F(Recovery, leavesNothingWhenTheProgramEndsProperly)

@@ -235,6 +235,7 @@ TEST_F(DlgImport, readsAnOpenEvolutionAgainWhenItsFileIsReplaced)
     add(path);
     choosePreset(feet);
     click(*dialog, "btnImport");
+    EXPECT_EQ(document.history().steps().undoText(), QStringLiteral("Import Solver Results"));
     EvmPlot& plot = document.plots().first();
     plotCurves(plot, {allCurvesOf(*document.evolutions().all().front())});
     ASSERT_EQ(plot.rows().count(), 1U);
@@ -246,6 +247,8 @@ TEST_F(DlgImport, readsAnOpenEvolutionAgainWhenItsFileIsReplaced)
     EXPECT_THAT(loaded(), ElementsAre("wing_s1_M0.30.ev2", "wing_s2_M0.30.ev2"));
     EXPECT_FLOAT_EQ(firstSpeed(0), 194.384449F);
     EXPECT_TRUE(plot.rows().isEmpty()) << "its curve was that of other speeds";
+    EXPECT_FALSE(document.history().steps().canUndo())
+        << "the curves of the replaced file do not come back";
     EXPECT_THAT(user.messages, IsEmpty());
 }
 
