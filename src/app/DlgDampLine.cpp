@@ -100,7 +100,7 @@ void dlgDampLine::sdampBtn_Click()
 {
     m_isLeft = false;
     addNumber(*m_ui->sdampInp, tr("Add Damping Line"), moduleName, [this](EvmPlot& plot, float g) {
-        plot.marks().AddDampLine(g, m_ui->captionInp->text());
+        plot.references().AddDampLine(g, m_ui->captionInp->text());
     });
 }
 

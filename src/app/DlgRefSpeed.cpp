@@ -24,9 +24,10 @@ void dlgRefSpeed::fillDefaults()
 
 void dlgRefSpeed::AddRefBtn_Click()
 {
-    addNumber(
-        *m_ui->posInp, tr("Add Reference Speed"), "dlgRefSpeed",
-        [this](EvmPlot& plot, float speed) { plot.marks().AddRef(speed, m_ui->capInp->text()); });
+    addNumber(*m_ui->posInp, tr("Add Reference Speed"), "dlgRefSpeed",
+              [this](EvmPlot& plot, float speed) {
+                  plot.references().AddRef(speed, m_ui->capInp->text());
+              });
 }
 
 } // namespace tarsil

@@ -168,7 +168,7 @@ void wndMain::followMarks(const EvmPlot* before, const EvmPlot* now)
 {
     const auto showNote = [this] {
         const EvmPlot* const plot = m_document.plots().active();
-        m_statusPanels->setPlotNote(plot == nullptr ? QString() : plot->marks().shiftNote());
+        m_statusPanels->setPlotNote(plot == nullptr ? QString() : plot->references().shiftNote());
     };
     if (before != nullptr)
         disconnect(before, &EvmPlot::changed, this, nullptr);
@@ -425,7 +425,7 @@ void wndMain::mnuAddRef_Click()
 
 void wndMain::mnuClearRef_Click()
 {
-    activePlot().marks().RemoveRef();
+    activePlot().references().RemoveRef();
 }
 
 void wndMain::mnuAddDamp_Click()
@@ -439,7 +439,7 @@ void wndMain::mnuAddDamp_Click()
 
 void wndMain::mnuClearDamp_Click()
 {
-    activePlot().marks().RemoveDampLine();
+    activePlot().references().RemoveDampLine();
 }
 
 void wndMain::mnuFlutCalc_Click()

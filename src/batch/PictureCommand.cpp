@@ -18,7 +18,7 @@ void finish(EvmPlot& plot, const PictureOptions& options, const std::string& out
     setTexts(plot, options);
     plot.resize(options.size);
     writePicture(plot, output);
-    if (const QString note = plot.marks().shiftNote(); !note.isEmpty())
+    if (const QString note = plot.references().shiftNote(); !note.isEmpty())
         run.complain(output + ": " + note.toStdString());
 }
 

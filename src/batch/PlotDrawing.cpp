@@ -68,9 +68,9 @@ void setTexts(EvmPlot& plot, const PictureOptions& options)
     setText(plot, TextBox::Legend, options.legend);
     setText(plot, TextBox::Mechanism, options.subtitle);
     for (const CaptionedValue& reference : options.referenceSpeeds)
-        plot.marks().AddRef(reference.value, reference.caption);
+        plot.references().AddRef(reference.value, reference.caption);
     for (const CaptionedValue& damping : options.dampingLines)
-        plot.marks().AddDampLine(damping.value, damping.caption);
+        plot.references().AddDampLine(damping.value, damping.caption);
 }
 
 void writePicture(EvmPlot& plot, const std::string& path)

@@ -130,8 +130,8 @@ void PlotList::startNew()
     fresh.properties().setCaption(QStringLiteral("Plot1"));
     fresh.setAxes(m_newPlotAxes);
     first().Clone(fresh);
-    first().marks().setReferenceSpeeds({});
-    first().marks().setDampingLines({});
+    first().references().setReferenceSpeeds({});
+    first().references().setDampingLines({});
     activate(&first());
 }
 

@@ -50,8 +50,8 @@ PlotState stateOf(const EvmPlot& plot)
         state.boxes[i] = boxStateOf(plot, allTextBoxes[i]);
     state.properties = plot.properties().WriteProperties();
     state.axes = plot.axes();
-    state.referenceSpeeds = plot.marks().referenceSpeeds();
-    state.dampingLines = plot.marks().dampingLines();
+    state.referenceSpeeds = plot.references().referenceSpeeds();
+    state.dampingLines = plot.references().dampingLines();
     return state;
 }
 
@@ -59,10 +59,10 @@ void restore(EvmPlot& plot, const PlotState& state)
 {
     restoreAxes(plot, state);
     restoreTexts(plot, state);
-    if (plot.marks().referenceSpeeds() != state.referenceSpeeds)
-        plot.marks().setReferenceSpeeds(state.referenceSpeeds);
-    if (plot.marks().dampingLines() != state.dampingLines)
-        plot.marks().restoreDampingLines(state.dampingLines);
+    if (plot.references().referenceSpeeds() != state.referenceSpeeds)
+        plot.references().setReferenceSpeeds(state.referenceSpeeds);
+    if (plot.references().dampingLines() != state.dampingLines)
+        plot.references().restoreDampingLines(state.dampingLines);
 }
 
 } // namespace tarsil

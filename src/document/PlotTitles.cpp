@@ -79,10 +79,10 @@ void markEnvelope(EvmPlot& plot, const EVM& evolution, const AirplaneInfo& airpl
                                + envelopeName(evolution.Param.Mach) + where);
     }
     // Blanks keep captions apart whose speeds are close.
-    plot.marks().RemoveRef();
-    plot.marks().AddRef(envelope->Ceiling, QString::fromStdString(airplane.CeTag));
-    plot.marks().AddRef(envelope->Vd, QString::fromStdString(airplane.VdTag + "    "));
-    plot.marks().AddRef(envelope->VL, QString::fromStdString("       " + airplane.VLTag));
+    plot.references().RemoveRef();
+    plot.references().AddRef(envelope->Ceiling, QString::fromStdString(airplane.CeTag));
+    plot.references().AddRef(envelope->Vd, QString::fromStdString(airplane.VdTag + "    "));
+    plot.references().AddRef(envelope->VL, QString::fromStdString("       " + airplane.VLTag));
 }
 
 void showMechanism(EvmPlot& plot, const AirplaneInfo& airplane, const QString& shortName,

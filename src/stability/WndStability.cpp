@@ -279,8 +279,8 @@ void wndStability::addRequirementLines()
         + (m_document.airplane().VdTag.empty() ? "Vd" : m_document.airplane().VdTag);
     m_document.history().change(tr("Requirement Lines"), [&] {
         for (const double speed : speeds)
-            plot.marks().AddRef(static_cast<float>(speed), QString::fromStdString(tag));
-        plot.marks().AddDampLine(
+            plot.references().AddRef(static_cast<float>(speed), QString::fromStdString(tag));
+        plot.references().AddDampLine(
             m_requirement.level,
             QString::fromStdString("g = " + shortestText(m_requirement.level)));
     });

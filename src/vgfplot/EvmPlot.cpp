@@ -49,7 +49,7 @@ std::optional<Range> visibleFrequencies(const SeriesList& series, float vmin, fl
 
 EvmPlot::EvmPlot()
     : m_parts(*this), m_picture(m_parts), m_properties(m_parts, m_picture),
-      m_marks(m_parts, m_picture), m_texts(m_parts, m_picture)
+      m_references(m_parts, m_picture), m_texts(m_parts, m_picture)
 {
     connect(&m_picture, &PlotPicture::changed, this, &EvmPlot::changed);
     resize(QSize(800, 600));

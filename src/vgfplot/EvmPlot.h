@@ -3,10 +3,10 @@
 #include "model/PlotAxes.h"
 #include "plot/EmfRichTextBox.h"
 #include "plot/UcPlot.h"
-#include "vgfplot/PlotMarks.h"
 #include "vgfplot/PlotParts.h"
 #include "vgfplot/PlotPicture.h"
 #include "vgfplot/PlotProperties.h"
+#include "vgfplot/PlotReferences.h"
 #include "vgfplot/PlotRows.h"
 #include "vgfplot/PlotTexts.h"
 #include "vgfplot/TextBox.h"
@@ -24,9 +24,9 @@ namespace tarsil {
 class DeviceContext;
 
 /// The V-g-f plot of a set of modes: frequency above and damping below a common speed axis, axis
-/// titles, and three text boxes. Needs no window. It composes rows, drawn items, properties, marks
-/// and texts, and draws them on the screen and into files. A change of any of them marks the
-/// picture as stale; it is redrawn on the next request.
+/// titles, and three text boxes. Needs no window. It composes rows, drawn items, properties,
+/// references and texts, and draws them on the screen and into files. A change of any of them marks
+/// the picture as stale; it is redrawn on the next request.
 ///
 /// Speeds are KEAS, frequencies Hz, dampings g dimensionless (negative is stable).
 class EvmPlot : public QObject, public PlotContainer
@@ -40,8 +40,8 @@ public:
     const PlotRows& rows() const { return m_rows; }
     PlotProperties& properties() { return m_properties; }
     const PlotProperties& properties() const { return m_properties; }
-    PlotMarks& marks() { return m_marks; }
-    const PlotMarks& marks() const { return m_marks; }
+    PlotReferences& references() { return m_references; }
+    const PlotReferences& references() const { return m_references; }
     PlotTexts& texts() { return m_texts; }
 
     /// The drawn items: canvases, axes, labels, text boxes.
@@ -80,7 +80,7 @@ public:
     void setVisible(bool visible);
 
     /// Copies the text boxes with their positions, the scale, and every property of `source`, but
-    /// not its series and marks.
+    /// not its series and references.
     void Clone(const EvmPlot& source);
 
     /// Sets the size in pixels at 96 per inch and updates the layout. `ratio`: physical pixels of
@@ -123,7 +123,7 @@ private:
     PlotParts m_parts;
     PlotPicture m_picture;
     PlotProperties m_properties;
-    PlotMarks m_marks;
+    PlotReferences m_references;
     PlotTexts m_texts;
     bool m_visible = true;
 };

@@ -51,18 +51,18 @@ SeriesRecord recordOf(const Series& series, const std::vector<const EVM*>& evolu
 
 std::vector<ReferenceRecord> referenceSpeedsOf(const EvmPlot& plot)
 {
-    std::vector<ReferenceRecord> marks;
-    for (const RefThick& mark : plot.marks().referenceSpeeds())
-        marks.push_back({mark.Speed, mark.Caption.toStdString()});
-    return marks;
+    std::vector<ReferenceRecord> references;
+    for (const RefThick& mark : plot.references().referenceSpeeds())
+        references.push_back({mark.Speed, mark.Caption.toStdString()});
+    return references;
 }
 
 std::vector<ReferenceRecord> dampingLinesOf(const EvmPlot& plot)
 {
-    std::vector<ReferenceRecord> marks;
-    for (const RefLine& line : plot.marks().dampingLines())
-        marks.push_back({line.Y1, line.Caption.toStdString()});
-    return marks;
+    std::vector<ReferenceRecord> references;
+    for (const RefLine& line : plot.references().dampingLines())
+        references.push_back({line.Y1, line.Caption.toStdString()});
+    return references;
 }
 
 void applyText(const TextRecord& record, TextBox which, EvmPlot& plot)
@@ -139,11 +139,11 @@ void applyReferences(const PlotRecord& record, EvmPlot& plot)
     std::vector<RefThick> speeds;
     for (const ReferenceRecord& mark : record.referenceSpeeds)
         speeds.push_back({mark.value, QString::fromStdString(mark.caption)});
-    plot.marks().setReferenceSpeeds(std::move(speeds));
-    std::vector<PlotMarks::DampLine> lines;
+    plot.references().setReferenceSpeeds(std::move(speeds));
+    std::vector<PlotReferences::DampLine> lines;
     for (const ReferenceRecord& mark : record.dampingLines)
         lines.push_back({mark.value, QString::fromStdString(mark.caption)});
-    plot.marks().setDampingLines(lines);
+    plot.references().setDampingLines(lines);
 }
 
 } // namespace

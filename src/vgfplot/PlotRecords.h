@@ -13,7 +13,7 @@ class EvmPlot;
 /// `evolutions`, counted from 1. Series of other evolutions, or without a mode, are left out.
 PlotRecord recordOf(const EvmPlot& plot, const std::vector<const EVM*>& evolutions);
 
-/// Applies the texts, axes, marks and series of a record; does not draw. Only the top of the
+/// Applies the texts, axes, references and series of a record; does not draw. Only the top of the
 /// header's position is used; its left is fixed by the layout. `evolutions` is the list of files as
 /// saved, null for a missing file, whose series are left out. A text or position that the record
 /// lacks is unchanged. Error 9 "Subscript out of range" for a series with an evolution beyond the

@@ -156,9 +156,9 @@ void SessionRoundTripTest::addSeries(EvmPlot& one)
 void SessionRoundTripTest::addMarks(EvmPlot& one)
 {
     for (std::size_t left = random.below(4); left > 0; --left)
-        one.marks().AddRef(bound(-100, 900), line(20));
+        one.references().AddRef(bound(-100, 900), line(20));
     for (std::size_t left = random.below(4); left > 0; --left)
-        one.marks().AddDampLine(bound(-1, 1), line(random.below(4) == 0 ? 120 : 20));
+        one.references().AddDampLine(bound(-1, 1), line(random.below(4) == 0 ? 120 : 20));
 }
 
 void SessionRoundTripTest::editEvolutions()

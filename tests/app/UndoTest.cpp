@@ -64,15 +64,15 @@ TEST_F(Undo, takesWhatTheDialogsAddBack)
     test::click(dialog, "AddRefBtn");
     EXPECT_EQ(undoText(), "&Undo Add Reference Speed");
     choose("mnuUndo");
-    EXPECT_THAT(plot().marks().referenceSpeeds(), IsEmpty());
+    EXPECT_THAT(plot().references().referenceSpeeds(), IsEmpty());
     EXPECT_EQ(user.note, "Undone: Add Reference Speed");
     EXPECT_EQ(redoText(), "&Redo Add Reference Speed");
     choose("mnuRedo");
-    EXPECT_EQ(plot().marks().referenceSpeeds().size(), 1U);
+    EXPECT_EQ(plot().references().referenceSpeeds().size(), 1U);
     choose("mnuClearRef");
     EXPECT_EQ(undoText(), "&Undo Clear Reference Speeds");
     choose("mnuUndo");
-    EXPECT_EQ(plot().marks().referenceSpeeds().size(), 1U);
+    EXPECT_EQ(plot().references().referenceSpeeds().size(), 1U);
 }
 
 TEST_F(Undo, takesLoadedEvolutionsBackAndLoadsThemWithoutReading)
@@ -125,7 +125,7 @@ TEST_F(Undo, joinsTheArrowKeysThatMoveAText)
 TEST_F(Undo, beginsAnewWithAnotherWorkspace)
 {
     choose("mnuClearRef");
-    plot().marks().AddRef(300, QStringLiteral("Vd"));
+    plot().references().AddRef(300, QStringLiteral("Vd"));
     choose("mnuClearRef");
     user.unsaved = {Unsaved::Discard};
     choose("mnuNewWorkspace");

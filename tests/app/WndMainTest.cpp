@@ -242,7 +242,7 @@ TEST_F(WndMainTest, saysInTheStatusBarWhereReferenceSpeedsAreDrawnElsewhere)
     };
     plot().SetScale(100, 700, 0, 50, 0, -0.25F);
     EXPECT_EQ(shown(), QString());
-    plot().marks().AddRef(352.1F, QStringLiteral("Vd"));
+    plot().references().AddRef(352.1F, QStringLiteral("Vd"));
     EXPECT_EQ(shown(), note);
     window.stBar().setNote(QStringLiteral("The picture is in ..."));
     EXPECT_EQ(shown(), note);

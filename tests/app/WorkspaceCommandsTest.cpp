@@ -69,9 +69,9 @@ protected:
     /// Sets everything that only further keys can store.
     void makeWhatOnlyNewerFilesHold()
     {
-        plot().marks().AddRef(352.1F, QStringLiteral("Vd    "));
-        plot().marks().AddRef(400, QStringLiteral("       VL"));
-        plot().marks().AddDampLine(0.01F, QStringLiteral("g = 1.00 %"));
+        plot().references().AddRef(352.1F, QStringLiteral("Vd    "));
+        plot().references().AddRef(400, QStringLiteral("       VL"));
+        plot().references().AddDampLine(0.01F, QStringLiteral("g = 1.00 %"));
         test::changeSeries(plot(), 3, [](Series& series) {
             series.LineStyle = 2;
             series.LineWidth = 3;
@@ -274,12 +274,12 @@ TEST_F(WorkspaceCommandsTest, keepAllThatAUserMakes)
     EXPECT_TRUE(user.messages.empty());
     const std::string saved = bytes();
     choose("mnuNewWorkspace");
-    EXPECT_TRUE(plot().marks().referenceSpeeds().empty());
+    EXPECT_TRUE(plot().references().referenceSpeeds().empty());
     open(folder.file("case.tsw"));
-    ASSERT_EQ(plot().marks().referenceSpeeds().size(), 2U);
-    EXPECT_EQ(plot().marks().referenceSpeeds()[1].Caption, QStringLiteral("       VL"));
-    ASSERT_EQ(plot().marks().dampingLines().size(), 1U);
-    EXPECT_EQ(plot().marks().dampingLines()[0].Y1, 0.01F);
+    ASSERT_EQ(plot().references().referenceSpeeds().size(), 2U);
+    EXPECT_EQ(plot().references().referenceSpeeds()[1].Caption, QStringLiteral("       VL"));
+    ASSERT_EQ(plot().references().dampingLines().size(), 1U);
+    EXPECT_EQ(plot().references().dampingLines()[0].Y1, 0.01F);
     const Series& series = plot().SeriesCollection()[3];
     EXPECT_EQ(series.LineStyle, 2);
     EXPECT_EQ(series.LineWidth, 3);
@@ -315,10 +315,10 @@ TEST_F(WorkspaceCommandsTest, askBeforeOnlyThatIsLostWhichNewerFilesHold)
 {
     work();
     const std::vector<std::function<void()>> changes = {
-        [this] { plot().marks().AddRef(300, QStringLiteral("Vc")); },
-        [this] { plot().marks().RemoveRef(); },
-        [this] { plot().marks().AddDampLine(0.02F, QStringLiteral("g")); },
-        [this] { plot().marks().RemoveDampLine(); },
+        [this] { plot().references().AddRef(300, QStringLiteral("Vc")); },
+        [this] { plot().references().RemoveRef(); },
+        [this] { plot().references().AddDampLine(0.02F, QStringLiteral("g")); },
+        [this] { plot().references().RemoveDampLine(); },
         [this] { test::changeSeries(plot(), 0, [](Series& one) { one.LineStyle = 4; }); },
         [this] { test::changeSeries(plot(), 0, [](Series& one) { one.LineWidth = 2; }); },
         [this] { test::changeSeries(plot(), 0, [](Series& one) { one.IthMpf = 5; }); },
@@ -358,7 +358,7 @@ TEST_F(WorkspaceCommandsTest, passOverWhatDoesNotFitInNewerFiles)
     choose("mnuNewWorkspace");
     open(folder.file("damaged.tsw"));
     EXPECT_TRUE(user.messages.empty());
-    EXPECT_EQ(plot().marks().referenceSpeeds().size(), 1U);
+    EXPECT_EQ(plot().references().referenceSpeeds().size(), 1U);
     EXPECT_EQ(plot().SeriesCollection()[3].LineStyle, 0);
     EXPECT_EQ(window.document().evolutions().reference(), nullptr);
     EXPECT_EQ(evolution(0).Param.editable(), evolution(0).paramOfFile());
@@ -421,16 +421,16 @@ TEST_F(WorkspaceCommandsTest, keepEveryCharacterOfALongHeader)
 TEST_F(WorkspaceCommandsTest, sayWhichCaptionsWillBeCut)
 {
     work();
-    plot().marks().AddRef(300, QString(1024, u'x'));
-    plot().marks().AddDampLine(0, QString(1023, u'x'));
+    plot().references().AddRef(300, QString(1024, u'x'));
+    plot().references().AddDampLine(0, QString(1023, u'x'));
     save();
     EXPECT_THAT(user.note, StartsWith("RefSpeed(1) of [PLOT1] is longer than 1023 "));
     choose("mnuNewWorkspace");
     open(folder.file("case.tsw"));
     EXPECT_EQ(user.note,
               "RefSpeed(1) of [PLOT1] is cut: the limit of the format is 1023 characters.");
-    EXPECT_EQ(plot().marks().referenceSpeeds().at(0).Caption.size(), 1023);
-    EXPECT_EQ(plot().marks().dampingLines().at(0).Caption.size(), 1023);
+    EXPECT_EQ(plot().references().referenceSpeeds().at(0).Caption.size(), 1023);
+    EXPECT_EQ(plot().references().dampingLines().at(0).Caption.size(), 1023);
 }
 
 TEST_F(WorkspaceCommandsTest, doNothingWhenADialogIsCancelled)

@@ -121,7 +121,7 @@ TEST_F(SeriesGridViewTest, editsACellInPlace)
 TEST_F(SeriesGridViewTest, keepsWhatIsBeingTypedWhenThePlotChanges)
 {
     startTyping(1, SeriesColumn::Legend, "typed");
-    plot().marks().RemoveRef(); // like a menu command, which does not take the focus
+    plot().references().RemoveRef(); // like a menu command, which does not take the focus
     add(*evolutions().front(), 2);
     auto* const editor = test::openEditor(grid());
     ASSERT_NE(editor, nullptr);

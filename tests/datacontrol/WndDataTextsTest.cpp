@@ -92,7 +92,7 @@ TEST_F(WndDataTexts, needsAReferenceAndItsMassConfigurationForTheHeader)
 TEST_F(WndDataTexts, replacesOtherReferenceSpeedsByTheEnvelope)
 {
     setReference(load("a.ev2"));
-    plot().marks().AddRef(300, QStringLiteral("mine"));
+    plot().references().AddRef(300, QStringLiteral("mine"));
     click("btnAutoRef");
     EXPECT_THAT(marks(),
                 ElementsAre(std::pair(140.0F, "Ceiling"), std::pair(180.0F, "Vd    "),
@@ -101,7 +101,7 @@ TEST_F(WndDataTexts, replacesOtherReferenceSpeedsByTheEnvelope)
 
 TEST_F(WndDataTexts, needsAReferenceItsMachNumberAndItsEnvelopeForTheSpeeds)
 {
-    plot().marks().AddRef(300, QStringLiteral("mine"));
+    plot().references().AddRef(300, QStringLiteral("mine"));
     click("btnAutoRef");
     EVM& evolution = load("a.ev2");
     setReference(evolution);

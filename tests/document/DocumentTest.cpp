@@ -111,13 +111,13 @@ TEST_F(DocumentTest, bringsARemovedEvolutionBackWithItsRowsAndItsAddress)
 TEST_F(DocumentTest, bringsARemovedPlotBackAndShowsIt)
 {
     EvmPlot& second = document.plots().add(QStringLiteral("second"));
-    second.marks().AddRef(300, QStringLiteral("Vd"));
+    second.references().AddRef(300, QStringLiteral("Vd"));
     document.plots().activate(&second);
     document.history().change(QStringLiteral("Remove"), [&] { document.plots().remove(second); });
     EXPECT_EQ(document.plots().active(), &document.plots().first());
     document.history().undo();
     EXPECT_EQ(document.plots().active(), &second);
-    EXPECT_EQ(second.marks().referenceSpeeds().size(), 1U);
+    EXPECT_EQ(second.references().referenceSpeeds().size(), 1U);
 }
 
 TEST_F(DocumentTest, announcesTextsThatDiffer)

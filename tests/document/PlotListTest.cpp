@@ -148,8 +148,8 @@ TEST_F(PlotListTest, startsNewWithOneEmptyPlotOfTheAxesThatAreSet)
     EvmPlot& first = list.first();
     first.rows().add(mode);
     first.properties().setCaption(QStringLiteral("mine"));
-    first.marks().AddRef(100, QStringLiteral("Vd"));
-    first.marks().AddDampLine(0.02F, QStringLiteral("2 %"));
+    first.references().AddRef(100, QStringLiteral("Vd"));
+    first.references().AddDampLine(0.02F, QStringLiteral("2 %"));
     list.activate(&add());
     const PlotAxes axes {{"V", 0, 100, 4}, {"f", 0, 10, 2}, {"g", 0, -1, 3}};
     list.setNewPlotAxes(axes);
@@ -158,8 +158,8 @@ TEST_F(PlotListTest, startsNewWithOneEmptyPlotOfTheAxesThatAreSet)
     EXPECT_EQ(&list.first(), &first) << "views keep it";
     EXPECT_EQ(list.active(), &first);
     EXPECT_EQ(first.rows().count(), 0U);
-    EXPECT_THAT(first.marks().referenceSpeeds(), IsEmpty());
-    EXPECT_THAT(first.marks().dampingLines(), IsEmpty());
+    EXPECT_THAT(first.references().referenceSpeeds(), IsEmpty());
+    EXPECT_THAT(first.references().dampingLines(), IsEmpty());
     EXPECT_EQ(first.axes(), axes);
 }
 

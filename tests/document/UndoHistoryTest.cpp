@@ -222,12 +222,12 @@ private:
             [&] { plot.properties().setCaption(text()); },
             [&] { plot.SetScale(0, 100 + value(), 0, value(), 0, -value()); },
             [&] { plot.fitFreq(); },
-            [&] { plot.marks().AddRef(value(), text()); },
+            [&] { plot.references().AddRef(value(), text()); },
             [&] {
-                plot.marks().setDampingLines({{value(), text()}, {value(), text()}});
+                plot.references().setDampingLines({{value(), text()}, {value(), text()}});
             },
             [&] {
-                plot.marks().RemoveRef();
+                plot.references().RemoveRef();
                 plot.properties().setVthicks(static_cast<std::int16_t>(1 + below(9)));
                 plot.properties().setVLabel(text());
             }};
@@ -297,7 +297,7 @@ TEST_F(UndoHistoryTest, leavesNothingOfAChangeThatFails)
     EXPECT_EQ(errorNumberOf([&] {
                   change("Move", [&] {
                       plot.rows().remove({0});
-                      plot.marks().AddRef(300, QStringLiteral("Vd"));
+                      plot.references().AddRef(300, QStringLiteral("Vd"));
                       plot.texts().setText(TextBox::Header, QStringLiteral("header"));
                       plot.SerieMove(1, 9);
                   });
@@ -343,16 +343,16 @@ TEST_F(UndoHistoryTest, makesStepsOfChangesThatAreMadePastIt)
     EXPECT_EQ(snapshot(), raised);
     history.redo();
     EXPECT_EQ(snapshot(), renamed);
-    plot.marks().AddRef(300, QStringLiteral("Vd"));
+    plot.references().AddRef(300, QStringLiteral("Vd"));
     change("Raise Modes", [&] { mdlData::raiseModes(plot.rows(), {1}); });
     EXPECT_EQ(history.steps().count(), 4);
     history.undo();
     history.undo();
     EXPECT_EQ(snapshot(), renamed);
     history.undo();
-    plot.marks().AddRef(400, QStringLiteral("VL")); // changes the plot outside the history
+    plot.references().AddRef(400, QStringLiteral("VL")); // changes the plot outside the history
     history.redo();
-    EXPECT_EQ(plot.marks().referenceSpeeds().size(), 1U);
+    EXPECT_EQ(plot.references().referenceSpeeds().size(), 1U);
     EXPECT_FALSE(history.steps().canRedo());
     history.undo();
     EXPECT_EQ(snapshot(), raised);
@@ -368,7 +368,7 @@ TEST_F(UndoHistoryTest, goesOnWhenOnlyTheSizeOfThePlotIsAnother)
 
 TEST_F(UndoHistoryTest, bringsTheSamePictureBack)
 {
-    plot.marks().AddDampLine(-0.02F, QStringLiteral("g"));
+    plot.references().AddDampLine(-0.02F, QStringLiteral("g"));
     const QImage before = plot.Image().copy();
     change("Everything", [&] {
         plot.SetScale(0, 300, 0, 9, 0, -0.1F); // the damping line keeps its ends
@@ -377,7 +377,7 @@ TEST_F(UndoHistoryTest, bringsTheSamePictureBack)
         plot.texts().setText(TextBox::Legend, QStringLiteral("legend"));
         plot.texts().move(TextBox::Legend, 3000, 3000);
         plot.texts().setHeaderTop(900);
-        plot.marks().AddRef(200, QStringLiteral("Vd"));
+        plot.references().AddRef(200, QStringLiteral("Vd"));
     });
     const QImage after = plot.Image().copy();
     EXPECT_NE(after, before);
@@ -429,7 +429,7 @@ TEST_F(UndoHistoryTest, notesWhatACommandHasChanged)
 {
     history.note(QStringLiteral("nothing"));
     EXPECT_EQ(history.steps().count(), 0);
-    plot.marks().AddRef(300, QStringLiteral("Vd"));
+    plot.references().AddRef(300, QStringLiteral("Vd"));
     history.note(QStringLiteral("Add Reference Speed"));
     change("Raise Modes", [&] {
         mdlData::raiseModes(plot.rows(), {0});
@@ -441,7 +441,7 @@ TEST_F(UndoHistoryTest, notesWhatACommandHasChanged)
     history.undo();
     EXPECT_EQ(history.steps().undoText(), QStringLiteral("Add Reference Speed"));
     history.undo();
-    EXPECT_TRUE(plot.marks().referenceSpeeds().empty());
+    EXPECT_TRUE(plot.references().referenceSpeeds().empty());
 }
 
 TEST_F(UndoHistoryTest, showsThePlotThatAStepChanged)

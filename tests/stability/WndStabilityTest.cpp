@@ -197,12 +197,12 @@ TEST_F(WndStabilityTest, drawsWhatTheAirplaneRequires)
     document.evolutions().setParameters(*first, {"", "", 0.4F});
     part<QLineEdit>("factorInp").setText(QStringLiteral("1.2"));
     QTest::mouseClick(&part<QPushButton>("linesBtn"), Qt::LeftButton);
-    ASSERT_EQ(plot().marks().referenceSpeeds().size(), 1U);
-    EXPECT_EQ(plot().marks().referenceSpeeds()[0].Speed, 240);
-    EXPECT_EQ(plot().marks().referenceSpeeds()[0].Caption.toStdString(), "1.2 VD");
-    ASSERT_EQ(plot().marks().dampingLines().size(), 1U);
-    EXPECT_EQ(plot().marks().dampingLines()[0].Y1, 0.03F);
+    ASSERT_EQ(plot().references().referenceSpeeds().size(), 1U);
+    EXPECT_EQ(plot().references().referenceSpeeds()[0].Speed, 240);
+    EXPECT_EQ(plot().references().referenceSpeeds()[0].Caption.toStdString(), "1.2 VD");
+    ASSERT_EQ(plot().references().dampingLines().size(), 1U);
+    EXPECT_EQ(plot().references().dampingLines()[0].Y1, 0.03F);
     document.history().undo();
-    EXPECT_TRUE(plot().marks().referenceSpeeds().empty());
-    EXPECT_TRUE(plot().marks().dampingLines().empty());
+    EXPECT_TRUE(plot().references().referenceSpeeds().empty());
+    EXPECT_TRUE(plot().references().dampingLines().empty());
 }

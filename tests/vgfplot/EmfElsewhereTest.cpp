@@ -42,8 +42,8 @@ protected:
                                 "\\par\\plain\\fs20 second line\\par}");
         plot.texts().setText(TextBox::Legend, QStringLiteral("legend\nsecond"));
         plot.texts().setText(TextBox::Mechanism, QStringLiteral("below the header"));
-        plot.marks().AddRef(352.1F, QStringLiteral("Vd"));
-        plot.marks().AddDampLine(-0.1F, QStringLiteral("g = 10 %"));
+        plot.references().AddRef(352.1F, QStringLiteral("Vd"));
+        plot.references().AddDampLine(-0.1F, QStringLiteral("g = 10 %"));
         plot.ExportPic(path("plot.emf"));
     }
 

@@ -154,18 +154,18 @@ TEST_F(EvmPlotDrawing, showsAnUnstableModeAboveTheSpeedAxis)
 
 TEST_F(EvmPlotDrawing, showsDampingLinesAtOnce)
 {
-    plot.marks().AddDampLine(-0.0625F, {});
+    plot.references().AddDampLine(-0.0625F, {});
     EXPECT_EQ(pixel(400, 330 + 63), black);
-    plot.marks().RemoveDampLine();
+    plot.references().RemoveDampLine();
     EXPECT_EQ(pixel(400, 330 + 63), white);
 }
 
 TEST_F(EvmPlotDrawing, showsReferenceSpeedsAtOnce)
 {
     plot.Image();
-    plot.marks().AddRef(350, {}); // at 80 + 300; the mark extends 12 rows above the axis
+    plot.references().AddRef(350, {}); // at 80 + 300; the mark extends 12 rows above the axis
     EXPECT_EQ(pixel(380, 330 - 8), black);
-    plot.marks().RemoveRef();
+    plot.references().RemoveRef();
     EXPECT_EQ(pixel(380, 330 - 8), white);
 }
 

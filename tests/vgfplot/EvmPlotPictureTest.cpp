@@ -43,8 +43,8 @@ protected:
             "green\\par}");
         plot.texts().setText(TextBox::Legend, QStringLiteral("legend"));
         plot.texts().setText(TextBox::Mechanism, QStringLiteral("subtitle"));
-        plot.marks().AddRef(352.1F, QStringLiteral("Vd"));
-        plot.marks().AddDampLine(-0.02F, QStringLiteral("g = 2.00 %"));
+        plot.references().AddRef(352.1F, QStringLiteral("Vd"));
+        plot.references().AddDampLine(-0.02F, QStringLiteral("g = 2.00 %"));
     }
 
     test::EmfContents contents()
@@ -152,9 +152,9 @@ TEST_F(EvmPlotPicture, showsSlantedLettersAsTheScreenDoes)
 TEST_F(EvmPlotPicture, showsTheSameOnScreenAndInFilesAtEverySize)
 {
     // Wide plots have room beside the axes for long captions and labels.
-    plot.marks().AddRef(
+    plot.references().AddRef(
         690, QStringLiteral("a caption that reaches far beyond the right end of the axis"));
-    plot.marks().AddRef(
+    plot.references().AddRef(
         5, QStringLiteral("a caption that reaches far beyond the left end of the axis"));
     plot.properties().setVLabel(QStringLiteral("V(keas) with a long title"));
     plot.SetScale(0, 700, 0, 9e9F, 0, -9e9F);
@@ -195,8 +195,8 @@ TEST_F(EvmPlotPicture, isAWellFormedSvgWhateverTheTextsHold)
         plot.properties().setVLabel(text);
         plot.properties().setGLabel(text);
         plot.properties().setFLabel(text);
-        plot.marks().AddRef(100, text);
-        plot.marks().AddDampLine(-0.1F, text);
+        plot.references().AddRef(100, text);
+        plot.references().AddDampLine(-0.1F, text);
         test::changeAllSeries(plot, [&text](Series& series) {
             series.MarkerStyle = markerNumber(MarkerKind::Tag);
             series.MarkerSpacing = 1;

@@ -174,7 +174,7 @@ TEST(EvmPlot, reportsThatItsPictureHasChanged)
     EXPECT_TRUE(countsUp());
     plot.properties().setGLabel(QStringLiteral("G"));
     EXPECT_TRUE(countsUp());
-    plot.marks().AddRef(1, {});
+    plot.references().AddRef(1, {});
     EXPECT_TRUE(countsUp());
     plot.texts().setText(TextBox::Legend, QStringLiteral("legend"));
     EXPECT_TRUE(countsUp());

@@ -105,10 +105,10 @@ TEST_F(PlotRecords, makeTheSamePlotAgainThroughTheBytesOfAFile)
 
 TEST_F(PlotRecords, keepMarksAndLooksThroughTheBytesOfAFile)
 {
-    plot.marks().AddRef(352.1F, QStringLiteral("Vd    "));
-    plot.marks().AddRef(400, QStringLiteral("       α"));
-    plot.marks().AddDampLine(0.01F, QStringLiteral("g = 1.00 %"));
-    plot.marks().AddDampLine(-0.03F, QString());
+    plot.references().AddRef(352.1F, QStringLiteral("Vd    "));
+    plot.references().AddRef(400, QStringLiteral("       α"));
+    plot.references().AddDampLine(0.01F, QStringLiteral("g = 1.00 %"));
+    plot.references().AddDampLine(-0.03F, QString());
     test::changeSeries(plot, 0, [](Series& series) {
         series.LineStyle = 2;
         series.LineWidth = 4;
@@ -116,10 +116,10 @@ TEST_F(PlotRecords, keepMarksAndLooksThroughTheBytesOfAFile)
     });
     EvmPlot other;
     throughAFile(other);
-    ASSERT_EQ(other.marks().referenceSpeeds().size(), 2U);
-    EXPECT_EQ(other.marks().referenceSpeeds()[0].Speed, 352.1F);
-    EXPECT_EQ(other.marks().referenceSpeeds()[0].Caption, QStringLiteral("Vd    "));
-    EXPECT_EQ(other.marks().referenceSpeeds()[1].Caption, QStringLiteral("       α"));
+    ASSERT_EQ(other.references().referenceSpeeds().size(), 2U);
+    EXPECT_EQ(other.references().referenceSpeeds()[0].Speed, 352.1F);
+    EXPECT_EQ(other.references().referenceSpeeds()[0].Caption, QStringLiteral("Vd    "));
+    EXPECT_EQ(other.references().referenceSpeeds()[1].Caption, QStringLiteral("       α"));
     const std::vector<RefLine>& lines = other.parts().vgPlot.lines();
     ASSERT_EQ(lines.size(), 2U);
     EXPECT_EQ(lines[0].Caption, QStringLiteral("g = 1.00 %"));
@@ -150,12 +150,12 @@ TEST_F(PlotRecords, keepThatCurvesBreakAtJumpsThroughTheBytesOfAFile)
 TEST_F(PlotRecords, replaceTheReferencesOfThePlotByThoseOfTheFile)
 {
     const PlotRecord record = recordOf(plot, evolutions());
-    plot.marks().AddRef(1, QStringLiteral("old"));
-    plot.marks().AddDampLine(1, QStringLiteral("old"));
+    plot.references().AddRef(1, QStringLiteral("old"));
+    plot.references().AddDampLine(1, QStringLiteral("old"));
     plot.rows().clear();
     applyRecord(record, {&one, &two}, plot);
-    EXPECT_TRUE(plot.marks().referenceSpeeds().empty());
-    EXPECT_TRUE(plot.marks().dampingLines().empty());
+    EXPECT_TRUE(plot.references().referenceSpeeds().empty());
+    EXPECT_TRUE(plot.references().dampingLines().empty());
 }
 
 TEST_F(PlotRecords, putTheHeaderIntoTheRowOfTheFileAndKeepItsColumn)

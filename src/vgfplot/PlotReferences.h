@@ -15,7 +15,7 @@ struct PlotParts;
 /// The reference speeds of a V-g-f plot, which are marks on its speed axis, and its damping lines,
 /// which are horizontal lines on its V-g canvas. Speeds are knots (KEAS); dampings g are
 /// dimensionless (negative is stable).
-class PlotMarks
+class PlotReferences
 {
 public:
     /// A damping line without its ends.
@@ -26,7 +26,7 @@ public:
     };
 
     /// Both must outlive the object.
-    PlotMarks(PlotParts& parts, PlotPicture& picture) : m_parts(parts), m_picture(picture) { }
+    PlotReferences(PlotParts& parts, PlotPicture& picture) : m_parts(parts), m_picture(picture) { }
 
     /// Adds a mark, or removes all marks, and redraws the speed axis. Error 11 for an axis that
     /// cannot be drawn; the change is made all the same.

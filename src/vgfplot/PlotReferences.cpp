@@ -1,4 +1,4 @@
-#include "vgfplot/PlotMarks.h"
+#include "vgfplot/PlotReferences.h"
 
 #include "base/numbers/Numbers.h"
 #include "surface/DeviceContext.h"
@@ -10,30 +10,30 @@
 
 namespace tarsil {
 
-void PlotMarks::AddRef(float speed, const QString& caption)
+void PlotReferences::AddRef(float speed, const QString& caption)
 {
     m_picture.composeAgain();
     m_parts.velAxis.AddRef(speed, caption);
 }
 
-void PlotMarks::RemoveRef()
+void PlotReferences::RemoveRef()
 {
     m_picture.composeAgain();
     m_parts.velAxis.RemoveRef();
 }
 
-const std::vector<RefThick>& PlotMarks::referenceSpeeds() const
+const std::vector<RefThick>& PlotReferences::referenceSpeeds() const
 {
     return m_parts.velAxis.marks();
 }
 
-void PlotMarks::setReferenceSpeeds(std::vector<RefThick> marks)
+void PlotReferences::setReferenceSpeeds(std::vector<RefThick> marks)
 {
     m_parts.velAxis.setMarks(std::move(marks));
     m_picture.invalidate();
 }
 
-QString PlotMarks::shiftNote() const
+QString PlotReferences::shiftNote() const
 {
     const double begin = m_parts.velAxis.Min();
     if (referenceSpeeds().empty() || begin == 0)
@@ -45,31 +45,31 @@ QString PlotMarks::shiftNote() const
         + text(begin);
 }
 
-void PlotMarks::AddDampLine(float g, const QString& caption)
+void PlotReferences::AddDampLine(float g, const QString& caption)
 {
     append(g, caption);
     m_picture.plot();
 }
 
-void PlotMarks::append(float g, const QString& caption)
+void PlotReferences::append(float g, const QString& caption)
 {
     constexpr ColorValue black = 0;
     const AxisValues speed = m_parts.axes().speed;
     m_parts.vgPlot.AddLine(speed.min, g, speed.max, g, caption, black, penstyle::solid);
 }
 
-void PlotMarks::RemoveDampLine()
+void PlotReferences::RemoveDampLine()
 {
     m_parts.vgPlot.RemoveLines();
     m_picture.plot();
 }
 
-const std::vector<RefLine>& PlotMarks::dampingLines() const
+const std::vector<RefLine>& PlotReferences::dampingLines() const
 {
     return m_parts.vgPlot.lines();
 }
 
-void PlotMarks::setDampingLines(const std::vector<DampLine>& lines)
+void PlotReferences::setDampingLines(const std::vector<DampLine>& lines)
 {
     m_parts.vgPlot.RemoveLines();
     for (const DampLine& line : lines)
@@ -77,7 +77,7 @@ void PlotMarks::setDampingLines(const std::vector<DampLine>& lines)
     m_picture.invalidate();
 }
 
-void PlotMarks::restoreDampingLines(std::vector<RefLine> lines)
+void PlotReferences::restoreDampingLines(std::vector<RefLine> lines)
 {
     m_parts.vgPlot.setLines(std::move(lines));
     m_picture.invalidate();
