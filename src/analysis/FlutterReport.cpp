@@ -18,7 +18,7 @@ enum Column : std::size_t {
     FileName = 1,
     Case,
     Mass,
-    Mach,
+    MachNumber,
     ModeNumber,
     LargestDamping,
     LargestDampingSpeed,
@@ -32,7 +32,7 @@ void writeHeadings(Sheet& sheet)
     sheet.setText(headingLine, FileName, "Modal Evolution");
     sheet.setText(headingLine, Case, "Case");
     sheet.setText(headingLine, Mass, "Mass");
-    sheet.setText(headingLine, Mach, "Mach No.");
+    sheet.setText(headingLine, MachNumber, "Mach No.");
     sheet.setText(headingLine, ModeNumber, "Aero Mode");
     sheet.setText(headingLine, LargestDamping, "gmax value");
     sheet.setText(headingLine, LargestDampingSpeed, "gmax speed");
@@ -118,7 +118,7 @@ void FlutterReport::writeRow(const ReportRow& row, std::size_t line, std::size_t
     if (evolution.isNewFormat)
         sheet.setText(line, Case, row.caseText);
     sheet.setText(line, Mass, evolution.Param.Mass);
-    sheet.setNumber(line, Mach, decimalValue(evolution.Param.Mach));
+    sheet.setNumber(line, MachNumber, decimalValue(evolution.Param.Mach));
     sheet.setNumber(line, ModeNumber, mode.Id);
     attempt(report, [&] { writeMaximum(mode, line, sheet); });
     writeCrossings(mode, line, crossings, sheet, report);
@@ -159,7 +159,7 @@ float FlutterReport::machNumber(const AeMode& mode, std::size_t line, Sheet& she
         return evolution.Param.Mach;
     const std::string answer = m_askMach(mode, machPrompt).value_or(std::string());
     const float mach = toSingle(answer, "FlutterReport", "Mach No. of " + evolution.FileName);
-    sheet.setNumber(line, Mach, decimalValue(mach));
+    sheet.setNumber(line, MachNumber, decimalValue(mach));
     return mach;
 }
 

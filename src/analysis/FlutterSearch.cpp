@@ -21,10 +21,10 @@ std::string nameOf(const AeMode& mode)
 }
 
 /// An interval between two neighbouring points in which the damping crosses the reference.
-class Crossing
+class LevelCrossing
 {
 public:
-    Crossing(AeMode& mode, const Point& before, const Point& after, double a, double b)
+    LevelCrossing(AeMode& mode, const Point& before, const Point& after, double a, double b)
         : m_mode(mode), m_before(before), m_after(after), m_a(a), m_b(b)
     { }
 
@@ -45,7 +45,7 @@ private:
     double m_b; ///< and after it
 };
 
-Point Crossing::interpolated() const
+Point LevelCrossing::interpolated() const
 {
     if (m_after.speed == m_before.speed)
         fail(ErrorNumber::DivisionByZero);
@@ -62,7 +62,7 @@ Point Crossing::interpolated() const
 }
 
 /// The zero of the straight line through (before, a) and (after, b).
-float Crossing::at(float before, float after) const
+float LevelCrossing::at(float before, float after) const
 {
     const double last = after;
     const double slope = (m_b - m_a) / (last - double {before});
@@ -74,7 +74,7 @@ float Crossing::at(float before, float after) const
     return static_cast<float>(value);
 }
 
-void Crossing::fail(ErrorNumber number) const
+void LevelCrossing::fail(ErrorNumber number) const
 {
     throw RunTimeError(number, "AeMode",
                        nameOf(m_mode) + ", between the speeds " + shortestText(m_before.speed)
@@ -94,7 +94,7 @@ bool FlutterPtsCalc(AeMode& mode, double gOffset)
     for (const Point* after = before + 1; after != end; before = after++) {
         const double b = double {after->G} + gOffset;
         if (a * b < 0)
-            mode.flutterPoints.push_back(Crossing(mode, *before, *after, a, b).interpolated());
+            mode.flutterPoints.push_back(LevelCrossing(mode, *before, *after, a, b).interpolated());
         a = b;
     }
     return false;

@@ -33,7 +33,8 @@ double metresPerSecond(double speed, std::string_view units)
     return 0;
 }
 
-[[noreturn]] void fail(ErrorNumber number, double eas, double mach, std::string_view units)
+[[noreturn]] void failAtCondition(ErrorNumber number, double eas, double mach,
+                                  std::string_view units)
 {
     throw RunTimeError(number, "ISA",
                        "altitude of " + shortestText(eas) + " " + std::string(units) + " at Mach "
@@ -46,15 +47,15 @@ double IsaAltitude(double eas, double mach, std::string_view units)
 {
     const double speed = metresPerSecond(eas, units);
     if (mach == 0)
-        fail(ErrorNumber::DivisionByZero, eas, mach, units);
+        failAtCondition(ErrorNumber::DivisionByZero, eas, mach, units);
     const double ratio = speed / mach;
     const double delta = ratio * ratio / squareOfSoundSpeed;
     if (!std::isfinite(delta))
-        fail(ErrorNumber::Overflow, eas, mach, units);
+        failAtCondition(ErrorNumber::Overflow, eas, mach, units);
     if (delta > tropopauseRatio)
         return (1 - std::pow(delta, 1 / pressureExponent)) * zeroTemperatureAltitude;
     if (delta == 0)
-        fail(ErrorNumber::InvalidProcedureCall, eas, mach, units);
+        failAtCondition(ErrorNumber::InvalidProcedureCall, eas, mach, units);
     return std::log(delta / tropopauseRatio) / decayPerFoot() + tropopauseAltitude;
 }
 

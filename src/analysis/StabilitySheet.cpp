@@ -15,7 +15,7 @@ namespace tarsil {
 
 namespace {
 
-enum Column : std::size_t {
+enum StabilityColumn : std::size_t {
     File = 1,
     Level,
     Mode,
@@ -90,7 +90,7 @@ private:
     void writeSource(const EVM& evolution);
     void beginRow(std::string_view first, CellStyle style);
     void writeNote(std::string_view first, std::string_view text, CellStyle style);
-    void setSingle(Column column, double number);
+    void setSingle(StabilityColumn column, double number);
 
     Sheet& m_sheet;
     std::size_t m_row = 1;
@@ -116,7 +116,7 @@ void StabilityWriter::writeNote(std::string_view first, std::string_view text, C
 }
 
 /// Sets the decimal value of a single, as the flutter table does.
-void StabilityWriter::setSingle(Column column, double number)
+void StabilityWriter::setSingle(StabilityColumn column, double number)
 {
     m_sheet.setNumber(m_row, column, decimalValue(static_cast<float>(number)));
 }

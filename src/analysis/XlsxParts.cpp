@@ -176,7 +176,7 @@ double widthOf(const Sheet& sheet, std::size_t column)
     return static_cast<double>(width) + margin;
 }
 
-[[noreturn]] void fail(std::string_view path, const char* what)
+[[noreturn]] void failWriting(std::string_view path, const char* what)
 {
     throw RunTimeError(ErrorNumber::InvalidProcedureCall, "SheetWriter",
                        std::string(path) + ": " + what);
@@ -207,7 +207,7 @@ std::size_t SharedTexts::positionOf(const std::string& text)
     if (isNew) {
         const std::string utf8 = decodeText(text);
         if (utf16FromUtf8(utf8).size() > longestText)
-            fail(m_path, "a text longer than 32767 characters, the limit of a cell");
+            failWriting(m_path, "a text longer than 32767 characters, the limit of a cell");
         m_texts.push_back(xlsxText(utf8));
     }
     return known->second;
@@ -357,7 +357,7 @@ std::vector<ArchivePart> xlsxParts(std::span<const Sheet* const> sheets, std::st
     std::vector<ArchivePart> pages;
     for (const Sheet* sheet : sheets) {
         if (sheet->rowCount() > mostRows || sheet->columnCount() > mostColumns)
-            fail(path, "more rows or columns than a spreadsheet can have");
+            failWriting(path, "more rows or columns than a spreadsheet can have");
         workbook.addPage(*sheet);
         pages.push_back({"xl/worksheets/sheet" + textOf(workbook.pageCount()) + ".xml",
                          PageWriter(*sheet, texts).page(pages.empty())});

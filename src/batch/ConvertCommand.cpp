@@ -10,11 +10,11 @@ namespace tarsil::batch {
 
 namespace {
 
-constexpr std::array extensions = {evmFormat.extension};
+constexpr std::array convertOutputs = {evmFormat.extension};
 
 int runConvert(const CommandLine& line, BatchRun& run)
 {
-    const std::string output = outputOf(line, extensions);
+    const std::string output = outputOf(line, convertOutputs);
     const std::string& input = line.operands().front();
     if (isWorkspace(input))
         throw UsageError(input
@@ -25,7 +25,7 @@ int runConvert(const CommandLine& line, BatchRun& run)
     return done;
 }
 
-constexpr std::array<OptionDescription, 1> options = {
+constexpr std::array<OptionDescription, 1> convertOptions = {
     {{"--output", "OUTPUT", "the file to write, which ends in .evm", true}}};
 
 } // namespace
@@ -35,7 +35,7 @@ constinit const Command convertCommand {
      "Writes an evolution in the fixed columns that the programs for such files\n"
      "expect: the counts are further left than in the files that this program reads,\n"
      "and the damping keeps its sign. This program is not meant to open such a file.",
-     options},
+     convertOptions},
     runConvert};
 
 } // namespace tarsil::batch

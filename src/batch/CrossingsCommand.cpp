@@ -17,7 +17,7 @@ namespace tarsil::batch {
 
 namespace {
 
-constexpr std::array<std::string_view, 3> extensions = {".json", ".csv", ".xlsx"};
+constexpr std::array<std::string_view, 3> crossingsOutputs = {".json", ".csv", ".xlsx"};
 constexpr std::array<std::string_view, 1> jsonExtension = {".json"};
 
 double atLeastZero(const CommandLine& line, std::string_view option, double usual)
@@ -112,7 +112,7 @@ bool allPass(const StabilityReport& report, BatchRun& run)
 
 int runCrossings(const CommandLine& line, BatchRun& run)
 {
-    const std::string output = outputOf(line, extensions);
+    const std::string output = outputOf(line, crossingsOutputs);
     const StabilitySettings settings = settingsOf(line);
     if (hasWorkspace(line.operands()))
         throw UsageError("a workspace is given; modal evolutions are wanted");
@@ -131,7 +131,7 @@ int runCrossings(const CommandLine& line, BatchRun& run)
     return allPass(report, run) ? done : failed;
 }
 
-constexpr std::array<OptionDescription, 9> options = {
+constexpr std::array<OptionDescription, 9> crossingsOptions = {
     {{"--levels", "LIST", "levels of damping, separated by commas; default\n0,0.01,0.02,0.03"},
      {"--tolerance", "G", "a stretch up to this height above its level is weak;\ndefault 0.001"},
      {"--noise", "G", "a stretch up to this height is numerical noise; default 1e-6"},
@@ -156,7 +156,7 @@ constinit const Command crossingsCommand {
      "envelope at its Mach number. An evolution that becomes unstable below that speed,\n"
      "whose speeds end below it, or that has no envelope is named on standard error; the\n"
      "output is written, and the exit status is 1.",
-     options},
+     crossingsOptions},
     runCrossings};
 
 } // namespace tarsil::batch

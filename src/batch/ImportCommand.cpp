@@ -92,7 +92,7 @@ void writeNumber(JsonWriter& json, std::string_view name, const std::optional<do
         json.null();
 }
 
-void writeRun(JsonWriter& json, const SolverOutput& output, std::size_t index)
+void writeSolverRun(JsonWriter& json, const SolverOutput& output, std::size_t index)
 {
     const SolverRun& run = output.runs[index];
     json.beginObject();
@@ -176,7 +176,7 @@ void writeFile(JsonWriter& json, const SolverOutput& output)
     json.key("groups");
     json.beginArray();
     for (std::size_t i = 0; i < output.runs.size(); ++i)
-        writeRun(json, output, i);
+        writeSolverRun(json, output, i);
     json.endArray();
     writeProposals(json, output);
     json.key("log");
@@ -191,7 +191,7 @@ void writeFile(JsonWriter& json, const SolverOutput& output)
     json.endObject();
 }
 
-int printJson(const std::vector<SolverOutput>& outputs, std::ostream& out)
+int printSolverJson(const std::vector<SolverOutput>& outputs, std::ostream& out)
 {
     JsonWriter json(out);
     json.beginObject();
@@ -253,7 +253,7 @@ int runImport(const CommandLine& line, BatchRun& run)
 {
     const std::optional<UnitChoice> units = unitChoice(line);
     if (line.has("--json"))
-        return printJson(readAll(line), run.out());
+        return printSolverJson(readAll(line), run.out());
     const std::string folder = units ? existingFolder(line) : std::string();
     solver::ImportPlan plan = planOf(line);
     if (!units) {
@@ -266,7 +266,7 @@ int runImport(const CommandLine& line, BatchRun& run)
     return writeEvolutions(plan, run);
 }
 
-constexpr std::array<OptionDescription, 8> options = {
+constexpr std::array<OptionDescription, 8> importOptions = {
     {{"--speed-unit", "UNIT", "unit of the printed speeds: m/s, ft/s, in/s, mm/s or kt"},
      {"--vref", "X", "divisor of the printed speeds (PARAM,VREF); default 1"},
      {"--density", "UNIT",
@@ -285,7 +285,7 @@ constinit const Command importCommand {
      "each analysis as an evolution (.ev2). The files do not contain the unit of the\n"
      "printed speeds: without --speed-unit the command prints what the numbers prove,\n"
      "writes nothing, and exits with status 2.",
-     options},
+     importOptions},
     runImport};
 
 } // namespace tarsil::batch

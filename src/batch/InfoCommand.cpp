@@ -119,7 +119,7 @@ void writeEvolution(JsonWriter& json, const EVM& evolution, bool withPoints)
     json.endObject();
 }
 
-void printJson(const std::vector<const EVM*>& evolutions, bool withPoints, std::ostream& out)
+void printInfoJson(const std::vector<const EVM*>& evolutions, bool withPoints, std::ostream& out)
 {
     JsonWriter json(out);
     json.beginObject();
@@ -275,12 +275,12 @@ int runInfo(const CommandLine& line, BatchRun& run)
     std::vector<const EVM*> evolutions;
     for (const std::string& path : line.operands())
         evolutions.push_back(&run.open(path));
-    const auto print = line.has("--json") ? printJson : printTexts;
+    const auto print = line.has("--json") ? printInfoJson : printTexts;
     print(evolutions, line.has("--points"), run.out());
     return done;
 }
 
-constexpr std::array<OptionDescription, 2> options = {
+constexpr std::array<OptionDescription, 2> infoOptions = {
     {{"--json", "", "prints JSON for other programs"},
      {"--points", "", "includes every point of every mode"}}};
 
@@ -293,7 +293,7 @@ constinit const Command infoCommand {
      "\n"
      "For a workspace, which must be the only FILE: description, dates, files, and\n"
      "the texts, axes and series of every plot. Its evolutions are not needed.",
-     options},
+     infoOptions},
     runInfo};
 
 } // namespace tarsil::batch

@@ -15,7 +15,7 @@ namespace tarsil::batch {
 
 namespace {
 
-constexpr std::array<std::string_view, 2> extensions = {".mix", ".mx2"};
+constexpr std::array<std::string_view, 2> mixOutputs = {".mix", ".mx2"};
 
 /// A file and the modes wanted of it; without a list all of them.
 struct Ingredient
@@ -75,8 +75,8 @@ std::vector<Ingredient> ingredientsOf(const CommandLine& line)
 }
 
 /// Adds the mode of each series of a workspace. Returns whether all exist.
-bool addSeriesOfWorkspace(const std::string& path, const CommandLine& line, BatchRun& run,
-                          std::vector<const AeMode*>& modes)
+bool addModesOfWorkspace(const std::string& path, const CommandLine& line, BatchRun& run,
+                         std::vector<const AeMode*>& modes)
 {
     const WorkspaceInput input = openWorkspace(path, line.value(plotOption.name), run);
     for (const std::string& file : input.files)
@@ -90,12 +90,12 @@ bool addSeriesOfWorkspace(const std::string& path, const CommandLine& line, Batc
 
 int runMix(const CommandLine& line, BatchRun& run)
 {
-    const std::string output = outputOf(line, extensions);
+    const std::string output = outputOf(line, mixOutputs);
     bool isWhole = true;
     std::vector<const AeMode*> modes;
     for (const Ingredient& ingredient : ingredientsOf(line)) {
         if (isWorkspace(ingredient.path)) {
-            isWhole = addSeriesOfWorkspace(ingredient.path, line, run, modes) && isWhole;
+            isWhole = addModesOfWorkspace(ingredient.path, line, run, modes) && isWhole;
             continue;
         }
         refuseOutputOverInput(output, ingredient.path);
@@ -109,7 +109,7 @@ int runMix(const CommandLine& line, BatchRun& run)
     return isWhole ? done : failed;
 }
 
-constexpr std::array<OptionDescription, 2> options = {
+constexpr std::array<OptionDescription, 2> mixOptions = {
     {plotOption, {"--output", "OUTPUT", "the file to write, which ends in .mix (or .mx2)", true}}};
 
 } // namespace
@@ -123,7 +123,7 @@ constinit const Command mixCommand {
      "A workspace contributes the mode of each series, in the order of its plots. A\n"
      "series whose file or mode is missing is left out with a message; the rest is\n"
      "written, and the exit status is 1.",
-     options},
+     mixOptions},
     runMix};
 
 } // namespace tarsil::batch

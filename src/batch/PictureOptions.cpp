@@ -11,7 +11,7 @@ namespace tarsil::batch {
 
 namespace {
 
-constexpr std::array<std::string_view, 4> extensions = {".png", ".svg", ".pdf", ".emf"};
+constexpr std::array<std::string_view, 4> pictureOutputs = {".png", ".svg", ".pdf", ".emf"};
 constexpr int largestSide = 20000;
 constexpr int mostTicks = 1000;
 constexpr int largestMarkerNumber = 1000;
@@ -160,7 +160,7 @@ constinit const std::array<OptionDescription, 14> pictureOptionDescriptions = {
 PictureOptions pictureOptionsOf(const CommandLine& line)
 {
     PictureOptions options;
-    options.output = outputOf(line, extensions);
+    options.output = outputOf(line, pictureOutputs);
     options.size = sizeOf(line, options.size);
     if (const auto list = line.value("--modes"))
         options.modes = modeListOf(*list);

@@ -16,7 +16,7 @@ namespace tarsil::batch {
 
 namespace {
 
-constexpr std::array<std::string_view, 2> extensions = {".xlsx", ".csv"};
+constexpr std::array<std::string_view, 2> reportOutputs = {".xlsx", ".csv"};
 
 /// The Mach number for files without one, as text; empty when not given.
 std::optional<std::string> machOf(const CommandLine& line)
@@ -36,8 +36,8 @@ struct RowSource
 };
 
 /// Adds a row for each series of a workspace. Returns whether all exist.
-bool addSeriesOfWorkspace(const std::string& path, const RowSource& source, BatchRun& run,
-                          std::vector<ReportRow>& rows)
+bool addRowsOfWorkspace(const std::string& path, const RowSource& source, BatchRun& run,
+                        std::vector<ReportRow>& rows)
 {
     const WorkspaceInput input = openWorkspace(path, source.plot, run);
     for (const std::string& file : input.files)
@@ -103,7 +103,7 @@ void writeOutput(const Sheet& table, const StabilityReport& stability, const std
 
 int runReport(const CommandLine& line, BatchRun& run)
 {
-    RowSource source {outputOf(line, extensions), std::nullopt, line.value(plotOption.name)};
+    RowSource source {outputOf(line, reportOutputs), std::nullopt, line.value(plotOption.name)};
     const double damping = line.number("--reference-damping").value();
     const double speedLimit = line.number("--speed-limit").value();
     const auto mach = machOf(line);
@@ -115,7 +115,7 @@ int runReport(const CommandLine& line, BatchRun& run)
     std::vector<ReportRow> rows;
     for (const std::string& path : line.operands()) {
         if (isWorkspace(path))
-            isWhole = addSeriesOfWorkspace(path, source, run, rows) && isWhole;
+            isWhole = addRowsOfWorkspace(path, source, run, rows) && isWhole;
         else
             addModesOfEvolution(path, source, run, rows);
     }
@@ -133,7 +133,7 @@ int runReport(const CommandLine& line, BatchRun& run)
     return isWhole && complaints.areNone() ? done : failed;
 }
 
-constexpr std::array<OptionDescription, 6> options = {
+constexpr std::array<OptionDescription, 6> reportOptions = {
     {{"--reference-damping", "G", "damping whose crossings are reported;\n0 is the stability limit",
       true},
      {"--speed-limit", "V", "upper limit of the speed for the maximum damping", true},
@@ -162,7 +162,7 @@ constinit const Command reportCommand {
      "edited in the workspace. Files that have moved are searched for beside it and\n"
      "below its folder. A series whose file or mode is missing is left out with a\n"
      "message; the rest is written, and the exit status is 1.",
-     options},
+     reportOptions},
     runReport};
 
 } // namespace tarsil::batch

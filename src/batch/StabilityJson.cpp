@@ -150,7 +150,7 @@ void writeList(JsonWriter& json, std::string_view name, const EvolutionStability
     json.endArray();
 }
 
-void writeEvolution(JsonWriter& json, const EvolutionStability& stability)
+void writeStability(JsonWriter& json, const EvolutionStability& stability)
 {
     json.beginObject();
     json.text("name", stability.evolution->FileName);
@@ -213,7 +213,7 @@ std::string stabilityJson(const StabilityReport& report)
     json.key("evolutions");
     json.beginArray();
     for (const EvolutionStability& stability : report.evolutions)
-        writeEvolution(json, stability);
+        writeStability(json, stability);
     json.endArray();
     json.endObject();
     text << '\n';

@@ -17,7 +17,7 @@ namespace tarsil::batch {
 
 namespace {
 
-constexpr std::array<std::string_view, 1> extensions = {".ev2"};
+constexpr std::array<std::string_view, 1> trackOutputs = {".ev2"};
 
 std::int16_t modeNumber(std::string_view text)
 {
@@ -65,7 +65,7 @@ void writeMoves(JsonWriter& json, const EVM& evolution, const ModeTracking& trac
     json.endArray();
 }
 
-void writeMarks(JsonWriter& json, const EVM& evolution, const ModeTracking& tracking)
+void writeDoubts(JsonWriter& json, const EVM& evolution, const ModeTracking& tracking)
 {
     json.key("marks");
     json.beginArray();
@@ -80,12 +80,12 @@ void writeMarks(JsonWriter& json, const EVM& evolution, const ModeTracking& trac
     json.endArray();
 }
 
-void printJson(const EVM& evolution, const ModeTracking& tracking, std::ostream& out)
+void printTrackJson(const EVM& evolution, const ModeTracking& tracking, std::ostream& out)
 {
     JsonWriter json(out);
     json.beginObject();
     writeMoves(json, evolution, tracking);
-    writeMarks(json, evolution, tracking);
+    writeDoubts(json, evolution, tracking);
     json.endObject();
     out << '\n';
 }
@@ -94,7 +94,7 @@ void printJson(const EVM& evolution, const ModeTracking& tracking, std::ostream&
 std::string targetOf(const CommandLine& line, const std::string& source)
 {
     if (line.has("--output"))
-        return outputOf(line, extensions);
+        return outputOf(line, trackOutputs);
     const FilePath path = resolvePath(source);
     return joinPath(path.folder, trackedName(path.name));
 }
@@ -111,7 +111,7 @@ int runTrack(const CommandLine& line, BatchRun& run)
         throw Failure(source + " is not an evolution with sections (.ev2), which tracking needs");
     const TrackedEvolution tracked = trackEvolution(evolution, exchanges);
     if (isPrinted)
-        printJson(evolution, tracked.tracking, run.out());
+        printTrackJson(evolution, tracked.tracking, run.out());
     if (isPrinted && !line.has("--output"))
         return done;
     writeFile(target, trackedText(FileBytes(source).bytes(), tracked));
@@ -123,7 +123,7 @@ int runTrack(const CommandLine& line, BatchRun& run)
     return done;
 }
 
-constexpr std::array<OptionDescription, 3> options = {
+constexpr std::array<OptionDescription, 3> trackOptions = {
     {{"--json", "", "prints moves and doubtful steps; without --output nothing\nis written"},
      {"--swap", "A,B@KEAS", "exchanges modes A and B above a speed, after the tracking", false,
       true},
@@ -138,7 +138,7 @@ constinit const Command trackCommand {
      "eigenvalues. The numbers of the points stay as they are; each exchange of two modes\n"
      "is a modification in the header. Coarse steps, veering pairs and pairs that become\n"
      "static cannot be tracked safely: doubtful steps are flagged.",
-     options},
+     trackOptions},
     runTrack};
 
 } // namespace tarsil::batch

@@ -53,7 +53,7 @@ std::string charactersOf(const RichText& text)
     return utf8FromUtf16(characters);
 }
 
-void writeRun(JsonWriter& json, const TextRun& run)
+void writeTextRun(JsonWriter& json, const TextRun& run)
 {
     json.beginObject();
     json.text("text", utf8FromUtf16(run.text));
@@ -90,7 +90,7 @@ void writeText(JsonWriter& json, std::string_view name, const TextRecord& box)
     json.key("runs");
     json.beginArray();
     for (const TextRun& run : text.runs)
-        writeRun(json, run);
+        writeTextRun(json, run);
     json.endArray();
     writeCoordinate(json, "left", box, &BoxPosition::left);
     writeCoordinate(json, "top", box, &BoxPosition::top);
@@ -126,8 +126,8 @@ void writeSeries(JsonWriter& json, const SeriesRecord& series)
     json.endObject();
 }
 
-void writeMarks(JsonWriter& json, std::string_view name, std::string_view value,
-                const std::vector<ReferenceRecord>& references)
+void writeReferences(JsonWriter& json, std::string_view name, std::string_view value,
+                     const std::vector<ReferenceRecord>& references)
 {
     json.key(name);
     json.beginArray();
@@ -155,8 +155,8 @@ void writePlot(JsonWriter& json, const PlotRecord& plot)
     for (const SeriesRecord& series : plot.series)
         writeSeries(json, series);
     json.endArray();
-    writeMarks(json, "reference_speeds", "speed", plot.referenceSpeeds);
-    writeMarks(json, "damping_lines", "damping", plot.dampingLines);
+    writeReferences(json, "reference_speeds", "speed", plot.referenceSpeeds);
+    writeReferences(json, "damping_lines", "damping", plot.dampingLines);
     if (plot.breaksAtJumps)
         json.boolean("breaks_at_jumps", true);
     json.endObject();

@@ -19,7 +19,7 @@ constexpr int legendColumn = static_cast<int>(SeriesColumn::Legend);
 constexpr int leastLegendWidth = 80;
 constexpr int leastSectionWidth = 24; ///< the default fits the widest letter
 constexpr int indexColumn = static_cast<int>(SeriesColumn::Index);
-constexpr int modeColumn = static_cast<int>(SeriesColumn::Mode);
+constexpr int modeKeyColumn = static_cast<int>(SeriesColumn::Mode);
 constexpr int lineColumn = static_cast<int>(SeriesColumn::Line);
 
 } // namespace
@@ -218,9 +218,9 @@ bool SeriesGridView::handleKey(const QKeyEvent& event)
         Q_EMIT moveUpWanted();
     else if (isAlt && event.key() == Qt::Key_Down)
         Q_EMIT moveDownWanted();
-    else if (column == modeColumn && event.key() == Qt::Key_Plus)
+    else if (column == modeKeyColumn && event.key() == Qt::Key_Plus)
         Q_EMIT raiseWanted();
-    else if (column == modeColumn && event.key() == Qt::Key_Minus)
+    else if (column == modeKeyColumn && event.key() == Qt::Key_Minus)
         Q_EMIT lowerWanted();
     else if (column == lineColumn
              && (event.key() == Qt::Key_F2 || event.key() == Qt::Key_Return

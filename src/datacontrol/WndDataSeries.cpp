@@ -18,7 +18,6 @@ namespace tarsil {
 
 namespace {
 
-constexpr std::string_view module = "wndData";
 constexpr int modeColumn = static_cast<int>(SeriesColumn::Mode);
 
 LineLook lookOf(const Series& series)

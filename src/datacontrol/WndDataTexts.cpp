@@ -20,7 +20,7 @@ namespace tarsil {
 
 namespace {
 
-constexpr std::string_view module = "wndData";
+constexpr std::string_view windowName = "wndData";
 constexpr std::string_view pictureFilter =
     "Enhanced Windows Metafile (*.emf)|*.emf|All Files (*.*)|*.*|";
 
@@ -31,15 +31,15 @@ std::int16_t legendIndexIn(const QLineEdit& input)
     std::int16_t index = 0;
     const NumberStatus status = parseInteger16(text, index);
     if (status != NumberStatus::Ok)
-        throwNumberError(status, text, module, input.accessibleName().toStdString());
+        throwNumberError(status, text, windowName, input.accessibleName().toStdString());
     return index;
 }
 
 double fontSizeIn(QLineEdit& input)
 {
-    const double points = NumberInput(input, module, "Font Size").number();
+    const double points = NumberInput(input, windowName, "Font Size").number();
     if (!(points >= 1 && points <= 400))
-        throw RunTimeError(ErrorNumber::InvalidProcedureCall, std::string(module),
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall, std::string(windowName),
                            "a font of " + input.text().toStdString()
                                + " points; it must be from 1 to 400");
     return points;

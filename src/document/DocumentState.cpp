@@ -26,7 +26,8 @@ std::vector<DocumentState::Evolution> evolutionsOf(const Document& document)
 }
 
 /// What `before` knows of a plot; null when it is new.
-std::shared_ptr<const DocumentState::Plot> find(const DocumentState& before, const EvmPlot* plot)
+std::shared_ptr<const DocumentState::Plot> findPlot(const DocumentState& before,
+                                                    const EvmPlot* plot)
 {
     const auto known = std::find_if(before.plots.begin(), before.plots.end(),
                                     [plot](const auto& one) { return one->plot.get() == plot; });
@@ -36,7 +37,7 @@ std::shared_ptr<const DocumentState::Plot> find(const DocumentState& before, con
 std::shared_ptr<const DocumentState::Plot> plotOf(const PlotList::Element& element,
                                                   const DocumentState& before)
 {
-    auto known = find(before, element.plot.get());
+    auto known = findPlot(before, element.plot.get());
     const DocumentState::Plot nothing;
     const DocumentState::Plot& like = known != nullptr ? *known : nothing;
     DocumentState::Plot plot {element.index,
@@ -60,7 +61,7 @@ void restorePlot(const DocumentState::Plot& plot)
 void removeOthers(PlotList& plots, const DocumentState& state)
 {
     for (EvmPlot* const plot : plots.all()) {
-        if (find(state, plot) == nullptr)
+        if (findPlot(state, plot) == nullptr)
             plots.remove(*plot);
     }
 }

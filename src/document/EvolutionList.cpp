@@ -18,7 +18,7 @@ namespace {
                        "the modal evolution \"" + evolution.FileName + "\" is not in this list");
 }
 
-OwnedEvolutions::iterator find(OwnedEvolutions& evolutions, const EVM* evolution)
+OwnedEvolutions::iterator findEvolution(OwnedEvolutions& evolutions, const EVM* evolution)
 {
     return std::find_if(evolutions.begin(), evolutions.end(),
                         [evolution](const auto& one) { return one.get() == evolution; });
@@ -95,7 +95,7 @@ void EvolutionList::putBack(const OwnedEvolutions& evolutions)
     std::vector<EVM*> missing;
     auto position = m_evolutions.begin();
     for (const auto& evolution : evolutions) {
-        const auto known = find(m_evolutions, evolution.get());
+        const auto known = findEvolution(m_evolutions, evolution.get());
         if (known != m_evolutions.end()) {
             position = std::next(known);
             continue;

@@ -14,7 +14,7 @@ namespace tarsil {
 
 namespace {
 
-constexpr const char* module = "wndEvolPlot"; // the window whose array of plots this was
+constexpr const char* plotWindowModule = "wndEvolPlot"; // the window whose array of plots this was
 
 /// The index as shown in captions, counted from 1.
 QString numberText(int index)
@@ -54,7 +54,7 @@ bool PlotList::contains(const EvmPlot* plot) const
 void PlotList::activate(EvmPlot* plot)
 {
     if (plot != nullptr && !contains(plot))
-        throw RunTimeError(ErrorNumber::InvalidProcedureCall, module,
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall, plotWindowModule,
                            "the plot \"" + plot->properties().Caption().toStdString()
                                + "\" is not in this list");
     if (plot == m_active)
@@ -78,7 +78,8 @@ EvmPlot& PlotList::add(const QString& caption)
 EvmPlot& PlotList::copyActive(const QString& caption)
 {
     if (m_active == nullptr)
-        throw RunTimeError(ErrorNumber::ObjectVariableNotSet, module, "no plot is active");
+        throw RunTimeError(ErrorNumber::ObjectVariableNotSet, plotWindowModule,
+                           "no plot is active");
     Element element = makeElement(nextIndex());
     m_active->commitEdits();
     element.plot->Clone(*m_active);
@@ -91,7 +92,7 @@ void PlotList::remove(EvmPlot& plot)
 {
     const auto element = find(&plot);
     if (element == m_plots.end() || element->index == 0)
-        throw RunTimeError(ErrorNumber::InvalidProcedureCall, module,
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall, plotWindowModule,
                            "the plot \"" + plot.properties().Caption().toStdString()
                                + "\" cannot be removed");
     if (&plot == m_active)
@@ -145,7 +146,7 @@ int PlotList::nextIndex() const
 {
     const int index = m_plots.back().index + 1;
     if (index > std::numeric_limits<std::int16_t>::max())
-        throw RunTimeError(ErrorNumber::Overflow, module,
+        throw RunTimeError(ErrorNumber::Overflow, plotWindowModule,
                            "plot " + std::to_string(index) + " of evpVgf");
     return index;
 }

@@ -14,12 +14,12 @@ namespace tarsil {
 
 namespace {
 
-constexpr std::string_view module = "wndData";
+constexpr std::string_view gridWindowModule = "wndData";
 const QString lineBreak = QStringLiteral("\r\n");
 
 std::int16_t ticks(float count, const FlutterMechanism& mechanism, std::string_view axis)
 {
-    return roundToInteger16(static_cast<double>(count), module,
+    return roundToInteger16(static_cast<double>(count), gridWindowModule,
                             "ticks of the " + std::string(axis) + " axis of mechanism "
                                 + mechanism.ShortName);
 }
@@ -74,7 +74,7 @@ void markEnvelope(EvmPlot& plot, const EVM& evolution, const AirplaneInfo& airpl
         const std::string missing = missingAircraftText(airplane);
         const std::string where =
             missing.empty() ? " in \"" + shownPath(airplane.Filename) + "\"" : ". " + missing;
-        throw RunTimeError(ErrorNumber::InvalidProcedureCall, std::string(module),
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall, std::string(gridWindowModule),
                            "no flutter envelope for Mach number "
                                + envelopeName(evolution.Param.Mach) + where);
     }
@@ -90,7 +90,7 @@ void showMechanism(EvmPlot& plot, const AirplaneInfo& airplane, const QString& s
 {
     const FlutterMechanism* const found = airplane.flutterMechanism(shortName.toStdString());
     if (found == nullptr)
-        throw RunTimeError(ErrorNumber::InvalidProcedureCall, std::string(module),
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall, std::string(gridWindowModule),
                            "no flutter mechanism \"" + shortName.toStdString() + "\" in \""
                                + shownPath(airplane.Filename) + "\"");
     PlotAxes axes = plot.axes();

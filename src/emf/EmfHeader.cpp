@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::uint32_t signature = 0x464D4520; // " EMF"
 constexpr std::uint32_t version = 0x10000;
-constexpr int fixedBytes = 108;
+constexpr int fixedHeaderBytes = 108;
 constexpr int micrometresPerMillimetre = 1000;
 
 int hundredths(int pixels)
@@ -44,7 +44,7 @@ EmfRecord headerRecord(const EmfHeader& header)
     EmfRecord record(EmfType::Header);
     record.add(header.bounds).add(frameOf(header.bounds)).add(signature).add(version);
     record.add(header.bytes).add(header.records).add(header.handles);
-    record.add(static_cast<std::uint32_t>(text.size())).add(text.empty() ? 0 : fixedBytes);
+    record.add(static_cast<std::uint32_t>(text.size())).add(text.empty() ? 0 : fixedHeaderBytes);
     record.add(0); // no palette
     record.add(emfdevice::widthInPixels).add(emfdevice::heightInPixels);
     record.add(emfdevice::widthInMillimetres).add(emfdevice::heightInMillimetres);

@@ -11,7 +11,6 @@ namespace tarsil {
 namespace {
 
 constexpr int solidBrush = 0;
-constexpr std::uint32_t rgbBits = 0xFFFFFF;
 
 namespace logfont {
 constexpr int normalWeight = 400;

@@ -48,6 +48,9 @@ constexpr int heightInMillimetres = 381;
 constexpr double hundredthsPerPixel = 100.0 * widthInMillimetres / widthInPixels;
 } // namespace emfdevice
 
+/// The bits of a colour that a record holds: red, green and blue; the highest byte is 0.
+inline constexpr std::uint32_t rgbBits = 0xFFFFFF;
+
 /// A record: its type, its size in bytes, and its data. A sequence of 32-bit words; smaller values
 /// share a word, the first in the low bits, as in little-endian files.
 class EmfRecord

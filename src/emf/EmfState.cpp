@@ -6,7 +6,6 @@ namespace {
 
 constexpr int lastSaved = -1;
 constexpr int transparent = 1;
-constexpr std::uint32_t rgbBits = 0xFFFFFF;
 
 namespace region {
 constexpr int headerBytes = 32;

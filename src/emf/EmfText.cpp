@@ -10,7 +10,7 @@ namespace {
 
 constexpr int compatibleMode = 1; // untransformed coordinates
 constexpr auto scale = static_cast<float>(emfdevice::hundredthsPerPixel);
-constexpr std::uint32_t fixedBytes = 76;
+constexpr std::uint32_t fixedTextBytes = 76;
 
 } // namespace
 
@@ -22,9 +22,9 @@ EmfRecord textRecord(QPoint reference, const QString& text, const std::vector<in
     const std::uint32_t textBytes = (count + 1) / 2 * 4;
     EmfRecord record(EmfType::TextOut);
     record.add(bounds).add(compatibleMode).add(scale).add(scale);
-    record.add(reference).add(count).add(fixedBytes);
+    record.add(reference).add(count).add(fixedTextBytes);
     record.add(0).add(QRect()); // no options, so no rectangle
-    record.add(fixedBytes + textBytes).addText(units);
+    record.add(fixedTextBytes + textBytes).addText(units);
     for (const int advance : advances)
         record.add(advance);
     return record;

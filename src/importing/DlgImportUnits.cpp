@@ -28,7 +28,7 @@ using solver::unitPresets;
 
 constexpr int choose = 0; ///< first entry of the lists: nothing selected
 
-QString textOf(std::string_view text)
+QString unitText(std::string_view text)
 {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
@@ -37,7 +37,7 @@ template <typename Units>
 void addNames(QComboBox& list, const Units& units)
 {
     for (const auto& unit : units)
-        list.addItem(textOf(unit.name));
+        list.addItem(unitText(unit.name));
 }
 
 /// The folder for which the units of a file are stored.
@@ -105,8 +105,8 @@ void dlgImport::showUnits(const UnitChoice& units)
     const QSignalBlocker noDensity(m_ui->cboDensity);
     const QSignalBlocker noVref(m_ui->txtVref);
     const QSignalBlocker noEquivalent(m_ui->chkEquivalent);
-    m_ui->cboSpeed->setCurrentText(textOf(units.speed.name));
-    m_ui->cboDensity->setCurrentText(textOf(units.density.name));
+    m_ui->cboSpeed->setCurrentText(unitText(units.speed.name));
+    m_ui->cboDensity->setCurrentText(unitText(units.density.name));
     m_ui->txtVref->setText(QString::fromStdString(shortestText(units.vref)));
     m_ui->chkEquivalent->setChecked(units.isEquivalent);
     refresh();

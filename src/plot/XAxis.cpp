@@ -13,12 +13,12 @@ using axis::thick;
 
 namespace {
 
-constexpr std::int16_t defaultIntervals = 7;
-constexpr double defaultMax = 700;
+constexpr std::int16_t defaultSpeedIntervals = 7;
+constexpr double defaultMaxSpeed = 700;
 
 } // namespace
 
-xAxis::xAxis() : PlotAxis(defaultIntervals, defaultMax) { }
+xAxis::xAxis() : PlotAxis(defaultSpeedIntervals, defaultMaxSpeed) { }
 
 void xAxis::MoveToOrigin(int x, int y)
 {
@@ -79,7 +79,7 @@ void xAxis::RemoveRef()
 
 void xAxis::ReadProperties(const PropertyBag& bag)
 {
-    readRange(bag, defaultIntervals, defaultMax);
+    readRange(bag, defaultSpeedIntervals, defaultMaxSpeed);
 }
 
 PropertyBag xAxis::WriteProperties() const

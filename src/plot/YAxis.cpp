@@ -11,12 +11,12 @@ using axis::thick;
 
 namespace {
 
-constexpr std::int16_t defaultIntervals = 5;
-constexpr double defaultMax = 50;
+constexpr std::int16_t defaultFrequencyIntervals = 5;
+constexpr double defaultMaxFrequency = 50;
 
 } // namespace
 
-yAxis::yAxis() : PlotAxis(defaultIntervals, defaultMax) { }
+yAxis::yAxis() : PlotAxis(defaultFrequencyIntervals, defaultMaxFrequency) { }
 
 void yAxis::MoveToOrigin(int x, int y)
 {
@@ -61,7 +61,7 @@ void yAxis::setThickFormat(const QString& pattern)
 
 void yAxis::ReadProperties(const PropertyBag& bag)
 {
-    readRange(bag, defaultIntervals, defaultMax);
+    readRange(bag, defaultFrequencyIntervals, defaultMaxFrequency);
     m_direction = readProperty(bag, QStringLiteral("Direction"), false);
     m_thickFormat = readProperty(bag, QStringLiteral("ThickFormat"), QStringLiteral("0.00"));
 }

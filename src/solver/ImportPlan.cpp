@@ -19,14 +19,14 @@ namespace {
 constexpr double unitTolerance =
     0.02; ///< relative; smaller than the difference between any two units
 
-std::string nameOf(const SolverOutput& output)
+std::string sourceName(const SolverOutput& output)
 {
     return resolvePath(output.path).name;
 }
 
 std::string atLine(const SolverOutput& output, std::size_t line, const std::string& text)
 {
-    return nameOf(output) + ", line " + std::to_string(line) + ": " + text;
+    return sourceName(output) + ", line " + std::to_string(line) + ": " + text;
 }
 
 bool isSameFile(const std::string& a, const std::string& b)
@@ -156,11 +156,11 @@ void ImportPlan::addUnitDoubts(const SolverOutput& output, std::vector<std::stri
 {
     const UnitEvidence& evidence = output.evidence;
     if (evidence.speed && isFarFrom(m_units->speed.factor * m_units->vref, evidence.speed->factor))
-        doubts.push_back(nameOf(output) + ": its V/Mach is a speed of sound in "
+        doubts.push_back(sourceName(output) + ": its V/Mach is a speed of sound in "
                          + std::string(evidence.speed->name) + ", not in the unit chosen");
     if (evidence.density && !m_units->isEquivalent
         && isFarFrom(m_units->density.factor, evidence.density->factor))
-        doubts.push_back(nameOf(output) + ": its densities fit the standard atmosphere in "
+        doubts.push_back(sourceName(output) + ": its densities fit the standard atmosphere in "
                          + std::string(evidence.density->name) + ", not in the unit chosen");
 }
 

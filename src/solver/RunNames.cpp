@@ -35,7 +35,7 @@ std::optional<double> machOf(const SolverRun& run)
     return first;
 }
 
-std::string nameOf(const SolverRun& run, std::string_view stem, bool needsRatio)
+std::string runName(const SolverRun& run, std::string_view stem, bool needsRatio)
 {
     std::string name(stem);
     if (run.key.subcase)
@@ -63,7 +63,7 @@ std::vector<std::string> runNames(const std::vector<SolverRun>& runs, std::strin
     std::set<std::string> used;
     for (const SolverRun& run : runs) {
         const bool needsRatio = run.key.densityRatio && alike[withoutRatio(run)] > 1;
-        const std::string wanted = nameOf(run, stem, needsRatio);
+        const std::string wanted = runName(run, stem, needsRatio);
         std::string name = wanted;
         while (!used.insert(name).second)
             name = wanted + "_" + std::to_string(++copies.try_emplace(wanted, 1).first->second);

@@ -10,8 +10,8 @@ namespace tarsil {
 
 namespace {
 
-constexpr std::array headings = {"Modal Evolution", "Mode",      "Nearest Mode",
-                                 "From (KEAS)",     "To (KEAS)", "Doubt"};
+constexpr std::array doubtHeadings = {"Modal Evolution", "Mode",      "Nearest Mode",
+                                      "From (KEAS)",     "To (KEAS)", "Doubt"};
 
 std::string reasonOf(const TrackingDoubt& doubt)
 {
@@ -25,7 +25,7 @@ std::string reasonOf(const TrackingDoubt& doubt)
 std::string textOf(const PlotDoubt& row, std::size_t column)
 {
     const TrackingDoubt& doubt = row.doubt;
-    const std::array<std::string, headings.size()> texts = {
+    const std::array<std::string, doubtHeadings.size()> texts = {
         row.evolution->FileName,    std::to_string(doubt.mode), std::to_string(doubt.nearestMode),
         speedText(doubt.fromSpeed), speedText(doubt.toSpeed),   reasonOf(doubt)};
     return texts.at(column);
@@ -63,7 +63,7 @@ int DoubtModel::rowCount(const QModelIndex& parent) const
 
 int DoubtModel::columnCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(headings.size());
+    return parent.isValid() ? 0 : static_cast<int>(doubtHeadings.size());
 }
 
 QVariant DoubtModel::data(const QModelIndex& index, int role) const
@@ -80,7 +80,7 @@ QVariant DoubtModel::headerData(int section, Qt::Orientation orientation, int ro
         return {};
     if (orientation != Qt::Horizontal)
         return section + 1;
-    return QString::fromLatin1(headings.at(static_cast<std::size_t>(section)));
+    return QString::fromLatin1(doubtHeadings.at(static_cast<std::size_t>(section)));
 }
 
 } // namespace tarsil

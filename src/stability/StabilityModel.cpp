@@ -18,7 +18,7 @@ struct Heading
     const char* toolTip;
 };
 
-constexpr std::array<Heading, stretchColumnCount> headings = {{
+constexpr std::array<Heading, stretchColumnCount> stretchHeadings = {{
     {"Modal Evolution", "File of the evolution"},
     {"Mode", "Number of the printed mode, or of that as which the tracked root starts"},
     {"Level", "Damping g above which the stretch lies"},
@@ -175,7 +175,7 @@ QVariant StabilityModel::headerData(int section, Qt::Orientation orientation, in
 {
     if (orientation != Qt::Horizontal)
         return role == Qt::DisplayRole ? QVariant(section + 1) : QVariant();
-    const Heading& heading = headings.at(static_cast<std::size_t>(section));
+    const Heading& heading = stretchHeadings.at(static_cast<std::size_t>(section));
     if (role == Qt::DisplayRole)
         return QString::fromLatin1(heading.text);
     return role == Qt::ToolTipRole ? QVariant(QString::fromLatin1(heading.toolTip)) : QVariant();

@@ -14,7 +14,7 @@ namespace tarsil {
 namespace {
 
 constexpr double millimetresPerPixel = 25.4 / 96;
-constexpr double farthest = 16000; ///< readers are exact only this near the picture
+constexpr double farthestExact = 16000; ///< readers are exact only this near the picture
 
 QString numberText(double number)
 {
@@ -64,9 +64,9 @@ QString pointsText(const QPolygonF& points)
 QRectF cutOf(const std::optional<QRect>& clip, const Pen& pen)
 {
     if (!clip)
-        return guardBand(farthest);
+        return guardBand(farthestExact);
     const double margin = pen.width / 2.0 + 1;
-    return QRectF(*clip).adjusted(-margin, -margin, margin, margin) & guardBand(farthest);
+    return QRectF(*clip).adjusted(-margin, -margin, margin, margin) & guardBand(farthestExact);
 }
 
 } // namespace

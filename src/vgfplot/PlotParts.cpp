@@ -25,9 +25,9 @@ auto drawingOrderOf(Parts& parts)
     return items;
 }
 
-AxisValues valuesOf(const PlotAxis& axis, const trspLabel& title)
+AxisValues valuesOf(const PlotAxis& axis, const trspLabel& label)
 {
-    return {title.Caption().toStdString(), static_cast<float>(axis.Min()),
+    return {label.Caption().toStdString(), static_cast<float>(axis.Min()),
             static_cast<float>(axis.Max()), axis.nThick()};
 }
 

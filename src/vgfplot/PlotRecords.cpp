@@ -20,7 +20,7 @@ TextRecord recordOf(const emfRichTextBox& box)
 
 /// The position of an element in a list, counted from 1; 0 when it is not there.
 template <typename List, typename Thing>
-std::int16_t positionIn(const List& list, const Thing* thing)
+std::int16_t numberIn(const List& list, const Thing* thing)
 {
     const auto found =
         std::find_if(list.begin(), list.end(), [thing](const auto& one) { return &*one == thing; });
@@ -34,8 +34,8 @@ SeriesRecord recordOf(const Series& series, const std::vector<const EVM*>& evolu
     if (series.Mode == nullptr || series.Mode->Parent == nullptr)
         return record;
     const EVM& evolution = *series.Mode->Parent;
-    record.evolution = positionIn(evolutions, &evolution);
-    record.mode = positionIn(evolution.Modes, series.Mode);
+    record.evolution = numberIn(evolutions, &evolution);
+    record.mode = numberIn(evolution.Modes, series.Mode);
     record.markerTag = series.MarkerTag.toStdString();
     record.markerSize = series.MarkerSize;
     record.markerSpacing = series.MarkerSpacing;
@@ -81,7 +81,7 @@ void applyText(const TextRecord& record, TextBox which, EvmPlot& plot)
         plot.texts().move(which, record.position->left, record.position->top);
 }
 
-[[noreturn]] void failAt(const SeriesRecord& record, const EvmPlot& plot, const char* what)
+[[noreturn]] void failForRow(const SeriesRecord& record, const EvmPlot& plot, const char* what)
 {
     throw RunTimeError(ErrorNumber::SubscriptOutOfRange, "mdlWorkSpace",
                        "plot \"" + plot.properties().Caption().toStdString() + "\": no " + what
@@ -94,9 +94,9 @@ AeMode* modeOf(const SeriesRecord& record, const std::vector<EVM*>& evolutions, 
 {
     const NamedMode named = namedMode(record, evolutions);
     if (named.fault == NamedMode::Fault::NoEvolution)
-        failAt(record, plot, "evolution");
+        failForRow(record, plot, "evolution");
     if (named.fault == NamedMode::Fault::NoMode)
-        failAt(record, plot, "mode");
+        failForRow(record, plot, "mode");
     return named.mode;
 }
 

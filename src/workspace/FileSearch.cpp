@@ -17,17 +17,17 @@ namespace fs = std::filesystem;
 
 /// The facts about a file or folder that a search needs. The path is left out, because it is much
 /// longer in deep folders.
-struct Entry
+struct FolderEntry
 {
     std::string name;
     bool isFolder = false;
     bool isWanted = false;
 };
 
-Entry entryOf(const fs::directory_entry& found, const std::unordered_set<std::string>& names)
+FolderEntry entryOf(const fs::directory_entry& found, const std::unordered_set<std::string>& names)
 {
     std::error_code unknown;
-    Entry entry {pathText(found.path().filename())};
+    FolderEntry entry {pathText(found.path().filename())};
     const bool canBeNamed =
         entry.name.find('\\') == std::string::npos; // it is a separator in paths
     entry.isFolder = canBeNamed && found.is_directory(unknown) && !found.is_symlink(unknown);
@@ -37,11 +37,11 @@ Entry entryOf(const fs::directory_entry& found, const std::unordered_set<std::st
 }
 
 /// The entries of a folder by name, at most `most`; `isComplete` is set to whether that is all.
-std::vector<Entry> entriesOf(const std::string& folder,
-                             const std::unordered_set<std::string>& names, std::size_t most,
-                             bool& isComplete)
+std::vector<FolderEntry> entriesOf(const std::string& folder,
+                                   const std::unordered_set<std::string>& names, std::size_t most,
+                                   bool& isComplete)
 {
-    std::vector<Entry> entries;
+    std::vector<FolderEntry> entries;
     std::error_code failed;
     fs::directory_iterator entry(nativePath(folder), failed);
     for (; !failed && entry != fs::directory_iterator(); entry.increment(failed)) {
@@ -52,7 +52,7 @@ std::vector<Entry> entriesOf(const std::string& folder,
         entries.push_back(entryOf(*entry, names));
     }
     std::sort(entries.begin(), entries.end(),
-              [](const Entry& a, const Entry& b) { return a.name < b.name; });
+              [](const FolderEntry& a, const FolderEntry& b) { return a.name < b.name; });
     return entries;
 }
 
@@ -67,7 +67,7 @@ FileSearch filesBelow(const std::string& folder, const std::unordered_set<std::s
         const auto entries =
             entriesOf(folders.front(), names, mostFilesLookedAt - looked, found.isComplete);
         looked += entries.size();
-        for (const Entry& entry : entries) {
+        for (const FolderEntry& entry : entries) {
             if (entry.isFolder)
                 folders.push_back(pathIn(folders.front(), entry.name));
             else if (entry.isWanted)

@@ -14,7 +14,7 @@ namespace {
 constexpr std::size_t everything = std::numeric_limits<std::size_t>::max();
 
 /// A path or a file, sorted by tails.
-struct Entry
+struct TailEntry
 {
     std::string_view tail;
     std::size_t number;
@@ -28,17 +28,17 @@ std::size_t sharedNames(std::string_view a, std::string_view b)
     return static_cast<std::size_t>(std::count(a.begin(), end, '/'));
 }
 
-std::vector<Entry> inOrder(const std::vector<std::string>& paths,
-                           const std::vector<std::string>& files)
+std::vector<TailEntry> inOrder(const std::vector<std::string>& paths,
+                               const std::vector<std::string>& files)
 {
-    std::vector<Entry> entries;
+    std::vector<TailEntry> entries;
     entries.reserve(paths.size() + files.size());
     for (std::size_t i = 0; i < paths.size(); ++i)
         entries.push_back({paths[i], i, true});
     for (std::size_t i = 0; i < files.size(); ++i)
         entries.push_back({files[i], i, false});
     std::sort(entries.begin(), entries.end(),
-              [](const Entry& a, const Entry& b) { return a.tail < b.tail; });
+              [](const TailEntry& a, const TailEntry& b) { return a.tail < b.tail; });
     for (std::size_t i = 1; i < entries.size(); ++i)
         entries[i].namesAsBefore = sharedNames(entries[i - 1].tail, entries[i].tail);
     return entries;
@@ -47,13 +47,13 @@ std::vector<Entry> inOrder(const std::vector<std::string>& paths,
 /// Calls `meet` for each entry with the last path before it in this direction and the number of
 /// components that they share: the minimum over all adjacent entries in between.
 template <typename Meet>
-void sweep(const std::vector<Entry>& entries, bool isForwards, Meet meet)
+void sweep(const std::vector<TailEntry>& entries, bool isForwards, Meet meet)
 {
-    const Entry* path = nullptr;
+    const TailEntry* path = nullptr;
     std::size_t names = everything;
     for (std::size_t step = 0; step < entries.size(); ++step) {
         const std::size_t index = isForwards ? step : entries.size() - 1 - step;
-        const Entry& entry = entries[index];
+        const TailEntry& entry = entries[index];
         if (step > 0)
             names = std::min(names, entries[isForwards ? index : index + 1].namesAsBefore);
         if (path != nullptr)
@@ -100,17 +100,18 @@ std::string withoutCaseOfNames(std::string_view tail)
 std::vector<SharedTail> sharedTails(const std::vector<std::string>& paths,
                                     const std::vector<std::string>& files)
 {
-    const std::vector<Entry> entries = inOrder(paths, files);
+    const std::vector<TailEntry> entries = inOrder(paths, files);
     std::vector<std::size_t> withOthers(
         paths.size()); // components that a path shares with another one
     std::vector<SharedTail> shared(files.size());
     for (const bool isForwards : {true, false}) {
-        sweep(entries, isForwards, [&](const Entry& entry, const Entry& path, std::size_t names) {
-            if (entry.isPath)
-                withOthers[entry.number] = std::max(withOthers[entry.number], names);
-            else if (names > shared[entry.number].names)
-                shared[entry.number] = {path.number, names};
-        });
+        sweep(entries, isForwards,
+              [&](const TailEntry& entry, const TailEntry& path, std::size_t names) {
+                  if (entry.isPath)
+                      withOthers[entry.number] = std::max(withOthers[entry.number], names);
+                  else if (names > shared[entry.number].names)
+                      shared[entry.number] = {path.number, names};
+              });
     }
     for (SharedTail& one : shared) {
         if (one.names > 0 && one.names <= withOthers[one.path])
