@@ -5,6 +5,7 @@
 #include "batch/WorkspaceInput.h"
 #include "rtf/RtfReader.h"
 #include "rtf/RtfStoredValue.h"
+#include "vgfplot/NamedMode.h"
 #include "workspace/FoundFiles.h"
 #include "workspace/IniText.h"
 #include "workspace/WorkspaceKeys.h"
@@ -208,12 +209,9 @@ void WorkspaceChecker::checkSeries(BatchRun& run)
     };
     const std::vector<EVM*> evolutions = openEvolutions(m_record.plots, m_files, run, report);
     for (std::size_t j = 0; j < m_record.plots.size(); ++j) {
-        const std::vector<SeriesRecord>& series = m_record.plots[j].series;
-        for (std::size_t i = 0; i < series.size(); ++i) {
-            const std::string fault = faultOf(series[i], evolutions);
-            if (!fault.empty())
-                add(keys::plotSection(j + 1), keys::numbered(keys::series, i + 1), fault);
-        }
+        for (const SeriesFault& fault : namedSeries(m_record.plots[j], evolutions).faults)
+            add(keys::plotSection(j + 1), keys::numbered(keys::series, fault.index + 1),
+                fault.reason);
     }
 }
 

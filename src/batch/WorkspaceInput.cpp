@@ -98,21 +98,15 @@ private:
 /// Removes the series without a mode from a plot, and complains about each that is faulty itself.
 void leaveOutFaults(PlotRecord& plot, const std::string& path, WorkspaceInput& input, BatchRun& run)
 {
-    std::vector<SeriesRecord> sound;
-    for (std::size_t i = 0; i < plot.series.size(); ++i) {
-        SeriesRecord& series = plot.series[i];
-        const std::string fault = faultOf(series, input.evolutions);
-        if (!fault.empty()) {
-            input.isWhole = false;
-            std::string message = path;
-            message.append(": plot \"").append(plot.caption).append("\", series ");
-            message.append(std::to_string(i + 1)).append(" is left out: ").append(fault);
-            run.complain(message);
-        } else if (namedMode(series, input.evolutions).mode != nullptr) {
-            sound.push_back(std::move(series));
-        }
+    const NamedSeries named = namedSeries(plot, input.evolutions);
+    for (const std::string& fault : named.faultTexts(plot)) {
+        input.isWhole = false;
+        run.complain(path + ": " + fault);
     }
-    plot.series = std::move(sound);
+    std::vector<SeriesRecord> present;
+    for (const auto& [series, mode] : named.present)
+        present.push_back(*series);
+    plot.series = std::move(present);
 }
 
 } // namespace
@@ -178,22 +172,6 @@ std::vector<EVM*> openEvolutions(const std::vector<PlotRecord>& plots,
 {
     InputOpener opener(namedEvolutions(plots, files.size()), run, report);
     return openListed({}, files, opener);
-}
-
-std::string faultOf(const SeriesRecord& series, const std::vector<EVM*>& evolutions)
-{
-    const NamedMode named = namedMode(series, evolutions);
-    switch (named.fault) {
-    case NamedMode::Fault::None:
-        break;
-    case NamedMode::Fault::NoEvolution:
-        return "there is no modal evolution " + std::to_string(series.evolution)
-            + "; the workspace lists " + std::to_string(evolutions.size());
-    case NamedMode::Fault::NoMode:
-        return named.evolution->FileName + " has no mode at position " + std::to_string(series.mode)
-            + "; it has " + std::to_string(named.evolution->Modes.size());
-    }
-    return {};
 }
 
 } // namespace tarsil::batch

@@ -60,8 +60,4 @@ std::vector<EVM*> openEvolutions(const std::vector<PlotRecord>& plots,
                                  const std::vector<std::string>& files, BatchRun& run,
                                  const OpeningReport& report);
 
-/// The fault in the numbers of a series as a sentence; empty when its mode exists or its evolution
-/// is not open.
-std::string faultOf(const SeriesRecord& series, const std::vector<EVM*>& evolutions);
-
 } // namespace tarsil::batch

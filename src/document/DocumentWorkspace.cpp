@@ -2,6 +2,7 @@
 
 #include "base/files/AtomicFile.h"
 #include "base/files/PathNames.h"
+#include "base/text/ShortList.h"
 #include "base/user/RunTimeError.h"
 #include "document/DateText.h"
 #include "document/Document.h"
@@ -154,16 +155,25 @@ std::vector<EVM*> Document::loadListed(const WorkspaceSource& source, UserInterf
 }
 
 /// Creates and draws the plots as far as possible. Returns the first failure, starting with
-/// `failure`.
+/// `failure`; without any, error 9 with all series that are left out.
 std::exception_ptr Document::applyPlots(const std::vector<PlotRecord>& records,
                                         const std::vector<EVM*>& evolutions,
                                         std::exception_ptr failure)
 {
+    std::vector<std::string> faults;
     for (std::size_t i = 0; i < records.size(); ++i) {
         EvmPlot& plot = plotFor(i, QString::fromStdString(records[i].caption));
-        keepFirstFailure(failure, [&] { applyRecord(records[i], evolutions, plot); });
+        keepFirstFailure(failure, [&] {
+            const std::vector<std::string> more = applyRecord(records[i], evolutions, plot);
+            faults.insert(faults.end(), more.begin(), more.end());
+        });
         keepFirstFailure(failure, [&plot] { plot.plot(); });
     }
+    if (!faults.empty())
+        keepFirstFailure(failure, [&faults] {
+            throw RunTimeError(ErrorNumber::SubscriptOutOfRange, "mdlWorkSpace",
+                               shortList(faults, mostRowLines));
+        });
     return failure;
 }
 

@@ -3,6 +3,7 @@
 #include "model/EVM.h"
 
 #include <cstdint>
+#include <optional>
 
 namespace tarsil {
 
@@ -19,6 +20,23 @@ std::size_t indexOf(std::int16_t number)
     return static_cast<std::size_t>(number - 1);
 }
 
+/// The fault in the numbers of a series; empty when its mode exists or its evolution is not open.
+std::optional<std::string> faultOf(const SeriesRecord& series, const NamedMode& named,
+                                   std::size_t listed)
+{
+    switch (named.fault) {
+    case NamedMode::Fault::None:
+        break;
+    case NamedMode::Fault::NoEvolution:
+        return "there is no modal evolution " + std::to_string(series.evolution)
+            + "; the workspace lists " + std::to_string(listed);
+    case NamedMode::Fault::NoMode:
+        return named.evolution->FileName + " has no mode at position " + std::to_string(series.mode)
+            + "; it has " + std::to_string(named.evolution->Modes.size());
+    }
+    return std::nullopt;
+}
+
 } // namespace
 
 NamedMode namedMode(const SeriesRecord& series, const std::vector<EVM*>& evolutions)
@@ -31,6 +49,29 @@ NamedMode namedMode(const SeriesRecord& series, const std::vector<EVM*>& evoluti
     if (!isIn(series.mode, evolution->Modes.size()))
         return {NamedMode::Fault::NoMode, evolution, nullptr};
     return {NamedMode::Fault::None, evolution, evolution->Modes[indexOf(series.mode)].get()};
+}
+
+NamedSeries namedSeries(const PlotRecord& plot, const std::vector<EVM*>& evolutions)
+{
+    NamedSeries result;
+    for (std::size_t i = 0; i < plot.series.size(); ++i) {
+        const SeriesRecord& series = plot.series[i];
+        const NamedMode named = namedMode(series, evolutions);
+        if (named.mode != nullptr)
+            result.present.emplace_back(&series, named.mode);
+        else if (const auto fault = faultOf(series, named, evolutions.size()))
+            result.faults.push_back({i, *fault});
+    }
+    return result;
+}
+
+std::vector<std::string> NamedSeries::faultTexts(const PlotRecord& plot) const
+{
+    std::vector<std::string> texts;
+    for (const SeriesFault& fault : faults)
+        texts.push_back("plot \"" + plot.caption + "\", series " + std::to_string(fault.index + 1)
+                        + " is left out: " + fault.reason);
+    return texts;
 }
 
 std::vector<bool> namedEvolutions(const std::vector<PlotRecord>& plots, std::size_t listed)

@@ -1,6 +1,5 @@
 #include "vgfplot/PlotRecords.h"
 
-#include "base/user/RunTimeError.h"
 #include "model/EVM.h"
 #include "plot/Series.h"
 #include "vgfplot/EvmPlot.h"
@@ -81,25 +80,6 @@ void applyText(const TextRecord& record, TextBox which, EvmPlot& plot)
         plot.texts().move(which, record.position->left, record.position->top);
 }
 
-[[noreturn]] void failForRow(const SeriesRecord& record, const EvmPlot& plot, const char* what)
-{
-    throw RunTimeError(ErrorNumber::SubscriptOutOfRange, "mdlWorkSpace",
-                       "plot \"" + plot.properties().Caption().toStdString() + "\": no " + what
-                           + " for mode " + std::to_string(record.mode) + " of modal evolution "
-                           + std::to_string(record.evolution));
-}
-
-/// The mode of a series; null when its file is missing.
-AeMode* modeOf(const SeriesRecord& record, const std::vector<EVM*>& evolutions, const EvmPlot& plot)
-{
-    const NamedMode named = namedMode(record, evolutions);
-    if (named.fault == NamedMode::Fault::NoEvolution)
-        failForRow(record, plot, "evolution");
-    if (named.fault == NamedMode::Fault::NoMode)
-        failForRow(record, plot, "mode");
-    return named.mode;
-}
-
 Series seriesOf(const SeriesRecord& record, AeMode& mode)
 {
     Series series;
@@ -117,20 +97,16 @@ Series seriesOf(const SeriesRecord& record, AeMode& mode)
     return series;
 }
 
-/// Adds all rows at once; after an error those before the faulty one.
-void applySeries(const PlotRecord& record, const std::vector<EVM*>& evolutions, EvmPlot& plot)
+/// Adds the series whose modes exist, all at once. Returns the faults of the others.
+std::vector<std::string> applySeries(const PlotRecord& record, const std::vector<EVM*>& evolutions,
+                                     EvmPlot& plot)
 {
+    const NamedSeries named = namedSeries(record, evolutions);
     std::vector<Series> series;
-    try {
-        for (const SeriesRecord& one : record.series) {
-            if (AeMode* const mode = modeOf(one, evolutions, plot))
-                series.push_back(seriesOf(one, *mode));
-        }
-    } catch (const RunTimeError&) {
-        plot.rows().add(std::move(series));
-        throw;
-    }
+    for (const auto& [one, mode] : named.present)
+        series.push_back(seriesOf(*one, *mode));
     plot.rows().add(std::move(series));
+    return named.faultTexts(record);
 }
 
 /// Call after the scale is set, which determines the ends of the damping lines.
@@ -167,7 +143,8 @@ PlotRecord recordOf(const EvmPlot& plot, const std::vector<const EVM*>& evolutio
     return record;
 }
 
-void applyRecord(const PlotRecord& record, const std::vector<EVM*>& evolutions, EvmPlot& plot)
+std::vector<std::string> applyRecord(const PlotRecord& record, const std::vector<EVM*>& evolutions,
+                                     EvmPlot& plot)
 {
     Q_EMIT plot.contentsReplaced();
     applyText(record.header, TextBox::Header, plot);
@@ -176,7 +153,7 @@ void applyRecord(const PlotRecord& record, const std::vector<EVM*>& evolutions, 
     plot.setAxes(record.axes);
     plot.properties().setBreaksAtJumps(record.breaksAtJumps);
     applyReferences(record, plot);
-    applySeries(record, evolutions, plot);
+    return applySeries(record, evolutions, plot);
 }
 
 } // namespace tarsil

@@ -2,6 +2,7 @@
 
 #include "workspace/WorkspaceRecord.h"
 
+#include <string>
 #include <vector>
 
 namespace tarsil {
@@ -16,8 +17,9 @@ PlotRecord recordOf(const EvmPlot& plot, const std::vector<const EVM*>& evolutio
 /// Applies the texts, axes, references and series of a record; does not draw. Only the top of the
 /// header's position is used; its left is fixed by the layout. `evolutions` is the list of files as
 /// saved, null for a missing file, whose series are left out. A text or position that the record
-/// lacks is unchanged. Error 9 "Subscript out of range" for a series with an evolution beyond the
-/// list or a mode that the evolution lacks; the series before it are applied.
-void applyRecord(const PlotRecord& record, const std::vector<EVM*>& evolutions, EvmPlot& plot);
+/// lacks is unchanged. Returns a sentence for each series that is left out because the list lacks
+/// its evolution, or the evolution its mode.
+std::vector<std::string> applyRecord(const PlotRecord& record, const std::vector<EVM*>& evolutions,
+                                     EvmPlot& plot);
 
 } // namespace tarsil

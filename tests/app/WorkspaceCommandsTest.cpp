@@ -658,7 +658,9 @@ TEST_F(WorkspaceCommandsTest, reportOnceWhateverFails)
     load();
     open(folder.write("bad.tsw", twoPlots("1\r\nSerie(1)=" + nineFields())));
     ASSERT_EQ(user.messages.size(), 1U) << "neither plot has its evolution";
-    EXPECT_THAT(user.messages[0].text, HasSubstr("plot \"wing\": no evolution"));
+    EXPECT_THAT(user.messages[0].text,
+                HasSubstr("plot \"wing\", series 1 is left out: there is no modal evolution 1; the "
+                          "workspace lists 0\nplot \"wing\", series 1 is left out: there is no"));
     EXPECT_EQ(window.evolPlot().plots().size(), 2U) << "the second one is there all the same";
 }
 

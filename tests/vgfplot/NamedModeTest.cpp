@@ -6,6 +6,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <utility>
+
 using namespace tarsil;
 using ::testing::ElementsAre;
 
@@ -56,6 +58,23 @@ TEST_F(NamedModeTest, isAFaultBeyondTheListOrTheModes)
         EXPECT_EQ(namedMode(naming(2, number), evolutions).fault, NamedMode::Fault::NoMode);
         EXPECT_EQ(namedMode(naming(2, number), evolutions).mode, nullptr);
     }
+}
+
+TEST_F(NamedModeTest, seriesWithoutAModeAreFaultsUnlessTheirEvolutionIsNotOpen)
+{
+    PlotRecord plot;
+    plot.caption = "Wing";
+    plot.series = {naming(2, 3), naming(1, 1), naming(2, 2), naming(3, 1)};
+    evolution.FileName = "wing.ev2";
+    const NamedSeries named = namedSeries(plot, evolutions);
+    ASSERT_EQ(named.present.size(), 1U);
+    EXPECT_EQ(named.present[0],
+              std::pair(std::as_const(plot).series.data() + 2, evolution.Modes[1].get()));
+    EXPECT_THAT(named.faultTexts(plot),
+                ElementsAre("plot \"Wing\", series 1 is left out: wing.ev2 has no mode at "
+                            "position 3; it has 2",
+                            "plot \"Wing\", series 4 is left out: there is no modal evolution "
+                            "3; the workspace lists 2"));
 }
 
 TEST_F(NamedModeTest, evolutionsAreThoseOfAllPlots)

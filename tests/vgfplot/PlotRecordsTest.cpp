@@ -3,15 +3,16 @@
 
 #include "analysis/ModeBuilder.h"
 #include "support/ChangeSeries.h"
-#include "support/Errors.h"
 #include "vgfplot/EvmPlot.h"
 #include "workspace/WorkspaceReader.h"
 #include "workspace/WorkspaceWriter.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 using namespace tarsil;
 using test::addMode;
+using ::testing::ElementsAre;
 
 namespace {
 
@@ -207,17 +208,15 @@ TEST_F(PlotRecords, keepPointingAtTheRightModesWhenAFileIsMissing)
     EXPECT_EQ(other.SeriesCollection()[0].Mode, two.Modes[1].get());
 }
 
-TEST_F(PlotRecords, refuseASeriesThatNamesNothing)
+TEST_F(PlotRecords, leaveOutAndNameEachSeriesWithoutAMode)
 {
     const PlotRecord record = recordOf(plot, evolutions());
     EvmPlot other;
-    EXPECT_EQ(test::errorNumberOf([&] { applyRecord(record, {&one}, other); }),
-              ErrorNumber::SubscriptOutOfRange);
-    two.Modes.pop_back();
-    EXPECT_EQ(test::errorNumberOf([&] {
-                  applyRecord(record, {&one, &two}, other);
-              }),
-              ErrorNumber::SubscriptOutOfRange);
+    EXPECT_THAT(applyRecord(record, {&one}, other),
+                ElementsAre("plot \"Clean\", series 1 is left out: there is no modal evolution 2; "
+                            "the workspace lists 1"));
+    ASSERT_EQ(other.SeriesCollection().size(), 1U) << "the series after it is there";
+    EXPECT_EQ(other.SeriesCollection()[0].Mode->Parent, &one);
 }
 
 TEST_F(PlotRecords, leaveABoxAloneOfWhichTheyKnowNothing)
