@@ -5,9 +5,12 @@
 #include "base/numbers/NumberFormat.h"
 #include "base/numbers/Numbers.h"
 #include "base/user/ErrorGuard.h"
+#include "plotwindow/NumberInput.h"
 #include "vgfplot/EvmPlot.h"
 
 #include <QFocusEvent>
+
+#include <optional>
 
 namespace tarsil {
 
@@ -21,15 +24,6 @@ std::string percentText(double fraction)
 {
     const double rounded = toDouble(formatNumber(fraction, "0.0000"), moduleName, {});
     return formatNumber(rounded * 100, "0.00");
-}
-
-/// Whether a text is not a number, but becomes one with another digit: "-", ".", "1e-".
-bool isBegunNumber(const QString& text)
-{
-    double value = 0;
-    const std::string typed = text.toStdString();
-    return !text.trimmed().isEmpty() && parseDouble(typed, value) == NumberStatus::NotANumber
-        && parseDouble(typed + '0', value) == NumberStatus::Ok;
 }
 
 /// Whether the focus moves to another widget of the same window.
@@ -62,16 +56,17 @@ void dlgDampLine::fillDefaults()
     m_ui->captionInp->setText(QStringLiteral("g = 1.00 %"));
 }
 
-void dlgDampLine::sdampInp_Change(const QString& text)
+void dlgDampLine::sdampInp_Change()
 {
     m_ui->captionInp->clear();
-    double value = 0;
-    if (isBegunNumber(text))
+    const NumberInput input(*m_ui->sdampInp, moduleName);
+    if (input.isBegun())
         return;
-    if (parseDouble(text.toStdString(), value) != NumberStatus::Ok)
+    const std::optional<double> damping = input.numberIfAny();
+    if (!damping)
         return askForNumber();
-    guarded(userInterface(), moduleName, [this, value] {
-        m_ui->captionInp->setText(QString::fromStdString("g = " + percentText(value) + " %"));
+    guarded(userInterface(), moduleName, [this, damping] {
+        m_ui->captionInp->setText(QString::fromStdString("g = " + percentText(*damping) + " %"));
     });
 }
 
@@ -89,7 +84,8 @@ bool dlgDampLine::eventFilter(QObject* watched, QEvent* event)
 /// "Add" shows its own message.
 void dlgDampLine::sdampInp_LostFocus()
 {
-    if (!m_isLeft || m_ui->sdampBtn->isDown() || !isBegunNumber(m_ui->sdampInp->text()))
+    if (!m_isLeft || m_ui->sdampBtn->isDown()
+        || !NumberInput(*m_ui->sdampInp, moduleName).isBegun())
         return;
     m_isLeft = false;
     m_ui->sdampInp->setFocus();

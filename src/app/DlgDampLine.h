@@ -27,7 +27,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void sdampInp_Change(const QString& text);
+    void sdampInp_Change();
     void sdampInp_LostFocus();
     void sdampBtn_Click();
 

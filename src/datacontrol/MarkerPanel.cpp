@@ -2,7 +2,6 @@
 
 #include "ui_WndData.h"
 
-#include "base/numbers/Numbers.h"
 #include "base/user/RunTimeError.h"
 #include "plotwindow/NumberInput.h"
 
@@ -109,10 +108,8 @@ void MarkerPanel::show(const Series& series)
 
 bool MarkerPanel::resetSpacing()
 {
-    double spacing = 0;
-    if (parseDouble(m_form.mkspaceInp->text().toStdString(), spacing) != NumberStatus::Ok)
-        return false; // "Plot" reports it
-    if (std::nearbyint(spacing) > 0)
+    const auto spacing = NumberInput(*m_form.mkspaceInp, "wndData").numberIfAny();
+    if (!spacing || std::nearbyint(*spacing) > 0) // "Plot" reports a text that is not a number
         return false;
     m_form.mkspaceInp->setText(QString::number(m_valid.spacing));
     return true;

@@ -6,7 +6,6 @@
 
 #include "aircraft/AirplaneInfo.h"
 #include "base/files/PathNames.h"
-#include "base/numbers/Numbers.h"
 #include "base/user/RunTimeError.h"
 #include "base/user/UserInterface.h"
 #include "document/Document.h"
@@ -25,14 +24,9 @@ constexpr std::string_view pictureFilter =
     "Enhanced Windows Metafile (*.emf)|*.emf|All Files (*.*)|*.*|";
 
 /// The number in the input of the legend index, without the explanation after ":=".
-std::int16_t legendIndexIn(const QLineEdit& input)
+std::int16_t legendIndexIn(QLineEdit& input)
 {
-    const std::string text = input.text().section(QStringLiteral(":="), 0, 0).toStdString();
-    std::int16_t index = 0;
-    const NumberStatus status = parseInteger16(text, index);
-    if (status != NumberStatus::Ok)
-        throwNumberError(status, text, windowName, input.accessibleName().toStdString());
-    return index;
+    return NumberInput(input, windowName).integer16Before(QStringLiteral(":="));
 }
 
 double fontSizeIn(QLineEdit& input)

@@ -8,13 +8,13 @@
 #include "base/numbers/Numbers.h"
 #include "base/user/ErrorGuard.h"
 #include "plotwindow/InputMessage.h"
+#include "plotwindow/NumberInput.h"
 #include "solver/SolverUnits.h"
 #include "solver/UnitEvidence.h"
 
 #include <QSignalBlocker>
 
 #include <algorithm>
-#include <cmath>
 #include <cstddef>
 #include <string_view>
 
@@ -129,11 +129,8 @@ void dlgImport::showPreset()
 
 std::optional<double> dlgImport::vref() const
 {
-    double value = 0;
-    const std::string text = m_ui->txtVref->text().trimmed().toStdString();
-    if (parseDouble(text, value) != NumberStatus::Ok || !(value > 0) || std::isinf(value))
-        return std::nullopt;
-    return value;
+    const auto value = NumberInput(*m_ui->txtVref, "dlgImport").numberIfAny();
+    return value > 0 ? value : std::nullopt; // no number is less than any
 }
 
 std::optional<UnitChoice> dlgImport::chosenUnits() const

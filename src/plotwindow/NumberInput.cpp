@@ -43,9 +43,34 @@ float NumberInput::single() const
     return toSingle(text(), m_module, m_name);
 }
 
+std::optional<double> NumberInput::numberIfAny() const
+{
+    double value = 0;
+    return parseDouble(text(), value) == NumberStatus::Ok ? std::optional(value) : std::nullopt;
+}
+
+bool NumberInput::isBegun() const
+{
+    double value = 0;
+    const std::string typed = text();
+    return !m_input.text().trimmed().isEmpty()
+        && parseDouble(typed, value) == NumberStatus::NotANumber
+        && parseDouble(typed + '0', value) == NumberStatus::Ok;
+}
+
 std::int16_t NumberInput::integer16() const
 {
     return roundToInteger16(static_cast<double>(single()), m_module, m_name);
+}
+
+std::int16_t NumberInput::integer16Before(const QString& separator) const
+{
+    const std::string text = m_input.text().section(separator, 0, 0).toStdString();
+    std::int16_t value = 0;
+    const NumberStatus status = parseInteger16(text, value);
+    if (status != NumberStatus::Ok)
+        throwNumberError(status, text, m_module, m_name);
+    return value;
 }
 
 std::int32_t NumberInput::count(std::int32_t most) const

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <QString>
+
 #include <cstdint>
 #include <limits>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -24,8 +27,18 @@ public:
     double number() const;
     float single() const;
 
+    /// The number; empty unless the text is a number in the range of a double.
+    std::optional<double> numberIfAny() const;
+
+    /// Whether the text is not a number, but becomes one with another digit: "-", ".", "1e-".
+    bool isBegun() const;
+
     /// The single, rounded to a whole number, ties to even.
     std::int16_t integer16() const;
+
+    /// The number before `separator`, rounded to a whole number, ties to even. The text after it is
+    /// an explanation.
+    std::int16_t integer16Before(const QString& separator) const;
 
     /// The number, rounded to a whole number, ties to even. Error 5 unless it is from 1 to `most`.
     std::int32_t count(std::int32_t most = std::numeric_limits<std::int32_t>::max()) const;

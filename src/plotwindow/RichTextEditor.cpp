@@ -100,8 +100,8 @@ void RichTextEditor::addFontChoosers(QToolBar& bar)
     bar.addWidget(m_sizes);
     connect(m_sizes, &QComboBox::textActivated, this, [this](const QString& text) {
         constexpr double most = 400;
-        bool isNumber = false;
-        const double points = text.toDouble(&isNumber);
+        double points = 0;
+        const bool isNumber = parseDouble(text.toStdString(), points) == NumberStatus::Ok;
         QTextCharFormat format;
         if (isNumber && points >= 1 && points <= most) {
             format.setFontPointSize(points);

@@ -9,6 +9,7 @@
 #include "base/user/RunTimeError.h"
 #include "base/user/UserInterface.h"
 #include "document/Document.h"
+#include "plotwindow/NumberInput.h"
 #include "stability/CrossingView.h"
 #include "vgfplot/EvmPlot.h"
 
@@ -165,14 +166,13 @@ void wndStability::takeSettings()
 /// Stores the number of an input if it is valid; otherwise shows a message at the input.
 void wndStability::readNumber(QLineEdit& input, InputMessage& message, double least, double& number)
 {
-    double typed = 0;
-    const bool isNumber = parseDouble(input.text().toStdString(), typed) == NumberStatus::Ok;
-    if (isNumber && typed >= least)
-        number = typed;
-    message.show(isNumber && typed >= least
-                     ? QString()
-                     : tr("A number of at least %1 is needed; the last one counts.")
-                           .arg(QString::fromStdString(shortestText(least))));
+    const auto typed = NumberInput(input, module).numberIfAny();
+    const bool isValid = typed && *typed >= least;
+    if (isValid)
+        number = *typed;
+    message.show(isValid ? QString()
+                         : tr("A number of at least %1 is needed; the last one counts.")
+                               .arg(QString::fromStdString(shortestText(least))));
 }
 
 void wndStability::takeLevels()

@@ -93,6 +93,39 @@ TEST_F(NumberInputTest, hasSixteenBitsForAnInteger)
     EXPECT_EQ(input().integer16(), 32767);
 }
 
+TEST_F(NumberInputTest, isEmptyWithoutANumber)
+{
+    for (const char* text : {"", "four", "1e999", "-"}) {
+        field.setText(QString::fromLatin1(text));
+        EXPECT_EQ(input().numberIfAny(), std::nullopt) << text;
+    }
+    field.setText(QStringLiteral(" -2d1 "));
+    EXPECT_EQ(input().numberIfAny(), -20.0);
+}
+
+TEST_F(NumberInputTest, isBegunWhenAnotherDigitMakesItANumber)
+{
+    for (const char* text : {"-", ".", "1e-", " +"}) {
+        field.setText(QString::fromLatin1(text));
+        EXPECT_TRUE(input().isBegun()) << text;
+    }
+    for (const char* text : {"", " ", "1", "x", "1e999"}) {
+        field.setText(QString::fromLatin1(text));
+        EXPECT_FALSE(input().isBegun()) << text;
+    }
+}
+
+TEST_F(NumberInputTest, mayHaveAnExplanationAfterTheNumber)
+{
+    field.setText(QStringLiteral("-1:=file name"));
+    EXPECT_EQ(input().integer16Before(QStringLiteral(":=")), -1);
+    field.setText(QStringLiteral("2"));
+    EXPECT_EQ(input().integer16Before(QStringLiteral(":=")), 2);
+    field.setText(QStringLiteral("x:=1"));
+    EXPECT_EQ(errorNumberOf([this] { input().integer16Before(QStringLiteral(":=")); }),
+              ErrorNumber::TypeMismatch);
+}
+
 TEST_F(NumberInputTest, getsTheFocusUnlessAnotherFieldHasIt)
 {
     QWidget window;
