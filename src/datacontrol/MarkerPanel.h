@@ -3,50 +3,57 @@
 #include "plot/Marker.h"
 #include "plotwindow/InputMessage.h"
 
+#include <QGroupBox>
+
+#include <memory>
+
 class QRadioButton;
 
 namespace tarsil {
 
 namespace Ui {
-class wndData;
+class MarkerPanel;
 }
 
+class DataCommands;
 struct Series;
 
-/// The marker inputs of the Data Control window.
-class MarkerPanel
+/// The group "Marker Options": kind, size and spacing of the markers of all rows of the active
+/// plot, and of curves that will be added to any plot. A change is applied at once, as an undo
+/// step. An invalid input shows a message, and its last valid number counts.
+class MarkerPanel : public QGroupBox
 {
+    Q_OBJECT
+
 public:
-    /// `form` must outlive the panel.
-    explicit MarkerPanel(const Ui::wndData& form);
+    /// `commands` must outlive the panel.
+    explicit MarkerPanel(const DataCommands& commands, QWidget* parent = nullptr);
+    ~MarkerPanel() override;
 
     /// The options in the inputs. Errors 13, 6 and 5 name the faulty input. The index of the
     /// participation factor must be valid only if it is the marker.
     MarkerOptions options() const;
 
-    /// The last valid value of each option.
-    const MarkerOptions& valid() const { return m_valid; }
-
-    /// Reads the valid options; ignored inputs show a message.
-    void read();
-
-    /// Shows the options of a series and reads them. A series without markers does not determine
-    /// size and spacing.
-    void show(const Series& series);
-
-    /// Restores the last valid spacing if the input has a number that rounds to 0 or less. Returns
-    /// whether it did.
-    bool resetSpacing();
+    /// Shows the markers of the first series of the active plot, so that "Plot" leaves an opened
+    /// plot unchanged. A series without markers does not determine size and spacing.
+    void showFirstRow();
 
 private:
+    void connectInputs();
     QRadioButton& buttonOf(MarkerKind kind) const;
     MarkerKind kind() const;
+    void read();
+    void showOptionsOf(const Series& series);
+    void apply();
+    void tagBtn_Click();
+    void mkspaceInp_LostFocus();
 
-    const Ui::wndData& m_form;
+    const DataCommands& m_commands;
+    std::unique_ptr<Ui::MarkerPanel> m_ui;
     InputMessage m_sizeMessage;
     InputMessage m_spacingMessage;
     InputMessage m_factorMessage;
-    MarkerOptions m_valid;
+    MarkerOptions m_valid; ///< the last valid value of each option
 };
 
 } // namespace tarsil

@@ -1,25 +1,15 @@
 #pragma once
 
-#include "datacontrol/MarkerPanel.h"
-#include "datacontrol/SeriesGridModel.h"
+#include "datacontrol/DataCommands.h"
 
 #include <QWidget>
 
 #include <cstdint>
-#include <functional>
-#include <memory>
-#include <vector>
 
 namespace tarsil {
 
-namespace Ui {
-class wndData;
-}
-
-class Document;
-class EVM;
-class EvmPlot;
-class UserInterface;
+class MarkerPanel;
+class SeriesPanel;
 
 /// The window "Data Control": the series of the active plot as a grid, their markers, and header,
 /// legend, subtitle, reference speeds and picture of the plot. Failures of its commands are
@@ -43,55 +33,11 @@ public:
     QSize sizeHint() const override;
 
 private:
-    using Handler = void (wndData::*)();
+    void layOut();
 
-    void connectGrid();
-    void connectButtons();
-    void connectOptions();
-    void makeMoveMenu();
-    void fillMechanisms();
-    void run(const std::function<void()>& action);
-    std::function<void()> runs(Handler handler);
-
-    void cmdDrawPlot_Click();
-    void btnFitFreq_Click();
-    void cmdIncMode_Click();
-    void cmdDecMode_Click();
-    void cmdRemove_Click();
-    void btnSerieMove_Click();
-    void btnResColor_Click();
-    void SavePic_Click();
-    void btnAutoRef_Click();
-    void btnMakHead_Click();
-    void cmbFlutMech_Click();
-    void mkspaceInp_LostFocus();
-    void tagBtn_Click();
-    void btnFilltLeg_Click();
-    void btnPlotLeg_Click();
-
-    EvmPlot* activePlot();
-    const EVM* reference();
-    void warn(const std::string& text);
-    void readMarkers();
-    void applyMarkers();
-    void showMarkers();
-    bool isModeSelected(const char* refusal);
-    void changePlot(const QString& name, const std::function<void(EvmPlot&)>& change);
-    void changeAndPlot(const QString& name, const std::function<void(EvmPlot&)>& change);
-    void moveUp();
-    void moveDown();
-    void moveSelectedTo(std::size_t target);
-    void showCurrentRow();
-    int currentColumn() const;
-    void chooseLine();
-    void afterEdit(SeriesColumn column);
-    void askAgain(const QModelIndex& cell, const QString& text, const RunTimeError& error);
-
-    std::unique_ptr<Ui::wndData> m_ui;
-    MarkerPanel m_markers;
-    SeriesGridModel m_model;
-    Document& m_document;
-    UserInterface& m_user;
+    DataCommands m_commands;
+    MarkerPanel* m_markers; ///< the layout owns the panels
+    SeriesPanel* m_series;
 };
 
 } // namespace tarsil

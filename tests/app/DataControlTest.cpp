@@ -2,6 +2,7 @@
 
 #include "app/WndMainFixture.h"
 
+#include "datacontrol/SeriesGridModel.h"
 #include "datacontrol/SeriesGridView.h"
 #include "datacontrol/WndData.h"
 #include "explorer/WndEvolExplorer.h"

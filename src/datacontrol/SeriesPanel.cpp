@@ -1,0 +1,337 @@
+#include "datacontrol/SeriesPanel.h"
+
+#include "ui_SeriesPanel.h"
+
+#include "base/files/PathNames.h"
+#include "base/user/ErrorReport.h"
+#include "base/user/UserInterface.h"
+#include "datacontrol/DataCommands.h"
+#include "datacontrol/DlgSeriesStyle.h"
+#include "datacontrol/LineSample.h"
+#include "datacontrol/MarkerPanel.h"
+#include "document/Document.h"
+#include "document/MdlData.h"
+#include "model/EVM.h"
+#include "vgfplot/EvmPlot.h"
+
+#include <QMenu>
+#include <QPersistentModelIndex>
+
+#include <algorithm>
+#include <array>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace tarsil {
+
+namespace {
+
+constexpr std::string_view pictureFilter =
+    "Enhanced Windows Metafile (*.emf)|*.emf|All Files (*.*)|*.*|";
+
+int columnNumber(SeriesColumn column)
+{
+    return static_cast<int>(column);
+}
+
+LineLook lookOf(const Series& series)
+{
+    return {series.ColorIndex, series.LineStyle, series.LineWidth};
+}
+
+/// Applies the differences between two looks.
+void changeLine(Series& series, const LineLook& before, const LineLook& now)
+{
+    if (now.color != before.color)
+        mdlData::setColor(series, now.color);
+    if (now.style != before.style)
+        series.LineStyle = now.style;
+    if (now.width != before.width)
+        series.LineWidth = now.width;
+}
+
+} // namespace
+
+SeriesPanel::SeriesPanel(const DataCommands& commands, MarkerPanel& markers, QWidget* parent)
+    : QWidget(parent), m_commands(commands), m_markers(markers),
+      m_model(commands.document().history()), m_ui(std::make_unique<Ui::SeriesPanel>())
+{
+    m_ui->setupUi(this);
+    setFocusProxy(m_ui->flxSerieViewer);
+    prepareColumns();
+    connectGrid();
+    connectButtons();
+    makeMoveMenu();
+    PlotList& plots = commands.document().plots();
+    connect(&plots, &PlotList::activeChanged, this, [this](EvmPlot* /*before*/, EvmPlot* now) {
+        commitEdits(); // typed for the former plot
+        m_model.setPlot(now);
+    });
+    m_model.setPlot(plots.active());
+}
+
+SeriesPanel::~SeriesPanel() = default;
+
+SeriesGridView& SeriesPanel::grid() const
+{
+    return *m_ui->flxSerieViewer;
+}
+
+void SeriesPanel::commitEdits()
+{
+    grid().commitEditor();
+}
+
+std::function<void()> SeriesPanel::command(void (SeriesPanel::*handler)())
+{
+    return m_commands.command([this, handler] { (this->*handler)(); });
+}
+
+void SeriesPanel::prepareColumns()
+{
+    grid().setModel(&m_model);
+    grid().setItemDelegateForColumn(columnNumber(SeriesColumn::Line),
+                                    new LineSampleDelegate(&grid()));
+    QHeaderView& header = *grid().horizontalHeader();
+    header.setHighlightSections(false);
+    constexpr std::array widths = {
+        std::pair(SeriesColumn::Index, 36), std::pair(SeriesColumn::Tag, 44),
+        std::pair(SeriesColumn::Mode, 52), std::pair(SeriesColumn::Line, 44),
+        std::pair(SeriesColumn::Legend, 80)};
+    for (const auto& [column, width] : widths)
+        header.resizeSection(columnNumber(column), width);
+    header.setStretchLastSection(true); // from now on its width is a minimum
+}
+
+void SeriesPanel::connectGrid()
+{
+    SeriesGridView* const view = &grid();
+    view->setPlaceholder(tr("Tick modal evolutions in the explorer and press \"Select Modal "
+                            "Evolution\", or pick modes with the right button there."));
+    connect(view, &SeriesGridView::removeWanted, this, command(&SeriesPanel::cmdRemove_Click));
+    connect(view, &SeriesGridView::raiseWanted, this, command(&SeriesPanel::cmdIncMode_Click));
+    connect(view, &SeriesGridView::lowerWanted, this, command(&SeriesPanel::cmdDecMode_Click));
+    connect(view, &SeriesGridView::moveUpWanted, this, command(&SeriesPanel::moveUp));
+    connect(view, &SeriesGridView::moveDownWanted, this, command(&SeriesPanel::moveDown));
+    connect(view, &SeriesGridView::styleWanted, this, command(&SeriesPanel::chooseLine));
+    connect(view, &SeriesGridView::rowsDropped, this, [this](int target) {
+        m_commands.run([=, this] { moveSelectedTo(static_cast<std::size_t>(target)); });
+    });
+    connect(&m_model, &SeriesGridModel::rowsReplaced, &m_markers, &MarkerPanel::showFirstRow);
+    connect(&m_model, &SeriesGridModel::edited, this,
+            [this](SeriesColumn column) { m_commands.run([=, this] { afterEdit(column); }); });
+    connect(&m_model, &SeriesGridModel::refused, this, &SeriesPanel::askAgain);
+}
+
+/// The keys that follow are meant for the wrong text, not for the row.
+void SeriesPanel::askAgain(const QModelIndex& cell, const QString& text, const RunTimeError& error)
+{
+    const QPersistentModelIndex refused(cell);
+    m_commands.user().showMessage(errorReport(error, DataCommands::module), "Error",
+                                  MessageIcon::Critical);
+    grid().editAgain(refused, text);
+}
+
+void SeriesPanel::connectButtons()
+{
+    const std::pair<QPushButton*, void (SeriesPanel::*)()> buttons[] = {
+        {m_ui->cmdDrawPlot, &SeriesPanel::cmdDrawPlot_Click},
+        {m_ui->btnFitFreq, &SeriesPanel::btnFitFreq_Click},
+        {m_ui->cmdIncMode, &SeriesPanel::cmdIncMode_Click},
+        {m_ui->cmdDecMode, &SeriesPanel::cmdDecMode_Click},
+        {m_ui->cmdRemove, &SeriesPanel::cmdRemove_Click},
+        {m_ui->btnResColor, &SeriesPanel::btnResColor_Click},
+        {m_ui->SavePic, &SeriesPanel::SavePic_Click}};
+    for (const auto& [button, handler] : buttons)
+        connect(button, &QPushButton::clicked, this, command(handler));
+    connect(m_ui->btnSerieMove, &QToolButton::clicked, this,
+            command(&SeriesPanel::btnSerieMove_Click));
+}
+
+/// A click moves up; the menu has the other commands.
+void SeriesPanel::makeMoveMenu()
+{
+    auto* const menu = new QMenu(this);
+    const auto add = [&](const QString& text, const std::function<void()>& action) {
+        connect(menu->addAction(text), &QAction::triggered, this, m_commands.command(action));
+    };
+    add(tr("Up\tAlt+Up"), [this] { moveUp(); });
+    add(tr("Down\tAlt+Down"), [this] { moveDown(); });
+    add(tr("To the Top"), [this] { moveSelectedTo(0); });
+    add(tr("To the Bottom"),
+        [this] { moveSelectedTo(static_cast<std::size_t>(m_model.rowCount())); });
+    m_ui->btnSerieMove->setMenu(menu);
+}
+
+void SeriesPanel::selectCurve(const EVM& evolution, std::int16_t mode)
+{
+    const int column = columnNumber(SeriesColumn::Mode);
+    for (int i = 0; i < m_model.rowCount(); ++i) {
+        const PlotRow& row = *m_model.row(i);
+        if (row.evolution != &evolution || !row.hasCurve() || row.series.Mode->Id != mode)
+            continue;
+        grid().selectRows({static_cast<std::size_t>(i)}, column);
+        grid().scrollTo(m_model.index(i, column));
+        return;
+    }
+}
+
+/// Applies the markers to all rows and draws the plot; then one message lists the modes that do not
+/// exist.
+void SeriesPanel::cmdDrawPlot_Click()
+{
+    if (m_commands.activePlot() != nullptr)
+        changeAndPlot(tr("Plot"), [](EvmPlot&) {});
+}
+
+void SeriesPanel::btnFitFreq_Click()
+{
+    if (m_commands.activePlot() != nullptr)
+        m_commands.change(tr("Fit Frequency Axis"), [](EvmPlot& plot) { plot.fitFreq(); });
+}
+
+/// Reports invalid marker options before it changes anything.
+void SeriesPanel::changeAndPlot(const QString& step, const std::function<void(EvmPlot&)>& change)
+{
+    const MarkerOptions markers = m_markers.options();
+    std::string missing;
+    m_commands.change(step, [&](EvmPlot& plot) {
+        change(plot);
+        missing = mdlData::buildSeries(plot.rows(), markers);
+    });
+    m_model.plot()->plot();
+    if (!missing.empty())
+        m_commands.warn(missing);
+}
+
+void SeriesPanel::afterEdit(SeriesColumn column)
+{
+    if (column != SeriesColumn::Mode)
+        return;
+    const std::string missing = mdlData::missingModesText(m_model.plot()->rows());
+    if (!missing.empty())
+        m_commands.warn(missing);
+}
+
+bool SeriesPanel::isModeSelected(const char* refusal)
+{
+    const bool isSelected = grid().isSelectedOnlyIn(columnNumber(SeriesColumn::Mode));
+    if (!isSelected)
+        m_commands.warn(refusal);
+    return isSelected;
+}
+
+void SeriesPanel::cmdIncMode_Click()
+{
+    if (!isModeSelected("Please select cells in \"Mode\" column."))
+        return;
+    changeAndPlot(tr("Raise Modes"), [this](EvmPlot& plot) {
+        mdlData::raiseModes(plot.rows(), grid().selectedRows());
+    });
+}
+
+void SeriesPanel::cmdDecMode_Click()
+{
+    if (!isModeSelected("You must first select cells in mode column!"))
+        return;
+    changeAndPlot(tr("Lower Modes"), [this](EvmPlot& plot) {
+        mdlData::lowerModes(plot.rows(), grid().selectedRows());
+    });
+}
+
+/// Removes the selected rows, or the current one, or the only one. The row after them becomes
+/// current.
+void SeriesPanel::cmdRemove_Click()
+{
+    std::vector<std::size_t> rows = grid().selectedOrCurrentRows();
+    if (m_model.rowCount() == 1)
+        rows = {0};
+    if (rows.empty())
+        return;
+    const int column = std::max(grid().currentIndex().column(), 0);
+    changeAndPlot(tr("Remove Rows"), [&](EvmPlot& plot) {
+        plot.rows().remove(rows);
+        const std::size_t count = plot.rows().count();
+        if (count > 0)
+            grid().selectRows({std::min(rows.front(), count - 1)}, column);
+    });
+}
+
+void SeriesPanel::btnSerieMove_Click()
+{
+    moveUp();
+}
+
+void SeriesPanel::moveUp()
+{
+    move([this](EvmPlot& plot) { mdlData::moveRowsUp(plot, grid().selectedOrCurrentRows()); });
+}
+
+void SeriesPanel::moveDown()
+{
+    move([this](EvmPlot& plot) { mdlData::moveRowsDown(plot, grid().selectedOrCurrentRows()); });
+}
+
+void SeriesPanel::moveSelectedTo(std::size_t target)
+{
+    move([&](EvmPlot& plot) { mdlData::moveRows(plot, grid().selectedOrCurrentRows(), target); });
+}
+
+/// The current row stays visible.
+void SeriesPanel::move(const std::function<void(EvmPlot&)>& change)
+{
+    if (m_model.rowCount() == 0)
+        return;
+    m_commands.change(tr("Move Rows"), change);
+    grid().scrollTo(grid().currentIndex());
+}
+
+void SeriesPanel::btnResColor_Click()
+{
+    if (m_commands.activePlot() != nullptr)
+        m_commands.change(tr("Reset Colors"),
+                          [](EvmPlot& plot) { mdlData::resetColors(plot.rows()); });
+}
+
+/// Sets colour, style and width of the lines of the selected rows, starting from those of the
+/// first. What the user does not change stays in the other rows too.
+void SeriesPanel::chooseLine()
+{
+    const std::vector<std::size_t> rows = grid().selectedOrCurrentRows();
+    if (rows.empty())
+        return;
+    dlgSeriesStyle dialog(lookOf(m_model.row(static_cast<int>(rows.front()))->series), this);
+    const LineLook before = dialog.look();
+    if (dialog.exec() != QDialog::Accepted || dialog.look() == before)
+        return;
+    const LineLook now = dialog.look();
+    m_commands.change(tr("Line Style"), [&](EvmPlot& plot) {
+        for (const std::size_t row : rows)
+            plot.rows().change(plot.rows().at(row).id,
+                               [&](Series& series) { changeLine(series, before, now); });
+    });
+}
+
+/// Cancelling the dialog does not cancel the command: the picture is written under the caption of
+/// the plot. No question is asked then before a file of that name is replaced.
+void SeriesPanel::SavePic_Click()
+{
+    EvmPlot* const plot = m_commands.activePlot();
+    if (plot == nullptr)
+        return;
+    UserInterface& user = m_commands.user();
+    const std::string caption = plot->properties().Caption().toStdString();
+    const auto answer = user.askSaveFile({std::string(pictureFilter), 1, false, caption, true});
+    if (!answer && fileExists(caption)
+        && !user.confirm("The file '" + caption + "' already exists. Do you want to replace it?",
+                         "Tarsil"))
+        return;
+    const std::string name = answer.value_or(caption);
+    plot->commitEdits();
+    plot->ExportPic(QString::fromStdString(name));
+    user.showNote("The picture is in " + wholePath(name));
+}
+
+} // namespace tarsil
