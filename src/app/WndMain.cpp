@@ -135,10 +135,10 @@ void wndMain::makeChildWindows()
                 m_statusPanels->setEditMode(now != nullptr && now->texts().EditMode());
                 followMarks(before, now);
             });
-    connect(m_evolPlot, &wndEvolPlot::edited, this, [this](const QString& what, bool joins) {
-        m_document.history().note(what,
-                                  joins ? UndoHistory::Joining::Yes : UndoHistory::Joining::No);
-    });
+    connect(m_evolPlot, &wndEvolPlot::edited, this,
+            [this](const QString& what, UndoHistory::Joining joining) {
+                m_document.history().note(what, joining);
+            });
     connect(m_evolPlot, &wndEvolPlot::plotMenuRequested, this,
             [this](QPoint position) { m_plotMenu->popup(position); });
     connectExplorer();

@@ -31,13 +31,14 @@ public:
     {
         constexpr int joins = 1;
         constexpr int staysAlone = -1;
-        return m_joining == Joining::Yes ? joins : staysAlone;
+        return m_joining == Joining::No ? staysAlone : joins;
     }
 
     bool mergeWith(const QUndoCommand* later) override
     {
         const auto& next = static_cast<const Step&>(*later);
-        if (next.m_after.active != m_after.active || next.text() != text())
+        if (next.m_joining == Joining::Begins || next.m_after.active != m_after.active
+            || next.text() != text())
             return false;
         m_after = next.m_after;
         setObsolete(m_after.isSameAs(m_before));

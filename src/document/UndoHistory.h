@@ -26,7 +26,8 @@ public:
     /// Whether a change joins the last step if it has the same name and active plot.
     enum class Joining {
         No, ///< a separate step
-        Yes ///< part of the last step, like the digits of a typed number
+        Yes, ///< part of the last step, like the digits of a typed number
+        Begins ///< a separate step, which later changes may join
     };
 
     /// `document` must outlive the history.

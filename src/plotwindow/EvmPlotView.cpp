@@ -2,9 +2,12 @@
 
 #include "base/numbers/Numbers.h"
 #include "plot/RichTextLayout.h"
+#include "plotwindow/AxisEditor.h"
 #include "plotwindow/RichTextEditor.h"
 #include "surface/TextMetrics.h"
 #include "vgfplot/PictureWriter.h"
+#include "vgfplot/PlotReading.h"
+#include "vgfplot/ScaleFit.h"
 
 #include <QAccessibleWidget>
 #include <QAction>
@@ -16,6 +19,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTextEdit>
+#include <QWheelEvent>
 
 #include <algorithm>
 #include <utility>
@@ -25,6 +29,8 @@ namespace tarsil {
 namespace {
 
 constexpr QSize leastEditorSize(420, 130);
+const QColor bandColor(0, 90, 200);
+const QColor bandFill(0, 90, 200, 32);
 
 /// Presents a plot to screen readers as a graphic.
 QAccessibleInterface* plotInterface(const QString& /*className*/, QObject* object)
@@ -36,7 +42,7 @@ QAccessibleInterface* plotInterface(const QString& /*className*/, QObject* objec
 } // namespace
 
 EvmPlotView::EvmPlotView(EvmPlot& plot, QWidget* parent)
-    : QWidget(parent), m_plot(plot), m_mover(plot), m_boxMenu(new QMenu(this)),
+    : QWidget(parent), m_plot(plot), m_mover(plot), m_gesture(plot), m_boxMenu(new QMenu(this)),
       m_edit(m_boxMenu->addAction(tr("&Edit"))), m_move(m_boxMenu->addAction(tr("&Move")))
 {
     setObjectName(QStringLiteral("evpVgf"));
@@ -47,7 +53,10 @@ EvmPlotView::EvmPlotView(EvmPlot& plot, QWidget* parent)
     QAccessible::installFactory(plotInterface); // has an effect only once
     connect(&m_plot, &EvmPlot::changed, this, qOverload<>(&QWidget::update));
     connect(&m_plot, &EvmPlot::changed, this, &EvmPlotView::updateDescription);
-    connect(&m_plot, &EvmPlot::editsWanted, this, [this] { finishEditing(true); });
+    connect(&m_plot, &EvmPlot::editsWanted, this, [this] {
+        m_gesture.cancel();
+        finishEditing(true);
+    });
     connect(&m_plot, &EvmPlot::contentsReplaced, this, &EvmPlotView::letGo);
     updateDescription();
 }
@@ -108,6 +117,7 @@ void EvmPlotView::paintEvent(QPaintEvent* event)
         paintHighlight(*m_highlight, m_plot, painter);
     paintPrompts(painter);
     paintSelection(painter);
+    paintBand(painter);
     painter.end();
     if (failure) // the report opens a window, which must wait until painting is over
         QMetaObject::invokeMethod(
@@ -125,7 +135,7 @@ void EvmPlotView::paintPrompts(QPainter& painter) const
     painter.setPen(Qt::gray);
     for (const TextBox which : allTextBoxes) {
         const emfRichTextBox& box = m_plot.parts().box(which);
-        if (!box.isEmpty() || (m_editor != nullptr && m_editedBox == which))
+        if (!box.isEmpty() || m_editedBox == which)
             continue;
         painter.setFont(screenFont(fontOf(box.content().last)));
         painter.drawText(box.geometry(), Qt::AlignLeft | Qt::AlignTop, box.prompt());
@@ -143,19 +153,33 @@ void EvmPlotView::paintSelection(QPainter& painter) const
     }
 }
 
+void EvmPlotView::paintBand(QPainter& painter) const
+{
+    const QRect band = m_gesture.band();
+    if (band.isNull())
+        return;
+    painter.fillRect(band, bandFill);
+    painter.setPen(bandColor);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(band.adjusted(0, 0, -1, -1));
+}
+
 void EvmPlotView::mousePressEvent(QMouseEvent* event)
 {
     finishEditing(true);
     if (event->button() == Qt::LeftButton)
         m_mover.press(event->pos());
+    if (!m_mover.selected() || (event->button() != Qt::LeftButton && !m_mover.isMoving()))
+        m_gesture.press(event->pos(), event->button());
     followMovement();
 }
 
 void EvmPlotView::mouseMoveEvent(QMouseEvent* event)
 {
-    const bool wasMoving = m_mover.isMoving();
+    const bool wasMoving = isMoving();
     m_mover.pointTo(event->pos(), event->buttons() & Qt::LeftButton);
-    if (m_mover.isMoving() && !wasMoving)
+    m_gesture.pointTo(event->pos(), event->modifiers());
+    if (isMoving() && !wasMoving)
         Q_EMIT commandBegun();
     followMovement();
 }
@@ -165,7 +189,12 @@ void EvmPlotView::mouseReleaseEvent(QMouseEvent* event)
     const bool wasMoved = m_mover.isMoving();
     if (event->button() == Qt::LeftButton)
         m_mover.release();
+    const ZoomGesture::Result result = m_gesture.release(event->button());
     followMovement();
+    if (result == ZoomGesture::Result::Zoomed)
+        Q_EMIT edited(tr("Zoom"), UndoHistory::Joining::No);
+    if (result == ZoomGesture::Result::Panned)
+        Q_EMIT edited(tr("Pan"), UndoHistory::Joining::No);
     const std::optional<TextBox> box = m_mover.boxAt(event->pos());
     if (m_plot.texts().EditMode() && !wasMoved && box && box == m_mover.selected()
         && event->button() == Qt::LeftButton)
@@ -174,19 +203,54 @@ void EvmPlotView::mouseReleaseEvent(QMouseEvent* event)
 
 void EvmPlotView::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    const std::optional<TextBox> box = m_mover.boxAt(event->pos());
-    if (box && event->button() == Qt::LeftButton)
+    if (event->button() != Qt::LeftButton)
+        return;
+    if (const std::optional<TextBox> box = m_mover.boxAt(event->pos())) {
         startEditing(*box);
+        return;
+    }
+    const PlotZone zone = zoneAt(m_plot, event->pos());
+    const bool isInCanvas = zone == PlotZone::Frequency || zone == PlotZone::Damping;
+    if (!isInCanvas && zone != PlotZone::Outside)
+        editAxis(zone, event->pos());
+    const std::optional<PlotReading> reading = readAt(m_plot, event->pos());
+    if (isInCanvas && !(reading && reading->curve))
+        fitAll();
+}
+
+void EvmPlotView::wheelEvent(QWheelEvent* event)
+{
+    const auto joining = m_editor == nullptr ? m_gesture.turn(*event) : std::nullopt;
+    event->setAccepted(joining.has_value());
+    if (!joining)
+        return;
+    if (joining == UndoHistory::Joining::Begins)
+        Q_EMIT commandBegun();
+    Q_EMIT edited(tr("Zoom"), *joining);
+}
+
+/// Fits all axes to the curves, as for new plots.
+void EvmPlotView::fitAll()
+{
+    finishEditing(true);
+    m_gesture.cancel();
+    Q_EMIT commandBegun();
+    m_plot.setAxes(fitAxes(m_plot.SeriesCollection(), m_plot.axes()));
+    Q_EMIT edited(tr("Fit Axes"), UndoHistory::Joining::No);
 }
 
 void EvmPlotView::keyPressEvent(QKeyEvent* event)
 {
     const bool edits = event->key() == Qt::Key_F2 || event->key() == Qt::Key_Return
         || event->key() == Qt::Key_Enter;
-    if (m_mover.press(*event)) {
+    if (event->key() == Qt::Key_Escape && m_gesture.cancel()) {
+        followMovement();
+    } else if (m_mover.press(*event)) {
         Q_EMIT commandBegun();
         followMovement();
-        Q_EMIT edited(tr("Move Text"), true);
+        Q_EMIT edited(tr("Move Text"), UndoHistory::Joining::Yes);
+    } else if (event->key() == Qt::Key_Home) {
+        fitAll();
     } else if (edits && m_mover.selected()) {
         startEditing(*m_mover.selected());
     } else {
@@ -223,18 +287,27 @@ void EvmPlotView::showBoxMenu(TextBox box, QPoint position)
     m_boxMenu->popup(mapToGlobal(position));
 }
 
-/// Shows pointer and outlines for the current state of the mover.
+/// Shows pointer and outlines for the current state of the movements.
 void EvmPlotView::followMovement()
 {
     const bool wasMoving = std::exchange(m_isMoving, m_mover.isMoving());
     setMouseTracking(m_isMoving);
-    if (m_isMoving)
-        setCursor(Qt::SizeAllCursor);
-    else
-        unsetCursor();
+    updatePointer();
     update();
     if (wasMoving && !m_isMoving)
-        Q_EMIT edited(tr("Move Text"), false);
+        Q_EMIT edited(tr("Move Text"), UndoHistory::Joining::No);
+}
+
+void EvmPlotView::updatePointer()
+{
+    if (m_isMoving)
+        setCursor(Qt::SizeAllCursor);
+    else if (m_gesture.isPanning())
+        setCursor(Qt::ClosedHandCursor);
+    else if (m_gesture.isActive())
+        setCursor(Qt::CrossCursor);
+    else
+        unsetCursor();
 }
 
 void EvmPlotView::copyPicture()
@@ -255,41 +328,91 @@ void EvmPlotView::startEditing(TextBox which)
     m_mover.select(which);
     followMovement();
     const emfRichTextBox& box = m_plot.parts().box(which);
+    auto* const editor = new RichTextEditor(box.content(), box.ForeColor(), this);
+    editor->edit()->setAccessibleName(box.prompt());
     m_editedBox = which;
-    m_editor = new RichTextEditor(box.content(), box.ForeColor(), this);
-    m_editor->edit()->setAccessibleName(box.prompt());
-    QRect area(box.geometry().topLeft(),
-               (box.geometry().size() + QSize(20, 60)).expandedTo(leastEditorSize));
+    const QSize size = (box.geometry().size() + QSize(20, 60)).expandedTo(leastEditorSize);
+    openEditor(*editor, {box.geometry().topLeft(), size}, [this, editor, which] {
+        RichText text = editor->text();
+        if (text == m_plot.parts().box(which).content())
+            return QString();
+        m_plot.texts().setContent(which, std::move(text));
+        return tr("Edit Text");
+    });
+}
+
+void EvmPlotView::editAxis(PlotZone axis, QPoint position)
+{
+    finishEditing(true);
+    Q_EMIT commandBegun();
+    auto* const editor = new AxisEditor(axis, m_plot.axes(), this);
+    openEditor(*editor, {position, editor->sizeHint()}, [this, editor] {
+        m_plot.setAxes(editor->axes());
+        return tr("Set Scale");
+    });
+}
+
+/// Opens an editor within the view. `apply` applies its contents to the plot and returns the name
+/// of the undo step, or an empty text when nothing has changed; it may raise errors.
+void EvmPlotView::openEditor(InPlaceEditor& editor, QRect area, std::function<QString()> apply)
+{
+    m_editor = &editor;
+    m_applyEditor = std::move(apply);
     area.setSize(area.size().boundedTo(size()));
     area.moveRight(std::min(area.right(), width() - 1));
     area.moveBottom(std::min(area.bottom(), height() - 1));
-    m_editor->setGeometry(area);
-    connect(m_editor, &RichTextEditor::left, this, [this] { finishEditing(true); });
-    connect(m_editor, &RichTextEditor::cancelled, this, [this] { finishEditing(false); });
-    m_editor->show();
-    m_editor->setFocus();
+    editor.setGeometry(area);
+    connect(&editor, &InPlaceEditor::left, this, [this] { finishEditing(true); });
+    connect(&editor, &InPlaceEditor::committed, this, &EvmPlotView::commitEditor);
+    connect(&editor, &InPlaceEditor::cancelled, this, [this] {
+        finishEditing(false);
+        setFocus();
+    });
+    editor.show();
+    editor.setFocus();
 }
 
-/// Closes the editor; `keep` applies its text to the box.
+/// Applies the contents of the editor and closes it. It stays open, with a sign at the field, when
+/// they are not accepted.
+void EvmPlotView::commitEditor()
+{
+    try {
+        const QString what = m_applyEditor();
+        finishEditing(false);
+        setFocus();
+        if (!what.isEmpty())
+            Q_EMIT edited(what, UndoHistory::Joining::No);
+    } catch (const RunTimeError&) {
+        QApplication::beep();
+    }
+}
+
+/// Closes the editor; `keep` applies its contents if they are accepted.
 void EvmPlotView::finishEditing(bool keep)
 {
     if (m_editor == nullptr)
         return;
-    RichTextEditor* const editor = m_editor;
-    m_editor = nullptr;
+    InPlaceEditor* const editor = std::exchange(m_editor, nullptr);
+    const std::function<QString()> apply = std::exchange(m_applyEditor, {});
+    m_editedBox.reset();
     editor->hide();
     editor->deleteLater();
     update();
-    RichText text = editor->text();
-    if (!keep || text == m_plot.parts().box(m_editedBox).content())
+    if (!keep)
         return;
-    m_plot.texts().setContent(m_editedBox, std::move(text));
-    Q_EMIT edited(tr("Edit Text"), false);
+    try {
+        const QString what = apply();
+        if (!what.isEmpty())
+            Q_EMIT edited(what, UndoHistory::Joining::No);
+    } catch (const RunTimeError&) {
+        QApplication::beep(); // the sign at the field has shown the error
+    }
 }
 
 /// Drops edits and movements, which must not reach the new contents.
 void EvmPlotView::letGo()
 {
+    m_gesture.cancel();
     finishEditing(false);
     m_mover.select(std::nullopt);
     followMovement();

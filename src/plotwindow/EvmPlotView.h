@@ -1,23 +1,29 @@
 #pragma once
 
 #include "base/user/RunTimeError.h"
+#include "document/UndoHistory.h"
 #include "plotwindow/PlotHighlight.h"
 #include "plotwindow/TextBoxMover.h"
+#include "plotwindow/ZoomGesture.h"
 #include "vgfplot/EvmPlot.h"
 
 #include <QWidget>
 
+#include <functional>
 #include <optional>
 
 class QMenu;
 
 namespace tarsil {
 
-class RichTextEditor;
+class InPlaceEditor;
 
 /// Shows a V-g-f plot and follows its changes. A click selects a text box, dragging or the arrow
 /// keys move it, a double click or F2 edits it; its context menu `mnuErtb` has the same commands.
 /// An empty box shows its prompt, on the screen only.
+///
+/// Elsewhere the mouse zooms and pans (`ZoomGesture`). A double click on an axis edits its bounds
+/// and ticks in place; Home, or a double click between the curves, fits all axes.
 class EvmPlotView : public QWidget
 {
     Q_OBJECT
@@ -40,11 +46,10 @@ Q_SIGNALS:
     /// repaint.
     void failed(const tarsil::RunTimeError& error);
 
-    /// The user has edited or moved a text box. `what` is the name of the undo step; `joins` says
-    /// that it belongs to the last step if that has the same name.
-    void edited(const QString& what, bool joins);
+    /// The user has changed the plot. `what` is the name of the undo step.
+    void edited(const QString& what, tarsil::UndoHistory::Joining joining);
 
-    /// The user copies the picture, or begins to edit or move a text box.
+    /// The user begins to change the plot, or copies the picture.
     void commandBegun();
 
 protected:
@@ -55,6 +60,7 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
@@ -65,8 +71,15 @@ private:
     void paintPrompts(QPainter& painter) const;
     void paintSelection(QPainter& painter) const;
     void showBoxMenu(TextBox box, QPoint position);
+    void paintBand(QPainter& painter) const;
     void startEditing(TextBox box);
+    void editAxis(PlotZone axis, QPoint position);
+    void openEditor(InPlaceEditor& editor, QRect area, std::function<QString()> apply);
+    void commitEditor();
     void finishEditing(bool keep);
+    void fitAll();
+    bool isMoving() const { return m_mover.isMoving() || m_gesture.isActive(); }
+    void updatePointer();
     void letGo();
     void followMovement();
     void updateDescription();
@@ -74,12 +87,14 @@ private:
     EvmPlot& m_plot;
     std::optional<PlotHighlight> m_highlight;
     TextBoxMover m_mover;
+    ZoomGesture m_gesture;
     QMenu* m_boxMenu;
     QAction* m_edit;
     QAction* m_move;
     bool m_isMoving = false; ///< a text box follows the pointer
-    RichTextEditor* m_editor = nullptr;
-    TextBox m_editedBox = TextBox::Header;
+    InPlaceEditor* m_editor = nullptr;
+    std::function<QString()> m_applyEditor; ///< returns the name of the undo step, or an empty text
+    std::optional<TextBox> m_editedBox;
 };
 
 } // namespace tarsil

@@ -9,7 +9,6 @@
 #include <QColorDialog>
 #include <QComboBox>
 #include <QFontComboBox>
-#include <QKeyEvent>
 #include <QTextEdit>
 #include <QToolBar>
 #include <QVBoxLayout>
@@ -27,22 +26,12 @@ QIcon swatch(const QColor& color)
     return pixmap;
 }
 
-/// Whether a widget belongs to another, also across windows: a dialog belongs to its opener.
-bool belongsTo(const QWidget* widget, const QWidget* owner)
-{
-    while (widget != nullptr && widget != owner)
-        widget = widget->parentWidget();
-    return widget == owner;
-}
-
 } // namespace
 
 RichTextEditor::RichTextEditor(const RichText& text, ColorValue automaticColor, QWidget* parent)
-    : QFrame(parent), m_format(text.last), m_edit(new QTextEdit(this)),
+    : InPlaceEditor(parent), m_format(text.last), m_edit(new QTextEdit(this)),
       m_automaticColor(automaticColor)
 {
-    setFrameShape(QFrame::StyledPanel);
-    setAutoFillBackground(true);
     auto* const bar = new QToolBar(this);
     addFontChoosers(*bar);
     addToggles(*bar);
@@ -59,18 +48,16 @@ RichTextEditor::RichTextEditor(const RichText& text, ColorValue automaticColor, 
     m_edit->setAccessibleName(tr("Text"));
     fillDocument(*m_edit->document(), text);
     m_edit->moveCursor(QTextCursor::End); // typing appends to the text
-    m_edit->installEventFilter(this);
+    m_edit->setTabChangesFocus(true);
+    watch(*m_edit);
     setFocusProxy(m_edit);
     connect(m_edit, &QTextEdit::currentCharFormatChanged, this, &RichTextEditor::showFormat);
-    connect(qApp, &QApplication::focusChanged, this,
-            [this](QWidget* /*before*/, QWidget* now) { followFocus(now); });
     showFormat(m_edit->currentCharFormat());
 }
 
-/// Focus still changes while the children are destroyed; the editor must not react any more.
+/// The document still changes while it is destroyed; the editor must not react any more.
 RichTextEditor::~RichTextEditor()
 {
-    qApp->disconnect(this);
     m_edit->disconnect(this);
 }
 
@@ -174,7 +161,7 @@ void RichTextEditor::change(const QTextCharFormat& format)
 {
     m_edit->mergeCurrentCharFormat(format);
     // A typed size is applied when its field loses the focus; the focus must not return then.
-    if (belongsTo(QApplication::focusWidget(), this))
+    if (contains(QApplication::focusWidget()))
         m_edit->setFocus();
     showFormat(m_edit->currentCharFormat());
 }
@@ -191,26 +178,6 @@ void RichTextEditor::showFormat(const QTextCharFormat& format)
     m_underline->setChecked(look.underline);
     m_strikeOut->setChecked(look.strikeOut);
     m_color->setIcon(swatch(qtColor(look.color.value_or(m_automaticColor))));
-}
-
-/// Does nothing while another program has the focus: editing continues afterwards.
-void RichTextEditor::followFocus(QWidget* now)
-{
-    if (now != nullptr && isVisible() && !belongsTo(now, this))
-        Q_EMIT left();
-}
-
-bool RichTextEditor::eventFilter(QObject* watched, QEvent* event)
-{
-    const bool isKey =
-        event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
-    if (watched == m_edit && isKey && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
-        event->accept();
-        if (event->type() == QEvent::KeyPress)
-            Q_EMIT cancelled();
-        return true;
-    }
-    return QFrame::eventFilter(watched, event);
 }
 
 } // namespace tarsil

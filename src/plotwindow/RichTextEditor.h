@@ -1,8 +1,7 @@
 #pragma once
 
+#include "plotwindow/InPlaceEditor.h"
 #include "rtf/RichText.h"
-
-#include <QFrame>
 
 class QAction;
 class QComboBox;
@@ -15,8 +14,8 @@ namespace tarsil {
 
 /// Edits a rich text: a text edit below a toolbar for font, size, bold, italic, underline,
 /// strike-through and colour, with the usual shortcuts. Initially the cursor is at the end of the
-/// text and nothing is selected.
-class RichTextEditor : public QFrame
+/// text and nothing is selected. Tab leaves the text.
+class RichTextEditor : public InPlaceEditor
 {
     Q_OBJECT
 
@@ -28,16 +27,6 @@ public:
     RichText text() const;
     QTextEdit* edit() const { return m_edit; }
 
-Q_SIGNALS:
-    /// The focus has moved out of the editor.
-    void left();
-
-    /// Escape was pressed: the text is not to be changed.
-    void cancelled();
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
     void addFontChoosers(QToolBar& bar);
     void addToggles(QToolBar& bar);
@@ -47,7 +36,6 @@ private:
     void chooseColor();
     void change(const QTextCharFormat& format);
     void showFormat(const QTextCharFormat& format);
-    void followFocus(QWidget* now);
 
     TextFormat m_format; ///< default for pasted text
     QTextEdit* m_edit;

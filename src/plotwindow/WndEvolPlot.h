@@ -2,6 +2,7 @@
 
 #include "base/user/RunTimeError.h"
 #include "base/user/UserInterface.h"
+#include "document/UndoHistory.h"
 #include "plotwindow/PlotHighlight.h"
 #include "vgfplot/EvmPlot.h"
 
@@ -66,8 +67,8 @@ public:
     void fitAll();
 
 Q_SIGNALS:
-    /// The user has edited or moved a text box; see `EvmPlotView::edited`.
-    void edited(const QString& what, bool joins);
+    /// The user has changed a plot; see `EvmPlotView::edited`.
+    void edited(const QString& what, tarsil::UndoHistory::Joining joining);
 
     /// The user asks for the menu of the active plot, by the right button or the keyboard.
     void plotMenuRequested(QPoint globalPosition);

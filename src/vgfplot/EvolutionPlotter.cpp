@@ -99,16 +99,6 @@ void addCurves(EvmPlot& plot, const EvolutionCurves& curves, const CurveMarkers&
     plot.rows().add(std::move(added));
 }
 
-/// Keeps the titles of the axes.
-void fitScales(EvmPlot& plot)
-{
-    const PlotAxes fitted = fitAxes(plot.SeriesCollection());
-    PlotAxes axes = plot.axes();
-    axes.setBounds(fitted.bounds());
-    axes.setTicks(fitted.ticks());
-    plot.setAxes(axes);
-}
-
 void fillTexts(EvmPlot& plot, const Evolutions& evolutions)
 {
     QStringList names;
@@ -146,7 +136,7 @@ std::size_t plotCurves(EvmPlot& plot, const std::vector<EvolutionCurves>& files,
     if (drawn.empty())
         return 0;
     if (isNew)
-        fitScales(plot);
+        plot.setAxes(fitAxes(plot.SeriesCollection(), plot.axes()));
     fillTexts(plot, drawn);
     return drawn.size();
 }

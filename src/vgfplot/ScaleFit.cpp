@@ -16,21 +16,7 @@ constexpr double frequencyHeadroom = 1.02; ///< keeps the highest curve below th
 
 bool isWhole(double number)
 {
-    return std::floor(number) == number;
-}
-
-/// The smallest round step that is at least `least`.
-double roundStep(double least, Steps steps)
-{
-    const bool onlyWhole = steps == Steps::Whole;
-    const double atLeast = onlyWhole ? std::max(least, 1.0) : least;
-    const double power = std::pow(10.0, std::floor(std::log10(atLeast)));
-    for (const double digit : {1.0, 2.0, 2.5, 5.0, 10.0}) {
-        const double step = digit * power;
-        if (step >= atLeast * (1 - 1e-9) && (!onlyWhole || isWhole(step)))
-            return step;
-    }
-    return 10 * power;
+    return std::fabs(number - std::nearbyint(number)) < 1e-6;
 }
 
 /// The largest speed, frequency and damping (of either sign) of all points.
@@ -60,6 +46,34 @@ Extent extentOf(const SeriesList& series)
 
 } // namespace
 
+double smallestStep(Steps steps)
+{
+    switch (steps) {
+    case Steps::Whole:
+        return 1;
+    case Steps::Hundredths:
+        return 0.01;
+    case Steps::Thousandths:
+        return 0.001;
+    case Steps::Any:
+        break;
+    }
+    return 0;
+}
+
+double roundStep(double least, Steps steps)
+{
+    const double smallest = smallestStep(steps);
+    const double atLeast = std::max(least, smallest);
+    const double power = std::pow(10.0, std::floor(std::log10(atLeast)));
+    for (const double digit : {1.0, 2.0, 2.5, 5.0, 10.0}) {
+        const double step = digit * power;
+        if (step >= atLeast * (1 - 1e-9) && (smallest == 0 || isWhole(step / smallest)))
+            return step;
+    }
+    return 10 * power;
+}
+
 RoundRange roundRange(double low, double high, Steps steps)
 {
     if (!(high > low))
@@ -70,9 +84,16 @@ RoundRange roundRange(double low, double high, Steps steps)
     return {first * step, last * step, static_cast<int>(last - first)};
 }
 
-PlotAxes fitAxes(const SeriesList& series)
+RoundRange nearestRoundRange(double low, double high, Steps steps)
 {
-    PlotAxes axes;
+    const double step = roundStep((high - low) / mostSteps, steps);
+    const double first = std::nearbyint(low / step);
+    const double last = std::max(std::nearbyint(high / step), first + 1);
+    return {first * step, last * step, static_cast<int>(last - first)};
+}
+
+PlotAxes fitAxes(const SeriesList& series, PlotAxes axes)
+{
     const Extent extent = extentOf(series);
     if (!extent.hasPoints)
         return axes;
@@ -80,9 +101,8 @@ PlotAxes fitAxes(const SeriesList& series)
     const RoundRange frequency =
         roundRange(0, std::min(frequencyHeadroom * extent.frequency, largestEnd));
     const RoundRange damping = roundRange(0, std::clamp(extent.damping, leastDamping, mostDamping));
-    axes.speed.max = static_cast<float>(speed.high);
-    axes.frequency.max = static_cast<float>(frequency.high);
-    axes.damping.max = -static_cast<float>(damping.high);
+    axes.setBounds({0, static_cast<float>(speed.high), 0, static_cast<float>(frequency.high), 0,
+                    -static_cast<float>(damping.high)});
     axes.setTicks({static_cast<std::int16_t>(speed.steps), static_cast<std::int16_t>(damping.steps),
                    static_cast<std::int16_t>(frequency.steps)});
     return axes;

@@ -309,6 +309,20 @@ TEST_F(UndoHistoryTest, leavesNothingOfAChangeThatFails)
     EXPECT_EQ(plot.rows().at(0).mode, 2);
 }
 
+TEST_F(UndoHistoryTest, beginsAStepThatLaterChangesJoin)
+{
+    const auto zoom = [&](float speed, UndoHistory::Joining joining) {
+        change(
+            "Zoom", [&, speed] { plot.SetScale(0, speed, 0, 50, 0, -1); }, joining);
+    };
+    zoom(100, UndoHistory::Joining::Yes);
+    zoom(200, UndoHistory::Joining::Begins);
+    zoom(300, UndoHistory::Joining::Yes);
+    EXPECT_EQ(history.steps().count(), 2);
+    history.undo();
+    EXPECT_EQ(plot.axes().speed.max, 100);
+}
+
 TEST_F(UndoHistoryTest, joinsChangesThatBelongTogether)
 {
     const auto type = [&](int size) {

@@ -1,4 +1,4 @@
-#include "plotwindow/EvmPlotView.h"
+#include "plotwindow/EvmPlotViewFixture.h"
 
 #include "model/EVM.h"
 #include "vgfplot/PictureWriter.h"
@@ -17,6 +17,7 @@
 #include <gtest/gtest.h>
 
 using namespace tarsil;
+using test::EvmPlotViewTest;
 
 namespace {
 
@@ -27,97 +28,6 @@ TextFormat redAndBold()
     format.color = rgb(255, 0, 0);
     return format;
 }
-
-class EvmPlotViewTest : public ::testing::Test
-{
-protected:
-    EvmPlotViewTest() : view(plot)
-    {
-        view.resize(800, 600);
-        view.show();
-        view.activateWindow();
-        view.setFocus();
-        QApplication::processEvents();
-    }
-
-    void mouse(QEvent::Type type, QPoint position, Qt::MouseButton button = Qt::LeftButton)
-    {
-        const Qt::MouseButtons held = type == QEvent::MouseButtonRelease ? Qt::NoButton : button;
-        const Qt::MouseButton changed = type == QEvent::MouseMove ? Qt::NoButton : button;
-        QMouseEvent event(type, position, view.mapToGlobal(position), changed, held,
-                          Qt::NoModifier);
-        QApplication::sendEvent(&view, &event);
-    }
-
-    void drag(QPoint from, QPoint to)
-    {
-        mouse(QEvent::MouseButtonPress, from);
-        mouse(QEvent::MouseMove, to);
-        mouse(QEvent::MouseButtonRelease, to);
-    }
-
-    void doubleClick(QPoint position)
-    {
-        mouse(QEvent::MouseButtonPress, position);
-        mouse(QEvent::MouseButtonRelease, position);
-        mouse(QEvent::MouseButtonDblClick, position);
-    }
-
-    /// The open editor; null when there is none.
-    QTextEdit* editor()
-    {
-        for (QTextEdit* child : view.findChildren<QTextEdit*>()) {
-            if (child->isVisible())
-                return child;
-        }
-        return nullptr;
-    }
-
-    void press(QWidget* widget, Qt::Key key)
-    {
-        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
-        QApplication::sendEvent(widget, &event);
-    }
-
-    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-    {
-        QKeyEvent event(QEvent::KeyPress, key, modifiers);
-        QApplication::sendEvent(&view, &event);
-    }
-
-    QMenu* boxMenu() { return view.findChild<QMenu*>(QStringLiteral("mnuErtb")); }
-
-    /// Opens the menu at a position with the right button. Returns whether the view accepted it.
-    bool openMenu(QPoint position)
-    {
-        QContextMenuEvent event(QContextMenuEvent::Mouse, position, view.mapToGlobal(position));
-        QApplication::sendEvent(&view, &event);
-        return event.isAccepted();
-    }
-
-    void choose(const char* action)
-    {
-        boxMenu()->hide();
-        boxMenu()->findChild<QAction*>(QString::fromLatin1(action))->trigger();
-    }
-
-    /// Whether any pixel of a rectangle is not white.
-    static bool isInked(const QImage& image, const QRect& rectangle)
-    {
-        for (int row = rectangle.top(); row <= rectangle.bottom(); ++row) {
-            for (int column = rectangle.left(); column <= rectangle.right(); ++column) {
-                if (image.pixelColor(column, row) != Qt::white)
-                    return true;
-            }
-        }
-        return false;
-    }
-
-    QPoint legendCentre() { return plot.Legend().geometry().center(); }
-
-    EvmPlot plot;
-    EvmPlotView view;
-};
 
 } // namespace
 
@@ -302,6 +212,30 @@ TEST_F(EvmPlotViewTest, leavesTheTextAsItWasOnEscape)
     press(editor(), Qt::Key_Escape);
     EXPECT_EQ(plot.Legend().Text(), QStringLiteral("as it was"));
     EXPECT_EQ(editor(), nullptr);
+    EXPECT_TRUE(view.hasFocus());
+}
+
+TEST_F(EvmPlotViewTest, acceptsTheEditedTextOnControlReturn)
+{
+    doubleClick(legendCentre());
+    ASSERT_NE(editor(), nullptr);
+    editor()->setPlainText(QStringLiteral("changed"));
+    QKeyEvent commit(QEvent::KeyPress, Qt::Key_Return, Qt::ControlModifier);
+    QApplication::sendEvent(editor(), &commit);
+    EXPECT_EQ(plot.Legend().Text(), QStringLiteral("changed"));
+    EXPECT_EQ(editor(), nullptr);
+    EXPECT_TRUE(view.hasFocus());
+    press(Qt::Key_F2);
+    EXPECT_NE(editor(), nullptr) << "the box is still selected";
+}
+
+TEST_F(EvmPlotViewTest, leavesTheTextByTheTabKey)
+{
+    doubleClick(legendCentre());
+    ASSERT_NE(editor(), nullptr);
+    press(editor(), Qt::Key_Tab);
+    EXPECT_EQ(editor()->toPlainText(), QString());
+    EXPECT_FALSE(editor()->hasFocus());
 }
 
 TEST_F(EvmPlotViewTest, editsOneBoxAfterTheOther)
