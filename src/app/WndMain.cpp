@@ -22,6 +22,7 @@
 #include "stability/WndStability.h"
 #include "vgfplot/EvmPlot.h"
 #include "vgfplot/EvolutionPlotter.h"
+#include "vgfplot/PlotZoom.h"
 
 #include <QCloseEvent>
 #include <QDragEnterEvent>
@@ -162,13 +163,17 @@ void wndMain::connectExplorer()
             [this](QPoint position) { m_explorerMenu->popup(position); });
 }
 
-/// Keeps the note about misplaced reference speeds up to date. A plot signals a change before it is
-/// complete, so the note is updated when control returns to the event loop.
+/// Keeps the notes about the speed axis and misplaced reference speeds up to date. A plot signals a
+/// change before it is complete, so the note is updated when control returns to the event loop.
 void wndMain::followMarks(const EvmPlot* before, const EvmPlot* now)
 {
     const auto showNote = [this] {
         const EvmPlot* const plot = m_document.plots().active();
-        m_statusPanels->setPlotNote(plot == nullptr ? QString() : plot->references().shiftNote());
+        QStringList notes;
+        if (plot != nullptr)
+            notes = {axisNote(*plot), plot->references().shiftNote()};
+        notes.removeAll(QString());
+        m_statusPanels->setPlotNote(notes.join(QStringLiteral(". ")));
     };
     if (before != nullptr)
         disconnect(before, &EvmPlot::changed, this, nullptr);

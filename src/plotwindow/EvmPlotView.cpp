@@ -364,10 +364,7 @@ void EvmPlotView::openEditor(InPlaceEditor& editor, QRect area, std::function<QS
     editor.setGeometry(area);
     connect(&editor, &InPlaceEditor::left, this, [this] { finishEditing(true); });
     connect(&editor, &InPlaceEditor::committed, this, &EvmPlotView::commitEditor);
-    connect(&editor, &InPlaceEditor::cancelled, this, [this] {
-        finishEditing(false);
-        setFocus();
-    });
+    connect(&editor, &InPlaceEditor::cancelled, this, [this] { finishByKey(); });
     editor.show();
     editor.setFocus();
 }
@@ -378,13 +375,22 @@ void EvmPlotView::commitEditor()
 {
     try {
         const QString what = m_applyEditor();
-        finishEditing(false);
-        setFocus();
+        finishByKey();
         if (!what.isEmpty())
             Q_EMIT edited(what, UndoHistory::Joining::No);
     } catch (const RunTimeError&) {
         QApplication::beep();
     }
+}
+
+/// Closes the editor without applying its contents. The view gets the focus, with the same box.
+void EvmPlotView::finishByKey()
+{
+    const std::optional<TextBox> box = m_editedBox;
+    finishEditing(false);
+    setFocus();
+    m_mover.select(box);
+    followMovement();
 }
 
 /// Closes the editor; `keep` applies its contents if they are accepted.

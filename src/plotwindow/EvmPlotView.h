@@ -76,6 +76,7 @@ private:
     void editAxis(PlotZone axis, QPoint position);
     void openEditor(InPlaceEditor& editor, QRect area, std::function<QString()> apply);
     void commitEditor();
+    void finishByKey();
     void finishEditing(bool keep);
     void fitAll();
     bool isMoving() const { return m_mover.isMoving() || m_gesture.isActive(); }

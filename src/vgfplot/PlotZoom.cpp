@@ -60,6 +60,15 @@ PlotZone zoneAt(const EvmPlot& plot, QPoint pixel)
     return lower.contains(pixel) ? PlotZone::Damping : PlotZone::Outside;
 }
 
+QString axisNote(const EvmPlot& plot)
+{
+    const double damping = plot.parts().gAxis.Min();
+    if (damping == 0)
+        return {};
+    return QStringLiteral("The speed axis is at the damping ")
+        + QString::fromStdString(shortestText(damping));
+}
+
 PlotZoom::PlotZoom(const EvmPlot& plot)
     : m_plot(plot), m_axes(plot.axes()), m_upper(plot.parts().vfPlot.geometry()),
       m_lower(lowerHalf(plot)), m_start {}, m_spans {}

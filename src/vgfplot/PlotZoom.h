@@ -5,6 +5,7 @@
 
 #include <QPoint>
 #include <QRect>
+#include <QString>
 
 #include <array>
 #include <cstddef>
@@ -19,6 +20,10 @@ enum class PlotZone { Outside, Frequency, Damping, SpeedAxis, FrequencyAxis, Dam
 
 /// The zone of a pixel of the plot.
 PlotZone zoneAt(const EvmPlot& plot, QPoint pixel);
+
+/// A note on a damping axis that does not begin at 0: a curve that crosses the speed axis is not at
+/// a flutter speed there. Empty when it begins at 0.
+QString axisNote(const EvmPlot& plot);
 
 /// Which of the axes of a zone are changed. On an axis both choices mean that axis.
 enum class ZoomChoice { SpeedAndValue, Speed, Value };

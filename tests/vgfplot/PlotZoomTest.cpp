@@ -285,3 +285,10 @@ TEST_F(PlotZoomTest, keepsDampingsWhenThePlotIsDraggedAlongTheSpeeds)
     expectAxis(axes.speed, 100, 700, 7);
     EXPECT_EQ(axes.damping, before.damping);
 }
+
+TEST_F(PlotZoomTest, notesASpeedAxisThatIsNotAtTheDampingZero)
+{
+    EXPECT_EQ(axisNote(plot), QString());
+    plot.SetScale(0, 600, 0, 63, -0.35F, -0.5F);
+    EXPECT_EQ(axisNote(plot), QStringLiteral("The speed axis is at the damping -0.35"));
+}
