@@ -2,6 +2,7 @@
 
 #include "RatioTable.h"
 #include "base/user/UserInterface.h"
+#include "datacontrol/SeriesGridModel.h"
 #include "datacontrol/SeriesGridView.h"
 #include "datacontrol/WndData.h"
 #include "document/Document.h"

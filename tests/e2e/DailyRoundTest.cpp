@@ -18,9 +18,7 @@ namespace {
 using ::testing::HasSubstr;
 
 constexpr QRect wholeScreen(0, 0, 1000, 800);
-constexpr QRect optionsDialog(230, 272, 520, 177); // at the centre of the screen
 constexpr QRgb green = qRgb(0, 128, 0); // of the third curve
-constexpr QRgb cyan = qRgb(0, 191, 191); // of the fifth
 
 void keepForTheGuide(const char* name, const QImage& picture)
 {
@@ -42,59 +40,51 @@ std::string inMetafile(const char* text)
 class DailyRound : public ::testing::Test
 {
 protected:
-    DailyRound() : program(display, {}), person(display) { }
+    DailyRound() : program(display, {}), person(display, program) { }
 
     void readTheAircraftFile()
     {
-        person.inDialog("alt+t Up Return", "^Options$", [this] {
-            person.type(
-                QStringLiteral("/home/me/wing/goland.inp")); // a path for the picture in the guide
-            person.press("Tab Tab");
-            person.type(QStringLiteral("0|450|0|-0.25|0|20"));
-            person.press("Tab");
-            person.type(QStringLiteral("9|5|4"));
-            EXPECT_TRUE(person.standsStill(optionsDialog));
-            keepForTheGuide("options.png", person.look(optionsDialog));
-            person.press("shift+Tab shift+Tab shift+Tab ctrl+a");
-            person.type(QString::fromStdString(sample("goland.inp")));
-            person.press("Return");
+        const auto open = [this] { person.choose("mnuTools", "mnuOptions"); };
+        person.inDialog(open, "^Options$", [this] {
+            person.fill("txtAcInfo",
+                        QStringLiteral("/home/me/wing/goland.inp")); // for the guide's picture
+            person.fill("txtVgfScale", QStringLiteral("0|450|0|-0.25|0|20"));
+            person.fill("txtVgfThicks", QStringLiteral("9|5|4"));
+            const QRect dialog = person.area("dlgOptions");
+            EXPECT_TRUE(person.standsStill(dialog));
+            keepForTheGuide("options.png", person.look(dialog));
+            person.fill("txtAcInfo", QString::fromStdString(sample("goland.inp")));
+            person.clickOn("btnOK");
         });
     }
 
     /// Draws three modes of the first file, which is the reference, and one of the second.
     void chooseModes()
     {
+        const QString clean = QStringLiteral("goland_clean_m040.ev2");
+        const QString stores = QStringLiteral("goland_tipstore_m040.ev2");
         person.addEvolution("goland_clean_m040.ev2");
         person.addEvolution("goland_tipstore_m040.ev2");
-        person.goToExplorer();
-        person.press("Home Down Down Down");
-        person.press("Menu Down Return"); // the reference
-        person.press("Down space");
-        person.pushButton(selectButton, plotArea);
-        person.goToExplorer();
-        person.press("Home Down Down Down");
-        person.selectModes();
+        person.chooseFor(clean, "popSetRefEvol");
+        person.tick(stores);
+        person.drawTicked();
+        person.selectModes(clean);
         EXPECT_TRUE(person.waitForColor(green));
     }
 
-    /// From the grid on, Tab visits the buttons and inputs in their order.
     void headAndMark()
     {
-        person.goToDataControl();
-        person.press("Tab", 11);
-        person.type(QStringLiteral("As built"));
-        person.press("shift+Tab space"); // Auto Header
-        person.press("shift+Tab space"); // Auto Ref. Speed
-        person.press("Tab Tab Tab Down"); // the first mechanism
+        person.fill("txtTitle", QStringLiteral("As built"));
+        person.clickOn("btnMakHead");
+        person.clickOn("btnAutoRef");
+        person.chooseIn("cmbFlutMech", QStringLiteral("BEND-TORS"));
     }
 
     void writeTheLegend()
     {
-        person.goToDataControl();
-        person.press("shift+Tab", 4);
-        person.type(QStringLiteral("0"));
-        person.press("Tab space"); // Auto Fill Legend
-        person.press("Tab Tab space"); // Plot Legend
+        person.fill("txtLegIdx", QStringLiteral("0"));
+        person.clickOn("btnFilltLeg");
+        person.clickOn("btnPlotLeg");
     }
 
     const VirtualDisplay display;
@@ -107,29 +97,27 @@ protected:
 
 TEST_F(DailyRound, goesFromTheFilesToThePicture)
 {
-    ASSERT_FALSE(display.name().isEmpty()) << "Xvfb did not start";
     readTheAircraftFile();
     chooseModes();
     headAndMark();
     writeTheLegend();
 
     // Modes of the rows are raised and lowered by the keys plus and minus in the column "Mode".
-    person.goToDataControl();
-    const QImage before = person.look(plotArea);
-    person.press("ctrl+Home Right Right Right plus");
-    EXPECT_TRUE(person.seesChange(plotArea, before));
+    constexpr int modeColumn = 3;
+    const QImage before = person.look(person.plot());
+    person.clickAt(person.cell(0, modeColumn).center());
+    person.press("plus");
+    EXPECT_TRUE(person.seesChange(person.plot(), before));
     person.press("minus");
-    person.press("shift+Tab space"); // Plot Legend again
+    person.clickOn("btnPlotLeg");
     person.goToExplorer();
     person.plotWith(green);
     keepForTheGuide("window.png", person.look(wholeScreen));
-    keepForTheGuide("data.png", person.look(dataArea));
-    keepForTheGuide("plot.png", person.look(plotArea));
+    keepForTheGuide("data.png", person.look(person.area("wndData")));
+    keepForTheGuide("plot.png", person.look(person.plot()));
 
     const QString picture = QString::fromStdString(folder.file("wing.emf"));
-    person.goToDataControl();
-    person.press("Tab", 7);
-    person.nameFile("Tab space", "^Save", picture);
+    person.nameFile([this] { person.clickOn("SavePic"); }, "^Save", picture);
     ASSERT_TRUE(waitUntil([&picture] { return QFile::exists(picture); }));
     const std::string bytes = fileBytes(picture.toStdString());
     for (const char* text :
@@ -138,9 +126,7 @@ TEST_F(DailyRound, goesFromTheFilesToThePicture)
         EXPECT_NE(bytes.find(inMetafile(text)), std::string::npos) << text;
 
     person.press("ctrl+q");
-    EXPECT_TRUE(waitUntil([this] { return person.isAsked(); })) << "the workspace was not saved";
-    Hands(display.name()).focusNew(QStringLiteral("^Tarsil$"));
-    person.press("alt+d");
+    person.answer("Discard"); // the workspace was not saved
     EXPECT_EQ(program.exitStatus(), 0);
     EXPECT_THAT(fileBytes(program.home().path() / ".config" / "tarsil" / "tarsil.ini"),
                 HasSubstr("goland.inp"));

@@ -26,7 +26,9 @@ QString Hands::run(const QStringList& arguments, QString* failure) const
     environment.insert(QStringLiteral("DISPLAY"), m_display);
     process.setProcessEnvironment(environment);
     process.start(QStringLiteral("xdotool"), arguments);
-    process.waitForFinished();
+    constexpr int patience = 10000; // milliseconds; reached only if a window does not answer
+    if (!process.waitForFinished(patience))
+        process.kill();
     if (failure != nullptr)
         *failure = QString::fromLatin1(process.readAllStandardError());
     return QString::fromLatin1(process.readAllStandardOutput());
@@ -96,7 +98,8 @@ void Hands::type(const QString& text) const
 void Hands::click(QPoint position, int button) const
 {
     run({QStringLiteral("mousemove"), QString::number(position.x()), QString::number(position.y()),
-         QStringLiteral("click"), QString::number(button)});
+         QStringLiteral("mousedown"), QString::number(button), QStringLiteral("mouseup"),
+         QString::number(button)});
 }
 
 /// Sends both clicks at once, so that they are a double click even on a busy machine.

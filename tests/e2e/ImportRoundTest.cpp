@@ -18,7 +18,6 @@ namespace {
 using ::testing::HasSubstr;
 
 constexpr const char* importDialog = "^Import Solver Results$";
-constexpr QRect dialogArea(10, 30, 960, 660); // position on the screen
 constexpr QRgb blue = qRgb(0, 0, 255); // of the second curve
 
 void keepForTheGuide(const char* name, const QImage& picture)
@@ -42,7 +41,7 @@ QStringList workbooksIn(const QString& folder)
 class ImportRound : public ::testing::Test
 {
 protected:
-    ImportRound() : program(display, {}), person(display), hands(display.name()) { }
+    ImportRound() : program(display, {}), person(display, program) { }
 
     /// Copies the solver output to its own folder.
     void runTheSolver()
@@ -51,42 +50,34 @@ protected:
     }
     QString print() const { return QString::fromStdString(folder.file("goland_clean.f06")); }
 
-    /// "ft, slug" is the third preset.
     void importInFeet()
     {
-        person.nameFile("alt+v Left i", "^Open$", print());
-        ASSERT_TRUE(hands.focusNew(QString::fromLatin1(importDialog)));
-        EXPECT_TRUE(person.standsStill(dialogArea));
-        keepForTheGuide("import-units.png", person.look(dialogArea));
-        person.press("alt+p Down Down Down");
-        person.press("alt+a");
-        person.type(QStringLiteral("GOLAND WING"));
-        person.press("alt+m");
-        person.type(QStringLiteral("CLEAN"));
-        EXPECT_TRUE(person.standsStill(dialogArea));
-        keepForTheGuide("import.png", person.look(dialogArea));
-        person.press("alt+i");
-        ASSERT_TRUE(
-            waitUntil([this] { return !hands.isShown(QString::fromLatin1(importDialog)); }));
-        ASSERT_TRUE(hands.focus(QStringLiteral("^Tarsil 4\\.0$")));
+        person.nameFile([this] { person.choose("FileMenu", "ImportMenu"); }, "^Open$", print());
+        person.inDialog([] {}, importDialog,
+                        [this] {
+                            const QRect dialog = person.area("dlgImport");
+                            EXPECT_TRUE(person.standsStill(dialog));
+                            keepForTheGuide("import-units.png", person.look(dialog));
+                            person.chooseIn("cboPreset", QStringLiteral("ft, slug"));
+                            person.fill("txtAirplane", QStringLiteral("GOLAND WING"));
+                            person.fill("txtMass", QStringLiteral("CLEAN"));
+                            EXPECT_TRUE(person.standsStill(dialog));
+                            keepForTheGuide("import.png", person.look(dialog));
+                            person.clickOn("btnImport");
+                        });
     }
 
     void calculateFlutterSpeeds()
     {
-        person.press("alt+t Down Down Down Down Return");
-        for (const char* answer : {"0", "450"}) {
-            ASSERT_TRUE(hands.focusNew(QStringLiteral("^Tarsil$"))) << answer;
-            hands.type(QString::fromLatin1(answer));
-            person.press("Return");
-        }
-        ASSERT_TRUE(hands.focusNew(QStringLiteral("^Tarsil$"))) << "where the report is";
-        person.press("Return");
+        person.choose("mnuTools", "mnuFlutCalc");
+        for (const char* answer : {"0", "450"})
+            person.answerWith(QString::fromLatin1(answer));
+        person.answer("OK"); // says where the report is
     }
 
     const VirtualDisplay display;
     Program program;
     Person person;
-    Hands hands;
     const TemporaryFolder folder;
 };
 
@@ -94,23 +85,18 @@ protected:
 
 TEST_F(ImportRound, goesFromTheSolversPrintToTheReport)
 {
-    ASSERT_FALSE(display.name().isEmpty()) << "Xvfb did not start";
     runTheSolver();
-    const QImage before = person.look(treeArea);
     importInFeet();
-    EXPECT_TRUE(person.seesChange(treeArea, before));
+    const QString first = QStringLiteral("goland_clean_s1_M0.40.ev2");
+    person.tick(first);
     for (const char* name :
          {"goland_clean_s1_M0.40.ev2", "goland_clean_s2_M0.50.ev2", "goland_clean_s3_M0.60.ev2"})
         EXPECT_THAT(fileBytes(folder.file(name)), HasSubstr("Speed_unit=ft/s\n")) << name;
     EXPECT_THAT(fileBytes(program.home().path() / ".config" / "tarsil" / "tarsil.ini"),
                 HasSubstr("Units1=ft/s|1|ratio|"));
 
-    person.goToExplorer();
-    person.press("Home Down Down Down space");
-    person.pushButton(selectButton, plotArea);
-    person.goToExplorer();
-    person.press("Home Down Down Down");
-    person.selectModes();
+    person.drawTicked();
+    person.selectModes(first);
     EXPECT_TRUE(person.waitForColor(blue));
 
     calculateFlutterSpeeds();

@@ -1,7 +1,5 @@
 #include "Person.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <vector>
 
@@ -9,10 +7,18 @@ namespace tarsil::test {
 
 namespace {
 
-const QString mainWindow = QStringLiteral("^Tarsil 4\\.0$");
+const QString mainWindow = QStringLiteral("Tarsil 4\\.0$");
+constexpr const char* tree = "tvwEvolExplorer";
+constexpr const char* grid = "flxSerieViewer";
 constexpr int enoughLooks = 5; // consecutive equal screenshots
-constexpr QPoint onCanvas(700, 480);
-constexpr QPoint aside(400, 787); // the status bar, which no picture shows
+constexpr int wheelDown = 5; // button numbers
+constexpr int wheelUp = 4;
+constexpr int rightButton = 3;
+
+QString textOf(const char* text)
+{
+    return QString::fromUtf8(text);
+}
 
 /// The number of pixels of a colour in a rectangle.
 int count(const QImage& screen, const QRect& rectangle, QRgb color)
@@ -25,19 +31,18 @@ int count(const QImage& screen, const QRect& rectangle, QRgb color)
     return pixels;
 }
 
-/// The middle of the first line of text on the plot, which is the header. The title bar above is
-/// not confused with it: the active window's has no white row.
-QPoint headerPosition(const QImage& screen)
+/// The middle of the first line of text on the plot, which is the header.
+QPoint headerPosition(const QImage& screen, const QRect& plot)
 {
-    constexpr int left = 600;
     constexpr int width = 80;
-    const auto isWhite = [&screen](int row) {
+    const int left = plot.center().x() - width;
+    const auto isWhite = [&](int row) {
         return count(screen, {left, row, width, 1}, qRgb(255, 255, 255)) == width;
     };
-    int row = plotArea.top();
-    while (row < plotArea.bottom() && !isWhite(row))
+    int row = plot.top();
+    while (row < plot.bottom() && !isWhite(row))
         ++row;
-    while (row < plotArea.bottom() && isWhite(row))
+    while (row < plot.bottom() && isWhite(row))
         ++row;
     constexpr int halfLine = 6;
     return {left + width / 2, row + halfLine};
@@ -45,10 +50,58 @@ QPoint headerPosition(const QImage& screen)
 
 } // namespace
 
-Person::Person(const VirtualDisplay& display) : m_display(display), m_hands(display.name())
+Person::Person(const VirtualDisplay& display, const Program& program)
+    : m_display(display), m_program(program), m_hands(display.name())
 {
-    m_hands.point(aside);
-    EXPECT_TRUE(m_hands.focusNew(mainWindow));
+    if (display.name().isEmpty())
+        throw StepFailed(QStringLiteral("Xvfb did not start"));
+    if (!m_hands.focusNew(mainWindow))
+        throw StepFailed(QStringLiteral("the main window does not appear"));
+    leave();
+}
+
+/// Waits until something is on the screen.
+QRect Person::find(const QStringList& request) const
+{
+    QRect found;
+    waitUntil([&] {
+        found = m_program.find(request);
+        return !found.isEmpty();
+    });
+    if (found.isEmpty())
+        throw StepFailed(QStringLiteral("not on the screen: ") + request.join(u' '));
+    return found;
+}
+
+/// Turns the wheel over a view until an entry is visible.
+QRect Person::findByScrolling(const char* view, const QStringList& request) const
+{
+    constexpr int turns = 20;
+    QRect found = m_program.find(request);
+    for (const int button : {wheelDown, wheelUp}) {
+        for (int turn = 0; turn < turns && found.isEmpty(); ++turn) {
+            m_hands.click(area(view).center(), button);
+            found = m_program.find(request);
+        }
+    }
+    return find(request);
+}
+
+QRect Person::area(const char* widget) const
+{
+    return find({QStringLiteral("widget"), textOf(widget)});
+}
+
+QRect Person::cell(int row, int column) const
+{
+    return find(
+        {QStringLiteral("cell"), textOf(grid), QString::number(row), QString::number(column)});
+}
+
+/// Moves the pointer to the status bar, which no picture shows.
+void Person::leave() const
+{
+    m_hands.point(area("stBar").center());
 }
 
 void Person::press(const char* keys) const
@@ -56,117 +109,213 @@ void Person::press(const char* keys) const
     m_hands.press(QString::fromLatin1(keys).split(u' '));
 }
 
-void Person::press(const char* keys, int times) const
+void Person::clickAt(QPoint position, int button) const
 {
-    for (int i = 0; i < times; ++i)
-        press(keys);
+    m_hands.click(position, button);
 }
 
-void Person::inDialog(const char* keys, const char* title, const std::function<void()>& action)
+void Person::clickOn(const char* widget) const
 {
-    press(keys);
-    ASSERT_TRUE(m_hands.focusNew(QString::fromLatin1(title))) << title;
+    clickAt(area(widget).center());
+}
+
+void Person::fill(const char* field, const QString& text) const
+{
+    clickOn(field);
+    press("ctrl+a");
+    type(text);
+}
+
+/// The keys search the open list.
+void Person::chooseIn(const char* list, const QString& entry) const
+{
+    clickOn(list);
+    type(entry);
+    press("Return");
+}
+
+void Person::select(const char* view, const QString& entry) const
+{
+    clickAt(findByScrolling(view, {QStringLiteral("item"), textOf(view), entry}).center());
+}
+
+void Person::tick(const QString& entry) const
+{
+    select(tree, entry);
+    press("space");
+}
+
+void Person::choose(const char* menu, const char* command) const
+{
+    clickAt(find({QStringLiteral("action"), textOf(menu)}).center());
+    clickAt(find({QStringLiteral("action"), textOf(command)}).center());
+}
+
+void Person::chooseFor(const QString& entry, const char* command) const
+{
+    const QRect node = findByScrolling(tree, {QStringLiteral("item"), textOf(tree), entry});
+    clickAt(node.center(), rightButton);
+    clickAt(find({QStringLiteral("action"), textOf(command)}).center());
+}
+
+void Person::inDialog(const std::function<void()>& open, const char* title,
+                      const std::function<void()>& action)
+{
+    open();
+    if (!m_hands.focusNew(textOf(title)))
+        throw StepFailed(textOf(title) + QStringLiteral(" does not open"));
     action();
-    ASSERT_TRUE(waitUntil([&] { return !m_hands.isShown(QString::fromLatin1(title)); })) << title;
-    ASSERT_TRUE(m_hands.focus(mainWindow));
+    if (!waitUntil([&] { return !m_hands.isShown(textOf(title)); }))
+        throw StepFailed(textOf(title) + QStringLiteral(" does not close"));
+    if (!m_hands.focus(mainWindow))
+        throw StepFailed(QStringLiteral("no main window"));
+}
+
+void Person::answer(const char* button)
+{
+    if (!m_hands.focusNew(QStringLiteral("^Tarsil$")))
+        throw StepFailed(QStringLiteral("no question"));
+    clickOn(button);
+}
+
+void Person::answerWith(const QString& text)
+{
+    if (!m_hands.focusNew(QStringLiteral("^Tarsil$")))
+        throw StepFailed(QStringLiteral("no question"));
+    type(text);
+    clickOn("OK");
 }
 
 bool Person::closesBoxOf(const char* dialog)
 {
-    EXPECT_TRUE(m_hands.focusNew(QStringLiteral("^Tarsil$"))) << dialog;
-    press("Return");
-    return waitUntil([&] { return m_hands.isFocused(QString::fromLatin1(dialog)); });
+    answer("OK");
+    return waitUntil([&] { return m_hands.isFocused(textOf(dialog)); });
 }
 
-void Person::nameFile(const char* keys, const char* title, const QString& path)
+void Person::nameFile(const std::function<void()>& open, const char* title, const QString& path)
 {
-    inDialog(keys, title, [&] {
-        press("ctrl+a");
-        type(path);
+    inDialog(open, title, [&] {
+        fill("fileNameEdit", path);
         press("Return");
     });
 }
 
 void Person::addEvolution(const char* name)
 {
-    const QImage before = look(treeArea);
-    nameFile("alt+v Left a", "^Open$", QString::fromStdString(sample(name)));
-    EXPECT_TRUE(seesChange(treeArea, before)) << name;
+    nameFile([this] { choose("FileMenu", "AddMenu"); }, "^Open$",
+             QString::fromStdString(sample(name)));
+    find({QStringLiteral("item"), textOf(tree), textOf(name)});
+}
+
+void Person::addPlot(const QString& caption)
+{
+    clickOn("AddPlot");
+    select(tree, QStringLiteral("Plot2"));
+    press("F2 ctrl+a");
+    type(caption);
+    press("Return");
+}
+
+void Person::activatePlot(const QString& caption) const
+{
+    select(tree, caption);
+    press("Return");
 }
 
 void Person::typeHeader(const QStringList& lines)
 {
-    press("alt+v Up Return"); // activates the plot window
-    const QRgb ground = m_display.screen().pixel(990, 10) | 0xFF000000U; // of menu bar and toolbars
-    const auto isEditing = [ground](const QImage& screen) {
+    choose("mnuView", "mnuVgfPlot");
+    const QRect area = plot();
+    const QRgb ground = m_display.screen().pixel(this->area("stBar").center()) | 0xFF000000U;
+    const auto isEditing = [ground, area](const QImage& screen) {
         constexpr int leastBar = 1000; // pixels
-        return count(screen, plotArea, ground) > leastBar;
+        return count(screen, area, ground) > leastBar;
     };
-    m_hands.doubleClick(headerPosition(m_display.screen()));
-    ASSERT_TRUE(m_display.waitForScreen(isEditing));
+    m_hands.doubleClick(headerPosition(m_display.screen(), area));
+    if (!m_display.waitForScreen(isEditing))
+        throw StepFailed(QStringLiteral("the header is not edited"));
     for (const QString& line : lines) {
         if (&line != &lines.front())
             press("Return");
         type(line);
     }
-    m_hands.click(onCanvas);
-    EXPECT_TRUE(m_display.waitForScreen(std::not_fn(isEditing)));
-    m_hands.point(aside);
+    clickAt(area.center() + QPoint(0, area.height() / 8));
+    if (!m_display.waitForScreen(std::not_fn(isEditing)))
+        throw StepFailed(QStringLiteral("the header is still edited"));
+    leave();
 }
 
-void Person::selectModes()
+void Person::selectModes(const QString& evolution)
 {
-    inDialog("Menu Down Down Return", "^Select Multiple Modes$",
-             [this] { press("Down shift+Down shift+Down Tab space Return"); });
+    inDialog([&] { chooseFor(evolution, "popSelMultModes"); }, "^Select Multiple Modes$",
+             [this] {
+                 for (const char* mode : {"2", "3", "4"}) {
+                     select("lst_AllModes", textOf(mode));
+                     clickOn("cmd_Add");
+                 }
+                 clickOn("cmd_Ok");
+             });
 }
 
 void Person::setLargestSpeed(const QString& speed)
 {
-    inDialog("alt+v Right Return", "^Plot Properties$", [&] {
-        press("Tab ctrl+a");
-        type(speed);
-        press("Return");
+    inDialog([this] { choose("mnuFormat", "mnuSetScale"); }, "^Plot Properties$",
+             [&] {
+                 fill("inpVmax", speed);
+                 clickOn("OKButton");
+             });
+}
+
+/// Performs an action and waits for a change in a rectangle.
+void Person::changes(const QRect& rectangle, const std::function<void()>& action) const
+{
+    leave();
+    const QImage before = look(rectangle);
+    action();
+    leave();
+    if (!seesChange(rectangle, before))
+        throw StepFailed(QStringLiteral("nothing changes"));
+}
+
+void Person::drawTicked()
+{
+    changes(plot(), [this] { clickOn("Select"); });
+}
+
+void Person::dragRow(int row, int below)
+{
+    changes(area(grid), [&] {
+        const QRect target = cell(below, 0);
+        m_hands.drag(cell(row, 0).center(), {target.center().x(), target.bottom() - 1});
     });
-}
-
-void Person::pushButton(QPoint button, const QRect& rectangle)
-{
-    const QImage before = look(rectangle);
-    m_hands.click(button);
-    EXPECT_TRUE(seesChange(rectangle, before));
-    m_hands.point(aside);
-}
-
-void Person::drag(QPoint from, QPoint to, const QRect& rectangle)
-{
-    const QImage before = look(rectangle);
-    m_hands.drag(from, to);
-    m_hands.point(aside);
-    EXPECT_TRUE(seesChange(rectangle, before));
 }
 
 bool Person::waitForColor(QRgb color) const
 {
+    const QRect area = plot();
     return m_display.waitForScreen(
-        [color](const QImage& screen) { return count(screen, plotArea, color) > 0; });
+        [color, area](const QImage& screen) { return count(screen, area, color) > 0; });
 }
 
 QImage Person::plotWith(QRgb color, bool isThere) const
 {
     int looks = 0;
     QImage picture;
-    EXPECT_TRUE(m_display.waitForScreen([&](const QImage& screen) {
-        const QImage now = screen.copy(plotArea);
-        looks = now == picture && (count(screen, plotArea, color) > 0) == isThere ? looks + 1 : 0;
+    const QRect area = plot();
+    const bool isSeen = m_display.waitForScreen([&](const QImage& screen) {
+        const QImage now = screen.copy(area);
+        looks = now == picture && (count(screen, area, color) > 0) == isThere ? looks + 1 : 0;
         picture = now;
         return looks == enoughLooks;
-    }));
+    });
+    if (!isSeen)
+        throw StepFailed(QStringLiteral("the plot does not come to rest"));
     return picture;
 }
 
 bool Person::seesPlot(const QImage& picture) const
 {
-    return waitFor(plotArea, [&picture](const QImage& now) { return now == picture; });
+    return waitFor(plot(), [&picture](const QImage& now) { return now == picture; });
 }
 
 bool Person::seesChange(const QRect& rectangle, const QImage& before) const

@@ -1,64 +1,105 @@
 #pragma once
 
 #include "Hands.h"
+#include "Program.h"
 #include "VirtualDisplay.h"
 
 #include <QImage>
+#include <QRect>
 #include <QStringList>
 
 #include <functional>
+#include <stdexcept>
 
 namespace tarsil::test {
 
-// Areas of the screen of 1000 x 800 pixels in the default layout: the explorer in the upper quarter
-// of the left half, Data Control below it, the plot window in the right half.
-constexpr QRect treeArea(2, 80, 495, 122);
-constexpr QRect dataArea(2, 230, 495, 535);
-constexpr QRect plotArea(505, 45, 490, 720); // without the frame and its title
-constexpr QPoint selectButton(174, 60);
-constexpr QPoint addPlotButton(209, 60);
+/// A step of a user that cannot be done. It ends the test, because no later step makes sense.
+class StepFailed : public std::runtime_error
+{
+public:
+    explicit StepFailed(const QString& step) : std::runtime_error(step.toStdString()) { }
+};
 
-/// A user of the program in its default layout, who performs actions one by one and waits for their
-/// effect.
+/// A user of the program, who performs actions one by one and waits for their effect. Everything is
+/// found by its name: the object name of a widget or command, its accessible name, or its caption.
+/// Raises StepFailed for what does not appear within half a minute.
 class Person
 {
 public:
-    explicit Person(const VirtualDisplay& display);
+    Person(const VirtualDisplay& display, const Program& program);
 
     /// Presses keys given by name, separated by blanks.
     void press(const char* keys) const;
-
-    /// Presses the keys several times.
-    void press(const char* keys, int times) const;
     void type(const QString& text) const { m_hands.type(text); }
 
-    /// Opens a dialog with keys, runs `action` on it, and waits until it is closed. "File" and
-    /// "Format" share a mnemonic, so both are reached from the menu between them.
-    void inDialog(const char* keys, const char* title, const std::function<void()>& action);
+    /// The rectangle of a widget on the screen.
+    QRect area(const char* widget) const;
 
-    /// Handles a dialog that asks for a file.
-    void nameFile(const char* keys, const char* title, const QString& path);
+    /// The rectangle of the plot without its frame.
+    QRect plot() const { return area("evpVgf"); }
+
+    /// The rectangle of a cell of the grid, counted from 0.
+    QRect cell(int row, int column) const;
+
+    void clickOn(const char* widget) const;
+    void clickAt(QPoint position, int button = 1) const;
+
+    /// Replaces the text in a field.
+    void fill(const char* field, const QString& text) const;
+
+    /// Selects an entry of a list of choices by its text.
+    void chooseIn(const char* list, const QString& entry) const;
+
+    /// Selects an entry of a tree or list by its text.
+    void select(const char* view, const QString& entry) const;
+
+    /// Ticks the box of an entry of the explorer.
+    void tick(const QString& entry) const;
+
+    /// Chooses a command of the menu bar, both by object name.
+    void choose(const char* menu, const char* command) const;
+
+    /// Chooses a command of the pop-up of an entry of the explorer.
+    void chooseFor(const QString& entry, const char* command) const;
+
+    /// Opens a dialog with `open`, runs `action` on it, and waits until it is closed.
+    void inDialog(const std::function<void()>& open, const char* title,
+                  const std::function<void()>& action);
+
+    /// Handles a dialog that asks for a file, opened by `open`.
+    void nameFile(const std::function<void()>& open, const char* title, const QString& path);
     void addEvolution(const char* name);
+
+    /// Answers a box of the program by a button.
+    void answer(const char* button);
+
+    /// Types an answer to a question of the program.
+    void answerWith(const QString& text);
 
     /// Closes the message box of a dialog. Returns whether the dialog then has the focus by itself.
     bool closesBoxOf(const char* dialog);
 
+    /// Adds a plot and gives it a caption.
+    void addPlot(const QString& caption);
+
+    void activatePlot(const QString& caption) const;
+
     // Focus a child window.
-    void goToDataControl() const { press("alt+v Return"); }
-    void goToExplorer() const { press("alt+v Down Return"); }
+    void goToDataControl() const { choose("mnuView", "mnuDataControl"); }
+    void goToExplorer() const { choose("mnuView", "mnuModalEvolExplorer"); }
 
     /// Double-clicks the header, types, and clicks outside.
     void typeHeader(const QStringList& lines);
 
-    /// Draws the second, third and fourth mode of the selected evolution by the pop-up of the tree.
-    void selectModes();
+    /// Draws the second, third and fourth mode of an evolution by the pop-up of the tree.
+    void selectModes(const QString& evolution);
     void setLargestSpeed(const QString& speed);
 
-    /// Clicks a button of the explorer's toolbar and waits for a change in `rectangle`.
-    void pushButton(QPoint button, const QRect& rectangle);
+    /// Draws the first mode of the ticked evolutions.
+    void drawTicked();
 
-    /// Drags and waits for a change in `rectangle`.
-    void drag(QPoint from, QPoint to, const QRect& rectangle);
+    /// Drags a row of the grid below another.
+    void dragRow(int row, int below);
 
     /// Waits until the plot has curves of a colour; false on a timeout.
     bool waitForColor(QRgb color) const;
@@ -79,9 +120,14 @@ public:
     bool isAsked() const { return m_hands.isShown(QStringLiteral("^Tarsil$")); }
 
 private:
+    QRect find(const QStringList& request) const;
+    QRect findByScrolling(const char* view, const QStringList& request) const;
+    void leave() const;
+    void changes(const QRect& rectangle, const std::function<void()>& action) const;
     bool waitFor(const QRect& rectangle, const std::function<bool(const QImage&)>& condition) const;
 
     const VirtualDisplay& m_display;
+    const Program& m_program;
     Hands m_hands;
 };
 

@@ -35,32 +35,29 @@ Pictures makeSession(const VirtualDisplay& display, const QString& file)
 {
     Pictures pictures;
     Program program(display, {});
-    Person person(display);
+    Person person(display, program);
+    const QString clean = QStringLiteral("goland_clean_m040.ev2");
+    const QString stores = QStringLiteral("goland_tipstore_m050.ev2");
     person.addEvolution("goland_clean_m040.ev2");
     person.addEvolution("goland_tipstore_m050.ev2");
-    person.goToExplorer();
-    person.press("Home Down Down Down space Down space");
-    person.pushButton(selectButton, plotArea);
+    person.tick(clean);
+    person.tick(stores);
+    person.drawTicked();
     EXPECT_TRUE(person.waitForColor(blue));
-    person.selectModes();
+    person.selectModes(stores);
     EXPECT_TRUE(person.waitForColor(cyan));
     person.typeHeader({QStringLiteral("Goland wing; two stores"), QStringLiteral("as built")});
     person.setLargestSpeed(QStringLiteral("450"));
 
-    person.pushButton(addPlotButton, treeArea);
-    person.goToExplorer();
-    person.press("End F2 ctrl+a");
-    person.type(QStringLiteral("Second"));
-    person.press("Return");
+    person.addPlot(QStringLiteral("Second"));
     person.plotWith(blue, false);
-    person.pushButton(selectButton, plotArea);
+    person.drawTicked();
     EXPECT_TRUE(person.waitForColor(blue));
-    person.goToExplorer();
-    person.press("End Up Return");
+    person.activatePlot(QStringLiteral("Plot1"));
     pictures.first = person.plotWith(cyan);
-    person.press("Down Return");
+    person.activatePlot(QStringLiteral("Second"));
     pictures.second = person.plotWith(cyan, false);
-    person.nameFile("ctrl+s", "^Save", file);
+    person.nameFile([&person] { person.choose("FileMenu", "mnuSaveWorkspace"); }, "^Save", file);
     EXPECT_TRUE(waitUntil([&file] { return QFile::exists(file); }));
     quit(person, program);
     return pictures;
@@ -71,7 +68,6 @@ Pictures makeSession(const VirtualDisplay& display, const QString& file)
 TEST(RealSession, isThereAgainAfterARestart)
 {
     const VirtualDisplay display;
-    ASSERT_FALSE(display.name().isEmpty()) << "Xvfb did not start";
     const TemporaryFolder folder;
     const QString file = QString::fromStdString(folder.file("two stores.tsw"));
     const auto [first, second] = makeSession(display, file);
@@ -84,12 +80,11 @@ TEST(RealSession, isThereAgainAfterARestart)
     for (const bool isOnCommandLine : {true, false}) {
         SCOPED_TRACE(isOnCommandLine ? "from the command line" : "from the File menu");
         Program program(display, isOnCommandLine ? QStringList {file} : QStringList());
-        Person person(display);
+        Person person(display, program);
         if (!isOnCommandLine)
-            person.nameFile("alt+v Left o", "^Open$", file);
+            person.nameFile([&person] { person.choose("FileMenu", "OpenMenu"); }, "^Open$", file);
         EXPECT_TRUE(person.seesPlot(first));
-        person.goToExplorer();
-        person.press("End Return");
+        person.activatePlot(QStringLiteral("Second"));
         EXPECT_TRUE(person.seesPlot(second));
         quit(person, program);
     }
@@ -98,17 +93,14 @@ TEST(RealSession, isThereAgainAfterARestart)
 TEST(RealSession, savesTheRowsInTheOrderInWhichTheyWereDragged)
 {
     const VirtualDisplay display;
-    ASSERT_FALSE(display.name().isEmpty()) << "Xvfb did not start";
     const TemporaryFolder folder;
     const QString file = QString::fromStdString(folder.file("dragged.tsw"));
     Program program(display, {QString::fromStdString(sample("goland_clean_m040.ev2"))});
-    Person person(display);
+    Person person(display, program);
     EXPECT_TRUE(person.waitForColor(cyan));
-    constexpr QPoint firstRow(30, 265); // in the column "Idx", the handle for dragging
-    constexpr QPoint belowTheThirdRow(30, 311);
-    person.drag(firstRow, belowTheThirdRow, dataArea);
-    EXPECT_TRUE(person.standsStill(dataArea));
-    person.nameFile("ctrl+s", "^Save", file);
+    person.dragRow(0, 2);
+    EXPECT_TRUE(person.standsStill(person.area("wndData")));
+    person.nameFile([&person] { person.press("ctrl+s"); }, "^Save", file);
     EXPECT_TRUE(waitUntil([&file] { return QFile::exists(file); }));
     const std::string saved = fileBytes(file.toStdString());
     int row = 0;
@@ -124,34 +116,32 @@ TEST(RealSession, savesTheRowsInTheOrderInWhichTheyWereDragged)
 TEST(RealSession, keepsTheKeyboardInTheDialogAfterABox)
 {
     const VirtualDisplay display;
-    ASSERT_FALSE(display.name().isEmpty()) << "Xvfb did not start";
     const TemporaryFolder folder;
     const QString file = QString::fromStdString(folder.file("marks.tsw"));
     Program program(display, {QString::fromStdString(sample("goland_clean_m040.ev2"))});
-    Person person(display);
+    Person person(display, program);
     EXPECT_TRUE(person.waitForColor(cyan));
-    for (const auto& [keys, title, wrong, lastKey, repair] :
-         {std::tuple("alt+t Return", "Add Reference Speed", "x300", "Return", "Home Delete"),
-          std::tuple("alt+t Down Down Return", "Add Damping Line", ".1", "x",
+    for (const auto& [command, title, field, wrong, lastKey, repair] :
+         {std::tuple("mnuAddRef", "Add Reference Speed", "posInp", "x300", "Return", "Home Delete"),
+          std::tuple("mnuAddDamp", "Add Damping Line", "sdampInp", ".1", "x",
                      "BackSpace Home minus")}) {
-        person.goToDataControl();
-        person.press("ctrl+Home");
-        EXPECT_TRUE(person.standsStill(plotArea));
-        const QImage before = person.look(plotArea);
+        person.clickAt(person.cell(0, 0).center());
+        EXPECT_TRUE(person.standsStill(person.plot()));
+        const QImage before = person.look(person.plot());
         person.inDialog(
-            keys, title, [&, owner = title, text = wrong, last = lastKey, mended = repair] {
-                person.press("ctrl+a");
-                person.type(QString::fromLatin1(text));
+            [&person, name = command] { person.choose("mnuTools", name); }, title,
+            [&, owner = title, input = field, text = wrong, last = lastKey, mended = repair] {
+                person.fill(input, QString::fromLatin1(text));
                 person.press(last);
                 EXPECT_TRUE(person.closesBoxOf(owner)) << owner;
                 person.press(mended);
                 person.press("Return");
-                EXPECT_TRUE(person.seesChange(plotArea, before)) << "the mark of " << owner;
+                EXPECT_TRUE(person.seesChange(person.plot(), before)) << "the mark of " << owner;
                 EXPECT_FALSE(person.isAsked()) << owner;
                 person.press("Escape");
             });
     }
-    person.nameFile("ctrl+s", "^Save", file);
+    person.nameFile([&person] { person.press("ctrl+s"); }, "^Save", file);
     EXPECT_TRUE(waitUntil([&file] { return QFile::exists(file); }));
     EXPECT_NE(fileBytes(file.toStdString()).find("NoOfSeries=7\r\n"), std::string::npos)
         << "no curve was removed";
