@@ -59,17 +59,25 @@ void ChildFrame::closeEvent(QCloseEvent* event)
     hide();
 }
 
+std::array<QRect, 3> defaultGeometry(QSize inner)
+{
+    const int half = inner.width() / 2;
+    const int top = inner.height() / 4;
+    return {QRect(0, 0, half, top), QRect(0, top, half, inner.height() - top),
+            QRect(half, 0, inner.width() - half, inner.height())};
+}
+
 void arrangeByDefault(const ChildFrames& frames, QSize inner)
 {
+    auto [explorer, data, plot] = defaultGeometry(inner);
     for (ChildFrame* frame : {frames.explorer, frames.data, frames.plot}) {
         frame->widget()->show();
         frame->showNormal();
     }
-    const int half = inner.width() / 2;
-    frames.explorer->setGeometry(0, 0, half, inner.height() / 4);
-    frames.plot->setGeometry(half, 0, inner.width() - half, inner.height());
-    const int top = frames.explorer->height();
-    frames.data->setGeometry(0, top, half, inner.height() - top);
+    frames.explorer->setGeometry(explorer);
+    frames.plot->setGeometry(plot);
+    data.setTop(frames.explorer->height()); // which may have a least height
+    frames.data->setGeometry(data);
 }
 
 void tileHorizontally(const std::vector<ChildFrame*>& frames, QSize inner)

@@ -2,6 +2,7 @@
 
 #include <QMdiSubWindow>
 
+#include <array>
 #include <vector>
 
 class QMdiArea;
@@ -36,8 +37,11 @@ struct ChildFrames
     ChildFrame* plot;
 };
 
-/// Arranges and shows all: the explorer in the upper quarter of the left half, the data window
-/// below it, the plot window in the right half.
+/// The default layout of explorer, data window and plot window: the explorer in the upper quarter
+/// of the left half, the data window below it, the plot window in the right half.
+std::array<QRect, 3> defaultGeometry(QSize inner);
+
+/// Arranges and shows all in the default layout.
 void arrangeByDefault(const ChildFrames& frames, QSize inner);
 
 /// Tiles the visible windows as rows of full width.

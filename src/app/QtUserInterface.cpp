@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPointer>
@@ -65,16 +66,6 @@ int askWithButtons(QWidget* asker, const std::string& question, const std::strin
     return execOver(asker, box);
 }
 
-std::vector<std::string> chosenFiles(QWidget* asker, QFileDialog& dialog)
-{
-    std::vector<std::string> files;
-    if (execOver(asker, dialog) == QDialog::Accepted) {
-        for (const QString& file : dialog.selectedFiles())
-            files.push_back(QDir::toNativeSeparators(file).toStdString());
-    }
-    return files;
-}
-
 } // namespace
 
 QStringList nameFilters(const std::string& filter)
@@ -95,6 +86,34 @@ void QtUserInterface::attach(QWidget* window, StatusPanels* panels)
 {
     m_window = window;
     m_panels = panels;
+}
+
+/// A name with a folder, such as that of the workspace that is saved again, decides itself.
+void QtUserInterface::goToLastFolder(QFileDialog& dialog, const FileQuestion& question) const
+{
+    if (!m_store || QFileInfo(QString::fromStdString(question.fileName)).isAbsolute())
+        return;
+    for (const RememberedPair& pair : m_store->pairsIfReadable(remembered::folders)) {
+        if (pair.key == QString::fromStdString(question.filter) && QFileInfo(pair.value).isDir())
+            dialog.setDirectory(pair.value);
+    }
+}
+
+std::vector<std::string> QtUserInterface::chosenFiles(QWidget* asker, QFileDialog& dialog,
+                                                      const FileQuestion& question)
+{
+    goToLastFolder(dialog, question);
+    prepare(dialog, question);
+    if (execOver(asker, dialog) != QDialog::Accepted)
+        return {};
+    if (m_store)
+        m_store->rememberQuietly(
+            remembered::folders,
+            {{QString::fromStdString(question.filter), dialog.directory().absolutePath()}});
+    std::vector<std::string> files;
+    for (const QString& file : dialog.selectedFiles())
+        files.push_back(QDir::toNativeSeparators(file).toStdString());
+    return files;
 }
 
 QWidget* QtUserInterface::asker() const
@@ -155,8 +174,7 @@ std::vector<std::string> QtUserInterface::askOpenFiles(const FileQuestion& quest
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setFileMode(question.takesSeveral ? QFileDialog::ExistingFiles
                                              : QFileDialog::ExistingFile);
-    prepare(dialog, question);
-    return chosenFiles(window, dialog);
+    return chosenFiles(window, dialog, question);
 }
 
 std::optional<std::string> QtUserInterface::askSaveFile(const FileQuestion& question)
@@ -166,8 +184,7 @@ std::optional<std::string> QtUserInterface::askSaveFile(const FileQuestion& ques
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite, !question.confirmsReplacing);
-    prepare(dialog, question);
-    const std::vector<std::string> files = chosenFiles(window, dialog);
+    const std::vector<std::string> files = chosenFiles(window, dialog, question);
     return files.empty() ? std::nullopt : std::optional(files.front());
 }
 
@@ -178,8 +195,9 @@ std::optional<std::string> QtUserInterface::askFolder(const std::string& initial
     dialog.setFileMode(QFileDialog::Directory);
     dialog.setOption(QFileDialog::ShowDirsOnly);
     dialog.setDirectory(QString::fromStdString(initial));
-    const std::vector<std::string> folders = chosenFiles(window, dialog);
-    return folders.empty() ? std::nullopt : std::optional(folders.front());
+    if (execOver(window, dialog) != QDialog::Accepted)
+        return std::nullopt;
+    return QDir::toNativeSeparators(dialog.selectedFiles().front()).toStdString();
 }
 
 void QtUserInterface::showStatus(std::string_view text)

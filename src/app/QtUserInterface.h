@@ -1,10 +1,17 @@
 #pragma once
 
 #include "base/user/UserInterface.h"
+#include "options/OptionsStore.h"
 
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+class QFileDialog;
 class QWidget;
 
 namespace tarsil {
@@ -21,6 +28,10 @@ public:
     /// `panels`. Both must exist whenever this object is used.
     void attach(QWidget* window, StatusPanels* panels);
 
+    /// File dialogs begin in the folder in which files of their kind were last chosen, also in an
+    /// earlier run.
+    void rememberFolders(OptionsStore store) { m_store = std::move(store); }
+
     void showMessage(const std::string& text, const std::string& title, MessageIcon icon) override;
     bool confirm(const std::string& question, const std::string& title) override;
     Unsaved askToSave(const std::string& question, const std::string& title) override;
@@ -36,9 +47,13 @@ public:
 
 private:
     QWidget* asker() const;
+    void goToLastFolder(QFileDialog& dialog, const FileQuestion& question) const;
+    std::vector<std::string> chosenFiles(QWidget* asker, QFileDialog& dialog,
+                                         const FileQuestion& question);
 
     QWidget* m_window = nullptr;
     StatusPanels* m_panels = nullptr;
+    std::optional<OptionsStore> m_store;
 };
 
 /// Converts a filter ("text|pattern|...") for Qt's dialogs. The pattern inside the text, which may

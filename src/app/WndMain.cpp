@@ -4,6 +4,8 @@
 #include "app/DlgRefSpeed.h"
 #include "app/LeftOutRows.h"
 #include "app/StatusPanels.h"
+#include "app/WindowMemory.h"
+#include "app/WndGuide.h"
 #include "base/files/PathNames.h"
 #include "base/user/ErrorGuard.h"
 #include "base/user/ErrorReport.h"
@@ -34,12 +36,14 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace tarsil {
 
 namespace {
 
 constexpr std::string_view workspaceExtension = ".tsw";
+const QString layoutName = QStringLiteral("childWindows"); ///< in the settings
 
 /// The first argument that contains an extension; the end when there is none.
 auto mentionOf(const std::vector<std::string>& arguments, std::string_view extension)
@@ -54,17 +58,22 @@ std::string folderOf(const std::string& path)
     return QFileInfo(QString::fromStdString(path)).absolutePath().toStdString();
 }
 
+bool isAircraftFile(const std::string& path)
+{
+    return QString::fromStdString(path).endsWith(QStringLiteral(".inp"), Qt::CaseInsensitive);
+}
+
 bool nameEvolutions(const std::vector<std::string>& arguments)
 {
     return std::any_of(arguments.begin(), arguments.end(),
                        [](const auto& argument) { return findFormat(argument) != nullptr; });
 }
 
-/// Whether an argument names a file that is neither a workspace nor an evolution.
+/// Whether an argument names a file that is neither a workspace, an evolution nor an aircraft file.
 bool namesOutput(const std::string& argument)
 {
     return argument.find(workspaceExtension) == std::string::npos && findFormat(argument) == nullptr
-        && fileExists(argument);
+        && !isAircraftFile(argument) && fileExists(argument);
 }
 
 std::vector<std::string> outputsAmong(const std::vector<std::string>& arguments)
@@ -74,9 +83,11 @@ std::vector<std::string> outputsAmong(const std::vector<std::string>& arguments)
     return outputs;
 }
 
-std::vector<std::string> withoutOutputs(std::vector<std::string> arguments)
+std::vector<std::string> withoutOthers(std::vector<std::string> arguments)
 {
-    std::erase_if(arguments, namesOutput);
+    std::erase_if(arguments, [](const std::string& argument) {
+        return namesOutput(argument) || isAircraftFile(argument);
+    });
     return arguments;
 }
 
@@ -85,7 +96,7 @@ std::vector<std::string> withoutOutputs(std::vector<std::string> arguments)
 wndMain::wndMain(UserInterface& userInterface, FlutterReportCommand::FileOpener opener,
                  OptionsStore store)
     : m_userInterface(userInterface), m_workspace(m_document, userInterface),
-      m_store(std::move(store)), m_recovery(folderOf(m_store.path())),
+      m_store(std::move(store)), m_memory(m_store.memory()), m_recovery(folderOf(m_store.path())),
       m_report(userInterface, std::move(opener)), m_tracking(m_document, userInterface),
       m_reportFolder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)),
       m_area(new QMdiArea(this)), m_statusPanels(new StatusPanels(this))
@@ -98,9 +109,9 @@ wndMain::wndMain(UserInterface& userInterface, FlutterReportCommand::FileOpener 
     setStatusBar(m_statusPanels);
     connect(m_statusPanels, &StatusPanels::panelClicked, this, &wndMain::stBar_PanelClick);
     makeChildWindows();
+    connectRecentFiles();
     makeMenuBar();
     makePopups();
-    makeHelpKey();
     followHistory();
 }
 
@@ -110,6 +121,7 @@ wndMain::~wndMain()
 {
     m_document.history().steps().disconnect(this);
     closeDialogs();
+    m_layout.reset();
     delete m_area;
 }
 
@@ -126,6 +138,7 @@ void wndMain::makeChildWindows()
     m_frames.data = frameOf(m_data);
     m_frames.explorer = frameOf(m_explorer);
     m_frames.plot = frameOf(m_evolPlot);
+    m_layout = std::make_unique<ChildLayout>(*m_area, m_frames);
     connect(m_evolPlot, &wndEvolPlot::failed, this, [this](const RunTimeError& error) {
         m_userInterface.showMessage(errorReport(error, "wndEvolPlot"), "Error",
                                     MessageIcon::Critical);
@@ -163,6 +176,23 @@ void wndMain::connectExplorer()
             [this](QPoint position) { m_explorerMenu->popup(position); });
 }
 
+void wndMain::connectRecentFiles()
+{
+    m_recent = new RecentFiles(m_document, m_memory, this);
+    const auto runs = [this](auto action) {
+        return [this, action](const std::string& path) {
+            commitEdits();
+            m_userInterface.beginCommand();
+            guarded(m_userInterface, "wndMain", [&] { action(path); });
+            m_recent->followWorkspace();
+        };
+    };
+    connect(m_recent, &RecentFiles::workspaceChosen, this,
+            runs([this](const std::string& path) { openWorkspace(path); }));
+    connect(m_recent, &RecentFiles::evolutionChosen, this,
+            runs([this](const std::string& path) { open({path}); }));
+}
+
 /// Keeps the notes about the speed axis and misplaced reference speeds up to date. A plot signals a
 /// change before it is complete, so the note is updated when control returns to the event loop.
 void wndMain::followMarks(const EvmPlot* before, const EvmPlot* now)
@@ -190,6 +220,10 @@ void wndMain::MDIForm_Load(const std::vector<std::string>& arguments)
         for (ChildFrame* frame : {m_frames.data, m_frames.explorer, m_frames.plot})
             frame->bringBack();
         wndDefLayout();
+        for (const RememberedPair& pair : m_memory.pairsIfReadable(remembered::windows)) {
+            if (pair.key == layoutName)
+                m_layout->restore(pair.value);
+        }
         m_document.plots().activate(&m_document.plots().first());
         const auto workspace = mentionOf(arguments, workspaceExtension);
         if (m_workspace.recover(*m_recovery))
@@ -197,10 +231,32 @@ void wndMain::MDIForm_Load(const std::vector<std::string>& arguments)
         if (workspace != arguments.end())
             m_workspace.OpenWorkSpace(*workspace);
         else if (nameEvolutions(arguments))
-            draw(m_document.load(withoutOutputs(arguments), m_userInterface));
+            draw(m_document.load(withoutOthers(arguments), m_userInterface));
+        useAircraftFileAmong(arguments);
         m_document.history().clear();
         importResults(outputsAmong(arguments));
     });
+    m_recent->followWorkspace();
+}
+
+void wndMain::restoreSize()
+{
+    restoreWindow(*this, m_memory);
+}
+
+/// The window and its child windows, for the next start.
+void wndMain::keepLayout()
+{
+    keepWindow(*this, m_memory);
+    if (m_stability)
+        keepWindow(*m_stability, m_memory);
+    const QString layout = m_layout->text();
+    const auto known = m_memory.pairsIfReadable(remembered::windows);
+    const bool isKnown = std::any_of(known.begin(), known.end(), [](const RememberedPair& pair) {
+        return pair.key == layoutName;
+    });
+    if (isKnown || !layout.isEmpty())
+        m_memory.rememberQuietly(remembered::windows, {{layoutName, layout}});
 }
 
 /// Applies what is being typed, because a command acts on what the user sees.
@@ -219,6 +275,7 @@ void wndMain::run(const QString& name, Handler handler)
     m_userInterface.beginCommand();
     guarded(m_userInterface, "wndMain", [this, handler] { (this->*handler)(); });
     m_document.history().note(name);
+    m_recent->followWorkspace();
     keepCopy();
 }
 
@@ -237,7 +294,7 @@ void wndMain::keepCopy()
 
 void wndMain::wndDefLayout()
 {
-    arrangeByDefault(m_frames, innerSize());
+    m_layout->setDefault();
 }
 
 QSize wndMain::innerSize() const
@@ -328,19 +385,35 @@ void wndMain::importResults(const std::vector<std::string>& paths)
 }
 
 /// Opens the files passed by another program: a workspace replaces the document, other files are
-/// added to it.
+/// added to it, and the last aircraft file becomes that of the options.
 void wndMain::open(const std::vector<std::string>& paths)
 {
     const auto workspace = mentionOf(paths, workspaceExtension);
     if (workspace != paths.end()) {
-        if (m_workspace.mayLeave())
-            m_workspace.OpenWorkSpace(*workspace);
+        openWorkspace(*workspace);
         return;
     }
     if (nameEvolutions(paths))
-        m_document.load(withoutOutputs(paths), m_userInterface);
+        m_document.load(withoutOthers(paths), m_userInterface);
     m_document.history().note(tr("Add Modal Evolution"));
+    useAircraftFileAmong(paths);
     importResults(outputsAmong(paths));
+}
+
+void wndMain::useAircraftFileAmong(const std::vector<std::string>& paths)
+{
+    const auto file = std::find_if(paths.rbegin(), paths.rend(), isAircraftFile);
+    if (file == paths.rend())
+        return;
+    options().useAircraftFile(*file);
+    m_document.history().note(tr("Aircraft File"));
+    m_userInterface.showNote("Aircraft file: " + *file);
+}
+
+void wndMain::openWorkspace(const std::string& path)
+{
+    if (m_workspace.mayLeave())
+        m_workspace.OpenWorkSpace(path);
 }
 
 void wndMain::dragEnterEvent(QDragEnterEvent* event)
@@ -359,6 +432,7 @@ void wndMain::dropEvent(QDropEvent* event)
             commitEdits();
             m_userInterface.beginCommand();
             guarded(m_userInterface, "wndMain", [&] { open(paths); });
+            m_recent->followWorkspace();
         },
         Qt::QueuedConnection);
 }
@@ -464,6 +538,7 @@ void wndMain::showStability()
 void wndMain::connectStability()
 {
     m_stability = std::make_unique<wndStability>(m_document, m_userInterface, this);
+    restoreWindow(*m_stability, m_memory);
     m_stability->setExchangeUndoable(m_tracking.canUndo());
     connect(m_stability.get(), &wndStability::pointedOut, m_evolPlot, &wndEvolPlot::highlight);
     connect(m_stability.get(), &wndStability::modeChosen, m_data, &wndData::selectCurve);
@@ -547,6 +622,7 @@ void wndMain::closeEvent(QCloseEvent* event)
     }
     if (m_options)
         guarded(m_userInterface, "wndMain", [this] { m_options->SetOptReg(); });
+    keepLayout();
     closeDialogs();
     m_recovery->remove();
     m_recovery.reset();
@@ -560,6 +636,7 @@ void wndMain::closeDialogs()
     m_stability.reset();
     m_options.reset();
     m_import.reset();
+    m_guide.reset();
 }
 
 } // namespace tarsil

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "app/ChildFrame.h"
+#include "app/ChildLayout.h"
 #include "app/FlutterReportCommand.h"
+#include "app/RecentFiles.h"
 #include "app/TrackingCommands.h"
 #include "app/WorkspaceCommands.h"
 #include "base/user/UserInterface.h"
@@ -30,6 +31,7 @@ class dlgDampLine;
 class dlgImport;
 class dlgOptions;
 class dlgRefSpeed;
+class wndGuide;
 class wndData;
 class wndEvolExplorer;
 class wndEvolPlot;
@@ -47,7 +49,8 @@ public:
             OptionsStore store);
     ~wndMain() override;
 
-    /// Applies the options, shows the child windows in the default layout, activates the first
+    /// Applies the options, shows the child windows in the default layout, or in that which the
+    /// user has left instead, activates the first
     /// plot, and handles the command line: if an argument contains ".tsw", that workspace is
     /// opened; otherwise, if one contains the extension of a format, the evolutions are loaded and
     /// drawn. Other files are imported as solver outputs. Errors are reported, and the window stays
@@ -56,6 +59,9 @@ public:
 
     /// Arranges the child windows in the default layout.
     void wndDefLayout();
+
+    /// Gives the window the size and position it had when the program last ended.
+    void restoreSize();
 
     StatusPanels& stBar() { return *m_statusPanels; }
     wndEvolPlot& evolPlot() { return *m_evolPlot; }
@@ -102,12 +108,14 @@ private:
     void followMarks(const EvmPlot* before, const EvmPlot* now);
     void makeMenuBar();
     void makePopups();
-    void makeHelpKey();
+    void addRecentFiles();
+    void connectRecentFiles();
     void closeDialogs();
     void addCommand(QMenu& menu, const Command& command, const char* name);
     void run(const QString& name, Handler handler);
     void followHistory();
     void keepCopy();
+    void keepLayout();
     void showSteps();
     void commitEdits();
 
@@ -140,14 +148,19 @@ private:
     void TileHorizMenu_Click();
     void popSetRefEvol_Click();
     void popSelMultModes_Click();
+    void showGuide();
     void showHelp();
+    void openSamples();
+    void showAbout();
     void stBar_PanelClick(int panel);
 
     void open(const std::vector<std::string>& paths);
+    void useAircraftFileAmong(const std::vector<std::string>& paths);
     void importResults(const std::vector<std::string>& paths);
     void draw(const std::vector<EVM*>& evolutions);
     dlgOptions& options();
     EvmPlot& activePlot() const;
+    void openWorkspace(const std::string& path);
     QSize innerSize() const;
     std::vector<ChildFrame*> frames() const;
 
@@ -155,6 +168,7 @@ private:
     Document m_document;
     WorkspaceCommands m_workspace;
     OptionsStore m_store;
+    OptionsStore m_memory; ///< of the windows
     std::optional<RecoveryCopy> m_recovery; ///< until the program ends
     FlutterReportCommand m_report;
     TrackingCommands m_tracking;
@@ -165,6 +179,8 @@ private:
     wndEvolExplorer* m_explorer = nullptr;
     wndData* m_data = nullptr;
     ChildFrames m_frames {};
+    std::unique_ptr<ChildLayout> m_layout;
+    RecentFiles* m_recent = nullptr;
     QAction* m_undo = nullptr;
     QAction* m_redo = nullptr;
     QMenu* m_plotMenu = nullptr;
@@ -174,6 +190,7 @@ private:
     std::unique_ptr<wndStability> m_stability;
     std::unique_ptr<dlgOptions> m_options;
     std::unique_ptr<dlgImport> m_import; ///< while it is open
+    std::unique_ptr<wndGuide> m_guide;
 };
 
 } // namespace tarsil

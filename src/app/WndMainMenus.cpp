@@ -81,6 +81,14 @@ std::vector<wndMain::CommandMenu> wndMain::commandTable()
          nullptr,
          {{"mnuUndo", nullptr, "&Undo", &wndMain::mnuUndo_Click, "Ctrl+Z"},
           {"mnuRedo", nullptr, "&Redo", &wndMain::mnuRedo_Click, "Ctrl+Shift+Z"}}},
+        {"HelpMenu",
+         "&Help",
+         nullptr,
+         nullptr,
+         {{"showGuide", nullptr, "&Guide", &wndMain::showGuide},
+          {"help", nullptr, "&Keys", &wndMain::showHelp, "F1"},
+          {"openSamples", nullptr, "Open &Samples", &wndMain::openSamples},
+          {"about", nullptr, "&About Tarsil", &wndMain::showAbout}}},
     };
 }
 
@@ -92,6 +100,16 @@ void wndMain::makeMenuBar()
         for (const Command& command : entry.commands)
             addCommand(*menu, command, command.name);
     }
+    addRecentFiles();
+}
+
+/// Before "Quit", which stays the last entry.
+void wndMain::addRecentFiles()
+{
+    auto* const menu = findChild<QMenu*>(QStringLiteral("FileMenu"));
+    QAction* const quit = findChild<QAction*>(QStringLiteral("QuitMenu"));
+    menu->insertMenu(quit, m_recent->workspaces());
+    menu->insertMenu(quit, m_recent->evolutions());
 }
 
 void wndMain::makePopups()
@@ -157,38 +175,6 @@ void wndMain::showSteps()
     m_undo->setText(tr("&Undo %1").arg(withoutMnemonic(steps.undoText())).trimmed());
     m_redo->setEnabled(steps.canRedo());
     m_redo->setText(tr("&Redo %1").arg(withoutMnemonic(steps.redoText())).trimmed());
-}
-
-void wndMain::makeHelpKey()
-{
-    auto* const help = new QAction(tr("Help"), this);
-    help->setObjectName(QStringLiteral("help"));
-    help->setShortcut(QKeySequence::HelpContents);
-    connect(help, &QAction::triggered, this, [this] { run(tr("Help"), &wndMain::showHelp); });
-    addAction(help);
-}
-
-void wndMain::showHelp()
-{
-    m_userInterface.showMessage(
-        "Ctrl+N, Ctrl+O, Ctrl+S  start, open and save a workspace\n"
-        "Ctrl+Shift+O  adds modal evolutions\n"
-        "Files dropped on the window are opened, those of solvers imported\n"
-        "Ctrl+Z, Ctrl+Shift+Z  undo the last change, and make it again\n"
-        "Ctrl+C  on a plot copies its picture\n"
-        "Ctrl+Q  quits the program\n\n"
-        "Texts of a plot: double click or F2 to edit one; click and drag legend or subtitle, or "
-        "use the arrow keys, to move it (Shift for ten pixels).\n"
-        "Grid of Data Control: + and - in the column \"Mode\" raise and lower modes, Alt+Up and "
-        "Alt+Down move rows, Del removes them.\n"
-        "Plot: drag a rectangle or turn the wheel to zoom (Ctrl: speeds, Shift: values), drag with "
-        "the middle button to move the curves, double click an axis to edit it; Home fits all "
-        "axes.\n"
-        "Right button on a plot: its scales, reference speeds, damping lines and flutter speeds.\n"
-        "Reference speeds are measured from the left end of the speed axis: their position is "
-        "right when the axis begins at 0. Otherwise the status bar shows how far they are off.\n"
-        "Rest the pointer on a plot to read the nearest curve.",
-        "Tarsil", MessageIcon::None);
 }
 
 } // namespace tarsil

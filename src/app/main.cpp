@@ -42,10 +42,12 @@ int main(int argc, char** argv)
     QApplication::setApplicationVersion(QStringLiteral(TARSIL_VERSION));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/tarsil.svg")));
     const std::vector<std::string> files = filesOf(application);
-    tarsil::wndMain window(userInterface, tarsil::openSpreadsheet,
-                           tarsil::OptionsStore(tarsil::OptionsStore::defaultPath()));
+    const tarsil::OptionsStore store(tarsil::OptionsStore::defaultPath());
+    tarsil::wndMain window(userInterface, tarsil::openSpreadsheet, store);
     userInterface.attach(&window, &window.stBar());
+    userInterface.rememberFolders(store.memory());
     window.resize(QSize(1280, 800).boundedTo(window.screen()->availableSize()));
+    window.restoreSize();
     window.show();
     window.MDIForm_Load(files);
     return QApplication::exec();

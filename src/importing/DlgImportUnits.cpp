@@ -80,7 +80,8 @@ void dlgImport::presetChosen(int index)
 void dlgImport::showRememberedUnits()
 {
     guarded(m_user, "dlgImport", [this] {
-        const auto kept = m_store.importUnits(folderOf(m_plan.outputs().front().path));
+        const auto kept =
+            m_store.value(remembered::importUnits, folderOf(m_plan.outputs().front().path));
         const auto units = kept ? solver::unitsFromText(kept->toStdString()) : std::nullopt;
         if (!units)
             return;
@@ -95,7 +96,7 @@ void dlgImport::keepUnits()
     guarded(m_user, "dlgImport", [this] {
         const QString units = QString::fromStdString(solver::unitText(m_plan.units().value()));
         for (const solver::SolverOutput& output : m_plan.outputs())
-            m_store.keepImportUnits(folderOf(output.path), units);
+            m_store.remember(remembered::importUnits, {{folderOf(output.path), units}});
     });
 }
 

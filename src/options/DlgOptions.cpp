@@ -112,6 +112,12 @@ bool dlgOptions::ApplyOpt()
     });
 }
 
+void dlgOptions::useAircraftFile(const std::string& path)
+{
+    m_ui->txtAcInfo->setText(QString::fromStdString(path));
+    readAircraftFile();
+}
+
 void dlgOptions::readAircraftFile()
 {
     const std::string file = m_ui->txtAcInfo->text().toStdString();

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <memory>
+#include <string>
 
 namespace tarsil {
 
@@ -54,6 +55,10 @@ public:
     /// and gives new plots the default axes. A list that does not fit changes nothing. Reports
     /// errors; returns false if a list is faulty, with nothing changed.
     bool ApplyOpt();
+
+    /// Makes a file the aircraft information file and reads it, as if it had been chosen and
+    /// applied. Reports an error of the file.
+    void useAircraftFile(const std::string& path);
 
     const Entries& entries() const { return m_entries; }
 

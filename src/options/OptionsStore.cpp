@@ -24,7 +24,6 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view source = "OptionsStore";
 constexpr std::string_view section = "Options";
-constexpr std::string_view importSection = "Import";
 
 struct Key
 {
@@ -50,26 +49,40 @@ std::string bytesOf(const std::string& path)
     }
 }
 
-struct FolderUnits
-{
-    QString folder;
-    QString units;
-};
-
 std::string numbered(std::string_view key, std::size_t index)
 {
     return std::string(key) + std::to_string(index + 1);
 }
 
-/// The units of all folders, newest first.
-std::vector<FolderUnits> importsOf(const SettingsText& file)
+/// Ends at the first pair without a key; older pairs after it are what a longer list has left.
+std::vector<RememberedPair> pairsOf(const SettingsText& file, const RememberedList& list)
 {
-    std::vector<FolderUnits> entries;
-    while (const auto folder = file.value(importSection, numbered("Folder", entries.size()))) {
-        const auto units = file.value(importSection, numbered("Units", entries.size()));
-        entries.push_back({*folder, units.value_or(QString())});
+    std::vector<RememberedPair> pairs;
+    while (pairs.size() < list.most) {
+        const auto key = file.value(list.section, numbered(list.key, pairs.size()));
+        if (!key || key->isEmpty())
+            break;
+        const auto value = file.value(list.section, numbered(list.value, pairs.size()));
+        pairs.push_back({*key, value.value_or(QString())});
     }
-    return entries;
+    return pairs;
+}
+
+/// `pairs` and, after them, what else the list contains.
+std::vector<RememberedPair> withNewest(const std::vector<RememberedPair>& pairs,
+                                       const std::vector<RememberedPair>& known,
+                                       const RememberedList& list)
+{
+    std::vector<RememberedPair> result;
+    const auto add = [&result](const RememberedPair& pair) {
+        const auto isSame = [&pair](const RememberedPair& other) { return other.key == pair.key; };
+        if (std::none_of(result.begin(), result.end(), isSame))
+            result.push_back(pair);
+    };
+    std::for_each(pairs.begin(), pairs.end(), add);
+    std::for_each(known.begin(), known.end(), add);
+    result.resize(std::min(result.size(), list.most));
+    return result;
 }
 
 std::string keptPath(const std::string& path)
@@ -95,6 +108,11 @@ std::string OptionsStore::defaultPath()
 {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation).toStdString()
         + "/tarsil/tarsil.ini";
+}
+
+OptionsStore OptionsStore::memory() const
+{
+    return OptionsStore(shownPath(joinPath(resolvePath(m_path).folder, "windows.ini")));
 }
 
 SettingsText OptionsStore::readWhole() const
@@ -142,25 +160,57 @@ void OptionsStore::write(const OptionTexts& texts, const OptionTexts& before) co
     writeFile(m_path, file.bytes());
 }
 
-std::optional<QString> OptionsStore::importUnits(const QString& folder) const
+std::vector<RememberedPair> OptionsStore::pairs(const RememberedList& list) const
 {
-    for (const FolderUnits& entry : importsOf(readWhole())) {
-        if (entry.folder == folder)
-            return entry.units;
+    return pairsOf(readWhole(), list);
+}
+
+std::optional<QString> OptionsStore::value(const RememberedList& list, const QString& key) const
+{
+    for (const RememberedPair& pair : pairs(list)) {
+        if (pair.key == key)
+            return pair.value;
     }
     return std::nullopt;
 }
 
-void OptionsStore::keepImportUnits(const QString& folder, const QString& units) const
+void OptionsStore::remember(const RememberedList& list,
+                            const std::vector<RememberedPair>& pairs) const
 {
     SettingsText file = readToWrite();
-    std::vector<FolderUnits> entries = importsOf(file);
-    std::erase_if(entries, [&folder](const FolderUnits& entry) { return entry.folder == folder; });
-    entries.insert(entries.begin(), {folder, units});
-    entries.resize(std::min(entries.size(), mostFolders));
+    write(file, list, pairs);
+}
+
+std::vector<RememberedPair> OptionsStore::pairsIfReadable(const RememberedList& list) const
+{
+    try {
+        return pairs(list);
+    } catch (const RunTimeError&) {
+        return {};
+    }
+}
+
+void OptionsStore::rememberQuietly(const RememberedList& list,
+                                   const std::vector<RememberedPair>& pairs) const
+{
+    try {
+        SettingsText file = readWhole();
+        if (withNewest(pairs, pairsOf(file, list), list) == pairsOf(file, list))
+            return;
+        makeFolderOf(m_path);
+        write(file, list, pairs);
+    } catch (const RunTimeError&) {
+        // the next start finds what it found last time
+    }
+}
+
+void OptionsStore::write(SettingsText& file, const RememberedList& list,
+                         const std::vector<RememberedPair>& pairs) const
+{
+    const std::vector<RememberedPair> entries = withNewest(pairs, pairsOf(file, list), list);
     for (std::size_t i = 0; i < entries.size(); ++i) {
-        file.setValue(importSection, numbered("Folder", i), entries[i].folder);
-        file.setValue(importSection, numbered("Units", i), entries[i].units);
+        file.setValue(list.section, numbered(list.key, i), entries[i].key);
+        file.setValue(list.section, numbered(list.value, i), entries[i].value);
     }
     writeFile(m_path, file.bytes());
 }

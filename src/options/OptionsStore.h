@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace tarsil {
 
@@ -20,7 +22,38 @@ struct OptionTexts
     bool operator==(const OptionTexts&) const = default;
 };
 
-/// The settings file of a user, with the sections "Options" and "Import".
+/// A list of pairs that the settings file keeps in a section of its own, newest first: the lines
+/// KEY1, VALUE1, KEY2, VALUE2 ... A key occurs once. Pairs beyond `most` are dropped.
+struct RememberedList
+{
+    std::string_view section;
+    std::string_view key;
+    std::string_view value;
+    std::size_t most;
+};
+
+namespace remembered {
+/// In the settings: the units of solver outputs by the folder of the outputs.
+inline constexpr RememberedList importUnits {"Import", "Folder", "Units", 50};
+/// In the memory of windows: the folder in which files were last chosen, by the filter of the file
+/// dialog.
+inline constexpr RememberedList folders {"Folders", "Filter", "Folder", 20};
+/// The workspaces and evolutions last opened: path, and date.
+inline constexpr RememberedList workspaces {"RecentWorkspaces", "File", "Opened", 10};
+inline constexpr RememberedList evolutions {"RecentEvolutions", "File", "Opened", 10};
+/// Sizes and positions by the name of the window or table.
+inline constexpr RememberedList windows {"Windows", "Name", "Layout", 50};
+} // namespace remembered
+
+struct RememberedPair
+{
+    QString key;
+    QString value;
+
+    bool operator==(const RememberedPair&) const = default;
+};
+
+/// The settings file of a user: the section "Options", and a section for each remembered list.
 ///
 ///     [Options]
 ///     AcInfoDataFile=/home/me/wing.inp
@@ -39,6 +72,10 @@ public:
 
     const std::string& path() const { return m_path; }
 
+    /// The file "windows.ini" beside this one, for what windows remember: it is written without
+    /// being asked, and this one only when the user has changed something.
+    OptionsStore memory() const;
+
     /// Reads the options. A missing file or key gives an empty text. Errors: 75 or another read
     /// error when the file cannot be read; 13 when it is damaged, with the name under which `write`
     /// will keep it.
@@ -52,18 +89,30 @@ public:
     /// except 13, and those of `AtomicFile`.
     void write(const OptionTexts& texts, const OptionTexts& before) const;
 
-    /// The units last stored for solver outputs of a folder. Errors: those of `read`.
-    std::optional<QString> importUnits(const QString& folder) const;
+    /// The pairs of a list, newest first. Errors: those of `read`.
+    std::vector<RememberedPair> pairs(const RememberedList& list) const;
 
-    /// Stores the units for a folder in the section "Import". Removes the oldest folders beyond
-    /// `mostFolders`. Errors: those of `write`.
-    void keepImportUnits(const QString& folder, const QString& units) const;
+    /// The value of a key of a list. Errors: those of `read`.
+    std::optional<QString> value(const RememberedList& list, const QString& key) const;
 
-    static constexpr std::size_t mostFolders = 50;
+    /// Puts the pairs at the start of a list, the first one first, as the user's choice. Errors:
+    /// those of `write`.
+    void remember(const RememberedList& list, const std::vector<RememberedPair>& pairs) const;
+
+    /// The pairs of a list, for what the user has not asked for, such as the size of a window:
+    /// empty instead of an error.
+    std::vector<RememberedPair> pairsIfReadable(const RememberedList& list) const;
+
+    /// As `remember`, for the same: leaves a file that is damaged or cannot be written as it is,
+    /// without an error. Writes nothing when the list stays the same.
+    void rememberQuietly(const RememberedList& list,
+                         const std::vector<RememberedPair>& pairs) const;
 
 private:
     SettingsText readWhole() const;
     SettingsText readToWrite() const;
+    void write(SettingsText& file, const RememberedList& list,
+               const std::vector<RememberedPair>& pairs) const;
 
     std::string m_path;
 };

@@ -154,3 +154,13 @@ TEST_F(ImportResults, areNoFoldersAndNothing)
     EXPECT_EQ(dialog(), nullptr);
     EXPECT_THAT(user.messages, IsEmpty());
 }
+
+TEST_F(ImportResults, readAnAircraftFileThatIsDropped)
+{
+    load();
+    drop({sample("goland.inp"), sample("goland_clean_m040.ev2")});
+    EXPECT_EQ(window.document().airplane().Filename, sample("goland.inp"));
+    EXPECT_FALSE(window.document().airplane().MassConfs.empty());
+    EXPECT_EQ(window.document().evolutions().all().size(), 1U);
+    EXPECT_TRUE(user.messages.empty());
+}

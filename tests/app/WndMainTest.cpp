@@ -55,7 +55,8 @@ TEST_F(WndMainTest, hasTheMenusLetterForLetter)
     EXPECT_THAT(captionsOf(menu("FileMenu")),
                 ElementsAre("&New Workspace", "&Open Workspace ...", "&Save Worspace",
                             "&Add Modal Evolution ...", "&Import Solver Results ...",
-                            "&Export Mix File ...", "Quit"));
+                            "&Export Mix File ...", "&Recent Workspaces",
+                            "Re&cent Modal Evolutions", "Quit"));
     EXPECT_THAT(captionsOf(menu("EditMenu")), ElementsAre("&Undo", "&Redo"));
     EXPECT_THAT(captionsOf(menu("mnuView")),
                 ElementsAre("Data Control", "Modal Evolution Explorer", "V-g-f Plot"));
@@ -69,7 +70,10 @@ TEST_F(WndMainTest, hasTheMenusLetterForLetter)
     std::vector<std::string> bar;
     for (const QAction* entry : window.menuBar()->actions())
         bar.push_back(entry->text().toStdString());
-    EXPECT_THAT(bar, ElementsAre("&File", "&View", "&Format", "&Tools", "&Window", "&Edit"));
+    EXPECT_THAT(bar,
+                ElementsAre("&File", "&View", "&Format", "&Tools", "&Window", "&Edit", "&Help"));
+    EXPECT_THAT(captionsOf(menu("HelpMenu")),
+                ElementsAre("&Guide", "&Keys", "Open &Samples", "&About Tarsil"));
 }
 
 TEST_F(WndMainTest, hasThePopupsOfPlotAndExplorer)

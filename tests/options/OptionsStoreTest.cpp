@@ -13,7 +13,9 @@
 
 #include <cerrno>
 #include <csignal>
+#include <filesystem>
 #include <system_error>
+#include <vector>
 
 using namespace tarsil;
 using test::errorNumberOf;
@@ -259,12 +261,12 @@ TEST_F(OptionsStoreTest, keepsTheUnitsOfImportsForTheirFolder)
     const OptionsStore store = storeOf("[Options]\nvgfThicks=7|5|5\n");
     const QString runs = QStringLiteral("/runs/a=b; c");
     const QString others = QStringLiteral("/others");
-    EXPECT_EQ(store.importUnits(runs), std::nullopt);
-    store.keepImportUnits(runs, QStringLiteral("ft/s|1|ratio|"));
-    store.keepImportUnits(others, QStringLiteral("m/s|1|kg/m3|"));
-    store.keepImportUnits(runs, QStringLiteral("kt|1|ratio|equivalent"));
-    EXPECT_EQ(store.importUnits(runs), QStringLiteral("kt|1|ratio|equivalent"));
-    EXPECT_EQ(store.importUnits(others), QStringLiteral("m/s|1|kg/m3|"));
+    EXPECT_EQ(store.value(remembered::importUnits, runs), std::nullopt);
+    store.remember(remembered::importUnits, {{runs, QStringLiteral("ft/s|1|ratio|")}});
+    store.remember(remembered::importUnits, {{others, QStringLiteral("m/s|1|kg/m3|")}});
+    store.remember(remembered::importUnits, {{runs, QStringLiteral("kt|1|ratio|equivalent")}});
+    EXPECT_EQ(store.value(remembered::importUnits, runs), QStringLiteral("kt|1|ratio|equivalent"));
+    EXPECT_EQ(store.value(remembered::importUnits, others), QStringLiteral("m/s|1|kg/m3|"));
     EXPECT_EQ(store.read(), texts("", "", "7|5|5"));
 }
 
@@ -272,19 +274,56 @@ TEST_F(OptionsStoreTest, forgetsTheFolderThatWasImportedFromLongestAgo)
 {
     const OptionsStore store(folder.file("tarsil.ini"));
     const auto nameOf = [](std::size_t i) { return QStringLiteral("/runs/%1").arg(i); };
-    for (std::size_t i = 0; i <= OptionsStore::mostFolders; ++i)
-        store.keepImportUnits(nameOf(i), QStringLiteral("m/s|1|ratio|"));
-    EXPECT_EQ(store.importUnits(nameOf(0)), std::nullopt);
-    EXPECT_TRUE(store.importUnits(nameOf(1)));
-    EXPECT_TRUE(store.importUnits(nameOf(OptionsStore::mostFolders)));
+    for (std::size_t i = 0; i <= remembered::importUnits.most; ++i)
+        store.remember(remembered::importUnits, {{nameOf(i), QStringLiteral("m/s|1|ratio|")}});
+    EXPECT_EQ(store.value(remembered::importUnits, nameOf(0)), std::nullopt);
+    EXPECT_TRUE(store.value(remembered::importUnits, nameOf(1)));
+    EXPECT_TRUE(store.value(remembered::importUnits, nameOf(remembered::importUnits.most)));
 }
 
 TEST_F(OptionsStoreTest, keepsADamagedFileBesideUnitsOfImports)
 {
     const OptionsStore store = storeOf("no line of settings\n");
-    EXPECT_EQ(errorNumberOf([&] { (void)store.importUnits(QStringLiteral("/runs")); }),
-              ErrorNumber::TypeMismatch);
-    store.keepImportUnits(QStringLiteral("/runs"), QStringLiteral("m/s|1|ratio|"));
-    EXPECT_TRUE(store.importUnits(QStringLiteral("/runs")));
+    EXPECT_EQ(
+        errorNumberOf([&] { (void)store.value(remembered::importUnits, QStringLiteral("/runs")); }),
+        ErrorNumber::TypeMismatch);
+    store.remember(remembered::importUnits,
+                   {{QStringLiteral("/runs"), QStringLiteral("m/s|1|ratio|")}});
+    EXPECT_TRUE(store.value(remembered::importUnits, QStringLiteral("/runs")));
     EXPECT_EQ(test::fileBytes(store.path() + ".damaged"), "no line of settings\n");
+}
+
+TEST_F(OptionsStoreTest, remembersTheLastFilesNewestFirst)
+{
+    const OptionsStore store = storeOf("[Options]\nvgfThicks=7|5|5\n");
+    const QString wing = QStringLiteral("/runs/wing.tsw");
+    const QString tail = QStringLiteral("/runs/tail.tsw");
+    store.rememberQuietly(remembered::workspaces, {{wing, QStringLiteral("1")}});
+    store.rememberQuietly(remembered::workspaces, {{tail, QStringLiteral("2")}});
+    store.rememberQuietly(remembered::workspaces, {{wing, QStringLiteral("3")}});
+    EXPECT_EQ(
+        store.pairsIfReadable(remembered::workspaces),
+        (std::vector<RememberedPair> {{wing, QStringLiteral("3")}, {tail, QStringLiteral("2")}}));
+    EXPECT_EQ(store.read(), texts("", "", "7|5|5"));
+}
+
+TEST_F(OptionsStoreTest, leavesADamagedFileAloneForWhatNobodyAskedFor)
+{
+    const OptionsStore store = storeOf("no line of settings\n");
+    store.rememberQuietly(remembered::windows, {{QStringLiteral("wndMain"), QStringLiteral("1")}});
+    EXPECT_TRUE(store.pairsIfReadable(remembered::windows).empty());
+    EXPECT_EQ(test::fileBytes(store.path()), "no line of settings\n");
+}
+
+TEST_F(OptionsStoreTest, writesNothingWhenAListStaysTheSame)
+{
+    const OptionsStore store(folder.file("tarsil.ini"));
+    const std::vector<RememberedPair> window {{QStringLiteral("wndMain"), QStringLiteral("1")}};
+    store.rememberQuietly(remembered::windows, window);
+    std::filesystem::permissions(
+        folder.path(), std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec);
+    const auto written = std::filesystem::last_write_time(store.path());
+    store.rememberQuietly(remembered::windows, window);
+    EXPECT_EQ(std::filesystem::last_write_time(store.path()), written);
+    std::filesystem::permissions(folder.path(), std::filesystem::perms::owner_all);
 }
