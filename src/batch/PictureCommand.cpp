@@ -6,6 +6,7 @@
 #include "batch/WorkspaceInput.h"
 #include "vgfplot/EvmPlot.h"
 #include "vgfplot/EvolutionPlotter.h"
+#include "vgfplot/PictureWriter.h"
 #include "vgfplot/PlotRecords.h"
 
 namespace tarsil::batch {

@@ -1,11 +1,8 @@
 #include "batch/PlotDrawing.h"
 
-#include "base/files/AtomicFile.h"
-#include "batch/CommandLine.h"
 #include "batch/PictureOptions.h"
 #include "rtf/RtfReader.h"
 #include "vgfplot/EvmPlot.h"
-#include "vgfplot/PictureWriter.h"
 #include "vgfplot/ScaleFit.h"
 
 #include <algorithm>
@@ -40,11 +37,6 @@ void setText(EvmPlot& plot, TextBox box, const std::optional<std::string>& text)
             QString::fromStdString(*text).replace(QStringLiteral("\\n"), QStringLiteral("\n")));
 }
 
-bool endsIn(std::string_view path, std::string_view extension)
-{
-    return hasExtension(path, {&extension, 1});
-}
-
 } // namespace
 
 void setScale(EvmPlot& plot, const PictureOptions& options)
@@ -71,19 +63,6 @@ void setTexts(EvmPlot& plot, const PictureOptions& options)
         plot.references().AddRef(reference.value, reference.caption);
     for (const CaptionedValue& damping : options.dampingLines)
         plot.references().AddDampLine(damping.value, damping.caption);
-}
-
-void writePicture(EvmPlot& plot, const std::string& path)
-{
-    if (endsIn(path, ".emf")) { // streamed, because it can be large
-        plot.ExportPic(QString::fromStdString(path));
-        return;
-    }
-    const PictureFormat format = endsIn(path, ".svg") ? PictureFormat::Svg
-        : endsIn(path, ".pdf")                        ? PictureFormat::Pdf
-                                                      : PictureFormat::Png;
-    const QByteArray bytes = pictureBytes(plot, format);
-    writeFile(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 
 } // namespace tarsil::batch

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string>
-
 namespace tarsil {
 class EvmPlot;
 }
@@ -18,9 +16,5 @@ void setScale(EvmPlot& plot, const PictureOptions& options);
 
 /// Adds the requested texts, reference speeds and damping lines.
 void setTexts(EvmPlot& plot, const PictureOptions& options);
-
-/// Writes the picture in the format of the path's extension. Errors: those of drawing and of
-/// writing.
-void writePicture(EvmPlot& plot, const std::string& path);
 
 } // namespace tarsil::batch

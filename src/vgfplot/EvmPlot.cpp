@@ -151,6 +151,11 @@ void EvmPlot::WriteEmfPicture(const QString& fileName) const
     file.commit();
 }
 
+QString EvmPlot::title() const
+{
+    return QStringLiteral("V-g-f plot");
+}
+
 void EvmPlot::Draw(DeviceContext& context) const
 {
     context.fillRectangle({QPoint(0, 0), size()}, white);

@@ -3,6 +3,7 @@
 #include "model/PlotAxes.h"
 #include "plot/EmfRichTextBox.h"
 #include "plot/UcPlot.h"
+#include "vgfplot/DrawnPicture.h"
 #include "vgfplot/PlotParts.h"
 #include "vgfplot/PlotPicture.h"
 #include "vgfplot/PlotProperties.h"
@@ -14,10 +15,9 @@
 #include <QImage>
 #include <QObject>
 #include <QSize>
+#include <QString>
 
 #include <cstddef>
-
-class QString;
 
 namespace tarsil {
 
@@ -29,7 +29,7 @@ class DeviceContext;
 /// the picture as stale; it is redrawn on the next request.
 ///
 /// Speeds are KEAS, frequencies Hz, dampings g dimensionless (negative is stable).
-class EvmPlot : public QObject, public PlotContainer
+class EvmPlot : public QObject, public PlotContainer, public DrawnPicture
 {
     Q_OBJECT
 
@@ -86,7 +86,8 @@ public:
     /// Sets the size in pixels at 96 per inch and updates the layout. `ratio`: physical pixels of
     /// the screen for each pixel.
     void resize(QSize size, double ratio = 1) { m_picture.resize(size, ratio); }
-    QSize size() const { return m_picture.size(); }
+    QSize size() const override { return m_picture.size(); }
+    QString title() const override;
 
     /// The opaque picture for the screen. Draws stale items first. Errors: those of drawing; the
     /// next call returns what could be drawn.
@@ -98,7 +99,7 @@ public:
 
     /// Draws the picture into `context`: white ground, axes, titles, boxes, curves. Edits in
     /// progress are not included; call `commitEdits` first to include them.
-    void Draw(DeviceContext& context) const;
+    void Draw(DeviceContext& context) const override;
 
     /// Asks the editor of a text to apply it to the plot. Call before the plot is saved, copied or
     /// made a picture.

@@ -1,11 +1,12 @@
 #include "vgfplot/PictureWriter.h"
 
+#include "base/files/AtomicFile.h"
 #include "base/user/RunTimeError.h"
 #include "emf/EmfSink.h"
 #include "emf/MetafileContext.h"
 #include "surface/PainterContext.h"
 #include "surface/SvgContext.h"
-#include "vgfplot/EvmPlot.h"
+#include "vgfplot/DrawnPicture.h"
 
 #include <QBuffer>
 #include <QMimeData>
@@ -30,39 +31,37 @@ constexpr double clipboardScale = 2; ///< sharp enough for a printed report
 /// The separators are a backslash and the digit zero, as in all such pictures so far.
 const QString description = QStringLiteral("Tarsil\\0Created by Kestrin\\0\\0");
 
-const QString title = QStringLiteral("V-g-f plot");
-
-void draw(const EvmPlot& plot, QPaintDevice& device)
+void draw(const DrawnPicture& picture, QPaintDevice& device)
 {
     QPainter painter;
     if (!painter.begin(&device))
         fail("the picture cannot be drawn");
     PainterContext context(painter);
-    plot.Draw(context);
+    picture.Draw(context);
     context.flush();
     painter.end();
 }
 
-void writeSvg(const EvmPlot& plot, QBuffer& buffer)
+void writeSvg(const DrawnPicture& picture, QBuffer& buffer)
 {
-    SvgContext context(buffer, plot.size(), title);
-    plot.Draw(context);
+    SvgContext context(buffer, picture.size(), picture.title());
+    picture.Draw(context);
 }
 
-QSizeF pagePoints(const EvmPlot& plot)
+QSizeF pagePoints(const DrawnPicture& picture)
 {
-    return QSizeF(plot.size()) * pointsPerInch / pixelsPerInch;
+    return QSizeF(picture.size()) * pointsPerInch / pixelsPerInch;
 }
 
-void writePdf(const EvmPlot& plot, QBuffer& buffer)
+void writePdf(const DrawnPicture& picture, QBuffer& buffer)
 {
     QPdfWriter writer(&buffer);
     writer.setResolution(pixelsPerInch);
-    writer.setTitle(title);
+    writer.setTitle(picture.title());
     writer.setPageSize(
-        QPageSize(pagePoints(plot), QPageSize::Point, QString(), QPageSize::ExactMatch));
+        QPageSize(pagePoints(picture), QPageSize::Point, QString(), QPageSize::ExactMatch));
     writer.setPageMargins(QMarginsF());
-    draw(plot, writer);
+    draw(picture, writer);
 }
 
 /// Qt rounds the page to whole points, with the drawing at its upper left corner. Writes the exact
@@ -84,25 +83,25 @@ QByteArray withExactPage(QByteArray pdf, QSizeF points)
     return pdf.replace(start, length, box.leftJustified(length));
 }
 
-QByteArray metafileBytes(const EvmPlot& plot)
+QByteArray metafileBytes(const DrawnPicture& picture)
 {
     EmfMemory memory;
-    writeMetafile(plot, memory);
+    writeMetafile(picture, memory);
     return QByteArray::fromStdString(memory.bytes());
 }
 
 } // namespace
 
-void writeMetafile(const EvmPlot& plot, EmfSink& sink)
+void writeMetafile(const DrawnPicture& picture, EmfSink& sink)
 {
     MetafileContext context(sink, description);
-    plot.Draw(context);
+    picture.Draw(context);
     context.close();
 }
 
-QImage pictureImage(const EvmPlot& plot, double scale)
+QImage pictureImage(const DrawnPicture& picture, double scale)
 {
-    QImage image(plot.size() * scale, QImage::Format_RGB32);
+    QImage image(picture.size() * scale, QImage::Format_RGB32);
     if (image.isNull())
         fail("a bitmap of this size");
     const int dotsPerMetre = qRound(scale * pixelsPerInch * inchesPerMetre);
@@ -110,44 +109,63 @@ QImage pictureImage(const EvmPlot& plot, double scale)
     image.setDotsPerMeterY(dotsPerMetre);
     image.setDevicePixelRatio(scale);
     image.fill(Qt::white);
-    draw(plot, image);
+    draw(picture, image);
     image.setDevicePixelRatio(1);
     return image;
 }
 
-QByteArray pictureBytes(const EvmPlot& plot, PictureFormat format)
+QByteArray pictureBytes(const DrawnPicture& picture, PictureFormat format)
 {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     switch (format) {
     case PictureFormat::Svg:
-        writeSvg(plot, buffer);
+        writeSvg(picture, buffer);
         break;
     case PictureFormat::Pdf:
-        writePdf(plot, buffer);
-        return withExactPage(buffer.data(), pagePoints(plot));
+        writePdf(picture, buffer);
+        return withExactPage(buffer.data(), pagePoints(picture));
     case PictureFormat::Emf:
-        return metafileBytes(plot);
+        return metafileBytes(picture);
     case PictureFormat::Png:
-        if (!pictureImage(plot, 1).save(&buffer, "PNG"))
+        if (!pictureImage(picture, 1).save(&buffer, "PNG"))
             fail("the picture cannot be made");
         break;
     }
     return buffer.data();
 }
 
-std::unique_ptr<QMimeData> pictureMimeData(const EvmPlot& plot)
+std::unique_ptr<QMimeData> pictureMimeData(const DrawnPicture& picture)
 {
     auto data = std::make_unique<QMimeData>();
-    const QByteArray metafile = pictureBytes(plot, PictureFormat::Emf);
+    const QByteArray metafile = pictureBytes(picture, PictureFormat::Emf);
     // One picture under several names: there is no standard one for metafiles.
     data->setData(QStringLiteral("application/x-openoffice-emf;windows_formatname=\"Image EMF\""),
                   metafile);
     data->setData(QStringLiteral("image/x-emf"), metafile);
     data->setData(QStringLiteral("image/emf"), metafile);
-    data->setData(QStringLiteral("image/svg+xml"), pictureBytes(plot, PictureFormat::Svg));
-    data->setImageData(pictureImage(plot, clipboardScale));
+    data->setData(QStringLiteral("image/svg+xml"), pictureBytes(picture, PictureFormat::Svg));
+    data->setImageData(pictureImage(picture, clipboardScale));
     return data;
+}
+
+void writePicture(const DrawnPicture& picture, const std::string& path)
+{
+    const QString name = QString::fromStdString(path);
+    const auto endsIn = [&name](QLatin1String extension) {
+        return name.endsWith(extension, Qt::CaseInsensitive);
+    };
+    if (endsIn(QLatin1String(".emf"))) {
+        EmfFile file(path);
+        writeMetafile(picture, file);
+        file.commit();
+        return;
+    }
+    const PictureFormat format = endsIn(QLatin1String(".svg")) ? PictureFormat::Svg
+        : endsIn(QLatin1String(".pdf"))                        ? PictureFormat::Pdf
+                                                               : PictureFormat::Png;
+    const QByteArray bytes = pictureBytes(picture, format);
+    writeFile(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 
 } // namespace tarsil

@@ -4,30 +4,36 @@
 #include <QImage>
 
 #include <memory>
+#include <string>
 
 class QMimeData;
 
 namespace tarsil {
 
+class DrawnPicture;
 class EmfSink;
-class EvmPlot;
 
 enum class PictureFormat { Png, Svg, Pdf, Emf };
 
-// The plot in its current size as a picture; a pixel is 1/96 inch. Edits in progress are not
-// included (`EvmPlot::commitEdits`). Needs a QGuiApplication. Errors: those of drawing; 5 for a
+// A picture in its current size; a pixel is 1/96 inch. Edits in progress are not included
+// (`EvmPlot::commitEdits`). Needs a QGuiApplication. Errors: those of drawing; 5 for a
 // bitmap that does not fit into memory.
 
 /// Writes the picture as an Enhanced Metafile; does not commit `sink`.
-void writeMetafile(const EvmPlot& plot, EmfSink& sink);
+void writeMetafile(const DrawnPicture& picture, EmfSink& sink);
 
-QByteArray pictureBytes(const EvmPlot& plot, PictureFormat format);
+QByteArray pictureBytes(const DrawnPicture& picture, PictureFormat format);
 
-/// `scale`: physical pixels for each pixel of the plot.
-QImage pictureImage(const EvmPlot& plot, double scale);
+/// `scale`: physical pixels for each pixel of the picture.
+QImage pictureImage(const DrawnPicture& picture, double scale);
 
 /// The picture for the clipboard: metafile, SVG and bitmap, so that the receiving program can
 /// choose.
-std::unique_ptr<QMimeData> pictureMimeData(const EvmPlot& plot);
+std::unique_ptr<QMimeData> pictureMimeData(const DrawnPicture& picture);
+
+/// Writes the picture to a file, whole or not at all. The extension of `path`, in any case, selects
+/// the format: .emf, .svg, .pdf, otherwise png. A metafile is streamed, because it can be large.
+/// Errors: also those of writing a file.
+void writePicture(const DrawnPicture& picture, const std::string& path);
 
 } // namespace tarsil

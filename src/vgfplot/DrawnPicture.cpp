@@ -1,0 +1,7 @@
+#include "vgfplot/DrawnPicture.h"
+
+namespace tarsil {
+
+DrawnPicture::~DrawnPicture() = default;
+
+} // namespace tarsil
