@@ -21,6 +21,7 @@
 #include "options/DlgOptions.h"
 #include "plotwindow/DlgPlotProp.h"
 #include "plotwindow/WndEvolPlot.h"
+#include "stability/TrendWindow.h"
 #include "stability/WndStability.h"
 #include "vgfplot/EvmPlot.h"
 #include "vgfplot/EvolutionPlotter.h"
@@ -550,6 +551,25 @@ void wndMain::connectStability()
             [this] { runTracking([this] { m_tracking.undoExchange(); }); });
 }
 
+void wndMain::showTrend()
+{
+    if (!m_trend) {
+        m_trend = std::make_unique<TrendWindow>(m_document, m_userInterface, this);
+        connect(m_explorer, &wndEvolExplorer::ticksChanged, m_trend.get(),
+                [this] { showTickedInTrend(); });
+    }
+    showTickedInTrend();
+    m_trend->show();
+    m_trend->raise();
+    m_trend->activateWindow();
+}
+
+void wndMain::showTickedInTrend()
+{
+    const std::vector<EVM*> ticked = m_explorer->tickedEvolutions();
+    m_trend->showEvolutions({ticked.begin(), ticked.end()});
+}
+
 /// Runs a command that changes a tracked evolution.
 void wndMain::runTracking(const std::function<void()>& action)
 {
@@ -634,6 +654,7 @@ void wndMain::closeDialogs()
     m_refSpeed.reset();
     m_dampLine.reset();
     m_stability.reset();
+    m_trend.reset();
     m_options.reset();
     m_import.reset();
     m_guide.reset();

@@ -36,6 +36,7 @@ class wndData;
 class wndEvolExplorer;
 class wndEvolPlot;
 class wndStability;
+class TrendWindow;
 
 /// The main window: menus, pop-up menus, status bar, and three child windows. Owns the document.
 /// Each command has one implementation, shared by its menu item and the item's twin in a pop-up.
@@ -140,6 +141,8 @@ private:
     void mnuFlutCalc_Click();
     void showStability();
     void connectStability();
+    void showTrend();
+    void showTickedInTrend();
     void runTracking(const std::function<void()>& action);
     void trackModes();
     void mnuOptions_Click();
@@ -188,6 +191,7 @@ private:
     std::unique_ptr<dlgRefSpeed> m_refSpeed; ///< dialogs are created on first use
     std::unique_ptr<dlgDampLine> m_dampLine;
     std::unique_ptr<wndStability> m_stability;
+    std::unique_ptr<TrendWindow> m_trend;
     std::unique_ptr<dlgOptions> m_options;
     std::unique_ptr<dlgImport> m_import; ///< while it is open
     std::unique_ptr<wndGuide> m_guide;

@@ -67,6 +67,7 @@ std::vector<wndMain::CommandMenu> wndMain::commandTable()
           {"mnuClearDamp", "popClearDamp", "Clear Damping Lines", &wndMain::mnuClearDamp_Click},
           {"mnuFlutCalc", "popFlutCalc", "Calculate Flutter Speeds", &wndMain::mnuFlutCalc_Click},
           {"stability", "popStability", "Stability ...", &wndMain::showStability},
+          {"flutterTrend", nullptr, "Flutter Trend ...", &wndMain::showTrend},
           {"mnuOptions", nullptr, "Options ...", &wndMain::mnuOptions_Click}}},
         {"WindowsMenu",
          "&Window",

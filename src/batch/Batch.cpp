@@ -15,9 +15,9 @@ namespace tarsil::batch {
 
 namespace {
 
-constexpr std::array<const Command*, 9> commands = {
+constexpr std::array<const Command*, 10> commands = {
     &infoCommand, &checkCommand,  &reportCommand,    &pictureCommand, &convertCommand,
-    &mixCommand,  &importCommand, &crossingsCommand, &trackCommand};
+    &mixCommand,  &importCommand, &crossingsCommand, &trackCommand,   &trendCommand};
 
 std::string programHelp()
 {
@@ -135,8 +135,13 @@ int runBatch(const std::vector<std::string>& arguments, std::ostream& out, std::
 
 bool drawsPicture(const std::vector<std::string>& arguments)
 {
-    return !arguments.empty() && arguments[0] == pictureCommand.description.name
-        && !asksForHelp(pictureCommand, std::span(arguments).subspan(1));
+    if (arguments.empty())
+        return false;
+    const auto draws = [&arguments](const Command& command) {
+        return arguments[0] == command.description.name
+            && !asksForHelp(command, std::span(arguments).subspan(1));
+    };
+    return draws(pictureCommand) || draws(trendCommand);
 }
 
 } // namespace tarsil::batch

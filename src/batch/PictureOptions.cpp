@@ -58,17 +58,6 @@ std::optional<PlotTicks> ticksOf(const CommandLine& line)
     return ticks;
 }
 
-QSize sizeOf(const CommandLine& line, QSize otherwise)
-{
-    const auto text = line.value("--size");
-    if (!text)
-        return otherwise;
-    const auto pieces = split(*text, 'x');
-    if (pieces.size() != 2)
-        throw wrongValue("--size", *text, "a size such as 1000x750");
-    return {countOf(pieces[0], largestSide, "--size"), countOf(pieces[1], largestSide, "--size")};
-}
-
 /// The values of an option "VALUE=CAPTION"; the caption may be missing.
 std::vector<CaptionedValue> captionedValuesOf(const CommandLine& line, std::string_view option)
 {
@@ -157,11 +146,22 @@ constinit const std::array<OptionDescription, 14> pictureOptionDescriptions = {
      {"--marker-size", "N", "size of the markers in points; default 8"},
      {"--output", "OUTPUT", "the file to write, which ends in .png, .svg, .pdf or\n.emf", true}}};
 
+QSize pictureSizeOf(const CommandLine& line, QSize otherwise)
+{
+    const auto text = line.value("--size");
+    if (!text)
+        return otherwise;
+    const auto pieces = split(*text, 'x');
+    if (pieces.size() != 2)
+        throw wrongValue("--size", *text, "a size such as 1000x750");
+    return {countOf(pieces[0], largestSide, "--size"), countOf(pieces[1], largestSide, "--size")};
+}
+
 PictureOptions pictureOptionsOf(const CommandLine& line)
 {
     PictureOptions options;
     options.output = outputOf(line, pictureOutputs);
-    options.size = sizeOf(line, options.size);
+    options.size = pictureSizeOf(line, options.size);
     if (const auto list = line.value("--modes"))
         options.modes = modeListOf(*list);
     options.bounds = boundsOf(line);

@@ -45,6 +45,9 @@ struct PictureOptions
 
 extern const std::array<OptionDescription, 14> pictureOptionDescriptions;
 
+/// The value of --size, or `otherwise`; UsageError for an invalid one.
+QSize pictureSizeOf(const CommandLine& line, QSize otherwise);
+
 /// Reads the options; UsageError for invalid ones.
 PictureOptions pictureOptionsOf(const CommandLine& line);
 

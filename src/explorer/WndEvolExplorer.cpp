@@ -88,6 +88,10 @@ void wndEvolExplorer::makeTree()
                 runCommand([&] { rename(*m_tree->itemFromIndex(index), text); });
             });
     connect(m_tree, &QTreeWidget::itemActivated, this, &wndEvolExplorer::nodeActivated);
+    connect(m_tree, &QTreeWidget::itemChanged, this, [this](const QTreeWidgetItem* node) {
+        if (taggedEvolution(node) != nullptr)
+            Q_EMIT ticksChanged();
+    });
     m_tree->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(m_tree, &QWidget::customContextMenuRequested, this, [this](QPoint position) {
         Q_EMIT menuRequested(m_tree->viewport()->mapToGlobal(position));

@@ -49,6 +49,9 @@ public:
     /// The evolution of the selected node itself; null otherwise.
     EVM* evolutionOfSelectedNode() const;
 
+    /// The evolutions whose boxes are ticked, in their order.
+    std::vector<EVM*> tickedEvolutions() const { return m_evolutions.ticked(); }
+
     /// Accepts the label that is being edited, as Enter does, and closes its editor.
     void commitEdits();
 
@@ -60,6 +63,9 @@ Q_SIGNALS:
     void openWanted();
     void saveWanted();
     void addWanted();
+
+    /// The user has ticked or unticked evolutions, or ticked ones have come or gone.
+    void ticksChanged();
 
     /// The user asks for the menu of the tree, by the right button or the keyboard.
     void menuRequested(QPoint globalPosition);

@@ -14,6 +14,9 @@
 #include <QPainter>
 #include <QPdfWriter>
 
+#include <array>
+#include <utility>
+
 namespace tarsil {
 
 namespace {
@@ -27,6 +30,10 @@ constexpr double clipboardScale = 2; ///< sharp enough for a printed report
 {
     throw RunTimeError(ErrorNumber::InvalidProcedureCall, "PictureWriter", details);
 }
+
+/// The formats other than metafiles by extension.
+constexpr std::array<std::pair<const char*, PictureFormat>, 3> formatsInMemory = {
+    {{".png", PictureFormat::Png}, {".svg", PictureFormat::Svg}, {".pdf", PictureFormat::Pdf}}};
 
 /// The separators are a backslash and the digit zero, as in all such pictures so far.
 const QString description = QStringLiteral("Tarsil\\0Created by Kestrin\\0\\0");
@@ -161,11 +168,15 @@ void writePicture(const DrawnPicture& picture, const std::string& path)
         file.commit();
         return;
     }
-    const PictureFormat format = endsIn(QLatin1String(".svg")) ? PictureFormat::Svg
-        : endsIn(QLatin1String(".pdf"))                        ? PictureFormat::Pdf
-                                                               : PictureFormat::Png;
-    const QByteArray bytes = pictureBytes(picture, format);
-    writeFile(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+    for (const auto& [extension, format] : formatsInMemory) {
+        if (!endsIn(QLatin1String(extension)))
+            continue;
+        const QByteArray bytes = pictureBytes(picture, format);
+        writeFile(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+        return;
+    }
+    throw RunTimeError(ErrorNumber::InvalidProcedureCall, "PictureWriter",
+                       path + " does not end in .png, .svg, .pdf or .emf");
 }
 
 } // namespace tarsil

@@ -32,8 +32,8 @@ QImage pictureImage(const DrawnPicture& picture, double scale);
 std::unique_ptr<QMimeData> pictureMimeData(const DrawnPicture& picture);
 
 /// Writes the picture to a file, whole or not at all. The extension of `path`, in any case, selects
-/// the format: .emf, .svg, .pdf, otherwise png. A metafile is streamed, because it can be large.
-/// Errors: also those of writing a file.
+/// the format: .png, .svg, .pdf or .emf. A metafile is streamed, because it can be large. Errors:
+/// also 5 for another extension and those of writing a file.
 void writePicture(const DrawnPicture& picture, const std::string& path);
 
 } // namespace tarsil

@@ -64,7 +64,8 @@ TEST_F(WndMainTest, hasTheMenusLetterForLetter)
     EXPECT_THAT(captionsOf(menu("mnuTools")),
                 ElementsAre("Add Reference Speed ...", "Clear Reference Speeds",
                             "Add Damping Line ...", "Clear Damping Lines",
-                            "Calculate Flutter Speeds", "Stability ...", "Options ..."));
+                            "Calculate Flutter Speeds", "Stability ...", "Flutter Trend ...",
+                            "Options ..."));
     EXPECT_THAT(captionsOf(menu("WindowsMenu")),
                 ElementsAre("Defalut Layout", "Tile Vertically", "Tile Horizontally"));
     std::vector<std::string> bar;
