@@ -155,7 +155,12 @@ void wndMain::makeChildWindows()
                 m_document.history().note(what, joining);
             });
     connect(m_evolPlot, &wndEvolPlot::plotMenuRequested, this,
-            [this](QPoint position) { m_plotMenu->popup(position); });
+            [this](QPoint position, bool hasCurve) {
+                (hasCurve ? m_curveMenu : m_plotMenu)->popup(position);
+            });
+    connect(m_evolPlot, &wndEvolPlot::curvesSelected, m_data, &wndData::selectRows);
+    connect(m_evolPlot, &wndEvolPlot::removeWanted, m_data, &wndData::removeRows);
+    connect(m_data, &wndData::rowsSelected, m_evolPlot, &wndEvolPlot::selectCurves);
     connectExplorer();
 }
 

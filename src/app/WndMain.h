@@ -187,6 +187,7 @@ private:
     QAction* m_undo = nullptr;
     QAction* m_redo = nullptr;
     QMenu* m_plotMenu = nullptr;
+    QMenu* m_curveMenu = nullptr; ///< that of the plot and the commands on the selected curves
     QMenu* m_explorerMenu = nullptr;
     std::unique_ptr<dlgRefSpeed> m_refSpeed; ///< dialogs are created on first use
     std::unique_ptr<dlgDampLine> m_dampLine;

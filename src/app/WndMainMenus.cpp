@@ -2,6 +2,7 @@
 
 #include "app/WndMain.h"
 
+#include "datacontrol/WndData.h"
 #include "vgfplot/EvmPlot.h"
 
 #include <QMenu>
@@ -128,6 +129,12 @@ void wndMain::makePopups()
                            command.twin);
         }
     }
+    m_curveMenu = new QMenu(QStringLiteral("EvmPlot"), this);
+    m_curveMenu->setObjectName(QStringLiteral("popCurve"));
+    m_curveMenu->addActions(m_plotMenu->actions());
+    m_curveMenu->addSeparator();
+    m_curveMenu->addActions(m_data->curveMenu().actions());
+    connect(m_curveMenu, &QMenu::aboutToShow, &m_data->curveMenu(), &QMenu::aboutToShow);
     m_explorerMenu = new QMenu(QStringLiteral("EvolExplorer"), this);
     m_explorerMenu->setObjectName(QStringLiteral("popEvolExplorer"));
     addCommand(*m_explorerMenu, {"", nullptr, "Set as reference", &wndMain::popSetRefEvol_Click},

@@ -123,6 +123,8 @@ void SeriesPanel::connectGrid()
     connect(&m_model, &SeriesGridModel::edited, this,
             [this](SeriesColumn column) { m_commands.run([=, this] { afterEdit(column); }); });
     connect(&m_model, &SeriesGridModel::refused, this, &SeriesPanel::askAgain);
+    connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &SeriesPanel::reportSelection);
 }
 
 /// The keys that follow are meant for the wrong text, not for the row.
@@ -178,6 +180,32 @@ void SeriesPanel::selectCurve(const EVM& evolution, std::int16_t mode)
     }
 }
 
+/// Keeps the selected cells when they are already in these rows.
+void SeriesPanel::selectRows(const std::vector<RowId>& rows)
+{
+    std::vector<std::size_t> indices;
+    for (const RowId id : rows) {
+        if (const auto index = m_model.plot()->rows().indexOf(id))
+            indices.push_back(*index);
+    }
+    std::sort(indices.begin(), indices.end());
+    if (indices == grid().selectedRows())
+        return;
+    commitEdits();
+    if (indices.empty())
+        grid().clearSelection();
+    else
+        grid().selectRows(indices, columnNumber(SeriesColumn::Mode));
+}
+
+void SeriesPanel::reportSelection()
+{
+    std::vector<RowId> rows;
+    for (const std::size_t row : grid().selectedRows())
+        rows.push_back(m_model.row(static_cast<int>(row))->id);
+    Q_EMIT rowsSelected(rows);
+}
+
 /// Applies the markers to all rows and draws the plot; then one message lists the modes that do not
 /// exist.
 void SeriesPanel::cmdDrawPlot_Click()
@@ -225,8 +253,12 @@ bool SeriesPanel::isModeSelected(const char* refusal)
 
 void SeriesPanel::cmdIncMode_Click()
 {
-    if (!isModeSelected("Please select cells in \"Mode\" column."))
-        return;
+    if (isModeSelected("Please select cells in \"Mode\" column."))
+        raiseModes();
+}
+
+void SeriesPanel::raiseModes()
+{
     changeAndPlot(tr("Raise Modes"), [this](EvmPlot& plot) {
         mdlData::raiseModes(plot.rows(), grid().selectedRows());
     });
@@ -234,8 +266,12 @@ void SeriesPanel::cmdIncMode_Click()
 
 void SeriesPanel::cmdDecMode_Click()
 {
-    if (!isModeSelected("You must first select cells in mode column!"))
-        return;
+    if (isModeSelected("You must first select cells in mode column!"))
+        lowerModes();
+}
+
+void SeriesPanel::lowerModes()
+{
     changeAndPlot(tr("Lower Modes"), [this](EvmPlot& plot) {
         mdlData::lowerModes(plot.rows(), grid().selectedRows());
     });

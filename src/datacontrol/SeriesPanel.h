@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <vector>
 
 namespace tarsil {
 
@@ -38,7 +39,20 @@ public:
     /// without such a row.
     void selectCurve(const EVM& evolution, std::int16_t mode);
 
+    /// Selects these rows of the active plot.
+    void selectRows(const std::vector<tarsil::RowId>& rows);
+
     SeriesGridView& grid() const;
+
+    // Commands on the selected rows.
+    void raiseModes();
+    void lowerModes();
+    void chooseLine();
+    void removeRows() { cmdRemove_Click(); }
+
+Q_SIGNALS:
+    /// The selected rows of the active plot have changed.
+    void rowsSelected(const std::vector<tarsil::RowId>& rows);
 
 private:
     void connectGrid();
@@ -62,7 +76,7 @@ private:
     void moveDown();
     void moveSelectedTo(std::size_t target);
     void move(const std::function<void(EvmPlot&)>& change);
-    void chooseLine();
+    void reportSelection();
     void afterEdit(SeriesColumn column);
     void askAgain(const QModelIndex& cell, const QString& text, const RunTimeError& error);
 

@@ -1,5 +1,6 @@
 #include "datacontrol/WndData.h"
 
+#include "datacontrol/CurveMenu.h"
 #include "datacontrol/LegendPanel.h"
 #include "datacontrol/MarkerPanel.h"
 #include "datacontrol/SeriesGridView.h"
@@ -13,13 +14,15 @@ namespace tarsil {
 
 wndData::wndData(Document& document, UserInterface& user, QWidget* parent)
     : QWidget(parent), m_commands(document, user, [this] { commitEdits(); }),
-      m_markers(new MarkerPanel(m_commands)), m_series(new SeriesPanel(m_commands, *m_markers))
+      m_markers(new MarkerPanel(m_commands)), m_series(new SeriesPanel(m_commands, *m_markers)),
+      m_curveMenu(new CurveMenu(m_commands, *m_series, *m_markers, this))
 {
     setObjectName(QStringLiteral("wndData"));
     setWindowTitle(tr("Data Control"));
     setAccessibleName(windowTitle());
     layOut();
     setFocusProxy(&m_series->grid());
+    connect(m_series, &SeriesPanel::rowsSelected, this, &wndData::rowsSelected);
 }
 
 wndData::~wndData() = default;
@@ -48,6 +51,16 @@ QSize wndData::sizeHint() const
 void wndData::commitEdits()
 {
     m_series->commitEdits();
+}
+
+void wndData::selectRows(const std::vector<RowId>& rows)
+{
+    m_series->selectRows(rows);
+}
+
+void wndData::removeRows()
+{
+    m_commands.command([this] { m_series->removeRows(); })();
 }
 
 void wndData::selectCurve(const EVM& evolution, std::int16_t mode)

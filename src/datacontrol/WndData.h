@@ -1,10 +1,14 @@
 #pragma once
 
 #include "datacontrol/DataCommands.h"
+#include "vgfplot/PlotRows.h"
 
 #include <QWidget>
 
 #include <cstdint>
+#include <vector>
+
+class QMenu;
 
 namespace tarsil {
 
@@ -30,7 +34,20 @@ public:
     /// without such a row.
     void selectCurve(const EVM& evolution, std::int16_t mode);
 
+    /// Selects these rows of the active plot in the grid.
+    void selectRows(const std::vector<tarsil::RowId>& rows);
+
+    /// Removes the selected rows, as Del in the grid does.
+    void removeRows();
+
+    /// The commands on the selected rows.
+    QMenu& curveMenu() { return *m_curveMenu; }
+
     QSize sizeHint() const override;
+
+Q_SIGNALS:
+    /// The selected rows of the grid have changed.
+    void rowsSelected(const std::vector<tarsil::RowId>& rows);
 
 private:
     void layOut();
@@ -38,6 +55,7 @@ private:
     DataCommands m_commands;
     MarkerPanel* m_markers; ///< the layout owns the panels
     SeriesPanel* m_series;
+    QMenu* m_curveMenu;
 };
 
 } // namespace tarsil

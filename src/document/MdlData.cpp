@@ -2,6 +2,7 @@
 
 #include "base/text/ShortList.h"
 #include "model/EVM.h"
+#include "surface/DeviceContext.h"
 #include "vgfplot/EvmPlot.h"
 
 #include <QStringList>
@@ -65,20 +66,44 @@ std::string missingModesText(const PlotRows& rows)
     return shortList(lines, mostRowLines);
 }
 
+bool isHidden(const Series& series)
+{
+    return series.LineStyle == penstyle::none
+        && series.MarkerStyle == markerNumber(MarkerKind::None);
+}
+
+void hide(Series& series)
+{
+    series.LineStyle = penstyle::none;
+    series.MarkerStyle = markerNumber(MarkerKind::None);
+}
+
+void show(Series& series, const MarkerOptions& markers)
+{
+    series.LineStyle = penstyle::solid;
+    markers.applyTo(series);
+}
+
 std::string buildSeries(PlotRows& rows, const MarkerOptions& markers)
 {
-    changeAll(rows, [&](Series& look) { markers.applyTo(look); });
+    changeAll(rows, [&](Series& look) {
+        const bool staysHidden = isHidden(look);
+        markers.applyTo(look);
+        if (staysHidden)
+            hide(look);
+    });
     return missingModesText(rows);
 }
 
 void changeMarkers(PlotRows& rows, const MarkerOptions& before, const MarkerOptions& now)
 {
     changeAll(rows, [&](Series& look) {
+        const bool staysHidden = isHidden(look);
         if (now.size != before.size)
             look.MarkerSize = now.size;
         if (now.spacing != before.spacing)
             look.MarkerSpacing = now.spacing;
-        if (now.kind != before.kind)
+        if (now.kind != before.kind && !staysHidden)
             look.MarkerStyle = markerNumber(now.kind);
         if (now.ithMpf != before.ithMpf)
             look.IthMpf = now.ithMpf;

@@ -29,7 +29,16 @@ std::string missingModeText(const PlotRow& row);
 /// many, the last line contains the number of the others.
 std::string missingModesText(const PlotRows& rows);
 
-/// Applies markers to every row. Returns the text of the rows without a curve.
+/// Whether a curve is hidden: it has neither line nor markers.
+bool isHidden(const Series& series);
+
+void hide(Series& series);
+
+/// Gives a hidden curve a solid line and markers.
+void show(Series& series, const MarkerOptions& markers);
+
+/// Applies markers to every row; a hidden curve stays hidden. Returns the text of the rows without
+/// a curve.
 std::string buildSeries(PlotRows& rows, const MarkerOptions& markers);
 
 /// Applies to all rows those options that differ from `before`. The others, which may differ

@@ -59,6 +59,10 @@ public:
     /// Replaces all reference lines; does not draw.
     void setLines(std::vector<RefLine> lines) { m_lines = std::move(lines); }
 
+    /// Draws the curve and the markers of a series relative to the corner of the canvas. Errors as
+    /// in drawing.
+    void drawSeries(DeviceContext& context, const Series& series) const;
+
     /// Redraws the canvas' own surface.
     void Refresh();
 
@@ -100,7 +104,6 @@ private:
     DataPoint dataOf(const Point& point) const;
     ValueMap columns() const;
     ValueMap rows() const;
-    void drawSeries(DeviceContext& context, const Series& series) const;
     void drawLine(DeviceContext& context, const RefLine& line) const;
 
     const PlotContainer& m_container;

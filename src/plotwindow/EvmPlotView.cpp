@@ -2,14 +2,13 @@
 
 #include "base/numbers/Numbers.h"
 #include "plot/RichTextLayout.h"
+#include "plotwindow/AccessiblePlot.h"
 #include "plotwindow/AxisEditor.h"
 #include "plotwindow/RichTextEditor.h"
 #include "surface/TextMetrics.h"
 #include "vgfplot/PictureWriter.h"
-#include "vgfplot/PlotReading.h"
 #include "vgfplot/ScaleFit.h"
 
-#include <QAccessibleWidget>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -32,25 +31,20 @@ constexpr QSize leastEditorSize(420, 130);
 const QColor bandColor(0, 90, 200);
 const QColor bandFill(0, 90, 200, 32);
 
-/// Presents a plot to screen readers as a graphic.
-QAccessibleInterface* plotInterface(const QString& /*className*/, QObject* object)
-{
-    auto* const view = qobject_cast<EvmPlotView*>(object);
-    return view != nullptr ? new QAccessibleWidget(view, QAccessible::Graphic) : nullptr;
-}
-
 } // namespace
 
 EvmPlotView::EvmPlotView(EvmPlot& plot, QWidget* parent)
-    : QWidget(parent), m_plot(plot), m_mover(plot), m_gesture(plot), m_boxMenu(new QMenu(this)),
-      m_edit(m_boxMenu->addAction(tr("&Edit"))), m_move(m_boxMenu->addAction(tr("&Move")))
+    : QWidget(parent), m_plot(plot), m_mover(plot), m_gesture(plot), m_curves(plot),
+      m_boxMenu(new QMenu(this)), m_edit(m_boxMenu->addAction(tr("&Edit"))),
+      m_move(m_boxMenu->addAction(tr("&Move")))
 {
     setObjectName(QStringLiteral("evpVgf"));
     setAttribute(Qt::WA_OpaquePaintEvent); // avoids flicker: every pixel is painted
     setMinimumSize(240, 180);
     setFocusPolicy(Qt::StrongFocus);
     makeActions();
-    QAccessible::installFactory(plotInterface); // has an effect only once
+    makePlotsAccessible();
+    connect(this, &EvmPlotView::cursorMoved, this, [this] { reportFocus(*this); });
     connect(&m_plot, &EvmPlot::changed, this, qOverload<>(&QWidget::update));
     connect(&m_plot, &EvmPlot::changed, this, &EvmPlotView::updateDescription);
     connect(&m_plot, &EvmPlot::editsWanted, this, [this] {
@@ -113,6 +107,7 @@ void EvmPlotView::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     painter.setClipRegion(event->region());
     painter.drawImage(0, 0, m_plot.Image());
+    m_curves.paint(painter);
     if (m_highlight)
         paintHighlight(*m_highlight, m_plot, painter);
     paintPrompts(painter);
@@ -128,6 +123,19 @@ void EvmPlotView::setHighlight(const std::optional<PlotHighlight>& highlight)
 {
     m_highlight = highlight;
     update();
+}
+
+void EvmPlotView::selectCurves(const std::vector<RowId>& rows)
+{
+    m_curves.select(rows);
+    update();
+}
+
+void EvmPlotView::selectCurveAt(QPoint position, bool adds)
+{
+    m_curves.selectAt(position, adds);
+    update();
+    Q_EMIT curvesSelected(m_curves.rows());
 }
 
 void EvmPlotView::paintPrompts(QPainter& painter) const
@@ -195,6 +203,8 @@ void EvmPlotView::mouseReleaseEvent(QMouseEvent* event)
         Q_EMIT edited(tr("Zoom"), UndoHistory::Joining::No);
     if (result == ZoomGesture::Result::Panned)
         Q_EMIT edited(tr("Pan"), UndoHistory::Joining::No);
+    if (result == ZoomGesture::Result::Click)
+        selectCurveAt(event->pos(), event->modifiers() & Qt::ControlModifier);
     const std::optional<TextBox> box = m_mover.boxAt(event->pos());
     if (m_plot.texts().EditMode() && !wasMoved && box && box == m_mover.selected()
         && event->button() == Qt::LeftButton)
@@ -213,8 +223,7 @@ void EvmPlotView::mouseDoubleClickEvent(QMouseEvent* event)
     const bool isInCanvas = zone == PlotZone::Frequency || zone == PlotZone::Damping;
     if (!isInCanvas && zone != PlotZone::Outside)
         editAxis(zone, event->pos());
-    const std::optional<PlotReading> reading = readAt(m_plot, event->pos());
-    if (isInCanvas && !(reading && reading->curve))
+    if (isInCanvas && !m_curves.rowAt(event->pos()))
         fitAll();
 }
 
@@ -241,21 +250,103 @@ void EvmPlotView::fitAll()
 
 void EvmPlotView::keyPressEvent(QKeyEvent* event)
 {
-    const bool edits = event->key() == Qt::Key_F2 || event->key() == Qt::Key_Return
-        || event->key() == Qt::Key_Enter;
-    if (event->key() == Qt::Key_Escape && m_gesture.cancel()) {
+    if (!handleKey(*event))
+        QWidget::keyPressEvent(event);
+}
+
+/// Handles the keys of the plot. False for other keys.
+bool EvmPlotView::handleKey(const QKeyEvent& key)
+{
+    if (key.key() == Qt::Key_Escape && m_gesture.cancel())
         followMovement();
-    } else if (m_mover.press(*event)) {
+    else if (key.key() == Qt::Key_Home)
+        fitAll();
+    else
+        return m_mover.selected() ? handleBoxKey(key) : handleCurveKey(key);
+    return true;
+}
+
+/// Handles the keys of the selected text box.
+bool EvmPlotView::handleBoxKey(const QKeyEvent& key)
+{
+    const bool edits =
+        key.key() == Qt::Key_F2 || key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+    if (m_mover.press(key)) {
         Q_EMIT commandBegun();
         followMovement();
         Q_EMIT edited(tr("Move Text"), UndoHistory::Joining::Yes);
-    } else if (event->key() == Qt::Key_Home) {
-        fitAll();
-    } else if (edits && m_mover.selected()) {
+    } else if (edits) {
         startEditing(*m_mover.selected());
     } else {
-        QWidget::keyPressEvent(event);
+        return false;
     }
+    return true;
+}
+
+/// Handles the keys of the curves.
+bool EvmPlotView::handleCurveKey(const QKeyEvent& key)
+{
+    if (key.matches(QKeySequence::Delete) && hasSelectedCurve()) {
+        Q_EMIT removeWanted();
+        return true;
+    }
+    const bool clears = key.key() == Qt::Key_Escape && hasSelectedCurve();
+    if (clears)
+        m_curves.select({});
+    else if (!moveCursor(key))
+        return false;
+    update();
+    Q_EMIT curvesSelected(m_curves.rows());
+    Q_EMIT cursorMoved();
+    return true;
+}
+
+/// Moves the cursor by an arrow key: left and right by a point, with Ctrl by ten; up and down to
+/// the neighbouring curve. False for other keys and without curves.
+bool EvmPlotView::moveCursor(const QKeyEvent& key)
+{
+    const int points = key.modifiers() & Qt::ControlModifier ? 10 : 1;
+    switch (key.key()) {
+    case Qt::Key_Left:
+        return m_curves.moveAlong(-points);
+    case Qt::Key_Right:
+        return m_curves.moveAlong(points);
+    case Qt::Key_Up:
+        return m_curves.moveToCurve(-1);
+    case Qt::Key_Down:
+        return m_curves.moveToCurve(1);
+    default:
+        return false;
+    }
+}
+
+void EvmPlotView::selectBox(std::optional<TextBox> box)
+{
+    m_mover.select(box);
+    followMovement();
+    reportFocus(*this);
+}
+
+/// Tab visits the text boxes before it leaves the plot. Editors in the plot have their own order.
+bool EvmPlotView::focusNextPrevChild(bool next)
+{
+    if (!hasFocus())
+        return QWidget::focusNextPrevChild(next);
+    const auto count = static_cast<int>(allTextBoxes.size());
+    const std::optional<TextBox> box = m_mover.selected();
+    const int index = (box ? static_cast<int>(*box) : -1) + (next ? 1 : -1);
+    const bool leaves = index == count || index == -2;
+    selectBox(leaves || index == -1
+                  ? std::nullopt
+                  : std::optional(allTextBoxes.at(static_cast<std::size_t>(index))));
+    return !leaves || QWidget::focusNextPrevChild(next);
+}
+
+void EvmPlotView::focusInEvent(QFocusEvent* event)
+{
+    QWidget::focusInEvent(event);
+    if (event->reason() == Qt::BacktabFocusReason)
+        selectBox(allTextBoxes.back());
 }
 
 void EvmPlotView::focusOutEvent(QFocusEvent* event)
@@ -271,6 +362,8 @@ void EvmPlotView::contextMenuEvent(QContextMenuEvent* event)
     const bool isByKey = event->reason() == QContextMenuEvent::Keyboard;
     const std::optional<TextBox> box = isByKey ? m_mover.selected() : m_mover.boxAt(event->pos());
     if (!box) {
+        if (!isByKey && m_curves.rowAt(event->pos()) && !m_curves.isSelectedAt(event->pos()))
+            selectCurveAt(event->pos(), false);
         event->ignore(); // the owner of the view shows the menu of the plot
         return;
     }

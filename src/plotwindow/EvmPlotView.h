@@ -2,6 +2,7 @@
 
 #include "base/user/RunTimeError.h"
 #include "document/UndoHistory.h"
+#include "plotwindow/CurveSelection.h"
 #include "plotwindow/PlotHighlight.h"
 #include "plotwindow/TextBoxMover.h"
 #include "plotwindow/ZoomGesture.h"
@@ -11,6 +12,7 @@
 
 #include <functional>
 #include <optional>
+#include <vector>
 
 class QMenu;
 
@@ -22,8 +24,12 @@ class InPlaceEditor;
 /// keys move it, a double click or F2 edits it; its context menu `mnuErtb` has the same commands.
 /// An empty box shows its prompt, on the screen only.
 ///
-/// Elsewhere the mouse zooms and pans (`ZoomGesture`). A double click on an axis edits its bounds
-/// and ticks in place; Home, or a double click between the curves, fits all axes.
+/// A click selects the nearest curve, with Ctrl several curves; Del asks for the removal of the
+/// selected ones. Elsewhere the mouse zooms and pans (`ZoomGesture`). A double click on an axis
+/// edits its bounds and ticks in place; Home, or a double click between the curves, fits all axes.
+///
+/// Tab goes from the plot to the header, the legend and the subtitle, which F2 or Return edits. The
+/// arrow keys move a cursor along a curve and from curve to curve.
 class EvmPlotView : public QWidget
 {
     Q_OBJECT
@@ -41,7 +47,28 @@ public:
     /// Shows a highlight over the picture until the next call; empty removes it.
     void setHighlight(const std::optional<PlotHighlight>& highlight);
 
+    /// Selects the curves of these rows only.
+    void selectCurves(const std::vector<tarsil::RowId>& rows);
+
+    /// Whether the plot has a selected curve.
+    bool hasSelectedCurve() const { return !m_curves.rows().empty(); }
+
+    const EvmPlot& plot() const { return m_plot; }
+    const CurveSelection& curves() const { return m_curves; }
+
+    /// The text box that keys move and edit.
+    std::optional<TextBox> selectedBox() const { return m_mover.selected(); }
+
 Q_SIGNALS:
+    /// The user has selected the curves of these rows, or none.
+    void curvesSelected(const std::vector<tarsil::RowId>& rows);
+
+    /// The keys have moved the cursor on a curve, or removed it.
+    void cursorMoved();
+
+    /// The user asks for the removal of the selected curves.
+    void removeWanted();
+
     /// Drawing failed; what could be drawn is shown. Emitted once for each failure, not at every
     /// repaint.
     void failed(const tarsil::RunTimeError& error);
@@ -54,6 +81,7 @@ Q_SIGNALS:
 
 protected:
     bool event(QEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -63,6 +91,7 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
@@ -79,6 +108,12 @@ private:
     void finishByKey();
     void finishEditing(bool keep);
     void fitAll();
+    void selectCurveAt(QPoint position, bool adds);
+    bool handleKey(const QKeyEvent& key);
+    bool handleBoxKey(const QKeyEvent& key);
+    bool handleCurveKey(const QKeyEvent& key);
+    bool moveCursor(const QKeyEvent& key);
+    void selectBox(std::optional<TextBox> box);
     bool isMoving() const { return m_mover.isMoving() || m_gesture.isActive(); }
     void updatePointer();
     void letGo();
@@ -89,6 +124,7 @@ private:
     std::optional<PlotHighlight> m_highlight;
     TextBoxMover m_mover;
     ZoomGesture m_gesture;
+    CurveSelection m_curves;
     QMenu* m_boxMenu;
     QAction* m_edit;
     QAction* m_move;

@@ -1,6 +1,7 @@
 #include "plotwindow/PlotHighlight.h"
 
 #include "vgfplot/EvmPlot.h"
+#include "vgfplot/PlotReading.h"
 
 #include <QPainter>
 
@@ -38,8 +39,7 @@ void paintRing(const ucPlot& canvas, double speed, double value, QPainter& paint
 
 void paintHighlight(const PlotHighlight& highlight, const EvmPlot& plot, QPainter& painter)
 {
-    const PlotAxes axes = plot.axes();
-    if (axes.speed.min == axes.speed.max) // the scale is undefined
+    if (!hasValidScale(plot))
         return;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
@@ -49,11 +49,15 @@ void paintHighlight(const PlotHighlight& highlight, const EvmPlot& plot, QPainte
     painter.setPen(QPen(edgeColor, 1, Qt::DashLine));
     painter.drawLine(range.topLeft(), range.bottomLeft());
     painter.drawLine(range.topRight(), range.bottomRight());
-    for (const PlotHighlight::Ring& ring : highlight.rings) {
-        paintRing(plot.parts().vfPlot, ring.speed, ring.frequency, painter);
-        paintRing(plot.parts().vgPlot, ring.speed, ring.damping, painter);
-    }
+    for (const PlotHighlight::Ring& ring : highlight.rings)
+        paintRing(plot, ring, painter);
     painter.restore();
+}
+
+void paintRing(const EvmPlot& plot, const PlotHighlight::Ring& ring, QPainter& painter)
+{
+    paintRing(plot.parts().vfPlot, ring.speed, ring.frequency, painter);
+    paintRing(plot.parts().vgPlot, ring.speed, ring.damping, painter);
 }
 
 } // namespace tarsil

@@ -27,4 +27,7 @@ struct PlotHighlight
 /// Paints the part of a highlight inside the canvases over the picture of a plot.
 void paintHighlight(const PlotHighlight& highlight, const EvmPlot& plot, QPainter& painter);
 
+/// Paints a ring around its points in both canvases over the picture of a plot.
+void paintRing(const EvmPlot& plot, const PlotHighlight::Ring& ring, QPainter& painter);
+
 } // namespace tarsil

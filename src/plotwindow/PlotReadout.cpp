@@ -48,6 +48,7 @@ PlotReadout::PlotReadout(EvmPlot& plot, EvmPlotView& view)
     m_view.setMouseTracking(true);
     m_view.installEventFilter(this);
     connect(&m_plot, &EvmPlot::changed, this, &PlotReadout::hide);
+    connect(&m_view, &EvmPlotView::cursorMoved, this, &PlotReadout::showCursor);
 }
 
 PlotReadout::~PlotReadout() = default;
@@ -66,6 +67,7 @@ bool PlotReadout::eventFilter(QObject* watched, QEvent* event)
         break;
     case QEvent::Leave:
     case QEvent::Hide:
+    case QEvent::FocusOut:
     case QEvent::WindowDeactivate: // a dialog may open over the view
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
@@ -95,9 +97,22 @@ void PlotReadout::showAt(QPoint pointer)
         hide();
         return;
     }
-    m_box->setText(readingText(*reading));
+    show(readingText(*reading), pointer);
+}
+
+void PlotReadout::showCursor()
+{
+    if (const std::optional<CurveReading> reading = m_view.curves().cursor())
+        show(readingText(*reading), m_view.curves().cursorPixel());
+    else
+        hide();
+}
+
+void PlotReadout::show(const QString& text, QPoint position)
+{
+    m_box->setText(text);
     m_box->adjustSize();
-    m_box->move(positionBeside(pointer));
+    m_box->move(positionBeside(position));
     m_box->raise();
     m_box->show();
 }

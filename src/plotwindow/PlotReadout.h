@@ -12,7 +12,8 @@ namespace tarsil {
 /// A small box beside the pointer with the values of the plot there (`readAt`). It is visible while
 /// the pointer moves over the canvases or rests on them with no button pressed. It hides when the
 /// pointer leaves, a button or key is pressed, a text box is edited, or the plot changes. It exists
-/// on the screen only; pictures do not contain it.
+/// on the screen only; pictures do not contain it. Beside the cursor on a curve it shows the values
+/// there.
 class PlotReadout : public QObject
 {
     Q_OBJECT
@@ -28,6 +29,8 @@ public:
 private:
     void follow(const QSinglePointEvent& event);
     void showAt(QPoint pointer);
+    void showCursor();
+    void show(const QString& text, QPoint position);
     void hide();
     bool isCovered(QPoint pointer) const;
     QPoint positionBeside(QPoint pointer) const;

@@ -97,6 +97,12 @@ void wndEvolPlot::highlight(const std::optional<PlotHighlight>& highlight)
         element.view->setHighlight(element.plot == ActivePlot() ? highlight : std::nullopt);
 }
 
+void wndEvolPlot::selectCurves(const std::vector<RowId>& rows)
+{
+    if (ActivePlot() != nullptr)
+        viewOf(*ActivePlot())->selectCurves(rows);
+}
+
 void wndEvolPlot::resizeEvent(QResizeEvent* /*event*/)
 {
     FitPlot(ActivePlot());
@@ -107,7 +113,7 @@ void wndEvolPlot::contextMenuEvent(QContextMenuEvent* event)
 {
     event->setAccepted(ActivePlot() != nullptr);
     if (ActivePlot() != nullptr)
-        Q_EMIT plotMenuRequested(event->globalPos());
+        Q_EMIT plotMenuRequested(event->globalPos(), viewOf(*ActivePlot())->hasSelectedCurve());
 }
 
 /// Adds a hidden view with its readout.
@@ -118,6 +124,8 @@ void wndEvolPlot::addView(EvmPlot* plot)
     new PlotReadout(*plot, *view); // the view owns it
     connect(view.get(), &EvmPlotView::failed, this, &wndEvolPlot::failed);
     connect(view.get(), &EvmPlotView::edited, this, &wndEvolPlot::edited);
+    connect(view.get(), &EvmPlotView::curvesSelected, this, &wndEvolPlot::curvesSelected);
+    connect(view.get(), &EvmPlotView::removeWanted, this, &wndEvolPlot::removeWanted);
     connect(view.get(), &EvmPlotView::commandBegun, this, [this] { m_user.beginCommand(); });
     connect(plot, &EvmPlot::changed, this, &wndEvolPlot::updateTitle);
     evpVgf.push_back({plot, std::move(view)});
@@ -148,6 +156,7 @@ void wndEvolPlot::hidePlot(EvmPlot& plot)
     EvmPlotView* const view = viewOf(plot);
     const bool hadFocus =
         view->isAncestorOf(QApplication::focusWidget()); // or it has the focus itself
+    view->selectCurves({});
     setFocusProxy(nullptr);
     if (hadFocus)
         setFocus(Qt::OtherFocusReason);

@@ -63,6 +63,9 @@ public:
     /// others.
     void highlight(const std::optional<PlotHighlight>& highlight);
 
+    /// Selects the curves of these rows in the active plot.
+    void selectCurves(const std::vector<tarsil::RowId>& rows);
+
     /// Fits all plots, also those never shown.
     void fitAll();
 
@@ -70,8 +73,15 @@ Q_SIGNALS:
     /// The user has changed a plot; see `EvmPlotView::edited`.
     void edited(const QString& what, tarsil::UndoHistory::Joining joining);
 
+    /// The user has selected the curves of these rows of the active plot, or none.
+    void curvesSelected(const std::vector<tarsil::RowId>& rows);
+
+    /// The user asks for the removal of the selected curves.
+    void removeWanted();
+
     /// The user asks for the menu of the active plot, by the right button or the keyboard.
-    void plotMenuRequested(QPoint globalPosition);
+    /// `hasCurve`: a curve is selected.
+    void plotMenuRequested(QPoint globalPosition, bool hasCurve);
 
     /// Drawing a plot failed; see `EvmPlotView::failed`.
     void failed(const tarsil::RunTimeError& error);

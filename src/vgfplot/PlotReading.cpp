@@ -103,18 +103,35 @@ bool drawsLines(const Series& series)
         && series.Mode->Points.size() <= std::numeric_limits<std::int16_t>::max();
 }
 
-CurveReading curveAt(const NearestPoint& nearest)
+/// The curve of a row, without values.
+CurveReading curveOf(const PlotRow& row)
+{
+    const AeMode& mode = *row.series.Mode;
+    CurveReading reading;
+    if (mode.Parent != nullptr)
+        reading.evolution = QString::fromStdString(mode.Parent->FileName);
+    reading.mode = mode.Id;
+    reading.tag = row.series.MarkerTag;
+    reading.row = row.id;
+    return reading;
+}
+
+/// The row of a series of the plot.
+const PlotRow& rowOf(const EvmPlot& plot, const Series& series)
+{
+    auto index = &series - plot.SeriesCollection().data();
+    const PlotRows::Rows& rows = plot.rows().all();
+    return *std::find_if(rows.begin(), rows.end(),
+                         [&index](const PlotRow& row) { return row.hasCurve() && index-- == 0; });
+}
+
+CurveReading curveAt(const EvmPlot& plot, const NearestPoint& nearest)
 {
     const auto between = [&nearest](float Point::*value) {
         return std::lerp(static_cast<double>(nearest.from->*value),
                          static_cast<double>(nearest.to->*value), nearest.fraction);
     };
-    const AeMode& mode = *nearest.series->Mode;
-    CurveReading reading;
-    if (mode.Parent != nullptr)
-        reading.evolution = QString::fromStdString(mode.Parent->FileName);
-    reading.mode = mode.Id;
-    reading.tag = nearest.series->MarkerTag;
+    CurveReading reading = curveOf(rowOf(plot, *nearest.series));
     reading.speed = between(&Point::speed);
     reading.frequency = between(&Point::f);
     reading.damping = between(&Point::G);
@@ -137,7 +154,7 @@ std::optional<CurveReading> nearestCurve(const EvmPlot& plot, QPoint pixel, Spee
     lookAlong(dampings);
     if (nearest.series == nullptr)
         return std::nullopt;
-    return curveAt(nearest);
+    return curveAt(plot, nearest);
 }
 
 QString numberText(double value, std::string_view pattern)
@@ -160,7 +177,7 @@ QString dampingText(double damping)
     return QStringLiteral("g ") + numberText(damping, "0.0000");
 }
 
-QString curveText(const CurveReading& curve)
+QString nameOf(const CurveReading& curve)
 {
     QString text;
     if (!curve.evolution.isEmpty())
@@ -168,20 +185,31 @@ QString curveText(const CurveReading& curve)
     text += QStringLiteral("mode ") + QString::number(curve.mode);
     if (!curve.tag.isEmpty())
         text += QStringLiteral(" [") + curve.tag + QStringLiteral("]");
-    return text + QStringLiteral(": ")
-        + QStringList(
-              {speedText(curve.speed), frequencyText(curve.frequency), dampingText(curve.damping)})
-              .join(QStringLiteral(", "));
+    return text;
 }
 
 } // namespace
 
-std::optional<PlotReading> readAt(const EvmPlot& plot, QPoint pixel)
+bool hasValidScale(const EvmPlot& plot)
 {
     const PlotAxes axes = plot.axes();
-    const bool hasEqualBounds = axes.speed.min == axes.speed.max
-        || axes.frequency.min == axes.frequency.max || axes.damping.min == axes.damping.max;
-    if (hasEqualBounds || !plot.parts().vgPlot.geometry().contains(pixel))
+    return axes.speed.min != axes.speed.max && axes.frequency.min != axes.frequency.max
+        && axes.damping.min != axes.damping.max;
+}
+
+CurveReading readPoint(const PlotRow& row, std::size_t point)
+{
+    const Point& values = row.series.Mode->Points.at(point);
+    CurveReading reading = curveOf(row);
+    reading.speed = values.speed;
+    reading.frequency = values.f;
+    reading.damping = values.G;
+    return reading;
+}
+
+std::optional<PlotReading> readAt(const EvmPlot& plot, QPoint pixel)
+{
+    if (!hasValidScale(plot) || !plot.parts().vgPlot.geometry().contains(pixel))
         return std::nullopt;
     const auto mapOf = [](const PlotAxis& axis, int length) {
         return ValueMap(axis.Min(), axis.Max(), length);
@@ -214,8 +242,21 @@ QString readingText(const PlotReading& reading)
     text += reading.ordinate == PlotReading::Ordinate::Frequency ? frequencyText(reading.value)
                                                                  : dampingText(reading.value);
     if (reading.curve)
-        text += QStringLiteral("\n") + curveText(*reading.curve);
+        text += QStringLiteral("\n") + readingText(*reading.curve);
     return text;
+}
+
+QString readingText(const CurveReading& curve)
+{
+    return nameOf(curve) + QStringLiteral(": ")
+        + QStringList(
+              {speedText(curve.speed), frequencyText(curve.frequency), dampingText(curve.damping)})
+              .join(QStringLiteral(", "));
+}
+
+QString curveName(const PlotRow& row)
+{
+    return nameOf(curveOf(row));
 }
 
 } // namespace tarsil

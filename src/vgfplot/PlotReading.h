@@ -5,6 +5,7 @@
 #include <QPoint>
 #include <QString>
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 
@@ -19,6 +20,7 @@ struct CurveReading
     double speed = 0; ///< knots (KEAS)
     double frequency = 0; ///< Hz
     double damping = 0; ///< dimensionless; negative is stable
+    RowId row {}; ///< of the curve
 };
 
 /// The values at a pixel of a V-g-f plot.
@@ -52,8 +54,21 @@ constexpr int curveReach = 12;
 /// (no mode, no line style, too many points).
 std::optional<PlotReading> readAt(const EvmPlot& plot, QPoint pixel);
 
+/// The values of the point with an index, counted from 0, of the curve of a row. The row must have
+/// a curve with that point.
+CurveReading readPoint(const PlotRow& row, std::size_t point);
+
+/// Whether no axis has equal bounds, so that values have pixels.
+bool hasValidScale(const EvmPlot& plot);
+
 /// "V 312.4 KEAS   f 11.25 Hz" (or "g -0.0123"). For a curve there is a second line: "goland.ev2,
 /// mode 2 [3]: V 311.9 KEAS, f 11.20 Hz, g -0.0123". Empty parts are omitted.
 QString readingText(const PlotReading& reading);
+
+/// The second line.
+QString readingText(const CurveReading& curve);
+
+/// Its begin, which names the curve of a row: "goland.ev2, mode 2 [3]". The row must have a curve.
+QString curveName(const PlotRow& row);
 
 } // namespace tarsil

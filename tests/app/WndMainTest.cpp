@@ -273,7 +273,7 @@ TEST_F(WndMainTest, leavesNoDialogWhenItQuits)
 TEST_F(WndMainTest, showsThePopupOfThePlotWhereTheUserAsksForIt)
 {
     load();
-    Q_EMIT window.evolPlot().plotMenuRequested({50, 50});
+    Q_EMIT window.evolPlot().plotMenuRequested({50, 50}, false);
     EXPECT_TRUE(window.popEvmPlot()->isVisible());
     window.popEvmPlot()->close();
 }
