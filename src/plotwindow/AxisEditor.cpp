@@ -16,7 +16,7 @@ namespace tarsil {
 
 namespace {
 
-constexpr std::string_view moduleName = "wndEvolPlot";
+constexpr std::string_view axisModule = "wndEvolPlot";
 constexpr int fieldWidth = 76;
 
 AxisValues& axisOf(PlotZone zone, PlotAxes& axes)
@@ -26,7 +26,7 @@ AxisValues& axisOf(PlotZone zone, PlotAxes& axes)
     return zone == PlotZone::DampingAxis ? axes.damping : axes.speed;
 }
 
-QString textOf(float value)
+QString boundText(float value)
 {
     return QString::fromStdString(shortestText(value));
 }
@@ -41,8 +41,8 @@ AxisEditor::AxisEditor(PlotZone zone, const PlotAxes& axes, QWidget* parent)
     setAccessibleName(tr("Axis %1").arg(QString::fromStdString(values.title)));
     auto* const layout = new QHBoxLayout(this);
     layout->setContentsMargins(4, 2, 4, 2);
-    m_min = addField(*layout, "axisMin", tr("Mi&n.:"), textOf(values.min));
-    m_max = addField(*layout, "axisMax", tr("Ma&x.:"), textOf(values.max));
+    m_min = addField(*layout, "axisMin", tr("Mi&n.:"), boundText(values.min));
+    m_max = addField(*layout, "axisMax", tr("Ma&x.:"), boundText(values.max));
     m_ticks = addField(*layout, "axisTicks", tr("&Ticks:"), QString::number(values.ticks));
     check();
     setFocusProxy(m_min);
@@ -81,14 +81,14 @@ PlotAxes AxisEditor::axes() const
 
 float AxisEditor::minimum() const
 {
-    return NumberInput(*m_min, moduleName).single();
+    return NumberInput(*m_min, axisModule).single();
 }
 
 float AxisEditor::maximum() const
 {
-    const float value = NumberInput(*m_max, moduleName).single();
+    const float value = NumberInput(*m_max, axisModule).single();
     if (value == minimum())
-        throw RunTimeError(ErrorNumber::InvalidProcedureCall, std::string(moduleName),
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall, std::string(axisModule),
                            "the axis begins and ends at " + shortestText(value));
     return value;
 }
@@ -96,7 +96,7 @@ float AxisEditor::maximum() const
 std::int16_t AxisEditor::ticks() const
 {
     constexpr std::int32_t most = std::numeric_limits<std::int16_t>::max();
-    return static_cast<std::int16_t>(NumberInput(*m_ticks, moduleName).count(most));
+    return static_cast<std::int16_t>(NumberInput(*m_ticks, axisModule).count(most));
 }
 
 void AxisEditor::check()
