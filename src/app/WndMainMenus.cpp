@@ -2,6 +2,7 @@
 
 #include "app/WndMain.h"
 
+#include "app/PlotMenu.h"
 #include "datacontrol/WndData.h"
 #include "vgfplot/EvmPlot.h"
 
@@ -103,6 +104,7 @@ void wndMain::makeMenuBar()
             addCommand(*menu, command, command.name);
     }
     addRecentFiles();
+    listPlots(*findChild<QMenu*>(QStringLiteral("WindowsMenu")), m_document.plots());
 }
 
 /// Before "Quit", which stays the last entry.

@@ -9,6 +9,7 @@
 #include "explorer/WndEvolExplorer.h"
 #include "model/EVM.h"
 #include "plotwindow/WndEvolPlot.h"
+#include "vgfplot/EvmPlot.h"
 
 #include <QAction>
 #include <QToolBar>
@@ -92,10 +93,12 @@ void wndEvolExplorer::copyPlot_Click()
         showNode(*copy);
 }
 
-/// A new plot is not activated, so only its node shows that it exists.
+/// A new plot is not activated, so only its node and a note show that it exists.
 void wndEvolExplorer::showNode(const EvmPlot& plot)
 {
     m_tree->scrollToItem(m_plots->nodeOf(&plot));
+    m_user.showNote("Added the plot \"" + plot.properties().Caption().toStdString()
+                    + "\". Double-click it to show it");
 }
 
 void wndEvolExplorer::removePlot_Click()

@@ -14,7 +14,7 @@ namespace tarsil {
 
 namespace {
 
-constexpr int strongerBy = 3; ///< pixels
+constexpr int strongerBy = 2; ///< pixels
 
 bool contains(const CurveSelection::Rows& rows, RowId id)
 {

@@ -154,3 +154,24 @@ TEST_F(PlotMouse, addsTheCommandsOfCurvesToThePopupOfThePlot)
     choose("curveHide");
     EXPECT_EQ(lastStep(), "Hide Curves");
 }
+
+TEST_F(PlotMouse, listsThePlotsInTheWindowMenu)
+{
+    auto* const menu = window.findChild<QMenu*>(QStringLiteral("WindowsMenu"));
+    PlotList& plots = window.document().plots();
+    EvmPlot& wing = plots.add(QStringLiteral("Wing & tail"));
+    const auto entries = [menu] {
+        Q_EMIT menu->aboutToShow();
+        QStringList captions;
+        for (const QAction* entry : menu->actions().mid(3))
+            captions.append(entry->text() + (entry->isChecked() ? QStringLiteral("*") : QString()));
+        return captions;
+    };
+    EXPECT_EQ(entries(),
+              QStringList({QString(), QStringLiteral("Plot1*"), QStringLiteral("Wing && tail")}));
+    menu->actions().back()->trigger();
+    EXPECT_EQ(plots.active(), &wing);
+    EXPECT_EQ(window.evolPlot().windowTitle(), QStringLiteral("V-g-f Plot - Wing & tail"));
+    EXPECT_EQ(entries(),
+              QStringList({QString(), QStringLiteral("Plot1"), QStringLiteral("Wing && tail*")}));
+}

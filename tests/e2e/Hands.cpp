@@ -110,7 +110,7 @@ void Hands::doubleClick(QPoint position) const
          QStringLiteral("--delay"), QStringLiteral("1"), QStringLiteral("1")});
 }
 
-void Hands::drag(QPoint from, QPoint to) const
+void Hands::drag(QPoint from, QPoint to, int button) const
 {
     constexpr int steps = 8;
     const auto moveTo = [](QPoint point) {
@@ -118,11 +118,11 @@ void Hands::drag(QPoint from, QPoint to) const
                             QString::number(point.y())};
     };
     QStringList script =
-        moveTo(from) + QStringList {QStringLiteral("mousedown"), QStringLiteral("1")};
+        moveTo(from) + QStringList {QStringLiteral("mousedown"), QString::number(button)};
     for (int step = 1; step <= steps; ++step)
         script += moveTo(from + (to - from) * step / steps)
             + QStringList {QStringLiteral("sleep"), QStringLiteral("0.05")};
-    run(script + QStringList {QStringLiteral("mouseup"), QStringLiteral("1")});
+    run(script + QStringList {QStringLiteral("mouseup"), QString::number(button)});
 }
 
 void Hands::point(QPoint position) const

@@ -34,8 +34,8 @@ public:
 
     void doubleClick(QPoint position) const;
 
-    /// Drags with the left button, with a few steps on the way.
-    void drag(QPoint from, QPoint to) const;
+    /// Drags with a button (1 left, 2 middle), with a few steps on the way.
+    void drag(QPoint from, QPoint to, int button = 1) const;
 
     /// Moves the pointer to a position on the screen.
     void point(QPoint position) const;

@@ -282,6 +282,47 @@ void Person::drawTicked()
     changes(plot(), [this] { clickOn("Select"); });
 }
 
+QPoint Person::inPlot(QPointF part) const
+{
+    const QRect area = plot();
+    return area.topLeft() + QPointF(part.x() * area.width(), part.y() * area.height()).toPoint();
+}
+
+void Person::dragInPlot(QPointF from, QPointF to, int button) const
+{
+    changes(plot(), [&] { m_hands.drag(inPlot(from), inPlot(to), button); });
+}
+
+void Person::turnWheel(QPointF position) const
+{
+    constexpr int wheelUp = 4;
+    changes(plot(), [&] { m_hands.click(inPlot(position), wheelUp); });
+}
+
+void Person::doubleClickInPlot(QPointF position) const
+{
+    m_hands.doubleClick(inPlot(position));
+}
+
+QPoint Person::pixelOf(QRgb color) const
+{
+    const QRect area = plot();
+    const QImage picture = look(area);
+    for (int row = area.height() / 6; row < area.height(); ++row) {
+        for (int column = area.width() / 5; column < picture.width(); ++column) {
+            if (picture.pixel(column, row) == color)
+                return area.topLeft() + QPoint(column, row);
+        }
+    }
+    throw StepFailed(QStringLiteral("no curve of this colour"));
+}
+
+void Person::chooseAt(QPoint position, const char* command) const
+{
+    clickAt(position, rightButton);
+    clickAt(find({QStringLiteral("action"), textOf(command)}).center());
+}
+
 void Person::dragRow(int row, int below)
 {
     changes(area(grid), [&] {

@@ -5,6 +5,7 @@
 #include "VirtualDisplay.h"
 
 #include <QImage>
+#include <QPointF>
 #include <QRect>
 #include <QStringList>
 
@@ -98,6 +99,21 @@ public:
     /// Draws the first mode of the ticked evolutions.
     void drawTicked();
 
+    /// Drags in the plot with a button (1 left, 2 middle), between parts of its width and height.
+    void dragInPlot(QPointF from, QPointF to, int button) const;
+
+    /// Turns the wheel over a part of the plot's width and height, towards the screen.
+    void turnWheel(QPointF position) const;
+
+    /// Double-clicks a part of the plot's width and height.
+    void doubleClickInPlot(QPointF position) const;
+
+    /// A pixel of a colour in the plot.
+    QPoint pixelOf(QRgb color) const;
+
+    /// Chooses a command of the pop-up at a position.
+    void chooseAt(QPoint position, const char* command) const;
+
     /// Drags a row of the grid below another.
     void dragRow(int row, int below);
 
@@ -120,6 +136,7 @@ public:
     bool isAsked() const { return m_hands.isShown(QStringLiteral("^Tarsil$")); }
 
 private:
+    QPoint inPlot(QPointF part) const;
     QRect find(const QStringList& request) const;
     QRect findByScrolling(const char* view, const QStringList& request) const;
     void leave() const;

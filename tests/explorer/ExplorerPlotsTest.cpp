@@ -52,6 +52,7 @@ TEST_F(WndEvolExplorerTest, scrollsToANewPlot)
     ASSERT_FALSE(isSeen("Plot1"));
     choose("AddPlot");
     EXPECT_TRUE(isSeen("Plot2"));
+    EXPECT_EQ(user.note, "Added the plot \"Plot2\". Double-click it to show it");
     tree().scrollToTop();
     choose("CopyPlot");
     EXPECT_TRUE(isSeen("Plot1(3)"));

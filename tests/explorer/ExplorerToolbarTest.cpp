@@ -34,7 +34,7 @@ TEST_F(WndEvolExplorerTest, removesTheSelectedEvolutionAndItsSeriesFromEveryPlot
 TEST_F(WndEvolExplorerTest, endsTheNoteOfTheCommandBefore)
 {
     user.note = "The picture is in /wing.emf";
-    choose("AddPlot");
+    choose("RemovePlot");
     EXPECT_EQ(user.note, "");
 }
 

@@ -82,8 +82,8 @@ TEST_F(CurveSelectionTest, drawsBothCurvesOfASelectedRowStrongerOnTheScreenOnly)
     const int lower = inkIn(280, 430 - 8, 430 + 8);
     const QImage before = plot.Image().copy();
     view.selectCurves({ids[1]});
-    EXPECT_GE(inkIn(280, 330 - 4 * 20 - 8, 330 - 4 * 20 + 8), upper + 3);
-    EXPECT_GE(inkIn(280, 430 - 8, 430 + 8), lower + 3);
+    EXPECT_GE(inkIn(280, 330 - 4 * 20 - 8, 330 - 4 * 20 + 8), upper + 2);
+    EXPECT_GE(inkIn(280, 430 - 8, 430 + 8), lower + 2);
     EXPECT_EQ(plot.Image(), before);
     view.selectCurves({});
     EXPECT_EQ(inkIn(280, 330 - 4 * 20 - 8, 330 - 4 * 20 + 8), upper);
