@@ -586,12 +586,22 @@ void wndMain::runTracking(const std::function<void()>& action)
 
 void wndMain::trackModes()
 {
-    const EVM* const evolution = m_explorer->selectedEvolution();
-    if (evolution == nullptr)
+    const std::vector<EVM*> evolutions = m_explorer->selectedEvolutions();
+    if (evolutions.empty())
         m_userInterface.showMessage("Please select a modal evolution.", "Tarsil",
                                     MessageIcon::Exclamation);
-    else
+    for (const EVM* const evolution : evolutions)
         m_tracking.track(*evolution);
+}
+
+void wndMain::tickAll()
+{
+    m_explorer->tickShown(true);
+}
+
+void wndMain::tickNone()
+{
+    m_explorer->tickShown(false);
 }
 
 dlgOptions& wndMain::options()

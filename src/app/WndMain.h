@@ -145,6 +145,8 @@ private:
     void showTickedInTrend();
     void runTracking(const std::function<void()>& action);
     void trackModes();
+    void tickAll();
+    void tickNone();
     void mnuOptions_Click();
     void mnuDefLayout_Click();
     void TileVertMenu_Click();

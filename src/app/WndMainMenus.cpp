@@ -146,6 +146,8 @@ void wndMain::makePopups()
                "popSelMultModes");
     addCommand(*m_explorerMenu, {"", nullptr, "Track Modes", &wndMain::trackModes},
                "popTrackModes");
+    addCommand(*m_explorerMenu, {"", nullptr, "Tick All", &wndMain::tickAll}, "popTickAll");
+    addCommand(*m_explorerMenu, {"", nullptr, "Tick None", &wndMain::tickNone}, "popTickNone");
 }
 
 void wndMain::addCommand(QMenu& menu, const Command& command, const char* name)

@@ -9,6 +9,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <utility>
 
 namespace tarsil {
 
@@ -58,6 +59,11 @@ void SeriesGridView::setModel(QAbstractItemModel* model)
         model, &QAbstractItemModel::rowsAboutToBeRemoved, this,
         [this](const QModelIndex& /*parent*/, int first, int last) { removeNames(first, last); });
     connect(model, &QAbstractItemModel::rowsRemoved, this, &SeriesGridView::fitNames);
+    for (const auto signal : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
+        connect(model, signal, this, &SeriesGridView::filterSoon);
+    connect(model, &QAbstractItemModel::rowsMoved, this, &SeriesGridView::filterSoon);
+    connect(model, &QAbstractItemModel::modelReset, this, &SeriesGridView::filterSoon);
+    connect(model, &QAbstractItemModel::dataChanged, this, &SeriesGridView::filterSoon);
     measureAllNames();
 }
 
@@ -125,20 +131,69 @@ int SeriesGridView::widthOfNames(int width) const
     return std::min(needed, std::max(room, least));
 }
 
+void SeriesGridView::setRowFilter(std::function<bool(int)> isShown)
+{
+    m_isShown = std::move(isShown);
+    filterAgain();
+}
+
+void SeriesGridView::filterAgain()
+{
+    m_isFilterDue = false;
+    for (int row = 0; row < model()->rowCount(); ++row) {
+        const bool isHidden = m_isShown && !m_isShown(row);
+        if (isHidden != isRowHidden(row))
+            setRowHidden(row, isHidden);
+    }
+}
+
+/// A command changes many rows one by one; the filter is applied once after it.
+void SeriesGridView::filterSoon()
+{
+    if (!m_isShown || m_isFilterDue)
+        return;
+    m_isFilterDue = true;
+    QMetaObject::invokeMethod(this, &SeriesGridView::filterAgain, Qt::QueuedConnection);
+}
+
+std::vector<std::size_t> SeriesGridView::shownRows() const
+{
+    std::vector<std::size_t> rows;
+    for (int row = 0; row < model()->rowCount(); ++row) {
+        if (!isRowHidden(row))
+            rows.push_back(static_cast<std::size_t>(row));
+    }
+    return rows;
+}
+
 std::vector<std::size_t> SeriesGridView::selectedRows() const
 {
     std::set<std::size_t> rows;
     for (const QItemSelectionRange& range : selectionModel()->selection()) {
-        for (int row = range.top(); row <= range.bottom(); ++row)
-            rows.insert(static_cast<std::size_t>(row));
+        for (int row = range.top(); row <= range.bottom(); ++row) {
+            if (!isRowHidden(row))
+                rows.insert(static_cast<std::size_t>(row));
+        }
     }
     return {rows.begin(), rows.end()};
+}
+
+std::vector<int> SeriesGridView::selectedOrCurrentColumns() const
+{
+    std::set<int> columns;
+    for (const QItemSelectionRange& range : selectionModel()->selection()) {
+        for (int column = range.left(); column <= range.right(); ++column)
+            columns.insert(column);
+    }
+    if (columns.empty() && currentIndex().isValid())
+        columns.insert(currentIndex().column());
+    return {columns.begin(), columns.end()};
 }
 
 std::vector<std::size_t> SeriesGridView::selectedOrCurrentRows() const
 {
     std::vector<std::size_t> rows = selectedRows();
-    if (rows.empty() && currentIndex().isValid())
+    if (rows.empty() && currentIndex().isValid() && !isRowHidden(currentIndex().row()))
         rows.push_back(static_cast<std::size_t>(currentIndex().row()));
     return rows;
 }

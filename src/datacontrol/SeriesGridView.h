@@ -2,6 +2,7 @@
 
 #include <QTableView>
 
+#include <functional>
 #include <set>
 #include <vector>
 
@@ -18,8 +19,21 @@ class SeriesGridView : public QTableView
 public:
     explicit SeriesGridView(QWidget* parent = nullptr);
 
-    /// The rows with a selected cell, in increasing order.
+    /// Shows only the rows that `isShown` accepts; an empty function shows all. The filter is
+    /// applied again when rows change.
+    void setRowFilter(std::function<bool(int row)> isShown);
+
+    /// Applies the filter to what has changed outside the model.
+    void filterAgain();
+
+    /// The rows that the filter shows, in increasing order.
+    std::vector<std::size_t> shownRows() const;
+
+    /// The shown rows with a selected cell, in increasing order.
     std::vector<std::size_t> selectedRows() const;
+
+    /// The columns with a selected cell, or the current column when nothing is selected.
+    std::vector<int> selectedOrCurrentColumns() const;
 
     /// The selected rows, or the current row when nothing is selected.
     std::vector<std::size_t> selectedOrCurrentRows() const;
@@ -79,7 +93,11 @@ private:
     int widthOfNames(int width) const;
     bool handleKey(const QKeyEvent& event);
 
+    void filterSoon();
+
     QString m_placeholder;
+    std::function<bool(int)> m_isShown;
+    bool m_isFilterDue = false;
     std::multiset<int> m_nameWidths; ///< of all rows
     bool m_isFitting = false;
     bool m_hasUsersWidth =

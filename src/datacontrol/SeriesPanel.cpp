@@ -9,11 +9,15 @@
 #include "datacontrol/DlgSeriesStyle.h"
 #include "datacontrol/LineSample.h"
 #include "datacontrol/MarkerPanel.h"
+#include "datacontrol/SeriesSort.h"
 #include "document/Document.h"
 #include "document/MdlData.h"
 #include "model/EVM.h"
 #include "vgfplot/EvmPlot.h"
 
+#include <QAction>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QMenu>
 #include <QPersistentModelIndex>
 
@@ -64,6 +68,8 @@ SeriesPanel::SeriesPanel(const DataCommands& commands, MarkerPanel& markers, QWi
     connectGrid();
     connectButtons();
     makeMoveMenu();
+    makeGridMenu();
+    connectFilter();
     PlotList& plots = commands.document().plots();
     connect(&plots, &PlotList::activeChanged, this, [this](EvmPlot* /*before*/, EvmPlot* now) {
         commitEdits(); // typed for the former plot
@@ -165,6 +171,95 @@ void SeriesPanel::makeMoveMenu()
     add(tr("To the Bottom"),
         [this] { moveSelectedTo(static_cast<std::size_t>(m_model.rowCount())); });
     m_ui->btnSerieMove->setMenu(menu);
+}
+
+/// Commands on cells, by key and in the pop-up of the grid.
+void SeriesPanel::makeGridMenu()
+{
+    const auto add = [this](const QString& text, const QKeySequence& key,
+                            const std::function<void()>& handler) {
+        auto* const action = new QAction(text, this);
+        action->setShortcut(key);
+        action->setShortcutContext(Qt::WidgetShortcut); // an open editor has its own
+        connect(action, &QAction::triggered, this, m_commands.command(handler));
+        grid().addAction(action);
+        return action;
+    };
+    add(tr("Copy"), QKeySequence::Copy, [this] { copyCells(); });
+    add(tr("Paste"), QKeySequence::Paste, [this] { pasteCells(); });
+    add(tr("Fill Down"), QKeySequence(Qt::CTRL | Qt::Key_D), [this] { fillDown(); });
+    auto* const separator = new QAction(this);
+    separator->setSeparator(true);
+    grid().addAction(separator);
+    add(tr("Sort Ascending"), {}, [this] { sort(Qt::AscendingOrder); });
+    add(tr("Sort Descending"), {}, [this] { sort(Qt::DescendingOrder); });
+    grid().setContextMenuPolicy(Qt::ActionsContextMenu);
+}
+
+/// In the grid a row without a curve is a warning.
+void SeriesPanel::connectFilter()
+{
+    const auto isShown = [this](int index) {
+        const PlotRow& row = *m_model.row(index);
+        return row.evolution != nullptr
+            && m_ui->txtRowFilter->filter().accepts(*row.evolution, !row.hasCurve());
+    };
+    connect(m_ui->txtRowFilter, &FilterLine::filterChanged, this, [this, isShown] {
+        const bool showsAll = m_ui->txtRowFilter->filter().isEmpty();
+        grid().setRowFilter(showsAll ? std::function<bool(int)>() : isShown);
+    });
+    connect(&m_commands.document().evolutions(), &EvolutionList::parametersChanged, &grid(),
+            &SeriesGridView::filterAgain);
+}
+
+GridCells SeriesPanel::selectedCells() const
+{
+    GridCells cells {grid().selectedOrCurrentRows(), {}};
+    for (const int column : grid().selectedOrCurrentColumns())
+        cells.columns.push_back(static_cast<SeriesColumn>(column));
+    return cells;
+}
+
+void SeriesPanel::copyCells()
+{
+    const GridCells cells = selectedCells();
+    if (!cells.rows.empty())
+        QGuiApplication::clipboard()->setText(textOfCells(copiedCells(m_model, cells)));
+}
+
+void SeriesPanel::pasteCells()
+{
+    const CellRows pasted = cellsOfText(QGuiApplication::clipboard()->text());
+    apply(tr("Paste"), pastedEdits(m_model, selectedCells(), grid().shownRows(), pasted));
+}
+
+void SeriesPanel::fillDown()
+{
+    apply(tr("Fill Down"), filledEdits(m_model, selectedCells(), grid().shownRows()));
+}
+
+void SeriesPanel::apply(const QString& step, const CellEdits& edits)
+{
+    if (edits.empty())
+        return;
+    m_commands.change(step, [&edits](EvmPlot& plot) { applyEdits(plot.rows(), edits); });
+    const bool hasModes = std::any_of(edits.begin(), edits.end(), [](const CellEdit& edit) {
+        return edit.column == SeriesColumn::Mode;
+    });
+    if (hasModes)
+        afterEdit(SeriesColumn::Mode);
+}
+
+/// Sorts by the column of the current cell. The order of the rows is that of drawing.
+void SeriesPanel::sort(Qt::SortOrder order)
+{
+    const QModelIndex current = grid().currentIndex();
+    if (!current.isValid())
+        return;
+    const auto column = static_cast<SeriesColumn>(current.column());
+    m_commands.change(tr("Sort Rows"),
+                      [&](EvmPlot& plot) { sortRows(plot.rows(), column, order); });
+    grid().scrollTo(grid().currentIndex());
 }
 
 void SeriesPanel::selectCurve(const EVM& evolution, std::int16_t mode)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "datacontrol/GridEdits.h"
 #include "datacontrol/SeriesGridModel.h"
 
 #include <QWidget>
@@ -59,6 +60,8 @@ private:
     void prepareColumns();
     void connectButtons();
     void makeMoveMenu();
+    void makeGridMenu();
+    void connectFilter();
     std::function<void()> command(void (SeriesPanel::*handler)());
 
     void cmdDrawPlot_Click();
@@ -77,6 +80,12 @@ private:
     void moveSelectedTo(std::size_t target);
     void move(const std::function<void(EvmPlot&)>& change);
     void reportSelection();
+    GridCells selectedCells() const;
+    void copyCells();
+    void pasteCells();
+    void fillDown();
+    void apply(const QString& step, const CellEdits& edits);
+    void sort(Qt::SortOrder order);
     void afterEdit(SeriesColumn column);
     void askAgain(const QModelIndex& cell, const QString& text, const RunTimeError& error);
 

@@ -2,6 +2,7 @@
 
 #include "base/files/PathNames.h"
 #include "base/numbers/Numbers.h"
+#include "document/EvolutionFilter.h"
 #include "document/EvolutionList.h"
 #include "explorer/ExplorerNode.h"
 #include "model/EVM.h"
@@ -169,6 +170,28 @@ std::vector<EVM*> EvolutionNodes::ticked() const
             result.push_back(taggedEvolution(node));
     }
     return result;
+}
+
+void EvolutionNodes::applyFilter(const EvolutionFilter& filter)
+{
+    for (int i = 0; i < m_folder.childCount(); ++i) {
+        QTreeWidgetItem* const node = m_folder.child(i);
+        const bool hasWarnings = !node->data(0, FindingsRole).toString().isEmpty();
+        const bool isHidden = !filter.accepts(*taggedEvolution(node), hasWarnings);
+        if (isHidden == node->isHidden())
+            continue;
+        node->setHidden(isHidden);
+        if (isHidden)
+            node->setSelected(false); // no command acts on what the user does not see
+    }
+}
+
+void EvolutionNodes::tickShown(bool isTicked)
+{
+    for (int i = 0; i < m_folder.childCount(); ++i) {
+        if (!m_folder.child(i)->isHidden())
+            m_folder.child(i)->setCheckState(0, isTicked ? Qt::Checked : Qt::Unchecked);
+    }
 }
 
 EVM* EvolutionNodes::evolutionAt(const QTreeWidgetItem* node) const

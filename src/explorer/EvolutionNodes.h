@@ -11,6 +11,7 @@ class QTreeWidgetItem;
 namespace tarsil {
 
 class EVM;
+class EvolutionFilter;
 class ExplorerImages;
 class EvolutionList;
 
@@ -44,6 +45,12 @@ public:
 
     /// The evolutions whose check box is ticked, in node order.
     std::vector<EVM*> ticked() const;
+
+    /// Hides the nodes that a filter does not accept, and deselects these.
+    void applyFilter(const EvolutionFilter& filter);
+
+    /// Ticks or unticks the nodes that are not hidden.
+    void tickShown(bool isTicked);
 
     /// The evolution of a node in this folder, at any depth; null for other nodes.
     EVM* evolutionAt(const QTreeWidgetItem* node) const;

@@ -1,5 +1,6 @@
 #include "explorer/WndEvolExplorer.h"
 
+#include "base/files/PathNames.h"
 #include "base/user/ErrorGuard.h"
 #include "base/user/UserInterface.h"
 #include "document/Document.h"
@@ -7,8 +8,11 @@
 #include "explorer/LabelDelegate.h"
 #include "explorer/PlotNodes.h"
 #include "model/EVM.h"
+#include "plotwindow/FilterLine.h"
 #include "vgfplot/EvmPlot.h"
 
+#include <QKeyEvent>
+#include <QSet>
 #include <QToolBar>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -18,7 +22,7 @@ namespace tarsil {
 wndEvolExplorer::wndEvolExplorer(Document& document, wndEvolPlot& plots, UserInterface& user,
                                  QWidget* parent)
     : QWidget(parent), m_document(document), m_plotWindow(plots), m_user(user),
-      m_toolBar(new QToolBar(this)), m_tree(new QTreeWidget(this)),
+      m_toolBar(new QToolBar(this)), m_filter(new FilterLine(this)), m_tree(new QTreeWidget(this)),
       m_labels(new LabelDelegate(m_tree)), m_workspace(*m_tree, m_images),
       m_evolutions(m_workspace.evolutions(), m_images),
       m_plots(new PlotNodes(m_workspace.plots(), document.plots(), m_images, this))
@@ -32,17 +36,18 @@ wndEvolExplorer::wndEvolExplorer(Document& document, wndEvolPlot& plots, UserInt
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(m_toolBar);
+    layout->addWidget(m_filter);
     layout->addWidget(m_tree);
     setFocusProxy(m_tree);
+    m_filter->setObjectName(QStringLiteral("txtEvolutionFilter"));
+    connect(m_filter, &FilterLine::filterChanged, this, &wndEvolExplorer::applyFilter);
     followDocument();
 }
 
 void wndEvolExplorer::followDocument()
 {
     connect(&m_warnings, &EvolutionWarnings::found, this,
-            [this](EVM* evolution, const QString& text) {
-                warn(*m_evolutions.nodeOf(evolution), m_images, text);
-            });
+            [this](EVM* evolution, const QString& text) { showWarnings(*evolution, text); });
     const auto showTexts = [this] { m_workspace.show(m_document.texts()); };
     connect(&m_document, &Document::textsChanged, this, showTexts);
     connect(&m_document, &Document::startedNew, this, [this] { m_workspace.closeFolders(); });
@@ -53,8 +58,10 @@ void wndEvolExplorer::followDocument()
     connect(&evolutions, &EvolutionList::added, this, &wndEvolExplorer::FillEvolsNode);
     connect(&evolutions, &EvolutionList::aboutToBeRemoved, this, &wndEvolExplorer::forget);
     connect(&evolutions, &EvolutionList::referenceChanged, this, &wndEvolExplorer::showReference);
-    connect(&evolutions, &EvolutionList::parametersChanged, this,
-            [this](EVM* evolution) { m_evolutions.showParameters(*evolution); });
+    connect(&evolutions, &EvolutionList::parametersChanged, this, [this](EVM* evolution) {
+        m_evolutions.showParameters(*evolution);
+        applyFilter();
+    });
     connect(&evolutions, &EvolutionList::pointsChanged, this,
             [this](EVM* evolution) { m_evolutions.showModifications(*evolution); });
     showTexts();
@@ -78,6 +85,9 @@ void wndEvolExplorer::makeTree()
     m_tree->setObjectName(QStringLiteral("tvwEvolExplorer"));
     m_tree->setAccessibleName(windowTitle());
     m_tree->setHeaderHidden(true);
+    m_tree->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_tree->setTextElideMode(Qt::ElideMiddle); // names of runs differ at their ends
+    m_tree->installEventFilter(this);
     m_tree->setIconSize({16, 16});
     m_tree->setUniformRowHeights(true); // faster with a thousand evolutions
     m_tree->setExpandsOnDoubleClick(true);
@@ -115,8 +125,10 @@ void wndEvolExplorer::FillEvolsNode()
     const std::vector<EVM*> added = m_evolutions.fill(m_document.evolutions());
     for (EVM* const evolution : added)
         m_warnings.add(*evolution);
-    if (!added.empty())
-        m_workspace.evolutions().setExpanded(true);
+    if (added.empty())
+        return;
+    m_workspace.evolutions().setExpanded(true);
+    applyFilter();
 }
 
 void wndEvolExplorer::SetAsRef()
@@ -142,16 +154,77 @@ void wndEvolExplorer::forget(const std::vector<EVM*>& evolutions)
     m_evolutions.remove(evolutions);
 }
 
+/// The tool tip also has the path, because a long name is shortened.
+void wndEvolExplorer::showWarnings(EVM& evolution, const QString& warnings)
+{
+    QTreeWidgetItem& node = *m_evolutions.nodeOf(&evolution);
+    warn(node, m_images, warnings);
+    setPlainToolTip(node, QString::fromStdString(shownPath(evolution.path())) + u'\n' + warnings);
+    applyFilter();
+}
+
+void wndEvolExplorer::applyFilter()
+{
+    m_evolutions.applyFilter(m_filter->filter());
+}
+
+void wndEvolExplorer::tickShown(bool isTicked)
+{
+    m_evolutions.tickShown(isTicked);
+}
+
+/// The blank ticks all selected evolutions as the current one.
+bool wndEvolExplorer::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool isBlank = watched == m_tree && event->type() == QEvent::KeyPress
+        && static_cast<const QKeyEvent*>(event)->key() == Qt::Key_Space;
+    if (!isBlank || m_tree->selectedItems().size() < 2)
+        return QWidget::eventFilter(watched, event);
+    toggleSelected();
+    return true;
+}
+
+void wndEvolExplorer::toggleSelected()
+{
+    const QTreeWidgetItem* const current = m_tree->currentItem();
+    const bool isTicked = current != nullptr && current->checkState(0) == Qt::Checked;
+    for (QTreeWidgetItem* const node : m_tree->selectedItems()) {
+        if (taggedEvolution(node) != nullptr)
+            node->setCheckState(0, isTicked ? Qt::Unchecked : Qt::Checked);
+    }
+}
+
+/// The current node if it is selected, otherwise the first selected one.
+QTreeWidgetItem* wndEvolExplorer::selectedNode() const
+{
+    QTreeWidgetItem* const current = m_tree->currentItem();
+    if (current != nullptr && current->isSelected())
+        return current;
+    const QList<QTreeWidgetItem*> selected = m_tree->selectedItems();
+    return selected.isEmpty() ? nullptr : selected.front();
+}
+
 EVM* wndEvolExplorer::selectedEvolution() const
 {
-    const QList<QTreeWidgetItem*> selected = m_tree->selectedItems();
-    return selected.isEmpty() ? nullptr : m_evolutions.evolutionAt(selected.front());
+    return m_evolutions.evolutionAt(selectedNode());
 }
 
 EVM* wndEvolExplorer::evolutionOfSelectedNode() const
 {
-    const QList<QTreeWidgetItem*> selected = m_tree->selectedItems();
-    return selected.isEmpty() ? nullptr : taggedEvolution(selected.front());
+    return taggedEvolution(selectedNode());
+}
+
+std::vector<EVM*> wndEvolExplorer::selectedEvolutions() const
+{
+    QSet<const EVM*> selected;
+    for (const QTreeWidgetItem* const node : m_tree->selectedItems())
+        selected.insert(m_evolutions.evolutionAt(node));
+    std::vector<EVM*> evolutions;
+    for (const auto& evolution : m_document.evolutions().all()) {
+        if (selected.contains(evolution.get()))
+            evolutions.push_back(evolution.get());
+    }
+    return evolutions;
 }
 
 } // namespace tarsil

@@ -14,11 +14,13 @@
 
 class QToolBar;
 class QTreeWidget;
+class QTreeWidgetItem;
 
 namespace tarsil {
 
 class Document;
 class EvmPlot;
+class FilterLine;
 class LabelDelegate;
 class PlotNodes;
 class UserInterface;
@@ -43,7 +45,8 @@ public:
     /// Makes the selected evolution the reference evolution; shows a message when none is selected.
     void SetAsRef();
 
-    /// The evolution of the selected node or of a parent of it; null otherwise.
+    /// The evolution of the selected node or of a parent of it; null otherwise. Of several selected
+    /// nodes the current one counts.
     EVM* selectedEvolution() const;
 
     /// The evolution of the selected node itself; null otherwise.
@@ -51,6 +54,12 @@ public:
 
     /// The evolutions whose boxes are ticked, in their order.
     std::vector<EVM*> tickedEvolutions() const { return m_evolutions.ticked(); }
+
+    /// The evolutions of all selected nodes or of parents of them, in load order.
+    std::vector<EVM*> selectedEvolutions() const;
+
+    /// Ticks or unticks the evolutions that the filter shows.
+    void tickShown(bool isTicked);
 
     /// Accepts the label that is being edited, as Enter does, and closes its editor.
     void commitEdits();
@@ -69,6 +78,9 @@ Q_SIGNALS:
 
     /// The user asks for the menu of the tree, by the right button or the keyboard.
     void menuRequested(QPoint globalPosition);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     using Handler = void (wndEvolExplorer::*)();
@@ -106,12 +118,17 @@ private:
     std::optional<float> machOf(const QString& text);
     void forget(const std::vector<EVM*>& evolutions);
     void showReference(EVM* before, EVM* now);
+    void showWarnings(EVM& evolution, const QString& warnings);
+    void applyFilter();
+    void toggleSelected();
+    QTreeWidgetItem* selectedNode() const;
 
     Document& m_document;
     wndEvolPlot& m_plotWindow;
     UserInterface& m_user;
     ExplorerImages m_images;
     QToolBar* m_toolBar;
+    FilterLine* m_filter;
     QTreeWidget* m_tree;
     LabelDelegate* m_labels;
     WorkspaceNodes m_workspace;

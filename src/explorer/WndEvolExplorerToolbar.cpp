@@ -52,12 +52,11 @@ void wndEvolExplorer::makeToolbar()
 
 void wndEvolExplorer::remove_Click()
 {
-    EVM* const evolution = selectedEvolution();
-    if (evolution == nullptr) {
+    const std::vector<EVM*> evolutions = selectedEvolutions();
+    if (evolutions.empty())
         m_user.showMessage("Please select a modal evolution.", "Tarsil", MessageIcon::Exclamation);
-        return;
-    }
-    m_document.remove(*evolution);
+    for (EVM* const evolution : evolutions)
+        m_document.remove(*evolution);
 }
 
 /// Checks all evolutions before the first series is added, so that an error changes nothing.
@@ -73,12 +72,12 @@ void wndEvolExplorer::select_Click()
     addCurves(m_plotWindow, modes);
 }
 
-/// The ticked evolutions; the selected one when none is ticked.
+/// The ticked evolutions; those of the selected nodes when none is ticked.
 std::vector<EVM*> wndEvolExplorer::evolutionsToSelect() const
 {
     std::vector<EVM*> evolutions = m_evolutions.ticked();
     if (evolutions.empty() && evolutionOfSelectedNode() != nullptr)
-        evolutions.push_back(evolutionOfSelectedNode());
+        evolutions = selectedEvolutions();
     return evolutions;
 }
 

@@ -88,7 +88,8 @@ TEST_F(WndMainTest, hasThePopupsOfPlotAndExplorer)
     const auto* const explorer = window.findChild<QMenu*>(QStringLiteral("popEvolExplorer"));
     EXPECT_EQ(explorer->title().toStdString(), "EvolExplorer");
     EXPECT_THAT(captionsOf(*explorer),
-                ElementsAre("Set as reference", "Select multiple modes", "Track Modes"));
+                ElementsAre("Set as reference", "Select multiple modes", "Track Modes", "Tick All",
+                            "Tick None"));
     EXPECT_EQ(window.popEvmPlot()->title().toStdString(), "EvmPlot");
 }
 

@@ -59,7 +59,7 @@ TEST_F(EvolutionWarningsTest, showsAWarningOnlyWhenNobodyWaits)
     EXPECT_EQ(image(evolutionNode(evolution)), "evolution");
     settle();
     EXPECT_EQ(image(evolutionNode(evolution)), "warning");
-    EXPECT_EQ(toolTip(evolution), emptyFileText);
+    EXPECT_EQ(toolTip(evolution), folder.file("a.evm") + "\n" + emptyFileText);
     EXPECT_EQ(text(evolutionNode(evolution)), "a.evm");
 }
 
