@@ -229,6 +229,8 @@ void wndMain::MDIForm_Load(const std::vector<std::string>& arguments)
         for (const RememberedPair& pair : m_memory.pairsIfReadable(remembered::windows)) {
             if (pair.key == layoutName)
                 m_layout->restore(pair.value);
+            else if (pair.key == m_data->objectName())
+                m_data->setColumnWidths(pair.value);
         }
         m_document.plots().activate(&m_document.plots().first());
         const auto workspace = mentionOf(arguments, workspaceExtension);
@@ -256,6 +258,7 @@ void wndMain::keepLayout()
     keepWindow(*this, m_memory);
     if (m_stability)
         keepWindow(*m_stability, m_memory);
+    m_memory.rememberQuietly(remembered::windows, {{m_data->objectName(), m_data->columnWidths()}});
     const QString layout = m_layout->text();
     const auto known = m_memory.pairsIfReadable(remembered::windows);
     const bool isKnown = std::any_of(known.begin(), known.end(), [](const RememberedPair& pair) {

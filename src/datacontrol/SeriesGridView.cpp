@@ -156,6 +156,29 @@ void SeriesGridView::filterSoon()
     QMetaObject::invokeMethod(this, &SeriesGridView::filterAgain, Qt::QueuedConnection);
 }
 
+QString SeriesGridView::columnWidths() const
+{
+    QStringList widths;
+    for (int column = 0; column < legendColumn; ++column) {
+        const bool isFitted = column == evolutionColumn && !m_hasUsersWidth;
+        widths.append(QString::number(isFitted ? 0 : columnWidth(column)));
+    }
+    return widths.join(u'|');
+}
+
+void SeriesGridView::setColumnWidths(const QString& widths)
+{
+    constexpr int most = 4000; // pixels
+    const QStringList parts = widths.split(u'|');
+    if (parts.size() != legendColumn)
+        return;
+    for (int column = 0; column < legendColumn; ++column) {
+        const int width = parts[column].toInt();
+        if (width >= leastSectionWidth && width <= most)
+            setColumnWidth(column, width);
+    }
+}
+
 std::vector<std::size_t> SeriesGridView::shownRows() const
 {
     std::vector<std::size_t> rows;

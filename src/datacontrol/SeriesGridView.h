@@ -55,6 +55,13 @@ public:
     /// the row after it.
     int gapAt(QPoint position) const;
 
+    /// The widths of the columns in pixels, separated by bars; 0 where the user has not set one.
+    /// The last column uses what is left.
+    QString columnWidths() const;
+
+    /// Sets these widths, as if by the user. Ignores a text of another form.
+    void setColumnWidths(const QString& widths);
+
     /// The text in the middle of an empty grid.
     void setPlaceholder(const QString& text) { m_placeholder = text; }
 

@@ -48,6 +48,16 @@ QSize wndData::sizeHint() const
     return {620, 480};
 }
 
+QString wndData::columnWidths() const
+{
+    return m_series->grid().columnWidths();
+}
+
+void wndData::setColumnWidths(const QString& widths)
+{
+    m_series->grid().setColumnWidths(widths);
+}
+
 void wndData::commitEdits()
 {
     m_series->commitEdits();

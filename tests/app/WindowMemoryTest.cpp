@@ -75,6 +75,17 @@ TEST_F(WindowMemory, keepsTheSharesOfTheWindowsWhenTheMainWindowIsResized)
     EXPECT_EQ(plot.height(), inner().height());
 }
 
+TEST_F(WindowMemory, bringsTheColumnWidthsOfTheGridBack)
+{
+    load();
+    auto& data = *window.findChild<wndData*>();
+    data.setColumnWidths(QStringLiteral("40|150|60|55|45"));
+    window.close();
+    startAgain({1000, 800}, [](wndMain& again) {
+        EXPECT_EQ(again.findChild<wndData*>()->columnWidths(), QStringLiteral("40|150|60|55|45"));
+    });
+}
+
 TEST_F(WindowMemory, bringsSizeAndLayoutBackAtTheNextStart)
 {
     load();

@@ -39,6 +39,19 @@ protected:
 
 } // namespace
 
+TEST_F(SeriesGridViewTest, givesTheWidthsThatTheUserHasSet)
+{
+    EXPECT_EQ(grid().columnWidths(), QStringLiteral("36|0|44|52|44")) << "names are fitted";
+    grid().setColumnWidth(1, 150);
+    EXPECT_EQ(grid().columnWidths(), QStringLiteral("36|150|44|52|44"));
+    grid().setColumnWidths(QStringLiteral("40|0|60|55|45"));
+    EXPECT_EQ(grid().columnWidths(), QStringLiteral("40|150|60|55|45"));
+    for (const char* damaged : {"", "1", "x|y|z|a|b", "-3|5|9999999|1|2"}) {
+        grid().setColumnWidths(QString::fromLatin1(damaged));
+        EXPECT_EQ(grid().columnWidths(), QStringLiteral("40|150|60|55|45")) << damaged;
+    }
+}
+
 TEST_F(SeriesGridViewTest, reportsWhichRowsAreSelected)
 {
     EXPECT_THAT(grid().selectedRows(), IsEmpty());

@@ -151,6 +151,12 @@ void Person::choose(const char* menu, const char* command) const
     clickAt(find({QStringLiteral("action"), textOf(command)}).center());
 }
 
+void Person::goToExplorer() const
+{
+    choose("mnuView", "mnuModalEvolExplorer");
+    leave();
+}
+
 void Person::chooseFor(const QString& entry, const char* command) const
 {
     const QRect node = findByScrolling(tree, {QStringLiteral("item"), textOf(tree), entry});

@@ -87,7 +87,7 @@ public:
 
     // Focus a child window.
     void goToDataControl() const { choose("mnuView", "mnuDataControl"); }
-    void goToExplorer() const { choose("mnuView", "mnuModalEvolExplorer"); }
+    void goToExplorer() const;
 
     /// Double-clicks the header, types, and clicks outside.
     void typeHeader(const QStringList& lines);
