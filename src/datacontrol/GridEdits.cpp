@@ -64,7 +64,7 @@ public:
     void refuseRows(std::size_t missing)
     {
         if (missing > 0)
-            m_faults.push_back("there are " + std::to_string(missing) + " rows too many");
+            m_faults.push_back("rows too many: " + std::to_string(missing));
     }
 
     /// Raises the error of all refused cells.

@@ -13,6 +13,7 @@
 #include "document/Document.h"
 #include "document/MdlData.h"
 #include "model/EVM.h"
+#include "plotwindow/FilterLine.h"
 #include "vgfplot/EvmPlot.h"
 
 #include <QAction>
@@ -54,6 +55,14 @@ void changeLine(Series& series, const LineLook& before, const LineLook& now)
         series.LineStyle = now.style;
     if (now.width != before.width)
         series.LineWidth = now.width;
+}
+
+/// Empties the filter of a grid when it hides one of these rows.
+void reveal(const std::vector<std::size_t>& rows, const SeriesGridView& grid, FilterLine& filter)
+{
+    const std::vector<std::size_t> shown = grid.shownRows();
+    if (!std::includes(shown.begin(), shown.end(), rows.begin(), rows.end()))
+        filter.clear();
 }
 
 } // namespace
@@ -269,6 +278,7 @@ void SeriesPanel::selectCurve(const EVM& evolution, std::int16_t mode)
         const PlotRow& row = *m_model.row(i);
         if (row.evolution != &evolution || !row.hasCurve() || row.series.Mode->Id != mode)
             continue;
+        reveal({static_cast<std::size_t>(i)}, grid(), *m_ui->txtRowFilter);
         grid().selectRows({static_cast<std::size_t>(i)}, column);
         grid().scrollTo(m_model.index(i, column));
         return;
@@ -284,6 +294,7 @@ void SeriesPanel::selectRows(const std::vector<RowId>& rows)
             indices.push_back(*index);
     }
     std::sort(indices.begin(), indices.end());
+    reveal(indices, grid(), *m_ui->txtRowFilter);
     if (indices == grid().selectedRows())
         return;
     commitEdits();
@@ -378,7 +389,7 @@ void SeriesPanel::cmdRemove_Click()
 {
     std::vector<std::size_t> rows = grid().selectedOrCurrentRows();
     if (m_model.rowCount() == 1)
-        rows = {0};
+        rows = grid().shownRows();
     if (rows.empty())
         return;
     const int column = std::max(grid().currentIndex().column(), 0);

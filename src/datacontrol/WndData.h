@@ -42,6 +42,7 @@ public:
 
     /// The commands on the selected rows.
     QMenu& curveMenu() { return *m_curveMenu; }
+
     /// The widths of the grid's columns as a text (`SeriesGridView::columnWidths`).
     QString columnWidths() const;
     void setColumnWidths(const QString& widths);
