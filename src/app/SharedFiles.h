@@ -13,7 +13,7 @@ struct SharedFolder
     const char* source;
 };
 
-inline constexpr SharedFolder guideFolder {"doc/tarsil", "docs"};
+inline constexpr SharedFolder guideFolder {"tarsil/docs", "docs"};
 inline constexpr SharedFolder samplesFolder {"tarsil/samples", "samples"};
 
 QString sharedFile(const SharedFolder& folder, const QString& name);

@@ -1,0 +1,40 @@
+# bash completion for tarsil-batch. Commands and options come from the program's own help, so that
+# they are always those of the installed version.
+
+_tarsil_batch_words() {
+    tarsil-batch "$@" --help 2>/dev/null | sed -n 's/^  \(--[a-z-]*\|[a-z]*\) *.*/\1/p'
+}
+
+_tarsil_batch() {
+    local word=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
+    local command=${COMP_WORDS[1]}
+    COMPREPLY=()
+    if ((COMP_CWORD == 1)); then
+        mapfile -t COMPREPLY < <(compgen -W "$(_tarsil_batch_words)" -- "$word")
+        return
+    fi
+    if [[ $word == -* ]]; then
+        mapfile -t COMPREPLY < <(compgen -W "$(_tarsil_batch_words "$command")" -- "$word")
+        return
+    fi
+    compopt -o filenames
+    local pattern
+    case $previous in
+        --aircraft) pattern='!*.inp' ;;
+        --output) pattern='' ;;
+        *)
+            case $command in
+                import) pattern='' ;;
+                convert | track) pattern='!*.@(evm|ev2)' ;;
+                *) pattern='!*.@(evm|ev2|tsw)' ;;
+            esac
+            ;;
+    esac
+    mapfile -t COMPREPLY < <(
+        shopt -s extglob
+        compgen -d -- "$word"
+        if [[ -n $pattern ]]; then compgen -f -X "$pattern" -- "$word"; else compgen -f -- "$word"; fi
+    )
+}
+
+complete -F _tarsil_batch tarsil-batch
