@@ -21,7 +21,7 @@ void writeOptional(JsonWriter& json, std::string_view name, const std::optional<
         json.null();
 }
 
-void writeModes(JsonWriter& json, const TrendPoint& point)
+void writeUnstableModes(JsonWriter& json, const TrendPoint& point)
 {
     json.key("modes");
     json.beginArray();
@@ -50,14 +50,14 @@ void writeOnset(JsonWriter& json, const TrendPoint& point)
     }
 }
 
-void writePoint(JsonWriter& json, const TrendPoint& point)
+void writeTrendPoint(JsonWriter& json, const TrendPoint& point)
 {
     json.beginObject();
     json.text("name", point.evolution->FileName);
     json.text("mass", point.evolution->Param.Mass);
     json.number("level", point.level);
     writeOnset(json, point);
-    writeModes(json, point);
+    writeUnstableModes(json, point);
     writeOptional(json, "mach", point.condition.mach);
     writeOptional(json, "altitude", point.condition.altitude);
     writeOptional(json, "required_speed", point.required);
@@ -85,7 +85,7 @@ std::string trendJson(const FlutterTrend& trend, std::string_view program)
     json.key("points");
     json.beginArray();
     for (const TrendPoint& point : trend.points)
-        writePoint(json, point);
+        writeTrendPoint(json, point);
     json.endArray();
     json.endObject();
     text << '\n';

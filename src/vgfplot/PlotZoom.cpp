@@ -30,7 +30,7 @@ QRect lowerHalf(const EvmPlot& plot)
 }
 
 /// Writes a range to an axis, in the direction of `reversed`.
-void setRange(AxisValues& axis, const RoundRange& range, bool reversed)
+void setAxisRange(AxisValues& axis, const RoundRange& range, bool reversed)
 {
     axis.min = static_cast<float>(reversed ? range.high : range.low);
     axis.max = static_cast<float>(reversed ? range.low : range.high);
@@ -171,7 +171,8 @@ void PlotZoom::narrow(std::size_t axis, QPoint from, QPoint to, PlotAxes& axes) 
     };
     const Span span = limited(axis, {valueAt(from), valueAt(to)});
     const auto [low, high] = std::minmax(span.first, span.last);
-    setRange(valuesOf(axes, axis), roundRange(low, high, stepsOf(axis)), start.last < start.first);
+    setAxisRange(valuesOf(axes, axis), roundRange(low, high, stepsOf(axis)),
+                 start.last < start.first);
 }
 
 /// The span, extended to the shortest one if necessary, within 0 and the largest value.
@@ -210,8 +211,8 @@ PlotAxes PlotZoom::turn(QPoint pixel, double notches, ZoomChoice choice)
         if (!m_isTurned[axis])
             continue;
         const auto [low, high] = std::minmax(m_spans[axis].first, m_spans[axis].last);
-        setRange(valuesOf(axes, axis), nearestRoundRange(low, high, stepsOf(axis)),
-                 m_start[axis].last < m_start[axis].first);
+        setAxisRange(valuesOf(axes, axis), nearestRoundRange(low, high, stepsOf(axis)),
+                     m_start[axis].last < m_start[axis].first);
     }
     return axes;
 }
