@@ -96,6 +96,7 @@ constexpr const char* styles = R"(<?xml version="1.0" encoding="UTF-8" standalon
 
 constexpr const char* pageBegin = R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>
 <worksheet xmlns="http://schemas.openxmlformats.org/spreadsheetml/2006/main">
+<sheetPr><pageSetUpPr fitToPage="1"/></sheetPr>
 <sheetViews><sheetView )";
 
 constexpr const char* firstPageOnly = R"(tabSelected="1" )";
@@ -106,6 +107,15 @@ constexpr const char* pageView = R"(workbookViewId="0">
 <selection pane="bottomLeft"/>
 </sheetView></sheetViews>
 <sheetFormatPr defaultRowHeight="15"/>
+)";
+
+/// A printed page is landscape and as wide as the sheet; its foot has the names of file and sheet,
+/// the date, and the number of the page.
+constexpr const char* pageEnd = R"(
+<pageMargins left="0.5" right="0.5" top="0.6" bottom="0.75" header="0.3" footer="0.3"/>
+<pageSetup orientation="landscape" fitToHeight="0"/>
+<headerFooter><oddFooter>&amp;L&amp;F, &amp;A&amp;C&amp;D&amp;RPage &amp;P of &amp;N</oddFooter></headerFooter>
+</worksheet>
 )";
 
 constexpr const char* textsBegin = R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>
@@ -243,7 +253,7 @@ private:
 std::string PageWriter::page(bool isFirst)
 {
     return pageBegin + std::string(isFirst ? firstPageOnly : "") + pageView + columns()
-        + "<sheetData>" + rows() + "</sheetData></worksheet>\n";
+        + "<sheetData>" + rows() + "</sheetData>" + pageEnd;
 }
 
 std::string PageWriter::columns() const
@@ -305,7 +315,9 @@ public:
     }
     std::string workbook() const
     {
-        return workbookBegin + ("<sheets>" + m_pages + "</sheets>\n</workbook>\n");
+        return workbookBegin
+            + ("<sheets>" + m_pages + "</sheets>\n<definedNames>" + m_names
+               + "</definedNames>\n</workbook>\n");
     }
 
 private:
@@ -313,10 +325,14 @@ private:
     std::string m_types;
     std::string m_relations;
     std::string m_pages;
+    std::string m_names;
 };
 
 void WorkbookWriter::addPage(const Sheet& sheet)
 {
+    // The headings are repeated on each printed page. Sheets are counted from 0 here.
+    m_names += "<definedName name=\"_xlnm.Print_Titles\" localSheetId=\"" + textOf(m_count) + "\">'"
+        + sheet.title() + "'!$1:$1</definedName>";
     const std::string number = textOf(++m_count);
     m_types += "<Override PartName=\"/xl/worksheets/sheet" + number
         + ".xml\" ContentType=\"application/vnd.openxmlformats-officedocument.spreadsheetml."

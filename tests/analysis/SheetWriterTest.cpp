@@ -176,6 +176,20 @@ TEST(SheetAsXlsx, holdsSeveralSheetsWithTheirTitlesAndColours)
     EXPECT_EQ(fileBytes(folder.file("a.csv")), fileBytes(folder.file("one.csv")));
 }
 
+TEST(SheetAsXlsx, printsLandscapeAsWideAsAPageWithHeadingsAndAFoot)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.file("report.xlsx");
+    writeSheet(example(), path);
+    const std::string page = test::zipPart(path, "xl/worksheets/sheet1.xml");
+    EXPECT_THAT(page, HasSubstr("<pageSetUpPr fitToPage=\"1\"/>"));
+    EXPECT_THAT(page, HasSubstr("<pageSetup orientation=\"landscape\" fitToHeight=\"0\"/>"));
+    EXPECT_THAT(page, HasSubstr("&amp;L&amp;F, &amp;A&amp;C&amp;D&amp;RPage &amp;P of &amp;N"));
+    EXPECT_THAT(test::zipPart(path, "xl/workbook.xml"),
+                HasSubstr("<definedName name=\"_xlnm.Print_Titles\" localSheetId=\"0\">'"
+                          + example().title() + "'!$1:$1</definedName>"));
+}
+
 TEST(SheetAsXlsx, givesEqualBytesForEqualSheets)
 {
     const TemporaryFolder folder;
