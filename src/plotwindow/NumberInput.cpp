@@ -13,7 +13,7 @@ namespace tarsil {
 namespace {
 
 /// Removes the final colon of a label that is used as a name.
-std::string nameOf(const QLineEdit& input)
+std::string inputName(const QLineEdit& input)
 {
     return input.accessibleName().remove(u':').toStdString();
 }
@@ -21,7 +21,7 @@ std::string nameOf(const QLineEdit& input)
 } // namespace
 
 NumberInput::NumberInput(QLineEdit& input, std::string_view module)
-    : NumberInput(input, module, nameOf(input))
+    : NumberInput(input, module, inputName(input))
 { }
 
 NumberInput::NumberInput(QLineEdit& input, std::string_view module, std::string name)

@@ -117,7 +117,7 @@ CurveReading curveOf(const PlotRow& row)
 }
 
 /// The row of a series of the plot.
-const PlotRow& rowOf(const EvmPlot& plot, const Series& series)
+const PlotRow& pointRow(const EvmPlot& plot, const Series& series)
 {
     auto index = &series - plot.SeriesCollection().data();
     const PlotRows::Rows& rows = plot.rows().all();
@@ -131,7 +131,7 @@ CurveReading curveAt(const EvmPlot& plot, const NearestPoint& nearest)
         return std::lerp(static_cast<double>(nearest.from->*value),
                          static_cast<double>(nearest.to->*value), nearest.fraction);
     };
-    CurveReading reading = curveOf(rowOf(plot, *nearest.series));
+    CurveReading reading = curveOf(pointRow(plot, *nearest.series));
     reading.speed = between(&Point::speed);
     reading.frequency = between(&Point::f);
     reading.damping = between(&Point::G);
