@@ -171,6 +171,11 @@ std::vector<TrackingDoubt> doubtsOf(const EVM& evolution)
     return doubts;
 }
 
+bool isTracked(const EVM& evolution)
+{
+    return evolution.FileName.ends_with(trackedName({}));
+}
+
 std::string trackedName(std::string_view fileName)
 {
     const std::size_t dot = std::min(fileName.rfind('.'), fileName.size());

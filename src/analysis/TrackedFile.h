@@ -54,6 +54,9 @@ struct TrackingDoubt
 /// The doubtful steps of an evolution, by rising speed; empty if it cannot be tracked.
 std::vector<TrackingDoubt> doubtsOf(const EVM& evolution);
 
+/// Whether an evolution is tracked, by its name ("wing_tracked.ev2").
+bool isTracked(const EVM& evolution);
+
 /// The file name of a tracked evolution: "wing_tracked.ev2" for "wing.ev2".
 std::string trackedName(std::string_view fileName);
 

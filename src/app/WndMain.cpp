@@ -548,15 +548,17 @@ void wndMain::connectStability()
 {
     m_stability = std::make_unique<wndStability>(m_document, m_userInterface, this);
     restoreWindow(*m_stability, m_memory);
-    m_stability->setExchangeUndoable(m_tracking.canUndo());
+    m_stability->addActions({m_undo, m_redo}); // so that their keys work there
     connect(m_stability.get(), &wndStability::pointedOut, m_evolPlot, &wndEvolPlot::highlight);
+    connect(m_stability.get(), &wndStability::signsChanged, m_evolPlot, &wndEvolPlot::showSigns);
+    connect(m_evolPlot, &wndEvolPlot::signClicked, m_stability.get(), &wndStability::chooseSign);
     connect(m_stability.get(), &wndStability::modeChosen, m_data, &wndData::selectCurve);
     connect(m_stability.get(), &wndStability::exchangeWanted, this,
             [this](const EVM& evolution, const ModeExchange& exchange) {
-                runTracking([&] { m_tracking.exchange(evolution, exchange); });
+                m_userInterface.beginCommand();
+                guarded(m_userInterface, "wndMain",
+                        [&] { m_tracking.exchange(evolution, exchange); });
             });
-    connect(m_stability.get(), &wndStability::exchangeUndoWanted, this,
-            [this] { runTracking([this] { m_tracking.undoExchange(); }); });
 }
 
 void wndMain::showTrend()
@@ -576,15 +578,6 @@ void wndMain::showTickedInTrend()
 {
     const std::vector<EVM*> ticked = m_explorer->tickedEvolutions();
     m_trend->showEvolutions({ticked.begin(), ticked.end()});
-}
-
-/// Runs a command that changes a tracked evolution.
-void wndMain::runTracking(const std::function<void()>& action)
-{
-    m_userInterface.beginCommand();
-    guarded(m_userInterface, "wndMain", action);
-    if (m_stability)
-        m_stability->setExchangeUndoable(m_tracking.canUndo());
 }
 
 void wndMain::trackModes()

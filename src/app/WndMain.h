@@ -143,7 +143,6 @@ private:
     void connectStability();
     void showTrend();
     void showTickedInTrend();
-    void runTracking(const std::function<void()>& action);
     void trackModes();
     void tickAll();
     void tickNone();

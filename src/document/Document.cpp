@@ -6,12 +6,14 @@
 
 #include <QDateTime>
 
+#include <algorithm>
 #include <utility>
 
 namespace tarsil {
 
 Document::Document() : m_texts(textsOfNewWorkspace())
 {
+    connect(&m_evolutions, &EvolutionList::pointsChanged, this, &Document::redrawPlotsOf);
     markSaved();
     m_history.clear();
 }
@@ -32,6 +34,18 @@ std::vector<EVM*> Document::load(const std::vector<std::string>& paths, UserInte
         added.push_back(evolution.get());
     m_evolutions.add(std::move(loaded.added));
     return added;
+}
+
+void Document::redrawPlotsOf(const EVM* evolution)
+{
+    const auto isOfEvolution = [evolution](const PlotRow& row) {
+        return row.evolution == evolution;
+    };
+    for (EvmPlot* const plot : m_plots.all()) {
+        const PlotRows::Rows& rows = plot->rows().all();
+        if (std::any_of(rows.begin(), rows.end(), isOfEvolution))
+            plot->modesChanged();
+    }
 }
 
 void Document::remove(EVM& evolution)

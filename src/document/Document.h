@@ -117,6 +117,7 @@ Q_SIGNALS:
 private:
     static WorkspaceTexts textsOfNewWorkspace();
     void commitEdits();
+    void redrawPlotsOf(const EVM* evolution);
     WorkspaceRecord state() const;
     std::vector<EVM*> loadListed(const WorkspaceSource& source, UserInterface& user);
     std::exception_ptr applyPlots(const std::vector<PlotRecord>& records,

@@ -74,7 +74,7 @@ void EvolutionList::setParameters(EVM& evolution, const EditableParam& parameter
     Q_EMIT parametersChanged(&evolution);
 }
 
-void EvolutionList::takePoints(EVM& evolution, const EVM& state)
+void EvolutionList::requireSameModes(const EVM& evolution, const EVM& state)
 {
     const bool isSame =
         std::equal(evolution.Modes.begin(), evolution.Modes.end(), state.Modes.begin(),
@@ -84,6 +84,11 @@ void EvolutionList::takePoints(EVM& evolution, const EVM& state)
     if (!isSame)
         throw RunTimeError(ErrorNumber::InvalidProcedureCall, "EvolutionList",
                            "the file of \"" + evolution.FileName + "\" has other modes now");
+}
+
+void EvolutionList::takePoints(EVM& evolution, const EVM& state)
+{
+    requireSameModes(evolution, state);
     for (std::size_t i = 0; i < evolution.Modes.size(); ++i)
         evolution.Modes[i]->copyFrom(*state.Modes[i]);
     evolution.Param.modifications = state.Param.modifications;

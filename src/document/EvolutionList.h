@@ -34,6 +34,9 @@ public:
     /// Changes the parameters that users can edit. Does nothing when they are equal.
     void setParameters(EVM& evolution, const EditableParam& parameters);
 
+    /// Error 5 unless both have the same mode numbers and numbers of points.
+    static void requireSameModes(const EVM& evolution, const EVM& state);
+
     /// Copies points and modifications from another state of the file with the same modes and
     /// points; rows of plots keep their modes. Error 5 for another file.
     void takePoints(EVM& evolution, const EVM& state);

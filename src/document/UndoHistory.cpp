@@ -1,5 +1,7 @@
 #include "document/UndoHistory.h"
 
+#include "base/files/PathNames.h"
+#include "base/user/RunTimeError.h"
 #include "document/Document.h"
 
 #include <QScopedValueRollback>
@@ -53,6 +55,50 @@ private:
     bool m_isMade = false;
 };
 
+/// A change of a file, already made when the step is pushed.
+class UndoHistory::FileStep : public QUndoCommand
+{
+public:
+    FileStep(UndoHistory& history, const QString& name, FileChange change)
+        : QUndoCommand(name), m_history(history), m_change(std::move(change))
+    { }
+
+    void undo() override
+    {
+        if (hasText(*m_change.evolution, m_change.after)) {
+            write(m_change.before);
+            return;
+        }
+        m_history.m_refusal = refusal() + "; the step is removed";
+        setObsolete(true);
+    }
+
+    void redo() override
+    {
+        if (!std::exchange(m_isMade, true))
+            return;
+        if (!hasText(*m_change.evolution, m_change.before))
+            throw RunTimeError(ErrorNumber::InvalidProcedureCall, "UndoHistory", refusal());
+        write(m_change.after);
+    }
+
+private:
+    void write(const std::string& wanted)
+    {
+        replaceFile(m_history.m_document.evolutions(), *m_change.evolution, wanted);
+    }
+
+    std::string refusal() const
+    {
+        return "\"" + text().toStdString() + "\": " + shownPath(m_change.evolution->path())
+            + " has been changed or removed by another program";
+    }
+
+    UndoHistory& m_history;
+    FileChange m_change;
+    bool m_isMade = false;
+};
+
 UndoHistory::UndoHistory(Document& document) : m_document(document) { }
 
 UndoHistory::~UndoHistory() = default;
@@ -93,10 +139,20 @@ void UndoHistory::restoreAndKnow(const DocumentState& state)
     m_known = state;
 }
 
+void UndoHistory::changeFile(const QString& name, FileChange change)
+{
+    note(QStringLiteral("Change"));
+    replaceFile(m_document.evolutions(), *change.evolution, change.after);
+    m_steps.push(new FileStep(*this, name, std::move(change)));
+}
+
 void UndoHistory::undo()
 {
     note(QStringLiteral("Change"));
+    m_refusal.clear();
     m_steps.undo();
+    if (!m_refusal.empty())
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall, "UndoHistory", m_refusal);
 }
 
 void UndoHistory::redo()

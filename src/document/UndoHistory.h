@@ -1,11 +1,12 @@
 #pragma once
 
 #include "document/DocumentState.h"
+#include "document/FileChange.h"
 
 #include <QUndoStack>
 
 #include <functional>
-#include <optional>
+#include <string>
 
 class QString;
 
@@ -45,10 +46,19 @@ public:
     /// keep what they did before an error, and for changes made of several movements.
     void note(const QString& name, Joining joining = Joining::No);
 
-    /// Undoes the last step: the document becomes exactly what it was before.
+    /// Changes the file of an evolution of the document (`replaceFile`) and records this as a step.
+    /// Undo and redo write the file again. Errors: those of `replaceFile`; there is no step then.
+    void changeFile(const QString& name, FileChange change);
+
+    /// Undoes the last step: the document becomes exactly what it was before. Errors, for a step
+    /// that changed a file: those of `replaceFile`, and nothing has changed; 5 when another program
+    /// has changed or removed the file since: the file stays as it is, and the step is removed, so
+    /// that earlier steps can be undone.
     void undo();
 
-    /// Redoes the step undone last. Does nothing when the document has changed since.
+    /// Redoes the step undone last. Does nothing when the document has changed since. Errors, for a
+    /// step that changed a file: those of `replaceFile`, and 5 when another program has changed or
+    /// removed the file; nothing has changed then.
     void redo();
 
     /// Removes all steps.
@@ -59,6 +69,7 @@ public:
 
 private:
     class Step;
+    class FileStep;
 
     void push(const QString& name, DocumentState now, Joining joining);
     void restoreAndKnow(const DocumentState& state);
@@ -67,6 +78,7 @@ private:
     DocumentState m_known; ///< the document as the last step left it
     QUndoStack m_steps;
     bool m_isChanging = false;
+    std::string m_refusal; ///< why the step being undone is removed
 };
 
 } // namespace tarsil

@@ -127,6 +127,11 @@ void ucPlot::paint(DeviceContext& context) const
         drawLine(context, line);
 }
 
+bool ucPlot::joins(const Point& from, const Point& to) const
+{
+    return !m_breaksAtJumps || isStatic(from) == isStatic(to);
+}
+
 void ucPlot::drawSeries(DeviceContext& context, const Series& series) const
 {
     const std::vector<Point>& points = pointsOf(series);
@@ -142,7 +147,7 @@ void ucPlot::drawSeries(DeviceContext& context, const Series& series) const
     QPoint from = pixelOfPoint(points.front());
     for (std::size_t i = 1; i < points.size(); ++i) {
         const QPoint to = pixelOfPoint(points[i]);
-        if (!m_breaksAtJumps || isStatic(points[i - 1]) == isStatic(points[i]))
+        if (joins(points[i - 1], points[i]))
             context.drawLine(from, to, pen);
         // The first point has no marker: a marker is drawn at the end of a line.
         if (hasMarkers && static_cast<std::int32_t>(i + 1) % series.MarkerSpacing == 0)

@@ -69,6 +69,10 @@ public:
     /// Whether curves break between a point of a static root (below 0.1 Hz) and one of a root that
     /// oscillates: these are different roots, which a line would join. Off in a new canvas.
     bool breaksAtJumps() const { return m_breaksAtJumps; }
+
+    /// Whether a curve has a line between two neighbouring points.
+    bool joins(const Point& from, const Point& to) const;
+
     void setBreaksAtJumps(bool on) { m_breaksAtJumps = on; }
 
     const QVariant& ModeColor() const { return m_modeColor; }

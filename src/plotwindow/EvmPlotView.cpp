@@ -110,6 +110,7 @@ void EvmPlotView::paintEvent(QPaintEvent* event)
     m_curves.paint(painter);
     if (m_highlight)
         paintHighlight(*m_highlight, m_plot, painter);
+    paintSigns(m_signs, m_plot, painter);
     paintPrompts(painter);
     paintSelection(painter);
     paintBand(painter);
@@ -136,6 +137,12 @@ void EvmPlotView::selectCurveAt(QPoint position, bool adds)
     m_curves.selectAt(position, adds);
     update();
     Q_EMIT curvesSelected(m_curves.rows());
+}
+
+void EvmPlotView::setSigns(PlotSigns signs)
+{
+    m_signs = std::move(signs);
+    update();
 }
 
 void EvmPlotView::paintPrompts(QPainter& painter) const
@@ -175,6 +182,11 @@ void EvmPlotView::paintBand(QPainter& painter) const
 void EvmPlotView::mousePressEvent(QMouseEvent* event)
 {
     finishEditing(true);
+    const auto sign = signAt(m_signs, m_plot, event->pos());
+    if (sign && event->button() == Qt::LeftButton && !m_mover.boxAt(event->pos())) {
+        Q_EMIT signClicked(*sign);
+        return;
+    }
     if (event->button() == Qt::LeftButton)
         m_mover.press(event->pos());
     if (!m_mover.selected() || (event->button() != Qt::LeftButton && !m_mover.isMoving()))

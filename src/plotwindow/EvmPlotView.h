@@ -4,6 +4,7 @@
 #include "document/UndoHistory.h"
 #include "plotwindow/CurveSelection.h"
 #include "plotwindow/PlotHighlight.h"
+#include "plotwindow/PlotSigns.h"
 #include "plotwindow/TextBoxMover.h"
 #include "plotwindow/ZoomGesture.h"
 #include "vgfplot/EvmPlot.h"
@@ -59,6 +60,9 @@ public:
     /// The text box that keys move and edit.
     std::optional<TextBox> selectedBox() const { return m_mover.selected(); }
 
+    /// Shows signs over the picture until the next call.
+    void setSigns(PlotSigns signs);
+
 Q_SIGNALS:
     /// The user has selected the curves of these rows, or none.
     void curvesSelected(const std::vector<tarsil::RowId>& rows);
@@ -75,6 +79,9 @@ Q_SIGNALS:
 
     /// The user has changed the plot. `what` is the name of the undo step.
     void edited(const QString& what, tarsil::UndoHistory::Joining joining);
+
+    /// The user has clicked a sign, by its index.
+    void signClicked(std::size_t index);
 
     /// The user begins to change the plot, or copies the picture.
     void commandBegun();
@@ -122,6 +129,7 @@ private:
 
     EvmPlot& m_plot;
     std::optional<PlotHighlight> m_highlight;
+    PlotSigns m_signs;
     TextBoxMover m_mover;
     ZoomGesture m_gesture;
     CurveSelection m_curves;

@@ -91,6 +91,12 @@ EvmPlotView* wndEvolPlot::viewOf(const EvmPlot& plot)
     return element != evpVgf.end() ? element->view.get() : nullptr;
 }
 
+void wndEvolPlot::showSigns(const PlotSigns& signs)
+{
+    for (const Element& element : evpVgf)
+        element.view->setSigns(element.plot == ActivePlot() ? signs : PlotSigns());
+}
+
 void wndEvolPlot::highlight(const std::optional<PlotHighlight>& highlight)
 {
     for (const Element& element : evpVgf)
@@ -126,6 +132,7 @@ void wndEvolPlot::addView(EvmPlot* plot)
     connect(view.get(), &EvmPlotView::edited, this, &wndEvolPlot::edited);
     connect(view.get(), &EvmPlotView::curvesSelected, this, &wndEvolPlot::curvesSelected);
     connect(view.get(), &EvmPlotView::removeWanted, this, &wndEvolPlot::removeWanted);
+    connect(view.get(), &EvmPlotView::signClicked, this, &wndEvolPlot::signClicked);
     connect(view.get(), &EvmPlotView::commandBegun, this, [this] { m_user.beginCommand(); });
     connect(plot, &EvmPlot::changed, this, &wndEvolPlot::updateTitle);
     evpVgf.push_back({plot, std::move(view)});

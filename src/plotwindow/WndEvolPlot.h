@@ -4,6 +4,7 @@
 #include "base/user/UserInterface.h"
 #include "document/UndoHistory.h"
 #include "plotwindow/PlotHighlight.h"
+#include "plotwindow/PlotSigns.h"
 #include "vgfplot/EvmPlot.h"
 
 #include <QWidget>
@@ -66,6 +67,9 @@ public:
     /// Selects the curves of these rows in the active plot.
     void selectCurves(const std::vector<tarsil::RowId>& rows);
 
+    /// Shows signs in the active plot (`EvmPlotView::setSigns`) and removes those of the others.
+    void showSigns(const PlotSigns& signs);
+
     /// Fits all plots, also those never shown.
     void fitAll();
 
@@ -78,6 +82,9 @@ Q_SIGNALS:
 
     /// The user asks for the removal of the selected curves.
     void removeWanted();
+
+    /// The user has clicked a sign; see `EvmPlotView::signClicked`.
+    void signClicked(std::size_t index);
 
     /// The user asks for the menu of the active plot, by the right button or the keyboard.
     /// `hasCurve`: a curve is selected.

@@ -1,6 +1,8 @@
 #include "stability/CrossingView.h"
 
+#include "analysis/TrackedFile.h"
 #include "model/EVM.h"
+#include "vgfplot/EvmPlot.h"
 #include "vgfplot/ScaleFit.h"
 
 #include <algorithm>
@@ -75,7 +77,43 @@ void addRing(const EVM& evolution, std::int16_t number, float speed, PlotHighlig
     }
 }
 
+/// The point of the mode after a doubtful step; null when it does not exist.
+const Point* pointAfter(const EVM& evolution, const TrackingDoubt& step)
+{
+    const AeMode* const mode = modeOf(evolution, step.mode);
+    if (mode == nullptr)
+        return nullptr;
+    const auto found =
+        std::find_if(mode->Points.begin(), mode->Points.end(),
+                     [&step](const Point& point) { return point.speed == step.toSpeed; });
+    return found == mode->Points.end() ? nullptr : &*found;
+}
+
+bool hasCurveOf(const EvmPlot& plot, const AeMode& mode)
+{
+    const SeriesList& series = plot.SeriesCollection();
+    return std::any_of(series.begin(), series.end(),
+                       [&mode](const Series& one) { return one.Mode == &mode; });
+}
+
 } // namespace
+
+PlotSigns signsOf(const std::vector<PlotDoubt>& doubts, const EvmPlot& plot,
+                  std::vector<std::size_t>& rows)
+{
+    PlotSigns signs;
+    rows.clear();
+    for (std::size_t i = 0; i < doubts.size(); ++i) {
+        const TrackingDoubt& step = doubts[i].doubt;
+        const EVM& evolution = *doubts[i].evolution;
+        const Point* const point = pointAfter(evolution, step);
+        if (!isTracked(evolution) || point == nullptr || !hasCurveOf(plot, *point->Parent))
+            continue;
+        signs.push_back({point->speed, point->f, point->G, step.isJump});
+        rows.push_back(i);
+    }
+    return signs;
+}
 
 PlotHighlight highlightOf(const PlotDoubt& doubt)
 {

@@ -2,6 +2,7 @@
 
 #include "model/PlotAxes.h"
 #include "plotwindow/PlotHighlight.h"
+#include "plotwindow/PlotSigns.h"
 #include "stability/DoubtModel.h"
 #include "stability/PlotStability.h"
 
@@ -12,6 +13,12 @@ PlotHighlight highlightOf(const PlotStretch& stretch);
 
 /// The highlight of a doubtful step: its range, and rings around the points of both modes after it.
 PlotHighlight highlightOf(const PlotDoubt& doubt);
+
+/// The signs of doubtful steps at the first point after each, in their order; strong for a jump.
+/// Only steps of tracked evolutions whose mode has a curve in the plot have a sign; `rows` receives
+/// the indices of these steps.
+PlotSigns signsOf(const std::vector<PlotDoubt>& doubts, const EvmPlot& plot,
+                  std::vector<std::size_t>& rows);
 
 /// Axes around the start of a stretch; around its end if it has no start; around its peak if it has
 /// neither: a quarter of the speed to either side, with round bounds of damping and frequency that

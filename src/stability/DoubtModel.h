@@ -30,6 +30,8 @@ public:
 
     void setDoubts(std::vector<PlotDoubt> doubts);
 
+    const std::vector<PlotDoubt>& doubts() const { return m_doubts; }
+
     /// Null for an unknown row.
     const PlotDoubt* doubt(int row) const;
 

@@ -1,6 +1,7 @@
 #include "stability/PlotStability.h"
 
 #include "aircraft/AirplaneInfo.h"
+#include "base/numbers/Numbers.h"
 #include "vgfplot/EvmPlot.h"
 
 #include <algorithm>
@@ -22,6 +23,11 @@ void add(EvolutionStability stability, PlotStability& all)
     for (const StabilityLine& line : stability.lines)
         all.stretches.push_back({stability.evolution, line});
     all.evolutions.push_back(std::move(stability));
+}
+
+std::string tagOr(const std::string& tag, const char* usual)
+{
+    return tag.empty() ? usual : tag;
 }
 
 } // namespace
@@ -52,6 +58,26 @@ PlotStability stabilityOfAll(const std::vector<const EVM*>& evolutions,
     std::stable_sort(all.stretches.begin(), all.stretches.end(),
                      [](const auto& a, const auto& b) { return startOf(a) < startOf(b); });
     return all;
+}
+
+EnvelopeSpeeds envelopeSpeeds(const std::vector<EvolutionStability>& evolutions,
+                              const AirplaneInfo& airplane, bool hasLimits)
+{
+    EnvelopeSpeeds speeds;
+    for (const EvolutionStability& stability : evolutions) {
+        if (!stability.margin || !stability.margin->required.diveSpeed)
+            continue;
+        const RequiredSpeed& required = stability.margin->required;
+        speeds.insert(
+            {required.speed(),
+             shortestText(required.requirement.factor) + " " + tagOr(airplane.VdTag, "Vd")});
+        const FlutterEnvelope* const envelope = airplane.envelopeAtMach(required.mach);
+        if (!hasLimits || envelope == nullptr)
+            continue;
+        speeds.insert({static_cast<double>(envelope->VL), tagOr(airplane.VLTag, "VL")});
+        speeds.insert({static_cast<double>(envelope->Ceiling), tagOr(airplane.CeTag, "Ceiling")});
+    }
+    return speeds;
 }
 
 } // namespace tarsil

@@ -2,6 +2,9 @@
 
 #include "analysis/StabilityTable.h"
 
+#include <set>
+#include <string>
+#include <utility>
 #include <vector>
 
 namespace tarsil {
@@ -32,5 +35,14 @@ struct PlotStability
 PlotStability stabilityOfAll(const std::vector<const EVM*>& evolutions,
                              const StabilitySettings& settings, const AirplaneInfo& airplane,
                              const Requirement& requirement);
+
+/// Speeds (KEAS) with their captions, each once.
+using EnvelopeSpeeds = std::set<std::pair<double, std::string>>;
+
+/// The required speeds of evolutions, such as 241.5 with "1.15 Vd"; with `hasLimits` also the limit
+/// speeds and ceilings of their envelopes, with the tags of the airplane. Without tags these are
+/// "VL", "Vd" and "Ceiling".
+EnvelopeSpeeds envelopeSpeeds(const std::vector<EvolutionStability>& evolutions,
+                              const AirplaneInfo& airplane, bool hasLimits);
 
 } // namespace tarsil

@@ -15,8 +15,6 @@
 
 #include <QHeaderView>
 
-#include <set>
-
 namespace tarsil {
 
 namespace {
@@ -62,6 +60,7 @@ wndStability::wndStability(Document& document, UserInterface& user, QWidget* par
     connect(&m_document.evolutions(), &EvolutionList::aboutToBeRemoved, this, [this] {
         m_evolutions.clear(); // the tables refer to them
         m_doubts.setDoubts({});
+        showSigns();
         fillTables();
         QMetaObject::invokeMethod(this, &wndStability::followRows, Qt::QueuedConnection);
     });
@@ -92,7 +91,6 @@ void wndStability::connectTables()
     connect(m_ui->doubtGrid->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex& current) { chooseDoubt(current.row()); });
     connect(m_ui->exchangeBtn, &QPushButton::clicked, this, &wndStability::exchangeAtDoubt);
-    connect(m_ui->undoExchangeBtn, &QPushButton::clicked, this, &wndStability::exchangeUndoWanted);
     connect(m_ui->stretchGrid, &QTableView::activated, this,
             [this](const QModelIndex& index) { run([&] { zoomTo(index.row()); }); });
 }
@@ -117,8 +115,10 @@ void wndStability::followRows()
 {
     const EvmPlot* const plot = m_document.plots().active();
     const auto evolutions = plot != nullptr ? evolutionsOf(*plot) : std::vector<const EVM*>();
-    if (evolutions == m_evolutions)
+    if (evolutions == m_evolutions) {
+        showSigns(); // rows may have come or gone
         return;
+    }
     m_evolutions = evolutions;
     fillDoubts();
     judge();
@@ -132,6 +132,27 @@ void wndStability::fillDoubts()
     m_doubts.setDoubts(doubtsOfAll(m_evolutions));
     m_ui->doubtGrid->resizeColumnsToContents();
     m_ui->exchangeBtn->setEnabled(false);
+    showSigns();
+}
+
+void wndStability::showSigns()
+{
+    const EvmPlot* const plot = m_document.plots().active();
+    PlotSigns signs;
+    m_signRows.clear();
+    if (plot != nullptr && isVisible())
+        signs = signsOf(m_doubts.doubts(), *plot, m_signRows);
+    Q_EMIT signsChanged(signs);
+}
+
+void wndStability::chooseSign(std::size_t index)
+{
+    if (index >= m_signRows.size())
+        return;
+    m_ui->tabs->setCurrentWidget(m_ui->doubtTab);
+    const int row = static_cast<int>(m_signRows[index]);
+    m_ui->doubtGrid->setCurrentIndex(m_doubts.index(row, 0));
+    m_ui->doubtGrid->selectRow(row);
 }
 
 void wndStability::showEvent(QShowEvent* event)
@@ -144,6 +165,7 @@ void wndStability::showEvent(QShowEvent* event)
 void wndStability::hideEvent(QHideEvent* event)
 {
     Q_EMIT pointedOut(std::nullopt);
+    Q_EMIT signsChanged({});
     QDialog::hideEvent(event);
 }
 
@@ -209,11 +231,6 @@ void wndStability::fillTables()
     m_ui->linesBtn->setEnabled(!m_document.airplane().FlutterEnvs.empty());
 }
 
-void wndStability::setExchangeUndoable(bool isUndoable)
-{
-    m_ui->undoExchangeBtn->setEnabled(isUndoable);
-}
-
 void wndStability::chooseStretch(int row)
 {
     const PlotStretch* const stretch = m_stretches.stretch(row);
@@ -262,24 +279,19 @@ void wndStability::zoomTo(int row)
                                 [&] { plot.setAxes(axesAround(*stretch, plot.axes())); });
 }
 
-/// Adds a reference speed for each required speed, and a damping line at the level of the
+/// Adds reference speeds for the required speeds, and a damping line at the level of the
 /// requirement.
 void wndStability::addRequirementLines()
 {
     EvmPlot& plot = activePlot();
-    std::set<double> speeds;
-    for (const EvolutionStability& stability : m_stability.evolutions) {
-        if (stability.margin && stability.margin->required.diveSpeed)
-            speeds.insert(stability.margin->required.speed());
-    }
+    const EnvelopeSpeeds speeds = envelopeSpeeds(m_stability.evolutions, m_document.airplane(),
+                                                 m_ui->envelopeChk->isChecked());
     if (speeds.empty())
         throw RunTimeError(ErrorNumber::InvalidProcedureCall, std::string(module),
                            "no evolution of the plot has a flutter envelope for its Mach number");
-    const std::string tag = shortestText(m_requirement.factor) + " "
-        + (m_document.airplane().VdTag.empty() ? "Vd" : m_document.airplane().VdTag);
     m_document.history().change(tr("Requirement Lines"), [&] {
-        for (const double speed : speeds)
-            plot.references().AddRef(static_cast<float>(speed), QString::fromStdString(tag));
+        for (const auto& [speed, caption] : speeds)
+            plot.references().AddRef(static_cast<float>(speed), QString::fromStdString(caption));
         plot.references().AddDampLine(
             m_requirement.level,
             QString::fromStdString("g = " + shortestText(m_requirement.level)));

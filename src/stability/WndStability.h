@@ -2,6 +2,7 @@
 
 #include "plotwindow/InputMessage.h"
 #include "plotwindow/PlotHighlight.h"
+#include "plotwindow/PlotSigns.h"
 #include "stability/DoubtModel.h"
 #include "stability/PlotStability.h"
 #include "stability/StabilityModel.h"
@@ -46,8 +47,8 @@ public:
 
     QSize sizeHint() const override;
 
-    /// Whether there is an exchange to undo.
-    void setExchangeUndoable(bool isUndoable);
+    /// Selects the doubtful step of a sign, by its index in `signsChanged`.
+    void chooseSign(std::size_t index);
 
 Q_SIGNALS:
     /// The active plot is to show this highlight; empty for none.
@@ -56,9 +57,11 @@ Q_SIGNALS:
     /// The mode of the highlight, by its number in the file.
     void modeChosen(const tarsil::EVM& evolution, std::int16_t mode);
 
-    /// The user asks to exchange two modes from a speed on, or to undo the last exchange.
+    /// The active plot is to show these signs at doubtful steps of tracked evolutions.
+    void signsChanged(const tarsil::PlotSigns& signs);
+
+    /// The user asks to exchange two modes from a speed on.
     void exchangeWanted(const tarsil::EVM& evolution, const tarsil::ModeExchange& exchange);
-    void exchangeUndoWanted();
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -77,6 +80,7 @@ private:
     void fillDoubts();
     void chooseStretch(int row);
     void chooseDoubt(int row);
+    void showSigns();
     void exchangeAtDoubt();
     void zoomTo(int row);
     void addRequirementLines();
@@ -99,6 +103,7 @@ private:
     StabilityModel m_stretches;
     VerdictModel m_verdicts;
     DoubtModel m_doubts;
+    std::vector<std::size_t> m_signRows; ///< the row in the list of doubts of each sign
     QMetaObject::Connection m_rowsConnection;
 };
 

@@ -73,6 +73,9 @@ public:
     /// `ucPlot`.
     void plot() { m_picture.plot(); }
 
+    /// The points of modes in the rows have changed: the picture is stale.
+    void modesChanged() { m_picture.showCurves(); }
+
     /// Clears both canvases until `plot` or a change of the rows.
     void Cls() { m_picture.Cls(); }
 

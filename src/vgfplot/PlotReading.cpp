@@ -65,7 +65,7 @@ public:
             const Point& from = points[i - 1];
             const Point& to = points[i];
             const auto [low, high] = std::minmax(from.speed, to.speed);
-            if (high >= m_speeds.low && low <= m_speeds.high)
+            if (high >= m_speeds.low && low <= m_speeds.high && m_canvas.joins(from, to))
                 lookAt(series, from, to, nearest);
         }
     }

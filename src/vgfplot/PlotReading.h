@@ -51,7 +51,8 @@ constexpr int curveReach = 12;
 /// perpendicular or at the nearer end of the segment.
 ///
 /// Empty outside the canvases and when an axis has equal bounds. Ignores series that draw no line
-/// (no mode, no line style, too many points).
+/// (no mode, no line style, too many points), and the gaps of broken
+/// curves (`ucPlot::joins`).
 std::optional<PlotReading> readAt(const EvmPlot& plot, QPoint pixel);
 
 /// The values of the point with an index, counted from 0, of the curve of a row. The row must have

@@ -9,9 +9,15 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QImage>
+#include <QUndoStack>
+
+#include <filesystem>
+
 using namespace tarsil;
 using test::fileBytes;
 using ::testing::HasSubstr;
+using ::testing::StartsWith;
 
 namespace {
 
@@ -85,31 +91,96 @@ TEST_F(TrackingCommandsTest, exchangesModesInTheFileAndInThePlots)
     EXPECT_EQ(modifications[modifications.size() - 1].text, line);
 }
 
-TEST_F(TrackingCommandsTest, undoesExchangesOneByOne)
+TEST_F(TrackingCommandsTest, undoesAndRedoesExchangesAsStepsOfTheHistory)
 {
-    EXPECT_FALSE(commands.canUndo());
     commands.track(*source);
+    document.history().note(QStringLiteral("Track Modes"));
+    EvmPlot& plot = document.plots().first();
+    plot.rows().add(newSeries(*tracked().Modes[0], 0));
+    plot.resize({400, 300});
+    const QImage picture = plot.Image();
     const std::string before = fileBytes(folder.file("wing_tracked.ev2"));
     const float frequencyBefore = frequency(tracked(), 0);
     commands.exchange(tracked(), {1, 2, 200});
+    EXPECT_EQ(document.history().steps().undoText(), QStringLiteral("Exchange Modes"));
+    EXPECT_NE(plot.Image(), picture);
     const std::string between = fileBytes(folder.file("wing_tracked.ev2"));
     commands.exchange(tracked(), {2, 3, 100});
-    commands.undoExchange();
+    const std::string after = fileBytes(folder.file("wing_tracked.ev2"));
+    document.history().undo();
     EXPECT_EQ(fileBytes(folder.file("wing_tracked.ev2")), between);
-    commands.undoExchange();
+    document.history().undo();
     EXPECT_EQ(fileBytes(folder.file("wing_tracked.ev2")), before);
     EXPECT_EQ(frequency(tracked(), 0), frequencyBefore);
-    EXPECT_FALSE(commands.canUndo());
+    EXPECT_EQ(plot.Image(), picture);
+    document.history().redo();
+    document.history().redo();
+    EXPECT_EQ(fileBytes(folder.file("wing_tracked.ev2")), after);
 }
 
-TEST_F(TrackingCommandsTest, undoesNothingWhenAnotherProgramHasChangedTheFile)
+TEST_F(TrackingCommandsTest, undoesEarlierStepsAfterOneWhoseFileAnotherProgramHasChanged)
+{
+    commands.track(*source);
+    document.history().note(QStringLiteral("Track Modes"));
+    const QString description = document.texts().description;
+    document.setDescription(QStringLiteral("mine"));
+    document.history().note(QStringLiteral("Describe"));
+    commands.exchange(tracked(), {1, 2, 200});
+    const float exchanged = frequency(tracked(), 0);
+    folder.write("wing_tracked.ev2", "other");
+    EXPECT_THAT(test::errorTextOf([&] { document.history().undo(); }),
+                HasSubstr("wing_tracked.ev2 has been changed or removed by another program"));
+    EXPECT_EQ(fileBytes(folder.file("wing_tracked.ev2")), "other");
+    EXPECT_EQ(frequency(tracked(), 0), exchanged);
+    EXPECT_EQ(document.history().steps().undoText(), QStringLiteral("Describe"));
+    EXPECT_FALSE(document.history().steps().canRedo());
+    document.history().undo();
+    EXPECT_EQ(document.texts().description, description);
+}
+
+TEST_F(TrackingCommandsTest, redoesNothingWhenTheFileIsGone)
 {
     commands.track(*source);
     commands.exchange(tracked(), {1, 2, 200});
-    folder.write("wing_tracked.ev2", "other");
-    EXPECT_THAT(test::errorTextOf([&] { commands.undoExchange(); }),
-                HasSubstr("has been changed since"));
-    EXPECT_EQ(fileBytes(folder.file("wing_tracked.ev2")), "other");
+    document.history().undo();
+    std::filesystem::remove(folder.file("wing_tracked.ev2"));
+    EXPECT_THAT(test::errorTextOf([&] { document.history().redo(); }),
+                HasSubstr("has been changed or removed"));
+    EXPECT_FALSE(std::filesystem::exists(folder.file("wing_tracked.ev2")));
+    EXPECT_TRUE(document.history().steps().canRedo());
+}
+
+TEST_F(TrackingCommandsTest, changesNothingWhenTheFileCannotBeWritten)
+{
+    commands.track(*source);
+    document.history().note(QStringLiteral("Track Modes"));
+    commands.exchange(tracked(), {1, 2, 200});
+    const float exchanged = frequency(tracked(), 0);
+    const std::string path = folder.file("wing_tracked.ev2");
+    std::filesystem::permissions(path, std::filesystem::perms::owner_read);
+    EXPECT_THAT(test::errorTextOf([&] { document.history().undo(); }), StartsWith("70 "));
+    EXPECT_EQ(frequency(tracked(), 0), exchanged);
+    EXPECT_EQ(document.history().steps().undoText(), QStringLiteral("Exchange Modes"));
+    EXPECT_THAT(test::errorTextOf([&] {
+                    commands.exchange(tracked(), {2, 3, 100});
+                }),
+                StartsWith("70 "));
+    EXPECT_EQ(frequency(tracked(), 0), exchanged);
+    std::filesystem::permissions(path, std::filesystem::perms::owner_all);
+    document.history().undo();
+    EXPECT_EQ(document.history().steps().undoText(), QStringLiteral("Track Modes"));
+}
+
+TEST_F(TrackingCommandsTest, tracksAnOpenTrackedEvolutionAnewAsAStep)
+{
+    commands.track(*source);
+    commands.exchange(tracked(), {1, 2, 200});
+    const std::string exchanged = fileBytes(folder.file("wing_tracked.ev2"));
+    user.confirmations = {true};
+    commands.track(*source);
+    EXPECT_EQ(document.history().steps().undoText(), QStringLiteral("Track Modes"));
+    document.history().undo();
+    EXPECT_EQ(fileBytes(folder.file("wing_tracked.ev2")), exchanged);
 }
 
 TEST_F(TrackingCommandsTest, showsTheNewStateOfAnOpenTrackedEvolution)
@@ -139,7 +210,7 @@ TEST_F(TrackingCommandsTest, refusesWhatCannotBeTrackedOrExchanged)
                 }),
                 HasSubstr("no point is above 900"));
     EXPECT_EQ(fileBytes(folder.file("wing_tracked.ev2")), before);
-    EXPECT_FALSE(commands.canUndo());
+    EXPECT_FALSE(document.history().steps().undoText() == QStringLiteral("Exchange Modes"));
     const std::string old =
         folder.write("old.evm", fileBytes(test::sample("goland_clean_m040.evm")));
     const EVM& fixedColumns = *document.load({old}, user).at(0);

@@ -89,7 +89,8 @@ TEST_F(TrendWindowTest, asksForTicksWhenThereAreNone)
     EXPECT_THAT(part<QLabel>("hintLabel").text().toStdString(),
                 StartsWith("Tick modal evolutions"));
     showAll();
-    EXPECT_THAT(part<QLabel>("hintLabel").text().toStdString(), StartsWith("Ticked modal evolutions: 2"));
+    EXPECT_THAT(part<QLabel>("hintLabel").text().toStdString(),
+                StartsWith("Ticked modal evolutions: 2"));
 }
 
 TEST_F(TrendWindowTest, followsTheSettings)

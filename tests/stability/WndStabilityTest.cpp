@@ -6,6 +6,7 @@
 #include "support/ScriptedUserInterface.h"
 #include "vgfplot/EvmPlot.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -168,8 +169,6 @@ TEST_F(WndStabilityTest, letsModesBeExchangedFromADoubtOn)
     ASSERT_EQ(wanted.size(), 1U);
     EXPECT_EQ(wanted[0].firstMode + wanted[0].secondMode, 3);
     EXPECT_EQ(doubts.model()->index(0, 3).data().toFloat(), wanted[0].aboveSpeed);
-    window.setExchangeUndoable(true);
-    EXPECT_TRUE(part<QPushButton>("undoExchangeBtn").isEnabled());
 }
 
 TEST_F(WndStabilityTest, zoomsToAStretchAsAStepThatCanBeUndone)
@@ -205,4 +204,23 @@ TEST_F(WndStabilityTest, drawsWhatTheAirplaneRequires)
     document.history().undo();
     EXPECT_TRUE(plot().references().referenceSpeeds().empty());
     EXPECT_TRUE(plot().references().dampingLines().empty());
+}
+
+TEST_F(WndStabilityTest, drawsLimitSpeedAndCeilingWhenWanted)
+{
+    AirplaneInfo airplane;
+    airplane.VLTag = "VMO";
+    airplane.FlutterEnvs.push_back({250, 200, 180, "0.40"});
+    document.setAirplane(airplane);
+    document.evolutions().setParameters(*first, {"", "", 0.4F});
+    draw(*first);
+    part<QCheckBox>("envelopeChk").setChecked(true);
+    QTest::mouseClick(&part<QPushButton>("linesBtn"), Qt::LeftButton);
+    std::vector<std::pair<float, std::string>> speeds;
+    for (const RefThick& one : plot().references().referenceSpeeds())
+        speeds.emplace_back(one.Speed, one.Caption.toStdString());
+    // 230 is 1.15 x 200.
+    EXPECT_EQ(speeds,
+              (std::vector<std::pair<float, std::string>> {
+                  {180, "Ceiling"}, {230, "1.15 Vd"}, {250, "VMO"}}));
 }

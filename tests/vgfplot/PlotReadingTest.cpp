@@ -337,3 +337,15 @@ TEST(ReadingText, hasNoSignForWhatRoundsToZero)
     EXPECT_EQ(readingText({-0.04, Ordinate::Damping, -0.00004, {}}),
               QStringLiteral("V 0.0 KEAS   g 0.0000"));
 }
+
+TEST_F(PlotReadingTest, readsNothingInTheGapOfABrokenCurve)
+{
+    // Static at 100 KEAS, 60 Hz at 300: half-way is column 280 and row 330 - 4 * 30.
+    draw({{100, -0.2F, 0}, {300, -0.2F, 60}, {400, -0.2F, 60}});
+    const QPoint middle(280, 210);
+    ASSERT_TRUE(curveAt(middle.x(), middle.y()).has_value());
+    plot.properties().setBreaksAtJumps(true);
+    EXPECT_FALSE(curveAt(middle.x(), middle.y()).has_value());
+    EXPECT_FALSE(curveAt(280, 530).has_value()) << "nor in the curve of damping";
+    EXPECT_TRUE(curveAt(430, 90).has_value()) << "both points oscillate";
+}
