@@ -169,7 +169,8 @@ void FaultTrial::judgeFolder(const RunResult& result)
     if (result.metCall.starts_with("unlink"))
         return;
     for (const auto& entry : fs::recursive_directory_iterator(m_place)) {
-        EXPECT_TRUE(entry.is_directory() || entry.path() == target())
+        EXPECT_TRUE(entry.is_directory() || entry.path() == target()
+                    || entry.path().filename() == m_writer.neighbour)
             << entry.path() << " is left over";
     }
 }

@@ -28,6 +28,9 @@ struct Writer
 
     /// Part of a message that is not about writing; the new file may exist when it appears.
     std::string remark = {};
+
+    /// The name of another file that the program keeps in the same folder.
+    std::string neighbour = {};
 };
 
 /// Runs a writer with a fault at each of its system calls, until it meets none. After each run the

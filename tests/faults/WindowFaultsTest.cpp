@@ -52,7 +52,8 @@ TEST_P(WindowFaults, leaveTheOldFileOrTheNewOne)
         return std::vector<std::string> {TARSIL_FAULT_WINDOW, writer.command, target,
                                          sample("goland_clean_m040.ev2")};
     };
-    FaultTrial({command, writer.file, writer.old, writer.makesFile, writer.remark}).run();
+    FaultTrial({command, writer.file, writer.old, writer.makesFile, writer.remark, "windows.ini"})
+        .run();
 }
 
 INSTANTIATE_TEST_SUITE_P(Writers, WindowFaults, ::testing::ValuesIn(writers()),
