@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The cost of a click in the Data Control window with 500 rows, relative to drawing the plot alone.
 
 #include "RatioTable.h"

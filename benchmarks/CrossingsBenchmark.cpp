@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The search for crossings, against one pass over the same points.
 
 #include "RatioTable.h"

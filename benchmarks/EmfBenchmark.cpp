@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Metafiles: 100 curves of 1000 segments written to a file, compared with gnuplot's emf terminal on
 // the same data; the memory used by small and large pictures.
 

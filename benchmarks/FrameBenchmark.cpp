@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The time of a frame while a plot in the standard look is dragged: the pointer moves, the axes
 // follow, the view paints. It is the processor's time, which other programs do not change much.
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The picture of 100 modes of 1000 points, and a repaint without a change.
 
 #include "RatioTable.h"

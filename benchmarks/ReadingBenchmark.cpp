@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Reading: 100 MB of each layout compared with a from_chars reader and a getline reader, 500 files
 // compared with cat, and the memory held.
 

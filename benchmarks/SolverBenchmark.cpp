@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Printed flutter summaries: text without tables, and tables compared with an mmap + from_chars
 // reader.
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Stretches of instability and tracking, for 500 evolutions of 40 modes x 60 points.
 
 #include "RatioTable.h"

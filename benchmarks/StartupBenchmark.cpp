@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // From the start of the process to the first painted frame: the program with a sample, compared
 // with an empty window with three sub-windows. The benchmark starts itself as either of them.
 

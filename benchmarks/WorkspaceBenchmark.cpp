@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Workspaces of many small files: opening one compared with reading its files alone, and the
 // explorer's nodes for many files compared with few. Searches for moved files in the worst
 // workspaces.

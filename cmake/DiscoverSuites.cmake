@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # Script: lists the test suites of a GoogleTest program and writes a ctest file with one test for
 # each suite and locale, so that `ctest -R Crossings` runs that suite and a failure names it.
 #

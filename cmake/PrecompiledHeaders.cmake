@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # Precompiled headers: those of the standard library, of Qt and of GoogleTest, which cost more time
 # than the files that include them. Every file still includes what it uses; a build without them
 # (CMAKE_DISABLE_PRECOMPILE_HEADERS) shows missing includes.

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # Functions for libraries and tests: warnings, header checks, and the refusal of widgets below the
 # windows.
 

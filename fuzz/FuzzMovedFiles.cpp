@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Moved files: each line of the input is a path of a workspace whose file is missing, after "+" one
 // whose file exists, or after "=" a file that was found.
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Rich text on a plot, as written to pictures for other programs.
 
 #include "FuzzTarget.h"

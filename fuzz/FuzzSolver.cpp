@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Printed flutter summaries, up to the evolutions made from them.
 
 #include "FuzzTarget.h"

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # Debian packages by cpack: tarsil with the programs, tarsil-doc with the documents.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME tarsil)

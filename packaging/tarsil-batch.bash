@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # bash completion for tarsil-batch. Commands and options come from the program's own help, so that
 # they are always those of the installed version.
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // This file computes the standard atmosphere and the conversions between airspeeds.
 #include "Atmosphere.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // This header gives the air of the International Standard Atmosphere in the troposphere.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // This file computes the mode shapes of a uniform cantilever beam without loss of digits.
 #include "BeamModes.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // This header gives the closed-form mode shapes of a uniform cantilever beam.
 #pragma once
 

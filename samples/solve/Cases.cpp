@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // This file holds the mass configurations, Mach numbers and altitudes of the samples.
 #include "Cases.h"
 

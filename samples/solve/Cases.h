@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // This header lists the flutter runs that make up the sample files.
 #pragma once
 

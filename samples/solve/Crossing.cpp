@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // This file finds the zeros of the damping by linear interpolation.
 #include "Crossing.h"
 

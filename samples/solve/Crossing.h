@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // This header finds the flutter speeds in the curves of a flutter solution.
 #pragma once
 

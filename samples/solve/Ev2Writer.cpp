@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // This file writes .ev2 files: three sections and one row of fields split by bars for each point.
 #include "Ev2Writer.h"
 

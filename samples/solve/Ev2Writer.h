@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // This header writes the result of a run as an .ev2 file.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // This file writes .evm files: four head lines, then two points of 40 columns on each line.
 #include "EvmWriter.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // This header writes the result of a run as an .evm file, the older form with fixed columns.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // This header holds the results of a flutter solution.
 #pragma once
 

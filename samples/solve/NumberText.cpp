@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // This file writes numbers in fixed widths, independent of the locale of the desktop.
 #include "NumberText.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // This header writes numbers in fixed widths for the sample files.
 #pragma once
 

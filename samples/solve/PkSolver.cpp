@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // This file holds the p-k iteration and the tracking of the modes over the speed.
 #include "PkSolver.h"
 

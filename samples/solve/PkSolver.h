@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // This header solves the flutter equation by the p-k method at one density and many speeds.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // This file computes Theodorsen's function and the air loads on the natural modes.
 #include "StripAerodynamics.h"
 

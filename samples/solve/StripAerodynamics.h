@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // This header gives the unsteady air loads of incompressible strip theory after Theodorsen.
 #pragma once
 

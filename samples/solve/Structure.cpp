@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // This file forms the mass and stiffness of the assumed modes and solves the natural modes.
 #include "Structure.h"
 

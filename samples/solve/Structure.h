@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // This header gives the natural modes of the wing in vacuum by assumed modes.
 #pragma once
 

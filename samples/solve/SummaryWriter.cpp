@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // This file writes flutter summaries: a page of rows for each root of each subcase.
 #include "SummaryWriter.h"
 

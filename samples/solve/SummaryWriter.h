@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // This header formats runs as the flutter summary that a solver prints.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // This file holds the numbers of the Goland wing and of the store at its tip.
 #include "Wing.h"
 

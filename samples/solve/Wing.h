@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // This header holds the data of the uniform cantilever wing and of the store at its tip.
 #pragma once
 

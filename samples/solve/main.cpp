@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // This program solves the flutter of the Goland wing and writes the sample files into a folder.
 #include "Cases.h"
 #include "Crossing.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "app/LeftOutRows.h"
 
 #include "base/text/ShortList.h"

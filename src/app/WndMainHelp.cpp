@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The menu "Help" of the main window.
 
 #include "app/SharedFiles.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The menus of the main window.
 
 #include "app/WndMain.h"

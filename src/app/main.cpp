@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "app/FileOpener.h"
 #include "app/GuardedApplication.h"
 #include "app/QtUserInterface.h"

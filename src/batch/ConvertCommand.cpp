@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "batch/BatchRun.h"
 #include "batch/Commands.h"
 #include "batch/WorkspaceInput.h"

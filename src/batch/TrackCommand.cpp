@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "analysis/TrackedFile.h"
 #include "base/files/AtomicFile.h"
 #include "base/files/InputFile.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "analysis/FlutterTrend.h"
 #include "analysis/Sheet.h"
 #include "analysis/SheetWriter.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "datacontrol/TitlePanel.h"
 
 #include "ui_TitlePanel.h"

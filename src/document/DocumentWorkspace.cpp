@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The document as a workspace file: opening, saving, unsaved changes.
 
 #include "base/files/AtomicFile.h"

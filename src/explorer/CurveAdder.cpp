@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "explorer/CurveAdder.h"
 
 #include "plotwindow/WndEvolPlot.h"

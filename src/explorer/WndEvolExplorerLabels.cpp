@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Editing of the labels of the explorer's tree.
 
 #include "base/numbers/Numbers.h"

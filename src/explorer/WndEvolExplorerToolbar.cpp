@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The toolbar of the explorer; adding and removing evolutions and plots.
 
 #include "base/user/RunTimeError.h"

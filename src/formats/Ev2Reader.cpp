@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "base/files/TextStream.h"
 #include "base/text/TextCodec.h"
 #include "base/user/RunTimeError.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "formats/Ev2Relabel.h"
 
 #include "base/files/TextStream.h"

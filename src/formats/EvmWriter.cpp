@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "formats/EvmWriter.h"
 
 #include "base/numbers/NumberFormat.h"

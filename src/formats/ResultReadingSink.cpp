@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "formats/ResultReadingSink.h"
 
 #include "base/files/TextStream.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "formats/ResultRow.h"
 
 #include "base/numbers/ShortNumber.h"

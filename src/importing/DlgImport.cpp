@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "importing/DlgImport.h"
 
 #include "ui_DlgImport.h"

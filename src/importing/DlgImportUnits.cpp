@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The inputs of the units and the notes about them.
 
 #include "importing/DlgImport.h"

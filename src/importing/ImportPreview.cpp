@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "importing/ImportPreview.h"
 
 #include "model/EVM.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "rtf/RtfParser.h"
 
 #include "base/text/Utf16.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "rtf/RtfReader.h"
 
 #include "base/text/TextCodec.h"

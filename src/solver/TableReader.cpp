@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "solver/TableReader.h"
 
 #include "base/text/QuotedText.h"

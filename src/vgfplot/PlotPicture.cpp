@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "vgfplot/PlotPicture.h"
 
 #include "vgfplot/PlotParts.h"

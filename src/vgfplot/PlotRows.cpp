@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "vgfplot/PlotRows.h"
 
 #include "base/user/RunTimeError.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "workspace/FileIdentities.h"
 
 #include "base/files/PathNames.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "workspace/WorkspaceKeys.h"
 
 namespace tarsil::workspacekeys {

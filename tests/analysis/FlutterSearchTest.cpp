@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "analysis/FlutterSearch.h"
 
 #include "analysis/ModeBuilder.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Published results of other programs, which are not in the repository: what is said about their
 // stability. Skipped when the folder is missing.
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Every control of every window and dialog has a name that a screen reader can say.
 
 #include "app/WndGuide.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The command "Break Curves at Jumps".
 
 #include "app/WndMainFixture.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The commands of the main window's menus.
 
 #include "app/WndMainFixture.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The Data Control window together with the others: a typical session in the main window.
 
 #include "app/WndMainFixture.h"

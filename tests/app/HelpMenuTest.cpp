@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The menu Help: the guide, the samples, and what the program is made of.
 
 #include "app/WndGuide.h"

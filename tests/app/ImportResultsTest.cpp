@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Solver outputs from the menu, from the command line, and dropped on the main window.
 
 #include "app/WndMainFixture.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The focus after a message box of a dialog, with real boxes and windows.
 
 #include "app/QtUserInterface.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The options in the main window: at the start, during the run, and at its end.
 
 #include "app/WndMainFixture.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The mouse and the keys in the plot of the main window: with the grid, the pop-ups and undo.
 
 #include "WndMainFixture.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // What the program offers after one that did not end properly.
 
 #include "app/WndMainFixture.h"

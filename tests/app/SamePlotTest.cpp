@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The plot of files on the command line is the same in the window and in a picture.
 
 #include "WndMainFixture.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Whole sessions, saved and opened again.
 
 #include "app/WndMainFixture.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The examples in samples/stability: what the flutter table and the window "Stability" make of
 // each. If TARSIL_GUIDE names a folder, the pictures of the user's guide are taken on the way.
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The window "Stability" in the program.
 
 #include "app/WndMainFixture.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The window "Flutter Trend" in the program.
 
 #include "app/WndMainFixture.h"

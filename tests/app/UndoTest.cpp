@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Undo and redo as the user has them, in the main window.
 
 #include "app/WndMainFixture.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // What the windows remember: sizes and shares, the files last opened, the folders of dialogs.
 
 #include "app/ChildLayout.h"

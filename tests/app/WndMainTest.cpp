@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The main window: start-up, layout, menus, status bar, shut-down.
 
 #include "app/WndMainFixture.h"

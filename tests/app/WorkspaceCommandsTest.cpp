@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // New, Open and Save of the File menu.
 
 #include "app/WndMainFixture.h"

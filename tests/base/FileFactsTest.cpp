@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "base/files/FileFacts.h"
 
 #include "base/files/Sha256.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Rights of a saved file, cleanup after signals, and failures of the system during saving.
 
 #include "base/files/AtomicFile.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Lets every allocation of a command fail: the program reports it, and the old file is unchanged.
 // Its own executable, because it replaces the allocation functions of the process.
 

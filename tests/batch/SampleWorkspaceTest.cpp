@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The workspace of the samples, whose stored paths do not exist.
 
 #include "batch/BatchFixture.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Cells as spreadsheets copy them.
 
 #include "datacontrol/CellText.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The commands on the selected rows that the pop-up of a curve offers.
 
 #include "datacontrol/CurveMenu.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The small dialog for the line of a series.
 
 #include "datacontrol/DlgSeriesStyle.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Copying, pasting, filling, sorting and filtering the rows of the grid.
 
 #include "WndDataFixture.h"

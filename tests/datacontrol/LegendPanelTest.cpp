@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The group of the legend, alone.
 
 #include "DataPanelFixture.h"

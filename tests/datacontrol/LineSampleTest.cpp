@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The sample of a series' line.
 
 #include "datacontrol/LineSample.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The series of a plot as the rows of a grid.
 
 #include "datacontrol/SeriesGridModel.h"

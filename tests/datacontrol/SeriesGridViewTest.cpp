@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The grid of series with keys and mouse.
 
 #include "WndDataFixture.h"

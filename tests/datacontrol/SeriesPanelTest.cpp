@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The grid and its commands, alone.
 
 #include "DataPanelFixture.h"

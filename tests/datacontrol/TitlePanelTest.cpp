@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The group of header, reference speeds and subtitle, alone.
 
 #include "DataPanelFixture.h"

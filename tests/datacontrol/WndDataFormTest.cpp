@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The form of the Data Control window: names, captions and default texts of its widgets.
 
 #include "WndDataFixture.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The series of the Data Control window: modes, order, colours and markers.
 
 #include "WndDataFixture.h"

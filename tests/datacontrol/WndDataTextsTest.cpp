@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The plot's axes, texts, reference speeds and picture in the Data Control window.
 
 #include "WndDataFixture.h"

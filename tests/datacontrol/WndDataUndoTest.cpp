@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Undo and redo of the commands of the Data Control window.
 
 #include "WndDataFixture.h"

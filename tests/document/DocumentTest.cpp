@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // How the lists of a document work together.
 
 #include "DocumentFixture.h"

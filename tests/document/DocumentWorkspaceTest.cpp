@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Opening, saving and unsaved changes.
 
 #include "DocumentFixture.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The list of open evolutions and the reference evolution.
 
 #include "DocumentFixture.h"

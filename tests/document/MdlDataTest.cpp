@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The commands on the rows of the grid.
 
 #include "document/MdlData.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The plots of a document, their captions and the active one.
 
 #include "DocumentFixture.h"

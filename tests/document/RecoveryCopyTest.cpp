@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The copy of what is not saved, and who brings it back.
 
 #include "document/RecoveryCopy.h"

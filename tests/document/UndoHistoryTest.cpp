@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Undo and redo of changes of plots.
 
 #include "document/UndoHistory.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // A typical session by mouse and keyboard: options, evolutions, modes, header, speeds, subtitle,
 // legend, picture. If TARSIL_GUIDE names a folder, the pictures of the user's guide are taken on
 // the way.

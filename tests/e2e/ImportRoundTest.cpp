@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // From a solver output to the plot and the report, by mouse and keyboard. If TARSIL_GUIDE names a
 // folder, the pictures of the user's guide are taken on the way.
 

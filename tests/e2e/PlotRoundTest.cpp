@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The plot by the mouse, and by the keyboard alone.
 
 #include "Person.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // A session by mouse and keyboard, saved and restored after a restart.
 
 #include "Person.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "emf/EmfStream.h"
 #include "emf/EmfSink.h"
 #include "support/Errors.h"

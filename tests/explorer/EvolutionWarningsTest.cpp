@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Warnings about the files of evolutions, and their signs in the explorer.
 
 #include "explorer/EvolutionWarnings.h"

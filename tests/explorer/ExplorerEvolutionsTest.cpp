@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The nodes of the modal evolutions.
 
 #include "explorer/WndEvolExplorerFixture.h"

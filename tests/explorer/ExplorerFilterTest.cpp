@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The filter of the explorer, ticks, and several selected nodes.
 
 #include "WndEvolExplorerFixture.h"

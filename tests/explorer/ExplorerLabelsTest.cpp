@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Editing the labels of the explorer's tree.
 
 #include "explorer/WndEvolExplorerFixture.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The nodes of the plots, and the buttons that add and remove plots.
 
 #include "explorer/WndEvolExplorerFixture.h"

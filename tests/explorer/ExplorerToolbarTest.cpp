@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The buttons "Remove" and "Select" of the explorer.
 
 #include "explorer/WndEvolExplorerFixture.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The form of the explorer and its permanent nodes.
 
 #include "document/DateText.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The dialog that picks several modes of one evolution.
 
 #include "explorer/WndSelModes.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The writers of the program without windows.
 
 #include "FaultTrial.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The main window without a user: opens the files, runs one command, and quits. Exits with 1 when a
 // message other than of success was shown, and prints it to standard error.
 //

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Files that another program changes while they are read.
 
 #include "FaultInjector.h"

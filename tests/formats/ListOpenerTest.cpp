@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Opening the files of a list.
 
 #include "formats/ListOpener.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // A file is read in pieces; the result must not depend on where they end.
 
 #include "base/files/FileLines.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "base/files/PathNames.h"
 #include "formats/EvolutionChecker.h"
 #include "formats/EvolutionFile.h"

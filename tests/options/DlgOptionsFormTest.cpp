@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The form of the options dialog: names, captions, keys.
 
 #include "options/DlgOptionsFixture.h"

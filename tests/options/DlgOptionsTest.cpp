@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Reading, applying and saving of the options.
 
 #include "options/DlgOptionsFixture.h"

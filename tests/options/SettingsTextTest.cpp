@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "options/SettingsText.h"
 
 #include "support/TestFiles.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The scale of a canvas: conversion of data to pixels.
 
 #include "plot/Canvas.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The curves and markers of a canvas.
 
 #include "plot/Canvas.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Reference lines, own surface and properties of a canvas.
 
 #include "plot/Canvas.h"

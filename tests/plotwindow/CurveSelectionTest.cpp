@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Selecting curves in the view of a plot by the mouse. It is 800 x 600, so
 //
 //     column = 80 + V        row = 330 - 4 f        row = 330 - 1000 g

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The form of the dialog of the plot properties: names, captions and positions of its widgets.
 
 #include "plotwindow/DlgPlotProp.h"

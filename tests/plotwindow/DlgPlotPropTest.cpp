@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The behaviour of the dialog of the plot properties.
 
 #include "plotwindow/DlgPlotProp.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The number in an input field.
 
 #include "plotwindow/NumberInput.h"

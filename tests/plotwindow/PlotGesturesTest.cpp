@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Zooming, panning and editing of axes in the view of a plot. It is 800 x 600, so the canvases are
 // columns 80 to 679 and rows 78 to 581, and the speed axis is row 330 (see PlotZoomTest).
 

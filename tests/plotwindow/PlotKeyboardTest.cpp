@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The keyboard and screen readers in the view of a plot. It is 800 x 600, so
 //
 //     column = 80 + V        row = 330 - 4 f        row = 330 - 1000 g

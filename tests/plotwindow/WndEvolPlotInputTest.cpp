@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The window's reactions to its size, the keyboard and the mouse.
 
 #include "plotwindow/WndEvolPlotFixture.h"

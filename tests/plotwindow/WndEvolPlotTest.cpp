@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The plots of the window, the active one, and their series.
 
 #include "analysis/ModeBuilder.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Solver outputs truncated anywhere, because a disk was full or a run was killed.
 
 #include "base/user/RunTimeError.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "trend/TrendPlot.h"
 
 #include "support/RecordingContext.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The metafile of a plot in other programs, if they are installed.
 
 #include "analysis/ModeBuilder.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // What a V-g-f plot draws on the screen and into other contexts.
 
 #include "analysis/ModeBuilder.h"

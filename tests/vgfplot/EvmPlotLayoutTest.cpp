@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The positions of the drawn items of a V-g-f plot.
 
 #include "surface/Picture.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The picture of a V-g-f plot as an Enhanced Metafile.
 
 #include "analysis/ModeBuilder.h"

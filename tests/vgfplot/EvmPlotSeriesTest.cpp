@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The series of a V-g-f plot, and fitting the frequency axis.
 
 #include "analysis/ModeBuilder.h"

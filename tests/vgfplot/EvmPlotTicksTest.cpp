@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The axes and canvases of a V-g-f plot agree: a point with the value of a tick falls on the pixel
 // of that tick, in every size, for all bounds and tick counts.
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The evolutions and modes of the series of a workspace.
 
 #include "vgfplot/NamedMode.h"

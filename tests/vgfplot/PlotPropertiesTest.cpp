@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The persistent properties of a V-g-f plot.
 
 #include "vgfplot/EvmPlot.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The values at a pixel of the plot. Every plot is 800 x 600, so by the fractions of the layout its
 // canvases are
 //

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The reference speeds and the damping lines of a V-g-f plot.
 
 #include "support/Errors.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The rows of a plot, with and without a curve.
 
 #include "vgfplot/PlotRows.h"

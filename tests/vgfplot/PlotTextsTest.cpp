@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The text boxes of a V-g-f plot: where they are and how they change.
 
 #include "vgfplot/EvmPlot.h"

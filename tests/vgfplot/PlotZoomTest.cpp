@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Zooming and panning without a window. Every plot is 800 x 600, as in PlotReadingTest:
 //
 //     column = 80 + V        row = 330 - 4 f        row = 330 - 1000 g

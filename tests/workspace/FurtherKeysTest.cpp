@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "WorkspaceTexts.h"
 #include "rtf/RtfStoredValue.h"
 #include "workspace/WorkspaceWriter.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Random folders and random workspaces: each path must get the file that a direct implementation of
 // the rules finds.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "base/files/FileRights.h"
 
 #if __has_include(<sys/acl.h>)

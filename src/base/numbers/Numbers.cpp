@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "base/numbers/Numbers.h"
 
 #include "base/numbers/ShortNumber.h"

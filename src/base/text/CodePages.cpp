@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "base/text/CodePages.h"
 
 #include "base/text/Utf16.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "base/text/QuotedText.h"
 
 #include "base/text/TextCodec.h"

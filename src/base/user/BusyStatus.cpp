@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "base/user/BusyStatus.h"
 
 #include "base/user/UserInterface.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // A plug-in that answers the tests where something is on the screen of the real program. Input goes
 // through the display, as a user's. It is built with the tests and never installed.
 
