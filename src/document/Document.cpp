@@ -49,11 +49,11 @@ void Document::redrawPlotsOf(const EVM* evolution)
     }
 }
 
-void Document::remove(EVM& evolution)
+void Document::remove(const std::vector<EVM*>& evolutions)
 {
-    m_evolutions.remove(evolution);
+    m_evolutions.remove(evolutions);
     for (EvmPlot* const plot : m_plots.all())
-        plot->rows().removeRowsOf(evolution);
+        plot->rows().removeRowsOf(evolutions);
 }
 
 void Document::setAirplane(AirplaneInfo airplane)

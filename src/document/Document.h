@@ -53,8 +53,9 @@ public:
     /// each file that cannot be opened (`mdlMain::loadEvolutions`).
     std::vector<EVM*> load(const std::vector<std::string>& paths, UserInterface& user);
 
-    /// Removes an evolution, and its rows from all plots. Error 5 for an unknown evolution.
-    void remove(EVM& evolution);
+    /// Removes evolutions, and their rows from all plots. Error 5 for an unknown evolution; nothing
+    /// has changed then.
+    void remove(const std::vector<EVM*>& evolutions);
 
     const AirplaneInfo& airplane() const { return m_airplane; }
 

@@ -113,11 +113,17 @@ void EvolutionList::putBack(const OwnedEvolutions& evolutions)
         Q_EMIT added(missing);
 }
 
-void EvolutionList::remove(EVM& evolution)
+void EvolutionList::remove(const std::vector<EVM*>& evolutions)
 {
-    if (!contains(&evolution))
-        failForStranger(evolution);
-    removeAll({&evolution});
+    std::unordered_set<const EVM*> known;
+    for (const auto& evolution : m_evolutions)
+        known.insert(evolution.get());
+    for (const EVM* evolution : evolutions) {
+        if (known.count(evolution) == 0)
+            failForStranger(*evolution);
+    }
+    if (!evolutions.empty())
+        removeAll(evolutions);
 }
 
 void EvolutionList::removeOthers(const OwnedEvolutions& kept)

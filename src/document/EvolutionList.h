@@ -46,9 +46,10 @@ public:
     /// `evolutions`.
     void putBack(const OwnedEvolutions& evolutions);
 
-    /// Removes an evolution from the list; it is no longer the reference evolution. Error 5 for one
-    /// outside the list. Does not touch rows of plots (see `Document::remove`).
-    void remove(EVM& evolution);
+    /// Removes evolutions from the list; none of them is the reference evolution any more. Error 5
+    /// for one outside the list; nothing has changed then. Does not touch rows of plots (see
+    /// `Document::remove`).
+    void remove(const std::vector<EVM*>& evolutions);
 
     /// Removes all evolutions that are not in `kept`.
     void removeOthers(const OwnedEvolutions& kept);

@@ -12,6 +12,7 @@
 #include "plotwindow/FilterLine.h"
 #include "vgfplot/EvmPlot.h"
 
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QSet>
 #include <QToolBar>
@@ -36,8 +37,10 @@ wndEvolExplorer::wndEvolExplorer(Document& document, wndEvolPlot& plots, UserInt
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(m_toolBar);
-    layout->addWidget(m_filter);
+    auto* const top = new QHBoxLayout; // beside the buttons, so that the tree keeps its height
+    top->addWidget(m_toolBar);
+    top->addWidget(m_filter, 1);
+    layout->addLayout(top);
     layout->addWidget(m_tree);
     setFocusProxy(m_tree);
     m_filter->setObjectName(QStringLiteral("txtEvolutionFilter"));

@@ -57,8 +57,7 @@ void wndEvolExplorer::remove_Click()
     const std::vector<EVM*> evolutions = selectedEvolutions();
     if (evolutions.empty())
         m_user.showMessage("Please select a modal evolution.", "Tarsil", MessageIcon::Exclamation);
-    for (EVM* const evolution : evolutions)
-        m_document.remove(*evolution);
+    m_document.remove(evolutions);
 }
 
 /// Checks all evolutions before the first series is added, so that an error changes nothing.

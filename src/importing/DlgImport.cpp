@@ -329,8 +329,7 @@ void dlgImport::load(const std::vector<std::string>& paths)
         if (written.contains(fileIdentity(evolution->path())) && fileExists(evolution->path()))
             replaced.push_back(evolution.get());
     }
-    for (EVM* const evolution : replaced)
-        m_document.remove(*evolution);
+    m_document.remove(replaced);
     const std::size_t count = m_document.load(paths, m_user).size();
     m_user.showNote(std::to_string(count)
                     + (count == 1 ? " modal evolution is" : " modal evolutions are")

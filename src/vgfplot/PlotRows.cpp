@@ -201,10 +201,11 @@ void PlotRows::remove(const Indices& rows)
         [&rows](std::size_t row) { return std::binary_search(rows.begin(), rows.end(), row); });
 }
 
-std::size_t PlotRows::removeRowsOf(const EVM& evolution)
+std::size_t PlotRows::removeRowsOf(const std::vector<EVM*>& evolutions)
 {
+    const std::unordered_set<const EVM*> gone(evolutions.begin(), evolutions.end());
     const std::size_t before = count();
-    removeWhere([&](std::size_t row) { return m_rows[row].evolution == &evolution; });
+    removeWhere([&](std::size_t row) { return gone.count(m_rows[row].evolution) > 0; });
     return before - count();
 }
 

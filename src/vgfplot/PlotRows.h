@@ -83,8 +83,8 @@ public:
 
     void remove(const Indices& rows);
 
-    /// Removes all rows of an evolution. Returns their number.
-    std::size_t removeRowsOf(const EVM& evolution);
+    /// Removes all rows of evolutions. Returns their number.
+    std::size_t removeRowsOf(const std::vector<EVM*>& evolutions);
 
     void clear();
 

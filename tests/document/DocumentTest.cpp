@@ -65,9 +65,26 @@ TEST_F(DocumentTest, removesAnEvolutionWithItsRows)
     first.rows().setMode(first.rows().at(0).id, 9); // does not exist
     first.rows().add(*b.Modes[0]);
     second.rows().add(*b.Modes[0]);
-    document.remove(a);
+    document.remove({&a});
     EXPECT_EQ(first.rows().count(), 1U);
     EXPECT_EQ(second.rows().count(), 1U);
+    EXPECT_THAT(namesOf(document.evolutions()), ElementsAre("b"));
+}
+
+TEST_F(DocumentTest, removesSeveralEvolutionsWithOneSignal)
+{
+    EVM& a = addEvolution(document.evolutions(), "a");
+    EVM& b = addEvolution(document.evolutions(), "b");
+    EVM& c = addEvolution(document.evolutions(), "c");
+    EvmPlot& plot = document.plots().first();
+    for (EVM* evolution : {&a, &b, &c})
+        plot.rows().add(*evolution->Modes[0]);
+    int signalCount = 0;
+    QObject::connect(&document.evolutions(), &EvolutionList::aboutToBeRemoved, &document,
+                     [&signalCount] { ++signalCount; });
+    document.remove({&a, &c});
+    EXPECT_EQ(signalCount, 1);
+    EXPECT_EQ(plot.rows().count(), 1U);
     EXPECT_THAT(namesOf(document.evolutions()), ElementsAre("b"));
 }
 
@@ -76,7 +93,8 @@ TEST_F(DocumentTest, keepsTheRowsOfAStranger)
     EVM stranger;
     EvmPlot& first = document.plots().first();
     first.rows().add(stranger.appendMode());
-    EXPECT_EQ(errorNumberOf([&] { document.remove(stranger); }), ErrorNumber::InvalidProcedureCall);
+    EXPECT_EQ(errorNumberOf([&] { document.remove({&stranger}); }),
+              ErrorNumber::InvalidProcedureCall);
     EXPECT_EQ(first.rows().count(), 1U);
 }
 
@@ -99,7 +117,7 @@ TEST_F(DocumentTest, bringsARemovedEvolutionBackWithItsRowsAndItsAddress)
     plot.rows().add(*a.Modes[0]);
     plot.rows().add(*b.Modes[0]);
     const PlotRows::Rows rows = plot.rows().all();
-    document.history().change(QStringLiteral("Remove"), [&] { document.remove(a); });
+    document.history().change(QStringLiteral("Remove"), [&] { document.remove({&a}); });
     EXPECT_EQ(plot.rows().count(), 1U);
     document.history().undo();
     EXPECT_EQ(document.evolutions().all()[0].get(), &a);

@@ -79,7 +79,10 @@ TEST_F(EvolutionListTest, knowsNoStranger)
     EVM stranger;
     EXPECT_EQ(errorNumberOf([&] { list.setReference(&stranger); }),
               ErrorNumber::InvalidProcedureCall);
-    EXPECT_EQ(errorNumberOf([&] { list.remove(stranger); }), ErrorNumber::InvalidProcedureCall);
+    EXPECT_EQ(errorNumberOf([&] {
+                  list.remove({&a, &stranger});
+              }),
+              ErrorNumber::InvalidProcedureCall);
     EXPECT_EQ(list.reference(), &a);
     EXPECT_THAT(namesOf(list), ElementsAre("a"));
 }
@@ -92,7 +95,7 @@ TEST_F(EvolutionListTest, removesAnEvolutionAndPutsItBackWhereItWas)
     list.setReference(&b);
     listen();
     const OwnedEvolutions before = list.all();
-    list.remove(b);
+    list.remove({&b});
     EXPECT_THAT(namesOf(list), ElementsAre("a", "c"));
     EXPECT_EQ(list.reference(), nullptr);
     list.putBack(before);

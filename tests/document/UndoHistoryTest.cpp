@@ -143,7 +143,7 @@ private:
             },
             [&] {
                 if (any != nullptr)
-                    m_document.remove(*any);
+                    m_document.remove({any});
             },
             [&] { evolutions.setReference(below(2) == 0 ? nullptr : any); },
             [&] {

@@ -129,7 +129,7 @@ TEST_F(TrendWindowTest, followsAirplaneParametersAndRemoval)
     document.evolutions().setParameters(*document.evolutions().all()[0], {"", "FULL", 0.5F});
     EXPECT_EQ(cell(0, 1), "FULL");
     EXPECT_EQ(cell(0, 13), "");
-    document.remove(*document.evolutions().all()[0]);
+    document.remove({document.evolutions().all()[0].get()});
     EXPECT_EQ(cell(0, 0), "wing2.ev2");
 }
 

@@ -89,7 +89,7 @@ TEST_F(WndStabilityTest, letsGoOfEvolutionsThatAreRemoved)
 {
     draw(*first);
     draw(*second);
-    document.remove(*second);
+    document.remove({second});
     QCoreApplication::processEvents();
     EXPECT_EQ(verdictCount(), 1);
     EXPECT_EQ(stretchCount(), 1);

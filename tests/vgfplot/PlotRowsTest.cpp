@@ -136,10 +136,10 @@ TEST_F(PlotRowsTest, goTogetherWithTheirEvolution)
     plot.rows().add(*other.Modes[1]);
     setMode(1, 9);
     setMode(6, 9);
-    EXPECT_EQ(rows().removeRowsOf(evolution), 5U);
+    EXPECT_EQ(rows().removeRowsOf({&evolution}), 5U);
     EXPECT_EQ(tags(), "56");
     EXPECT_THAT(numbers(), ElementsAre(1, 9));
-    EXPECT_EQ(rows().removeRowsOf(evolution), 0U);
+    EXPECT_EQ(rows().removeRowsOf({&evolution}), 0U);
     rows().clear();
     EXPECT_TRUE(rows().isEmpty());
 }
