@@ -62,6 +62,30 @@ TEST(Stability, namesModesThatAreUnstableFromTheFirstSpeed)
     EXPECT_EQ(verdictAtZero(evolution), "unstable from the first speed: modes 2, 4");
 }
 
+TEST(Stability, findsTheStartAmongAThousandModes)
+{
+    EVM evolution;
+    for (std::int16_t number = 1; number <= 1000; ++number) {
+        const auto frequency = static_cast<float>(number);
+        const bool flutters = number == 500;
+        AeMode& mode = addMode(evolution, number,
+                               {{300, -0.001F, frequency},
+                                {400, flutters ? 0.001F : -0.001F, frequency},
+                                {500, flutters ? 0.003F : -0.001F, frequency}});
+        for (Point& point : mode.Points) {
+            point.im = 6.2832F * frequency;
+            point.re = point.G * point.im / 2;
+        }
+    }
+    for (const bool isTracked : {false, true}) {
+        StabilitySettings settings = atZero();
+        settings.isTracked = isTracked;
+        const std::vector<RootStretches> stability = stabilityOf(evolution, settings);
+        EXPECT_THAT(verdictText(verdictOf(stability, 0), 500), StartsWith("350.00 +- "));
+        EXPECT_THAT(verdictText(verdictOf(stability, 0), 500), HasSubstr("flutter, mode 500 ("));
+    }
+}
+
 TEST(Stability, saysUpToWhichSpeedThereIsNone)
 {
     EVM evolution;
