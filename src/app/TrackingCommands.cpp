@@ -45,6 +45,8 @@ void TrackingCommands::track(const EVM& evolution)
     if (auto open = openEvolution(target); open != nullptr && fileExists(target)) {
         m_document.history().changeFile(QStringLiteral("Track Modes"),
                                         {std::move(open), textOfFile(target), std::move(text)});
+    } else if (open != nullptr) { // its file is gone, so that no step could restore it
+        replaceFile(m_document.evolutions(), *open, text);
     } else {
         writeFile(target, text);
         m_document.load({target}, m_user);

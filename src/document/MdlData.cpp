@@ -87,24 +87,18 @@ void show(Series& series, const MarkerOptions& markers)
 
 std::string buildSeries(PlotRows& rows, const MarkerOptions& markers)
 {
-    changeAll(rows, [&](Series& look) {
-        const bool staysHidden = isHidden(look);
-        markers.applyTo(look);
-        if (staysHidden)
-            hide(look);
-    });
+    changeAll(rows, [&](Series& look) { markers.applyTo(look); });
     return missingModesText(rows);
 }
 
 void changeMarkers(PlotRows& rows, const MarkerOptions& before, const MarkerOptions& now)
 {
     changeAll(rows, [&](Series& look) {
-        const bool staysHidden = isHidden(look);
         if (now.size != before.size)
             look.MarkerSize = now.size;
         if (now.spacing != before.spacing)
             look.MarkerSpacing = now.spacing;
-        if (now.kind != before.kind && !staysHidden)
+        if (now.kind != before.kind)
             look.MarkerStyle = markerNumber(now.kind);
         if (now.ithMpf != before.ithMpf)
             look.IthMpf = now.ithMpf;

@@ -38,8 +38,8 @@ void hide(Series& series);
 /// Gives a hidden curve a solid line and markers.
 void show(Series& series, const MarkerOptions& markers);
 
-/// Applies markers to every row; a hidden curve stays hidden. Returns the text of the rows without
-/// a curve.
+/// Applies markers to every row, so that a hidden curve shows them without its line. Returns the
+/// text of the rows without a curve.
 std::string buildSeries(PlotRows& rows, const MarkerOptions& markers);
 
 /// Applies to all rows those options that differ from `before`. The others, which may differ

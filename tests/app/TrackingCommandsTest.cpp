@@ -92,6 +92,18 @@ TEST_F(TrackingCommandsTest, exchangesModesInTheFileAndInThePlots)
     EXPECT_EQ(modifications[modifications.size() - 1].text, line);
 }
 
+TEST_F(TrackingCommandsTest, showsWhatItWritesAlsoWhenTheFileHadBeenRemoved)
+{
+    commands.track(*source);
+    const float asTracked = frequency(tracked(), 0);
+    commands.exchange(tracked(), {1, 2, 200});
+    ASSERT_NE(frequency(tracked(), 0), asTracked);
+    std::filesystem::remove(folder.file("wing_tracked.ev2"));
+    commands.track(*source);
+    EXPECT_EQ(frequency(tracked(), 0), asTracked);
+    EXPECT_TRUE(user.messages.empty());
+}
+
 TEST_F(TrackingCommandsTest, undoesAndRedoesExchangesAsStepsOfTheHistory)
 {
     commands.track(*source);

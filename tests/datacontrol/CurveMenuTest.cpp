@@ -112,6 +112,14 @@ TEST_F(CurveMenuTest, asksForTagAndLegend)
     EXPECT_EQ(series()[1].MarkerTag, QStringLiteral("B x"));
 }
 
+TEST_F(CurveMenuTest, givesMarkersToEveryCurveAlsoToOneWithoutLine)
+{
+    choose("curveHide");
+    test::click(panel, "cmdDrawPlot");
+    EXPECT_EQ(series()[1].MarkerStyle, series()[0].MarkerStyle);
+    EXPECT_EQ(series()[1].LineStyle, 5) << "the line stays hidden";
+}
+
 TEST_F(CurveMenuTest, hidesCurvesUntilTheyAreShownAgain)
 {
     change(1, [](Series& look) { look.LineStyle = 1; });
@@ -120,8 +128,6 @@ TEST_F(CurveMenuTest, hidesCurvesUntilTheyAreShownAgain)
     EXPECT_TRUE(mdlData::isHidden(series()[1]));
     EXPECT_FALSE(mdlData::isHidden(series()[0]));
     EXPECT_EQ(lastStep(), "Hide Curves");
-    test::click(panel, "cmdDrawPlot");
-    EXPECT_TRUE(mdlData::isHidden(series()[1])) << "the markers of all rows leave it hidden";
     EXPECT_TRUE(action("curveHide").isChecked());
     choose("curveHide");
     EXPECT_FALSE(mdlData::isHidden(series()[1]));
