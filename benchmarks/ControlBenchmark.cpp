@@ -38,6 +38,10 @@ public:
         std::fputs((text + "\n").c_str(), stderr);
     }
     bool confirm(const std::string&, const std::string&) override { return false; }
+    Unsaved askToSave(const std::string& /*question*/, const std::string& /*title*/) override
+    {
+        return Unsaved::Cancel;
+    }
     std::optional<std::string> askText(const std::string&, const std::string&,
                                        const std::string&) override
     {

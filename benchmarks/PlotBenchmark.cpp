@@ -3,6 +3,7 @@
 // The picture of 100 modes of 1000 points, and a repaint without a change.
 
 #include "RatioTable.h"
+#include "model/EVM.h"
 #include "plotwindow/EvmPlotView.h"
 #include "surface/PainterContext.h"
 #include "vgfplot/EvmPlot.h"

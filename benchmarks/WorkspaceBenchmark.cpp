@@ -50,6 +50,10 @@ public:
     {
         return false;
     }
+    Unsaved askToSave(const std::string& /*question*/, const std::string& /*title*/) override
+    {
+        return Unsaved::Cancel;
+    }
     std::optional<std::string> askText(const std::string& /*prompt*/, const std::string& /*title*/,
                                        const std::string& /*initial*/) override
     {

@@ -57,6 +57,32 @@ double distance(std::complex<double> a, std::complex<double> b)
     return std::sqrt(d.real() * d.real() + d.imag() * d.imag());
 }
 
+/// The number of roots up to a distance from `center`. Counts too many rather than too few: the
+/// limit is wider by far more than the rounding of a distance.
+int countNear(const StepRoots& roots, std::complex<double> center, double limit)
+{
+    constexpr double slack = 1 + 1e-9;
+    const double square = limit * limit * slack;
+    int count = 0;
+    for (std::size_t i = 0; i < roots.re.size(); ++i) {
+        const double re = roots.re[i] - center.real();
+        const double im = roots.im[i] - center.imag();
+        count += re * re + im * im <= square ? 1 : 0;
+    }
+    return count;
+}
+
+/// The distance of each root from each prediction; a prediction has a row.
+CostMatrix costsOf(const StepRoots& roots, const std::vector<std::complex<double>>& predictions)
+{
+    CostMatrix costs(predictions.size());
+    for (std::size_t row = 0; row < predictions.size(); ++row) {
+        for (std::size_t column = 0; column < predictions.size(); ++column)
+            costs.at(row, column) = distance(roots.at(column), predictions[row]);
+    }
+    return costs;
+}
+
 /// Whether the present root of each track is the nearest to its prediction. Then no other
 /// assignment costs less.
 bool isNearestEverywhere(const CostMatrix& costs, const std::vector<std::size_t>& columns)
@@ -82,19 +108,20 @@ std::vector<std::size_t> bestLabels(const CostMatrix& costs,
     return totalCost(costs, present) <= limit ? present : best;
 }
 
-/// Whether an exchange of this track with some other track costs less than twice as much.
-bool isAmbiguous(const CostMatrix& costs, const std::vector<std::size_t>& columns,
-                 std::size_t track)
+/// The rows whose exchange with some other row costs less than twice as much.
+std::vector<bool> ambiguousRows(const CostMatrix& costs, const std::vector<std::size_t>& columns)
 {
-    for (std::size_t other = 0; other < columns.size(); ++other) {
-        if (other == track)
-            continue;
-        const double exchanged = costs.at(track, columns[other]) + costs.at(other, columns[track]);
-        const double kept = costs.at(track, columns[track]) + costs.at(other, columns[other]);
-        if (exchanged < ambiguityFactor * kept)
-            return true;
+    std::vector<bool> result(columns.size());
+    for (std::size_t row = 0; row < columns.size(); ++row) {
+        const double own = costs.at(row, columns[row]);
+        for (std::size_t other = row + 1; other < columns.size(); ++other) {
+            const double kept = own + costs.at(other, columns[other]);
+            const double exchanged = costs.at(row, columns[other]) + costs.at(other, columns[row]);
+            if (exchanged < ambiguityFactor * kept)
+                result[row] = result[other] = true;
+        }
     }
-    return false;
+    return result;
 }
 
 } // namespace
@@ -133,9 +160,15 @@ std::optional<std::string> ModeTracking::obstacle(const EVM& evolution)
 void ModeTracking::readRoots(const EVM& evolution)
 {
     m_roots.resize(pointCount(evolution));
-    for (std::size_t point = 0; point < m_roots.size(); ++point) {
-        for (const auto& mode : evolution.Modes)
-            m_roots[point].emplace_back(mode->Points[point].re, mode->Points[point].im);
+    for (StepRoots& roots : m_roots) {
+        roots.re.reserve(evolution.Modes.size());
+        roots.im.reserve(evolution.Modes.size());
+    }
+    for (const auto& mode : evolution.Modes) {
+        for (std::size_t point = 0; point < m_roots.size(); ++point) {
+            m_roots[point].re.push_back(mode->Points[point].re);
+            m_roots[point].im.push_back(mode->Points[point].im);
+        }
     }
 }
 
@@ -153,7 +186,7 @@ void ModeTracking::readArguments(const EVM& evolution)
 
 std::complex<double> ModeTracking::rootAt(std::size_t point, std::size_t track) const
 {
-    return m_roots[point][m_modes[point][track]];
+    return m_roots[point].at(m_modes[point][track]);
 }
 
 /// The ratio of the step to `point` and the step before it, limited above.
@@ -184,29 +217,58 @@ bool ModeTracking::isJump(std::size_t point, std::size_t track,
     const std::complex<double> last = rootAt(point - 1, track);
     const double step = point < 2 ? 0 : distance(last, rootAt(point - 2, track)) * stepRatio(point);
     const double miss = distance(rootAt(point, track), prediction);
-    return miss > jumpFactor * std::max(step, jumpPart * std::abs(last)) && miss > leastJump;
+    return miss > leastJump && miss > jumpFactor * step
+        && miss > jumpFactor * (jumpPart * std::abs(last));
+}
+
+/// How far each track is from its prediction at a point.
+std::vector<double> ModeTracking::missesAt(std::size_t point, const Predictions& predictions) const
+{
+    std::vector<double> misses;
+    misses.reserve(predictions.size());
+    for (std::size_t track = 0; track < predictions.size(); ++track)
+        misses.push_back(distance(rootAt(point, track), predictions[track]));
+    return misses;
+}
+
+/// Whether any other root is so near to the prediction of a track that it could be the track's, or
+/// make it ambiguous. An exchange of two tracks costs at least the distance of one of them from the
+/// other's root, so roots farther than `ambiguityFactor` times both misses do not matter.
+bool ModeTracking::hasRival(std::size_t point, std::complex<double> prediction, double miss,
+                            double largestMiss) const
+{
+    return countNear(m_roots[point], prediction, ambiguityFactor * (miss + largestMiss)) > 1;
 }
 
 void ModeTracking::trackStep(std::size_t point)
 {
-    const std::size_t count = tracks();
-    std::vector<std::complex<double>> predictions(count);
-    CostMatrix costs(count);
-    for (std::size_t t = 0; t < count; ++t) {
-        predictions[t] = predictionAt(point, t);
-        for (std::size_t mode = 0; mode < count; ++mode)
-            costs.at(t, mode) = distance(m_roots[point][mode], predictions[t]);
+    Predictions predictions;
+    predictions.reserve(tracks());
+    for (std::size_t track = 0; track < tracks(); ++track)
+        predictions.push_back(predictionAt(point, track));
+    m_modes[point] = m_modes[point - 1];
+    const std::vector<double> misses = missesAt(point, predictions);
+    const double largest = *std::max_element(misses.begin(), misses.end());
+    std::vector<bool> isAmbiguousTrack(tracks());
+    bool hasRivals = false;
+    for (std::size_t track = 0; track < tracks() && !hasRivals; ++track)
+        hasRivals = hasRival(point, predictions[track], misses[track], largest);
+    if (hasRivals) {
+        const CostMatrix costs = costsOf(m_roots[point], predictions);
+        m_modes[point] = bestLabels(costs, m_modes[point]);
+        isAmbiguousTrack = ambiguousRows(costs, m_modes[point]);
     }
-    m_modes[point] = bestLabels(costs, m_modes[point - 1]);
-    for (std::size_t t = 0; t < count; ++t) {
-        const TrackMark mark {point, t, isAmbiguous(costs, m_modes[point], t),
-                              isJump(point, t, predictions[t])};
-        m_hasJumped[t] = mark.isJump;
-        if (!mark.isAmbiguous && !mark.isJump)
-            continue;
-        m_marks.push_back(mark);
-        m_isMarked[point - 1][t] = true;
-    }
+    for (std::size_t track = 0; track < tracks(); ++track)
+        mark({point, track, isAmbiguousTrack[track], isJump(point, track, predictions[track])});
+}
+
+void ModeTracking::mark(const TrackMark& mark)
+{
+    m_hasJumped[mark.track] = mark.isJump;
+    if (!mark.isAmbiguous && !mark.isJump)
+        return;
+    m_marks.push_back(mark);
+    m_isMarked[mark.step - 1][mark.track] = true;
 }
 
 bool ModeTracking::isMarked(std::size_t point, std::size_t track) const

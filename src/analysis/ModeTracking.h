@@ -20,6 +20,16 @@ struct TrackMark
     bool isJump = false; ///< the root is far from its prediction
 };
 
+/// The printed roots of one point, by mode. Real and imaginary parts are apart, because the search
+/// for near roots compares one root with all others.
+struct StepRoots
+{
+    std::vector<double> re;
+    std::vector<double> im;
+
+    std::complex<double> at(std::size_t mode) const { return {re[mode], im[mode]}; }
+};
+
 /// The printed root that each track follows at each point. Track t starts as the printed mode of
 /// index t. Only labels change, never numbers.
 ///
@@ -68,7 +78,7 @@ public:
     std::vector<Move> moves() const;
 
 private:
-    using Roots = std::vector<std::complex<double>>;
+    using Predictions = std::vector<std::complex<double>>; ///< by track
 
     void readRoots(const EVM& evolution);
     void readArguments(const EVM& evolution);
@@ -77,8 +87,12 @@ private:
     double stepRatio(std::size_t point) const;
     std::complex<double> predictionAt(std::size_t point, std::size_t track) const;
     bool isJump(std::size_t point, std::size_t track, std::complex<double> prediction) const;
+    std::vector<double> missesAt(std::size_t point, const Predictions& predictions) const;
+    bool hasRival(std::size_t point, std::complex<double> prediction, double miss,
+                  double largestMiss) const;
+    void mark(const TrackMark& mark);
 
-    std::vector<Roots> m_roots; ///< by point and printed mode
+    std::vector<StepRoots> m_roots; ///< by point
     std::vector<double> m_arguments; ///< by point
     std::vector<std::vector<std::size_t>> m_modes; ///< by point and track
     std::vector<bool> m_hasJumped; ///< by track: whether its last step was a jump

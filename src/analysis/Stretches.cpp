@@ -30,13 +30,15 @@ private:
     {
         return static_cast<double>(m_points[i].damping) - static_cast<double>(m_level);
     }
+    bool isOnLevel(std::size_t i) const { return m_points[i].damping == m_level; }
+    bool isAbove(std::size_t i) const { return m_points[i].damping > m_level; }
     bool isStatic(std::size_t i) const { return m_points[i].frequency < m_limits.staticFrequency; }
 
-    void cross(std::size_t i);
+    void cross(std::size_t before, std::size_t i);
     Crossing crossing(std::size_t before, std::size_t after) const;
     double speedOnCurve(std::size_t after, double straight) const;
     Confidence confidenceOf(const Crossing& crossing) const;
-    void begin();
+    void begin(std::size_t i);
     void add(std::size_t i);
     void finish();
 
@@ -44,47 +46,45 @@ private:
     float m_level;
     StretchLimits m_limits;
     LevelStretches m_result;
-    std::optional<Stretch> m_open; ///< the stretch that has not ended yet
-    std::size_t m_pointsInStretch = 0;
-    std::optional<std::size_t> m_before; ///< index of the last point that is not on the level
+    std::size_t m_peak = 0; ///< index of the peak of the last stretch
+    bool m_isStatic = false; ///< of the last stretch
 };
 
 LevelStretches StretchSearch::run()
 {
-    for (std::size_t i = 0; i < m_points.size(); ++i) {
-        const double height = above(i);
-        if (height == 0)
+    std::size_t before = 0;
+    while (before < m_points.size() && isOnLevel(before))
+        ++before;
+    if (before == m_points.size())
+        return {};
+    bool wasAbove = isAbove(before);
+    if (wasAbove)
+        begin(before);
+    for (std::size_t i = before + 1; i < m_points.size(); ++i) {
+        if (isOnLevel(i))
             continue;
-        if (!m_before) {
-            if (height > 0)
-                begin();
-        } else {
-            cross(i);
-        }
-        if (height > 0)
+        if (wasAbove != isAbove(i) || before + 1 != i)
+            cross(before, i);
+        wasAbove = isAbove(i);
+        if (wasAbove)
             add(i);
-        m_before = i;
+        before = i;
     }
-    if (m_open)
+    if (wasAbove)
         finish();
     return std::move(m_result);
 }
 
 /// Handles the interval between the last point that is not on the level and point i.
-void StretchSearch::cross(std::size_t i)
+void StretchSearch::cross(std::size_t before, std::size_t i)
 {
-    const bool wasAbove = above(*m_before) > 0;
-    const bool isAbove = above(i) > 0;
-    if (wasAbove == isAbove) {
-        if (i - *m_before > 1)
-            m_result.touches.push_back({m_points[*m_before + 1].speed});
-        return;
-    }
-    if (isAbove) {
-        begin();
-        m_open->start = crossing(*m_before, i);
+    if (isAbove(i) == isAbove(before)) {
+        m_result.touches.push_back({m_points[before + 1].speed});
+    } else if (isAbove(i)) {
+        begin(i);
+        m_result.stretches.back().start = crossing(before, i);
     } else {
-        m_open->end = crossing(*m_before, i);
+        m_result.stretches.back().end = crossing(before, i);
         finish();
     }
 }
@@ -147,33 +147,39 @@ Confidence StretchSearch::confidenceOf(const Crossing& crossing) const
     return isShort && agrees ? Confidence::A : Confidence::B;
 }
 
-void StretchSearch::begin()
+/// Begins a stretch, whose first point is i.
+void StretchSearch::begin(std::size_t i)
 {
-    m_open = Stretch();
-    m_pointsInStretch = 0;
+    constexpr std::size_t usualCount = 4;
+    if (m_result.stretches.empty())
+        m_result.stretches.reserve(usualCount);
+    m_result.stretches.emplace_back();
+    m_peak = i;
+    m_isStatic = true;
+    add(i);
 }
 
-/// Adds a point above the level to the open stretch.
+/// Adds a point above the level to the last stretch.
 void StretchSearch::add(std::size_t i)
 {
-    const StabilityPoint& point = m_points[i];
-    const bool isFirst = m_pointsInStretch++ == 0;
-    m_open->isStatic = isStatic(i) && (isFirst || m_open->isStatic);
-    if (isFirst || point.damping > m_open->peak) {
-        m_open->peak = point.damping;
-        m_open->peakSpeed = point.speed;
-        m_open->peakFrequency = point.frequency;
-    }
+    m_isStatic = m_isStatic && isStatic(i);
+    if (m_points[i].damping > m_points[m_peak].damping)
+        m_peak = i;
 }
 
 void StretchSearch::finish()
 {
-    const double height = m_open->peak - static_cast<double>(m_level);
+    Stretch& stretch = m_result.stretches.back();
+    const StabilityPoint& peak = m_points[m_peak];
+    stretch.peak = peak.damping;
+    stretch.peakSpeed = peak.speed;
+    stretch.peakFrequency = peak.frequency;
+    stretch.isStatic = m_isStatic;
+    const double height = above(m_peak);
     if (height <= m_limits.noise)
-        m_open->height = StretchHeight::Noise;
+        stretch.height = StretchHeight::Noise;
     else if (height <= m_limits.tolerance)
-        m_open->height = StretchHeight::Weak;
-    m_result.stretches.push_back(*std::exchange(m_open, std::nullopt));
+        stretch.height = StretchHeight::Weak;
 }
 
 } // namespace
