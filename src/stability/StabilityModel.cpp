@@ -55,7 +55,7 @@ std::string startText(const Stretch& stretch)
     if (!stretch.start)
         return "first speed";
     const std::string speed = speedOf(stretch.start);
-    return hasSpeed(*stretch.start) ? speed + " \xC2\xB1 " + doubtText(*stretch.start) : speed;
+    return hasSpeed(*stretch.start) ? speed + " +- " + doubtText(*stretch.start) : speed;
 }
 
 std::string altitudeText(const FlightCondition& condition)

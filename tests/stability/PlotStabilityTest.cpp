@@ -73,7 +73,7 @@ TEST_F(PlotStabilityTest, sortsTheStretchesOfAllEvolutionsByTheirStart)
     EXPECT_EQ(text(model, 1, StretchColumn::End), "330.00");
     EXPECT_EQ(text(model, 1, StretchColumn::Peak), "0.5000");
     EXPECT_EQ(text(model, 1, StretchColumn::PeakSpeed), "320");
-    EXPECT_EQ(text(model, 2, StretchColumn::Start), "350.00 \xC2\xB1 0.00");
+    EXPECT_EQ(text(model, 2, StretchColumn::Start), "350.00 +- 0.00");
     EXPECT_EQ(text(model, 2, StretchColumn::Frequency), "9.00");
     EXPECT_EQ(text(model, 3, StretchColumn::Start), "300 to 400") << "different roots";
     EXPECT_EQ(text(model, 3, StretchColumn::Confidence), "C");
