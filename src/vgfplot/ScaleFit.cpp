@@ -9,23 +9,28 @@ namespace tarsil {
 
 namespace {
 
-constexpr double mostDamping = 0.5;
-constexpr double leastDamping = 0.02;
+constexpr double highestDamping = 0.1;
+constexpr double lowestDamping = -0.4;
+constexpr double leastDampings = 0.02; ///< length of the damping axis
 constexpr double mostSteps = 10;
 constexpr double largestEnd = 1e38; ///< still a single when rounded up
 constexpr double frequencyHeadroom = 1.02; ///< keeps the highest curve below the axis title
+constexpr double singleNoise = 1e-6; ///< relative error of a sum of values of single precision
+constexpr double almostZero = 0.01; ///< of the highest frequency: less is on the speed axis
 
 bool isWhole(double number)
 {
     return std::fabs(number - std::nearbyint(number)) < 1e-6;
 }
 
-/// The largest speed, frequency and damping (of either sign) of all points.
+/// The bounds of the values of all points.
 struct Extent
 {
-    double speed = 0;
-    double frequency = 0;
-    double damping = 0;
+    double speed = 0; ///< the largest
+    double lowestFrequency = largestEnd;
+    double highestFrequency = 0;
+    double lowestDamping = 0; ///< at most 0
+    double highestDamping = 0; ///< at least 0
     bool hasPoints = false;
 };
 
@@ -38,11 +43,36 @@ Extent extentOf(const SeriesList& series)
         for (const Point& point : one.Mode->Points) {
             extent.hasPoints = true;
             extent.speed = std::max<double>(extent.speed, point.speed);
-            extent.frequency = std::max<double>(extent.frequency, point.f);
-            extent.damping = std::max<double>(extent.damping, std::fabs(point.G));
+            extent.lowestFrequency = std::min<double>(extent.lowestFrequency, point.f);
+            extent.highestFrequency = std::max<double>(extent.highestFrequency, point.f);
+            extent.lowestDamping = std::min<double>(extent.lowestDamping, point.G);
+            extent.highestDamping = std::max<double>(extent.highestDamping, point.G);
         }
     }
     return extent;
+}
+
+RoundRange frequenciesOf(const Extent& extent)
+{
+    const double highest = std::min(frequencyHeadroom * extent.highestFrequency, largestEnd);
+    RoundRange range = roundRange(0, highest, Steps::Hundredths);
+    if (extent.lowestFrequency < almostZero * range.high) {
+        range.low = -range.high / range.steps;
+        ++range.steps;
+    }
+    return range;
+}
+
+/// A range in which 0 is neither the first nor the last tick, because the ends have no labels.
+RoundRange dampingsOf(const Extent& extent)
+{
+    const double high = std::min(extent.highestDamping, highestDamping);
+    const double low =
+        std::min(std::max(extent.lowestDamping, lowestDamping), high - leastDampings);
+    const double step = roundStep((1 - singleNoise) * (high - low) / mostSteps, Steps::Thousandths);
+    const double above = std::max(std::ceil(high / step - singleNoise), 1.0);
+    const double below = std::max(std::ceil(-low / step - singleNoise), 1.0);
+    return {-below * step, above * step, static_cast<int>(above + below)};
 }
 
 } // namespace
@@ -51,6 +81,7 @@ double smallestStep(Steps steps)
 {
     switch (steps) {
     case Steps::Whole:
+    case Steps::PlainWhole:
         return 1;
     case Steps::Hundredths:
         return 0.01;
@@ -69,6 +100,8 @@ double roundStep(double least, Steps steps)
     const double power = std::pow(10.0, std::floor(std::log10(atLeast)));
     for (const double digit : {1.0, 2.0, 2.5, 5.0, 10.0}) {
         const double step = digit * power;
+        if (steps == Steps::PlainWhole && digit == 2.5)
+            continue;
         if (step >= atLeast * (1 - 1e-9) && (smallest == 0 || isWhole(step / smallest)))
             return step;
     }
@@ -98,12 +131,12 @@ PlotAxes fitAxes(const SeriesList& series, PlotAxes axes)
     const Extent extent = extentOf(series);
     if (!extent.hasPoints)
         return axes;
-    const RoundRange speed = roundRange(0, std::min(extent.speed, largestEnd), Steps::Whole);
-    const RoundRange frequency =
-        roundRange(0, std::min(frequencyHeadroom * extent.frequency, largestEnd));
-    const RoundRange damping = roundRange(0, std::clamp(extent.damping, leastDamping, mostDamping));
-    axes.setBounds({0, static_cast<float>(speed.high), 0, static_cast<float>(frequency.high), 0,
-                    -static_cast<float>(damping.high)});
+    const RoundRange speed = roundRange(0, std::min(extent.speed, largestEnd), Steps::PlainWhole);
+    const RoundRange frequency = frequenciesOf(extent);
+    const RoundRange damping = dampingsOf(extent);
+    axes.setBounds({0, static_cast<float>(speed.high), static_cast<float>(frequency.low),
+                    static_cast<float>(frequency.high), static_cast<float>(damping.high),
+                    static_cast<float>(damping.low)});
     axes.setTicks({static_cast<std::int16_t>(speed.steps), static_cast<std::int16_t>(damping.steps),
                    static_cast<std::int16_t>(frequency.steps)});
     return axes;

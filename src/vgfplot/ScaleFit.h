@@ -7,8 +7,9 @@
 namespace tarsil {
 
 /// The steps that an axis can label. The labels of speeds are whole, those of frequencies have two
-/// decimals, those of dampings three; finer steps give wrong labels.
-enum class Steps { Any, Whole, Hundredths, Thousandths };
+/// decimals, those of dampings three; finer steps give wrong labels. `PlainWhole` is whole without
+/// 25, 250 and so on, whose multiples are read less easily.
+enum class Steps { Any, Whole, PlainWhole, Hundredths, Thousandths };
 
 /// The smallest of these steps; 0 for any.
 double smallestStep(Steps steps);
@@ -31,11 +32,13 @@ RoundRange roundRange(double low, double high, Steps steps = Steps::Any);
 /// `high`; it has at least one step.
 RoundRange nearestRoundRange(double low, double high, Steps steps);
 
-/// Axes with round ticks that show all speeds and frequencies of the series from 0, with a little
-/// room above the highest frequency, and dampings up to 0.5 on both sides of the speed axis (a
-/// strongly damped mode must not flatten the others). The speed axis always begins at 0, because
-/// only then are reference-speed marks at their speeds. The titles are those of `axes`; without
-/// points everything is.
+/// Axes with round ticks that show the series:
+/// - all speeds from 0, because only then are reference-speed marks at their speeds;
+/// - all frequencies from 0, with a little room above the highest. If one is almost 0, the axis
+///   begins a step below 0, because a curve on the speed axis is invisible;
+/// - the dampings from 0.1 to -0.4, or less if the data need less: a strongly damped mode must not
+///   flatten the others. Zero is a labelled tick at least a step below the speed axis.
+/// The titles are those of `axes`; without points everything is.
 PlotAxes fitAxes(const SeriesList& series, PlotAxes axes = {});
 
 } // namespace tarsil

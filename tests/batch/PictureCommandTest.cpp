@@ -146,11 +146,11 @@ TEST_F(PictureCommand, putsTheTicksOfTheSpeedAxisOnWholeNumbers)
 
 TEST_F(PictureCommand, fitsTheAxesWithoutAScale)
 {
-    // Up to 400 knots, 14 Hz and a damping of 1, of which 0.5 is shown.
+    // Up to 400 knots, 14 Hz and dampings of 1 and -1, of which 0.1 to -0.4 are shown.
     const std::string texts = svgTexts(draw("out.svg", {writeEv2()}));
-    for (const char* text : {"200|", "10.0|", "-0.45|"})
+    for (const char* text : {"200|", "10.0|", "0.05|", "0.00|", "-0.35|"})
         EXPECT_THAT(texts, HasSubstr(text));
-    EXPECT_THAT(texts, ::testing::Not(HasSubstr("-0.60|")));
+    EXPECT_THAT(texts, ::testing::Not(HasSubstr("-0.40|")));
 }
 
 TEST_F(PictureCommand, saysThatReferenceSpeedsAreDrawnElsewhere)

@@ -123,24 +123,83 @@ TEST(FitAxes, showsAllSpeedsAndFrequenciesFromZeroOn)
     EXPECT_EQ(axes.frequency.ticks, 9);
 }
 
-TEST(FitAxes, showsTheLargestDampingOfEitherSignOnBothSidesOfTheSpeedAxis)
+TEST(FitAxes, keepsTheDampingOfInterestReadable)
 {
-    for (const float damping : {0.17F, -0.17F}) {
-        const PlotAxes axes = axesOf({{100, damping, 8}, {600, 0, 20}});
-        EXPECT_EQ(axes.damping.min, 0.0F);
-        EXPECT_EQ(axes.damping.max, -0.18F);
-        EXPECT_EQ(axes.damping.ticks, 9);
+    // From 0.1 to -0.4 are 10 steps of 0.05, whatever the dampings beyond.
+    for (const float lowest : {-0.4F, -2.0F, -7.0F}) {
+        const AxisValues damping = axesOf({{100, lowest, 8}, {600, 3, 20}}).damping;
+        EXPECT_EQ(damping.min, 0.1F);
+        EXPECT_EQ(damping.max, -0.4F);
+        EXPECT_EQ(damping.ticks, 10);
     }
 }
 
-TEST(FitAxes, doesNotLetAStronglyDampedModeSqueezeTheRest)
+TEST(FitAxes, showsNoMoreDampingThanTheDataNeed)
 {
-    EXPECT_EQ(axesOf({{100, -7, 8}, {600, 0, 20}}).damping.max, -0.5F);
+    // A tenth of 0.17 + 0.03 is 0.02; 0.03 and 0.17 go out to 0.04 and 0.18.
+    const AxisValues both = axesOf({{100, -0.17F, 8}, {600, 0.03F, 20}}).damping;
+    EXPECT_EQ(both.min, 0.04F);
+    EXPECT_EQ(both.max, -0.18F);
+    EXPECT_EQ(both.ticks, 11);
+    // A tenth of 0.2 is 0.02: from 0.2 above zero 0.1 is shown.
+    const AxisValues risen = axesOf({{100, -0.1F, 8}, {600, 0.2F, 20}}).damping;
+    EXPECT_EQ(risen.min, 0.1F);
+    EXPECT_EQ(risen.max, -0.1F);
+    EXPECT_EQ(risen.ticks, 10);
+}
+
+TEST(FitAxes, labelsZeroDampingAlthoughTheEndsHaveNoLabels)
+{
+    // A tenth of 0.17 is 0.017, so 0.02; one step above zero.
+    const AxisValues below = axesOf({{100, -0.17F, 8}, {600, -0.01F, 20}}).damping;
+    EXPECT_EQ(below.min, 0.02F);
+    EXPECT_EQ(below.max, -0.18F);
+    EXPECT_EQ(below.ticks, 10);
+    const AxisValues above = axesOf({{100, 0.01F, 8}, {600, 0.1F, 20}}).damping;
+    EXPECT_EQ(above.min, 0.1F);
+    EXPECT_EQ(above.max, -0.01F);
+    EXPECT_EQ(above.ticks, 11);
 }
 
 TEST(FitAxes, doesNotMagnifyAnUndampedMode)
 {
-    EXPECT_EQ(axesOf({{100, 0, 8}, {600, 0.001F, 20}}).damping.max, -0.02F);
+    // 0.02 in steps of 0.002, as three decimals can show.
+    const AxisValues damping = axesOf({{100, 0, 8}, {600, 0.001F, 20}}).damping;
+    EXPECT_EQ(damping.min, 0.002F);
+    EXPECT_EQ(damping.max, -0.02F);
+    EXPECT_EQ(damping.ticks, 11);
+}
+
+TEST(FitAxes, labelsEveryDampingWithThreeDecimals)
+{
+    // A tenth of 0.021 to 0.025 is less than 0.0025, which has four decimals.
+    for (const float lowest : {-0.0205F, -0.0225F, -0.0245F}) {
+        const AxisValues damping = axesOf({{100, lowest, 8}, {600, 0, 20}}).damping;
+        EXPECT_EQ(damping.min, 0.005F);
+        EXPECT_EQ(damping.max, -0.025F);
+        EXPECT_EQ(damping.ticks, 6);
+    }
+}
+
+TEST(FitAxes, showsAFrequencyOfZeroAboveTheSpeedAxis)
+{
+    // 20.4 in steps of 2.5: 22.5, and a step below zero.
+    const AxisValues frequency = axesOf({{100, 0, 20}, {600, 0, 0}}).frequency;
+    EXPECT_EQ(frequency.min, -2.5F);
+    EXPECT_EQ(frequency.max, 22.5F);
+    EXPECT_EQ(frequency.ticks, 10);
+    EXPECT_EQ(axesOf({{100, 0, 20}, {600, 0, 0.5F}}).frequency.min, 0.0F);
+}
+
+TEST(FitAxes, hasSpeedStepsOfOneTwoOrFive)
+{
+    // A tenth of 250 is 25, so 50; of 180 it is 18, so 20.
+    const AxisValues coarse = axesOf({{250, 0, 20}}).speed;
+    EXPECT_EQ(coarse.max, 250.0F);
+    EXPECT_EQ(coarse.ticks, 5);
+    const AxisValues fine = axesOf({{180, 0, 20}}).speed;
+    EXPECT_EQ(fine.max, 180.0F);
+    EXPECT_EQ(fine.ticks, 9);
 }
 
 TEST(FitAxes, looksAtAllSeries)
@@ -166,7 +225,7 @@ TEST(FitAxes, hasARoundNumberAtEveryTick)
         const PlotAxes axes = axesOf({{speed(random), damping(random), frequency(random)}});
         expectRoundStep(axes.speed.max / axes.speed.ticks);
         expectRoundStep(axes.frequency.max / axes.frequency.ticks);
-        expectRoundStep(-axes.damping.max / axes.damping.ticks);
+        expectRoundStep((axes.damping.min - axes.damping.max) / axes.damping.ticks);
     }
 }
 
