@@ -130,6 +130,7 @@ wndMain::~wndMain()
 void wndMain::makeChildWindows()
 {
     m_evolPlot = new wndEvolPlot(m_document.plots(), m_userInterface);
+    m_evolPlot->adviseOn(m_document.evolutions());
     const auto frameOf = [this](QWidget* content) {
         auto* const frame = new ChildFrame(content);
         m_area->addSubWindow(frame);

@@ -5,6 +5,7 @@
 #include "plot/RichTextLayout.h"
 #include "plotwindow/AccessiblePlot.h"
 #include "plotwindow/AxisEditor.h"
+#include "plotwindow/PlotHint.h"
 #include "plotwindow/RichTextEditor.h"
 #include "surface/TextMetrics.h"
 #include "vgfplot/PictureWriter.h"
@@ -113,6 +114,8 @@ void EvmPlotView::paintEvent(QPaintEvent* event)
         paintHighlight(*m_highlight, m_plot, painter);
     paintSigns(m_signs, m_plot, painter);
     paintPrompts(painter);
+    painter.setFont(font());
+    paintHint(m_hint, m_plot, painter);
     paintSelection(painter);
     paintBand(painter);
     painter.end();
@@ -143,6 +146,13 @@ void EvmPlotView::selectCurveAt(QPoint position, bool adds)
 void EvmPlotView::setSigns(PlotSigns signs)
 {
     m_signs = std::move(signs);
+    update();
+}
+
+void EvmPlotView::setHint(const QString& text)
+{
+    m_hint = text;
+    updateDescription();
     update();
 }
 
@@ -540,7 +550,9 @@ void EvmPlotView::updateDescription()
                         QString::fromStdString(shortestText(axis.max)));
     };
     setAccessibleName(tr("V-g-f plot %1").arg(m_plot.properties().Caption()));
-    setAccessibleDescription(tr("%1 curves; ").arg(m_plot.rows().curveCount())
+    const bool isAdvising = m_plot.rows().isEmpty() && !m_hint.isEmpty();
+    const QString hint = isAdvising ? m_hint + u' ' : QString();
+    setAccessibleDescription(hint + tr("%1 curves; ").arg(m_plot.rows().curveCount())
                              + description(tr("speed axis %1 from %2 to %3, "), axes.speed)
                              + description(tr("frequency axis %1 from %2 to %3, "), axes.frequency)
                              + description(tr("damping axis %1 from %2 to %3"), axes.damping));

@@ -55,6 +55,9 @@ public:
     /// Whether the plot has a selected curve.
     bool hasSelectedCurve() const { return !m_curves.rows().empty(); }
 
+    /// Shows a text while the plot has no rows: what the user can do next. Empty for none.
+    void setHint(const QString& text);
+
     const EvmPlot& plot() const { return m_plot; }
     const CurveSelection& curves() const { return m_curves; }
 
@@ -131,6 +134,7 @@ private:
     EvmPlot& m_plot;
     std::optional<PlotHighlight> m_highlight;
     PlotSigns m_signs;
+    QString m_hint;
     TextBoxMover m_mover;
     ZoomGesture m_gesture;
     CurveSelection m_curves;

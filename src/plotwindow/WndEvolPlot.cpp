@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "plotwindow/WndEvolPlot.h"
 
+#include "document/EvolutionList.h"
 #include "document/PlotList.h"
 #include "plotwindow/EvmPlotView.h"
 #include "plotwindow/PlotReadout.h"
@@ -128,6 +129,7 @@ void wndEvolPlot::addView(EvmPlot* plot)
 {
     auto view = std::make_unique<EvmPlotView>(*plot, this);
     view->hide(); // otherwise it would be shown with the window
+    view->setHint(m_hint);
     new PlotReadout(*plot, *view); // the view owns it
     connect(view.get(), &EvmPlotView::failed, this, &wndEvolPlot::failed);
     connect(view.get(), &EvmPlotView::edited, this, &wndEvolPlot::edited);
@@ -169,6 +171,26 @@ void wndEvolPlot::hidePlot(EvmPlot& plot)
     if (hadFocus)
         setFocus(Qt::OtherFocusReason);
     view->hide();
+}
+
+void wndEvolPlot::adviseOn(const EvolutionList& evolutions)
+{
+    connect(&evolutions, &EvolutionList::added, this, [this] { setHint(true); });
+    connect(&evolutions, &EvolutionList::aboutToBeRemoved, this,
+            [this, &evolutions](const std::vector<EVM*>& leaving) {
+                setHint(leaving.size() < evolutions.all().size());
+            });
+    setHint(!evolutions.all().empty());
+}
+
+void wndEvolPlot::setHint(bool hasEvolutions)
+{
+    m_hint = hasEvolutions
+        ? tr("Tick modal evolutions in the explorer and press \"Select Modal Evolution\".")
+        : tr("Open modal evolutions with Ctrl+Shift+O, or drop files here.\n"
+             "No files at hand? Choose Help > Open Samples.");
+    for (const Element& element : evpVgf)
+        element.view->setHint(m_hint);
 }
 
 /// Qt replaces "[*]" in a window title unless it is written twice.

@@ -17,6 +17,7 @@
 namespace tarsil {
 
 class EvmPlotView;
+class EvolutionList;
 class PlotList;
 
 /// The window of the V-g-f plots: shows the active plot of a list in its whole area and names it in
@@ -74,6 +75,10 @@ public:
     /// Fits all plots, also those never shown.
     void fitAll();
 
+    /// A plot without rows says from now on what to do next: open evolutions while this list is
+    /// empty, otherwise choose some to draw.
+    void adviseOn(const EvolutionList& evolutions);
+
 Q_SIGNALS:
     /// The user has changed a plot; see `EvmPlotView::edited`.
     void edited(const QString& what, tarsil::UndoHistory::Joining joining);
@@ -111,9 +116,11 @@ private:
     void hidePlot(EvmPlot& plot);
     bool hasActivePlot();
     void updateTitle();
+    void setHint(bool hasEvolutions);
 
     PlotList& m_plots;
     UserInterface& m_user;
+    QString m_hint;
     std::vector<Element> evpVgf; ///< the first one shows "Plot1", which always exists
 };
 

@@ -3,6 +3,7 @@
 // The plots of the window, the active one, and their series.
 
 #include "analysis/ModeBuilder.h"
+#include "document/EvolutionList.h"
 #include "plotwindow/WndEvolPlotFixture.h"
 #include "support/Errors.h"
 
@@ -43,6 +44,32 @@ TEST_F(WndEvolPlotTest, namesTheActivePlotInItsTitle)
     EXPECT_EQ(window.windowTitle(), QStringLiteral("V-g-f Plot - hidden"));
     window.ActivatePlot(nullptr);
     EXPECT_EQ(window.windowTitle(), QStringLiteral("V-g-f Plot"));
+}
+
+TEST_F(WndEvolPlotTest, saysInAnEmptyPlotWhatToDoNext)
+{
+    EvolutionList evolutions;
+    window.adviseOn(evolutions);
+    activateFirst();
+    show();
+    EvmPlotView& view = *window.viewOf(*plotAt(0));
+    const auto looksLikeItsPicture = [&] {
+        const QRect canvas = plotAt(0)->parts().vgPlot.geometry();
+        return view.grab(canvas).toImage() == plotAt(0)->Image().copy(canvas);
+    };
+    EXPECT_TRUE(view.accessibleDescription().startsWith(u"Open modal evolutions"));
+    EXPECT_FALSE(looksLikeItsPicture()) << "the advice is on the screen only";
+
+    const auto added = std::make_shared<EVM>();
+    test::addMode(*added, 1, {{100, -0.1F, 5}, {200, 0.1F, 6}});
+    evolutions.add({added});
+    EXPECT_TRUE(view.accessibleDescription().startsWith(u"Tick modal evolutions"));
+    window.AddSerie(*added->Modes.front());
+    EXPECT_TRUE(view.accessibleDescription().startsWith(u"1 curves")) << "no advice any more";
+    plotAt(0)->rows().clear();
+    evolutions.remove({added.get()});
+    EXPECT_TRUE(view.accessibleDescription().startsWith(u"Open modal evolutions"));
+    EXPECT_FALSE(looksLikeItsPicture());
 }
 
 TEST_F(WndEvolPlotTest, beginsWithPlot1AndNoActivePlot)
