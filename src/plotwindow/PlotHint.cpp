@@ -9,7 +9,7 @@ namespace tarsil {
 
 namespace {
 
-constexpr int margin = 12;
+constexpr int padding = 12;
 
 // Pictures are white in every desktop theme.
 const QColor textColor(70, 70, 70);
@@ -22,15 +22,15 @@ void paintHint(const QString& text, const EvmPlot& plot, QPainter& painter)
     if (text.isEmpty() || !plot.rows().isEmpty())
         return;
     const QRect canvas = plot.parts().vfPlot.geometry();
-    const QRect space = canvas.adjusted(2 * margin, 2 * margin, -2 * margin, -2 * margin);
+    const QRect space = canvas.adjusted(2 * padding, 2 * padding, -2 * padding, -2 * padding);
     constexpr int alignment = Qt::AlignCenter | Qt::TextWordWrap;
     const QRect needed = painter.boundingRect(space, alignment, text);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(frameColor);
     painter.setBrush(Qt::white);
-    painter.drawRoundedRect(needed.adjusted(-margin, -margin, margin, margin), margin / 2,
-                            margin / 2);
+    painter.drawRoundedRect(needed.adjusted(-padding, -padding, padding, padding), padding / 2,
+                            padding / 2);
     painter.setPen(textColor);
     painter.drawText(space, alignment, text);
     painter.restore();
