@@ -26,6 +26,7 @@ _tarsil_batch() {
         *)
             case $command in
                 import) pattern='' ;;
+                document) pattern='!*.tsw' ;;
                 convert | track) pattern='!*.@(evm|ev2)' ;;
                 *) pattern='!*.@(evm|ev2|tsw)' ;;
             esac

@@ -72,6 +72,9 @@ void ZipWriter::add(const ArchivePart& part)
         failArchive();
     static_cast<void>(content.release()); // the archive owns it now
     const auto entry = static_cast<zip_uint64_t>(index);
+    if (!part.isCompressed
+        && zip_set_file_compression(m_archive.get(), entry, ZIP_CM_STORE, 0) != 0)
+        failArchive();
     if (zip_file_set_dostime(m_archive.get(), entry, midnight, firstDay, 0) != 0)
         failArchive();
 }

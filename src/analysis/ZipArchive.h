@@ -12,10 +12,11 @@ struct ArchivePart
 {
     std::string name; ///< with "/" between folders
     std::string bytes;
+    bool isCompressed = true;
 };
 
-/// The bytes of a zip archive with these parts, compressed. It is made in memory, so that only the
-/// final write can fail. The date of every part is 1980-01-01, so that equal parts give equal
+/// The bytes of a zip archive with these parts. It is made in memory, so that only the final write
+/// can fail. The date of every part is 1980-01-01, so that equal parts give equal
 /// bytes. Errors: std::bad_alloc; 5 for a failure of the zip library, with `source` and its
 /// message.
 std::string zipArchive(const std::vector<ArchivePart>& parts, std::string_view source);

@@ -16,9 +16,10 @@ namespace tarsil::batch {
 
 namespace {
 
-constexpr std::array<const Command*, 10> commands = {
-    &infoCommand, &checkCommand,  &reportCommand,    &pictureCommand, &convertCommand,
-    &mixCommand,  &importCommand, &crossingsCommand, &trackCommand,   &trendCommand};
+constexpr std::array<const Command*, 11> commands = {
+    &infoCommand,    &checkCommand, &reportCommand,  &pictureCommand,
+    &convertCommand, &mixCommand,   &importCommand,  &crossingsCommand,
+    &trackCommand,   &trendCommand, &documentCommand};
 
 std::string programHelp()
 {
@@ -142,7 +143,7 @@ bool drawsPicture(const std::vector<std::string>& arguments)
         return arguments[0] == command.description.name
             && !asksForHelp(command, std::span(arguments).subspan(1));
     };
-    return draws(pictureCommand) || draws(trendCommand);
+    return draws(pictureCommand) || draws(trendCommand) || draws(documentCommand);
 }
 
 } // namespace tarsil::batch

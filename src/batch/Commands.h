@@ -25,6 +25,7 @@ extern const Command importCommand;
 extern const Command crossingsCommand;
 extern const Command trackCommand;
 extern const Command trendCommand;
+extern const Command documentCommand;
 
 /// For commands without a maximum number of files.
 constexpr std::size_t anyNumber = static_cast<std::size_t>(-1);

@@ -3,7 +3,6 @@
 #include "analysis/SheetWriter.h"
 #include "analysis/StabilitySheet.h"
 #include "base/files/AtomicFile.h"
-#include "base/files/PathNames.h"
 #include "batch/BatchRun.h"
 #include "batch/Commands.h"
 #include "batch/StabilityJson.h"
@@ -29,20 +28,6 @@ void writeReport(const StabilityReport& report, const std::string& output)
     writeSheet(sheet, output);
 }
 
-/// Complains about each evolution that does not meet the requirement. Returns whether all do.
-bool allPass(const StabilityReport& report, BatchRun& run)
-{
-    bool pass = true;
-    for (const EvolutionStability& stability : report.evolutions) {
-        if (!stability.margin || stability.margin->passes)
-            continue;
-        run.complain(shownPath(stability.evolution->FileName) + ": "
-                     + marginText(*stability.margin));
-        pass = false;
-    }
-    return pass;
-}
-
 int runCrossings(const CommandLine& line, BatchRun& run)
 {
     const std::string output = outputOf(line, crossingsOutputs);
@@ -53,7 +38,7 @@ int runCrossings(const CommandLine& line, BatchRun& run)
     const StabilityReport report {judgedFiles(line, output, settings, aircraft, run), settings,
                                   "tarsil-batch " TARSIL_VERSION};
     writeReport(report, output);
-    return allPass(report, run) ? done : failed;
+    return allPass(report.evolutions, run) ? done : failed;
 }
 
 constexpr auto crossingsOptions = withStabilityOptions(std::array<OptionDescription, 2> {

@@ -2,31 +2,23 @@
 #include "analysis/FlutterReport.h"
 #include "analysis/SheetWriter.h"
 #include "analysis/StabilitySheet.h"
-#include "base/files/PathNames.h"
-#include "base/user/RunTimeError.h"
 #include "batch/BatchRun.h"
 #include "batch/Commands.h"
+#include "batch/FlutterTable.h"
 #include "batch/ModeList.h"
 #include "batch/WorkspaceInput.h"
-#include "vgfplot/NamedMode.h"
+#include "model/AeMode.h"
+#include "report/ReportBuilder.h"
 
 #include <array>
 #include <set>
+#include <utility>
 
 namespace tarsil::batch {
 
 namespace {
 
 constexpr std::array<std::string_view, 2> reportOutputs = {".xlsx", ".csv"};
-
-/// The Mach number for files without one, as text; empty when not given.
-std::optional<std::string> machOf(const CommandLine& line)
-{
-    auto text = line.value("--mach");
-    if (text && singlesOf(*text, 1, "--mach").front() <= 0)
-        throw UsageError("--mach must be greater than 0");
-    return text;
-}
 
 /// The source of the rows, from the command line.
 struct RowSource
@@ -43,10 +35,8 @@ bool addRowsOfWorkspace(const std::string& path, const RowSource& source, BatchR
     const WorkspaceInput input = openWorkspace(path, source.plot, run);
     for (const std::string& file : input.files)
         refuseOutputOverInput(source.output, file);
-    for (const PlotRecord& plot : input.plots) {
-        for (const SeriesRecord& series : plot.series)
-            rows.push_back({namedMode(series, input.evolutions).mode, series.legendText});
-    }
+    for (ReportRow& row : reportRows(input.plots, input.evolutions))
+        rows.push_back(std::move(row));
     return input.isWhole;
 }
 
@@ -59,32 +49,13 @@ void addModesOfEvolution(const std::string& path, const RowSource& source, Batch
         rows.push_back({mode, caseTextOf(evolution)});
 }
 
-/// Reports each error once: several series may draw the same mode.
-class Complaints
-{
-public:
-    explicit Complaints(BatchRun& run) : m_run(run) { }
-
-    void add(const RunTimeError& error)
-    {
-        if (m_errors.insert(error.description()).second)
-            m_run.complain(m_run.readable(error.description())
-                           + "; the cells that need it stay empty");
-    }
-
-    bool areNone() const { return m_errors.empty(); }
-
-private:
-    BatchRun& m_run;
-    std::set<std::string> m_errors;
-};
-
 /// The stability of the evolutions of all rows, with all their modes.
-StabilityReport stabilityOfRows(const std::vector<ReportRow>& rows, double damping,
-                                const std::optional<std::string>& mach)
+StabilityReport stabilityOfRows(const std::vector<ReportRow>& rows,
+                                const FlutterTableOptions& options)
 {
-    StabilityReport report {{}, reportSettings(damping), "tarsil-batch " TARSIL_VERSION};
-    const float givenMach = mach ? singlesOf(*mach, 1, "--mach").front() : 0;
+    StabilityReport report {
+        {}, reportSettings(options.referenceDamping), "tarsil-batch " TARSIL_VERSION};
+    const float givenMach = options.machNumber();
     std::set<const EVM*> known;
     for (const ReportRow& row : rows) {
         const EVM* const evolution = row.mode->Parent;
@@ -105,9 +76,8 @@ void writeOutput(const Sheet& table, const StabilityReport& stability, const std
 int runReport(const CommandLine& line, BatchRun& run)
 {
     RowSource source {outputOf(line, reportOutputs), std::nullopt, line.value(plotOption.name)};
-    const double damping = line.number("--reference-damping").value();
-    const double speedLimit = line.number("--speed-limit").value();
-    const auto mach = machOf(line);
+    const FlutterTableOptions options {line.number("--reference-damping").value(),
+                                       line.number("--speed-limit").value(), machOf(line)};
     if (const auto list = line.value("--modes"))
         source.modes = modeListOf(*list);
     checkWorkspaceOptions(line, line.operands(), {"--modes"});
@@ -120,18 +90,10 @@ int runReport(const CommandLine& line, BatchRun& run)
         else
             addModesOfEvolution(path, source, run, rows);
     }
-    const auto answerMach = [&mach](const AeMode& mode, std::string_view) {
-        if (!mach)
-            throw Failure(shownPath(mode.Parent->path()) + " has no Mach number; use --mach");
-        return std::optional(*mach);
-    };
     Sheet sheet;
-    Complaints complaints(run);
-    FlutterReport(damping, speedLimit, answerMach)
-        .writeWhatCan(rows, sheet,
-                      [&complaints](const RunTimeError& error) { complaints.add(error); });
-    writeOutput(sheet, stabilityOfRows(rows, damping, mach), source.output);
-    return isWhole && complaints.areNone() ? done : failed;
+    const bool isComplete = writeFlutterTable(rows, options, sheet, run);
+    writeOutput(sheet, stabilityOfRows(rows, options), source.output);
+    return isWhole && isComplete ? done : failed;
 }
 
 constexpr std::array<OptionDescription, 6> reportOptions = {

@@ -2,6 +2,7 @@
 #include "batch/StabilityOptions.h"
 
 #include "analysis/ModeTracking.h"
+#include "base/files/PathNames.h"
 #include "base/user/RunTimeError.h"
 #include "batch/BatchRun.h"
 #include "batch/WorkspaceInput.h"
@@ -95,6 +96,19 @@ std::vector<EvolutionStability> judgedFiles(const CommandLine& line, const std::
         evolutions.push_back(judged(input, settings));
     }
     return evolutions;
+}
+
+bool allPass(const std::vector<EvolutionStability>& evolutions, BatchRun& run)
+{
+    bool pass = true;
+    for (const EvolutionStability& stability : evolutions) {
+        if (!stability.margin || stability.margin->passes)
+            continue;
+        run.complain(shownPath(stability.evolution->FileName) + ": "
+                     + marginText(*stability.margin));
+        pass = false;
+    }
+    return pass;
 }
 
 } // namespace tarsil::batch

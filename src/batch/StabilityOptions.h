@@ -60,4 +60,7 @@ std::vector<EvolutionStability> judgedFiles(const CommandLine& line, const std::
                                             const StabilitySettings& settings,
                                             const AircraftOption& aircraft, BatchRun& run);
 
+/// Complains about each evolution that does not meet the requirement. Returns whether all do.
+bool allPass(const std::vector<EvolutionStability>& evolutions, BatchRun& run);
+
 } // namespace tarsil::batch

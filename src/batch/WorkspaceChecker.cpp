@@ -208,7 +208,8 @@ void WorkspaceChecker::checkSeries(BatchRun& run)
         if (fileExists(m_files[index])) // others are already reported
             add(keys::evolutionFiles, keys::numbered(keys::file, index + 1), why);
     };
-    const std::vector<EVM*> evolutions = openEvolutions(m_record.plots, m_files, run, report);
+    const std::vector<EVM*> evolutions =
+        openEvolutions(namedEvolutions(m_record.plots, m_files.size()), m_files, run, report);
     for (std::size_t j = 0; j < m_record.plots.size(); ++j) {
         for (const SeriesFault& fault : namedSeries(m_record.plots[j], evolutions).faults)
             add(keys::plotSection(j + 1), keys::numbered(keys::series, fault.index + 1),

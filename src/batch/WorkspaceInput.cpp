@@ -139,7 +139,7 @@ void checkWorkspaceOptions(const CommandLine& line, const std::vector<std::strin
 }
 
 WorkspaceInput openWorkspace(const std::string& path, const std::optional<std::string>& plot,
-                             BatchRun& run)
+                             BatchRun& run, UsedEvolutions used)
 {
     const WorkspaceSource source = readWorkspaceSource(path);
     if (source.reading.error)
@@ -147,6 +147,8 @@ WorkspaceInput openWorkspace(const std::string& path, const std::optional<std::s
     const WorkspaceRecord& record = source.reading.record;
     const std::vector<std::string>& files = source.files;
     WorkspaceInput input;
+    input.record = record;
+    input.userName = source.reading.userName;
     input.plots = plotsAskedFor(record.plots, plot, path);
     input.files.insert(path);
     std::copy_if(files.begin(), files.end(), std::inserter(input.files, input.files.end()),
@@ -160,18 +162,21 @@ WorkspaceInput openWorkspace(const std::string& path, const std::optional<std::s
         run.complain(path + ": modal evolution " + std::to_string(one.position + 1) + ", "
                      + shownPath(one.stored) + ", is not there; " + shownPath(one.taken)
                      + " is used because of its name alone");
-    input.evolutions = openEvolutions(input.plots, files, run, complain);
+    const std::vector<bool> wanted = used == UsedEvolutions::All
+        ? std::vector<bool>(files.size(), true)
+        : namedEvolutions(input.plots, files.size());
+    input.evolutions = openEvolutions(wanted, files, run, complain);
     applyEdited(record.edited, input.evolutions);
     for (PlotRecord& one : input.plots)
         leaveOutFaults(one, path, input, run);
     return input;
 }
 
-std::vector<EVM*> openEvolutions(const std::vector<PlotRecord>& plots,
+std::vector<EVM*> openEvolutions(const std::vector<bool>& wanted,
                                  const std::vector<std::string>& files, BatchRun& run,
                                  const OpeningReport& report)
 {
-    InputOpener opener(namedEvolutions(plots, files.size()), run, report);
+    InputOpener opener(wanted, run, report);
     return openListed({}, files, opener);
 }
 

@@ -35,9 +35,14 @@ inline constexpr OptionDescription plotOption {
 void checkWorkspaceOptions(const CommandLine& line, const std::vector<std::string>& paths,
                            const std::vector<std::string_view>& useless);
 
+/// Which evolutions of a workspace a command uses.
+enum class UsedEvolutions { OfSeries, All };
+
 /// The part of a workspace that a command uses.
 struct WorkspaceInput
 {
+    WorkspaceRecord record; ///< as in the file
+    std::string userName; ///< who saved it
     std::vector<PlotRecord> plots; ///< the selected plots, with the series whose modes exist
     std::vector<EVM*> evolutions; ///< as listed in the workspace; null where none is open
     std::set<std::string> files; ///< the workspace and those of its files that exist
@@ -45,19 +50,19 @@ struct WorkspaceInput
 };
 
 /// Opens a workspace and the evolutions of the series of its plots: of the plot with the number
-/// (from 1) or else the caption `plot`, or of all plots. The evolutions get the parameters that
-/// were edited in the workspace. A missing or unreadable evolution, and a series whose evolution or
-/// mode does not exist, is reported and left out. Errors: those of opening a file and of
-/// `readWorkspace`; Failure for an unknown plot.
+/// (from 1) or else the caption `plot`, or of all plots; or all evolutions. They get the parameters
+/// that were edited in the workspace. A missing or unreadable evolution, and a series whose
+/// evolution or mode does not exist, is reported and left out. Errors: those of opening a file and
+/// of `readWorkspace`; Failure for an unknown plot.
 WorkspaceInput openWorkspace(const std::string& path, const std::optional<std::string>& plot,
-                             BatchRun& run);
+                             BatchRun& run, UsedEvolutions used = UsedEvolutions::OfSeries);
 
 /// Receives the index of a file in the list of the workspace, and why it cannot be opened.
 using OpeningReport = std::function<void(std::size_t index, const std::string& why)>;
 
-/// Opens the evolutions of the series of these plots, each once. `files` are the paths at which the
-/// files of the workspace were found. An evolution that cannot be opened is reported and null.
-std::vector<EVM*> openEvolutions(const std::vector<PlotRecord>& plots,
+/// Opens the wanted ones of `files`, the paths at which the files of a workspace were found, each
+/// once. An evolution that cannot be opened is reported and null.
+std::vector<EVM*> openEvolutions(const std::vector<bool>& wanted,
                                  const std::vector<std::string>& files, BatchRun& run,
                                  const OpeningReport& report);
 

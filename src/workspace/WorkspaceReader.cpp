@@ -96,6 +96,7 @@ void WorkspaceReader::read()
 
 void WorkspaceReader::readAll()
 {
+    m_reading.userName = m_ini.text(keys::general, keys::userName).value_or(std::string());
     m_record.description = text(keys::general, keys::description, keys::noText);
     if (m_record.description.empty())
         m_record.description = keys::noText; // the default, whose blanks IniText removes

@@ -12,7 +12,7 @@
 namespace tarsil {
 
 /// Converts the bytes of a workspace file to a record; `name` is the file name in errors. Values
-/// are found by section and key in any order; user and version are not read. The default of the
+/// are found by section and key in any order; the version is not read. The default of the
 /// description is three blanks. A value is cut at 1023 bytes; in one with several fields the limit
 /// applies to each, so that a long text does not cost the numbers.
 ///
@@ -39,6 +39,7 @@ struct UnusedValue
 struct WorkspaceReading
 {
     WorkspaceRecord record;
+    std::string userName; ///< who saved the file; empty when it does not say
     std::optional<RunTimeError> error; ///< that of `readWorkspace`; empty when everything was read
 
     // The faulty value, which may be absent.

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "report/ReportFont.h"
+
+#include <QFontMetricsF>
+#include <QTextLayout>
+#include <QTextOption>
+
+#include <algorithm>
+
+namespace tarsil {
+
+namespace {
+
+constexpr double leading = 1.25; ///< line height in sizes of the font
+constexpr double baseline = 0.95; ///< its baseline
+
+} // namespace
+
+QFont pageFont(const ReportFont& font)
+{
+    QFont result(QStringLiteral("Arial"));
+    result.setPixelSize(qRound(font.points * pixelsPerPoint));
+    result.setBold(font.isBold);
+    result.setHintingPreference(QFont::PreferNoHinting);
+    result.setKerning(false);
+    return result;
+}
+
+double widthOf(const QString& text, const ReportFont& font)
+{
+    return QFontMetricsF(pageFont(font)).horizontalAdvance(text) / pixelsPerPoint;
+}
+
+double wordWidthOf(const QString& text, const ReportFont& font)
+{
+    double widest = 0;
+    for (const QString& word : text.split(u' '))
+        widest = std::max(widest, widthOf(word, font));
+    return widest;
+}
+
+double lineHeightOf(const ReportFont& font)
+{
+    return leading * font.points;
+}
+
+double ascentOf(const ReportFont& font)
+{
+    return baseline * font.points;
+}
+
+std::vector<QString> wrapped(const QString& text, const ReportFont& font, double width)
+{
+    QTextLayout layout(text, pageFont(font));
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    std::vector<QString> lines;
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width * pixelsPerPoint);
+        lines.push_back(text.mid(line.textStart(), line.textLength()).trimmed());
+    }
+    layout.endLayout();
+    if (lines.empty())
+        lines.emplace_back();
+    return lines;
+}
+
+} // namespace tarsil

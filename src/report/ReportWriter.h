@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+
+namespace tarsil {
+
+struct ReportContent;
+
+/// The extensions of report documents.
+inline constexpr std::array<std::string_view, 3> reportExtensions = {".pdf", ".odt", ".html"};
+
+/// Writes a report document to a file, whole or not at all. The extension of `path`, in any case,
+/// selects the format. Equal contents give equal bytes. Needs a QGuiApplication. Errors: 5 for
+/// another extension; those of the pictures and of writing a file.
+void writeReport(const ReportContent& content, const std::string& path);
+
+} // namespace tarsil
