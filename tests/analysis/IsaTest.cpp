@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "analysis/Isa.h"
 
+#include "analysis/Knots.h"
 #include "base/user/RunTimeError.h"
 #include "support/Errors.h"
 
@@ -14,7 +15,6 @@ using ISA::IsaAltitude;
 
 namespace {
 
-constexpr double knots = 1.94384449244; // in a metre per second
 constexpr double squareOfSoundSpeed = 115794.8064; // (m/s)^2
 constexpr double feetPerMetre = 1 / 0.3048; // by definition
 
@@ -52,7 +52,7 @@ TEST(Isa, givesTheAltitudeOfADensity)
 
 TEST(Isa, expectsMetresPerSecond)
 {
-    EXPECT_DOUBLE_EQ(IsaAltitude(300 / knots, 0.5, "mps"), IsaAltitude(300, 0.5, "knot"));
+    EXPECT_DOUBLE_EQ(IsaAltitude(300 / test::knots, 0.5, "mps"), IsaAltitude(300, 0.5, "knot"));
 }
 
 TEST(Isa, agreesWithThePublishedPressuresOfTheStandardAtmosphere)

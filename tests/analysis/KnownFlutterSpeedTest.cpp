@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "analysis/FlutterSearch.h"
+#include "analysis/Knots.h"
 #include "formats/EvolutionFile.h"
 #include "model/EVM.h"
 #include "support/TestFiles.h"
@@ -19,8 +20,7 @@ using namespace tarsil;
 
 namespace {
 
-constexpr double knots = 1.94384449244; // in a metre per second
-constexpr double publishedSpeed = 137.2 * knots;
+constexpr double publishedSpeed = 137.2 * test::knots;
 constexpr double publishedFrequency = 70.7 / (2 * 3.14159265358979);
 
 /// The crossing of zero damping at the lowest speed, over all modes of a sample.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "app/DlgDampLine.h"
 
+#include "app/LineDialogMessages.h"
 #include "document/Document.h"
 #include "support/FormParts.h"
 #include "support/ScriptedUserInterface.h"
@@ -14,11 +15,12 @@
 #include <map>
 
 using namespace tarsil;
+using test::Message;
+using test::noPlot;
+using test::notNumeric;
 using test::partOf;
 
 namespace {
-
-using Message = test::ScriptedUserInterface::Message;
 
 class DlgDampLine : public ::testing::Test
 {
@@ -48,9 +50,6 @@ protected:
     test::ScriptedUserInterface user;
     dlgDampLine dialog;
 };
-
-const Message notNumeric = {"Please enter a numeric value.", "Tarsil", MessageIcon::None};
-const Message noPlot = {"Please select activate a plot.", "Tarsil", MessageIcon::Exclamation};
 
 } // namespace
 

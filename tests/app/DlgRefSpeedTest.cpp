@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "app/DlgRefSpeed.h"
 
+#include "app/LineDialogMessages.h"
 #include "document/Document.h"
 #include "support/FormParts.h"
 #include "support/ScriptedUserInterface.h"
@@ -12,11 +13,12 @@
 #include <gtest/gtest.h>
 
 using namespace tarsil;
+using test::Message;
+using test::noPlot;
+using test::notNumeric;
 using test::partOf;
 
 namespace {
-
-using Message = test::ScriptedUserInterface::Message;
 
 class DlgRefSpeed : public ::testing::Test
 {
@@ -35,9 +37,6 @@ protected:
     test::ScriptedUserInterface user;
     dlgRefSpeed dialog;
 };
-
-const Message notNumeric = {"Please enter a numeric value.", "Tarsil", MessageIcon::None};
-const Message noPlot = {"Please select activate a plot.", "Tarsil", MessageIcon::Exclamation};
 
 } // namespace
 

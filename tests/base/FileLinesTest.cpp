@@ -37,7 +37,7 @@ std::vector<std::string> texts()
             "a line that is longer than most pieces\nb\n\n\nand another such line of the text"};
 }
 
-std::vector<std::string> linesOf(TextStream stream)
+std::vector<std::string> checkedLinesOf(TextStream stream)
 {
     std::vector<std::string> lines;
     while (!stream.atEndOfStream()) {
@@ -83,7 +83,7 @@ TEST(FileLines, areThoseOfTheTextAsAWhole)
         for (const std::size_t piece : pieces) {
             SCOPED_TRACE(text + " in pieces of " + std::to_string(piece));
             FileLines file(path, piece);
-            EXPECT_EQ(linesOf(TextStream(file, "x")), linesOf(TextStream(text, "x")));
+            EXPECT_EQ(checkedLinesOf(TextStream(file, "x")), checkedLinesOf(TextStream(text, "x")));
         }
     }
 }

@@ -5,6 +5,7 @@
 #include "base/files/AtomicFile.h"
 #include "base/user/RunTimeError.h"
 
+#include "base/FilesIn.h"
 #include "support/Errors.h"
 #include "support/TestFiles.h"
 
@@ -25,7 +26,6 @@
 #include <ctime>
 #include <filesystem>
 #include <functional>
-#include <iterator>
 #include <string>
 #include <system_error>
 
@@ -36,6 +36,7 @@ namespace {
 namespace fs = std::filesystem;
 using test::errorTextOf;
 using test::fileBytes;
+using test::filesIn;
 using test::TemporaryFolder;
 using ::testing::EndsWith;
 
@@ -43,7 +44,7 @@ constexpr uid_t somebody = 54321; // a user id without an account
 constexpr gid_t ownGroup = 54322;
 constexpr gid_t sharedGroup = 54323;
 
-struct stat statusOf(const std::string& path)
+struct stat fileStatus(const std::string& path)
 {
     struct stat status = {};
     EXPECT_EQ(::stat(path.c_str(), &status), 0) << path;
@@ -52,7 +53,7 @@ struct stat statusOf(const std::string& path)
 
 int modeOf(const std::string& path)
 {
-    return static_cast<int>(statusOf(path).st_mode & 07777);
+    return static_cast<int>(fileStatus(path).st_mode & 07777);
 }
 
 /// The mode of the temporary file being written; -1 when there is none.
@@ -63,11 +64,6 @@ int modeOfTemporary(const TemporaryFolder& folder)
             return modeOf(entry.path().string());
     }
     return -1;
-}
-
-std::ptrdiff_t filesIn(const TemporaryFolder& folder)
-{
-    return std::distance(fs::directory_iterator(folder.path()), fs::directory_iterator());
 }
 
 std::string writeOver(const TemporaryFolder& folder, mode_t mode)
@@ -211,8 +207,8 @@ TEST_F(SavedByAnother, stayTheOwnersWhenRootSaves)
 {
     const std::string path = fileOf(somebody, sharedGroup, 04640);
     writeFile(path, "new");
-    EXPECT_EQ(statusOf(path).st_uid, somebody);
-    EXPECT_EQ(statusOf(path).st_gid, sharedGroup);
+    EXPECT_EQ(fileStatus(path).st_uid, somebody);
+    EXPECT_EQ(fileStatus(path).st_gid, sharedGroup);
     EXPECT_EQ(modeOf(path), 0640);
 }
 
@@ -220,8 +216,8 @@ TEST_F(SavedByAnother, keepAGroupThatTheUserIsAMemberOf)
 {
     const std::string path = fileOf(0, sharedGroup, 04664);
     EXPECT_EQ(asSomebody([&path] { writeFile(path, "new"); }), 0);
-    EXPECT_EQ(statusOf(path).st_uid, somebody);
-    EXPECT_EQ(statusOf(path).st_gid, sharedGroup);
+    EXPECT_EQ(fileStatus(path).st_uid, somebody);
+    EXPECT_EQ(fileStatus(path).st_gid, sharedGroup);
     EXPECT_EQ(modeOf(path), 0664) << "no program of the user who saved";
 }
 
@@ -230,7 +226,7 @@ TEST_F(SavedByAnother, areNarrowedToWhatAllMightWhenTheGroupIsLost)
     const std::string path = fileOf(0, 0, 0646);
     EXPECT_EQ(asSomebody([&path] { writeFile(path, "new"); }), 0);
     EXPECT_EQ(fileBytes(path), "new");
-    EXPECT_EQ(statusOf(path).st_gid, ownGroup);
+    EXPECT_EQ(fileStatus(path).st_gid, ownGroup);
     // The old group could read, all others could read and write; each person may now be in either
     // class.
     EXPECT_EQ(modeOf(path), 0644);

@@ -2,6 +2,7 @@
 #include "base/files/AtomicFile.h"
 #include "base/user/RunTimeError.h"
 
+#include "base/FilesIn.h"
 #include "support/Errors.h"
 #include "support/TestFiles.h"
 
@@ -10,7 +11,6 @@
 #include <sys/stat.h>
 
 #include <filesystem>
-#include <iterator>
 #include <string>
 
 namespace tarsil {
@@ -20,12 +20,8 @@ namespace {
 namespace fs = std::filesystem;
 using test::errorNumberOf;
 using test::fileBytes;
+using test::filesIn;
 using test::TemporaryFolder;
-
-std::ptrdiff_t filesIn(const TemporaryFolder& folder)
-{
-    return std::distance(fs::directory_iterator(folder.path()), fs::directory_iterator());
-}
 
 TEST(AtomicFile, putsTheNewFileInPlaceOnCommit)
 {

@@ -4,10 +4,11 @@
 // legend, picture. If TARSIL_GUIDE names a folder, the pictures of the user's guide are taken on
 // the way.
 
+#include "CurveColors.h"
+#include "GuidePictures.h"
 #include "Person.h"
 #include "Program.h"
 
-#include <QDir>
 #include <QFile>
 
 #include <gmock/gmock.h>
@@ -20,15 +21,6 @@ namespace {
 using ::testing::HasSubstr;
 
 constexpr QRect wholeScreen(0, 0, 1000, 800);
-constexpr QRgb green = qRgb(0, 128, 0); // of the third curve
-
-void keepForTheGuide(const char* name, const QImage& picture)
-{
-    const QString folder = qEnvironmentVariable("TARSIL_GUIDE");
-    if (!folder.isEmpty()) {
-        EXPECT_TRUE(picture.save(QDir(folder).filePath(QString::fromLatin1(name))));
-    }
-}
 
 /// The bytes of a text in a metafile.
 std::string inMetafile(const char* text)

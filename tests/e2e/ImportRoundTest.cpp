@@ -3,6 +3,8 @@
 // From a solver output to the plot and the report, by mouse and keyboard. If TARSIL_GUIDE names a
 // folder, the pictures of the user's guide are taken on the way.
 
+#include "CurveColors.h"
+#include "GuidePictures.h"
 #include "Person.h"
 #include "Program.h"
 
@@ -20,15 +22,6 @@ namespace {
 using ::testing::HasSubstr;
 
 constexpr const char* importDialog = "^Import Solver Results$";
-constexpr QRgb blue = qRgb(0, 0, 255); // of the second curve
-
-void keepForTheGuide(const char* name, const QImage& picture)
-{
-    const QString folder = qEnvironmentVariable("TARSIL_GUIDE");
-    if (!folder.isEmpty()) {
-        EXPECT_TRUE(picture.save(QDir(folder).filePath(QString::fromLatin1(name))));
-    }
-}
 
 QStringList workbooksIn(const QString& folder)
 {

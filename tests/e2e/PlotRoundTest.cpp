@@ -2,6 +2,7 @@
 
 // The plot by the mouse, and by the keyboard alone.
 
+#include "CurveColors.h"
 #include "Person.h"
 #include "Program.h"
 
@@ -19,8 +20,6 @@ namespace {
 
 using ::testing::HasSubstr;
 
-constexpr QRgb blue = qRgb(0, 0, 255); // of the second curve
-constexpr QRgb cyan = qRgb(0, 191, 191); // of the fifth
 constexpr int left = 1;
 constexpr int middle = 2;
 

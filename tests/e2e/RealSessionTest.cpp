@@ -2,6 +2,7 @@
 
 // A session by mouse and keyboard, saved and restored after a restart.
 
+#include "CurveColors.h"
 #include "Person.h"
 #include "Program.h"
 
@@ -14,9 +15,6 @@
 namespace tarsil::test {
 
 namespace {
-
-constexpr QRgb blue = qRgb(0, 0, 255); // of the second curve
-constexpr QRgb cyan = qRgb(0, 191, 191); // of the fifth
 
 /// Expects the program to quit without a question.
 void quit(Person& person, Program& program)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "emf/EmfListing.h"
+#include "emf/TestPens.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -7,11 +8,10 @@
 using namespace tarsil;
 using test::drawnRecords;
 using test::metafileOf;
+using test::thin;
 using ::testing::ElementsAre;
 
 namespace {
-
-constexpr Pen thin {penstyle::solid, 1, 0};
 
 /// The bounds of the picture made by `draw`.
 template <typename Draw>

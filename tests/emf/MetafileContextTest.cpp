@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "emf/EmfListing.h"
+#include "emf/TestPens.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -7,18 +8,17 @@
 #include <limits>
 
 using namespace tarsil;
+using test::dashed;
 using test::drawnRecords;
 using test::EmfContents;
 using test::EmfItem;
 using test::metafileOf;
 using test::polylinesOf;
+using test::thin;
 using ::testing::ElementsAre;
 namespace emf = test::emf;
 
 namespace {
-
-constexpr Pen thin {penstyle::solid, 1, 0};
-constexpr Pen dashed {penstyle::dash, 0, 0};
 
 /// A connected curve of `segments` segments, alternately one row down and up.
 void drawCurve(DeviceContext& context, int segments, const Pen& pen)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "emf/EmfListing.h"
+#include "emf/TestPens.h"
 #include "support/Errors.h"
 #include "support/TestFiles.h"
 
@@ -14,18 +15,17 @@
 #include <stdexcept>
 
 using namespace tarsil;
+using test::dashed;
 using test::EmfContents;
 using test::errorNumberOf;
 using test::fileBytes;
 using test::metafileOf;
 using test::readMetafile;
 using test::TemporaryFolder;
+using test::thin;
 using ::testing::ElementsAre;
 
 namespace {
-
-constexpr Pen thin {penstyle::solid, 1, 0};
-constexpr Pen dashed {penstyle::dash, 0, 0};
 
 EmfContents withDescription(const QString& description)
 {

@@ -20,7 +20,7 @@ struct BatchWriter
     std::vector<std::string> inputs;
 };
 
-std::vector<BatchWriter> writers()
+std::vector<BatchWriter> batchWriters()
 {
     const std::string clean = sample("goland_clean_m040.ev2");
     const std::string store = sample("goland_tipstore_m040.ev2");
@@ -62,7 +62,7 @@ TEST_P(BatchFaults, leaveTheOldFileOrTheNewOne)
     FaultTrial({command, writer.file}).run();
 }
 
-INSTANTIATE_TEST_SUITE_P(Writers, BatchFaults, ::testing::ValuesIn(writers()),
+INSTANTIATE_TEST_SUITE_P(Writers, BatchFaults, ::testing::ValuesIn(batchWriters()),
                          [](const auto& tested) { return tested.param.name; });
 
 } // namespace tarsil::test

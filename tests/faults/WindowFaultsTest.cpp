@@ -25,7 +25,7 @@ struct WindowWriter
     std::string remark = {};
 };
 
-std::vector<WindowWriter> writers()
+std::vector<WindowWriter> windowWriters()
 {
     return {{"save", "wing.tsw"},
             {"picture", "plot.emf"},
@@ -58,7 +58,7 @@ TEST_P(WindowFaults, leaveTheOldFileOrTheNewOne)
         .run();
 }
 
-INSTANTIATE_TEST_SUITE_P(Writers, WindowFaults, ::testing::ValuesIn(writers()),
+INSTANTIATE_TEST_SUITE_P(Writers, WindowFaults, ::testing::ValuesIn(windowWriters()),
                          [](const auto& tested) { return tested.param.command; });
 
 } // namespace tarsil::test

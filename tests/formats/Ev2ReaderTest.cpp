@@ -12,7 +12,7 @@ using test::ev2Header;
 using test::ev2Row;
 using test::readEv2Text;
 
-constexpr std::string_view wholeFile = //
+constexpr std::string_view wholeEv2File = //
     "a line before the sections\n"
     "[PROCESSING DATA INFO]\n"
     "Program_version=4.1=beta\n"
@@ -48,7 +48,7 @@ constexpr std::string_view wholeFile = //
 TEST(Ev2Reader, readsTheHeaderTexts)
 {
     EVM evolution;
-    readEv2Text(wholeFile, evolution);
+    readEv2Text(wholeEv2File, evolution);
     EXPECT_EQ(evolution.programVersion, "4.1"); // the text up to the second "="
     EXPECT_EQ(evolution.ev2Version, "2");
     EXPECT_EQ(evolution.runningDate, "12-MAR-2003");
@@ -68,7 +68,7 @@ TEST(Ev2Reader, readsTheHeaderTexts)
 TEST(Ev2Reader, readsTheListsInFileOrderByTheirIndex)
 {
     EVM evolution;
-    readEv2Text(wholeFile, evolution);
+    readEv2Text(wholeEv2File, evolution);
     ASSERT_EQ(evolution.Param.modifications.size(), 2U);
     EXPECT_EQ(evolution.Param.modifications[0].key, "2");
     EXPECT_EQ(evolution.Param.modifications[0].text, "tip mass = 3 kg");
@@ -81,7 +81,7 @@ TEST(Ev2Reader, readsTheListsInFileOrderByTheirIndex)
 TEST(Ev2Reader, readsTheRowsUpToTheFirstEmptyLine)
 {
     EVM evolution;
-    readEv2Text(wholeFile, evolution);
+    readEv2Text(wholeEv2File, evolution);
     ASSERT_EQ(evolution.Modes.size(), 2U);
     const AeMode& mode = *evolution.Modes[0];
     EXPECT_EQ(mode.Id, 3);
@@ -226,7 +226,7 @@ TEST(Ev2Reader, saysWhichSectionIsMissing)
 {
     for (const std::string_view header :
          {"[PROCESSING DATA INFO]", "[MODEL DATA INFO]", "[RESULT DATA SUMMARY]"}) {
-        std::string text(wholeFile);
+        std::string text(wholeEv2File);
         text.replace(text.find(header) + 1, 1, "x");
         EVM evolution;
         const auto error = errorOf([&] { readEv2Text(text, evolution); });
@@ -308,7 +308,7 @@ TEST(Ev2Reader, readsWhatIsThereWhenCountsDisagree)
 TEST(Ev2Reader, acceptsWindowsLineEndsAndAByteOrderMark)
 {
     EVM evolution;
-    std::string text(wholeFile.substr(wholeFile.find('[')));
+    std::string text(wholeEv2File.substr(wholeEv2File.find('[')));
     for (std::size_t i = 0; (i = text.find('\n', i)) != std::string::npos; i += 2)
         text.insert(i, "\r");
     readEv2Text("\xEF\xBB\xBF" + text, evolution);

@@ -4,7 +4,10 @@
 #include "base/files/TextStream.h"
 #include "formats/Ev2Format.h"
 #include "formats/EvmFormat.h"
+#include "formats/EvolutionChecker.h"
 #include "formats/SemicolonReader.h"
+
+#include <gtest/gtest.h>
 
 namespace tarsil::test {
 
@@ -30,6 +33,20 @@ std::string ev2Row(std::size_t fields)
     for (std::size_t i = 2; i < fields; ++i)
         row += "|" + std::to_string(i);
     return row + "\n";
+}
+
+std::vector<std::string> findingsIn(const std::string& text, const std::string& name)
+{
+    std::vector<std::string> findings;
+    for (const Finding& finding : checkEvolutionText(text, name))
+        findings.push_back(std::to_string(finding.line) + ": " + finding.text);
+    return findings;
+}
+
+std::string with(std::string text, std::string_view old, std::string_view replacement)
+{
+    EXPECT_NE(text.find(old), std::string::npos);
+    return text.replace(text.find(old), old.size(), replacement);
 }
 
 void readEvmText(std::string_view text, EVM& evolution)

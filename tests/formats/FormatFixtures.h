@@ -6,6 +6,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tarsil::test {
 
@@ -17,6 +18,12 @@ std::string ev2Header(std::string_view modelLines);
 
 /// An .ev2 row with this number of fields: 1|1|2|3|...
 std::string ev2Row(std::size_t fields);
+
+/// "LINE: TEXT" of every finding about a file with this text and name.
+std::vector<std::string> findingsIn(const std::string& text, const std::string& name);
+
+/// The text with one part replaced, which must be there.
+std::string with(std::string text, std::string_view old, std::string_view replacement);
 
 /// Reads a text with one of the readers; its name in messages is "wing.evm" etc.
 void readEvmText(std::string_view text, EVM& evolution);

@@ -14,10 +14,9 @@ namespace tarsil {
 namespace {
 
 using test::fileBytes;
-using Texts = std::vector<std::string>;
 
 /// Appends a mode of one point to an evolution.
-const AeMode& addMode(EVM& evolution, std::int16_t id, float speed)
+const AeMode& addModeOfOnePoint(EVM& evolution, std::int16_t id, float speed)
 {
     AeMode& mode = evolution.appendMode();
     mode.Id = id;
@@ -33,7 +32,8 @@ class MixedExport : public ::testing::Test
 {
 protected:
     MixedExport()
-        : modes({&addMode(m_tail, 7, 200), &addMode(m_wing, 3, 100), &addMode(m_wing, 5, 300)})
+        : modes({&addModeOfOnePoint(m_tail, 7, 200), &addModeOfOnePoint(m_wing, 3, 100),
+                 &addModeOfOnePoint(m_wing, 5, 300)})
     { }
 
     /// Exports the modes to a file of this name and returns the file's bytes.
@@ -55,7 +55,8 @@ protected:
     std::vector<const AeMode*> modes; ///< of two evolutions
 };
 
-const Texts statusesOfExport = {"Exporting Mixed Modal Evolutions. Please Wait ...", "Ready"};
+const std::vector<std::string> statusesOfExport = {
+    "Exporting Mixed Modal Evolutions. Please Wait ...", "Ready"};
 
 // Three empty lines; one speed and three modes in columns 56-59 and 64-67 of 80; two points on a
 // line, each number (3), reduced frequency (7), speed (9), damping (12), frequency (9 columns);
@@ -120,7 +121,7 @@ TEST_F(MixedExport, reportsAFileThatCannotBeWritten)
 TEST_F(MixedExport, leavesTheOldFileWhenAModeDoesNotFitItsColumns)
 {
     EVM fast;
-    modes.push_back(&addMode(fast, 9, 123456));
+    modes.push_back(&addModeOfOnePoint(fast, 9, 123456));
     folder.write("all.mix", "old");
     EXPECT_EQ(exported("all.mix"), "old");
     ASSERT_EQ(user.messages.size(), 1U);
@@ -145,7 +146,7 @@ TEST_F(MixedExport, reportsAModeThatIsNone)
 TEST_F(MixedExport, gathersIndependentCopiesInTheirOrder)
 {
     EVM source;
-    const AeMode& first = addMode(source, 1, 100);
+    const AeMode& first = addModeOfOnePoint(source, 1, 100);
     AeMode& second = source.appendMode();
     second.Id = 5;
     second.Tag = "B1";

@@ -13,7 +13,7 @@ namespace {
 using test::errorOf;
 using test::readSemicolonText;
 
-constexpr std::string_view wholeFile = //
+constexpr std::string_view wholeSemicolonFile = //
     "Results of a run\n"
     "Struct. Modes:;;;12\n"
     "x Aeroel. Modes:;;;;2\n"
@@ -30,7 +30,7 @@ constexpr std::string_view wholeFile = //
 TEST(SemicolonReader, readsCountsAndRows)
 {
     EVM evolution;
-    readSemicolonText(wholeFile, evolution);
+    readSemicolonText(wholeSemicolonFile, evolution);
     EXPECT_EQ(evolution.numberOfStructuralModes, 12);
     EXPECT_EQ(evolution.na, 2);
     EXPECT_EQ(evolution.numberOfSpeeds, 2);
@@ -111,7 +111,7 @@ TEST(SemicolonReader, namesACountThatIsNone)
 TEST(SemicolonReader, readsAFileOfAnyName)
 {
     const test::TemporaryFolder folder;
-    folder.write("table.csv", wholeFile);
+    folder.write("table.csv", wholeSemicolonFile);
     EVM evolution;
     evolution.Folder = folder.path().string();
     evolution.FileName = "table.csv";

@@ -15,8 +15,6 @@ using ::testing::IsEmpty;
 
 namespace {
 
-using Rows = std::vector<RowId>;
-
 class CurveSelectionTest : public test::EvmPlotViewTest
 {
 protected:

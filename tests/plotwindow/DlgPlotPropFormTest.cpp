@@ -4,6 +4,7 @@
 
 #include "plotwindow/DlgPlotProp.h"
 
+#include "plotwindow/PlotPropInputs.h"
 #include "support/FormParts.h"
 #include "support/ScriptedUserInterface.h"
 
@@ -11,20 +12,14 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
 #include <vector>
 
 using namespace tarsil;
+using test::inputNames;
 using test::partOf;
+using test::TextsByName;
 
 namespace {
-
-using Texts = std::map<std::string, std::string>;
-
-/// In the order of the axes.
-const std::vector<std::string> inputNames = {"inpVmin", "inpVmax", "inpVnthicks", "inpVlabel",
-                                             "inpGmin", "inpGmax", "inpGnthicks", "inpGlabel",
-                                             "inpFmin", "inpFmax", "inpFnthicks", "inpFlabel"};
 
 class DlgPlotPropForm : public ::testing::Test
 {
@@ -43,10 +38,10 @@ TEST_F(DlgPlotPropForm, hasItsControlsUnderTheirNamesWithTheirCaptions)
     EXPECT_EQ(dialog.windowTitle().toStdString(), "Plot Properties");
     EXPECT_EQ(dialog.objectName().toStdString(), "dlgPlotProp");
     EXPECT_TRUE(dialog.isModal());
-    const Texts captions = {{"Label4", "Vel. Axis"},    {"Label1", "Damping Axis"},
-                            {"Label3", "Freq. Axis"},   {"Label6", "Min. Scale :"},
-                            {"Label5", "Max. Scale :"}, {"Label7", "N. of Thicks :"},
-                            {"Label2", "Label:"}};
+    const TextsByName captions = {{"Label4", "Vel. Axis"},    {"Label1", "Damping Axis"},
+                                  {"Label3", "Freq. Axis"},   {"Label6", "Min. Scale :"},
+                                  {"Label5", "Max. Scale :"}, {"Label7", "N. of Thicks :"},
+                                  {"Label2", "Label:"}};
     for (const auto& [name, caption] : captions)
         EXPECT_EQ(partOf<QLabel>(dialog, name).text().toStdString(), caption);
     EXPECT_EQ(partOf<QPushButton>(dialog, "OKButton").text().toStdString(), "OK");
@@ -55,7 +50,7 @@ TEST_F(DlgPlotPropForm, hasItsControlsUnderTheirNamesWithTheirCaptions)
 
 TEST_F(DlgPlotPropForm, givesAScreenReaderRowAndColumnOfEveryInput)
 {
-    const Texts names = {
+    const TextsByName names = {
         {"inpVmin", "Min. Scale Vel. Axis"},          {"inpVmax", "Max. Scale Vel. Axis"},
         {"inpVnthicks", "N. of Thicks Vel. Axis"},    {"inpVlabel", "Label Vel. Axis"},
         {"inpGmin", "Min. Scale Damping Axis"},       {"inpGmax", "Max. Scale Damping Axis"},
@@ -71,8 +66,8 @@ TEST_F(DlgPlotPropForm, hasItsInputsInItsLabelsRowsAndColumns)
     const auto place = [this](const std::string& name) {
         return partOf<QWidget>(dialog, name).geometry().center();
     };
-    const Texts columns = {{"V", "Label4"}, {"G", "Label1"}, {"F", "Label3"}};
-    const Texts rows = {
+    const TextsByName columns = {{"V", "Label4"}, {"G", "Label1"}, {"F", "Label3"}};
+    const TextsByName rows = {
         {"min", "Label6"}, {"max", "Label5"}, {"nthicks", "Label7"}, {"label", "Label2"}};
     for (const auto& [axis, columnLabel] : columns) {
         for (const auto& [quantity, rowLabel] : rows) {
@@ -97,9 +92,10 @@ TEST_F(DlgPlotPropForm, goesFromInputToInputDownEachAxis)
 
 TEST_F(DlgPlotPropForm, namesTheFirstInputOfARowOrColumnAsItsLabelsBuddy)
 {
-    const Texts buddies = {{"Label4", "inpVmin"},  {"Label1", "inpGmin"}, {"Label3", "inpFmin"},
-                           {"Label6", "inpVmin"},  {"Label5", "inpVmax"}, {"Label7", "inpVnthicks"},
-                           {"Label2", "inpVlabel"}};
+    const TextsByName buddies = {{"Label4", "inpVmin"},  {"Label1", "inpGmin"},
+                                 {"Label3", "inpFmin"},  {"Label6", "inpVmin"},
+                                 {"Label5", "inpVmax"},  {"Label7", "inpVnthicks"},
+                                 {"Label2", "inpVlabel"}};
     for (const auto& [label, input] : buddies)
         EXPECT_EQ(partOf<QLabel>(dialog, label).buddy(), &partOf<QWidget>(dialog, input)) << label;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "plotwindow/EvmPlotView.h"
+#include "vgfplot/PlotRows.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -21,6 +22,8 @@ namespace tarsil::test {
 class EvmPlotViewTest : public ::testing::Test
 {
 protected:
+    using Rows = std::vector<RowId>;
+
     EvmPlotViewTest() : view(plot)
     {
         view.resize(800, 600);

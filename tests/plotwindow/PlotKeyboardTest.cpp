@@ -22,8 +22,6 @@ using ::testing::IsEmpty;
 
 namespace {
 
-using Rows = std::vector<RowId>;
-
 class PlotKeyboard : public test::EvmPlotViewTest
 {
 protected:

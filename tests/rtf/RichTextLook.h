@@ -3,6 +3,7 @@
 
 #include "base/text/TextCodec.h"
 #include "rtf/RichText.h"
+#include "rtf/RtfReader.h"
 
 #include <gtest/gtest.h>
 
@@ -20,6 +21,12 @@ inline std::string charactersOf(const RichText& text)
     for (const TextRun& run : text.runs)
         units += run.text;
     return utf8FromUtf16(units);
+}
+
+/// All characters of an RTF source as UTF-8.
+inline std::string shown(std::string_view source)
+{
+    return charactersOf(readRtf(source, {}));
 }
 
 /// A format as words, e.g. "Arial 8.5 bold #ff0000"; points with at most one decimal.

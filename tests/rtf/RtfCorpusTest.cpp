@@ -33,7 +33,7 @@ using Characters = std::vector<std::pair<char16_t, TextFormat>>;
 
 /// The characters with their formats. A line break gets the format of the character before it, or
 /// at the start of the one after it: writers differ here, and the difference is invisible.
-Characters charactersOf(const RichText& text)
+Characters formattedCharacters(const RichText& text)
 {
     Characters characters;
     for (const TextRun& run : text.runs) {
@@ -67,7 +67,7 @@ TextFormat formatOf(const QJsonObject& object)
     return format;
 }
 
-RichText textOf(const QJsonArray& runs)
+RichText textOfJson(const QJsonArray& runs)
 {
     RichText text;
     for (const QJsonValue& value : runs) {
@@ -87,9 +87,9 @@ void expectAsDescribed(const std::filesystem::path& path, bool isStoredValue)
     const TextFormat fallback = formatOf(description["default"_L1].toObject());
     const std::string bytes = test::fileBytes(path);
     const RichText text = readRtf(isStoredValue ? rtfFromStoredValue(bytes) : bytes, fallback);
-    const RichText expected = textOf(description["runs"_L1].toArray());
+    const RichText expected = textOfJson(description["runs"_L1].toArray());
     EXPECT_EQ(test::charactersOf(text), description["text"_L1].toString().toStdString());
-    EXPECT_TRUE(charactersOf(text) == charactersOf(expected))
+    EXPECT_TRUE(formattedCharacters(text) == formattedCharacters(expected))
         << ::testing::PrintToString(test::looksOf(text)) << "\ninstead of\n"
         << ::testing::PrintToString(test::looksOf(expected));
 }

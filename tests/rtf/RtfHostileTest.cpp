@@ -16,6 +16,7 @@
 using namespace tarsil;
 using namespace std::string_literals;
 using test::charactersOf;
+using test::shown;
 
 namespace {
 
@@ -30,14 +31,9 @@ std::string repeated(std::string_view part, int count)
     return text;
 }
 
-RichText read(const std::string& source)
+RichText parsed(const std::string& source)
 {
     return readRtf(source, {});
-}
-
-std::string shown(const std::string& source)
-{
-    return charactersOf(read(source));
 }
 
 } // namespace
@@ -53,7 +49,7 @@ TEST(RtfHostile, returnsFromGroupsWithoutEnd)
 TEST(RtfHostile, restoresTheFormatAfterGroupsThatAreTooDeep)
 {
     const RichText text =
-        read("{\\rtf1 a" + repeated("{\\b ", 20'000) + "b" + repeated("}", 20'000) + "c}");
+        parsed("{\\rtf1 a" + repeated("{\\b ", 20'000) + "b" + repeated("}", 20'000) + "c}");
     ASSERT_EQ(text.runs.size(), 3U);
     EXPECT_TRUE(text.runs[1].format.bold);
     EXPECT_FALSE(text.runs[2].format.bold);
@@ -77,7 +73,8 @@ TEST(RtfHostile, returnsFromAMillionOfEverything)
 {
     EXPECT_EQ(shown("{\\rtf1 " + repeated("\\'e9\\b", million) + "\\b0 x}").size(),
               2U * million + 1U);
-    EXPECT_EQ(read("{\\rtf1 " + repeated("\\b x\\b0 y", million) + "}").runs.size(), 2U * million);
+    EXPECT_EQ(parsed("{\\rtf1 " + repeated("\\b x\\b0 y", million) + "}").runs.size(),
+              2U * million);
     EXPECT_EQ(shown("{\\rtf1 " + repeated("{\\*\\x y}", million) + "z}"), "z");
     EXPECT_EQ(shown("{\\rtf1 " + repeated("\\u-10187?", million) + "}").size(), 3U * million);
     EXPECT_EQ(shown("{\\rtf1 " + repeated("\\par", million) + "}").size(), million - 1U);
@@ -94,7 +91,7 @@ TEST(RtfHostile, returnsFromATableOfTwoHundredThousandFonts)
             + std::to_string(i) + ";}";
         text += "\\f" + std::to_string(i) + "\\'e9";
     }
-    const RichText rich = read("{\\rtf1{\\fonttbl" + table + "}" + text + "}");
+    const RichText rich = parsed("{\\rtf1{\\fonttbl" + table + "}" + text + "}");
     ASSERT_EQ(rich.runs.size(), 200'000U);
     EXPECT_EQ(rich.runs.back().format.family, "F199999");
     EXPECT_EQ(readRtf(writeRtf(rich), {}).runs.size(), 200'000U);
@@ -102,8 +99,8 @@ TEST(RtfHostile, returnsFromATableOfTwoHundredThousandFonts)
 
 TEST(RtfHostile, carriesNoLongFontNameIntoEveryRun)
 {
-    const RichText text = read("{\\rtf1{\\fonttbl{\\f0 " + repeated("x", million) + ";}}\\f0 "
-                               + repeated("\\b y\\b0 z", 100'000) + "}");
+    const RichText text = parsed("{\\rtf1{\\fonttbl{\\f0 " + repeated("x", million) + ";}}\\f0 "
+                                 + repeated("\\b y\\b0 z", 100'000) + "}");
     ASSERT_EQ(text.runs.size(), 200'000U);
     EXPECT_EQ(text.runs.back().format.family.size(), 64U);
 }
@@ -124,5 +121,5 @@ TEST(RtfHostile, returnsFromBytesWithoutAnyMeaning)
     for (unsigned i = 0; i < million; ++i)
         noise += static_cast<char>((i * 167U + i / 256U) & 0xFFU);
     for (const char* const head : {"{", "{\\rtf1{\\fonttbl", "{\\rtf1{\\colortbl", "{\\urtf1 "})
-        EXPECT_LE(charactersOf(read(head + noise)).size(), 3 * noise.size()) << head;
+        EXPECT_LE(charactersOf(parsed(head + noise)).size(), 3 * noise.size()) << head;
 }

@@ -14,7 +14,7 @@ using test::charactersOf;
 
 namespace {
 
-std::u16string shown(std::string_view source)
+std::u16string shownUtf16(std::string_view source)
 {
     return utf16FromUtf8(charactersOf(readRtf(source, {})));
 }
@@ -22,8 +22,8 @@ std::u16string shown(std::string_view source)
 /// The text of a byte in a font with this character set.
 std::u16string inCharset(int charset, std::string_view text)
 {
-    return shown(R"({\rtf1{\fonttbl{\f0\fcharset)" + std::to_string(charset) + R"( A;}}\f0 )"
-                 + std::string(text) + "}");
+    return shownUtf16(R"({\rtf1{\fonttbl{\f0\fcharset)" + std::to_string(charset) + R"( A;}}\f0 )"
+                      + std::string(text) + "}");
 }
 
 } // namespace
@@ -60,26 +60,26 @@ TEST(RtfReaderCharacters, keepsTheBytesOfASymbolFontInThePrivateUseArea)
 
 TEST(RtfReaderCharacters, usesTheDocumentsCodePageForAFontThatNamesNone)
 {
-    EXPECT_EQ(shown(R"({\rtf1\ansicpg1251{\fonttbl{\f0 A;}}\f0\'cf\'f0})"), u"\u041F\u0440");
-    EXPECT_EQ(shown(R"({\rtf1\ansicpg1251{\fonttbl{\f0\fcharset1 A;}}\f0\'cf})"), u"\u041F");
-    EXPECT_EQ(shown(R"({\rtf1\ansicpg1251{\fonttbl{\f0\fcharset0 A;}}\f0\'cf})"), u"\u00CF");
-    EXPECT_EQ(shown(R"({\rtf1\ansicpg1251\'cf})"), u"\u041F");
-    EXPECT_EQ(shown(R"({\rtf1\ansicpg1\'cf})"), u"\u00CF");
-    EXPECT_EQ(shown(R"({\rtf1\mac\'8e\'a5})"), u"\u00E9\u2022");
-    EXPECT_EQ(shown(R"({\rtf1\pc\'82\'e1})"), u"\u00E9\u00DF");
-    EXPECT_EQ(shown(R"({\rtf1\pca\'b5})"), u"\u00C1");
-    EXPECT_EQ(shown("{\\urtf1\\ansi \xCE\xA9\\'c3\\'a9}"), u"\u03A9\u00E9");
+    EXPECT_EQ(shownUtf16(R"({\rtf1\ansicpg1251{\fonttbl{\f0 A;}}\f0\'cf\'f0})"), u"\u041F\u0440");
+    EXPECT_EQ(shownUtf16(R"({\rtf1\ansicpg1251{\fonttbl{\f0\fcharset1 A;}}\f0\'cf})"), u"\u041F");
+    EXPECT_EQ(shownUtf16(R"({\rtf1\ansicpg1251{\fonttbl{\f0\fcharset0 A;}}\f0\'cf})"), u"\u00CF");
+    EXPECT_EQ(shownUtf16(R"({\rtf1\ansicpg1251\'cf})"), u"\u041F");
+    EXPECT_EQ(shownUtf16(R"({\rtf1\ansicpg1\'cf})"), u"\u00CF");
+    EXPECT_EQ(shownUtf16(R"({\rtf1\mac\'8e\'a5})"), u"\u00E9\u2022");
+    EXPECT_EQ(shownUtf16(R"({\rtf1\pc\'82\'e1})"), u"\u00E9\u00DF");
+    EXPECT_EQ(shownUtf16(R"({\rtf1\pca\'b5})"), u"\u00C1");
+    EXPECT_EQ(shownUtf16("{\\urtf1\\ansi \xCE\xA9\\'c3\\'a9}"), u"\u03A9\u00E9");
 }
 
 TEST(RtfReaderCharacters, usesThePageOfTheDefaultFont)
 {
-    EXPECT_EQ(shown(R"({\rtf1\deff1{\fonttbl{\f0 A;}{\f1\fcharset238 B;}}\'e8\plain\'e8})"),
+    EXPECT_EQ(shownUtf16(R"({\rtf1\deff1{\fonttbl{\f0 A;}{\f1\fcharset238 B;}}\'e8\plain\'e8})"),
               u"\u010D\u010D");
 }
 
 TEST(RtfReaderCharacters, readsRawBytesLikeWrittenOnes)
 {
-    EXPECT_EQ(shown("{\\rtf1 caf\xE9 \x96}"), u"caf\u00E9 \u2013");
+    EXPECT_EQ(shownUtf16("{\\rtf1 caf\xE9 \x96}"), u"caf\u00E9 \u2013");
 }
 
 TEST(RtfReaderCharacters, joinsTheTwoBytesOfACharacter)
@@ -99,15 +99,15 @@ TEST(RtfReaderCharacters, joinsNoBytesAcrossAWordOrABrace)
 
 TEST(RtfReaderCharacters, changesThePageWithTheFont)
 {
-    EXPECT_EQ(shown(R"({\rtf1{\fonttbl{\f0\fcharset0 A;}{\f1\fcharset204 B;}})"
-                    R"(\f0\'e0{\f1\'e0}\'e0\f1\'e0})"),
+    EXPECT_EQ(shownUtf16(R"({\rtf1{\fonttbl{\f0\fcharset0 A;}{\f1\fcharset204 B;}})"
+                         R"(\f0\'e0{\f1\'e0}\'e0\f1\'e0})"),
               u"\u00E0\u0430\u00E0\u0430");
 }
 
 TEST(RtfReaderCharacters, keepsControlCharactersButNoNul)
 {
-    EXPECT_EQ(shown("{\\rtf1 \x01\x1F\x0B"
-                    "A\\'00\\'07}"),
+    EXPECT_EQ(shownUtf16("{\\rtf1 \x01\x1F\x0B"
+                         "A\\'00\\'07}"),
               u"\x01\x1F\x0B"
               u"A\x07");
 }
@@ -116,14 +116,15 @@ TEST(RtfReaderCharacters, keepsControlCharactersButNoNul)
 
 TEST(RtfReaderCharacters, readsNumberedCharacters)
 {
-    EXPECT_EQ(shown(R"({\rtf1 \u8211?\u937?\u-3913?x\u9731 ?.})"), u"\u2013\u03A9\uF0B7x\u2603.");
-    EXPECT_EQ(shown(R"({\rtf1 \u0?\u32?\u99999999?\u-70000?\u?x})"), u" x");
-    EXPECT_EQ(shown(R"({\rtf1 \u120120?x})"), u"\U0001D538x");
+    EXPECT_EQ(shownUtf16(R"({\rtf1 \u8211?\u937?\u-3913?x\u9731 ?.})"),
+              u"\u2013\u03A9\uF0B7x\u2603.");
+    EXPECT_EQ(shownUtf16(R"({\rtf1 \u0?\u32?\u99999999?\u-70000?\u?x})"), u" x");
+    EXPECT_EQ(shownUtf16(R"({\rtf1 \u120120?x})"), u"\U0001D538x");
 }
 
 TEST(RtfReaderCharacters, joinsTheHalvesOfACharacter)
 {
-    EXPECT_EQ(shown(R"({\rtf1 \u-10187?\u-8904?\u55349?\u56632?})"), u"\U0001D538\U0001D538");
+    EXPECT_EQ(shownUtf16(R"({\rtf1 \u-10187?\u-8904?\u55349?\u56632?})"), u"\U0001D538\U0001D538");
     const RichText text = readRtf(R"({\rtf1\u-10187?\b\u-8904?})", {});
     ASSERT_EQ(text.runs.size(), 1U);
     EXPECT_EQ(text.runs.front().text, u"\U0001D538");
@@ -137,45 +138,45 @@ TEST(RtfReaderCharacters, replacesHalfACharacter)
 
 TEST(RtfReaderCharacters, skipsAsManyItemsAsStandForACharacter)
 {
-    EXPECT_EQ(shown(R"({\rtf1 M\u228\'e4t\uc2\u26085\'93\'fax\uc0\u8211-})"),
+    EXPECT_EQ(shownUtf16(R"({\rtf1 M\u228\'e4t\uc2\u26085\'93\'fax\uc0\u8211-})"),
               u"M\u00E4t\u65E5x\u2013-");
-    EXPECT_EQ(shown(R"({\rtf1 \uc3\u8211\{a\~b})"), u"\u2013b");
-    EXPECT_EQ(shown(R"({\rtf1 {\uc2\u8211 ab}\u8211 ab})"), u"\u2013\u2013b");
+    EXPECT_EQ(shownUtf16(R"({\rtf1 \uc3\u8211\{a\~b})"), u"\u2013b");
+    EXPECT_EQ(shownUtf16(R"({\rtf1 {\uc2\u8211 ab}\u8211 ab})"), u"\u2013\u2013b");
 }
 
 TEST(RtfReaderCharacters, skipsNoBraceAndNoWord)
 {
-    EXPECT_EQ(shown(R"({\rtf1{\u8211}x{\uc3\u8211 a}b})"), u"\u2013x\u2013b");
-    EXPECT_EQ(shown(R"({\rtf1 a\u8211\par b\u8211\b c})"), u"a\u2013\nb\u2013c");
+    EXPECT_EQ(shownUtf16(R"({\rtf1{\u8211}x{\uc3\u8211 a}b})"), u"\u2013x\u2013b");
+    EXPECT_EQ(shownUtf16(R"({\rtf1 a\u8211\par b\u8211\b c})"), u"a\u2013\nb\u2013c");
 }
 
 TEST(RtfReaderCharacters, endsALineForEveryCharacterThatEndsOne)
 {
-    EXPECT_EQ(shown(R"({\rtf1 a\u10?b\u13?c\u8232?d\u8233?e\'0af})"), u"a\nb\nc\nd\ne\nf");
+    EXPECT_EQ(shownUtf16(R"({\rtf1 a\u10?b\u13?c\u8232?d\u8233?e\'0af})"), u"a\nb\nc\nd\ne\nf");
 }
 
 // Words and symbols.
 
 TEST(RtfReaderCharacters, knowsTheWordsThatBreakALine)
 {
-    EXPECT_EQ(shown("{\\rtf1 a\\par b\\line c\\page d\\sect e\\row f\\\r\ng\\\nh}"),
+    EXPECT_EQ(shownUtf16("{\\rtf1 a\\par b\\line c\\page d\\sect e\\row f\\\r\ng\\\nh}"),
               u"a\nb\nc\nd\ne\nf\ng\nh");
 }
 
 TEST(RtfReaderCharacters, knowsTheWordsForTabs)
 {
-    EXPECT_EQ(shown("{\\rtf1 a\\tab b\\cell c\\\td}"), u"a\tb\tc\td");
+    EXPECT_EQ(shownUtf16("{\\rtf1 a\\tab b\\cell c\\\td}"), u"a\tb\tc\td");
 }
 
 TEST(RtfReaderCharacters, knowsTheWordsThatStandForCharacters)
 {
     EXPECT_EQ(
-        shown(R"({\rtf1\emdash\endash\bullet\lquote\rquote\ldblquote\rdblquote)"
-              R"(\emspace\enspace\qmspace\zwj\zwnj\ltrmark\rtlmark})"),
+        shownUtf16(R"({\rtf1\emdash\endash\bullet\lquote\rquote\ldblquote\rdblquote)"
+                   R"(\emspace\enspace\qmspace\zwj\zwnj\ltrmark\rtlmark})"),
         u"\u2014\u2013\u2022\u2018\u2019\u201C\u201D\u2003\u2002\u2005\u200D\u200C\u200E\u200F");
 }
 
 TEST(RtfReaderCharacters, knowsTheSymbols)
 {
-    EXPECT_EQ(shown(R"({\rtf1 a\~b\_c\-d\|e\:f\\\{\}})"), u"a\u00A0b\u2011cdef\\{}");
+    EXPECT_EQ(shownUtf16(R"({\rtf1 a\~b\_c\-d\|e\:f\\\{\}})"), u"a\u00A0b\u2011cdef\\{}");
 }

@@ -15,6 +15,7 @@ using namespace std::string_literals;
 using test::charactersOf;
 using test::lookOf;
 using test::looksOf;
+using test::shown;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
@@ -28,13 +29,8 @@ RichText read(std::string_view source)
     return readRtf(source, box);
 }
 
-std::string shown(std::string_view source)
-{
-    return charactersOf(read(source));
-}
-
 /// The runs of a text in a document with two fonts and the colours red and blue.
-std::vector<std::string> looks(std::string_view text)
+std::vector<std::string> looksInDocument(std::string_view text)
 {
     const std::string head = R"({\rtf1\ansi\deff0{\fonttbl{\f0 Arial;}{\f1 Courier;}})"
                              R"({\colortbl ;\red255\green0\blue0;\blue255;}\fs20 )";
@@ -113,7 +109,7 @@ TEST(RtfReader, leavesOutAByteThatIsNotWrittenInHexadecimalDigits)
 TEST(RtfReader, limitsNumbersThatAreTooLarge)
 {
     EXPECT_EQ(shown(R"({\rtf1 a\li99999999999999999999 b\u99999999999?c})"), "abc");
-    EXPECT_THAT(looks(R"(\fs99999999999999999999 a)"), ElementsAre("Arial 1638: a"));
+    EXPECT_THAT(looksInDocument(R"(\fs99999999999999999999 a)"), ElementsAre("Arial 1638: a"));
 }
 
 TEST(RtfReader, keepsWhatWasWholeWhereASourceEnds)
@@ -128,7 +124,7 @@ TEST(RtfReader, keepsWhatWasWholeWhereASourceEnds)
 
 TEST(RtfReader, restoresTheFormatAtTheEndOfAGroup)
 {
-    EXPECT_THAT(looks(R"(a{\b\f1 b{\i\cf1\fs30 c}d}e)"),
+    EXPECT_THAT(looksInDocument(R"(a{\b\f1 b{\i\cf1\fs30 c}d}e)"),
                 ElementsAre("Arial 10: a", "Courier 10 bold: b",
                             "Courier 15 bold italic #ff0000: c", "Courier 10 bold: d",
                             "Arial 10: e"));
@@ -136,14 +132,15 @@ TEST(RtfReader, restoresTheFormatAtTheEndOfAGroup)
 
 TEST(RtfReader, turnsSwitchesOffWithNought)
 {
-    EXPECT_THAT(looks(R"(\b a\b0\i1 b\i0\strike c\strike0\striked1 d\striked0\ul e\ul0 f)"),
-                ElementsAre("Arial 10 bold: a", "Arial 10 italic: b", "Arial 10 strike: cd",
-                            "Arial 10 underline: e", "Arial 10: f"));
+    EXPECT_THAT(
+        looksInDocument(R"(\b a\b0\i1 b\i0\strike c\strike0\striked1 d\striked0\ul e\ul0 f)"),
+        ElementsAre("Arial 10 bold: a", "Arial 10 italic: b", "Arial 10 strike: cd",
+                    "Arial 10 underline: e", "Arial 10: f"));
 }
 
 TEST(RtfReader, underlinesForEveryKindOfLineButNotForItsColour)
 {
-    EXPECT_THAT(looks(R"(\uldb a\ulnone b\ulwave c\ulw d\ulnone\ulc1 e\ul\ulc0 f)"),
+    EXPECT_THAT(looksInDocument(R"(\uldb a\ulnone b\ulwave c\ulw d\ulnone\ulc1 e\ul\ulc0 f)"),
                 ElementsAre("Arial 10 underline: a", "Arial 10: b", "Arial 10 underline: cd",
                             "Arial 10: e", "Arial 10 underline: f"));
 }
@@ -151,7 +148,7 @@ TEST(RtfReader, underlinesForEveryKindOfLineButNotForItsColour)
 TEST(RtfReader, readsSizesInHalfPoints)
 {
     // A missing, zero or negative size changes nothing; 1638 points are the maximum.
-    EXPECT_THAT(looks(R"(\fs17 a\fs0 b\fs-4 c\fs d\fs23 e\fs4000 f)"),
+    EXPECT_THAT(looksInDocument(R"(\fs17 a\fs0 b\fs-4 c\fs d\fs23 e\fs4000 f)"),
                 ElementsAre("Arial 8.5: abcd", "Arial 11.5: e", "Arial 1638: f"));
 }
 
@@ -164,25 +161,25 @@ TEST(RtfReader, usesSizeAndFontOfTheBoxWhereNoneAreNamed)
 
 TEST(RtfReader, clearsEverythingWithPlainButNothingWithPard)
 {
-    EXPECT_THAT(looks(R"(\b\i\ul\strike\cf1\f1\fs40\pard a\plain b)"),
+    EXPECT_THAT(looksInDocument(R"(\b\i\ul\strike\cf1\f1\fs40\pard a\plain b)"),
                 ElementsAre("Courier 20 bold italic underline strike #ff0000: a", "Arial 12: b"));
 }
 
 TEST(RtfReader, ignoresTheNumberOfAnUnknownFont)
 {
-    EXPECT_THAT(looks(R"(\f1 a\f9 b\f c\f-1 d)"), ElementsAre("Courier 10: abcd"));
+    EXPECT_THAT(looksInDocument(R"(\f1 a\f9 b\f c\f-1 d)"), ElementsAre("Courier 10: abcd"));
 }
 
 TEST(RtfReader, ignoresWordsThatChangeNoTextHere)
 {
-    EXPECT_THAT(
-        looks(R"(a\super b\nosupersub\up6 c\up0\v d\v0\caps e\highlight1 f\li20\qc\foo7 g)"),
-        ElementsAre("Arial 10: abcdefg"));
+    EXPECT_THAT(looksInDocument(
+                    R"(a\super b\nosupersub\up6 c\up0\v d\v0\caps e\highlight1 f\li20\qc\foo7 g)"),
+                ElementsAre("Arial 10: abcdefg"));
 }
 
 TEST(RtfReader, joinsNeighboursThatLookTheSame)
 {
-    EXPECT_THAT(looks(R"(a{b}\cf0 c\f0\fs20 d\b\b0 e)"), ElementsAre("Arial 10: abcde"));
+    EXPECT_THAT(looksInDocument(R"(a{b}\cf0 c\f0\fs20 d\b\b0 e)"), ElementsAre("Arial 10: abcde"));
 }
 
 // Destinations.

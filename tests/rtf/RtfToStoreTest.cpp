@@ -19,7 +19,7 @@ RichText lineOf(std::size_t length)
     return text;
 }
 
-std::size_t storedSize(const std::string& rtf)
+std::size_t storedSizeOfRtf(const std::string& rtf)
 {
     return storedValueFromRtf(rtf).size();
 }
@@ -36,15 +36,15 @@ TEST(RtfToStore, comesBackFromItsValue)
 
 TEST(RtfToStore, storesTheFullFormAsLongAsItFits)
 {
-    const std::size_t rest = mostStoredBytes - storedSize(writeRtf(lineOf(1)));
+    const std::size_t rest = mostStoredBytes - storedSizeOfRtf(writeRtf(lineOf(1)));
     const RichText longest = lineOf(1 + rest);
-    EXPECT_EQ(storedSize(rtfToStore(longest)), mostStoredBytes);
+    EXPECT_EQ(storedSizeOfRtf(rtfToStore(longest)), mostStoredBytes);
     EXPECT_EQ(rtfToStore(longest), writeRtf(longest, RtfForm::Full));
 
     const RichText longer = lineOf(2 + rest);
     EXPECT_EQ(rtfToStore(longer), writeRtf(longer, RtfForm::Short));
     // One character more, but 14 bytes less for \viewkind4\uc1 and 5 less for \fnil.
-    EXPECT_EQ(storedSize(rtfToStore(longer)), mostStoredBytes + 1 - 19);
+    EXPECT_EQ(storedSizeOfRtf(rtfToStore(longer)), mostStoredBytes + 1 - 19);
 }
 
 TEST(RtfToStore, storesTheShortFormWhereEvenThatIsTooLong)

@@ -42,7 +42,7 @@ ImportedPoint anyPoint(std::mt19937& random)
     return point;
 }
 
-void expectPoint(const Point& read, const ImportedPoint& written)
+void expectSamePoint(const Point& read, const ImportedPoint& written)
 {
     EXPECT_EQ(double {read.im}, written.im);
     EXPECT_EQ(double {read.re}, written.re);
@@ -90,7 +90,7 @@ TEST(Ev2Text, readsBackEqualForEverySingle)
         EXPECT_EQ(evolution.Modes[m]->Id, modes[m].id);
         ASSERT_EQ(evolution.Modes[m]->Points.size(), modes[m].points.size());
         for (std::size_t i = 0; i < modes[m].points.size(); ++i)
-            expectPoint(evolution.Modes[m]->Points[i], modes[m].points[i]);
+            expectSamePoint(evolution.Modes[m]->Points[i], modes[m].points[i]);
     }
 }
 

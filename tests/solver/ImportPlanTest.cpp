@@ -25,8 +25,6 @@ using ::testing::IsEmpty;
 
 namespace {
 
-const std::vector<std::string> twoRows = {row("1.0E+02"), row("2.0E+02")};
-
 /// Two analyses of one root each, subcases 1 and 2.
 std::string twoAnalyses()
 {

@@ -60,6 +60,9 @@ inline std::string row(const std::string& speed, const std::string& damping = "-
         + frequency + "    -1.5000000E-01     3.1415927E+01";
 }
 
+/// Rows of 100 and 200, in the unit of speed of the page.
+inline const std::vector<std::string> twoRows = {row("1.0E+02"), row("2.0E+02")};
+
 /// Reads a text in memory.
 inline solver::SummaryFile readSummariesOfText(std::string_view text)
 {

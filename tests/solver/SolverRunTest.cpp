@@ -50,8 +50,6 @@ UnitChoice unitsNamed(std::string_view speed, std::string_view density)
     return units;
 }
 
-const std::vector<std::string> twoRows = {row("1.0E+02"), row("2.0E+02")};
-
 } // namespace
 
 TEST(SolverRuns, areGroupsOfOneSubcaseMethodMachAndDensity)

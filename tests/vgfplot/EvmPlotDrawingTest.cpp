@@ -41,7 +41,7 @@ protected:
     EvmPlot plot;
 };
 
-std::string textOf(QPoint point)
+std::string positionText(QPoint point)
 {
     return std::to_string(point.x()) + "," + std::to_string(point.y());
 }
@@ -72,7 +72,7 @@ TEST_F(EvmPlotDrawing, isWhiteWhereNothingIs)
 {
     plot.plot();
     for (const QPoint empty : {QPoint(0, 0), QPoint(799, 599), QPoint(400, 270), QPoint(400, 580)})
-        EXPECT_EQ(pixel(empty.x(), empty.y()), white) << textOf(empty);
+        EXPECT_EQ(pixel(empty.x(), empty.y()), white) << positionText(empty);
 }
 
 TEST_F(EvmPlotDrawing, showsTheAxes)
@@ -293,7 +293,7 @@ TEST_F(EvmPlotDrawing, drawsAWhiteGroundAndThenItsPartsInOrder)
              &plot.parts().freqAxislabel, &plot.parts().gAxis, &plot.parts().gAxisLabel,
              &plot.parts().box(TextBox::Header), &plot.parts().box(TextBox::Legend),
              &plot.parts().box(TextBox::Mechanism), &plot.parts().vfPlot, &plot.parts().vgPlot})
-        expected.push_back(textOf(part->geometry().topLeft()));
+        expected.push_back(positionText(part->geometry().topLeft()));
     EXPECT_EQ(originsOf(context), expected);
     EXPECT_EQ(context.calls().back(), "origin 0,0");
 }

@@ -4,27 +4,11 @@
 
 #include "vgfplot/EvmPlot.h"
 #include "model/EVM.h"
+#include "vgfplot/AllProperties.h"
 
 #include <gtest/gtest.h>
 
 using namespace tarsil;
-
-namespace {
-
-/// Sets every property to a value other than its default.
-void setAllProperties(EvmPlot& plot)
-{
-    plot.properties().setCaption(QStringLiteral("Wing"));
-    plot.properties().setModeColor(3);
-    plot.properties().setVthicks(8);
-    plot.properties().setGthicks(9);
-    plot.properties().setFthicks(10);
-    plot.properties().setVLabel(QStringLiteral("speed"));
-    plot.properties().setGLabel(QStringLiteral("damping"));
-    plot.properties().setFLabel(QStringLiteral("frequency"));
-}
-
-} // namespace
 
 TEST(EvmPlot, beginsWithAScaleForStableModesBelowTheSpeedAxis)
 {
@@ -108,7 +92,7 @@ TEST(EvmPlot, setsTheScaleOfBothCanvasesWithTheAxes)
 TEST(EvmPlot, clonesPropertiesScaleAndTextBoxes)
 {
     EvmPlot source;
-    setAllProperties(source);
+    test::setAllProperties(source);
     source.SetScale(1, 2, 3, 4, 5, 6);
     source.texts().setText(TextBox::Header, QStringLiteral("header"));
     source.texts().setText(TextBox::Legend, QStringLiteral("legend"));

@@ -126,7 +126,7 @@ private:
     std::mt19937 m_random {20240229};
 };
 
-std::string textOf(QSize size, const PlotAxes& axes)
+std::string plotText(QSize size, const PlotAxes& axes)
 {
     std::string text = std::to_string(size.width()) + " x " + std::to_string(size.height()) + ", ";
     for (const float bound : axes.bounds())
@@ -136,7 +136,7 @@ std::string textOf(QSize size, const PlotAxes& axes)
     return text;
 }
 
-PlotAxes axesOf(const PlotBounds& bounds, const PlotTicks& ticks)
+PlotAxes axesWith(const PlotBounds& bounds, const PlotTicks& ticks)
 {
     PlotAxes axes;
     axes.setBounds(bounds);
@@ -146,7 +146,7 @@ PlotAxes axesOf(const PlotBounds& bounds, const PlotTicks& ticks)
 
 void expectAgreement(QSize size, const PlotAxes& axes)
 {
-    SCOPED_TRACE(textOf(size, axes));
+    SCOPED_TRACE(plotText(size, axes));
     Ticks(size, axes).expectAgreement();
 }
 
@@ -162,21 +162,21 @@ TEST(EvmPlotTicks, agreeWithTheCurvesForRoundBounds)
 {
     RandomPlots random;
     for (int i = 0; i < 400 && !::testing::Test::HasFailure(); ++i)
-        expectAgreement(random.size(), axesOf(random.roundBounds(), random.counts()));
+        expectAgreement(random.size(), axesWith(random.roundBounds(), random.counts()));
 }
 
 TEST(EvmPlotTicks, agreeWithTheCurvesForAnyBounds)
 {
     RandomPlots random;
     for (int i = 0; i < 400 && !::testing::Test::HasFailure(); ++i)
-        expectAgreement(random.size(), axesOf(random.anyBounds(), random.counts()));
+        expectAgreement(random.size(), axesWith(random.anyBounds(), random.counts()));
 }
 
 TEST(EvmPlotTicks, haveTheLowestDampingOnTheSpeedAxisInEverySize)
 {
     RandomPlots random;
     for (int i = 0; i < 100; ++i) {
-        const Ticks ticks(random.size(), axesOf({0, 700, 0, 50, 0.05F, -0.25F}, {7, 5, 5}));
+        const Ticks ticks(random.size(), axesWith({0, 700, 0, 50, 0.05F, -0.25F}, {7, 5, 5}));
         ASSERT_EQ(ticks.rowOfDamping(0.05F), ticks.speedAxisRow());
     }
 }

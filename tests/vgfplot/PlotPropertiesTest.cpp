@@ -2,6 +2,7 @@
 
 // The persistent properties of a V-g-f plot.
 
+#include "vgfplot/AllProperties.h"
 #include "vgfplot/EvmPlot.h"
 
 #include <gtest/gtest.h>
@@ -14,19 +15,6 @@ const QStringList propertyKeys = {QStringLiteral("Caption"), QStringLiteral("Mod
                                   QStringLiteral("vThicks"), QStringLiteral("gThicks"),
                                   QStringLiteral("fThicks"), QStringLiteral("vLabel"),
                                   QStringLiteral("gLabel"),  QStringLiteral("fLabel")};
-
-/// Sets every property to a value other than its default.
-void setAllProperties(EvmPlot& plot)
-{
-    plot.properties().setCaption(QStringLiteral("Wing"));
-    plot.properties().setModeColor(3);
-    plot.properties().setVthicks(8);
-    plot.properties().setGthicks(9);
-    plot.properties().setFthicks(10);
-    plot.properties().setVLabel(QStringLiteral("speed"));
-    plot.properties().setGLabel(QStringLiteral("damping"));
-    plot.properties().setFLabel(QStringLiteral("frequency"));
-}
 
 PropertyBag defaultProperties()
 {
@@ -69,7 +57,7 @@ TEST(PlotProperties, showTheirDefaultsOnTheParts)
 TEST(PlotProperties, areForwardedToThePartsThatShowThem)
 {
     EvmPlot plot;
-    setAllProperties(plot);
+    test::setAllProperties(plot);
     EXPECT_EQ(plot.parts().velAxis.nThick(), 8);
     EXPECT_EQ(plot.parts().gAxis.nThick(), 9);
     EXPECT_EQ(plot.parts().freqAxis.nThick(), 10);
@@ -86,7 +74,7 @@ TEST(PlotProperties, areMarkedAsChangedWhenTheyAreSet)
     plot.properties().setGthicks(5);
     EXPECT_TRUE(plot.properties().changedProperties().contains(QStringLiteral("gThicks")));
     EXPECT_FALSE(plot.properties().changedProperties().contains(QStringLiteral("vThicks")));
-    setAllProperties(plot);
+    test::setAllProperties(plot);
     for (const QString& key : propertyKeys)
         EXPECT_TRUE(plot.properties().changedProperties().contains(key)) << key.toStdString();
 }
@@ -94,7 +82,7 @@ TEST(PlotProperties, areMarkedAsChangedWhenTheyAreSet)
 TEST(PlotProperties, areReadBackFromTheBagThatTheyWrote)
 {
     EvmPlot plot;
-    setAllProperties(plot);
+    test::setAllProperties(plot);
     EvmPlot copy;
     copy.properties().ReadProperties(plot.properties().WriteProperties());
     EXPECT_EQ(copy.properties().WriteProperties(), plot.properties().WriteProperties());
@@ -119,7 +107,7 @@ TEST(PlotProperties, haveAKeyForBrokenCurvesOnlyWhereTheyAreWanted)
 TEST(PlotProperties, haveTheDefaultForEveryKeyThatABagDoesNotHave)
 {
     EvmPlot plot;
-    setAllProperties(plot);
+    test::setAllProperties(plot);
     plot.properties().ReadProperties({{QStringLiteral("gLabel"), QStringLiteral("G")}});
     PropertyBag expected = defaultProperties();
     expected[QStringLiteral("gLabel")] = QStringLiteral("G");

@@ -18,7 +18,7 @@ using testing::HasSubstr;
 
 namespace {
 
-const std::string whole = drawn(wholeWorkspace);
+const std::string wholeBytes = drawn(wholeWorkspace);
 
 /// The number of files, plots and series of a record.
 std::size_t entries(const WorkspaceRecord& record)
@@ -35,7 +35,8 @@ std::size_t entries(const WorkspaceRecord& record)
 /// count of files is excluded.
 constexpr std::size_t mostEntries = 6;
 
-/// Whether everything in a reading is in the whole file too. Texts may be truncated, lists shorter.
+/// Whether everything in a reading is in the whole file too. Texts may be truncated, lists
+/// shorter.
 bool isPartOfTheWhole(const WorkspaceRecord& record)
 {
     const WorkspaceRecord all = wholeRecord();
@@ -51,9 +52,9 @@ bool isPartOfTheWhole(const WorkspaceRecord& record)
 TEST(DamagedWorkspace, isAnErrorOrARecordWhereverItIsCut)
 {
     // The last series ends in a number, which is valid from its first digit on.
-    const std::size_t firstWhole = whole.rfind('\0') + 2;
-    for (std::size_t size = 0; size <= whole.size(); ++size) {
-        const FailedReading reading = failedReading(whole.substr(0, size));
+    const std::size_t firstWhole = wholeBytes.rfind('\0') + 2;
+    for (std::size_t size = 0; size <= wholeBytes.size(); ++size) {
+        const FailedReading reading = failedReading(wholeBytes.substr(0, size));
         ASSERT_TRUE(isPartOfTheWhole(reading.record)) << size;
         ASSERT_EQ(reading.error.has_value(), size < firstWhole) << size;
         if (reading.error) {
@@ -64,14 +65,14 @@ TEST(DamagedWorkspace, isAnErrorOrARecordWhereverItIsCut)
 
 TEST(DamagedWorkspace, isARecordWithoutItsEndMark)
 {
-    EXPECT_EQ(readBytes(whole.substr(0, whole.find("[END"))), wholeRecord());
-    EXPECT_EQ(readBytes(whole.substr(0, whole.find("\r\n[END"))), wholeRecord());
+    EXPECT_EQ(readBytes(wholeBytes.substr(0, wholeBytes.find("[END"))), wholeRecord());
+    EXPECT_EQ(readBytes(wholeBytes.substr(0, wholeBytes.find("\r\n[END"))), wholeRecord());
 }
 
 TEST(DamagedWorkspace, mayLackAnyByte)
 {
-    for (std::size_t i = 0; i < whole.size(); ++i) {
-        std::string bytes = whole;
+    for (std::size_t i = 0; i < wholeBytes.size(); ++i) {
+        std::string bytes = wholeBytes;
         bytes.erase(i, 1);
         const FailedReading reading = failedReading(bytes);
         ASSERT_LE(entries(reading.record), mostEntries) << i;
@@ -80,9 +81,9 @@ TEST(DamagedWorkspace, mayLackAnyByte)
 
 TEST(DamagedWorkspace, mayHaveAnyByteReplaced)
 {
-    for (std::size_t i = 0; i < whole.size(); ++i) {
+    for (std::size_t i = 0; i < wholeBytes.size(); ++i) {
         for (const char replacement : {'\0', '\n', '9', '\xFF', '"', '='}) {
-            std::string bytes = whole;
+            std::string bytes = wholeBytes;
             bytes[i] = replacement;
             const FailedReading reading = failedReading(bytes);
             ASSERT_LE(entries(reading.record), mostEntries) << i;
@@ -92,13 +93,14 @@ TEST(DamagedWorkspace, mayHaveAnyByteReplaced)
 
 TEST(DamagedWorkspace, isAnErrorWhereACountOfPlotsOrSeriesIsTooLarge)
 {
-    const FailedReading plots = failedReading(with(whole, "NoOfPlots=1", "NoOfPlots=32767"));
+    const FailedReading plots = failedReading(with(wholeBytes, "NoOfPlots=1", "NoOfPlots=32767"));
     ASSERT_TRUE(plots.error);
     EXPECT_EQ(plots.error->number(), ErrorNumber::SubscriptOutOfRange);
     EXPECT_THAT(plots.error->description(), HasSubstr("test.tsw, [PLOT2], velAxis"));
     EXPECT_EQ(plots.record.plots.size(), 2U);
 
-    const FailedReading series = failedReading(with(whole, "NoOfSeries=2", "NoOfSeries=32767"));
+    const FailedReading series =
+        failedReading(with(wholeBytes, "NoOfSeries=2", "NoOfSeries=32767"));
     ASSERT_TRUE(series.error);
     EXPECT_THAT(series.error->description(), HasSubstr("test.tsw, [PLOT1], Serie(3)"));
     EXPECT_EQ(series.record, wholeRecord());
@@ -106,8 +108,9 @@ TEST(DamagedWorkspace, isAnErrorWhereACountOfPlotsOrSeriesIsTooLarge)
 
 TEST(DamagedWorkspace, hasFewerEntriesWhereACountIsTooSmall)
 {
-    EXPECT_EQ(readBytes(with(whole, "NoOfFiles=2", "NoOfFiles=1")).files.size(), 1U);
-    EXPECT_EQ(readBytes(with(whole, "NoOfSeries=2", "NoOfSeries=-7")).plots[0].series.size(), 0U);
+    EXPECT_EQ(readBytes(with(wholeBytes, "NoOfFiles=2", "NoOfFiles=1")).files.size(), 1U);
+    EXPECT_EQ(readBytes(with(wholeBytes, "NoOfSeries=2", "NoOfSeries=-7")).plots[0].series.size(),
+              0U);
 }
 
 TEST(DamagedWorkspace, isAnErrorWhereItIsNoWorkspaceAtAll)
@@ -132,10 +135,10 @@ TEST(DamagedWorkspace, returnsFromNamesAndLinesWithoutEnd)
     std::string many = "[" + million + "]\r\n";
     for (int i = 0; i < 100'000; ++i)
         many += std::to_string(i) + "=1\r\n";
-    EXPECT_EQ(readBytes(many + whole), wholeRecord());
-    EXPECT_EQ(readBytes("[X]\r\n" + million + "=" + million + "\r\n" + whole), wholeRecord());
+    EXPECT_EQ(readBytes(many + wholeBytes), wholeRecord());
+    EXPECT_EQ(readBytes("[X]\r\n" + million + "=" + million + "\r\n" + wholeBytes), wholeRecord());
     std::string sections;
     for (int i = 0; i < 100'000; ++i)
         sections += "[S" + std::to_string(i) + "]\r\n";
-    EXPECT_EQ(readBytes(sections + whole), wholeRecord());
+    EXPECT_EQ(readBytes(sections + wholeBytes), wholeRecord());
 }
