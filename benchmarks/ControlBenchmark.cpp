@@ -3,7 +3,7 @@
 // The cost of a click in the Data Control window with 500 rows, relative to drawing the plot alone.
 
 #include "RatioTable.h"
-#include "base/user/UserInterface.h"
+#include "SilentUser.h"
 #include "datacontrol/SeriesGridModel.h"
 #include "datacontrol/SeriesGridView.h"
 #include "datacontrol/WndData.h"
@@ -15,49 +15,18 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include <cstdio>
 #include <numeric>
-#include <optional>
 #include <vector>
 
 namespace {
 
 using namespace tarsil;
+using benchmarks::SilentUser;
 
 constexpr int rowCount = 500;
 constexpr int modeCount = 50;
 constexpr int pointCount = 50;
 constexpr int turns = 7;
-
-/// A user interface that does nothing.
-class SilentUser : public UserInterface
-{
-public:
-    void showMessage(const std::string& text, const std::string&, MessageIcon) override
-    {
-        std::fputs((text + "\n").c_str(), stderr);
-    }
-    bool confirm(const std::string&, const std::string&) override { return false; }
-    Unsaved askToSave(const std::string& /*question*/, const std::string& /*title*/) override
-    {
-        return Unsaved::Cancel;
-    }
-    std::optional<std::string> askText(const std::string&, const std::string&,
-                                       const std::string&) override
-    {
-        return std::nullopt;
-    }
-    std::vector<std::string> askOpenFiles(const FileQuestion&) override { return {}; }
-    std::optional<std::string> askSaveFile(const FileQuestion&) override { return std::nullopt; }
-    std::optional<std::string> askFolder(const std::string& /*initial*/) override
-    {
-        return std::nullopt;
-    }
-    void showStatus(std::string_view) override { }
-    void showNote(std::string_view) override { }
-    void beginCommand() override { }
-    void showProgress(std::size_t, std::size_t) override { }
-};
 
 void fillEvolution(EVM& evolution)
 {

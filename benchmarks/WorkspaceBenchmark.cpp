@@ -6,8 +6,8 @@
 
 #include "GeneratedFiles.h"
 #include "RatioTable.h"
+#include "SilentUser.h"
 #include "app/WorkspaceCommands.h"
-#include "base/user/UserInterface.h"
 #include "document/Document.h"
 #include "explorer/WndEvolExplorer.h"
 #include "formats/EvolutionFile.h"
@@ -25,7 +25,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iostream>
 #include <limits>
 
 namespace {
@@ -35,44 +34,6 @@ using namespace tarsil::benchmarks;
 
 constexpr std::size_t fileCount = 1000;
 constexpr int turns = 7;
-
-/// A user interface that ignores messages and refuses everything.
-class SilentUser : public UserInterface
-{
-public:
-    void showMessage(const std::string& text, const std::string& /*title*/,
-                     MessageIcon /*icon*/) override
-    {
-        std::cerr << text << '\n';
-        std::exit(EXIT_FAILURE);
-    }
-    bool confirm(const std::string& /*question*/, const std::string& /*title*/) override
-    {
-        return false;
-    }
-    Unsaved askToSave(const std::string& /*question*/, const std::string& /*title*/) override
-    {
-        return Unsaved::Cancel;
-    }
-    std::optional<std::string> askText(const std::string& /*prompt*/, const std::string& /*title*/,
-                                       const std::string& /*initial*/) override
-    {
-        return std::nullopt;
-    }
-    std::vector<std::string> askOpenFiles(const FileQuestion& /*question*/) override { return {}; }
-    std::optional<std::string> askSaveFile(const FileQuestion& /*question*/) override
-    {
-        return std::nullopt;
-    }
-    std::optional<std::string> askFolder(const std::string& /*initial*/) override
-    {
-        return std::nullopt;
-    }
-    void showStatus(std::string_view /*text*/) override { }
-    void showNote(std::string_view /*text*/) override { }
-    void beginCommand() override { }
-    void showProgress(std::size_t /*done*/, std::size_t /*total*/) override { }
-};
 
 /// A workspace of small files without plots.
 struct ManyFiles

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "base/user/UserInterface.h"
+
+#include <cstdlib>
+#include <iostream>
+
+namespace tarsil::benchmarks {
+
+/// A user who refuses everything; a message ends the benchmark.
+class SilentUser : public UserInterface
+{
+public:
+    void showMessage(const std::string& text, const std::string& /*title*/,
+                     MessageIcon /*icon*/) override
+    {
+        std::cerr << text << '\n';
+        std::exit(EXIT_FAILURE);
+    }
+    bool confirm(const std::string& /*question*/, const std::string& /*title*/) override
+    {
+        return false;
+    }
+    Unsaved askToSave(const std::string& /*question*/, const std::string& /*title*/) override
+    {
+        return Unsaved::Cancel;
+    }
+    std::optional<std::string> askText(const std::string& /*prompt*/, const std::string& /*title*/,
+                                       const std::string& /*initial*/) override
+    {
+        return std::nullopt;
+    }
+    std::vector<std::string> askOpenFiles(const FileQuestion& /*question*/) override { return {}; }
+    std::optional<std::string> askSaveFile(const FileQuestion& /*question*/) override
+    {
+        return std::nullopt;
+    }
+    std::optional<std::string> askFolder(const std::string& /*initial*/) override
+    {
+        return std::nullopt;
+    }
+    void showStatus(std::string_view /*text*/) override { }
+    void showNote(std::string_view /*text*/) override { }
+    void beginCommand() override { }
+    void showProgress(std::size_t /*done*/, std::size_t /*total*/) override { }
+};
+
+} // namespace tarsil::benchmarks
