@@ -51,10 +51,10 @@ QFont fontOf(const EmfItem& item)
 }
 
 /// Plays the records with a painter.
-class Player
+class MetafilePlayer
 {
 public:
-    explicit Player(QPainter& painter) : m_painter(painter)
+    explicit MetafilePlayer(QPainter& painter) : m_painter(painter)
     {
         m_painter.setRenderHint(QPainter::TextAntialiasing);
     }
@@ -251,7 +251,7 @@ QImage playMetafile(const EmfContents& contents, QSize size)
     QImage image(size, QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
-    Player player(painter);
+    MetafilePlayer player(painter);
     for (const EmfItem& item : contents.records)
         player.play(item);
     return image;

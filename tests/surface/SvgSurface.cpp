@@ -14,10 +14,10 @@ namespace tarsil::test {
 namespace {
 
 /// Plays an SVG element by element.
-class Player
+class SvgPlayer
 {
 public:
-    explicit Player(const QByteArray& svg) : m_xml(svg) { }
+    explicit SvgPlayer(const QByteArray& svg) : m_xml(svg) { }
 
     QImage play()
     {
@@ -154,7 +154,7 @@ private:
 
 QImage playSvg(const QByteArray& svg)
 {
-    return Player(svg).play();
+    return SvgPlayer(svg).play();
 }
 
 SvgSurface::SvgSurface()
