@@ -111,7 +111,8 @@ bool isTemporaryName(std::string_view name)
 
 bool isOldAndOwn(int folder, const char* name)
 {
-    using namespace std::chrono;
+    using std::chrono::hours;
+    using std::chrono::system_clock;
     struct stat status = {};
     return ::fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW) == 0 && S_ISREG(status.st_mode)
         && status.st_uid == ::geteuid()
