@@ -42,10 +42,10 @@ protected:
     /// Keeps a picture of the plot for the eye, if TARSIL_LOOK names a folder.
     void keep(const char* name)
     {
-        const QString folder = qEnvironmentVariable("TARSIL_LOOK");
-        if (!folder.isEmpty()) {
+        const QString pictures = qEnvironmentVariable("TARSIL_LOOK");
+        if (!pictures.isEmpty()) {
             EXPECT_TRUE(person.look({0, 0, 1000, 800})
-                            .save(QDir(folder).filePath(QString::fromLatin1(name))));
+                            .save(QDir(pictures).filePath(QString::fromLatin1(name))));
         }
     }
 
