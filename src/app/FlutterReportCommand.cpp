@@ -40,17 +40,18 @@ QString freeName(const QString& folder)
     return QDir(folder).filePath(name + QStringLiteral(".xlsx"));
 }
 
+/// Includes hidden rows: a look must not remove a flutter speed.
 std::vector<ReportRow> rowsOf(const EvmPlot& plot)
 {
     std::vector<ReportRow> rows;
-    for (const Series& series : plot.SeriesCollection()) {
-        if (series.Mode != nullptr)
-            rows.push_back({series.Mode, series.LegendText.toStdString()});
+    for (const PlotRow& row : plot.rows().all()) {
+        if (row.series.Mode != nullptr)
+            rows.push_back({row.series.Mode, row.series.LegendText.toStdString()});
     }
     return rows;
 }
 
-/// The evolutions of the curves, each once, in order of the curves.
+/// The evolutions of the rows, each once, in order of the rows.
 std::vector<const EVM*> evolutionsOf(const EvmPlot& plot)
 {
     std::vector<const EVM*> evolutions;

@@ -17,7 +17,7 @@ std::vector<std::string> linesOf(const EvmPlot& plot, bool withCaption)
     const std::string caption =
         withCaption ? " of " + plot.properties().Caption().toStdString() : std::string();
     std::vector<std::string> lines;
-    for (const std::size_t row : plot.rows().withoutCurve())
+    for (const std::size_t row : plot.rows().withoutMode())
         lines.push_back(mdlData::missingModeText(plot.rows().at(row)) + " (row "
                         + std::to_string(row + 1) + caption + ")");
     return lines;

@@ -451,8 +451,10 @@ void wndMain::dropEvent(QDropEvent* event)
 void wndMain::ExportMenu_Click()
 {
     std::vector<const AeMode*> modes;
-    for (const Series& series : activePlot().SeriesCollection())
-        modes.push_back(series.Mode);
+    for (const PlotRow& row : activePlot().rows().all()) {
+        if (row.hasMode())
+            modes.push_back(row.series.Mode);
+    }
     showLeftOutRows({&activePlot()}, "the mixed modal evolution", m_userInterface);
     mdlMix::exportMixed(modes, m_userInterface);
 }

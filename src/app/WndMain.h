@@ -111,6 +111,7 @@ private:
     void makeMenuBar();
     void makePopups();
     void addRecentFiles();
+    void addHideActions();
     void connectRecentFiles();
     void closeDialogs();
     void addCommand(QMenu& menu, const Command& command, const char* name);

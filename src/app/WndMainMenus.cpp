@@ -106,7 +106,16 @@ void wndMain::makeMenuBar()
             addCommand(*menu, command, command.name);
     }
     addRecentFiles();
+    addHideActions();
     listPlots(*findChild<QMenu*>(QStringLiteral("WindowsMenu")), m_document.plots());
+}
+
+/// The same actions as in the pop-ups of plot and grid, so that the keyboard reaches them.
+void wndMain::addHideActions()
+{
+    auto* const menu = findChild<QMenu*>(QStringLiteral("EditMenu"));
+    menu->addSeparator();
+    menu->addActions(m_data->hideActions());
 }
 
 /// Before "Quit", which stays the last entry.
@@ -138,7 +147,7 @@ void wndMain::makePopups()
     m_curveMenu->addActions(m_plotMenu->actions());
     m_curveMenu->addSeparator();
     m_curveMenu->addActions(m_data->curveMenu().actions());
-    connect(m_curveMenu, &QMenu::aboutToShow, &m_data->curveMenu(), &QMenu::aboutToShow);
+    m_plotMenu->addAction(m_data->hideActions().back()); // "Show All Hidden" needs no selection
     m_explorerMenu = new QMenu(QStringLiteral("EvolExplorer"), this);
     m_explorerMenu->setObjectName(QStringLiteral("popEvolExplorer"));
     addCommand(*m_explorerMenu, {"", nullptr, "Set as reference", &wndMain::popSetRefEvol_Click},

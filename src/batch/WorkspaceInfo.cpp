@@ -124,6 +124,8 @@ void writeSeries(JsonWriter& json, const SeriesRecord& series)
     json.number("line_style", std::to_string(series.lineStyle));
     json.number("line_width", std::to_string(series.lineWidth));
     json.number("factor", std::to_string(series.factor));
+    if (series.isHidden)
+        json.boolean("hidden", true);
     json.endObject();
 }
 
@@ -230,7 +232,7 @@ void printReferences(const std::vector<ReferenceRecord>& references, std::string
                       + (reference.caption.empty() ? "" : "  " + reference.caption));
 }
 
-/// Prints the lines of the curves that differ from the default.
+/// Prints the lines of the curves that differ from the default, and which curves are hidden.
 void printLooks(const std::vector<SeriesRecord>& list, std::ostream& out)
 {
     const SeriesRecord usual;
@@ -240,6 +242,8 @@ void printLooks(const std::vector<SeriesRecord>& list, std::ostream& out)
             printLine(out, "line of series " + std::to_string(i + 1),
                       "style " + std::to_string(one.lineStyle) + ", "
                           + std::to_string(one.lineWidth) + " px");
+        if (one.isHidden)
+            printLine(out, "series " + std::to_string(i + 1), "hidden");
     }
 }
 

@@ -3,7 +3,6 @@
 
 #include "base/user/UserInterface.h"
 #include "datacontrol/DataCommands.h"
-#include "datacontrol/MarkerPanel.h"
 #include "datacontrol/SeriesGridView.h"
 #include "datacontrol/SeriesPanel.h"
 #include "document/Document.h"
@@ -12,15 +11,14 @@
 
 namespace tarsil {
 
-CurveMenu::CurveMenu(const DataCommands& commands, SeriesPanel& series, const MarkerPanel& markers,
-                     QWidget* parent)
-    : QMenu(parent), m_commands(commands), m_series(series), m_markers(markers)
+CurveMenu::CurveMenu(const DataCommands& commands, SeriesPanel& series, QWidget* parent)
+    : QMenu(parent), m_commands(commands), m_series(series)
 {
     add(tr("&Colour, Style, Width ..."), "curveLine", [this] { m_series.chooseLine(); });
     add(tr("&Tag ..."), "curveTag", [this] { askTag(); });
     add(tr("Mode &Up"), "curveModeUp", [this] { m_series.raiseModes(); });
     add(tr("Mode &Down"), "curveModeDown", [this] { m_series.lowerModes(); });
-    addHide();
+    addActions(m_series.hideActions());
     add(tr("&Legend Text ..."), "curveLegend", [this] { askLegend(); });
     add(tr("&Remove\tDel"), "curveRemove", [this] { m_series.removeRows(); });
 }
@@ -32,20 +30,6 @@ void CurveMenu::add(const QString& caption, const char* name, const std::functio
     QAction* const entry = addAction(caption);
     entry->setObjectName(QString::fromLatin1(name));
     connect(entry, &QAction::triggered, this, m_commands.command(action));
-}
-
-/// Its check mark is that of the first selected row.
-void CurveMenu::addHide()
-{
-    QAction* const hide = addAction(tr("&Hide"));
-    hide->setObjectName(QStringLiteral("curveHide"));
-    hide->setCheckable(true);
-    connect(this, &QMenu::aboutToShow, hide, [this, hide] {
-        const PlotRow* const row = firstRow();
-        hide->setChecked(row != nullptr && mdlData::isHidden(row->series));
-    });
-    connect(hide, &QAction::triggered, this,
-            [this](bool hides) { m_commands.command([this, hides] { hideOrShow(hides); })(); });
 }
 
 const PlotRow* CurveMenu::firstRow() const
@@ -89,20 +73,6 @@ void CurveMenu::askLegend()
                    [legend = mdlData::inOneLine(QString::fromStdString(*text))](Series& series) {
                        series.LegendText = legend;
                    });
-}
-
-/// A curve that is shown again has a solid line and the markers of the others.
-void CurveMenu::hideOrShow(bool hides)
-{
-    if (hides) {
-        changeRows(tr("Hide Curves"), mdlData::hide);
-        return;
-    }
-    const MarkerOptions markers = m_markers.options();
-    changeRows(tr("Show Curves"), [&markers](Series& series) {
-        if (mdlData::isHidden(series))
-            mdlData::show(series, markers);
-    });
 }
 
 } // namespace tarsil

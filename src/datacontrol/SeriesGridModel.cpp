@@ -11,7 +11,9 @@
 
 #include <QApplication>
 #include <QColor>
+#include <QFont>
 #include <QIcon>
+#include <QPalette>
 #include <QStyle>
 
 #include <algorithm>
@@ -52,19 +54,19 @@ QString lineText(const Series& series)
         .arg((color >> 16) & 0xFF);
 }
 
-QVariant warningIcon()
-{
-    return QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
-}
-
 /// The reason why the number of a row is red.
 QString missingModeText(const PlotRow& row)
 {
     return QString::fromStdString(mdlData::missingModeText(row));
 }
 
+QString hiddenText()
+{
+    return SeriesGridModel::tr("The curve of this row is hidden.");
+}
+
 /// What the cell itself does not show: the folder, the line in words, the reason why a number is
-/// red.
+/// red or a row grey.
 QVariant toolTip(const PlotRow& row, SeriesColumn column)
 {
     QString tip;
@@ -72,11 +74,57 @@ QVariant toolTip(const PlotRow& row, SeriesColumn column)
         tip = QString::fromStdString(shownPath(row.evolution->path()));
     else if (column == SeriesColumn::Line)
         tip = lineText(row.series);
-    else if (column == SeriesColumn::Mode && !row.hasCurve())
+    else if (column == SeriesColumn::Mode && !row.hasMode())
         tip = missingModeText(row);
     else if (column == SeriesColumn::Legend)
         tip = row.series.LegendText;
+    if (row.isHidden)
+        tip += (tip.isEmpty() ? QString() : QStringLiteral("\n")) + hiddenText();
     return tip.isEmpty() ? QVariant() : QVariant(toolTipText(tip));
+}
+
+/// A cell of a row whose mode does not exist: red, with a sign that is also visible in selected
+/// cells.
+QVariant missingFlag(const PlotRow& row, int role)
+{
+    switch (role) {
+    case Qt::DecorationRole:
+        return QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
+    case Qt::AccessibleDescriptionRole:
+        return missingModeText(row);
+    case Qt::ForegroundRole:
+        return QColor(Qt::red);
+    default:
+        return {};
+    }
+}
+
+/// A cell of a hidden row: grey as a disabled text of the theme, and italic, which is also visible
+/// in selected cells.
+QVariant hiddenFlag(int role)
+{
+    switch (role) {
+    case Qt::FontRole: {
+        QFont italic;
+        italic.setItalic(true);
+        return italic;
+    }
+    case Qt::AccessibleDescriptionRole:
+        return hiddenText();
+    case Qt::ForegroundRole:
+        return QApplication::palette().color(QPalette::Disabled, QPalette::Text);
+    default:
+        return {};
+    }
+}
+
+/// How a cell shows that its mode does not exist, or that its row is hidden.
+QVariant flagOf(const PlotRow& row, SeriesColumn column, int role)
+{
+    QVariant flag;
+    if (column == SeriesColumn::Mode && !row.hasMode())
+        flag = missingFlag(row, role);
+    return flag.isNull() && row.isHidden ? hiddenFlag(role) : flag;
 }
 
 } // namespace
@@ -188,7 +236,6 @@ QVariant SeriesGridModel::data(const QModelIndex& index, int role) const
     if (shown == nullptr)
         return {};
     const SeriesColumn column = columnOf(index);
-    const bool isMissing = column == SeriesColumn::Mode && !shown->hasCurve();
     switch (role) {
     case Qt::DisplayRole:
     case Qt::EditRole:
@@ -201,14 +248,8 @@ QVariant SeriesGridModel::data(const QModelIndex& index, int role) const
         return column == SeriesColumn::Index || column == SeriesColumn::Mode
             ? QVariant(static_cast<int>(Qt::AlignRight | Qt::AlignVCenter))
             : QVariant();
-    case Qt::DecorationRole: // also visible in selected cells, which hide the colour
-        return isMissing ? warningIcon() : QVariant();
-    case Qt::AccessibleDescriptionRole:
-        return isMissing ? QVariant(missingModeText(*shown)) : QVariant();
-    case Qt::ForegroundRole:
-        return isMissing ? QColor(Qt::red) : QVariant();
     default:
-        return {};
+        return flagOf(*shown, column, role);
     }
 }
 

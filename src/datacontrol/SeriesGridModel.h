@@ -16,7 +16,7 @@ enum class SeriesColumn { Index, Evolution, Tag, Mode, Line, Legend };
 constexpr int seriesColumnCount = 6;
 
 /// A model of the rows of a plot, which it always follows. The selection moves with its rows. A
-/// number that does not exist is flagged.
+/// number that does not exist is flagged; a hidden row is grey and italic.
 class SeriesGridModel : public QAbstractTableModel
 {
     Q_OBJECT

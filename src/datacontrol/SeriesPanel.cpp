@@ -8,6 +8,7 @@
 #include "base/user/UserInterface.h"
 #include "datacontrol/DataCommands.h"
 #include "datacontrol/DlgSeriesStyle.h"
+#include "datacontrol/HideCommands.h"
 #include "datacontrol/LineSample.h"
 #include "datacontrol/MarkerPanel.h"
 #include "datacontrol/SeriesSort.h"
@@ -58,6 +59,14 @@ void changeLine(Series& series, const LineLook& before, const LineLook& now)
         series.LineWidth = now.width;
 }
 
+/// Adds a separator to the pop-up of a widget.
+void addSeparator(QWidget& widget)
+{
+    auto* const separator = new QAction(&widget);
+    separator->setSeparator(true);
+    widget.addAction(separator);
+}
+
 /// Empties the filter of a grid when it hides one of these rows.
 void reveal(const std::vector<std::size_t>& rows, const SeriesGridView& grid, FilterLine& filter)
 {
@@ -73,6 +82,7 @@ SeriesPanel::SeriesPanel(const DataCommands& commands, MarkerPanel& markers, QWi
       m_model(commands.document().history()), m_ui(std::make_unique<Ui::SeriesPanel>())
 {
     m_ui->setupUi(this);
+    m_hideCommands = new HideCommands(m_commands, grid(), this);
     setFocusProxy(m_ui->flxSerieViewer);
     prepareColumns();
     connectGrid();
@@ -93,6 +103,11 @@ SeriesPanel::~SeriesPanel() = default;
 SeriesGridView& SeriesPanel::grid() const
 {
     return *m_ui->flxSerieViewer;
+}
+
+const QList<QAction*>& SeriesPanel::hideActions() const
+{
+    return m_hideCommands->actions();
 }
 
 void SeriesPanel::commitEdits()
@@ -198,21 +213,21 @@ void SeriesPanel::makeGridMenu()
     add(tr("Copy"), QKeySequence::Copy, [this] { copyCells(); });
     add(tr("Paste"), QKeySequence::Paste, [this] { pasteCells(); });
     add(tr("Fill Down"), QKeySequence(Qt::CTRL | Qt::Key_D), [this] { fillDown(); });
-    auto* const separator = new QAction(this);
-    separator->setSeparator(true);
-    grid().addAction(separator);
+    addSeparator(grid());
+    grid().addActions(hideActions());
+    addSeparator(grid());
     add(tr("Sort Ascending"), {}, [this] { sort(Qt::AscendingOrder); });
     add(tr("Sort Descending"), {}, [this] { sort(Qt::DescendingOrder); });
     grid().setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
-/// In the grid a row without a curve is a warning.
+/// In the grid a row without a mode is a warning.
 void SeriesPanel::connectFilter()
 {
     const auto isShown = [this](int index) {
         const PlotRow& row = *m_model.row(index);
         return row.evolution != nullptr
-            && m_ui->txtRowFilter->filter().accepts(*row.evolution, !row.hasCurve());
+            && m_ui->txtRowFilter->filter().accepts(*row.evolution, !row.hasMode());
     };
     connect(m_ui->txtRowFilter, &FilterLine::filterChanged, this, [this, isShown] {
         const bool showsAll = m_ui->txtRowFilter->filter().isEmpty();
@@ -277,7 +292,7 @@ void SeriesPanel::selectCurve(const EVM& evolution, std::int16_t mode)
     const int column = columnNumber(SeriesColumn::Mode);
     for (int i = 0; i < m_model.rowCount(); ++i) {
         const PlotRow& row = *m_model.row(i);
-        if (row.evolution != &evolution || !row.hasCurve() || row.series.Mode->Id != mode)
+        if (row.evolution != &evolution || !row.hasMode() || row.series.Mode->Id != mode)
             continue;
         reveal({static_cast<std::size_t>(i)}, grid(), *m_ui->txtRowFilter);
         grid().selectRows({static_cast<std::size_t>(i)}, column);

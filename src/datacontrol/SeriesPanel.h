@@ -4,6 +4,7 @@
 #include "datacontrol/GridEdits.h"
 #include "datacontrol/SeriesGridModel.h"
 
+#include <QList>
 #include <QWidget>
 
 #include <cstddef>
@@ -11,6 +12,8 @@
 #include <functional>
 #include <memory>
 #include <vector>
+
+class QAction;
 
 namespace tarsil {
 
@@ -20,6 +23,7 @@ class SeriesPanel;
 
 class DataCommands;
 class EVM;
+class HideCommands;
 class MarkerPanel;
 class SeriesGridView;
 
@@ -37,7 +41,7 @@ public:
     /// Commits the text that is being typed in the grid, as Enter does.
     void commitEdits();
 
-    /// Selects the first row whose curve is the mode with that number in the file. Does nothing
+    /// Selects the first row of the mode with that number in the file, hidden or not. Does nothing
     /// without such a row.
     void selectCurve(const EVM& evolution, std::int16_t mode);
 
@@ -45,6 +49,9 @@ public:
     void selectRows(const std::vector<tarsil::RowId>& rows);
 
     SeriesGridView& grid() const;
+
+    /// The actions that hide and show curves (`HideCommands`).
+    const QList<QAction*>& hideActions() const;
 
     // Commands on the selected rows.
     void raiseModes();
@@ -93,6 +100,7 @@ private:
     const DataCommands& m_commands;
     MarkerPanel& m_markers;
     SeriesGridModel m_model;
+    HideCommands* m_hideCommands = nullptr;
     std::unique_ptr<Ui::SeriesPanel> m_ui;
 };
 

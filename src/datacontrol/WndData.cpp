@@ -16,7 +16,7 @@ namespace tarsil {
 wndData::wndData(Document& document, UserInterface& user, QWidget* parent)
     : QWidget(parent), m_commands(document, user, [this] { commitEdits(); }),
       m_markers(new MarkerPanel(m_commands)), m_series(new SeriesPanel(m_commands, *m_markers)),
-      m_curveMenu(new CurveMenu(m_commands, *m_series, *m_markers, this))
+      m_curveMenu(new CurveMenu(m_commands, *m_series, this))
 {
     setObjectName(QStringLiteral("wndData"));
     setWindowTitle(tr("Data Control"));
@@ -47,6 +47,11 @@ void wndData::layOut()
 QSize wndData::sizeHint() const
 {
     return {620, 480};
+}
+
+const QList<QAction*>& wndData::hideActions() const
+{
+    return m_series->hideActions();
 }
 
 QString wndData::columnWidths() const

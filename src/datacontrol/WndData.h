@@ -4,11 +4,13 @@
 #include "datacontrol/DataCommands.h"
 #include "vgfplot/PlotRows.h"
 
+#include <QList>
 #include <QWidget>
 
 #include <cstdint>
 #include <vector>
 
+class QAction;
 class QMenu;
 
 namespace tarsil {
@@ -31,7 +33,7 @@ public:
     /// Commits the text that is being typed in the grid, as Enter does.
     void commitEdits();
 
-    /// Selects the first row whose curve is the mode with that number in the file. Does nothing
+    /// Selects the first row of the mode with that number in the file, hidden or not. Does nothing
     /// without such a row.
     void selectCurve(const EVM& evolution, std::int16_t mode);
 
@@ -43,6 +45,9 @@ public:
 
     /// The commands on the selected rows.
     QMenu& curveMenu() { return *m_curveMenu; }
+
+    /// The actions that hide and show curves: "Hide", "Show", "Show All Hidden".
+    const QList<QAction*>& hideActions() const;
 
     /// The widths of the grid's columns as a text (`SeriesGridView::columnWidths`).
     QString columnWidths() const;

@@ -3,7 +3,6 @@
 
 #include "base/text/ShortList.h"
 #include "model/EVM.h"
-#include "surface/DeviceContext.h"
 #include "vgfplot/EvmPlot.h"
 
 #include <QStringList>
@@ -62,27 +61,9 @@ std::string missingModeText(const PlotRow& row)
 std::string missingModesText(const PlotRows& rows)
 {
     std::vector<std::string> lines;
-    for (const std::size_t row : rows.withoutCurve())
+    for (const std::size_t row : rows.withoutMode())
         lines.push_back(missingModeText(rows.at(row)));
     return shortList(lines, mostRowLines);
-}
-
-bool isHidden(const Series& series)
-{
-    return series.LineStyle == penstyle::none
-        && series.MarkerStyle == markerNumber(MarkerKind::None);
-}
-
-void hide(Series& series)
-{
-    series.LineStyle = penstyle::none;
-    series.MarkerStyle = markerNumber(MarkerKind::None);
-}
-
-void show(Series& series, const MarkerOptions& markers)
-{
-    series.LineStyle = penstyle::solid;
-    markers.applyTo(series);
 }
 
 std::string buildSeries(PlotRows& rows, const MarkerOptions& markers)

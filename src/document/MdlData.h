@@ -23,23 +23,14 @@ namespace mdlData {
 
 using Indices = PlotRows::Indices;
 
-/// Why a row has no curve: "There is no mode 12 in modal evolution case.ev2".
+/// Why a row has no mode: "There is no mode 12 in modal evolution case.ev2".
 std::string missingModeText(const PlotRow& row);
 
-/// The text of every row without a curve, one on a line; empty when all rows have one. If there are
+/// The text of every row without a mode, one on a line; empty when all rows have one. If there are
 /// many, the last line contains the number of the others.
 std::string missingModesText(const PlotRows& rows);
 
-/// Whether a curve is hidden: it has neither line nor markers.
-bool isHidden(const Series& series);
-
-void hide(Series& series);
-
-/// Gives a hidden curve a solid line and markers.
-void show(Series& series, const MarkerOptions& markers);
-
-/// Applies markers to every row, so that a hidden curve shows them without its line. Returns the
-/// text of the rows without a curve.
+/// Applies markers to every row, also to hidden ones. Returns the text of the rows without a mode.
 std::string buildSeries(PlotRows& rows, const MarkerOptions& markers);
 
 /// Applies to all rows those options that differ from `before`. The others, which may differ

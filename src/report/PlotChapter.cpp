@@ -8,11 +8,13 @@
 #include "vgfplot/EvmPlot.h"
 #include "vgfplot/NamedMode.h"
 #include "vgfplot/PlotRecords.h"
+#include "workspace/WorkspaceRecord.h"
 
 #include <QSize>
 #include <QString>
 
 #include <memory>
+#include <string>
 #include <utility>
 
 namespace tarsil {
@@ -60,7 +62,13 @@ ReportTable settingsOf(const PlotRecord& record, const EvmPlot& plot)
     return facts.take();
 }
 
-/// A row for each curve.
+/// A curve that the figure does not show says so.
+std::string legendOf(const SeriesRecord& series)
+{
+    return series.isHidden ? "(hidden) " + series.legendText : series.legendText;
+}
+
+/// A row for each curve, hidden ones included.
 ReportTable curvesOf(const PlotRecord& record, const std::vector<EVM*>& evolutions)
 {
     Sheet sheet;
@@ -75,7 +83,7 @@ ReportTable curvesOf(const PlotRecord& record, const std::vector<EVM*>& evolutio
         sheet.setText(row, 3, mode->Parent->FileName);
         sheet.setNumber(row, 4, series->mode);
         sheet.setNumber(row, 5, mode->Id);
-        sheet.setText(row, 6, series->legendText);
+        sheet.setText(row, 6, legendOf(*series));
     }
     return {std::move(sheet)};
 }

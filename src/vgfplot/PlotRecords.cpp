@@ -7,6 +7,7 @@
 #include "vgfplot/NamedMode.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <utility>
 
 namespace tarsil {
@@ -28,9 +29,10 @@ std::int16_t numberIn(const List& list, const Thing* thing)
                                : static_cast<std::int16_t>(found - list.begin() + 1);
 }
 
-SeriesRecord recordOf(const Series& series, const std::vector<const EVM*>& evolutions)
+SeriesRecord recordOf(const PlotRow& row, const std::vector<const EVM*>& evolutions)
 {
     SeriesRecord record;
+    const Series& series = row.series;
     if (series.Mode == nullptr || series.Mode->Parent == nullptr)
         return record;
     const EVM& evolution = *series.Mode->Parent;
@@ -46,6 +48,7 @@ SeriesRecord recordOf(const Series& series, const std::vector<const EVM*>& evolu
     record.lineStyle = series.LineStyle;
     record.lineWidth = series.LineWidth;
     record.factor = std::max(series.IthMpf, 1); // 0: never set
+    record.isHidden = row.isHidden;
     return record;
 }
 
@@ -103,10 +106,16 @@ std::vector<std::string> applySeries(const PlotRecord& record, const std::vector
                                      EvmPlot& plot)
 {
     const NamedSeries named = namedSeries(record, evolutions);
+    const std::size_t first = plot.rows().count();
     std::vector<Series> series;
-    for (const auto& [one, mode] : named.present)
+    PlotRows::Indices hidden;
+    for (const auto& [one, mode] : named.present) {
+        if (one->isHidden)
+            hidden.push_back(first + series.size());
         series.push_back(seriesOf(*one, *mode));
+    }
     plot.rows().add(std::move(series));
+    plot.rows().setHidden(hidden, true);
     return named.faultTexts(record);
 }
 
@@ -133,8 +142,8 @@ PlotRecord recordOf(const EvmPlot& plot, const std::vector<const EVM*>& evolutio
     record.legend = recordOf(plot.parts().box(TextBox::Legend));
     record.mechanism = recordOf(plot.parts().box(TextBox::Mechanism));
     record.axes = plot.axes();
-    for (const Series& series : plot.SeriesCollection()) {
-        const SeriesRecord one = recordOf(series, evolutions);
+    for (const PlotRow& row : plot.rows().all()) {
+        const SeriesRecord one = recordOf(row, evolutions);
         if (one.evolution > 0 && one.mode > 0)
             record.series.push_back(one);
     }

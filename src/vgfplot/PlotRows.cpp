@@ -55,6 +55,18 @@ std::size_t curvesIn(PlotRows::Rows::const_iterator begin, PlotRows::Rows::const
         std::count_if(begin, end, [](const PlotRow& row) { return row.hasCurve(); }));
 }
 
+/// The rows that fulfil a condition.
+template <typename Condition>
+PlotRows::Indices rowsWhere(const PlotRows::Rows& rows, const Condition& condition)
+{
+    PlotRows::Indices indices;
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        if (condition(rows[i]))
+            indices.push_back(i);
+    }
+    return indices;
+}
+
 template <typename List>
 auto positionIn(List& list, std::size_t index)
 {
@@ -63,9 +75,14 @@ auto positionIn(List& list, std::size_t index)
 
 } // namespace
 
-bool PlotRow::hasCurve() const
+bool PlotRow::hasMode() const
 {
     return series.Mode != nullptr || (evolution == nullptr && mode == 0);
+}
+
+bool PlotRow::hasCurve() const
+{
+    return hasMode() && !isHidden;
 }
 
 Series newSeries(AeMode& mode, std::size_t row)
@@ -112,14 +129,14 @@ const SeriesList& PlotRows::curves() const
     return *m_curves;
 }
 
-PlotRows::Indices PlotRows::withoutCurve() const
+PlotRows::Indices PlotRows::withoutMode() const
 {
-    Indices rows;
-    for (std::size_t i = 0; i < m_rows.size(); ++i) {
-        if (!m_rows[i].hasCurve())
-            rows.push_back(i);
-    }
-    return rows;
+    return rowsWhere(m_rows, [](const PlotRow& row) { return !row.hasMode(); });
+}
+
+PlotRows::Indices PlotRows::hidden() const
+{
+    return rowsWhere(m_rows, [](const PlotRow& row) { return row.isHidden; });
 }
 
 void PlotRows::forgetIndices()
@@ -256,6 +273,15 @@ void PlotRows::setMode(RowId id, std::int32_t number)
     row.mode = number;
     row.series.Mode = modeNumbered(row.evolution, number);
     replace(index, std::move(row));
+}
+
+void PlotRows::setHidden(const Indices& rows, bool isHidden)
+{
+    for (const std::size_t index : rows) {
+        PlotRow row = at(index);
+        row.isHidden = isHidden;
+        replace(index, std::move(row));
+    }
 }
 
 void PlotRows::change(RowId id, Series look)

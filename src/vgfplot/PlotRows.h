@@ -27,9 +27,13 @@ struct PlotRow
     RowId id {};
     EVM* evolution = nullptr; ///< not owned; null for a mode without evolution
     std::int32_t mode = 0; ///< counted from 1 in the evolution; may not exist
+    bool isHidden = false; ///< has no curve, but keeps its mode and its look
     Series series; ///< without a mode when the number does not exist
 
-    /// Whether the row has a curve: its number is that of a mode of its evolution.
+    /// Whether the number of the row is that of a mode of its evolution.
+    bool hasMode() const;
+
+    /// Whether the row has a curve: it has a mode and is not hidden.
     bool hasCurve() const;
 
     bool operator==(const PlotRow&) const = default;
@@ -67,8 +71,10 @@ public:
     const SeriesList& curves() const;
     std::size_t curveCount() const { return m_curveCount; }
 
-    /// The rows without a curve.
-    Indices withoutCurve() const;
+    /// The rows whose mode does not exist.
+    Indices withoutMode() const;
+
+    Indices hidden() const;
 
     /// Appends a row with the number of the series' mode in its evolution.
     RowId add(Series series);
@@ -94,6 +100,9 @@ public:
 
     /// Sets the mode number of a row, and its curve if the mode exists. Error 9 for an unknown row.
     void setMode(RowId id, std::int32_t number);
+
+    /// Hides rows, or shows them again.
+    void setHidden(const Indices& rows, bool isHidden);
 
     /// Sets the look of a row but not its mode. Error 9 for an unknown row.
     void change(RowId id, Series look);

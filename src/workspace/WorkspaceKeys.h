@@ -43,6 +43,7 @@ inline constexpr std::string_view series = "Serie";
 inline constexpr std::string_view referenceSpeed = "RefSpeed";
 inline constexpr std::string_view dampingLine = "DampLine";
 inline constexpr std::string_view seriesLook = "SerieLook";
+inline constexpr std::string_view seriesHidden = "SerieHidden";
 inline constexpr std::string_view breakAtJumps = "BreakAtJumps";
 
 inline constexpr std::string_view endOfFile = "END OF FILE";

@@ -73,6 +73,7 @@ private:
     void readFiles();
     void readEdited();
     void readPlot(const std::string& section, PlotRecord& plot);
+    void readSeries(const std::string& section, std::size_t number, PlotRecord& plot);
     std::vector<ReferenceRecord> references(const std::string& section, std::string_view key);
     TextRecord box(std::string_view section, std::string_view textKey,
                    std::string_view positionKey);
@@ -202,17 +203,25 @@ void WorkspaceReader::readPlot(const std::string& section, PlotRecord& plot)
     plot.axes = {axis(section, keys::velAxis), axis(section, keys::freqAxis),
                  axis(section, keys::gAxis)};
     const int seriesCount = count(section, keys::seriesCount);
-    for (int i = 1; i <= seriesCount; ++i) {
-        const std::string key = keys::numbered(keys::series, static_cast<std::size_t>(i));
-        plot.series.push_back(series(section, key));
-        further(section, keys::numbered(keys::seriesLook, static_cast<std::size_t>(i)), 3,
-                [&](const ValueFields& values) { readLook(values, plot.series.back()); });
-    }
+    for (int i = 1; i <= seriesCount; ++i)
+        readSeries(section, static_cast<std::size_t>(i), plot);
     plot.referenceSpeeds = references(section, keys::referenceSpeed);
     plot.dampingLines = references(section, keys::dampingLine);
     further(section, std::string(keys::breakAtJumps), 1, [&plot](const ValueFields& values) {
         plot.breaksAtJumps = values.integer16(0, "switch") != 0;
     });
+}
+
+/// Reads the series with a number, counted from 1.
+void WorkspaceReader::readSeries(const std::string& section, std::size_t number, PlotRecord& plot)
+{
+    plot.series.push_back(series(section, keys::numbered(keys::series, number)));
+    SeriesRecord& one = plot.series.back();
+    further(section, keys::numbered(keys::seriesLook, number), 3,
+            [&one](const ValueFields& values) { readLook(values, one); });
+    further(
+        section, keys::numbered(keys::seriesHidden, number), 1,
+        [&one](const ValueFields& values) { one.isHidden = values.integer16(0, "switch") != 0; });
 }
 
 /// The references of one kind, up to the first missing number.

@@ -49,6 +49,7 @@ struct SeriesRecord
     std::int32_t lineStyle = 0; ///< pen style number, 0 to 5
     std::int16_t lineWidth = 0; ///< pixels
     std::int32_t factor = 1; ///< the participation factor of marker style 3, from 1
+    bool isHidden = false; ///< not drawn
 
     bool operator==(const SeriesRecord&) const = default;
 };

@@ -89,6 +89,7 @@ private:
     void addSeries(std::string_view key, const SeriesRecord& series);
     void addReferences(std::string_view key, const std::vector<ReferenceRecord>& references);
     void addLooks(const std::vector<SeriesRecord>& series);
+    void addHidden(const std::vector<SeriesRecord>& series);
 
     std::string encoded(const std::string& text);
     std::string field(std::string_view text);
@@ -199,6 +200,7 @@ void WorkspaceWriter::addPlot(const PlotRecord& plot)
     addReferences(keys::referenceSpeed, plot.referenceSpeeds);
     addReferences(keys::dampingLine, plot.dampingLines);
     addLooks(plot.series);
+    addHidden(plot.series);
     if (plot.breaksAtJumps)
         addFurther(keys::breakAtJumps, "1");
 }
@@ -254,6 +256,14 @@ void WorkspaceWriter::addLooks(const std::vector<SeriesRecord>& series)
         addFurther(keys::numbered(keys::seriesLook, i + 1),
                    joined({std::to_string(one.lineStyle), std::to_string(one.lineWidth),
                            std::to_string(one.factor)}));
+    }
+}
+
+void WorkspaceWriter::addHidden(const std::vector<SeriesRecord>& series)
+{
+    for (std::size_t i = 0; i < series.size(); ++i) {
+        if (series[i].isHidden)
+            addFurther(keys::numbered(keys::seriesHidden, i + 1), "1");
     }
 }
 

@@ -98,6 +98,18 @@ TEST_F(FlutterReportCommandTest, writesTheStabilityOfWholeEvolutionsOnASecondShe
     EXPECT_TRUE(user.messages.empty());
 }
 
+TEST_F(FlutterReportCommandTest, containsHiddenRows)
+{
+    plot.rows().setHidden({0}, true);
+    user.texts = {"0", "1000", "0.5", "0.5"};
+    run();
+    ASSERT_EQ(opened.size(), 1);
+    const std::string path = opened[0].toStdString();
+    EXPECT_EQ(Sheet::textOf(test::readXlsx(path).cell(2, 8)), "250");
+    EXPECT_EQ(Sheet::textOf(test::readXlsx(path, 2).cell(2, 1)), "wing.evm");
+    EXPECT_TRUE(user.messages.empty());
+}
+
 TEST_F(FlutterReportCommandTest, judgesAtTheReferenceDampingAsWell)
 {
     user.texts = {"0.5", "1000", "0.5", "0.5"};

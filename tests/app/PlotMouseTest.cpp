@@ -147,14 +147,15 @@ TEST_F(PlotMouse, addsTheCommandsOfCurvesToThePopupOfThePlot)
               QStringList({QStringLiteral("Format"), QStringLiteral("Tools"), QString(),
                            QStringLiteral("&Colour, Style, Width ..."), QStringLiteral("&Tag ..."),
                            QStringLiteral("Mode &Up"), QStringLiteral("Mode &Down"),
-                           QStringLiteral("&Hide"), QStringLiteral("&Legend Text ..."),
+                           QStringLiteral("&Hide"), QStringLiteral("&Show"),
+                           QStringLiteral("Show &All Hidden"), QStringLiteral("&Legend Text ..."),
                            QStringLiteral("&Remove\tDel")}));
     Q_EMIT window.evolPlot().plotMenuRequested({50, 50}, true);
     EXPECT_TRUE(popup->isVisible());
     popup->close();
     click(pixelOf(2));
     choose("curveHide");
-    EXPECT_EQ(lastStep(), "Hide Curves");
+    EXPECT_EQ(lastStep(), "Hide Curve");
 }
 
 TEST_F(PlotMouse, listsThePlotsInTheWindowMenu)

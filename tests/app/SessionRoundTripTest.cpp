@@ -151,6 +151,8 @@ void SessionRoundTripTest::addSeries(EvmPlot& one)
         series.LineWidth = static_cast<std::int16_t>(random.below(12));
         series.IthMpf = static_cast<std::int32_t>(1 + random.below(6)); // 6 does not exist
         one.rows().add(series);
+        if (random.below(3) == 0)
+            one.rows().setHidden({one.rows().count() - 1}, true);
     }
 }
 

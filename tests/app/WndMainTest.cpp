@@ -59,7 +59,8 @@ TEST_F(WndMainTest, hasTheMenusLetterForLetter)
                             "&Add Modal Evolution ...", "&Import Solver Results ...",
                             "&Export Mix File ...", "&Recent Workspaces",
                             "Re&cent Modal Evolutions", "Quit"));
-    EXPECT_THAT(captionsOf(menu("EditMenu")), ElementsAre("&Undo", "&Redo"));
+    EXPECT_THAT(captionsOf(menu("EditMenu")),
+                ElementsAre("&Undo", "&Redo", "", "&Hide", "&Show", "Show &All Hidden"));
     EXPECT_THAT(captionsOf(menu("mnuView")),
                 ElementsAre("Data Control", "Modal Evolution Explorer", "V-g-f Plot"));
     EXPECT_THAT(captionsOf(menu("mnuFormat")), ElementsAre("Set Scale", "Break Curves at Jumps"));
@@ -81,7 +82,8 @@ TEST_F(WndMainTest, hasTheMenusLetterForLetter)
 
 TEST_F(WndMainTest, hasThePopupsOfPlotAndExplorer)
 {
-    EXPECT_THAT(captionsOf(*window.popEvmPlot()), ElementsAre("Format", "Tools"));
+    EXPECT_THAT(captionsOf(*window.popEvmPlot()),
+                ElementsAre("Format", "Tools", "Show &All Hidden"));
     const auto* const tools = window.findChild<QMenu*>(QStringLiteral("popTools"));
     EXPECT_THAT(captionsOf(*tools),
                 ElementsAre("Add Reference Speed ...", "Clear Reference Speeds",

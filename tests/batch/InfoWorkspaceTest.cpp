@@ -165,6 +165,7 @@ TEST_F(InfoOfAWorkspace, givesReferencesLooksAndEditedParameters)
     record.reference = 1;
     record.plots[0].referenceSpeeds = {{352.1F, "Vd  "}, {400, ""}};
     record.plots[0].dampingLines = {{0.01F, "g = 1.00 %"}};
+    record.plots[0].series[0].isHidden = true;
     record.plots[0].series[1].lineStyle = 2;
     record.plots[0].series[1].lineWidth = 3;
     record.plots[0].series[1].factor = 4;
@@ -173,6 +174,7 @@ TEST_F(InfoOfAWorkspace, givesReferencesLooksAndEditedParameters)
     EXPECT_THAT(text,
                 HasSubstr(R"(old.evm",null],"edited":[{"evolution":2,"airplane":"QRX",)"
                           R"("mass":"Flügel \"B\"","mach":0.62}],"reference":1,"plots")"));
+    EXPECT_THAT(text, HasSubstr(R"("line_width":0,"factor":1,"hidden":true},)"));
     EXPECT_THAT(text, HasSubstr(R"("line_style":2,"line_width":3,"factor":4}])"));
     EXPECT_THAT(text,
                 HasSubstr(R"("reference_speeds":[{"speed":352.1,"caption":"Vd  "},)"
@@ -190,7 +192,9 @@ TEST_F(InfoOfAWorkspace, givesReferencesLooksAndEditedParameters)
                           "  reference speed        400\n"
                           "  damping line           0.01  g = 1.00 %\n"
                           " evolution"));
-    EXPECT_THAT(people.out, HasSubstr("  old\n  line of series 2       style 2, 3 px\n\n"));
+    EXPECT_THAT(people.out,
+                HasSubstr("  old\n  series 1               hidden\n"
+                          "  line of series 2       style 2, 3 px\n\n"));
 }
 
 TEST_F(InfoOfAWorkspace, acceptsNoFurtherFile)

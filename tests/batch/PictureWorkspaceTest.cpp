@@ -49,6 +49,25 @@ TEST_F(PictureOfAWorkspace, isOneForEachPlot)
     EXPECT_THAT(texts("out-2.svg"), Not(HasSubstr("|t|")));
 }
 
+TEST_F(PictureOfAWorkspace, leavesOutHiddenCurves)
+{
+    WorkspaceRecord record = this->record();
+    const auto picture = [&](const char* name) {
+        const std::string path = file(name);
+        EXPECT_EQ(runBatch({"picture", "--plot=1", "--output", path, write(record)}).status, 0);
+        return fileBytes(path);
+    };
+    record.plots[0].series[0].isHidden = true;
+    const std::string svg = picture("hidden.svg");
+    const std::string emf = picture("hidden.emf");
+    EXPECT_THAT(svg, Not(HasSubstr("#0000ff")));
+    EXPECT_THAT(texts("hidden.svg"), Not(HasSubstr("|t|")));
+    EXPECT_THAT(texts("hidden.svg"), HasSubstr("|o|"));
+    record.plots[0].series.erase(record.plots[0].series.begin());
+    EXPECT_EQ(picture("without.svg"), svg);
+    EXPECT_EQ(picture("without.emf"), emf);
+}
+
 TEST_F(PictureOfAWorkspace, keepsItsNameForASinglePlot)
 {
     EXPECT_EQ(draw({"--plot", "Store", write(record())}).status, 0);

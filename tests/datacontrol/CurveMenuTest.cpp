@@ -10,7 +10,6 @@
 #include "datacontrol/MarkerPanel.h"
 #include "datacontrol/SeriesGridView.h"
 #include "datacontrol/SeriesPanel.h"
-#include "document/MdlData.h"
 
 #include <QApplication>
 #include <QTimer>
@@ -45,17 +44,19 @@ protected:
             ids.push_back(id(row));
         panel.selectRows(ids);
     }
-    QAction& action(const char* name)
+    void choose(const char* name)
     {
-        Q_EMIT menu.aboutToShow();
-        return *menu.findChild<QAction*>(QString::fromLatin1(name));
+        for (QAction* const action : menu.actions()) {
+            if (action->objectName() == QString::fromLatin1(name))
+                return action->trigger();
+        }
+        ADD_FAILURE() << name;
     }
-    void choose(const char* name) { action(name).trigger(); }
     std::string lastStep() { return history.steps().undoText().toStdString(); }
 
     MarkerPanel markers {commands};
     SeriesPanel panel {commands, markers};
-    CurveMenu menu {commands, panel, markers, nullptr};
+    CurveMenu menu {commands, panel, nullptr};
     std::vector<RowId> selected;
 };
 
@@ -110,33 +111,6 @@ TEST_F(CurveMenuTest, asksForTagAndLegend)
     EXPECT_EQ(series()[2].LegendText, QString());
     choose("curveTag"); // cancelled
     EXPECT_EQ(series()[1].MarkerTag, QStringLiteral("B x"));
-}
-
-TEST_F(CurveMenuTest, givesMarkersToEveryCurveAlsoToOneWithoutLine)
-{
-    choose("curveHide");
-    test::click(panel, "cmdDrawPlot");
-    EXPECT_EQ(series()[1].MarkerStyle, series()[0].MarkerStyle);
-    EXPECT_EQ(series()[1].LineStyle, 5) << "the line stays hidden";
-}
-
-TEST_F(CurveMenuTest, hidesCurvesUntilTheyAreShownAgain)
-{
-    change(1, [](Series& look) { look.LineStyle = 1; });
-    EXPECT_FALSE(action("curveHide").isChecked());
-    choose("curveHide");
-    EXPECT_TRUE(mdlData::isHidden(series()[1]));
-    EXPECT_FALSE(mdlData::isHidden(series()[0]));
-    EXPECT_EQ(lastStep(), "Hide Curves");
-    EXPECT_TRUE(action("curveHide").isChecked());
-    choose("curveHide");
-    EXPECT_FALSE(mdlData::isHidden(series()[1]));
-    EXPECT_EQ(series()[1].LineStyle, 0);
-    EXPECT_EQ(series()[1].MarkerStyle, series()[0].MarkerStyle);
-    EXPECT_EQ(lastStep(), "Show Curves");
-    history.undo();
-    history.undo();
-    EXPECT_EQ(series()[1].LineStyle, 1) << "undone";
 }
 
 TEST_F(CurveMenuTest, choosesTheLineOfTheSelectedRows)

@@ -10,8 +10,11 @@
 #include "vgfplot/EvmPlot.h"
 
 #include <QAbstractItemModelTester>
+#include <QApplication>
 #include <QColor>
+#include <QFont>
 #include <QIcon>
+#include <QPalette>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -88,6 +91,31 @@ TEST_F(SeriesGridModelTest, namesRowsAndColumnsForAScreenReader)
         EXPECT_EQ(heading(2, Qt::Vertical, role), "Row 3");
     EXPECT_EQ(heading(3, Qt::Vertical, Qt::DisplayRole), "") << "there are three rows";
     EXPECT_EQ(heading(6, Qt::Horizontal, Qt::AccessibleTextRole), "");
+}
+
+TEST_F(SeriesGridModelTest, showsHiddenRowsGreyAndItalicInEveryTheme)
+{
+    const QPalette usual = QApplication::palette();
+    plot.rows().setHidden({1}, true);
+    plot.rows().setMode(plot.rows().at(1).id, 9);
+    for (const QColor& grey : {QColor(120, 120, 120), QColor(140, 140, 140)}) {
+        QPalette theme = usual;
+        theme.setColor(QPalette::Disabled, QPalette::Text, grey);
+        QApplication::setPalette(theme);
+        for (const SeriesColumn column : {SeriesColumn::Index, SeriesColumn::Legend}) {
+            const QModelIndex cell = index(1, column);
+            EXPECT_EQ(model.data(cell, Qt::ForegroundRole).value<QColor>(), grey);
+            EXPECT_TRUE(model.data(cell, Qt::FontRole).value<QFont>().italic());
+            EXPECT_EQ(text(1, column, Qt::AccessibleDescriptionRole),
+                      "The curve of this row is hidden.");
+        }
+    }
+    QApplication::setPalette(usual);
+    EXPECT_TRUE(isRed(1)) << "its mode does not exist";
+    EXPECT_EQ(text(1, SeriesColumn::Evolution, Qt::ToolTipRole),
+              "/runs/case.ev2\nThe curve of this row is hidden.");
+    EXPECT_FALSE(model.data(index(0, SeriesColumn::Index), Qt::ForegroundRole).isValid());
+    EXPECT_FALSE(model.data(index(0, SeriesColumn::Index), Qt::FontRole).isValid());
 }
 
 TEST_F(SeriesGridModelTest, hasItsColumnsInTheirOrder)

@@ -179,7 +179,8 @@ private:
 
     void changeRows(EvmPlot& plot, const PlotRows::Indices& rows)
     {
-        const std::array<std::function<void()>, 10> changes = {
+        const std::array<std::function<void()>, 11> changes = {
+            [&] { plot.rows().setHidden(rows, below(2) == 0); },
             [&] { mdlData::raiseModes(plot.rows(), rows); },
             [&] { mdlData::lowerModes(plot.rows(), rows); },
             [&] { plot.rows().remove(rows); },
@@ -270,6 +271,20 @@ TEST_F(UndoHistoryTest, putsRowsBackWithTheirIdsAndLooks)
     change("Remove", [&] { plot.rows().remove({1, 2}); });
     history.undo();
     EXPECT_EQ(plot.rows().all(), before);
+}
+
+TEST_F(UndoHistoryTest, hidesAndShowsCurvesAgain)
+{
+    const QImage before = plot.Image().copy();
+    change("Hide 2 Curves", [&] { plot.rows().setHidden({0, 2}, true); });
+    const QImage hidden = plot.Image().copy();
+    EXPECT_NE(hidden, before);
+    history.undo();
+    EXPECT_TRUE(plot.rows().hidden().empty());
+    EXPECT_EQ(plot.Image(), before);
+    history.redo();
+    EXPECT_EQ(plot.rows().hidden(), (PlotRows::Indices {0, 2}));
+    EXPECT_EQ(plot.Image(), hidden);
 }
 
 TEST_F(UndoHistoryTest, makesOneStepOfAllThatAChangeDoes)

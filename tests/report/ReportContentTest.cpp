@@ -127,6 +127,9 @@ TEST_F(ReportContents, haveTheSettingsAndCurvesOfAPlot)
     EXPECT_THAT(valuesOf("Reference speed"), Contains("210 KEAS  VD"));
     EXPECT_THAT(valuesOf("Damping line"), Contains("-0.03  limit"));
     EXPECT_THAT(texts(), Contains("bending & more"));
+    for (SeriesRecord& series : input.record.plots.front().series)
+        series.isHidden = true;
+    EXPECT_THAT(texts(), Contains("(hidden) bending & more"));
 }
 
 TEST_F(ReportContents, haveTheCellsOfTheWorkbook)

@@ -149,6 +149,20 @@ TEST_F(PlotRecords, keepThatCurvesBreakAtJumpsThroughTheBytesOfAFile)
     EXPECT_TRUE(other.properties().breaksAtJumps());
 }
 
+TEST_F(PlotRecords, keepHiddenCurvesThroughTheBytesOfAFile)
+{
+    plot.rows().setHidden({0}, true);
+    const PlotRecord record = recordOf(plot, evolutions());
+    ASSERT_EQ(record.series.size(), 2U);
+    EXPECT_TRUE(record.series[0].isHidden);
+    EvmPlot other;
+    other.rows().add(*one.Modes[1]); // the rows of the file follow it
+    throughAFile(other);
+    EXPECT_THAT(other.rows().hidden(), ElementsAre(1));
+    EXPECT_EQ(recordOf(other, evolutions()).series.at(1), record.series[0]);
+    EXPECT_EQ(other.SeriesCollection().size(), 2U);
+}
+
 TEST_F(PlotRecords, replaceTheReferencesOfThePlotByThoseOfTheFile)
 {
     const PlotRecord record = recordOf(plot, evolutions());

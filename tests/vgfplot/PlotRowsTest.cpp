@@ -82,12 +82,45 @@ protected:
 
 } // namespace
 
+TEST_F(PlotRowsTest, hideCurvesWithoutAChangeOfLookOrMode)
+{
+    const SeriesList before = plot.SeriesCollection();
+    std::vector<std::size_t> changed;
+    QObject::connect(&rows(), &PlotRows::rowChanged, &rows(),
+                     [&changed](std::size_t index) { changed.push_back(index); });
+    rows().setHidden({1, 3}, true);
+    EXPECT_THAT(drawn(), ElementsAre(1, 3, 5));
+    EXPECT_EQ(rows().curveCount(), 3U);
+    EXPECT_THAT(rows().hidden(), ElementsAre(1, 3));
+    EXPECT_THAT(rows().withoutMode(), IsEmpty());
+    EXPECT_EQ(row(1).series, before[1]);
+    rows().setHidden({1}, true);
+    EXPECT_THAT(changed, ElementsAre(1, 3)) << "row 1 was hidden before";
+    rows().setHidden({0, 1, 3}, false);
+    EXPECT_EQ(plot.SeriesCollection(), before);
+    EXPECT_EQ(rows().curveCount(), 5U);
+}
+
+TEST_F(PlotRowsTest, stayHiddenWhateverChangesThem)
+{
+    rows().setHidden({1}, true);
+    setMode(1, 9);
+    setMode(1, 2);
+    rows().change(row(1).id, [](Series& look) { look.LineWidth = 3; });
+    rows().move(1, 4);
+    EXPECT_THAT(rows().hidden(), ElementsAre(4));
+    EXPECT_THAT(drawn(), ElementsAre(1, 3, 4, 5));
+    rows().remove({0});
+    EXPECT_THAT(rows().hidden(), ElementsAre(3));
+    EXPECT_EQ(rows().curveCount(), 3U);
+}
+
 TEST_F(PlotRowsTest, haveASeriesEachWhileTheirNumbersNameModes)
 {
     EXPECT_THAT(numbers(), ElementsAre(1, 2, 3, 4, 5));
     setMode(1, 5);
     EXPECT_THAT(drawn(), ElementsAre(1, 5, 3, 4, 5));
-    EXPECT_THAT(rows().withoutCurve(), IsEmpty());
+    EXPECT_THAT(rows().withoutMode(), IsEmpty());
 }
 
 TEST_F(PlotRowsTest, haveNoSeriesForANumberThatNamesNoMode)
@@ -102,7 +135,7 @@ TEST_F(PlotRowsTest, haveNoSeriesForANumberThatNamesNoMode)
         EXPECT_THAT(drawn(), ElementsAre(1, 3, 4, 5));
         EXPECT_EQ(rows().count(), 5U);
     }
-    EXPECT_THAT(rows().withoutCurve(), ElementsAre(1));
+    EXPECT_THAT(rows().withoutMode(), ElementsAre(1));
 }
 
 TEST_F(PlotRowsTest, getTheirCurveBackWithItsLookAtItsIndex)

@@ -25,6 +25,7 @@ constexpr std::string_view furtherPlot = "RefSpeed(1)=352.1|Vd\n"
                                          "RefSpeed(2)=\"-7.5|   VL \"\n"
                                          "DampLine(1)=0.01|g = 1.00 %\n"
                                          "SerieLook(2)=1|3|4\n"
+                                         "SerieHidden(1)=1\n"
                                          "BreakAtJumps=1\n";
 
 /// The whole workspace with lines appended to the section of the files and to that of the plot.
@@ -43,6 +44,7 @@ WorkspaceRecord furtherRecord()
     PlotRecord& plot = record.plots[0];
     plot.referenceSpeeds = {{352.1F, "Vd"}, {-7.5F, "   VL "}};
     plot.dampingLines = {{0.01F, "g = 1.00 %"}};
+    plot.series[0].isHidden = true;
     plot.series[1].lineStyle = 1;
     plot.series[1].lineWidth = 3;
     plot.series[1].factor = 4;
@@ -87,6 +89,7 @@ TEST(FurtherKeys, areFoundWhereverTheirSectionsGoOn)
 {
     const std::string text = with(std::string(wholeWorkspace), "Caption=Plot1\n",
                                   "serielook(2) = 1|3|4\nbreakatjumps = 1\n"
+                                  "seriehidden(1) = 1\n"
                                   "DampLine(1)=0.01|g = 1.00 %\n"
                                   "REFSPEED(2)=\"-7.5|   VL \"\nRefSpeed(1)=352.1|Vd\n"
                                   "Caption=Plot1\n");
@@ -109,6 +112,8 @@ TEST(FurtherKeys, arePassedOverWhereTheyDoNotFit)
     expectUnused("", "SerieLook(2)=1|32768|1\n", "Overflow");
     expectUnused("", "SerieLook(2)=1|2|-1\n", "factor index -1");
     expectUnused("", "SerieLook(2)=1|2|2147483648\n", "Overflow");
+    expectUnused("", "SerieHidden(1)=yes\n", "Type mismatch");
+    expectUnused("", "SerieHidden(2)=\n", "Type mismatch");
     expectUnused("Edited(1)=a|m\n", "", "needs 3 fields and has 2");
     expectUnused("Edited(1)=a|m|\n", "", "Type mismatch");
     expectUnused("Edited(1)=a|m|1e300\n", "", "Overflow");
@@ -135,8 +140,14 @@ TEST(FurtherKeys, ofFilesAndCurvesThatThereAreNotArePassedOver)
 {
     EXPECT_EQ(readDrawn(drawing("Edited(0)=a|m|1\nEdited(3)=a|m|1\n",
                                 "SerieLook(0)=1|1|1\nSerieLook(3)=1|1|1\nRefSpeed(0)=1|a\n"
+                                "SerieHidden(0)=1\nSerieHidden(3)=1\n"
                                 "DampLine(2)=1|b\n[PLOT2]\nRefSpeed(1)=1|a\n")),
               wholeRecord());
+}
+
+TEST(FurtherKeys, hideNoCurveByTheNumber0)
+{
+    EXPECT_EQ(readDrawn(drawing("", "SerieHidden(1)=0\n")), wholeRecord());
 }
 
 TEST(FurtherKeys, useTheFirstFactorWhereNobodyChoseOne)

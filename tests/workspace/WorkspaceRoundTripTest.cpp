@@ -80,6 +80,7 @@ SeriesRecord Generator::series()
     record.colorIndex = integer<std::int32_t>();
     record.markerForegroundColor = integer<std::int32_t>();
     if (below(2) == 0) {
+        record.isHidden = below(3) == 0;
         record.lineStyle = static_cast<std::int32_t>(below(6));
         record.lineWidth = static_cast<std::int16_t>(integer<std::uint16_t>() / 2);
         record.factor = static_cast<std::int32_t>(1 + integer<std::uint32_t>() / 4);
