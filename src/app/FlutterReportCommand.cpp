@@ -6,9 +6,9 @@
 #include "analysis/SheetWriter.h"
 #include "analysis/StabilitySheet.h"
 #include "app/LeftOutRows.h"
-#include "base/numbers/Numbers.h"
 #include "base/user/BusyStatus.h"
 #include "base/user/ErrorGuard.h"
+#include "base/user/UserInterface.h"
 #include "model/EVM.h"
 #include "vgfplot/EvmPlot.h"
 
@@ -26,7 +26,6 @@ namespace tarsil {
 namespace {
 
 constexpr std::string_view module = "wndMain";
-constexpr std::string_view questionTitle = "Tarsil";
 constexpr std::string_view busy = "Calculate Flutter Speeds. Please Wait ...";
 
 /// The path of a file in the folder that does not exist yet.
@@ -70,28 +69,24 @@ void FlutterReportCommand::run(const EvmPlot& plot, const AirplaneInfo& airplane
 {
     guarded(m_userInterface, module, [&] {
         showLeftOutRows({&plot}, "the flutter report", m_userInterface);
-        const auto dampingText = ask(FlutterReport::dampingPrompt);
-        if (!dampingText || dampingText->empty())
+        const auto answers = m_questions.ask();
+        if (!answers)
             return;
-        const auto limitText = ask(FlutterReport::speedLimitPrompt);
-        if (!limitText || limitText->empty())
-            return;
-        const double damping = toDouble(*dampingText, module, "reference damping");
-        const double limit = toDouble(*limitText, module, "speed limit");
         const BusyStatus status(m_userInterface, busy);
-        const Sheet table = flutterTable(plot, damping, limit);
-        open(write(table, stabilityTable(plot, airplane, damping), folder));
+        const Sheet table = flutterTable(plot, *answers);
+        open(write(table, stabilityTable(plot, airplane, answers->referenceDamping), folder));
     });
 }
 
-Sheet FlutterReportCommand::flutterTable(const EvmPlot& plot, double damping, double speedLimit)
+Sheet FlutterReportCommand::flutterTable(const EvmPlot& plot, const FlutterAnswers& answers)
 {
     Sheet sheet;
     guarded(m_userInterface, module, [&] {
         const auto askHere = [this](const AeMode& mode, std::string_view prompt) {
-            return askMach(mode, prompt);
+            return m_questions.askMach(mode, prompt, busy);
         };
-        FlutterReport(damping, speedLimit, askHere).write(rowsOf(plot), sheet);
+        FlutterReport(answers.referenceDamping, answers.speedLimit, askHere)
+            .write(rowsOf(plot), sheet);
     });
     return sheet;
 }
@@ -102,7 +97,7 @@ Sheet FlutterReportCommand::stabilityTable(const EvmPlot& plot, const AirplaneIn
     const std::string program = "Tarsil " + QCoreApplication::applicationVersion().toStdString();
     StabilityReport report {{}, reportSettings(damping), program};
     for (const EVM* evolution : evolutionsOf(plot)) {
-        StabilityInput input {evolution, answeredMach(*evolution), std::nullopt};
+        StabilityInput input {evolution, m_questions.answeredMach(*evolution), std::nullopt};
         if (!airplane.FlutterEnvs.empty())
             input.required = requiredSpeed(*evolution, airplane, Requirement());
         report.evolutions.push_back(judged(input, report.settings));
@@ -110,16 +105,6 @@ Sheet FlutterReportCommand::stabilityTable(const EvmPlot& plot, const AirplaneIn
     Sheet sheet(stabilitySheetTitle);
     writeStability(report, sheet);
     return sheet;
-}
-
-/// The last answer of the user for an evolution; 0 when there is none.
-float FlutterReportCommand::answeredMach(const EVM& evolution) const
-{
-    const auto answer = m_machAnswers.find(evolution.path());
-    float mach = 0;
-    if (answer == m_machAnswers.end() || parseSingle(answer->second, mach) != NumberStatus::Ok)
-        return 0;
-    return mach;
 }
 
 QString FlutterReportCommand::write(const Sheet& table, const Sheet& stability,
@@ -137,30 +122,6 @@ void FlutterReportCommand::open(const QString& path)
         m_userInterface.showMessage("The flutter report is in the file\n" + path.toStdString()
                                         + "\nNo program to open it was found.",
                                     "Tarsil", MessageIcon::None);
-}
-
-std::optional<std::string> FlutterReportCommand::ask(std::string_view prompt)
-{
-    return m_userInterface.askText(std::string(prompt), std::string(questionTitle), {});
-}
-
-/// The title names evolution and mode, because the prompt does not. Offers the last answer for the
-/// same evolution.
-std::optional<std::string> FlutterReportCommand::askMach(const AeMode& mode,
-                                                         std::string_view prompt)
-{
-    const EVM& evolution = *mode.Parent;
-    m_userInterface.showStatus(evolution.FileName);
-    std::string& last = m_machAnswers[evolution.path()];
-    auto answer = m_userInterface.askText(std::string(prompt),
-                                          std::string(questionTitle) + " - " + evolution.FileName
-                                              + ", mode " + std::to_string(mode.Id),
-                                          last);
-    m_userInterface.showStatus(busy);
-    float mach = 0;
-    if (answer && parseSingle(*answer, mach) == NumberStatus::Ok)
-        last = *answer;
-    return answer;
 }
 
 } // namespace tarsil

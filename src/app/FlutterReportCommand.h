@@ -2,20 +2,17 @@
 #pragma once
 
 #include "analysis/Sheet.h"
+#include "app/FlutterQuestions.h"
 #include "base/user/UserInterface.h"
 
 #include <functional>
-#include <map>
-#include <string>
-#include <vector>
+#include <utility>
 
 class QString;
 
 namespace tarsil {
 
-class AeMode;
 class AirplaneInfo;
-class EVM;
 class EvmPlot;
 
 /// The command "Calculate Flutter Speeds": asks for the reference damping and the speed limit,
@@ -30,7 +27,7 @@ public:
     using FileOpener = std::function<bool(const QString&)>;
 
     FlutterReportCommand(UserInterface& userInterface, FileOpener opener)
-        : m_userInterface(userInterface), m_opener(std::move(opener))
+        : m_userInterface(userInterface), m_questions(userInterface), m_opener(std::move(opener))
     { }
 
     /// Writes the workbook to `folder`. First shows which rows of the plot have no curve and are
@@ -40,17 +37,14 @@ public:
     void run(const EvmPlot& plot, const AirplaneInfo& airplane, const QString& folder);
 
 private:
-    std::optional<std::string> ask(std::string_view prompt);
-    std::optional<std::string> askMach(const AeMode& mode, std::string_view prompt);
-    Sheet flutterTable(const EvmPlot& plot, double damping, double speedLimit);
+    Sheet flutterTable(const EvmPlot& plot, const FlutterAnswers& answers);
     Sheet stabilityTable(const EvmPlot& plot, const AirplaneInfo& airplane, double damping) const;
-    float answeredMach(const EVM& evolution) const;
     QString write(const Sheet& table, const Sheet& stability, const QString& folder) const;
     void open(const QString& path);
 
     UserInterface& m_userInterface;
+    FlutterQuestions m_questions;
     FileOpener m_opener;
-    std::map<std::string, std::string> m_machAnswers; ///< by path of the evolution
 };
 
 } // namespace tarsil

@@ -22,6 +22,7 @@
 #include "options/DlgOptions.h"
 #include "plotwindow/DlgPlotProp.h"
 #include "plotwindow/WndEvolPlot.h"
+#include "printing/PrintDialog.h"
 #include "stability/TrendWindow.h"
 #include "stability/WndStability.h"
 #include "vgfplot/EvmPlot.h"
@@ -99,7 +100,8 @@ wndMain::wndMain(UserInterface& userInterface, FlutterReportCommand::FileOpener 
                  OptionsStore store)
     : m_userInterface(userInterface), m_workspace(m_document, userInterface),
       m_store(std::move(store)), m_memory(m_store.memory()), m_recovery(folderOf(m_store.path())),
-      m_report(userInterface, std::move(opener)), m_tracking(m_document, userInterface),
+      m_report(userInterface, std::move(opener)), m_reportDocument(m_document, userInterface),
+      m_tracking(m_document, userInterface),
       m_reportFolder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)),
       m_area(new QMdiArea(this)), m_statusPanels(new StatusPanels(this))
 {
@@ -459,6 +461,18 @@ void wndMain::ExportMenu_Click()
     mdlMix::exportMixed(modes, m_userInterface);
 }
 
+void wndMain::writeDocument()
+{
+    m_reportDocument.run();
+}
+
+void wndMain::showPrint()
+{
+    if (!m_print)
+        m_print = std::make_unique<PrintDialog>(m_document, m_userInterface, this);
+    m_print->open();
+}
+
 void wndMain::QuitMenu_Click()
 {
     close();
@@ -672,6 +686,7 @@ void wndMain::closeDialogs()
     m_trend.reset();
     m_options.reset();
     m_import.reset();
+    m_print.reset();
     m_guide.reset();
 }
 

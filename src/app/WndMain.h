@@ -4,6 +4,7 @@
 #include "app/ChildLayout.h"
 #include "app/FlutterReportCommand.h"
 #include "app/RecentFiles.h"
+#include "app/ReportDocumentCommand.h"
 #include "app/TrackingCommands.h"
 #include "app/WorkspaceCommands.h"
 #include "base/user/UserInterface.h"
@@ -32,6 +33,7 @@ class dlgDampLine;
 class dlgImport;
 class dlgOptions;
 class dlgRefSpeed;
+class PrintDialog;
 class wndGuide;
 class wndData;
 class wndEvolExplorer;
@@ -128,6 +130,8 @@ private:
     void AddMenu_Click();
     void ImportMenu_Click();
     void ExportMenu_Click();
+    void writeDocument();
+    void showPrint();
     void QuitMenu_Click();
     void mnuUndo_Click();
     void mnuRedo_Click();
@@ -177,6 +181,7 @@ private:
     OptionsStore m_memory; ///< of the windows
     std::optional<RecoveryCopy> m_recovery; ///< until the program ends
     FlutterReportCommand m_report;
+    ReportDocumentCommand m_reportDocument;
     TrackingCommands m_tracking;
     QString m_reportFolder;
     QMdiArea* m_area;
@@ -198,6 +203,7 @@ private:
     std::unique_ptr<TrendWindow> m_trend;
     std::unique_ptr<dlgOptions> m_options;
     std::unique_ptr<dlgImport> m_import; ///< while it is open
+    std::unique_ptr<PrintDialog> m_print;
     std::unique_ptr<wndGuide> m_guide;
 };
 

@@ -45,6 +45,7 @@ void wndMain::showHelp()
     m_userInterface.showMessage(
         "Ctrl+N, Ctrl+O, Ctrl+S  start, open and save a workspace\n"
         "Ctrl+Shift+O  adds modal evolutions\n"
+        "Ctrl+P  prints plots\n"
         "Files dropped on the window are opened, those of solvers imported\n"
         "Ctrl+Z, Ctrl+Shift+Z  undo the last change, and make it again\n"
         "Ctrl+C  on a plot copies its picture\n"

@@ -46,6 +46,8 @@ std::vector<wndMain::CommandMenu> wndMain::commandTable()
           {"AddMenu", nullptr, "&Add Modal Evolution ...", &wndMain::AddMenu_Click, "Ctrl+Shift+O"},
           {"ImportMenu", nullptr, "&Import Solver Results ...", &wndMain::ImportMenu_Click},
           {"ExportMenu", nullptr, "&Export Mix File ...", &wndMain::ExportMenu_Click},
+          {"writeDocument", nullptr, "&Write Report ...", &wndMain::writeDocument},
+          {"printPlots", nullptr, "&Print Plots ...", &wndMain::showPrint, "Ctrl+P"},
           {"QuitMenu", nullptr, "Quit", &wndMain::QuitMenu_Click, "Ctrl+Q"}}},
         {"mnuView",
          "&View",

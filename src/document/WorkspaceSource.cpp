@@ -24,6 +24,12 @@ WorkspaceSource readWorkspaceSource(const std::string& path)
     return source;
 }
 
+std::string userNameIn(const std::string& path)
+{
+    const FileBytes file(path);
+    return tryToReadWorkspace(file.bytes(), shownPath(path)).userName;
+}
+
 WorkspaceRecord readWorkspaceFile(const std::string& path)
 {
     const FileBytes file(path);

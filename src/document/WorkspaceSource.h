@@ -31,6 +31,10 @@ struct WorkspaceSource
 /// error in the contents is part of the reading.
 WorkspaceSource readWorkspaceSource(const std::string& path);
 
+/// The user who saved a workspace file; empty when the file does not say. Errors: those of opening
+/// a file.
+std::string userNameIn(const std::string& path);
+
 /// Reads only the record of a workspace. Errors: those of opening a file and of `readWorkspace`.
 WorkspaceRecord readWorkspaceFile(const std::string& path);
 

@@ -5,8 +5,7 @@
 #include "report/ReportDate.h"
 #include "report/ReportPages.h"
 #include "report/ReportText.h"
-#include "surface/PainterContext.h"
-#include "vgfplot/DrawnPicture.h"
+#include "vgfplot/PictureWriter.h"
 
 #include <QBuffer>
 #include <QColor>
@@ -32,37 +31,12 @@ QRectF pixelsOf(const QRectF& area)
     return {area.topLeft() * pixelsPerPoint, area.size() * pixelsPerPoint};
 }
 
-/// Restores the state of a painter, also after an error.
-class SavedState
-{
-public:
-    explicit SavedState(QPainter& painter) : m_painter(painter) { m_painter.save(); }
-    ~SavedState() { m_painter.restore(); }
-    SavedState(const SavedState&) = delete;
-    SavedState& operator=(const SavedState&) = delete;
-
-private:
-    QPainter& m_painter;
-};
-
-void drawPicture(const PagePicture& picture, QPainter& painter)
-{
-    const QRectF area = pixelsOf(picture.area);
-    const double scale = area.width() / picture.picture->size().width();
-    const SavedState state(painter);
-    painter.translate(area.topLeft());
-    painter.scale(scale, scale);
-    PainterContext context(painter);
-    picture.picture->Draw(context);
-    context.flush();
-}
-
 void drawPage(const ReportPage& page, QPainter& painter)
 {
     for (const PageFill& fill : page.fills)
         painter.fillRect(pixelsOf(fill.area), QColor(fill.color));
     for (const PagePicture& picture : page.pictures)
-        drawPicture(picture, painter);
+        drawPicture(*picture.picture, painter, pixelsOf(picture.area));
     for (const PageText& text : page.texts) {
         painter.setFont(pageFont(text.font));
         painter.setPen(QColor(text.color));

@@ -50,6 +50,19 @@ void draw(const DrawnPicture& picture, QPaintDevice& device)
     painter.end();
 }
 
+/// Restores the state of a painter.
+class SavedState
+{
+public:
+    explicit SavedState(QPainter& painter) : m_painter(painter) { m_painter.save(); }
+    ~SavedState() { m_painter.restore(); }
+    SavedState(const SavedState&) = delete;
+    SavedState& operator=(const SavedState&) = delete;
+
+private:
+    QPainter& m_painter;
+};
+
 void writeSvg(const DrawnPicture& picture, QBuffer& buffer)
 {
     SvgContext context(buffer, picture.size(), picture.title());
@@ -105,6 +118,17 @@ void writeMetafile(const DrawnPicture& picture, EmfSink& sink)
     MetafileContext context(sink, description);
     picture.Draw(context);
     context.close();
+}
+
+void drawPicture(const DrawnPicture& picture, QPainter& painter, const QRectF& area)
+{
+    const SavedState state(painter);
+    const double scale = area.width() / picture.size().width();
+    painter.translate(area.topLeft());
+    painter.scale(scale, scale);
+    PainterContext context(painter);
+    picture.Draw(context);
+    context.flush();
 }
 
 QImage pictureImage(const DrawnPicture& picture, double scale)

@@ -3,11 +3,13 @@
 
 #include <QByteArray>
 #include <QImage>
+#include <QRectF>
 
 #include <memory>
 #include <string>
 
 class QMimeData;
+class QPainter;
 
 namespace tarsil {
 
@@ -22,6 +24,10 @@ enum class PictureFormat { Png, Svg, Pdf, Emf };
 
 /// Writes the picture as an Enhanced Metafile; does not commit `sink`.
 void writeMetafile(const DrawnPicture& picture, EmfSink& sink);
+
+/// Draws the picture into an area of a page, scaled to its width; for a printer or a PDF in
+/// vectors. The state of the painter is restored, also after an error.
+void drawPicture(const DrawnPicture& picture, QPainter& painter, const QRectF& area);
 
 QByteArray pictureBytes(const DrawnPicture& picture, PictureFormat format);
 

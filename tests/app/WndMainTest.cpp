@@ -57,8 +57,8 @@ TEST_F(WndMainTest, hasTheMenusLetterForLetter)
     EXPECT_THAT(captionsOf(menu("FileMenu")),
                 ElementsAre("&New Workspace", "&Open Workspace ...", "&Save Worspace",
                             "&Add Modal Evolution ...", "&Import Solver Results ...",
-                            "&Export Mix File ...", "&Recent Workspaces",
-                            "Re&cent Modal Evolutions", "Quit"));
+                            "&Export Mix File ...", "&Write Report ...", "&Print Plots ...",
+                            "&Recent Workspaces", "Re&cent Modal Evolutions", "Quit"));
     EXPECT_THAT(captionsOf(menu("EditMenu")),
                 ElementsAre("&Undo", "&Redo", "", "&Hide", "&Show", "Show &All Hidden"));
     EXPECT_THAT(captionsOf(menu("mnuView")),
