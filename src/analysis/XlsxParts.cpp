@@ -169,6 +169,15 @@ std::string textElement(const std::string& text)
     return xml + "</t>";
 }
 
+/// Whether a text extends over the empty cell to its right, which is also how it is printed. In the
+/// last column and in the headings it needs a width of its own.
+bool extendsBeyond(const Sheet& sheet, std::size_t row, std::size_t column)
+{
+    return row > 1 && column < sheet.columnCount()
+        && std::holds_alternative<std::string>(sheet.cell(row, column))
+        && Sheet::textOf(sheet.cell(row, column + 1)).empty();
+}
+
 /// Wide enough for the longest cell, up to a limit.
 double widthOf(const Sheet& sheet, std::size_t column)
 {
@@ -178,6 +187,8 @@ double widthOf(const Sheet& sheet, std::size_t column)
     constexpr double margin = 2;
     std::size_t width = narrowest;
     for (std::size_t row = 1; row <= sheet.rowCount(); ++row) {
+        if (extendsBeyond(sheet, row, column))
+            continue;
         const Sheet::Cell& cell = sheet.cell(row, column);
         std::size_t length = Sheet::textOf(cell).size();
         if (std::holds_alternative<double>(cell))

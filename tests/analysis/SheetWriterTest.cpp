@@ -191,6 +191,24 @@ TEST(SheetAsXlsx, printsLandscapeAsWideAsAPageWithHeadingsAndAFoot)
                           + example().title() + "'!$1:$1</definedName>"));
 }
 
+TEST(SheetAsXlsx, doesNotWidenAColumnForATextThatExtendsOverEmptyCells)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.file("a.xlsx");
+    Sheet sheet;
+    sheet.setText(1, 3, "last");
+    sheet.setText(2, 1, std::string(40, 'x'));
+    sheet.setText(3, 1, std::string(20, 'y'));
+    sheet.setText(3, 2, std::string(15, 'z'));
+    sheet.setNumber(3, 3, 1);
+    writeSheet(sheet, path);
+    // The longest text that has a cell beside it, or the least width of 8, and a margin of 2.
+    EXPECT_THAT(test::zipPart(path, "xl/worksheets/sheet1.xml"),
+                HasSubstr("<col min=\"1\" max=\"1\" width=\"22\" customWidth=\"1\"/>"
+                          "<col min=\"2\" max=\"2\" width=\"17\" customWidth=\"1\"/>"
+                          "<col min=\"3\" max=\"3\" width=\"10\" customWidth=\"1\"/>"));
+}
+
 TEST(SheetAsXlsx, givesEqualBytesForEqualSheets)
 {
     const TemporaryFolder folder;
