@@ -23,6 +23,11 @@ _tarsil_batch() {
     case $previous in
         --aircraft) pattern='!*.inp' ;;
         --output) pattern='' ;;
+        --palette)
+            compopt +o filenames
+            mapfile -t COMPREPLY < <(compgen -W 'standard colour-blind line-styles' -- "$word")
+            return
+            ;;
         *)
             case $command in
                 import) pattern='' ;;

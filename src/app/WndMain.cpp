@@ -334,7 +334,8 @@ void wndMain::draw(const std::vector<EVM*>& evolutions)
     curves.reserve(evolutions.size());
     for (EVM* evolution : evolutions)
         curves.push_back(allCurvesOf(*evolution));
-    const std::size_t drawn = plotCurves(activePlot(), curves);
+    const std::size_t drawn =
+        plotCurves(activePlot(), curves, {}, m_document.plots().newSeriesPalette());
     if (drawn < evolutions.size())
         m_userInterface.showMessage(
             std::to_string(evolutions.size()) + " modal evolutions are loaded. "

@@ -49,7 +49,7 @@ bool drawEvolutions(const std::vector<std::string>& paths, const PictureOptions&
         files.push_back({&evolution, selectModes(evolution, options.modes, path)});
     }
     EvmPlot plot;
-    const std::size_t drawn = plotCurves(plot, files, options.markers);
+    const std::size_t drawn = plotCurves(plot, files, options.markers, options.palette);
     const bool isWhole = reportLeftOut(paths, drawn, run);
     finish(plot, options, options.output, run);
     return isWhole;
@@ -113,14 +113,15 @@ constinit const Command pictureCommand {
     {"picture", "FILE...", anyNumber, "draws the V-g-f plot",
      "Draws the V-g-f plot of the files: frequency in the upper half, damping in the\n"
      "lower half, the speed axis between them. The plot is the one that tarsil shows for\n"
-     "the same files: each file has its own line style, and at most 500 curves are drawn;\n"
+     "the same files: each file has its own line style, unless --palette gives each curve\n"
+     "one, and at most 500 curves are drawn;\n"
      "a file that would exceed this limit is left out with a message, and the exit\n"
      "status is 1.\n"
      "\n"
      "For a workspace, which must be the only FILE, every plot is drawn as it was saved:\n"
      "with several plots out.svg becomes out-1.svg, out-2.svg and so on. Texts, scale and\n"
-     "ticks of the command line replace those of the plot; modes and markers are those of\n"
-     "its series. A series whose file or mode is missing is left out with a message; the\n"
+     "ticks of the command line replace those of the plot; modes, colours and markers are\n"
+     "those of its series. A series whose file or mode is missing is left out with a message; the\n"
      "rest is drawn, and the exit status is 1.",
      pictureOptionDescriptions},
     runPicture};

@@ -116,9 +116,19 @@ CurveMarkers markersOf(const CommandLine& line)
     return markers;
 }
 
+CurvePalette paletteOf(const CommandLine& line)
+{
+    const auto name = line.value("--palette");
+    if (!name)
+        return CurvePalette::Standard;
+    if (const auto palette = paletteNamed(*name))
+        return *palette;
+    throw wrongValue("--palette", *name, "standard, colour-blind or line-styles");
+}
+
 } // namespace
 
-constinit const std::array<OptionDescription, 14> pictureOptionDescriptions = {
+constinit const std::array<OptionDescription, 15> pictureOptionDescriptions = {
     {{"--modes", "LIST", "modes to draw; default is all"},
      plotOption,
      {"--scale", "VMIN,VMAX,FMIN,FMAX,GMIN,GMAX",
@@ -145,6 +155,9 @@ constinit const std::array<OptionDescription, 14> pictureOptionDescriptions = {
      {"--marker-spacing", "N",
       "number of points between markers; by default each\ncurve has about four markers"},
      {"--marker-size", "N", "size of the markers in points; default 8"},
+     {"--palette", "PALETTE",
+      "how curves are told apart: standard, colour-blind\n(colours for people who see no red or "
+      "green) or\nline-styles (black, for print without colours);\ndefault standard"},
      {"--output", "OUTPUT", "the file to write, which ends in .png, .svg, .pdf or\n.emf", true}}};
 
 QSize pictureSizeOf(const CommandLine& line, QSize otherwise)
@@ -173,9 +186,11 @@ PictureOptions pictureOptionsOf(const CommandLine& line)
     options.referenceSpeeds = captionedValuesOf(line, "--reference-speed");
     options.dampingLines = captionedValuesOf(line, "--damping-line");
     options.markers = markersOf(line);
+    options.palette = paletteOf(line);
     options.plot = line.value(plotOption.name);
-    checkWorkspaceOptions(line, line.operands(),
-                          {"--modes", "--marker", "--marker-spacing", "--marker-size"});
+    checkWorkspaceOptions(
+        line, line.operands(),
+        {"--modes", "--marker", "--marker-spacing", "--marker-size", "--palette"});
     return options;
 }
 

@@ -3,6 +3,7 @@
 
 #include "batch/ModeList.h"
 #include "model/PlotAxes.h"
+#include "plot/CurvePalette.h"
 #include "vgfplot/EvolutionPlotter.h"
 
 #include <QSize>
@@ -42,9 +43,10 @@ struct PictureOptions
     std::vector<CaptionedValue> referenceSpeeds;
     std::vector<CaptionedValue> dampingLines;
     CurveMarkers markers;
+    CurvePalette palette = CurvePalette::Standard;
 };
 
-extern const std::array<OptionDescription, 14> pictureOptionDescriptions;
+extern const std::array<OptionDescription, 15> pictureOptionDescriptions;
 
 /// The value of --size, or `otherwise`; UsageError for an invalid one.
 QSize pictureSizeOf(const CommandLine& line, QSize otherwise);

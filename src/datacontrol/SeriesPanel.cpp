@@ -449,8 +449,10 @@ void SeriesPanel::move(const std::function<void(EvmPlot&)>& change)
 void SeriesPanel::btnResColor_Click()
 {
     if (m_commands.activePlot() != nullptr)
-        m_commands.change(tr("Reset Colors"),
-                          [](EvmPlot& plot) { mdlData::resetColors(plot.rows()); });
+        m_commands.change(tr("Reset Colors"), [this](EvmPlot& plot) {
+            const CurvePalette palette = m_commands.document().plots().newSeriesPalette();
+            mdlData::resetColors(plot.rows(), palette);
+        });
 }
 
 /// Sets colour, style and width of the lines of the selected rows, starting from those of the

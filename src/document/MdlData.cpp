@@ -93,11 +93,16 @@ void setColor(Series& series, ColorValue color)
     series.ColorIndex = color;
 }
 
-void resetColors(PlotRows& rows)
+void resetColors(PlotRows& rows, CurvePalette palette)
 {
     std::size_t row = 0;
-    changeAll(rows,
-              [&row](Series& look) { setColor(look, BaseColors[row++ % BaseColors.size()]); });
+    changeAll(rows, [&](Series& look) {
+        Series fresh = look;
+        applyPalette(fresh, palette, row++);
+        if (look.LineStyle != penstyle::none)
+            look.LineStyle = fresh.LineStyle;
+        setColor(look, fresh.ColorIndex);
+    });
 }
 
 /// Moves blocks downwards from the last to the first, and upwards from the first to the last, so

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "plot/CurvePalette.h"
 #include "plot/Marker.h"
 #include "plot/Series.h"
 #include "vgfplot/PlotRows.h"
@@ -40,8 +41,8 @@ void changeMarkers(PlotRows& rows, const MarkerOptions& before, const MarkerOpti
 /// Sets the colour of a curve, and that of its markers if it was the same.
 void setColor(Series& series, ColorValue color);
 
-/// Sets the default colours.
-void resetColors(PlotRows& rows);
+/// Gives the rows the look of new ones: their colours, and with line styles those too.
+void resetColors(PlotRows& rows, CurvePalette palette);
 
 /// Moves rows to the gap before the row with index `target` (the number of rows means the end).
 /// They keep their order and become adjacent.

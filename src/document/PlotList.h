@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/PlotAxes.h"
+#include "plot/CurvePalette.h"
 #include "plot/Marker.h"
 
 #include <QObject>
@@ -59,6 +60,10 @@ public:
     void setNewSeriesMarkers(const MarkerOptions& markers) { m_newSeriesMarkers = markers; }
     const std::optional<MarkerOptions>& newSeriesMarkers() const { return m_newSeriesMarkers; }
 
+    /// How series that the user will add are told apart.
+    void setNewSeriesPalette(CurvePalette palette) { m_newSeriesPalette = palette; }
+    CurvePalette newSeriesPalette() const { return m_newSeriesPalette; }
+
     /// Appends a plot with the index after the highest in use; does not activate it. An empty
     /// caption becomes "Plot" and the index counted from 1: "Plot2". A caption in use gets a
     /// number: "Wing(2)". Error 6 "Overflow" for an index above 32767.
@@ -107,6 +112,7 @@ private:
     EvmPlot* m_active = nullptr;
     PlotAxes m_newPlotAxes;
     std::optional<MarkerOptions> m_newSeriesMarkers;
+    CurvePalette m_newSeriesPalette = CurvePalette::Standard;
 };
 
 } // namespace tarsil

@@ -99,7 +99,7 @@ dlgImport::dlgImport(Document& document, UserInterface& user, OptionsStore store
 {
     m_ui->setupUi(this);
     setAcceptDrops(true);
-    m_preview = new ImportPreview(this);
+    m_preview = new ImportPreview(document.plots().newSeriesPalette(), this);
     m_ui->previewLayout->insertWidget(0, m_preview, 1);
     m_ui->fraFindings->hide();
     QPalette warning = m_ui->lblDoubts->palette();

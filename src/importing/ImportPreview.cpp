@@ -12,8 +12,8 @@
 
 namespace tarsil {
 
-ImportPreview::ImportPreview(QWidget* parent)
-    : QWidget(parent), m_view(std::make_unique<EvmPlotView>(m_plot))
+ImportPreview::ImportPreview(CurvePalette palette, QWidget* parent)
+    : QWidget(parent), m_palette(palette), m_view(std::make_unique<EvmPlotView>(m_plot))
 {
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -35,7 +35,7 @@ void ImportPreview::showEvolution(std::unique_ptr<EVM> evolution)
     m_evolution = std::move(evolution);
     m_view->setVisible(m_evolution != nullptr);
     if (m_evolution)
-        plotCurves(m_plot, {allCurvesOf(*m_evolution)});
+        plotCurves(m_plot, {allCurvesOf(*m_evolution)}, {}, m_palette);
 }
 
 } // namespace tarsil

@@ -11,10 +11,15 @@
 #include "base/user/UserInterface.h"
 #include "document/Document.h"
 #include "options/ListInput.h"
+#include "plot/CurvePalette.h"
 #include "plotwindow/InputMessage.h"
 #include "vgfplot/EvmPlot.h"
 
+#include <QCheckBox>
+#include <QComboBox>
+
 #include <algorithm>
+#include <array>
 #include <functional>
 #include <utility>
 
@@ -25,7 +30,13 @@ namespace {
 constexpr std::string_view moduleName = "dlgOptions";
 constexpr std::string_view aircraftFilter =
     "Aircraft information data file (*.inp)|*.inp|All Files (*.*)|*.*|";
+const QString lineStylesOn = QStringLiteral("on"); ///< in the options file
+const QString lineStylesOff = QStringLiteral("off");
 constexpr std::size_t firstTicks = 6; ///< index in the entries
+
+constexpr std::array colourChoices = {
+    std::pair(CurvePalette::Standard, "standard"),
+    std::pair(CurvePalette::ColorBlind, "for people who see no red or green")};
 
 std::int16_t countOf(float number, std::string_view where = {})
 {
@@ -53,6 +64,10 @@ dlgOptions::dlgOptions(Document& document, UserInterface& user, OptionsStore sto
     m_missingFile = std::make_unique<InputMessage>(*m_ui->txtAcInfo);
     m_scaleInput = std::make_unique<ListInput>(*m_ui->txtVgfScale, 6, QStringLiteral("six"));
     m_thicksInput = std::make_unique<ListInput>(*m_ui->txtVgfThicks, 3, QStringLiteral("three"));
+    for (const auto& [palette, caption] : colourChoices)
+        m_ui->cboColours->addItem(QString::fromLatin1(caption),
+                                  QString::fromStdString(std::string(nameOf(palette))));
+    connect(m_ui->chkLineStyles, &QCheckBox::toggled, m_ui->cboColours, &QWidget::setDisabled);
     connect(m_ui->txtAcInfo, &QLineEdit::textChanged, this, &dlgOptions::showWhetherFileIsThere);
     connect(m_ui->btnAcInfo, &QPushButton::clicked, this, &dlgOptions::btnAcInfo_Click);
     connect(m_ui->btnOK, &QPushButton::clicked, this, &dlgOptions::btnOK_Click);
@@ -63,7 +78,7 @@ dlgOptions::dlgOptions(Document& document, UserInterface& user, OptionsStore sto
 dlgOptions::~dlgOptions() = default;
 
 /// Faulty lists take effect for this run only: the path of the aircraft information file is kept,
-/// even if they prevented reading it.
+/// even if they prevented reading it, and new curves get their look.
 void dlgOptions::GetOptReg()
 {
     OptionTexts stored;
@@ -71,7 +86,9 @@ void dlgOptions::GetOptReg()
     m_ui->txtAcInfo->setText(stored.acInfoDataFile);
     m_ui->txtVgfScale->setText(stored.vgfScale);
     m_ui->txtVgfThicks->setText(stored.vgfThicks);
+    showPalette(stored);
     if (!ApplyOpt()) {
+        applyPalette();
         AirplaneInfo airplane = m_document.airplane();
         airplane.Filename = stored.acInfoDataFile.toStdString();
         m_document.setAirplane(std::move(airplane));
@@ -87,7 +104,28 @@ void dlgOptions::SetOptReg() const
 OptionTexts dlgOptions::textsToKeep() const
 {
     return {QString::fromStdString(m_document.airplane().Filename), m_ui->txtVgfScale->text(),
-            m_ui->txtVgfThicks->text()};
+            m_ui->txtVgfThicks->text(), m_ui->cboColours->currentData().toString(),
+            m_ui->chkLineStyles->isChecked() ? lineStylesOn : lineStylesOff};
+}
+
+/// An unknown text means the default.
+void dlgOptions::showPalette(const OptionTexts& stored)
+{
+    m_ui->cboColours->setCurrentIndex(std::max(m_ui->cboColours->findData(stored.curveColours), 0));
+    m_ui->chkLineStyles->setChecked(stored.curveLineStyles == lineStylesOn);
+}
+
+CurvePalette dlgOptions::palette() const
+{
+    const std::string colours = m_ui->cboColours->currentData().toString().toStdString();
+    return m_ui->chkLineStyles->isChecked()
+        ? CurvePalette::LineStyles
+        : paletteNamed(colours).value_or(CurvePalette::Standard);
+}
+
+void dlgOptions::applyPalette()
+{
+    m_document.plots().setNewSeriesPalette(palette());
 }
 
 void dlgOptions::UpDateOpt()
@@ -110,6 +148,7 @@ bool dlgOptions::ApplyOpt()
         UpDateOpt();
         readAircraftFile();
         applyAxes();
+        applyPalette();
     });
 }
 

@@ -3,6 +3,7 @@
 
 #include "model/PlotAxes.h"
 #include "options/OptionsStore.h"
+#include "plot/CurvePalette.h"
 
 #include <QDialog>
 
@@ -22,7 +23,8 @@ namespace Ui {
 class dlgOptions;
 }
 
-/// The dialog "Options": the aircraft information file, and the scale and tick counts of new plots.
+/// The dialog "Options": the aircraft information file, the scale and tick counts of new plots, and
+/// the look of new curves.
 /// It exists for the whole run and is only hidden, so that its inputs keep their contents. Saved
 /// are the contents of the inputs, and of the aircraft information file the path last applied. A
 /// sign marks a file that does not exist.
@@ -53,8 +55,8 @@ public:
 
     /// Reads the aircraft information file, if it exists, and sets the axes of the active plot (of
     /// the first one when none is active) and of new plots. An empty list leaves the plot unchanged
-    /// and gives new plots the default axes. A list that does not fit changes nothing. Reports
-    /// errors; returns false if a list is faulty, with nothing changed.
+    /// and gives new plots the default axes. A list that does not fit changes nothing. Sets the
+    /// look of new curves. Reports errors; returns false if a list is faulty, with nothing changed.
     bool ApplyOpt();
 
     /// Makes a file the aircraft information file and reads it, as if it had been chosen and
@@ -73,6 +75,9 @@ private:
 
     void readAircraftFile();
     void applyAxes();
+    CurvePalette palette() const;
+    void applyPalette();
+    void showPalette(const OptionTexts& stored);
     void showWhetherFileIsThere();
     OptionTexts textsToKeep() const;
     EvmPlot& vgfPlot() const;

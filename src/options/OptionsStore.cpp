@@ -30,11 +30,14 @@ struct Key
 {
     std::string_view name;
     QString OptionTexts::*text;
+    bool isShown; ///< written even when it is not set, so that people see that it exists
 };
 
-constexpr std::array<Key, 3> keys = {{{"AcInfoDataFile", &OptionTexts::acInfoDataFile},
-                                      {"vgfScale", &OptionTexts::vgfScale},
-                                      {"vgfThicks", &OptionTexts::vgfThicks}}};
+constexpr std::array<Key, 5> keys = {{{"AcInfoDataFile", &OptionTexts::acInfoDataFile, true},
+                                      {"vgfScale", &OptionTexts::vgfScale, true},
+                                      {"vgfThicks", &OptionTexts::vgfThicks, true},
+                                      {"curveColours", &OptionTexts::curveColours, false},
+                                      {"curveLineStyles", &OptionTexts::curveLineStyles, false}}};
 
 /// The bytes of the file; empty when it does not exist.
 std::string bytesOf(const std::string& path)
@@ -155,8 +158,8 @@ void OptionsStore::write(const OptionTexts& texts, const OptionTexts& before) co
     for (const Key& key : keys) {
         if (texts.*key.text != before.*key.text)
             file.setValue(section, key.name, texts.*key.text);
-        else if (!file.value(section, key.name))
-            file.setValue(section, key.name, QString()); // shows people which keys exist
+        else if (key.isShown && !file.value(section, key.name))
+            file.setValue(section, key.name, QString());
     }
     writeFile(m_path, file.bytes());
 }

@@ -19,6 +19,8 @@ struct OptionTexts
     QString acInfoDataFile; ///< path of the aircraft information file
     QString vgfScale; ///< vmin|vmax|gmin|gmax|fmin|fmax; KEAS, dimensionless, Hz
     QString vgfThicks; ///< ticks of the speed, damping and frequency axis
+    QString curveColours; ///< colours of new curves: the name of a `CurvePalette` of colours
+    QString curveLineStyles; ///< "on": line styles instead of colours
 
     bool operator==(const OptionTexts&) const = default;
 };
@@ -60,6 +62,8 @@ struct RememberedPair
 ///     AcInfoDataFile=/home/me/wing.inp
 ///     vgfScale=0|700|0|-0.25|0|50
 ///     vgfThicks=7|5|5
+///     curveColours=colour-blind
+///     curveLineStyles=off
 ///     [Import]
 ///     Folder1=/home/me/runs
 ///     Units1=ft/s|1|ratio|

@@ -62,7 +62,7 @@ void wndEvolPlot::RemovePlot(EvmPlot* plot)
 void wndEvolPlot::AddSerie(AeMode& mode)
 {
     if (hasActivePlot())
-        ActivePlot()->rows().add(mode, m_plots.newSeriesMarkers());
+        ActivePlot()->rows().add(mode, m_plots.newSeriesMarkers(), m_plots.newSeriesPalette());
 }
 
 void wndEvolPlot::FitPlot(EvmPlot* plot)

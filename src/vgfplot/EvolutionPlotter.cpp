@@ -3,11 +3,11 @@
 
 #include "base/numbers/NumberFormat.h"
 #include "model/EVM.h"
+#include "plot/LineStyles.h"
 #include "vgfplot/EvmPlot.h"
 #include "vgfplot/ScaleFit.h"
 
 #include <algorithm>
-#include <array>
 #include <set>
 
 namespace tarsil {
@@ -16,11 +16,6 @@ namespace {
 
 constexpr std::size_t markersPerCurve = 4;
 constexpr qsizetype mostNames = 6; ///< more do not fit on a line
-
-/// In the order of use. Long dashes come last: dashes begin anew at every point, and between close
-/// points there is no room for their gaps.
-constexpr std::array lineStyles = {penstyle::solid, penstyle::dot, penstyle::dashDot,
-                                   penstyle::dashDotDot, penstyle::dash};
 
 using Evolutions = std::vector<EVM*>;
 
@@ -83,13 +78,23 @@ std::int32_t usualSpacing(const AeMode& mode)
         std::max<std::size_t>(mode.Points.size() / markersPerCurve, 2));
 }
 
-void addCurves(EvmPlot& plot, const EvolutionCurves& curves, const CurveMarkers& markers,
+/// The look of the curves of files.
+struct CurveLook
+{
+    const CurveMarkers& markers;
+    CurvePalette palette;
+};
+
+void addCurves(EvmPlot& plot, const EvolutionCurves& curves, const CurveLook& look,
                std::size_t file)
 {
+    const CurveMarkers& markers = look.markers;
     std::vector<Series> added;
     for (AeMode* mode : curves.modes) {
-        Series& series = added.emplace_back(newSeries(*mode, plot.rows().count() + added.size()));
-        series.LineStyle = lineStyles[file % lineStyles.size()];
+        const std::size_t row = plot.rows().count() + added.size();
+        Series& series = added.emplace_back(newSeries(*mode, row, look.palette));
+        if (look.palette != CurvePalette::LineStyles)
+            series.LineStyle = lineStylesInUse[file % lineStylesInUse.size()];
         series.LegendText = QString::fromStdString(curves.evolution->FileName);
         series.MarkerStyle = markerNumber(markers.kind);
         series.IthMpf = markers.factor;
@@ -122,7 +127,7 @@ EvolutionCurves allCurvesOf(EVM& evolution)
 }
 
 std::size_t plotCurves(EvmPlot& plot, const std::vector<EvolutionCurves>& files,
-                       const CurveMarkers& markers)
+                       const CurveMarkers& markers, CurvePalette palette)
 {
     const bool isNew =
         plot.SeriesCollection().empty() && plot.axes().bounds() == PlotAxes().bounds();
@@ -131,7 +136,7 @@ std::size_t plotCurves(EvmPlot& plot, const std::vector<EvolutionCurves>& files,
     for (const EvolutionCurves& curves : files) {
         if (plot.SeriesCollection().size() + curves.modes.size() > mostCurves)
             break;
-        addCurves(plot, curves, markers, file++);
+        addCurves(plot, curves, {markers, palette}, file++);
         drawn.push_back(curves.evolution);
     }
     if (drawn.empty())

@@ -85,11 +85,11 @@ bool PlotRow::hasCurve() const
     return hasMode() && !isHidden;
 }
 
-Series newSeries(AeMode& mode, std::size_t row)
+Series newSeries(AeMode& mode, std::size_t row, CurvePalette palette)
 {
     Series series;
     series.Mode = &mode;
-    series.ColorIndex = BaseColors[row % BaseColors.size()];
+    applyPalette(series, palette, row);
     series.MarkerTag = QString::number(row);
     return series;
 }
@@ -145,9 +145,9 @@ void PlotRows::forgetIndices()
     m_indices.clear();
 }
 
-RowId PlotRows::add(AeMode& mode, const std::optional<MarkerOptions>& markers)
+RowId PlotRows::add(AeMode& mode, const std::optional<MarkerOptions>& markers, CurvePalette palette)
 {
-    Series series = newSeries(mode, count());
+    Series series = newSeries(mode, count(), palette);
     if (markers) {
         series.MarkerForegroundColor = series.ColorIndex;
         markers->applyTo(series);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "plot/CurvePalette.h"
 #include "plot/Marker.h"
 #include "plot/Series.h"
 
@@ -39,9 +40,9 @@ struct PlotRow
     bool operator==(const PlotRow&) const = default;
 };
 
-/// The series of a new curve in a row, counted from 0: colour row mod 7 of `BaseColors`, and the
-/// row number as tag.
-Series newSeries(AeMode& mode, std::size_t row);
+/// The series of a new curve in a row, counted from 0: the look of the row in the palette, in the
+/// standard one colour row mod 7 of `BaseColors`; and the row number as tag.
+Series newSeries(AeMode& mode, std::size_t row, CurvePalette palette = CurvePalette::Standard);
 
 /// The rows of a plot in drawing order, counted from 0. A row whose number does not exist keeps its
 /// number and look, and gets a curve again with the next valid number.
@@ -82,7 +83,8 @@ public:
     /// Appends a row with the series of a mode (`newSeries`); the markers get the colour of the
     /// curve. Rows without a curve count for the colour, so that none has the look of another when
     /// its curve returns.
-    RowId add(AeMode& mode, const std::optional<MarkerOptions>& markers = {});
+    RowId add(AeMode& mode, const std::optional<MarkerOptions>& markers = {},
+              CurvePalette palette = CurvePalette::Standard);
 
     /// Appends rows with one signal.
     void add(std::vector<Series> series);

@@ -326,3 +326,31 @@ TEST_F(PictureCommand, refusesWrongUsage)
     }
     EXPECT_EQ(fileCount(), 1U);
 }
+
+TEST_F(PictureCommand, drawsInTheChosenPalette)
+{
+    const auto colored = [](const QImage& image) {
+        std::size_t pixels = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x)
+                pixels += QColor(image.pixel(x, y)).saturation() > 60 ? 1U : 0U;
+        }
+        return pixels;
+    };
+    const QImage standard = imageOf(draw("standard.png", {"--palette", "standard", writeEv2()}));
+    EXPECT_EQ(standard, imageOf(draw("usual.png", {writeEv2()})));
+    EXPECT_NE(standard, imageOf(draw("blind.png", {"--palette", "colour-blind", writeEv2()})));
+    const QImage black = imageOf(draw("black.png", {"--palette", "line-styles", writeEv2()}));
+    EXPECT_GT(colored(standard), 100U);
+    EXPECT_EQ(colored(black), 0U);
+}
+
+TEST_F(PictureCommand, refusesAnUnknownPalette)
+{
+    const auto result =
+        runBatch({"picture", "--palette", "gold", "--output", file("out.png"), writeEv2()});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_THAT(result.err,
+                HasSubstr("--palette: \"gold\" is not standard, colour-blind or "
+                          "line-styles"));
+}

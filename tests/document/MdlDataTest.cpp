@@ -118,7 +118,7 @@ TEST_F(MdlData, resetsColoursToThoseOfTheRowIndexes)
         one.MarkerForegroundColor = 5;
     }); // set by the user, so it stays
     setMode(0, 0); // its colour stays reserved
-    mdlData::resetColors(rows());
+    mdlData::resetColors(rows(), CurvePalette::Standard);
     setMode(0, 1);
     for (std::size_t i = 0; i < series().size(); ++i)
         EXPECT_EQ(series()[i].ColorIndex, BaseColors[i % 7]) << i;
@@ -204,4 +204,18 @@ TEST_F(MdlData, fillsLegendsWithTheNameOrAnEntryOfTheFile)
     setMode(3, 0);
     EXPECT_TRUE(mdlData::fillLegends(rows(), {}, 0));
     EXPECT_EQ(look(3).LegendText, QStringLiteral("clean wing")) << "a row without a curve";
+}
+
+TEST_F(MdlData, resetsColoursToThoseOfNewCurves)
+{
+    changeSeries(plot, 1, [](Series& one) { one.LineStyle = penstyle::none; });
+    changeSeries(plot, 2, [](Series& one) { one.LineStyle = penstyle::dashDotDot; });
+    mdlData::resetColors(rows(), CurvePalette::ColorBlind);
+    EXPECT_EQ(series()[1].ColorIndex, rgb(0, 114, 178));
+    EXPECT_EQ(series()[2].LineStyle, penstyle::dashDotDot) << "colours only";
+    mdlData::resetColors(rows(), CurvePalette::LineStyles);
+    EXPECT_EQ(series()[0].LineStyle, penstyle::solid);
+    EXPECT_EQ(series()[1].LineStyle, penstyle::none) << "without a line";
+    EXPECT_EQ(series()[2].LineStyle, penstyle::dashDot);
+    EXPECT_EQ(series()[2].ColorIndex, 0);
 }

@@ -188,7 +188,7 @@ private:
             [&] { mdlData::moveRowsDown(plot, rows); },
             [&] { mdlData::moveRows(plot, rows, below(plot.rows().count() + 1)); },
             [&] { mdlData::fillLegends(plot.rows(), rows, number() - 1); },
-            [&] { mdlData::resetColors(plot.rows()); },
+            [&] { mdlData::resetColors(plot.rows(), CurvePalette::Standard); },
             [&] {
                 const MarkerKind kind = markerTraits[below(markerTraits.size())].kind;
                 mdlData::changeMarkers(plot.rows(), {}, {number(), number(), kind, 2});
@@ -302,7 +302,7 @@ TEST_F(UndoHistoryTest, makesOneStepOfAllThatAChangeDoes)
 TEST_F(UndoHistoryTest, makesNoStepOfAChangeThatChangesNothing)
 {
     change("Lower Modes", [] {});
-    change("Reset Colors", [&] { mdlData::resetColors(plot.rows()); });
+    change("Reset Colors", [&] { mdlData::resetColors(plot.rows(), CurvePalette::Standard); });
     EXPECT_EQ(history.steps().count(), 0);
 }
 
@@ -403,7 +403,7 @@ TEST_F(UndoHistoryTest, bringsTheSamePictureBack)
     const QImage before = plot.Image().copy();
     change("Everything", [&] {
         plot.SetScale(0, 300, 0, 9, 0, -0.1F); // the damping line keeps its ends
-        mdlData::resetColors(plot.rows());
+        mdlData::resetColors(plot.rows(), CurvePalette::Standard);
         plot.rows().remove({0});
         plot.texts().setText(TextBox::Legend, QStringLiteral("legend"));
         plot.texts().move(TextBox::Legend, 3000, 3000);

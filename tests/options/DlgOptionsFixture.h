@@ -29,8 +29,11 @@ protected:
 
     void keep(const std::string& file, const std::string& scale, const std::string& thicks) const
     {
-        store.write({QString::fromStdString(file), QString::fromStdString(scale),
-                     QString::fromStdString(thicks)},
+        store.write({QString::fromStdString(file),
+                     QString::fromStdString(scale),
+                     QString::fromStdString(thicks),
+                     {},
+                     {}},
                     {});
     }
 

@@ -23,6 +23,8 @@ TEST_F(DlgOptionsTest, hasItsControlsUnderTheirNamesWithTheirCaptions)
     EXPECT_EQ(test::textIn(frame, "txtAcInfo"), "Tarsil.inp");
     EXPECT_EQ(test::textIn(frame, "txtVgfScale"), "");
     EXPECT_EQ(test::textIn(frame, "txtVgfThicks"), "");
+    EXPECT_EQ(partOf<QGroupBox>(*dialog, "fraCurves").title().toStdString(), "Look of new curves");
+    EXPECT_GT(partOf<QGroupBox>(*dialog, "fraCurves").y(), frame.y()) << "after the others";
     const std::map<std::string, std::string> captions = {{"btnAcInfo", "&Browse ..."},
                                                          {"btnOK", "OK"},
                                                          {"btnApply", "&Apply"},
@@ -35,7 +37,8 @@ TEST_F(DlgOptionsTest, namesEachInputByItsLabel)
 {
     const std::map<std::string, std::string> inputs = {{"acInfoLabel", "txtAcInfo"},
                                                        {"vgfScaleLabel", "txtVgfScale"},
-                                                       {"vgfThicksLabel", "txtVgfThicks"}};
+                                                       {"vgfThicksLabel", "txtVgfThicks"},
+                                                       {"coloursLabel", "cboColours"}};
     for (const auto& [name, input] : inputs) {
         const auto& label = partOf<QLabel>(*dialog, name);
         auto& control = partOf<QWidget>(*dialog, input);
@@ -47,8 +50,9 @@ TEST_F(DlgOptionsTest, namesEachInputByItsLabel)
 TEST_F(DlgOptionsTest, leadsTheTabKeyThroughItsControlsInOrder)
 {
     const QWidget* control = &partOf<QWidget>(*dialog, "txtAcInfo");
-    for (const char* const name : {"txtAcInfo", "btnAcInfo", "txtVgfScale", "txtVgfThicks", "btnOK",
-                                   "btnApply", "btnCancel"}) {
+    for (const char* const name :
+         {"txtAcInfo", "btnAcInfo", "txtVgfScale", "txtVgfThicks", "cboColours", "chkLineStyles",
+          "btnOK", "btnApply", "btnCancel"}) {
         EXPECT_EQ(control->objectName().toStdString(), name);
         do
             control = control->nextInFocusChain();

@@ -8,6 +8,8 @@
 #include <gmock/gmock.h>
 
 #include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
 
 #include <filesystem>
 #include <tuple>
@@ -345,4 +347,56 @@ TEST_F(DlgOptionsTest, leadToTheListThatCannotBeApplied)
     file.setFocus();
     dialog->ApplyOpt();
     EXPECT_EQ(dialog->focusWidget(), &file) << "who is in an input stays there";
+}
+
+TEST_F(DlgOptionsTest, setsTheLookOfCurvesThatWillBeAdded)
+{
+    auto& colours = test::partOf<QComboBox>(*dialog, "cboColours");
+    auto& styles = test::partOf<QCheckBox>(*dialog, "chkLineStyles");
+    EXPECT_EQ(plots().newSeriesPalette(), CurvePalette::Standard);
+    colours.setCurrentIndex(1);
+    EXPECT_EQ(plots().newSeriesPalette(), CurvePalette::Standard) << "not applied yet";
+    clickButton("btnApply");
+    EXPECT_EQ(plots().newSeriesPalette(), CurvePalette::ColorBlind);
+    styles.setChecked(true);
+    EXPECT_FALSE(colours.isEnabled());
+    clickButton("btnApply");
+    EXPECT_EQ(plots().newSeriesPalette(), CurvePalette::LineStyles);
+    styles.setChecked(false);
+    colours.setCurrentIndex(0);
+    clickButton("btnApply");
+    EXPECT_EQ(plots().newSeriesPalette(), CurvePalette::Standard);
+}
+
+TEST_F(DlgOptionsTest, keepsTheLookOfCurvesForTheNextStart)
+{
+    dialog->GetOptReg();
+    test::partOf<QComboBox>(*dialog, "cboColours").setCurrentIndex(1);
+    test::partOf<QCheckBox>(*dialog, "chkLineStyles").setChecked(true);
+    dialog->SetOptReg();
+    EXPECT_EQ(store.read().curveColours.toStdString(), "colour-blind");
+    EXPECT_EQ(store.read().curveLineStyles.toStdString(), "on");
+    dialog = std::make_unique<dlgOptions>(document, user, store);
+    dialog->GetOptReg();
+    EXPECT_EQ(test::partOf<QComboBox>(*dialog, "cboColours").currentIndex(), 1);
+    EXPECT_EQ(plots().newSeriesPalette(), CurvePalette::LineStyles);
+}
+
+TEST_F(DlgOptionsTest, ignoresAnUnknownLookOfCurves)
+{
+    folder.write("tarsil.ini", "[Options]\ncurveColours=gold\ncurveLineStyles=perhaps\n");
+    dialog->GetOptReg();
+    EXPECT_EQ(plots().newSeriesPalette(), CurvePalette::Standard);
+    dialog->SetOptReg();
+    EXPECT_EQ(test::fileBytes(store.path()),
+              "[Options]\ncurveColours=gold\ncurveLineStyles=perhaps\n")
+        << "without a change nothing is written";
+}
+
+TEST_F(DlgOptionsTest, givesCurvesTheirLookEvenWhenAListIsFaulty)
+{
+    folder.write("tarsil.ini", "[Options]\nvgfThicks=4|x|2\ncurveLineStyles=on\n");
+    dialog->GetOptReg();
+    EXPECT_EQ(user.messages.size(), 1U);
+    EXPECT_EQ(plots().newSeriesPalette(), CurvePalette::LineStyles);
 }

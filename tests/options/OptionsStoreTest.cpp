@@ -38,7 +38,7 @@ protected:
 
 OptionTexts texts(const char* file, const char* scale, const char* thicks)
 {
-    return {QString::fromUtf8(file), QString::fromUtf8(scale), QString::fromUtf8(thicks)};
+    return {QString::fromUtf8(file), QString::fromUtf8(scale), QString::fromUtf8(thicks), {}, {}};
 }
 
 } // namespace
@@ -327,4 +327,19 @@ TEST_F(OptionsStoreTest, writesNothingWhenAListStaysTheSame)
     store.rememberQuietly(remembered::windows, window);
     EXPECT_EQ(std::filesystem::last_write_time(store.path()), written);
     std::filesystem::permissions(folder.path(), std::filesystem::perms::owner_all);
+}
+
+TEST_F(OptionsStoreTest, writesTheLookOfCurvesOnlyOnceTheUserHasChosenOne)
+{
+    const OptionsStore store(folder.file("tarsil.ini"));
+    OptionTexts chosen = texts("", "", "7|5|5");
+    store.write(chosen, {});
+    const std::string usual = "[Options]\nAcInfoDataFile=\nvgfScale=\nvgfThicks=7|5|5\n";
+    ASSERT_EQ(test::fileBytes(store.path()), usual) << "as before there was a choice";
+    chosen.curveColours = QStringLiteral("colour-blind");
+    chosen.curveLineStyles = QStringLiteral("on");
+    store.write(chosen, store.read());
+    EXPECT_EQ(test::fileBytes(store.path()),
+              usual + "curveColours=colour-blind\ncurveLineStyles=on\n");
+    EXPECT_EQ(store.read(), chosen);
 }

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 using namespace tarsil;
 using test::addMode;
 
@@ -150,4 +152,28 @@ TEST_F(EvolutionPlotter, drawsTheModesAskedForWithTheMarkersAskedFor)
     EXPECT_EQ(series[1].IthMpf, 3);
     EXPECT_EQ(series[1].MarkerSpacing, 7);
     EXPECT_EQ(series[1].MarkerSize, 12);
+}
+
+TEST_F(EvolutionPlotter, tellsFilesApartByStyleAndCurvesByTheColoursOfThePalette)
+{
+    plotCurves(plot, {allCurvesOf(*one), allCurvesOf(*two)}, {}, CurvePalette::ColorBlind);
+    const SeriesList& series = plot.SeriesCollection();
+    ASSERT_EQ(series.size(), 5U);
+    EXPECT_EQ(series[0].ColorIndex, rgb(0, 0, 0));
+    EXPECT_EQ(series[1].ColorIndex, rgb(0, 114, 178));
+    EXPECT_EQ(series[1].MarkerForegroundColor, series[1].ColorIndex);
+    EXPECT_EQ(series[2].LineStyle, penstyle::solid);
+    EXPECT_EQ(series[3].LineStyle, penstyle::dot) << "the second file";
+}
+
+TEST_F(EvolutionPlotter, tellsCurvesApartByStyleWithoutColours)
+{
+    plotCurves(plot, {allCurvesOf(*one), allCurvesOf(*two)}, {}, CurvePalette::LineStyles);
+    std::set<int> styles;
+    for (const Series& series : plot.SeriesCollection()) {
+        EXPECT_EQ(series.ColorIndex, 0);
+        EXPECT_EQ(series.MarkerForegroundColor, 0);
+        styles.insert(series.LineStyle);
+    }
+    EXPECT_EQ(styles.size(), 5U);
 }
