@@ -6,8 +6,11 @@
 
 #include "app/PlotMenu.h"
 #include "datacontrol/WndData.h"
+#include "explorer/WndEvolExplorer.h"
 #include "vgfplot/EvmPlot.h"
 
+#include <QAction>
+#include <QKeySequence>
 #include <QMenu>
 #include <QMenuBar>
 
@@ -107,6 +110,7 @@ void wndMain::makeMenuBar()
         for (const Command& command : entry.commands)
             addCommand(*menu, command, command.name);
     }
+    m_explorer->showKeyOfSave(findChild<QAction*>(QStringLiteral("mnuSaveWorkspace"))->shortcut());
     addRecentFiles();
     addHideActions();
     listPlots(*findChild<QMenu*>(QStringLiteral("WindowsMenu")), m_document.plots());

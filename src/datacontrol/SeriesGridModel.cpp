@@ -7,6 +7,7 @@
 #include "document/UndoHistory.h"
 #include "model/EVM.h"
 #include "plotwindow/ToolTipText.h"
+#include "plotwindow/WarningColor.h"
 #include "vgfplot/EvmPlot.h"
 
 #include <QApplication>
@@ -93,7 +94,7 @@ QVariant missingFlag(const PlotRow& row, int role)
     case Qt::AccessibleDescriptionRole:
         return missingModeText(row);
     case Qt::ForegroundRole:
-        return QColor(Qt::red);
+        return warningColor(QGuiApplication::palette());
     default:
         return {};
     }

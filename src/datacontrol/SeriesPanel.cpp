@@ -16,11 +16,15 @@
 #include "document/MdlData.h"
 #include "model/EVM.h"
 #include "plotwindow/FilterLine.h"
+#include "plotwindow/ToolTipText.h"
 #include "vgfplot/EvmPlot.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QKeySequence>
+#include <QList>
 #include <QMenu>
 #include <QPersistentModelIndex>
 
@@ -87,6 +91,7 @@ SeriesPanel::SeriesPanel(const DataCommands& commands, MarkerPanel& markers, QWi
     prepareColumns();
     connectGrid();
     connectButtons();
+    showKeys();
     makeMoveMenu();
     makeGridMenu();
     connectFilter();
@@ -181,6 +186,18 @@ void SeriesPanel::connectButtons()
         connect(button, &QPushButton::clicked, this, command(handler));
     connect(m_ui->btnSerieMove, &QToolButton::clicked, this,
             command(&SeriesPanel::btnSerieMove_Click));
+}
+
+/// Keys of the grid that do the same as buttons.
+void SeriesPanel::showKeys()
+{
+    const std::pair<QAbstractButton*, QList<QKeySequence>> keys[] = {
+        {m_ui->cmdIncMode, {Qt::Key_Plus}},
+        {m_ui->cmdDecMode, {Qt::Key_Minus}},
+        {m_ui->cmdRemove, {QKeySequence::Delete}},
+        {m_ui->btnSerieMove, {Qt::ALT | Qt::Key_Up, Qt::ALT | Qt::Key_Down}}};
+    for (const auto& [button, own] : keys)
+        button->setToolTip(toolTipWithKeys(button->toolTip(), own));
 }
 
 /// A click moves up; the menu has the other commands.

@@ -67,6 +67,7 @@ private:
     void connectGrid();
     void prepareColumns();
     void connectButtons();
+    void showKeys();
     void makeMoveMenu();
     void makeGridMenu();
     void connectFilter();

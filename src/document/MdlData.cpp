@@ -99,8 +99,7 @@ void resetColors(PlotRows& rows, CurvePalette palette)
     changeAll(rows, [&](Series& look) {
         Series fresh = look;
         applyPalette(fresh, palette, row++);
-        if (look.LineStyle != penstyle::none)
-            look.LineStyle = fresh.LineStyle;
+        look.LineStyle = fresh.LineStyle;
         setColor(look, fresh.ColorIndex);
     });
 }

@@ -6,6 +6,7 @@
 #include "explorer/ExplorerImages.h"
 #include "explorer/WorkspaceNodes.h"
 
+#include <QKeySequence>
 #include <QPoint>
 #include <QWidget>
 
@@ -61,6 +62,10 @@ public:
 
     /// Ticks or unticks the evolutions that the filter shows.
     void tickShown(bool isTicked);
+
+    /// Shows the key of the command behind the button "Save" in its tool tip. The tool tips of the
+    /// other buttons are required as they are.
+    void showKeyOfSave(const QKeySequence& key);
 
     /// Accepts the label that is being edited, as Enter does, and closes its editor.
     void commitEdits();

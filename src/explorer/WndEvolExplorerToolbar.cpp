@@ -10,6 +10,7 @@
 #include "explorer/PlotNodes.h"
 #include "explorer/WndEvolExplorer.h"
 #include "model/EVM.h"
+#include "plotwindow/ToolTipText.h"
 #include "plotwindow/WndEvolPlot.h"
 #include "vgfplot/EvmPlot.h"
 
@@ -50,6 +51,12 @@ void wndEvolExplorer::makeToolbar()
         if (button.endsGroup)
             m_toolBar->addSeparator();
     }
+}
+
+void wndEvolExplorer::showKeyOfSave(const QKeySequence& key)
+{
+    QAction& save = *m_toolBar->findChild<QAction*>(QStringLiteral("Save"));
+    save.setToolTip(toolTipWithKeys(save.text(), {key}));
 }
 
 void wndEvolExplorer::remove_Click()

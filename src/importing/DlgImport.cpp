@@ -16,9 +16,13 @@
 #include "model/EVM.h"
 #include "plotwindow/InputMessage.h"
 #include "plotwindow/ToolTipText.h"
+#include "plotwindow/WarningColor.h"
 
+#include <QColor>
 #include <QDragEnterEvent>
 #include <QDropEvent>
+#include <QEvent>
+#include <QPalette>
 #include <QSignalBlocker>
 
 #include <cstddef>
@@ -102,15 +106,28 @@ dlgImport::dlgImport(Document& document, UserInterface& user, OptionsStore store
     m_preview = new ImportPreview(document.plots().newSeriesPalette(), this);
     m_ui->previewLayout->insertWidget(0, m_preview, 1);
     m_ui->fraFindings->hide();
-    QPalette warning = m_ui->lblDoubts->palette();
-    warning.setColor(QPalette::WindowText, QColor(0xB0, 0, 0));
-    m_ui->lblDoubts->setPalette(warning);
+    colorDoubts();
     fillUnitInputs();
     connectInputs();
     resize(960, 660);
 }
 
 dlgImport::~dlgImport() = default;
+
+void dlgImport::colorDoubts()
+{
+    QPalette warning;
+    warning.setColor(QPalette::WindowText, warningColor(palette()));
+    m_ui->lblDoubts->setPalette(warning);
+}
+
+/// The user may change the colours of the desktop while the dialog is open.
+void dlgImport::changeEvent(QEvent* event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        colorDoubts();
+}
 
 void dlgImport::connectInputs()
 {

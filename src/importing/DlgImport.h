@@ -46,10 +46,12 @@ public:
         "Solver Outputs (*.f06;*.out;*.flt)|*.f06;*.out;*.flt|All Files (*.*)|*.*|";
 
 protected:
+    void changeEvent(QEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
 private:
+    void colorDoubts();
     void connectInputs();
     void btnAdd_Click();
     void btnFolder_Click();

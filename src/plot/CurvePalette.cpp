@@ -4,6 +4,7 @@
 #include "base/numbers/ColorValue.h"
 #include "plot/LineStyles.h"
 #include "plot/Series.h"
+#include "surface/DeviceContext.h"
 
 #include <algorithm>
 
@@ -47,7 +48,8 @@ void applyPalette(Series& series, CurvePalette palette, std::size_t row)
         break;
     case CurvePalette::LineStyles:
         series.ColorIndex = blackInk;
-        series.LineStyle = inTurn(lineStylesInUse, row);
+        if (series.LineStyle != penstyle::none)
+            series.LineStyle = inTurn(lineStylesInUse, row);
         break;
     }
 }

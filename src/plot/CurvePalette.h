@@ -32,7 +32,7 @@ std::optional<CurvePalette> paletteNamed(std::string_view name);
 
 /// Gives a series the look of the row with this index, counted from 0: its colour, and with
 /// `LineStyles` the style of its line. Colours and styles are used in order and then from the start
-/// again. Everything else stays.
+/// again. A series without a line stays without; everything else stays too.
 void applyPalette(Series& series, CurvePalette palette, std::size_t row);
 
 } // namespace tarsil

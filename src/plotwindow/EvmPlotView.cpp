@@ -30,6 +30,7 @@ namespace tarsil {
 namespace {
 
 constexpr QSize leastEditorSize(420, 130);
+const QColor promptColor(118, 118, 118); ///< the lightest grey that is readable on white
 const QColor bandColor(0, 90, 200);
 const QColor bandFill(0, 90, 200, 32);
 
@@ -158,7 +159,7 @@ void EvmPlotView::setHint(const QString& text)
 
 void EvmPlotView::paintPrompts(QPainter& painter) const
 {
-    painter.setPen(Qt::gray);
+    painter.setPen(promptColor);
     for (const TextBox which : allTextBoxes) {
         const emfRichTextBox& box = m_plot.parts().box(which);
         if (!box.isEmpty() || m_editedBox == which)

@@ -2,6 +2,7 @@
 #include "plotwindow/RichTextEditor.h"
 
 #include "base/numbers/Numbers.h"
+#include "plotwindow/ToolTipText.h"
 #include "surface/QtColor.h"
 #include "vgfplot/RichTextDocument.h"
 
@@ -120,7 +121,7 @@ QAction* RichTextEditor::addToggle(QToolBar& bar, const QString& letter, const Q
 {
     auto* const action = new QAction(letter, this);
     action->setCheckable(true);
-    action->setToolTip(name);
+    action->setToolTip(toolTipWithKeys(name, {key}));
     action->setShortcut(key);
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     QTextCharFormat look;

@@ -6,6 +6,7 @@
 
 #include "analysis/ModeBuilder.h"
 #include "document/Document.h"
+#include "plotwindow/WarningColor.h"
 #include "support/ChangeSeries.h"
 #include "vgfplot/EvmPlot.h"
 
@@ -13,6 +14,7 @@
 #include <QApplication>
 #include <QColor>
 #include <QFont>
+#include <QGuiApplication>
 #include <QIcon>
 #include <QPalette>
 
@@ -65,7 +67,7 @@ protected:
         EXPECT_EQ(hasSign, !text(row, SeriesColumn::Mode, Qt::AccessibleDescriptionRole).empty());
         return hasSign
             && model.data(index(row, SeriesColumn::Mode), Qt::ForegroundRole).value<QColor>()
-            == QColor(Qt::red);
+            == warningColor(QGuiApplication::palette());
     }
 
     EVM evolution;

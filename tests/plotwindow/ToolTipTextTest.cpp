@@ -27,3 +27,14 @@ TEST(ToolTipText, showsEveryTextUnchanged)
                              "a\n<b>b</b>", "&lt;b&gt;", "  <p>", "<!doctype html>"})
         EXPECT_EQ(shown(toolTipText(QString::fromUtf8(text))).toStdString(), text);
 }
+
+TEST(ToolTipText, showsTheKeysOfACommand)
+{
+    const auto tip = [](const QList<QKeySequence>& keys) {
+        return tarsil::toolTipWithKeys(QStringLiteral("Undo"), keys).toStdString();
+    };
+    EXPECT_EQ(tip({}), "Undo");
+    EXPECT_EQ(tip({QKeySequence()}), "Undo");
+    EXPECT_EQ(tip({Qt::CTRL | Qt::Key_Z}), "Undo (Ctrl+Z)");
+    EXPECT_EQ(tip({Qt::Key_Plus, QKeySequence(), Qt::ALT | Qt::Key_Up}), "Undo (+, Alt+Up)");
+}
