@@ -10,7 +10,7 @@ namespace tarsil {
 
 namespace {
 
-/// The key of a button, here the letter that its caption underlines, as Alt and the letter.
+/// Adds the key of a button: Alt and the letter that its caption underlines.
 void showKey(QPushButton& button)
 {
     if (button.shortcut().isEmpty())

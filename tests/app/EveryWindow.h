@@ -33,7 +33,7 @@ class EveryWindow : private WithKeysInToolTips, public WndMainTest
 protected:
     void SetUp() override { load({sample("goland.tsw")}); }
 
-    /// Calls a function for every window while it is shown. A label "name" for reports.
+    /// Calls a function for every window while it is shown.
     void visit(const std::function<void(QWidget&)>& look)
     {
         choose("popTickAll");
@@ -88,7 +88,7 @@ inline bool isPartOfToolkit(const QWidget& widget)
         || widget.objectName().startsWith(u"Scroll");
 }
 
-/// A widget in reports: "dlgOptions/btnApply Apply".
+/// A widget in reports: "dlgOptions/QPushButton btnApply".
 inline std::string describe(const QWidget& window, const QWidget& widget)
 {
     return window.objectName().toStdString() + "/" + widget.metaObject()->className() + " "
