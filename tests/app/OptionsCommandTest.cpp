@@ -5,8 +5,10 @@
 #include "app/WndMainFixture.h"
 
 #include "explorer/WndEvolExplorer.h"
+#include "model/EVM.h"
 #include "options/DlgOptions.h"
 #include "support/FormParts.h"
+#include "vgfplot/EvmPlot.h"
 
 #include <gmock/gmock.h>
 
@@ -25,8 +27,11 @@ class Options : public WndMainTest
 protected:
     void keep(const std::string& file, const std::string& scale, const std::string& thicks) const
     {
-        store.write({QString::fromStdString(file), QString::fromStdString(scale),
-                     QString::fromStdString(thicks)},
+        store.write({QString::fromStdString(file),
+                     QString::fromStdString(scale),
+                     QString::fromStdString(thicks),
+                     {},
+                     {}},
                     {});
     }
 
@@ -46,6 +51,19 @@ TEST_F(Options, areInForceBeforeTheChildWindowsAreShown)
     EXPECT_EQ(window.document().airplane().FlutterMechs.size(), 3U);
     EXPECT_FALSE(dialog()->isVisible());
     EXPECT_THAT(user.messages, IsEmpty());
+}
+
+TEST_F(Options, giveCurvesThatAreAddedTheirLook)
+{
+    folder.write("tarsil.ini", "[Options]\ncurveLineStyles=on\n");
+    load({sample("goland_clean_m040.ev2")});
+    const std::size_t count = plot().rows().count();
+    ASSERT_GT(count, 1U);
+    window.evolPlot().AddSerie(*window.document().evolutions().all().front()->Modes.front());
+    ASSERT_EQ(plot().rows().count(), count + 1);
+    for (const Series& series : plot().SeriesCollection())
+        EXPECT_EQ(series.ColorIndex, 0);
+    EXPECT_NE(plot().rows().at(0).series.LineStyle, plot().rows().at(1).series.LineStyle);
 }
 
 TEST_F(Options, thatAreDamagedAreReportedAndTheProgramStarts)
