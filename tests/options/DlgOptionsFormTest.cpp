@@ -24,6 +24,7 @@ TEST_F(DlgOptionsTest, hasItsControlsUnderTheirNamesWithTheirCaptions)
     EXPECT_EQ(test::textIn(frame, "txtVgfScale"), "");
     EXPECT_EQ(test::textIn(frame, "txtVgfThicks"), "");
     EXPECT_EQ(partOf<QGroupBox>(*dialog, "fraCurves").title().toStdString(), "Look of new curves");
+    dialog->show();
     EXPECT_GT(partOf<QGroupBox>(*dialog, "fraCurves").y(), frame.y()) << "after the others";
     const std::map<std::string, std::string> captions = {{"btnAcInfo", "&Browse ..."},
                                                          {"btnOK", "OK"},
@@ -37,14 +38,19 @@ TEST_F(DlgOptionsTest, namesEachInputByItsLabel)
 {
     const std::map<std::string, std::string> inputs = {{"acInfoLabel", "txtAcInfo"},
                                                        {"vgfScaleLabel", "txtVgfScale"},
-                                                       {"vgfThicksLabel", "txtVgfThicks"},
-                                                       {"coloursLabel", "cboColours"}};
+                                                       {"vgfThicksLabel", "txtVgfThicks"}};
     for (const auto& [name, input] : inputs) {
         const auto& label = partOf<QLabel>(*dialog, name);
         auto& control = partOf<QWidget>(*dialog, input);
         EXPECT_EQ(label.buddy(), &control);
         EXPECT_EQ(label.text().remove(u'&').toStdString(), test::accessibleName(control) + ":");
     }
+}
+
+TEST_F(DlgOptionsTest, reachesTheColoursByTheLetterOfTheirLabel)
+{
+    EXPECT_EQ(partOf<QLabel>(*dialog, "coloursLabel").buddy(),
+              &partOf<QWidget>(*dialog, "cboColours"));
 }
 
 TEST_F(DlgOptionsTest, leadsTheTabKeyThroughItsControlsInOrder)
