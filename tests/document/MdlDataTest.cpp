@@ -6,6 +6,7 @@
 
 #include "analysis/ModeBuilder.h"
 #include "support/ChangeSeries.h"
+#include "surface/DeviceContext.h"
 #include "vgfplot/EvmPlot.h"
 
 #include <gmock/gmock.h>
