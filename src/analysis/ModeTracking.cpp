@@ -126,7 +126,7 @@ std::vector<bool> ambiguousRows(const CostMatrix& costs, const std::vector<std::
 
 } // namespace
 
-ModeTracking::ModeTracking(const EVM& evolution)
+ModeTracking::ModeTracking(const EVM& evolution, const Progress& progress)
 {
     const std::size_t modes = evolution.Modes.size();
     readRoots(evolution);
@@ -139,8 +139,10 @@ ModeTracking::ModeTracking(const EVM& evolution)
     m_hasJumped.assign(modes, false);
     if (modes < 2)
         return;
-    for (std::size_t point = 1; point < m_roots.size(); ++point)
+    for (std::size_t point = 1; point < m_roots.size() && m_isComplete; ++point) {
         trackStep(point);
+        m_isComplete = goesOn(progress, point, m_roots.size());
+    }
 }
 
 std::optional<std::string> ModeTracking::obstacle(const EVM& evolution)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "base/user/Progress.h"
+
 #include <complex>
 #include <cstddef>
 #include <optional>
@@ -44,8 +46,11 @@ class ModeTracking
 public:
     /// Tracks the roots of an evolution by their eigenvalues Re + i Im. The extrapolation uses the
     /// speed when all modes share the same rising speeds, otherwise the index of the point.
-    /// O(points n^3) for n modes.
-    explicit ModeTracking(const EVM& evolution);
+    /// O(points n^3) for n modes. Reports progress after each point; after a stop the tracking is
+    /// not complete, and its results are meaningless.
+    explicit ModeTracking(const EVM& evolution, const Progress& progress = {});
+
+    bool isComplete() const { return m_isComplete; }
 
     /// Why an evolution cannot be tracked: modes of unequal length, or points without eigenvalues.
     /// Empty when it can be tracked, also for a single mode.
@@ -92,6 +97,7 @@ private:
                   double largestMiss) const;
     void mark(const TrackMark& mark);
 
+    bool m_isComplete = true;
     std::vector<StepRoots> m_roots; ///< by point
     std::vector<double> m_arguments; ///< by point
     std::vector<std::vector<std::size_t>> m_modes; ///< by point and track

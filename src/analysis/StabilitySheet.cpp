@@ -81,7 +81,8 @@ public:
 
     void writeHeadings();
     void write(const EvolutionStability& stability);
-    void writeOrigin(const StabilityReport& report);
+    bool writeSources(const std::vector<EvolutionStability>& evolutions, const Progress& progress);
+    bool writeOrigin(const StabilityReport& report, const Progress& progress);
 
 private:
     void writeVerdict(const EvolutionStability& stability, const StabilityVerdict& verdict);
@@ -239,29 +240,43 @@ void StabilityWriter::writeSource(const EVM& evolution)
                         + provenance.density);
 }
 
-void StabilityWriter::writeOrigin(const StabilityReport& report)
+/// False after a stop.
+bool StabilityWriter::writeSources(const std::vector<EvolutionStability>& evolutions,
+                                   const Progress& progress)
+{
+    for (std::size_t i = 0; i < evolutions.size(); ++i) {
+        writeSource(*evolutions[i].evolution);
+        if (!goesOn(progress, i + 1, evolutions.size() + 1))
+            return false;
+    }
+    return true;
+}
+
+/// False after a stop.
+bool StabilityWriter::writeOrigin(const StabilityReport& report, const Progress& progress)
 {
     ++m_row;
     writeNote("Settings", settingsText(report.settings), CellStyle::Strong);
     writeNote("Program", report.program, CellStyle::Strong);
     writeNote("Source files", "as they are now", CellStyle::Strong);
-    for (const EvolutionStability& stability : report.evolutions)
-        writeSource(*stability.evolution);
+    if (!writeSources(report.evolutions, progress))
+        return false;
     ++m_row;
     writeNote("How to read this", "", CellStyle::Strong);
     for (const Explanation& explanation : explanations)
         writeNote(explanation.word, explanation.meaning, explanation.style);
+    return true;
 }
 
 } // namespace
 
-void writeStability(const StabilityReport& report, Sheet& sheet)
+bool writeStability(const StabilityReport& report, Sheet& sheet, const Progress& progress)
 {
     StabilityWriter writer(sheet);
     writer.writeHeadings();
     for (const EvolutionStability& stability : report.evolutions)
         writer.write(stability);
-    writer.writeOrigin(report);
+    return writer.writeOrigin(report, progress);
 }
 
 } // namespace tarsil

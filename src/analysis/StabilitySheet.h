@@ -2,6 +2,7 @@
 #pragma once
 
 #include "analysis/StabilityTable.h"
+#include "base/user/Progress.h"
 
 #include <string>
 #include <string_view>
@@ -32,7 +33,8 @@ struct StabilityReport
 ///
 /// A crossing between different roots has no speed; the remark gives its interval. At the end are
 /// the settings, the program, each source file with its present size, date and SHA-256, and the
-/// meaning of words and colours.
-void writeStability(const StabilityReport& report, Sheet& sheet);
+/// meaning of words and colours. Reports progress after each source file, which is read for this.
+/// Returns false after a stop; the sheet is not complete then.
+bool writeStability(const StabilityReport& report, Sheet& sheet, const Progress& progress = {});
 
 } // namespace tarsil

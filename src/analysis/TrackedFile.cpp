@@ -122,11 +122,14 @@ TrackingDoubt doubtOf(const EVM& evolution, const ModeTracking& tracking, const 
 
 } // namespace
 
-TrackedEvolution trackEvolution(const EVM& evolution, const std::vector<ModeExchange>& exchanges)
+TrackedEvolution trackEvolution(const EVM& evolution, const std::vector<ModeExchange>& exchanges,
+                                const Progress& progress)
 {
     if (const auto obstacle = ModeTracking::obstacle(evolution))
         refuse(evolution, "it cannot be tracked: " + *obstacle);
-    TrackedEvolution tracked {ModeTracking(evolution), {}};
+    TrackedEvolution tracked {ModeTracking(evolution, progress), {}};
+    if (!tracked.tracking.isComplete())
+        return tracked;
     for (std::size_t point = 1; point < tracked.tracking.points(); ++point)
         describeStep(evolution, tracked.tracking, point, tracked.modifications);
     for (const ModeExchange& exchange : exchanges) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "analysis/ModeTracking.h"
+#include "base/user/Progress.h"
 
 #include <string>
 #include <string_view>
@@ -28,8 +29,10 @@ struct TrackedEvolution
 
 /// Tracks an evolution and then applies exchanges of the user. Error 5 when the evolution cannot be
 /// tracked (`ModeTracking::obstacle`), when a mode number does not exist or both are equal, and
-/// when no point is above the speed.
-TrackedEvolution trackEvolution(const EVM& evolution, const std::vector<ModeExchange>& exchanges);
+/// when no point is above the speed. After a stop by `progress` the tracking is not complete
+/// (`ModeTracking::isComplete`).
+TrackedEvolution trackEvolution(const EVM& evolution, const std::vector<ModeExchange>& exchanges,
+                                const Progress& progress = {});
 
 /// The file of a tracked evolution, made from the text of its source file: the numbers stay as they
 /// are, and each exchange becomes a modification in the header. Errors: those of `relabelledEv2`.

@@ -19,7 +19,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <optional>
+#include <utility>
 
 namespace tarsil {
 
@@ -74,7 +76,10 @@ void FlutterReportCommand::run(const EvmPlot& plot, const AirplaneInfo& airplane
             return;
         const BusyStatus status(m_userInterface, busy);
         const Sheet table = flutterTable(plot, *answers);
-        open(write(table, stabilityTable(plot, airplane, answers->referenceDamping), folder));
+        if (const auto stability = stabilityTable(plot, airplane, answers->referenceDamping))
+            open(write(table, *stability, folder));
+        else
+            m_userInterface.showNote("Stopped: no workbook was written");
     });
 }
 
@@ -91,20 +96,29 @@ Sheet FlutterReportCommand::flutterTable(const EvmPlot& plot, const FlutterAnswe
     return sheet;
 }
 
-Sheet FlutterReportCommand::stabilityTable(const EvmPlot& plot, const AirplaneInfo& airplane,
-                                           double damping) const
+/// Empty after a stop. Half of the progress is the search for stretches, half the source files.
+std::optional<Sheet> FlutterReportCommand::stabilityTable(const EvmPlot& plot,
+                                                          const AirplaneInfo& airplane,
+                                                          double damping) const
 {
     const std::string program = "Tarsil " + QCoreApplication::applicationVersion().toStdString();
     StabilityReport report {{}, reportSettings(damping), program};
-    for (const EVM* evolution : evolutionsOf(plot)) {
+    const std::vector<const EVM*> evolutions = evolutionsOf(plot);
+    const std::size_t count = evolutions.size();
+    for (const EVM* evolution : evolutions) {
         StabilityInput input {evolution, m_questions.answeredMach(*evolution), std::nullopt};
         if (!airplane.FlutterEnvs.empty())
             input.required = requiredSpeed(*evolution, airplane, Requirement());
         report.evolutions.push_back(judged(input, report.settings));
+        if (!m_userInterface.showProgress(report.evolutions.size(), 2 * count + 1))
+            return std::nullopt;
     }
     Sheet sheet(stabilitySheetTitle);
-    writeStability(report, sheet);
-    return sheet;
+    const bool isComplete =
+        writeStability(report, sheet, [&](std::size_t done, std::size_t /*total*/) {
+            return m_userInterface.showProgress(count + done, 2 * count + 1);
+        });
+    return isComplete ? std::optional(std::move(sheet)) : std::nullopt;
 }
 
 QString FlutterReportCommand::write(const Sheet& table, const Sheet& stability,

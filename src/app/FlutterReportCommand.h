@@ -6,6 +6,7 @@
 #include "base/user/UserInterface.h"
 
 #include <functional>
+#include <optional>
 #include <utility>
 
 class QString;
@@ -31,14 +32,16 @@ public:
     { }
 
     /// Writes the workbook to `folder`. First shows which rows of the plot have no curve and are
-    /// left out. No answer to one of the two questions ends the command without a workbook. After
+    /// left out. No answer to one of the two questions, or a stop by the user, ends the command
+    /// without a workbook. After
     /// an error, reported in module "wndMain", the workbook contains the cells written so far and
     /// the whole second sheet.
     void run(const EvmPlot& plot, const AirplaneInfo& airplane, const QString& folder);
 
 private:
     Sheet flutterTable(const EvmPlot& plot, const FlutterAnswers& answers);
-    Sheet stabilityTable(const EvmPlot& plot, const AirplaneInfo& airplane, double damping) const;
+    std::optional<Sheet> stabilityTable(const EvmPlot& plot, const AirplaneInfo& airplane,
+                                        double damping) const;
     QString write(const Sheet& table, const Sheet& stability, const QString& folder) const;
     void open(const QString& path);
 

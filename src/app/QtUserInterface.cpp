@@ -2,6 +2,7 @@
 #include "app/QtUserInterface.h"
 
 #include "app/StatusPanels.h"
+#include "app/StopFilter.h"
 #include "base/user/BusyStatus.h"
 
 #include <QApplication>
@@ -12,6 +13,7 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <QToolButton>
 
 #include <algorithm>
 
@@ -203,6 +205,11 @@ std::optional<std::string> QtUserInterface::askFolder(const std::string& initial
 
 void QtUserInterface::showStatus(std::string_view text)
 {
+    endProgress();
+    if (text == readyStatus)
+        m_sinceReady.start();
+    else if (!m_sinceReady.isValid() || m_sinceReady.elapsed() > m_times.interval.count())
+        m_sinceStatus.start(); // otherwise the operation continues that before
     if (m_panels != nullptr)
         m_panels->setText(textOf(text));
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
@@ -222,11 +229,44 @@ void QtUserInterface::beginCommand()
     m_panels->setNote(QString());
 }
 
-void QtUserInterface::showProgress(std::size_t done, std::size_t total)
+bool QtUserInterface::showProgress(std::size_t done, std::size_t total)
 {
-    if (m_panels != nullptr)
+    if (done == total) {
+        endProgress();
+        return true;
+    }
+    if (!m_sinceStatus.isValid())
+        m_sinceStatus.start();
+    if (m_sinceUpdate.isValid() && m_sinceUpdate.elapsed() < m_times.interval.count())
+        return true;
+    m_sinceUpdate.start();
+    const bool isShown = m_panels != nullptr && m_sinceStatus.elapsed() >= m_times.delay.count();
+    if (isShown)
         m_panels->setProgress(done, total);
-    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    const bool isStopped = isStoppedMeanwhile(isShown);
+    if (isStopped)
+        endProgress();
+    return !isStopped;
+}
+
+/// Paints the windows. Input waits for the end of a short operation; during a long one it stops it
+/// or is dropped.
+bool QtUserInterface::isStoppedMeanwhile(bool isShown) const
+{
+    if (!isShown) {
+        QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+        return false;
+    }
+    const StopFilter filter(m_panels->stopButton());
+    QApplication::processEvents();
+    return filter.isStopped();
+}
+
+void QtUserInterface::endProgress()
+{
+    m_sinceUpdate.invalidate();
+    if (m_panels != nullptr)
+        m_panels->setProgress(1, 1);
 }
 
 } // namespace tarsil

@@ -4,9 +4,12 @@
 #include "base/user/UserInterface.h"
 #include "options/OptionsStore.h"
 
+#include <QElapsedTimer>
 #include <QString>
 #include <QStringList>
 
+#include <chrono>
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <utility>
@@ -19,12 +22,21 @@ namespace tarsil {
 
 class StatusPanels;
 
+/// When the progress of an operation is shown.
+struct ProgressTimes
+{
+    std::chrono::milliseconds delay {500}; ///< from the status on until the bar is shown
+    std::chrono::milliseconds interval {50}; ///< the shortest one between two updates
+};
+
 /// Implements the user interface by the platform's dialogs and a status bar. The parent of a dialog
 /// is the window that the user works in; afterwards that window is active again, with the focus
 /// where it was.
 class QtUserInterface : public UserInterface
 {
 public:
+    explicit QtUserInterface(const ProgressTimes& times = {}) : m_times(times) { }
+
     /// Dialogs belong to `window` while no window of the program is active; status texts go to
     /// `panels`. Both must exist whenever this object is used.
     void attach(QWidget* window, StatusPanels* panels);
@@ -44,14 +56,23 @@ public:
     void showStatus(std::string_view text) override;
     void showNote(std::string_view text) override;
     void beginCommand() override;
-    void showProgress(std::size_t done, std::size_t total) override;
+
+    /// The windows are painted at most once in an interval. After the delay the status bar has a
+    /// progress bar and the button "Stop"; Escape stops the operation too.
+    bool showProgress(std::size_t done, std::size_t total) override;
 
 private:
+    bool isStoppedMeanwhile(bool isShown) const;
+    void endProgress();
     QWidget* asker() const;
     void goToLastFolder(QFileDialog& dialog, const FileQuestion& question) const;
     std::vector<std::string> chosenFiles(QWidget* asker, QFileDialog& dialog,
                                          const FileQuestion& question);
 
+    ProgressTimes m_times;
+    QElapsedTimer m_sinceStatus; ///< since the first of several operations in a row began
+    QElapsedTimer m_sinceReady;
+    QElapsedTimer m_sinceUpdate; ///< invalid until the progress of an operation is updated
     QWidget* m_window = nullptr;
     StatusPanels* m_panels = nullptr;
     std::optional<OptionsStore> m_store;

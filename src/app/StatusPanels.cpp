@@ -42,6 +42,18 @@ QToolButton* togglePanel(const QString& caption, const QString& name, QWidget* p
     return panel;
 }
 
+QToolButton* makeStop(QWidget* parent)
+{
+    auto* const stop = new QToolButton(parent);
+    stop->setObjectName(QStringLiteral("stBar_Stop"));
+    stop->setText(StatusPanels::tr("Stop"));
+    stop->setAccessibleName(stop->text());
+    stop->setToolTip(StatusPanels::tr("Stops the operation (Esc)"));
+    stop->setFocusPolicy(Qt::NoFocus); // the focus stays where it was
+    stop->hide();
+    return stop;
+}
+
 QLabel* makeNote(const QString& name, const QString& description, QWidget* parent)
 {
     auto* const note = new ShortenedLabel(parent);
@@ -76,7 +88,7 @@ StatusPanels::StatusPanels(QWidget* parent)
     : QStatusBar(parent), m_text(new QLabel(QStringLiteral("Ready"), this)),
       m_note(makeNote(QStringLiteral("stBar_Note"), tr("Note"), this)),
       m_plotNote(makeNote(QStringLiteral("stBar_PlotNote"), tr("Note on the plot"), this)),
-      m_progress(new QProgressBar(this)),
+      m_progress(new QProgressBar(this)), m_stop(makeStop(this)),
       m_autoPlot(togglePanel(QStringLiteral("AutoPlot"), QStringLiteral("stBar_AutoPlot"), this)),
       m_editMode(togglePanel(QStringLiteral("Edit Mode"), QStringLiteral("stBar_EditMode"), this))
 {
@@ -91,6 +103,7 @@ StatusPanels::StatusPanels(QWidget* parent)
     addWidget(m_plotNote, 1);
     addWidget(m_note, 1);
     addWidget(m_progress);
+    addWidget(m_stop);
     addPermanentWidget(m_autoPlot);
     addPermanentWidget(m_editMode);
     m_text->installEventFilter(this);
@@ -142,6 +155,7 @@ void StatusPanels::setProgress(std::size_t done, std::size_t total)
     m_progress->setMaximum(static_cast<int>(total));
     m_progress->setValue(static_cast<int>(done));
     m_progress->setVisible(done < total);
+    m_stop->setVisible(done < total);
 }
 
 bool StatusPanels::eventFilter(QObject* watched, QEvent* event)

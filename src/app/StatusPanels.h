@@ -13,7 +13,7 @@ namespace tarsil {
 /// two look enabled when they are on. A click on "Edit Mode" is signalled; clicks on the others do
 /// nothing. Beside the status text are two notes: the result of the last command, and what the user
 /// must know about the visible plot. A long note is shortened in the middle and complete in its
-/// tool tip.
+/// tool tip. Long operations have a progress bar and a button that stops them.
 class StatusPanels : public QStatusBar
 {
     Q_OBJECT
@@ -32,8 +32,10 @@ public:
     void setAutoPlot(bool on);
     void setEditMode(bool on);
 
-    /// Shows a progress bar; hides it when `done` equals `total`.
+    /// Shows a progress bar and the button "Stop"; hides them when `done` equals `total`.
     void setProgress(std::size_t done, std::size_t total);
+
+    const QToolButton& stopButton() const { return *m_stop; }
 
 Q_SIGNALS:
     /// A panel was clicked; panels are counted from 1.
@@ -47,6 +49,7 @@ private:
     QLabel* m_note;
     QLabel* m_plotNote;
     QProgressBar* m_progress;
+    QToolButton* m_stop;
     QToolButton* m_autoPlot;
     QToolButton* m_editMode;
 };

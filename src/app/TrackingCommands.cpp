@@ -4,6 +4,7 @@
 #include "base/files/AtomicFile.h"
 #include "base/files/InputFile.h"
 #include "base/files/PathNames.h"
+#include "base/user/BusyStatus.h"
 #include "base/user/RunTimeError.h"
 #include "base/user/UserInterface.h"
 #include "document/Document.h"
@@ -31,17 +32,35 @@ std::string textOfFile(const std::string& path)
 
 } // namespace
 
-void TrackingCommands::track(const EVM& evolution)
+bool TrackingCommands::track(const EVM& evolution)
 {
     if (findFormat(evolution.FileName) != &ev2Format)
         refuseTracking(evolution.FileName
                        + " is no evolution with sections (.ev2), which tracking needs");
     const std::string target = joinPath(evolution.Folder, trackedName(evolution.FileName));
-    const TrackedEvolution tracked = trackEvolution(evolution, {});
+    const TrackedEvolution tracked = trackedOf(evolution);
+    if (!tracked.tracking.isComplete())
+        return false;
     std::string text = trackedText(FileBytes(evolution.path()).bytes(), tracked);
     if (fileExists(target)
         && !m_user.confirm("Replace the tracked evolution\n" + shownPath(target) + "?", "Tarsil"))
-        return;
+        return true;
+    write(target, std::move(text));
+    m_user.showNote(std::to_string(tracked.modifications.size()) + " exchanges of modes in "
+                    + shownPath(target));
+    return true;
+}
+
+TrackedEvolution TrackingCommands::trackedOf(const EVM& evolution) const
+{
+    const BusyStatus status(m_user, "Track Modes. Please Wait ...");
+    return trackEvolution(evolution, {}, [this](std::size_t done, std::size_t total) {
+        return m_user.showProgress(done, total);
+    });
+}
+
+void TrackingCommands::write(const std::string& target, std::string text)
+{
     if (auto open = openEvolution(target); open != nullptr && fileExists(target)) {
         m_document.history().changeFile(QStringLiteral("Track Modes"),
                                         {std::move(open), textOfFile(target), std::move(text)});
@@ -51,8 +70,6 @@ void TrackingCommands::track(const EVM& evolution)
         writeFile(target, text);
         m_document.load({target}, m_user);
     }
-    m_user.showNote(std::to_string(tracked.modifications.size()) + " exchanges of modes in "
-                    + shownPath(target));
 }
 
 void TrackingCommands::exchange(const EVM& evolution, const ModeExchange& exchange)

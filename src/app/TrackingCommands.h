@@ -23,16 +23,19 @@ public:
     { }
 
     /// Tracks an evolution of the document, writes NAME_tracked.ev2 beside its file, and opens it,
-    /// or updates it if it is open. Asks before it replaces a file. Errors: 5 for an evolution
-    /// without sections (.ev2), one that cannot be tracked, or an open tracked one with other
-    /// modes; those of reading and writing files.
-    void track(const EVM& evolution);
+    /// or updates it if it is open. Asks before it replaces a file. Returns false when the user has
+    /// stopped the tracking; nothing has changed then. Errors: 5 for an evolution without sections
+    /// (.ev2), one that cannot be tracked, or an open tracked one with other modes; those of
+    /// reading and writing files.
+    bool track(const EVM& evolution);
 
     /// Exchanges two modes of a tracked evolution of the document in its file and in all plots.
     /// Errors: 5 for an evolution that is not tracked; those of `exchangedText` and of files.
     void exchange(const EVM& evolution, const ModeExchange& exchange);
 
 private:
+    TrackedEvolution trackedOf(const EVM& evolution) const;
+    void write(const std::string& target, std::string text);
     std::shared_ptr<EVM> openEvolution(const std::string& path) const;
 
     Document& m_document;

@@ -38,6 +38,7 @@
 #include <QStandardPaths>
 
 #include <algorithm>
+#include <cstddef>
 #include <iterator>
 #include <utility>
 
@@ -605,8 +606,13 @@ void wndMain::trackModes()
     if (evolutions.empty())
         m_userInterface.showMessage("Please select a modal evolution.", "Tarsil",
                                     MessageIcon::Exclamation);
-    for (const EVM* const evolution : evolutions)
-        m_tracking.track(*evolution);
+    for (std::size_t i = 0; i < evolutions.size(); ++i) {
+        if (m_tracking.track(*evolutions[i]))
+            continue;
+        m_userInterface.showNote("Stopped: " + std::to_string(i) + " of "
+                                 + std::to_string(evolutions.size()) + " evolutions were tracked");
+        return;
+    }
 }
 
 void wndMain::tickAll()

@@ -69,7 +69,7 @@ public:
     bool isWanted(std::size_t index) const override { return m_named[index]; }
     EVM& open(const std::string& path) override { return m_run.open(path); }
     void foundOpen(const EVM& /*evolution*/) override { }
-    void isDone(std::size_t /*count*/) override { }
+    bool isDone(std::size_t /*count*/) override { return true; }
 
     void isMissing(std::size_t index, const std::string& path) override
     {

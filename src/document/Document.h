@@ -70,9 +70,10 @@ public:
     void startNew();
 
     /// Replaces the document by a workspace: everything readable in it, and its evolutions as far
-    /// as they are found. Shows messages about evolutions that are missing or unreadable. Errors:
-    /// those of opening a file, or of a file in which nothing is readable; nothing has changed
-    /// then.
+    /// as they are found. Shows messages about evolutions that are missing or unreadable. When the
+    /// user stops the search for files that moved, or the loading, the remaining evolutions are
+    /// missing. Errors: those of opening a file, or of a file in which nothing is readable; nothing
+    /// has changed then.
     OpenedWorkspace open(const std::string& path, UserInterface& user);
 
     /// Writes the workspace, whole or not at all, with `userName` as its author. Errors: those of

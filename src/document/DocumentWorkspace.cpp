@@ -5,7 +5,9 @@
 #include "base/files/AtomicFile.h"
 #include "base/files/PathNames.h"
 #include "base/text/ShortList.h"
+#include "base/user/BusyStatus.h"
 #include "base/user/RunTimeError.h"
+#include "base/user/UserInterface.h"
 #include "document/DateText.h"
 #include "document/Document.h"
 #include "document/WorkspaceSource.h"
@@ -17,8 +19,10 @@
 #include <QDateTime>
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <utility>
 
 namespace tarsil {
@@ -40,6 +44,20 @@ void keepFirstFailure(std::exception_ptr& failure, const std::function<void()>& 
         if (failure == nullptr)
             failure = std::current_exception();
     }
+}
+
+/// Reads a workspace and finds its files. A search shows its progress.
+WorkspaceSource sourceOf(const std::string& path, UserInterface& user)
+{
+    std::optional<BusyStatus> status;
+    return readWorkspaceSource(path, [&](std::size_t done, std::size_t total) {
+        if (!status)
+            status.emplace(user, "Find Moved Files. Please Wait ...");
+        const bool isWanted = user.showProgress(done, total);
+        if (!isWanted)
+            user.showNote("Stopped: files that are not at their paths were not searched for");
+        return isWanted;
+    });
 }
 
 /// Whether a record is empty. A number of files without their paths does not count.
@@ -107,7 +125,7 @@ void Document::markSaved()
 
 OpenedWorkspace Document::open(const std::string& path, UserInterface& user)
 {
-    WorkspaceSource source = readWorkspaceSource(path);
+    WorkspaceSource source = sourceOf(path, user);
     OpenedWorkspace opened;
     if (source.reading.error)
         opened.failure = std::make_exception_ptr(*source.reading.error);

@@ -7,7 +7,7 @@
 
 namespace tarsil {
 
-WorkspaceSource readWorkspaceSource(const std::string& path)
+WorkspaceSource readWorkspaceSource(const std::string& path, const Progress& progress)
 {
     WorkspaceSource source;
     source.path = path;
@@ -16,7 +16,7 @@ WorkspaceSource readWorkspaceSource(const std::string& path)
         source.reading = tryToReadWorkspace(file.bytes(), shownPath(path));
     }
     const std::vector<std::string>& stored = source.reading.record.files;
-    source.files = foundFiles(stored, path);
+    source.files = foundFiles(stored, path, progress);
     for (std::size_t i = 0; i < stored.size(); ++i) {
         if (isTakenByNameAlone(stored[i], source.files[i], path))
             source.namesakes.push_back({i, stored[i], source.files[i]});

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "base/user/Progress.h"
 #include "workspace/WorkspaceReader.h"
 
 #include <cstddef>
@@ -28,8 +29,8 @@ struct WorkspaceSource
 };
 
 /// Reads a workspace file and finds the files that it lists. Errors: those of opening a file; an
-/// error in the contents is part of the reading.
-WorkspaceSource readWorkspaceSource(const std::string& path);
+/// error in the contents is part of the reading. `progress` is that of the search (`foundFiles`).
+WorkspaceSource readWorkspaceSource(const std::string& path, const Progress& progress = {});
 
 /// The user who saved a workspace file; empty when the file does not say. Errors: those of opening
 /// a file.

@@ -38,12 +38,13 @@ private:
     void foundOpen(const EVM& evolution) override;
     void isMissing(std::size_t index, const std::string& path) override;
     void cannotOpen(std::size_t index, const std::exception_ptr& error) override;
-    void isDone(std::size_t count) override;
+    bool isDone(std::size_t count) override;
     void showMissing();
 
     UserInterface& m_userInterface;
     Missing m_missingReports;
     std::size_t m_count = 0;
+    bool m_isStopped = false;
     OwnedEvolutions m_added;
     std::vector<std::string> m_missing; ///< names still to be reported
     std::vector<std::string> m_failures; ///< reports of files that cannot be read
@@ -59,6 +60,9 @@ LoadedEvolutions Loader::load(const OwnedEvolutions& open, const std::vector<std
     if (!m_failures.empty())
         m_userInterface.showMessage(shortList(m_failures, mostReports, "\n\n"), "Error",
                                     MessageIcon::Critical);
+    if (m_isStopped)
+        m_userInterface.showNote("Stopped: " + std::to_string(m_added.size()) + " of "
+                                 + std::to_string(m_count) + " evolutions were loaded");
     return {std::move(m_added), std::move(listed)};
 }
 
@@ -88,9 +92,11 @@ void Loader::cannotOpen(std::size_t /*index*/, const std::exception_ptr& error)
         m_failures.push_back(std::move(*report));
 }
 
-void Loader::isDone(std::size_t count)
+/// A stop after the last file changes nothing.
+bool Loader::isDone(std::size_t count)
 {
-    m_userInterface.showProgress(count, m_count);
+    m_isStopped = !m_userInterface.showProgress(count, m_count) && count < m_count;
+    return !m_isStopped;
 }
 
 void Loader::showMissing()

@@ -36,7 +36,8 @@ std::vector<std::string> OpenFileDialog(UserInterface& userInterface, std::strin
 /// Reads modal evolutions in the order of `paths`. A file that is missing, or already open (in
 /// `open` or earlier in `paths`, also by another path), is skipped with a message. A file that
 /// cannot be read changes nothing; such files are reported in one message after the others are
-/// loaded, at most 8 with their reports.
+/// loaded, at most 8 with their reports. When the user stops, the evolutions read so far are
+/// loaded, and a note has their number.
 LoadedEvolutions loadEvolutions(const OwnedEvolutions& open, const std::vector<std::string>& paths,
                                 UserInterface& userInterface);
 

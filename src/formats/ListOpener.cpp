@@ -80,7 +80,8 @@ std::vector<EVM*> openListed(const OwnedEvolutions& open, const std::vector<std:
         } catch (...) {
             opener.cannotOpen(i, std::current_exception());
         }
-        opener.isDone(i + 1);
+        if (!opener.isDone(i + 1))
+            break;
     }
     return evolutions;
 }

@@ -30,13 +30,13 @@ public:
 
     virtual void cannotOpen(std::size_t index, const std::exception_ptr& error) = 0;
 
-    /// `count` entries of the list are finished.
-    virtual void isDone(std::size_t count) = 0;
+    /// `count` entries of the list are finished. Returns whether to go on.
+    virtual bool isDone(std::size_t count) = 0;
 };
 
 /// Opens the files of a list in order. A file that is already open (in `open`, or from an earlier
 /// entry, also under another path) is not opened again. Returns the evolution of each path, null if
-/// there is none.
+/// there is none. When the opener stops, the remaining files are not opened.
 std::vector<EVM*> openListed(const OwnedEvolutions& open, const std::vector<std::string>& paths,
                              ListOpener& opener);
 

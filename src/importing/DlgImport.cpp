@@ -151,11 +151,7 @@ bool dlgImport::addFiles(const std::vector<std::string>& paths)
 {
     const std::size_t known = m_plan.outputs().size();
     const std::size_t refused = m_plan.refusals().size();
-    {
-        const BusyStatus status(m_user, reading);
-        for (const std::string& path : paths)
-            m_plan.add(path);
-    }
+    read(paths);
     for (std::size_t output = known; output < m_plan.outputs().size(); ++output)
         listOutput(output);
     const std::vector<std::string>& refusals = m_plan.refusals();
@@ -172,6 +168,20 @@ bool dlgImport::addFiles(const std::vector<std::string>& paths)
         showRememberedUnits();
     refresh();
     return true;
+}
+
+/// The files read before a stop are in the plan.
+void dlgImport::read(const std::vector<std::string>& paths)
+{
+    const BusyStatus status(m_user, reading);
+    for (std::size_t done = 1; done <= paths.size(); ++done) {
+        m_plan.add(paths[done - 1]);
+        if (m_user.showProgress(done, paths.size()) || done == paths.size())
+            continue;
+        m_user.showNote("Stopped: " + std::to_string(done) + " of " + std::to_string(paths.size())
+                        + " files were read");
+        return;
+    }
 }
 
 void dlgImport::listOutput(std::size_t output)
@@ -296,7 +306,9 @@ void dlgImport::btnImport_Click()
             return;
         const solver::WrittenFiles written = [this] {
             const BusyStatus status(m_user, writing);
-            return m_plan.write();
+            return m_plan.write([this](std::size_t done, std::size_t total) {
+                return m_user.showProgress(done, total);
+            });
         }();
         if (!written.failures.empty())
             m_user.showMessage(shortList(written.failures, mostReports), "Error",
@@ -305,7 +317,7 @@ void dlgImport::btnImport_Click()
             return;
         keepUnits();
         accept();
-        load(written.paths);
+        load(written);
         if (existing.empty())
             m_document.history().note(tr("Import Solver Results"));
         else
@@ -335,11 +347,12 @@ bool dlgImport::mayReplace(const std::vector<std::string>& existing) const
         "Tarsil");
 }
 
-/// Removes evolutions whose files were replaced, then loads the new ones.
-void dlgImport::load(const std::vector<std::string>& paths)
+/// Removes evolutions whose files were replaced, then loads the new ones. The note of a stopped
+/// loading stays.
+void dlgImport::load(const solver::WrittenFiles& files)
 {
     std::set<std::optional<std::string>> written;
-    for (const std::string& path : paths)
+    for (const std::string& path : files.paths)
         written.insert(fileIdentity(path));
     std::vector<EVM*> replaced;
     for (const auto& evolution : m_document.evolutions().all()) {
@@ -347,8 +360,10 @@ void dlgImport::load(const std::vector<std::string>& paths)
             replaced.push_back(evolution.get());
     }
     m_document.remove(replaced);
-    const std::size_t count = m_document.load(paths, m_user).size();
-    m_user.showNote(std::to_string(count)
+    const std::size_t count = m_document.load(files.paths, m_user).size();
+    if (count < files.paths.size())
+        return;
+    m_user.showNote((files.isStopped ? "Stopped: " : "") + std::to_string(count)
                     + (count == 1 ? " modal evolution is" : " modal evolutions are")
                     + " imported: they are listed in the explorer.");
 }

@@ -39,7 +39,8 @@ public:
     ~dlgImport() override;
 
     /// Reads solver outputs and lists their analyses. Shows a message about files without one.
-    /// Returns whether there is anything to import.
+    /// Returns whether there is anything to import. When the user stops, the files read so far are
+    /// listed.
     bool addFiles(const std::vector<std::string>& paths);
 
     static constexpr const char* fileFilter =
@@ -57,6 +58,7 @@ private:
     void btnFolder_Click();
     void btnImport_Click();
 
+    void read(const std::vector<std::string>& paths);
     void listOutput(std::size_t output);
     void listFindings();
     void chooseOf(QTreeWidgetItem& node);
@@ -80,7 +82,7 @@ private:
 
     std::vector<std::string> existingFiles() const;
     bool mayReplace(const std::vector<std::string>& existing) const;
-    void load(const std::vector<std::string>& paths);
+    void load(const solver::WrittenFiles& files);
 
     std::unique_ptr<Ui::dlgImport> m_ui;
     Document& m_document;

@@ -208,23 +208,30 @@ std::unique_ptr<EVM> ImportPlan::evolution(const AnalysisIndex& analysis) const
     return evolution;
 }
 
-WrittenFiles ImportPlan::write() const
+WrittenFiles ImportPlan::write(const Progress& progress) const
 {
     WrittenFiles result;
-    const UnitChoice& units = chosenUnits();
-    for (const PlannedFile& file : files()) {
-        const SolverOutput& output = m_outputs[file.analysis.output];
-        try {
-            if (isSameFile(file.path, output.path))
-                throw RunTimeError(ErrorNumber::InvalidProcedureCall, "solver",
-                                   shownPath(file.path) + " is the file to read");
-            writeFile(file.path, evolutionText(output, file.analysis.run, units, m_texts));
-            result.paths.push_back(file.path);
-        } catch (const RunTimeError& error) {
-            result.failures.push_back(error.description());
-        }
+    chosenUnits(); // raises the error before anything is written
+    const std::vector<PlannedFile> planned = files();
+    for (std::size_t i = 0; i < planned.size() && !result.isStopped; ++i) {
+        write(planned[i], result);
+        result.isStopped = !goesOn(progress, i + 1, planned.size()) && i + 1 < planned.size();
     }
     return result;
+}
+
+void ImportPlan::write(const PlannedFile& file, WrittenFiles& result) const
+{
+    const SolverOutput& output = m_outputs[file.analysis.output];
+    try {
+        if (isSameFile(file.path, output.path))
+            throw RunTimeError(ErrorNumber::InvalidProcedureCall, "solver",
+                               shownPath(file.path) + " is the file to read");
+        writeFile(file.path, evolutionText(output, file.analysis.run, chosenUnits(), m_texts));
+        result.paths.push_back(file.path);
+    } catch (const RunTimeError& error) {
+        result.failures.push_back(error.description());
+    }
 }
 
 std::string firstSpeedsText(const EVM& evolution)

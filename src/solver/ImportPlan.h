@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "base/user/Progress.h"
 #include "solver/SolverImport.h"
 
 #include <cstddef>
@@ -39,6 +40,7 @@ struct WrittenFiles
 {
     std::vector<std::string> paths; ///< the files written
     std::vector<std::string> failures; ///< one sentence for each file that was not
+    bool isStopped = false; ///< whether files were left out by a stop
 };
 
 /// A planned import: solver outputs, the selected analyses, their units, texts and folder. Reads
@@ -89,11 +91,13 @@ public:
     std::unique_ptr<EVM> evolution(const AnalysisIndex& analysis) const;
 
     /// Writes the files, each whole or not at all, and replaces existing ones. A failure does not
-    /// prevent the others from being written. Error 5 without units.
-    WrittenFiles write() const;
+    /// prevent the others from being written. Reports progress after each file; the files written
+    /// before a stop stay. Error 5 without units.
+    WrittenFiles write(const Progress& progress = {}) const;
 
 private:
     const UnitChoice& chosenUnits() const;
+    void write(const PlannedFile& file, WrittenFiles& result) const;
     void addUnitDoubts(const SolverOutput& output, std::vector<std::string>& doubts) const;
     void addDensityDoubts(std::vector<std::string>& doubts) const;
 

@@ -59,12 +59,13 @@ std::vector<FolderEntry> entriesOf(const std::string& folder,
 
 } // namespace
 
-FileSearch filesBelow(const std::string& folder, const std::unordered_set<std::string>& names)
+FileSearch filesBelow(const std::string& folder, const std::unordered_set<std::string>& names,
+                      const Progress& progress)
 {
     FileSearch found;
     std::size_t looked = 0;
     std::deque<std::string> folders {folder};
-    while (!folders.empty() && !names.empty() && found.isComplete) {
+    while (!folders.empty() && !names.empty() && found.isComplete && !found.isStopped) {
         const auto entries =
             entriesOf(folders.front(), names, mostFilesLookedAt - looked, found.isComplete);
         looked += entries.size();
@@ -75,6 +76,7 @@ FileSearch filesBelow(const std::string& folder, const std::unordered_set<std::s
                 found.files.push_back(pathIn(folders.front(), entry.name));
         }
         folders.pop_front();
+        found.isStopped = !goesOn(progress, looked, mostFilesLookedAt + 1);
     }
     return found;
 }

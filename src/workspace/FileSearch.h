@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "base/user/Progress.h"
+
 #include <cstddef>
 #include <string>
 #include <unordered_set>
@@ -16,10 +18,13 @@ struct FileSearch
 {
     std::vector<std::string> files; ///< sorted by depth, then by name
     bool isComplete = true; ///< false when the limit was reached
+    bool isStopped = false;
 };
 
 /// The files below a folder whose names are in `names`, which are folded by `withoutCase`. Skips
-/// what cannot be read and links to folders. Paths have "/" as separator.
-FileSearch filesBelow(const std::string& folder, const std::unordered_set<std::string>& names);
+/// what cannot be read and links to folders. Paths have "/" as separator. Reports the number of
+/// files and folders visited after each folder.
+FileSearch filesBelow(const std::string& folder, const std::unordered_set<std::string>& names,
+                      const Progress& progress = {});
 
 } // namespace tarsil

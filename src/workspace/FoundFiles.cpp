@@ -118,12 +118,15 @@ using MissingPaths = std::map<std::string, std::pair<std::size_t, std::string>>;
 
 /// The files of missing paths by their indices.
 std::map<std::size_t, std::string> movedFiles(const MissingPaths& missing,
-                                              const std::string& folder, FileMatching& matching)
+                                              const std::string& folder, FileMatching& matching,
+                                              const Progress& progress)
 {
     std::unordered_set<std::string> names;
     for (const auto& [key, path] : missing)
         names.insert(withoutCase(nameIn(path.second)));
-    const FileSearch search = filesBelow(folder, names);
+    const FileSearch search = filesBelow(folder, names, progress);
+    if (search.isStopped)
+        return {};
     for (const std::string& file : search.files)
         matching.addFile(file);
     NearFiles near(folder);
@@ -142,7 +145,7 @@ std::string storedPath(const std::string& stored, const std::string& workspacePa
 }
 
 std::vector<std::string> foundFiles(const std::vector<std::string>& stored,
-                                    const std::string& workspacePath)
+                                    const std::string& workspacePath, const Progress& progress)
 {
     const std::string folder = folderOf(workspacePath);
     std::vector<std::string> files;
@@ -156,7 +159,7 @@ std::vector<std::string> foundFiles(const std::vector<std::string>& stored,
         else if (!one.empty() && missing.try_emplace(keyOf(one), missing.size(), path).second)
             matching.addPath(path);
     }
-    const auto moved = movedFiles(missing, folder, matching);
+    const auto moved = movedFiles(missing, folder, matching, progress);
     for (std::size_t i = 0; i < files.size(); ++i) {
         const auto path = missing.find(keyOf(stored[i]));
         const auto file = path == missing.end() ? moved.end() : moved.find(path->second.first);

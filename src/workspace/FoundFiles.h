@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "base/user/Progress.h"
+
 #include <string>
 #include <vector>
 
@@ -10,9 +12,11 @@ namespace tarsil {
 /// its name below the folder of the workspace that shares the longest tail of folders with the
 /// stored path, as decided by `FileMatching`. Two stored paths never get one file. A path without a
 /// file is returned as stored, and so is an empty one. The folder is searched at most once, up to a
-/// limit.
+/// limit. When `progress` stops the search, no file that it found is used: a better one may not
+/// have been visited.
 std::vector<std::string> foundFiles(const std::vector<std::string>& stored,
-                                    const std::string& workspacePath);
+                                    const std::string& workspacePath,
+                                    const Progress& progress = {});
 
 /// The path of a stored path: a relative one is below the folder of the workspace if there is such
 /// a file; otherwise it is returned unchanged.

@@ -98,6 +98,22 @@ TEST_F(FlutterReportCommandTest, writesTheStabilityOfWholeEvolutionsOnASecondShe
     EXPECT_TRUE(user.messages.empty());
 }
 
+TEST_F(FlutterReportCommandTest, writesNothingAfterAStop)
+{
+    for (const std::size_t stop : {1U, 2U}) { // the search for stretches, the source files
+        user.texts = {"0", "1000", "0.5", "0.5"};
+        user.progress.clear();
+        user.stopsAt = stop;
+        run();
+        EXPECT_EQ(user.progress.size(), stop);
+        EXPECT_EQ(user.note, "Stopped: no workbook was written");
+    }
+    EXPECT_TRUE(workbooks().isEmpty());
+    EXPECT_TRUE(opened.isEmpty());
+    EXPECT_EQ(user.statuses.back(), "Ready");
+    EXPECT_TRUE(user.messages.empty());
+}
+
 TEST_F(FlutterReportCommandTest, containsHiddenRows)
 {
     plot.rows().setHidden({0}, true);

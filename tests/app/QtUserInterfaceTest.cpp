@@ -8,8 +8,10 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QCloseEvent>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
@@ -22,8 +24,10 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <functional>
 
+using namespace std::chrono_literals;
 using namespace tarsil;
 
 namespace {
@@ -51,8 +55,11 @@ protected:
     }
 
     QMainWindow window;
+    QToolButton& stop() { return *panels.findChild<QToolButton*>(QStringLiteral("stBar_Stop")); }
+    QProgressBar& bar() { return *panels.findChild<QProgressBar*>(); }
+
     StatusPanels panels;
-    QtUserInterface user;
+    QtUserInterface user {ProgressTimes {0ms, 0ms}};
 };
 
 } // namespace
@@ -225,13 +232,98 @@ TEST_F(QtUserInterfaceTest, showsStatusAndProgress)
     EXPECT_EQ(panels.text(), QStringLiteral("Ready")) << "the text at first";
     user.showStatus("Please Wait ...");
     EXPECT_EQ(panels.text(), QStringLiteral("Please Wait ..."));
-    auto* const bar = panels.findChild<QProgressBar*>();
-    EXPECT_FALSE(bar->isVisible());
+    EXPECT_FALSE(bar().isVisible());
+    EXPECT_TRUE(user.showProgress(3, 10));
+    EXPECT_TRUE(bar().isVisible());
+    EXPECT_TRUE(stop().isVisible());
+    EXPECT_EQ(bar().value(), 3);
+    EXPECT_TRUE(user.showProgress(10, 10));
+    EXPECT_FALSE(bar().isVisible());
+    EXPECT_FALSE(stop().isVisible());
     user.showProgress(3, 10);
-    EXPECT_TRUE(bar->isVisible());
-    EXPECT_EQ(bar->value(), 3);
-    user.showProgress(10, 10);
-    EXPECT_FALSE(bar->isVisible());
+    user.showStatus("Ready");
+    EXPECT_FALSE(bar().isVisible()) << "the operation has ended, by an error for instance";
+}
+
+TEST_F(QtUserInterfaceTest, stopsAnOperationByTheButton)
+{
+    EXPECT_EQ(stop().text(), QStringLiteral("Stop"));
+    EXPECT_EQ(stop().accessibleName(), QStringLiteral("Stop"));
+    EXPECT_TRUE(stop().toolTip().contains(QStringLiteral("Esc")));
+    user.showStatus("Please Wait ...");
+    EXPECT_TRUE(user.showProgress(1, 10));
+    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        const QPoint center = stop().rect().center();
+        QApplication::postEvent(&stop(),
+                                new QMouseEvent(type, center, stop().mapToGlobal(center),
+                                                Qt::LeftButton, Qt::LeftButton, Qt::NoModifier));
+    }
+    EXPECT_FALSE(user.showProgress(2, 10));
+    EXPECT_FALSE(bar().isVisible());
+    EXPECT_FALSE(stop().isVisible());
+    EXPECT_TRUE(user.showProgress(3, 10)) << "another operation";
+}
+
+TEST_F(QtUserInterfaceTest, stopsAnOperationByEscape)
+{
+    EXPECT_TRUE(user.showProgress(1, 10));
+    QApplication::postEvent(&window,
+                            new QKeyEvent(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier));
+    EXPECT_FALSE(user.showProgress(2, 10));
+}
+
+TEST_F(QtUserInterfaceTest, dropsOtherInputWhileAnOperationCanBeStopped)
+{
+    auto* const field = new QLineEdit(&window);
+    auto* const button = new QPushButton(&window);
+    window.setCentralWidget(button);
+    int clicks = 0;
+    QObject::connect(button, &QPushButton::clicked, &window, [&clicks] { ++clicks; });
+    const auto use = [&] {
+        QApplication::postEvent(
+            field, new QKeyEvent(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, QStringLiteral("a")));
+        for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+            const QPoint center = button->rect().center();
+            QApplication::postEvent(button,
+                                    new QMouseEvent(type, center, button->mapToGlobal(center),
+                                                    Qt::LeftButton, Qt::LeftButton,
+                                                    Qt::NoModifier));
+        }
+    };
+    use();
+    QApplication::postEvent(&window, new QCloseEvent);
+    EXPECT_TRUE(user.showProgress(1, 10));
+    EXPECT_EQ(field->text(), QString());
+    EXPECT_EQ(clicks, 0);
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_TRUE(user.showProgress(10, 10));
+    use();
+    QApplication::processEvents();
+    EXPECT_EQ(field->text(), QStringLiteral("a"));
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(QtUserInterfaceTest, showsNoProgressOfAShortOperation)
+{
+    QtUserInterface patient(ProgressTimes {24h, 0ms});
+    patient.attach(&window, &panels);
+    patient.showStatus("Please Wait ...");
+    EXPECT_TRUE(patient.showProgress(5, 10));
+    EXPECT_FALSE(bar().isVisible());
+    EXPECT_FALSE(stop().isVisible());
+}
+
+TEST_F(QtUserInterfaceTest, updatesTheProgressOnceInAnInterval)
+{
+    QtUserInterface slow(ProgressTimes {0ms, 24h});
+    slow.attach(&window, &panels);
+    slow.showStatus("Please Wait ...");
+    slow.showProgress(1, 10);
+    slow.showProgress(2, 10);
+    EXPECT_EQ(bar().value(), 1);
+    slow.showStatus("Please Wait ...");
+    slow.showProgress(3, 10);
+    EXPECT_EQ(bar().value(), 3) << "another operation begins with an update";
 }
 
 TEST_F(QtUserInterfaceTest, showsAStatusThatLooksLikeMarkUpUnchanged)

@@ -73,6 +73,19 @@ TEST_F(TrackingCommandsTest, asksBeforeItReplacesAFile)
     EXPECT_EQ(document.evolutions().all().size(), 2U);
 }
 
+TEST_F(TrackingCommandsTest, writesNothingAfterAStop)
+{
+    user.progress.clear();
+    user.stopsAt = 2;
+    EXPECT_FALSE(commands.track(*source));
+    EXPECT_EQ(user.progress.size(), 2U) << "after two points";
+    EXPECT_FALSE(std::filesystem::exists(folder.file("wing_tracked.ev2")));
+    EXPECT_EQ(document.evolutions().all().size(), 1U);
+    EXPECT_EQ(user.statuses.back(), "Ready");
+    EXPECT_TRUE(commands.track(*source));
+    EXPECT_TRUE(std::filesystem::exists(folder.file("wing_tracked.ev2")));
+}
+
 TEST_F(TrackingCommandsTest, exchangesModesInTheFileAndInThePlots)
 {
     commands.track(*source);

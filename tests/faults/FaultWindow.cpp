@@ -59,7 +59,7 @@ public:
     void showStatus(std::string_view /*text*/) override { }
     void showNote(std::string_view /*text*/) override { }
     void beginCommand() override { }
-    void showProgress(std::size_t /*done*/, std::size_t /*total*/) override { }
+    bool showProgress(std::size_t /*done*/, std::size_t /*total*/) override { return true; }
 
 private:
     std::string m_target;

@@ -135,6 +135,25 @@ TEST_F(EvolutionLoader, showsProgressAfterEveryFileWhateverBecameOfIt)
     EXPECT_EQ(user.progress, Progress({{1, 4}, {2, 4}, {3, 4}, {4, 4}}));
 }
 
+TEST_F(EvolutionLoader, keepsTheEvolutionsReadBeforeAStop)
+{
+    const Texts paths = {writeEvolution("wing.evm"), writeEvolution("tail.evm"),
+                         writeEvolution("rudder.evm")};
+    user.stopsAt = 2;
+    EXPECT_EQ(load(paths).size(), 2U);
+    EXPECT_EQ(openNames(), Texts({"wing.evm", "tail.evm"}));
+    EXPECT_EQ(user.note, "Stopped: 2 of 3 evolutions were loaded");
+    EXPECT_EQ(user.statuses, statusesOfLoading);
+    EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(EvolutionLoader, isNotStoppedAfterTheLastFile)
+{
+    user.stopsAt = 1;
+    EXPECT_EQ(load({writeEvolution("wing.evm")}).size(), 1U);
+    EXPECT_EQ(user.note, "");
+}
+
 TEST_F(EvolutionLoader, loadsAFileChosenTwiceOnce)
 {
     const std::string wing = writeEvolution("wing.evm");

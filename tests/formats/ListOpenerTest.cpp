@@ -38,12 +38,17 @@ public:
         EXPECT_THROW(std::rethrow_exception(error), RunTimeError);
         calls.push_back("failed " + std::to_string(index));
     }
-    void isDone(std::size_t count) override { done = count; }
+    bool isDone(std::size_t count) override
+    {
+        done = count;
+        return count != stopsAfter;
+    }
 
     OwnedEvolutions opened;
     std::vector<std::string> calls;
     std::size_t unwanted = 1000;
     std::size_t done = 0;
+    std::size_t stopsAfter = 1000;
 };
 
 class ListOpenerTest : public ::testing::Test
@@ -94,6 +99,16 @@ TEST_F(ListOpenerTest, opensAFileOnceByWhateverPath)
     Recorder later;
     EXPECT_THAT(openListed(recorder.opened, {file("link.ev2")}, later), ElementsAre(listed[0]));
     EXPECT_THAT(later.opened, IsEmpty());
+}
+
+TEST_F(ListOpenerTest, leavesTheRestAloneWhenItIsStopped)
+{
+    recorder.stopsAfter = 2;
+    const std::vector<EVM*> listed =
+        openListed({}, {file("gone.evm"), file("a.ev2"), file("b.ev2"), ""}, recorder);
+    EXPECT_THAT(listed, ElementsAre(nullptr, recorder.opened[0].get(), nullptr, nullptr));
+    EXPECT_EQ(recorder.opened.size(), 1U);
+    EXPECT_THAT(recorder.calls, ElementsAre("missing 0"));
 }
 
 TEST_F(ListOpenerTest, skipsFilesThatAreNotWanted)

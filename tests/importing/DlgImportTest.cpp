@@ -177,6 +177,45 @@ TEST_F(DlgImport, writesAndLoadsTheEvolutions)
     EXPECT_THAT(user.note, HasSubstr("2 modal evolutions are imported"));
 }
 
+TEST_F(DlgImport, keepsTheFilesWrittenBeforeAStop)
+{
+    add(folder.write("wing.f06", summary()));
+    choosePreset(metric);
+    user.progress.clear();
+    user.stopsAt = 1;
+    click(*dialog, "btnImport");
+    EXPECT_TRUE(isWritten("wing_s1_M0.30.ev2"));
+    EXPECT_FALSE(isWritten("wing_s2_M0.30.ev2"));
+    EXPECT_THAT(loaded(), ElementsAre("wing_s1_M0.30.ev2"));
+    EXPECT_THAT(user.note, HasSubstr("Stopped: 1 modal evolution is imported"));
+    EXPECT_THAT(user.messages, IsEmpty());
+    EXPECT_EQ(user.statuses.back(), "Ready");
+}
+
+TEST_F(DlgImport, loadsTheFilesReadBeforeAStop)
+{
+    add(folder.write("wing.f06", summary()));
+    choosePreset(metric);
+    user.progress.clear();
+    user.stopsAt = 3; // both are written
+    click(*dialog, "btnImport");
+    EXPECT_TRUE(isWritten("wing_s2_M0.30.ev2"));
+    EXPECT_THAT(loaded(), ElementsAre("wing_s1_M0.30.ev2"));
+    EXPECT_EQ(user.note, "Stopped: 1 of 2 evolutions were loaded");
+}
+
+TEST_F(DlgImport, listsTheFilesReadBeforeAStop)
+{
+    const std::vector<std::string> outputs = {folder.write("wing.f06", summary()),
+                                              folder.write("tail.f06", summary()),
+                                              folder.write("fin.f06", summary())};
+    user.stopsAt = 2;
+    EXPECT_TRUE(dialog->addFiles(outputs));
+    EXPECT_EQ(partOf<QTreeWidget>(*dialog, "treAnalyses").topLevelItemCount(), 2);
+    EXPECT_EQ(user.note, "Stopped: 2 of 3 files were read");
+    EXPECT_THAT(user.messages, IsEmpty());
+}
+
 TEST_F(DlgImport, leavesOutWhatIsNotTicked)
 {
     add(folder.write("wing.f06", summary()));

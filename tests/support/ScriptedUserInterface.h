@@ -60,9 +60,10 @@ public:
     void showStatus(std::string_view text) override { statuses.emplace_back(text); }
     void showNote(std::string_view text) override { note = text; }
     void beginCommand() override { note.clear(); }
-    void showProgress(std::size_t done, std::size_t total) override
+    bool showProgress(std::size_t done, std::size_t total) override
     {
         progress.emplace_back(done, total);
+        return progress.size() != stopsAt;
     }
 
     // Answers, used in order.
@@ -72,6 +73,7 @@ public:
     std::deque<std::vector<std::string>> openFiles;
     std::deque<std::string> saveFiles;
     std::deque<std::string> folders;
+    std::size_t stopsAt = 0; ///< the report of progress that is answered by a stop, from 1
 
     // Questions and messages so far.
     std::vector<Message> messages;

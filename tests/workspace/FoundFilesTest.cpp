@@ -71,6 +71,23 @@ TEST_F(FoundFiles, areBelowTheFolderOfTheWorkspace)
     EXPECT_EQ(found("C:\\flutter\\wing.ev2"), named);
 }
 
+TEST_F(FoundFiles, areNoneAfterAStoppedSearch)
+{
+    writeBelow("a/b", "wing.ev2");
+    const std::string beside = folder.write("tail.ev2", "x");
+    std::vector<std::size_t> visited;
+    const auto files =
+        foundFiles({"/gone/wing.ev2", "/gone/tail.ev2", beside}, folder.file("case.tsw"),
+                   [&visited](std::size_t done, std::size_t total) {
+                       EXPECT_LT(done, total);
+                       visited.push_back(done);
+                       return visited.size() < 2;
+                   });
+    EXPECT_THAT(visited, ElementsAre(2, 3)) << "a and tail.ev2, then a/b";
+    EXPECT_THAT(files, ElementsAre("/gone/wing.ev2", "/gone/tail.ev2", beside))
+        << "a better tail.ev2 may be somewhere else";
+}
+
 TEST_F(FoundFiles, areNoFolders)
 {
     std::filesystem::create_directories(folder.path() / "wing.ev2");

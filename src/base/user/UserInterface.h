@@ -68,8 +68,9 @@ public:
     virtual void beginCommand() = 0;
 
     /// Shows the progress of a long operation. The windows are painted meanwhile but accept no
-    /// input. `done` equal to `total` ends it.
-    virtual void showProgress(std::size_t done, std::size_t total) = 0;
+    /// input, except that the user can stop the operation. Returns whether to go on. `done` equal
+    /// to `total`, the answer to stop, or a new status ends the progress.
+    virtual bool showProgress(std::size_t done, std::size_t total) = 0;
 };
 
 } // namespace tarsil
