@@ -31,6 +31,12 @@ public:
     {
         return std::nullopt;
     }
+    std::optional<std::size_t> askChoice(const std::string& /*prompt*/,
+                                         const std::string& /*title*/,
+                                         const std::vector<std::string>& /*choices*/) override
+    {
+        return std::nullopt;
+    }
     std::vector<std::string> askOpenFiles(const FileQuestion& /*question*/) override { return {}; }
     std::optional<std::string> askSaveFile(const FileQuestion& /*question*/) override
     {

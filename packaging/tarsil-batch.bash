@@ -28,6 +28,10 @@ _tarsil_batch() {
             mapfile -t COMPREPLY < <(compgen -W 'standard colour-blind line-styles' -- "$word")
             return
             ;;
+        --format)
+            mapfile -t COMPREPLY < <(compgen -W "emf svg pdf png" -- "$word")
+            return
+            ;;
         *)
             case $command in
                 import) pattern='' ;;

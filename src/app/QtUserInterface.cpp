@@ -3,6 +3,7 @@
 
 #include "app/StatusPanels.h"
 #include "app/StopFilter.h"
+#include "base/files/PathNames.h"
 #include "base/user/BusyStatus.h"
 
 #include <QApplication>
@@ -16,6 +17,7 @@
 #include <QToolButton>
 
 #include <algorithm>
+#include <memory>
 
 namespace tarsil {
 
@@ -37,6 +39,37 @@ void prepare(QFileDialog& dialog, const FileQuestion& question)
         dialog.selectNameFilter(filters[index]);
     if (!question.fileName.empty())
         dialog.selectFile(QString::fromStdString(question.fileName));
+}
+
+/// The extension that the chosen entry of the filter appends to names, with the dot; empty for
+/// none.
+QString extensionOf(const QFileDialog& dialog, const FileQuestion& question)
+{
+    const QStringList filters = nameFilters(question.filter);
+    const qsizetype entry = filters.indexOf(dialog.selectedNameFilter()) + 1;
+    if (question.firstExtending == 0 || entry < static_cast<qsizetype>(question.firstExtending))
+        return {};
+    const QString pattern = QString::fromStdString(question.filter).split(u'|').at(2 * entry - 1);
+    return pattern.mid(1); // without the asterisk
+}
+
+/// Shows the extension in the name when another entry of the filter is chosen.
+void followFilter(QFileDialog& dialog, const FileQuestion& question)
+{
+    if (question.firstExtending == 0)
+        return;
+    auto before = std::make_shared<QString>();
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
+                     [&dialog, question, before](const QString& /*filter*/) {
+                         const QFileInfo file(dialog.selectedFiles().value(0));
+                         const QString extension = extensionOf(dialog, question);
+                         QString name = file.isDir() ? QString() : file.fileName();
+                         if (!before->isEmpty() && name.endsWith(*before, Qt::CaseInsensitive))
+                             name.chop(before->size());
+                         *before = extension;
+                         if (!name.isEmpty())
+                             dialog.selectFile(name + extension);
+                     });
 }
 
 /// Runs a dialog and then restores the focus. Not every window manager activates the parent of the
@@ -170,6 +203,23 @@ std::optional<std::string> QtUserInterface::askText(const std::string& prompt,
     return isAnswered ? std::optional(dialog.textValue().toStdString()) : std::nullopt;
 }
 
+std::optional<std::size_t> QtUserInterface::askChoice(const std::string& prompt,
+                                                      const std::string& title,
+                                                      const std::vector<std::string>& choices)
+{
+    QStringList items;
+    for (const std::string& choice : choices)
+        items.append(QString::fromStdString(choice));
+    QWidget* const window = asker();
+    QInputDialog dialog(window);
+    dialog.setWindowTitle(QString::fromStdString(title));
+    dialog.setLabelText(QString::fromStdString(prompt));
+    dialog.setComboBoxItems(items);
+    if (execOver(window, dialog) != QDialog::Accepted)
+        return std::nullopt;
+    return static_cast<std::size_t>(items.indexOf(dialog.textValue()));
+}
+
 std::vector<std::string> QtUserInterface::askOpenFiles(const FileQuestion& question)
 {
     QWidget* const window = asker();
@@ -187,8 +237,18 @@ std::optional<std::string> QtUserInterface::askSaveFile(const FileQuestion& ques
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite, !question.confirmsReplacing);
+    followFilter(dialog, question);
     const std::vector<std::string> files = chosenFiles(window, dialog, question);
-    return files.empty() ? std::nullopt : std::optional(files.front());
+    if (files.empty())
+        return std::nullopt;
+    const QString extension = extensionOf(dialog, question);
+    if (QString::fromStdString(files.front()).endsWith(extension, Qt::CaseInsensitive))
+        return files.front();
+    const std::string extended = files.front() + extension.toStdString();
+    const bool mayWrite = !question.confirmsReplacing || !fileExists(extended)
+        || confirm("The file '" + extended + "' already exists. Do you want to replace it?",
+                   "Tarsil");
+    return mayWrite ? std::optional(extended) : std::nullopt;
 }
 
 std::optional<std::string> QtUserInterface::askFolder(const std::string& initial)

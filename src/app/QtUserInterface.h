@@ -50,6 +50,8 @@ public:
     Unsaved askToSave(const std::string& question, const std::string& title) override;
     std::optional<std::string> askText(const std::string& prompt, const std::string& title,
                                        const std::string& initial) override;
+    std::optional<std::size_t> askChoice(const std::string& prompt, const std::string& title,
+                                         const std::vector<std::string>& choices) override;
     std::vector<std::string> askOpenFiles(const FileQuestion& question) override;
     std::optional<std::string> askSaveFile(const FileQuestion& question) override;
     std::optional<std::string> askFolder(const std::string& initial) override;

@@ -4,6 +4,7 @@
 #include "app/DlgDampLine.h"
 #include "app/DlgRefSpeed.h"
 #include "app/LeftOutRows.h"
+#include "app/SaveAllPictures.h"
 #include "app/StatusPanels.h"
 #include "app/WindowMemory.h"
 #include "app/WndGuide.h"
@@ -473,6 +474,15 @@ void wndMain::showPrint()
     if (!m_print)
         m_print = std::make_unique<PrintDialog>(m_document, m_userInterface, this);
     m_print->open();
+}
+
+/// Plots that were never shown get the size of the window first.
+void wndMain::savePictures()
+{
+    m_evolPlot->fitAll();
+    const std::string folder =
+        m_document.path().empty() ? m_reportFolder.toStdString() : folderOf(m_document.path());
+    saveAllPictures(m_document.plots(), folder, m_userInterface);
 }
 
 void wndMain::QuitMenu_Click()

@@ -132,6 +132,7 @@ private:
     void ExportMenu_Click();
     void writeDocument();
     void showPrint();
+    void savePictures();
     void QuitMenu_Click();
     void mnuUndo_Click();
     void mnuRedo_Click();

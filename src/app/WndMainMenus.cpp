@@ -51,6 +51,7 @@ std::vector<wndMain::CommandMenu> wndMain::commandTable()
           {"ExportMenu", nullptr, "&Export Mix File ...", &wndMain::ExportMenu_Click},
           {"writeDocument", nullptr, "&Write Report ...", &wndMain::writeDocument},
           {"printPlots", nullptr, "&Print Plots ...", &wndMain::showPrint, "Ctrl+P"},
+          {"savePictures", nullptr, "Save All Pics ...", &wndMain::savePictures},
           {"QuitMenu", nullptr, "Quit", &wndMain::QuitMenu_Click, "Ctrl+Q"}}},
         {"mnuView",
          "&View",

@@ -7,6 +7,7 @@
 #include "batch/WorkspaceInput.h"
 #include "vgfplot/EvmPlot.h"
 #include "vgfplot/EvolutionPlotter.h"
+#include "vgfplot/PictureFiles.h"
 #include "vgfplot/PictureWriter.h"
 #include "vgfplot/PlotRecords.h"
 
@@ -14,12 +15,12 @@ namespace tarsil::batch {
 
 namespace {
 
+/// Applies the options to a plot whose picture goes to `output`.
 void finish(EvmPlot& plot, const PictureOptions& options, const std::string& output, BatchRun& run)
 {
     setScale(plot, options);
     setTexts(plot, options);
     plot.resize(options.size);
-    writePicture(plot, output);
     if (const QString note = plot.references().shiftNote(); !note.isEmpty())
         run.complain(output + ": " + note.toStdString());
 }
@@ -52,6 +53,7 @@ bool drawEvolutions(const std::vector<std::string>& paths, const PictureOptions&
     const std::size_t drawn = plotCurves(plot, files, options.markers, options.palette);
     const bool isWhole = reportLeftOut(paths, drawn, run);
     finish(plot, options, options.output, run);
+    writePicture(plot, options.output);
     return isWhole;
 }
 
@@ -67,15 +69,35 @@ std::vector<std::string> numberedOutputs(const std::string& output, std::size_t 
     return outputs;
 }
 
-/// Writes the picture of a plot of a workspace as the window shows it.
+/// The names of the pictures of a workspace.
+std::vector<std::string> outputsOf(const std::vector<PlotRecord>& plots,
+                                   const PictureOptions& options)
+{
+    if (!options.folderFormat)
+        return numberedOutputs(options.output, plots.size());
+    std::vector<std::string> captions;
+    for (const PlotRecord& plot : plots)
+        captions.push_back(plot.caption);
+    std::vector<std::string> outputs = pictureFileNames(captions, *options.folderFormat);
+    for (std::string& output : outputs)
+        output.insert(0, options.output + "/");
+    return outputs;
+}
+
+/// Draws a plot of a workspace as the window shows it, and adds it to `files` or writes it at once.
 void drawPlot(const PlotRecord& record, const std::vector<EVM*>& evolutions,
-              const PictureOptions& options, const std::string& output, BatchRun& run)
+              const PictureOptions& options, const std::string& output, PictureFiles& files,
+              BatchRun& run)
 {
     try {
         EvmPlot plot;
         plot.properties().setCaption(QString::fromStdString(record.caption));
         applyRecord(record, evolutions, plot);
         finish(plot, options, output, run);
+        if (options.folderFormat)
+            files.add(plot, output, *options.folderFormat);
+        else
+            writePicture(plot, output);
     } catch (const RunTimeError& error) {
         throw error.at("plot \"" + record.caption + "\"");
     }
@@ -87,13 +109,15 @@ bool drawWorkspace(const std::string& path, const PictureOptions& options, Batch
     const WorkspaceInput input = openWorkspace(path, options.plot, run);
     if (input.plots.empty())
         throw Failure(path + " has no plot");
-    const std::vector<std::string> outputs = numberedOutputs(options.output, input.plots.size());
+    const std::vector<std::string> outputs = outputsOf(input.plots, options);
     for (const std::string& output : outputs) {
         for (const std::string& file : input.files)
             refuseOutputOverInput(output, file);
     }
+    PictureFiles files;
     for (std::size_t i = 0; i < outputs.size(); ++i)
-        drawPlot(input.plots[i], input.evolutions, options, outputs[i], run);
+        drawPlot(input.plots[i], input.evolutions, options, outputs[i], files, run);
+    files.commit();
     return input.isWhole;
 }
 
@@ -119,9 +143,10 @@ constinit const Command pictureCommand {
      "status is 1.\n"
      "\n"
      "For a workspace, which must be the only FILE, every plot is drawn as it was saved:\n"
-     "with several plots out.svg becomes out-1.svg, out-2.svg and so on. Texts, scale and\n"
-     "ticks of the command line replace those of the plot; modes, colours and markers are\n"
-     "those of its series. A series whose file or mode is missing is left out with a message; the\n"
+     "with several plots out.svg becomes out-1.svg, out-2.svg and so on; with --all each\n"
+     "plot has its caption as its name in the folder OUTPUT. Texts, scale and ticks of the\n"
+     "command line replace those of the plot; modes, colours and markers are those of\n"
+     "its series. A series whose file or mode is missing is left out with a message; the\n"
      "rest is drawn, and the exit status is 1.",
      pictureOptionDescriptions},
     runPicture};

@@ -126,11 +126,31 @@ CurvePalette paletteOf(const CommandLine& line)
     throw wrongValue("--palette", *name, "standard, colour-blind or line-styles");
 }
 
+/// The format of --all; empty without that option.
+std::optional<PictureFormat> folderFormatOf(const CommandLine& line)
+{
+    const auto name = line.value("--format");
+    if (!line.has("--all")) {
+        if (name)
+            throw UsageError("--format is only for --all");
+        return std::nullopt;
+    }
+    const auto format = pictureFormatOf("." + name.value_or("svg"));
+    if (!format)
+        throw wrongValue("--format", *name, "emf, svg, pdf or png");
+    return format;
+}
+
 } // namespace
 
-constinit const std::array<OptionDescription, 15> pictureOptionDescriptions = {
+constinit const std::array<OptionDescription, 17> pictureOptionDescriptions = {
     {{"--modes", "LIST", "modes to draw; default is all"},
      plotOption,
+     {"--all", "",
+      "writes every plot of a workspace to the folder OUTPUT,\nnamed by its caption: all of them "
+      "or "
+      "none"},
+     {"--format", "FORMAT", "emf, svg, pdf or png: the format for --all; default svg"},
      {"--scale", "VMIN,VMAX,FMIN,FMAX,GMIN,GMAX",
       "bounds of the axes of speed, frequency and damping;\nGMIN is the damping at the speed axis, "
       "GMAX that at\nthe lower end; by default the axes are fitted to the\ndata, or are those of "
@@ -158,7 +178,9 @@ constinit const std::array<OptionDescription, 15> pictureOptionDescriptions = {
      {"--palette", "PALETTE",
       "how curves are told apart: standard, colour-blind\n(colours for people who see no red or "
       "green) or\nline-styles (black, for print without colours);\ndefault standard"},
-     {"--output", "OUTPUT", "the file to write, which ends in .png, .svg, .pdf or\n.emf", true}}};
+     {"--output", "OUTPUT",
+      "the file to write, which ends in .png, .svg, .pdf or\n.emf; with --all an existing folder",
+      true}}};
 
 QSize pictureSizeOf(const CommandLine& line, QSize otherwise)
 {
@@ -174,7 +196,9 @@ QSize pictureSizeOf(const CommandLine& line, QSize otherwise)
 PictureOptions pictureOptionsOf(const CommandLine& line)
 {
     PictureOptions options;
-    options.output = outputOf(line, pictureOutputs);
+    options.folderFormat = folderFormatOf(line);
+    options.output =
+        options.folderFormat ? *line.value("--output") : outputOf(line, pictureOutputs);
     options.size = pictureSizeOf(line, options.size);
     if (const auto list = line.value("--modes"))
         options.modes = modeListOf(*list);
@@ -188,6 +212,8 @@ PictureOptions pictureOptionsOf(const CommandLine& line)
     options.markers = markersOf(line);
     options.palette = paletteOf(line);
     options.plot = line.value(plotOption.name);
+    if (options.folderFormat && !hasWorkspace(line.operands()))
+        throw UsageError("--all needs a workspace");
     checkWorkspaceOptions(
         line, line.operands(),
         {"--modes", "--marker", "--marker-spacing", "--marker-size", "--palette"});

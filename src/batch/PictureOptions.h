@@ -5,6 +5,7 @@
 #include "model/PlotAxes.h"
 #include "plot/CurvePalette.h"
 #include "vgfplot/EvolutionPlotter.h"
+#include "vgfplot/PictureWriter.h"
 
 #include <QSize>
 #include <QString>
@@ -30,6 +31,9 @@ struct CaptionedValue
 struct PictureOptions
 {
     std::string output;
+    /// Every plot of a workspace goes to the folder `output`, in this format. Empty: `output` is a
+    /// file.
+    std::optional<PictureFormat> folderFormat;
     std::optional<std::string> plot; ///< of a workspace; empty: all plots
     QSize size {1000, 750}; ///< pixels at 96 per inch
     std::optional<ModeList> modes;
@@ -46,7 +50,7 @@ struct PictureOptions
     CurvePalette palette = CurvePalette::Standard;
 };
 
-extern const std::array<OptionDescription, 15> pictureOptionDescriptions;
+extern const std::array<OptionDescription, 17> pictureOptionDescriptions;
 
 /// The value of --size, or `otherwise`; UsageError for an invalid one.
 QSize pictureSizeOf(const CommandLine& line, QSize otherwise);

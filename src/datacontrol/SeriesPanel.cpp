@@ -18,6 +18,7 @@
 #include "plotwindow/FilterLine.h"
 #include "plotwindow/ToolTipText.h"
 #include "vgfplot/EvmPlot.h"
+#include "vgfplot/PictureWriter.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -40,7 +41,10 @@ namespace tarsil {
 namespace {
 
 constexpr std::string_view pictureFilter =
-    "Enhanced Windows Metafile (*.emf)|*.emf|All Files (*.*)|*.*|";
+    "Enhanced Windows Metafile (*.emf)|*.emf|All Files (*.*)|*.*|"
+    "Scalable Vector Graphics (*.svg)|*.svg|Portable Document Format (*.pdf)|*.pdf|"
+    "Portable Network Graphics (*.png)|*.png|";
+constexpr std::size_t firstExtendingFormat = 3; ///< a metafile has the very name that is given
 
 int columnNumber(SeriesColumn column)
 {
@@ -492,7 +496,7 @@ void SeriesPanel::chooseLine()
 }
 
 /// Cancelling the dialog does not cancel the command: the picture is written under the caption of
-/// the plot. No question is asked then before a file of that name is replaced.
+/// the plot. A name that selects no other format is that of a metafile.
 void SeriesPanel::SavePic_Click()
 {
     EvmPlot* const plot = m_commands.activePlot();
@@ -500,15 +504,21 @@ void SeriesPanel::SavePic_Click()
         return;
     UserInterface& user = m_commands.user();
     const std::string caption = plot->properties().Caption().toStdString();
-    const auto answer = user.askSaveFile({std::string(pictureFilter), 1, false, caption, true});
+    const auto answer = user.askSaveFile(
+        {std::string(pictureFilter), 1, false, caption, true, firstExtendingFormat});
     if (!answer && fileExists(caption)
         && !user.confirm("The file '" + caption + "' already exists. Do you want to replace it?",
                          "Tarsil"))
         return;
     const std::string name = answer.value_or(caption);
     plot->commitEdits();
-    plot->ExportPic(QString::fromStdString(name));
-    user.showNote("The picture is in " + wholePath(name));
+    const PictureFormat format = pictureFormatOf(name).value_or(PictureFormat::Emf);
+    if (format == PictureFormat::Emf)
+        plot->ExportPic(QString::fromStdString(name));
+    else
+        writePicture(*plot, name);
+    user.showNote("The picture is in " + wholePath(name) + " (" + std::string(traitsOf(format).name)
+                  + ")");
 }
 
 } // namespace tarsil

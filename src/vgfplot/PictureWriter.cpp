@@ -2,6 +2,7 @@
 #include "vgfplot/PictureWriter.h"
 
 #include "base/files/AtomicFile.h"
+#include "base/text/AsciiText.h"
 #include "base/user/RunTimeError.h"
 #include "emf/EmfSink.h"
 #include "emf/MetafileContext.h"
@@ -14,9 +15,6 @@
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
-
-#include <array>
-#include <utility>
 
 namespace tarsil {
 
@@ -32,9 +30,15 @@ constexpr double clipboardScale = 2; ///< sharp enough for a printed report
     throw RunTimeError(ErrorNumber::InvalidProcedureCall, "PictureWriter", details);
 }
 
-/// The formats other than metafiles by extension.
-constexpr std::array<std::pair<const char*, PictureFormat>, 3> formatsInMemory = {
-    {{".png", PictureFormat::Png}, {".svg", PictureFormat::Svg}, {".pdf", PictureFormat::Pdf}}};
+constexpr bool areFormatsInOrder()
+{
+    for (std::size_t i = 0; i < pictureTraits.size(); ++i) {
+        if (static_cast<std::size_t>(pictureTraits[i].format) != i)
+            return false;
+    }
+    return true;
+}
+static_assert(areFormatsInOrder(), "the traits of pictures are indexed by format");
 
 /// The separators are a backslash and the digit zero, as in all such pictures so far.
 const QString description = QStringLiteral("Tarsil\\0Created by Kestrin\\0\\0");
@@ -113,6 +117,17 @@ QByteArray metafileBytes(const DrawnPicture& picture)
 
 } // namespace
 
+std::optional<PictureFormat> pictureFormatOf(std::string_view path)
+{
+    for (const PictureTraits& traits : pictureTraits) {
+        const std::size_t length = traits.extension.size();
+        if (path.size() >= length
+            && equalIgnoringAsciiCase(path.substr(path.size() - length), traits.extension))
+            return traits.format;
+    }
+    return std::nullopt;
+}
+
 void writeMetafile(const DrawnPicture& picture, EmfSink& sink)
 {
     MetafileContext context(sink, description);
@@ -183,25 +198,18 @@ std::unique_ptr<QMimeData> pictureMimeData(const DrawnPicture& picture)
 
 void writePicture(const DrawnPicture& picture, const std::string& path)
 {
-    const QString name = QString::fromStdString(path);
-    const auto endsIn = [&name](QLatin1String extension) {
-        return name.endsWith(extension, Qt::CaseInsensitive);
-    };
-    if (endsIn(QLatin1String(".emf"))) {
+    const std::optional<PictureFormat> format = pictureFormatOf(path);
+    if (!format)
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall, "PictureWriter",
+                           path + " does not end in .png, .svg, .pdf or .emf");
+    if (format == PictureFormat::Emf) {
         EmfFile file(path);
         writeMetafile(picture, file);
         file.commit();
         return;
     }
-    for (const auto& [extension, format] : formatsInMemory) {
-        if (!endsIn(QLatin1String(extension)))
-            continue;
-        const QByteArray bytes = pictureBytes(picture, format);
-        writeFile(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
-        return;
-    }
-    throw RunTimeError(ErrorNumber::InvalidProcedureCall, "PictureWriter",
-                       path + " does not end in .png, .svg, .pdf or .emf");
+    const QByteArray bytes = pictureBytes(picture, *format);
+    writeFile(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 
 } // namespace tarsil

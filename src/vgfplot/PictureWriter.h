@@ -5,8 +5,12 @@
 #include <QImage>
 #include <QRectF>
 
+#include <array>
+#include <cstddef>
 #include <memory>
+#include <optional>
 #include <string>
+#include <string_view>
 
 class QMimeData;
 class QPainter;
@@ -16,7 +20,29 @@ namespace tarsil {
 class DrawnPicture;
 class EmfSink;
 
-enum class PictureFormat { Png, Svg, Pdf, Emf };
+enum class PictureFormat { Emf, Svg, Pdf, Png };
+
+/// The properties of a format.
+struct PictureTraits
+{
+    PictureFormat format;
+    std::string_view extension; ///< of its files, with the dot
+    std::string_view name; ///< for the user
+};
+
+inline constexpr std::array<PictureTraits, 4> pictureTraits = {
+    {{PictureFormat::Emf, ".emf", "Enhanced Metafile"},
+     {PictureFormat::Svg, ".svg", "SVG"},
+     {PictureFormat::Pdf, ".pdf", "PDF"},
+     {PictureFormat::Png, ".png", "PNG"}}};
+
+constexpr const PictureTraits& traitsOf(PictureFormat format)
+{
+    return pictureTraits[static_cast<std::size_t>(format)];
+}
+
+/// The format that the extension of a path selects, in any case; empty for another extension.
+std::optional<PictureFormat> pictureFormatOf(std::string_view path);
 
 // A picture in its current size; a pixel is 1/96 inch. Edits in progress are not included
 // (`EvmPlot::commitEdits`). Needs a QGuiApplication. Errors: those of drawing; 5 for a

@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QInputDialog>
 #include <QKeyEvent>
 #include <QLabel>
@@ -139,6 +140,47 @@ TEST_F(QtUserInterfaceTest, offersFilesByTheWantedFilter)
         dialog.reject();
     });
     EXPECT_EQ(user.askSaveFile(question), std::nullopt);
+}
+
+TEST_F(QtUserInterfaceTest, asksForAChoice)
+{
+    onDialog<QInputDialog>([](QInputDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Tarsil"));
+        EXPECT_EQ(dialog.textValue(), QStringLiteral("one"));
+        dialog.setTextValue(QStringLiteral("two"));
+        static_cast<QDialog&>(dialog).accept();
+    });
+    EXPECT_EQ(user.askChoice("Which?", "Tarsil", {"one", "two"}), 1U);
+    onDialog<QInputDialog>([](QInputDialog& dialog) { dialog.reject(); });
+    EXPECT_EQ(user.askChoice("Which?", "Tarsil", {"one", "two"}), std::nullopt);
+}
+
+TEST_F(QtUserInterfaceTest, appendsTheExtensionOfTheChosenFilter)
+{
+    const test::TemporaryFolder folder;
+    const FileQuestion question {
+        "Metafile (*.emf)|*.emf|All Files (*.*)|*.*|SVG (*.svg)|*.svg|PNG (*.png)|*.png|",
+        1,
+        false,
+        folder.file("Plot1"),
+        true,
+        3};
+    const auto choose = [](QFileDialog& dialog, const char* filter) {
+        dialog.selectNameFilter(QString::fromLatin1(filter));
+        Q_EMIT dialog.filterSelected(dialog.selectedNameFilter());
+        return QFileInfo(dialog.selectedFiles().value(0)).fileName();
+    };
+    onDialog<QFileDialog>([choose](QFileDialog& dialog) {
+        EXPECT_EQ(choose(dialog, "SVG (*.svg)"), QStringLiteral("Plot1.svg"));
+        EXPECT_EQ(choose(dialog, "PNG (*.png)"), QStringLiteral("Plot1.png"));
+        EXPECT_EQ(choose(dialog, "Metafile (*.emf)"), QStringLiteral("Plot1"));
+        choose(dialog, "SVG (*.svg)");
+        dialog.selectFile(QStringLiteral("wing m0.40"));
+        static_cast<QDialog&>(dialog).accept();
+    });
+    EXPECT_EQ(user.askSaveFile(question), folder.file("wing m0.40.svg"));
+    onDialog<QFileDialog>([](QFileDialog& dialog) { static_cast<QDialog&>(dialog).accept(); });
+    EXPECT_EQ(user.askSaveFile(question), folder.file("Plot1")) << "a metafile keeps its name";
 }
 
 TEST_F(QtUserInterfaceTest, asksForAFolderThatExists)

@@ -89,6 +89,57 @@ TEST_F(PictureOfAWorkspace, isNumberedBeforeItsLastExtension)
     EXPECT_EQ(fileBytes(file("-2.emf")).substr(40, 4), " EMF");
 }
 
+TEST_F(PictureOfAWorkspace, goesToAFolderUnderItsCaption)
+{
+    const std::string folder = file("pictures");
+    std::filesystem::create_directory(folder);
+    WorkspaceRecord record = this->record();
+    record.plots[1].caption = "a/b";
+    const std::string path = write(record);
+    const auto result = runBatch({"picture", "--all", "--output", folder, path});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.out + result.err, "");
+    EXPECT_THAT(texts("pictures/Wing.svg"), HasSubstr("|header of Wing|"));
+    EXPECT_THAT(texts("pictures/a_b.svg"), HasSubstr("|header of Store|"));
+    EXPECT_EQ(
+        runBatch({"picture", "--all", "--format", "emf", "--plot", "2", "--output", folder, path})
+            .status,
+        0);
+    EXPECT_EQ(fileBytes(file("pictures/a_b.emf")).substr(40, 4), " EMF");
+    EXPECT_FALSE(exists("pictures/Wing.emf"));
+}
+
+TEST_F(PictureOfAWorkspace, goesToAFolderWithAllOthersOrNotAtAll)
+{
+    const std::string folder = file("pictures");
+    const std::string path = write(record());
+    const auto missing = runBatch({"picture", "--all", "--output", folder, path});
+    EXPECT_EQ(missing.status, 1);
+    EXPECT_THAT(missing.err, HasSubstr("Path not found"));
+    std::filesystem::create_directory(folder);
+    WorkspaceRecord record = this->record();
+    record.plots[1].axes.speed.ticks = 0;
+    const auto result = runBatch({"picture", "--all", "--output", folder, write(record)});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.err, HasSubstr("plot \"Store\""));
+    EXPECT_TRUE(std::filesystem::is_empty(folder));
+}
+
+TEST_F(PictureOfAWorkspace, goesToAFolderOnlyOnRequest)
+{
+    const std::string path = write(record());
+    const std::vector<std::vector<std::string>> wrong = {
+        {"--all", "--format", "bmp", "--output", file("x"), path},
+        {"--format", "svg", "--output", file("x.svg"), path},
+        {"--all", "--output", file("x"), wing},
+        {"--output", file("x"), path}};
+    for (const auto& more : wrong) {
+        std::vector<std::string> all = {"picture"};
+        all.insert(all.end(), more.begin(), more.end());
+        EXPECT_EQ(runBatch(all).status, 2) << ::testing::PrintToString(more);
+    }
+}
+
 TEST_F(PictureOfAWorkspace, hasTheAxesAndColoursOfThePlot)
 {
     EXPECT_EQ(draw({write(record())}).status, 0);

@@ -308,15 +308,35 @@ TEST_F(WndDataTexts, savesThePictureUnderTheNameThatIsGiven)
     click("SavePic");
     ASSERT_EQ(user.fileQuestions.size(), 1U);
     EXPECT_EQ(user.fileQuestions[0].filter,
-              "Enhanced Windows Metafile (*.emf)|*.emf|All Files (*.*)|*.*|");
+              "Enhanced Windows Metafile (*.emf)|*.emf|All Files (*.*)|*.*|"
+              "Scalable Vector Graphics (*.svg)|*.svg|Portable Document Format (*.pdf)|*.pdf|"
+              "Portable Network Graphics (*.png)|*.png|");
     EXPECT_EQ(user.fileQuestions[0].filterIndex, 1U);
+    EXPECT_EQ(user.fileQuestions[0].firstExtending, 3U);
     EXPECT_EQ(user.fileQuestions[0].fileName, "Plot1");
     const std::string bytes = test::fileBytes(folder.file("picture"));
     ASSERT_GT(bytes.size(), 44U);
     EXPECT_EQ(bytes.substr(40, 4), " EMF"); // the signature of the format
-    EXPECT_EQ(user.note, "The picture is in " + folder.file("picture"));
+    EXPECT_EQ(user.note, "The picture is in " + folder.file("picture") + " (Enhanced Metafile)");
     click("btnFitFreq");
     EXPECT_EQ(user.note, "") << "the next command has begun";
+}
+
+TEST_F(WndDataTexts, savesThePictureInTheFormatOfItsName)
+{
+    const test::TemporaryFolder folder;
+    const auto saved = [&](const char* name) {
+        user.saveFiles.push_back(folder.file(name));
+        click("SavePic");
+        return test::fileBytes(folder.file(name));
+    };
+    EXPECT_THAT(saved("wing.svg"), StartsWith("<?xml"));
+    EXPECT_EQ(user.note, "The picture is in " + folder.file("wing.svg") + " (SVG)");
+    EXPECT_THAT(saved("wing.PDF"), StartsWith("%PDF-"));
+    EXPECT_THAT(saved("wing.png"), StartsWith("\x89PNG"));
+    EXPECT_EQ(saved("wing.emf").substr(40, 4), " EMF");
+    EXPECT_EQ(saved("wing m0.40").substr(40, 4), " EMF");
+    EXPECT_THAT(user.messages, IsEmpty());
 }
 
 TEST_F(WndDataTexts, savesThePictureUnderTheCaptionWhenTheDialogIsCancelled)
@@ -327,7 +347,7 @@ TEST_F(WndDataTexts, savesThePictureUnderTheCaptionWhenTheDialogIsCancelled)
     click("SavePic");
     const std::string picture = test::fileBytes(folder.file("Plot1"));
     EXPECT_GT(picture.size(), 44U);
-    EXPECT_EQ(user.note, "The picture is in " + folder.file("Plot1"));
+    EXPECT_EQ(user.note, "The picture is in " + folder.file("Plot1") + " (Enhanced Metafile)");
     EXPECT_THAT(user.questions, IsEmpty());
     plot().texts().setText(TextBox::Header, QStringLiteral("another picture"));
     click("SavePic");

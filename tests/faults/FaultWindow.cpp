@@ -47,6 +47,11 @@ public:
     {
         return "0";
     }
+    std::optional<std::size_t> askChoice(const std::string&, const std::string&,
+                                         const std::vector<std::string>&) override
+    {
+        return std::nullopt;
+    }
     std::vector<std::string> askOpenFiles(const FileQuestion& /*question*/) override { return {}; }
     std::optional<std::string> askSaveFile(const FileQuestion& /*question*/) override
     {

@@ -42,6 +42,14 @@ public:
         initials.push_back(initial);
         return take(texts);
     }
+    std::optional<std::size_t> askChoice(const std::string& prompt, const std::string& title,
+                                         const std::vector<std::string>& choices) override
+    {
+        questions.push_back(prompt);
+        titles.push_back(title);
+        offered = choices;
+        return take(choiceIndices);
+    }
     std::vector<std::string> askOpenFiles(const FileQuestion& question) override
     {
         fileQuestions.push_back(question);
@@ -70,6 +78,7 @@ public:
     std::deque<bool> confirmations;
     std::deque<Unsaved> unsaved;
     std::deque<std::string> texts;
+    std::deque<std::size_t> choiceIndices;
     std::deque<std::vector<std::string>> openFiles;
     std::deque<std::string> saveFiles;
     std::deque<std::string> folders;
@@ -80,6 +89,7 @@ public:
     std::vector<std::string> questions;
     std::vector<std::string> titles; ///< titles of the questions for texts
     std::vector<std::string> initials;
+    std::vector<std::string> offered; ///< the choices of the last question for one
     std::vector<FileQuestion> fileQuestions;
     std::vector<std::string> statuses;
     std::string note; ///< the current note

@@ -22,6 +22,9 @@ struct FileQuestion
     bool takesSeveral = false;
     std::string fileName; ///< the initial name
     bool confirmsReplacing = true; ///< whether a save dialog asks before it replaces a file
+    /// In a save dialog the entries of the filter from this one on, counted from 1, append their
+    /// extension to the name; 0: none does.
+    std::size_t firstExtending = 0;
 };
 
 /// What the program asks its user and shows to him. Its callers know no windows: the program
@@ -47,6 +50,12 @@ public:
     /// Asks for a line of text; `initial` is the text at first. Empty when the user cancels.
     virtual std::optional<std::string> askText(const std::string& prompt, const std::string& title,
                                                const std::string& initial) = 0;
+
+    /// Asks for one of several choices; returns its index. The first one is selected at first.
+    /// Empty when the user cancels.
+    virtual std::optional<std::size_t> askChoice(const std::string& prompt,
+                                                 const std::string& title,
+                                                 const std::vector<std::string>& choices) = 0;
 
     /// Asks for files to open; returns their full paths. Empty when the user cancels.
     virtual std::vector<std::string> askOpenFiles(const FileQuestion& question) = 0;

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "app/SaveAllPictures.h"
+
+#include "base/files/PathNames.h"
+#include "base/text/ShortList.h"
+#include "base/user/RunTimeError.h"
+#include "base/user/UserInterface.h"
+#include "document/PlotList.h"
+#include "vgfplot/EvmPlot.h"
+#include "vgfplot/PictureFiles.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <optional>
+#include <vector>
+
+namespace tarsil {
+
+namespace {
+
+constexpr const char* allPicturesTitle = "Save All Pics";
+
+std::optional<PictureFormat> askFormat(UserInterface& user)
+{
+    std::vector<std::string> formats;
+    for (const PictureTraits& traits : pictureTraits)
+        formats.push_back(std::string(traits.name) + " (" + std::string(traits.extension) + ")");
+    const std::optional<std::size_t> index =
+        user.askChoice("Format of the pictures:", allPicturesTitle, formats);
+    return index ? std::optional(pictureTraits.at(*index).format) : std::nullopt;
+}
+
+/// Whether none of the files exists, or the user allows to replace them.
+bool mayReplaceAll(const std::vector<std::string>& paths, UserInterface& user)
+{
+    std::vector<std::string> existing;
+    std::copy_if(paths.begin(), paths.end(), std::back_inserter(existing), fileExists);
+    return existing.empty()
+        || user.confirm("These files already exist. Do you want to replace them?\n"
+                            + shortList(existing, mostFileLines),
+                        allPicturesTitle);
+}
+
+std::vector<std::string> picturePathsOf(const std::vector<EvmPlot*>& plots,
+                                        const std::string& folder, PictureFormat format)
+{
+    std::vector<std::string> captions;
+    for (const EvmPlot* const plot : plots)
+        captions.push_back(plot->properties().Caption().toStdString());
+    std::vector<std::string> paths = pictureFileNames(captions, format);
+    for (std::string& path : paths)
+        path.insert(0, folder + "/");
+    return paths;
+}
+
+void writeAll(const std::vector<EvmPlot*>& plots, const std::vector<std::string>& paths,
+              PictureFormat format)
+{
+    PictureFiles files;
+    for (std::size_t i = 0; i < plots.size(); ++i) {
+        try {
+            files.add(*plots[i], paths[i], format);
+        } catch (const RunTimeError& error) {
+            throw error.at("plot \"" + plots[i]->properties().Caption().toStdString() + "\"");
+        }
+    }
+    files.commit();
+}
+
+} // namespace
+
+void saveAllPictures(const PlotList& list, const std::string& folder, UserInterface& user)
+{
+    const std::optional<PictureFormat> format = askFormat(user);
+    const std::optional<std::string> chosen = format ? user.askFolder(folder) : std::nullopt;
+    if (!chosen)
+        return;
+    const std::vector<EvmPlot*> plots = list.all();
+    const std::vector<std::string> paths = picturePathsOf(plots, *chosen, *format);
+    if (!mayReplaceAll(paths, user))
+        return;
+    writeAll(plots, paths, *format);
+    user.showNote(std::to_string(plots.size())
+                  + (plots.size() == 1 ? " picture is" : " pictures are") + " in "
+                  + wholePath(*chosen) + " (" + std::string(traitsOf(*format).name) + ")");
+}
+
+} // namespace tarsil
