@@ -4,14 +4,17 @@
 #include "ui_LegendPanel.h"
 
 #include "base/user/RunTimeError.h"
+#include "base/user/UserInterface.h"
 #include "datacontrol/DataCommands.h"
 #include "datacontrol/MarkerPanel.h"
 #include "datacontrol/SeriesGridView.h"
 #include "document/MdlData.h"
 #include "document/PlotTitles.h"
+#include "plot/Marker.h"
 #include "plotwindow/NumberInput.h"
 #include "vgfplot/EvmPlot.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 
@@ -27,6 +30,22 @@ double fontSizeIn(QLineEdit& input)
                            "a font of " + input.text().toStdString()
                                + " points; it must be from 1 to 400");
     return points;
+}
+
+/// A note when curves with a legend text are marked by something else than the tag that the legend
+/// names; empty otherwise.
+std::string markerNote(const EvmPlot& plot)
+{
+    const SeriesList& curves = plot.SeriesCollection();
+    const auto isMarkedOtherwise = [](const Series& series) {
+        return !series.LegendText.isEmpty() && series.MarkerSpacing != 0
+            && series.MarkerStyle != markerNumber(MarkerKind::None)
+            && series.MarkerStyle != markerNumber(MarkerKind::Tag);
+    };
+    return std::any_of(curves.begin(), curves.end(), isMarkedOtherwise)
+        ? "The legend names the tags of the curves, which their markers do not show: choose the "
+          "marker \"Tag\""
+        : "";
 }
 
 } // namespace
@@ -72,6 +91,8 @@ void LegendPanel::btnPlotLeg_Click()
         missing = mdlData::buildSeries(plot.rows(), markers);
         writeLegend(plot, points);
     });
+    if (const std::string note = markerNote(*m_commands.activePlot()); !note.empty())
+        m_commands.user().showNote(note);
     if (!missing.empty())
         m_commands.warn(missing);
 }

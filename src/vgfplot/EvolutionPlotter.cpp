@@ -72,10 +72,14 @@ std::size_t fileCount(const SeriesList& series)
     return files.size();
 }
 
-std::int32_t usualSpacing(const AeMode& mode)
+/// The points between about four markers of a curve. Three neighbouring curves have different
+/// spacings, because markers at the same points of close curves cover each other.
+std::int32_t usualSpacing(const AeMode& mode, std::size_t curve)
 {
-    return static_cast<std::int32_t>(
-        std::max<std::size_t>(mode.Points.size() / markersPerCurve, 2));
+    constexpr std::array<int, 3> directions = {0, -1, 1};
+    const auto usual = static_cast<std::int32_t>(mode.Points.size() / markersPerCurve);
+    const std::int32_t difference = std::max(usual / 5, 1);
+    return std::max(usual + directions[curve % directions.size()] * difference, 2);
 }
 
 /// The look of the curves of files.
@@ -91,8 +95,8 @@ void addCurves(EvmPlot& plot, const EvolutionCurves& curves, const CurveLook& lo
     const CurveMarkers& markers = look.markers;
     std::vector<Series> added;
     for (AeMode* mode : curves.modes) {
-        const std::size_t row = plot.rows().count() + added.size();
-        Series& series = added.emplace_back(newSeries(*mode, row, look.palette));
+        const std::size_t curve = plot.rows().count() + added.size();
+        Series& series = added.emplace_back(newSeries(*mode, curve, look.palette));
         if (look.palette != CurvePalette::LineStyles)
             series.LineStyle = lineStylesInUse[file % lineStylesInUse.size()];
         series.LegendText = QString::fromStdString(curves.evolution->FileName);
@@ -100,7 +104,7 @@ void addCurves(EvmPlot& plot, const EvolutionCurves& curves, const CurveLook& lo
         series.IthMpf = markers.factor;
         series.MarkerSize = markers.size;
         series.MarkerForegroundColor = series.ColorIndex;
-        series.MarkerSpacing = markers.spacing.value_or(usualSpacing(*mode));
+        series.MarkerSpacing = markers.spacing.value_or(usualSpacing(*mode, curve));
     }
     plot.rows().add(std::move(added));
 }

@@ -38,11 +38,12 @@ struct CurveMarkers
 constexpr std::size_t mostCurves = 500;
 
 /// Adds files to a plot in the standard look, the same in a window and in a picture. Each mode gets
-/// a curve with about four markers (or as `spacing` says) and the look of the palette; each file
-/// gets its own line style, counted over all curves of the plot, unless the palette gives each
-/// curve one. If the plot was empty and its scale that of a new plot, its axes are fitted; an empty
-/// header or subtitle is filled with what the files have in common and their names. Stops before
-/// the plot would exceed `mostCurves`; returns the number of files drawn.
+/// a curve with about four markers (or as `spacing` says), at other points than its neighbours, and
+/// the look of the palette; each file gets its own line style, counted over all curves of the plot,
+/// unless the palette gives each curve one. If the plot was empty and its scale that of a new plot,
+/// its axes are fitted; an empty header or subtitle is filled with what the files have in common
+/// and their names. Stops before the plot would exceed `mostCurves`; returns the number of files
+/// drawn.
 std::size_t plotCurves(EvmPlot& plot, const std::vector<EvolutionCurves>& files,
                        const CurveMarkers& markers = {},
                        CurvePalette palette = CurvePalette::Standard);

@@ -263,6 +263,19 @@ TEST_F(WndDataTexts, writesALegendTextWithALineBreakAsOneLine)
     EXPECT_EQ(colorAt(13), BaseColors[1]);
 }
 
+TEST_F(WndDataTexts, saysWhenTheLegendNamesOtherThingsThanTheMarkers)
+{
+    add(load("a.ev2"));
+    change(0, [](Series& one) { one.LegendText = QStringLiteral("clean"); });
+    click("btnPlotLeg");
+    EXPECT_EQ(user.note,
+              "The legend names the tags of the curves, which their markers do not show: choose "
+              "the marker \"Tag\"");
+    partOf<QRadioButton>(data, "tagBtn").click();
+    click("btnPlotLeg");
+    EXPECT_EQ(user.note, "");
+}
+
 TEST_F(WndDataTexts, writesALegendWithoutLinesAsAnEmptyBox)
 {
     add(load("a.ev2"));

@@ -133,6 +133,18 @@ TEST_F(EvolutionPlotter, givesEachFileALineStyleOfItsOwnAlsoWhenItComesLater)
     EXPECT_EQ(series[4].LineStyle, series[3].LineStyle);
 }
 
+TEST_F(EvolutionPlotter, putsMarkersOfNeighbouringCurvesAtDifferentPoints)
+{
+    for (std::int16_t i = 4; i <= 8; ++i)
+        addMode(*one, i, {{100, 0, 10}}).Points.resize(40);
+    plotAll({one.get()});
+    std::vector<int> spacings;
+    for (const Series& series : plot.SeriesCollection())
+        spacings.push_back(series.MarkerSpacing);
+    // A quarter of 40 points is 10, and a fifth of that 2; two points have one marker.
+    EXPECT_EQ(spacings, (std::vector<int> {2, 2, 2, 10, 8, 12, 10, 8}));
+}
+
 TEST_F(EvolutionPlotter, doesNothingWithoutEvolutions)
 {
     plotAll({});
