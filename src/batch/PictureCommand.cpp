@@ -20,7 +20,7 @@ void finish(EvmPlot& plot, const PictureOptions& options, const std::string& out
 {
     setScale(plot, options);
     setTexts(plot, options);
-    plot.resize(options.size);
+    plot.resize(options.size.pixels);
     if (const QString note = plot.references().shiftNote(); !note.isEmpty())
         run.complain(output + ": " + note.toStdString());
 }
@@ -53,7 +53,7 @@ bool drawEvolutions(const std::vector<std::string>& paths, const PictureOptions&
     const std::size_t drawn = plotCurves(plot, files, options.markers, options.palette);
     const bool isWhole = reportLeftOut(paths, drawn, run);
     finish(plot, options, options.output, run);
-    writePicture(plot, options.output);
+    writePicture(plot, options.output, options.size.settings);
     return isWhole;
 }
 
@@ -95,9 +95,9 @@ void drawPlot(const PlotRecord& record, const std::vector<EVM*>& evolutions,
         applyRecord(record, evolutions, plot);
         finish(plot, options, output, run);
         if (options.folderFormat)
-            files.add(plot, output, *options.folderFormat);
+            files.add(plot, output, *options.folderFormat, options.size.settings);
         else
-            writePicture(plot, output);
+            writePicture(plot, output, options.size.settings);
     } catch (const RunTimeError& error) {
         throw error.at("plot \"" + record.caption + "\"");
     }

@@ -16,6 +16,9 @@ constexpr std::array<std::string_view, 4> pictureOutputs = {".png", ".svg", ".pd
 constexpr int largestSide = 20000;
 constexpr int mostTicks = 1000;
 constexpr int largestMarkerNumber = 1000;
+constexpr int finestResolution = 2400;
+constexpr double finestLine = 0.1;
+constexpr double widestLine = 100;
 
 UsageError wrongValue(std::string_view option, std::string_view text, std::string_view expected)
 {
@@ -32,6 +35,35 @@ std::int16_t countOf(std::string_view text, int most, std::string_view option)
         || count > most)
         throw wrongValue(option, text, "a whole number from 1 to " + std::to_string(most));
     return count;
+}
+
+QSize sizeInPixels(std::string_view text)
+{
+    const auto pieces = split(text, 'x');
+    if (pieces.size() != 2)
+        throw wrongValue("--size", text, "a size such as 1000x750 or 165x120mm");
+    return {countOf(pieces[0], largestSide, "--size"), countOf(pieces[1], largestSide, "--size")};
+}
+
+/// A size "165x120mm", with the resolution. No bitmap of it has more than the most pixels.
+PictureSize sizeInMillimetres(const CommandLine& line, std::string_view text)
+{
+    PictureSize size;
+    if (const auto resolution = line.value("--resolution"))
+        size.settings.dotsPerInch = countOf(*resolution, finestResolution, "--resolution");
+    const auto pieces = split(text.substr(0, text.size() - 2), 'x');
+    if (pieces.size() != 2)
+        throw wrongValue("--size", text, "a size such as 1000x750 or 165x120mm");
+    const QSizeF millimetres(numberOf(pieces[0], "--size"), numberOf(pieces[1], "--size"));
+    const double dots = std::max(size.settings.dotsPerInch, 96.0) / 25.4;
+    const auto isSide = [dots](double length) {
+        return length >= 1 && length * dots <= largestSide;
+    };
+    if (!isSide(millimetres.width()) || !isSide(millimetres.height()))
+        throw wrongValue("--size", text, "a size from 1 mm to 20000 pixels");
+    size.pixels = pixelsOf(millimetres);
+    size.settings.millimetres = millimetres;
+    return size;
 }
 
 std::optional<PlotBounds> boundsOf(const CommandLine& line)
@@ -143,7 +175,7 @@ std::optional<PictureFormat> folderFormatOf(const CommandLine& line)
 
 } // namespace
 
-constinit const std::array<OptionDescription, 17> pictureOptionDescriptions = {
+constinit const std::array<OptionDescription, 19> pictureOptionDescriptions = {
     {{"--modes", "LIST", "modes to draw; default is all"},
      plotOption,
      {"--all", "",
@@ -156,7 +188,9 @@ constinit const std::array<OptionDescription, 17> pictureOptionDescriptions = {
       "GMAX that at\nthe lower end; by default the axes are fitted to the\ndata, or are those of "
       "the workspace"},
      {"--ticks", "V,G,F", "tick counts of the three axes"},
-     {"--size", "WxH", "size of the picture in pixels; default 1000x750"},
+     sizeOption,
+     resolutionOption,
+     lineWidthOption,
      {"--header", "TEXT",
       "text above the plot; in all texts \\n begins a new line,\nand Rich Text Format ({\\rtf...) "
       "keeps its look;\ndefault: airplane, mass, method and Mach number as\nfar as the files "
@@ -173,7 +207,8 @@ constinit const std::array<OptionDescription, 17> pictureOptionDescriptions = {
       "text at the points: none, id (the mode number),\ntag (the number of the curve) or mpf:I "
       "(participation\nfactor I); default id"},
      {"--marker-spacing", "N",
-      "number of points between markers; by default each\ncurve has about four markers"},
+      "number of points between markers; by default each\ncurve has about four markers, at other "
+      "points than its\nneighbours"},
      {"--marker-size", "N", "size of the markers in points; default 8"},
      {"--palette", "PALETTE",
       "how curves are told apart: standard, colour-blind\n(colours for people who see no red or "
@@ -182,15 +217,23 @@ constinit const std::array<OptionDescription, 17> pictureOptionDescriptions = {
       "the file to write, which ends in .png, .svg, .pdf or\n.emf; with --all an existing folder",
       true}}};
 
-QSize pictureSizeOf(const CommandLine& line, QSize otherwise)
+PictureSize pictureSizeOf(const CommandLine& line)
 {
-    const auto text = line.value("--size");
-    if (!text)
-        return otherwise;
-    const auto pieces = split(*text, 'x');
-    if (pieces.size() != 2)
-        throw wrongValue("--size", *text, "a size such as 1000x750");
-    return {countOf(pieces[0], largestSide, "--size"), countOf(pieces[1], largestSide, "--size")};
+    PictureSize size;
+    const std::string text = line.value("--size").value_or("");
+    if (text.ends_with("mm"))
+        size = sizeInMillimetres(line, text);
+    else if (line.has("--resolution"))
+        throw UsageError("--resolution needs a size in millimetres");
+    else if (line.has("--size"))
+        size.pixels = sizeInPixels(text);
+    if (const auto width = line.number("--least-line-width")) {
+        if (!(*width >= finestLine && *width <= widestLine))
+            throw wrongValue("--least-line-width", *line.value("--least-line-width"),
+                             "a number from 0.1 to 100");
+        size.settings.leastLineWidth = *width;
+    }
+    return size;
 }
 
 PictureOptions pictureOptionsOf(const CommandLine& line)
@@ -199,7 +242,7 @@ PictureOptions pictureOptionsOf(const CommandLine& line)
     options.folderFormat = folderFormatOf(line);
     options.output =
         options.folderFormat ? *line.value("--output") : outputOf(line, pictureOutputs);
-    options.size = pictureSizeOf(line, options.size);
+    options.size = pictureSizeOf(line);
     if (const auto list = line.value("--modes"))
         options.modes = modeListOf(*list);
     options.bounds = boundsOf(line);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "batch/CommandLine.h"
 #include "batch/ModeList.h"
 #include "model/PlotAxes.h"
 #include "plot/CurvePalette.h"
@@ -17,14 +18,18 @@
 
 namespace tarsil::batch {
 
-class CommandLine;
-struct OptionDescription;
-
 /// A value on an axis with a text: a reference speed (KEAS) or a damping line.
 struct CaptionedValue
 {
     float value;
     QString caption;
+};
+
+/// The size of a picture and what depends on it.
+struct PictureSize
+{
+    QSize pixels {1000, 750}; ///< at 96 per inch
+    PictureSettings settings;
 };
 
 /// The options of the command "picture".
@@ -35,7 +40,7 @@ struct PictureOptions
     /// file.
     std::optional<PictureFormat> folderFormat;
     std::optional<std::string> plot; ///< of a workspace; empty: all plots
-    QSize size {1000, 750}; ///< pixels at 96 per inch
+    PictureSize size;
     std::optional<ModeList> modes;
     std::optional<PlotBounds> bounds; ///< empty: fitted to the data, or those of the workspace
     std::optional<PlotTicks> ticks;
@@ -50,10 +55,20 @@ struct PictureOptions
     CurvePalette palette = CurvePalette::Standard;
 };
 
-extern const std::array<OptionDescription, 17> pictureOptionDescriptions;
+extern const std::array<OptionDescription, 19> pictureOptionDescriptions;
 
-/// The value of --size, or `otherwise`; UsageError for an invalid one.
-QSize pictureSizeOf(const CommandLine& line, QSize otherwise);
+// The options of every picture.
+inline constexpr OptionDescription sizeOption {
+    "--size", "WxH[mm]",
+    "size of the picture, in pixels (default 1000x750) or in\nmillimetres: 165x120mm"};
+inline constexpr OptionDescription resolutionOption {
+    "--resolution", "DPI", "pixels per inch of a .png whose size is in millimetres;\ndefault 300"};
+inline constexpr OptionDescription lineWidthOption {
+    "--least-line-width", "W",
+    "narrower lines in .svg, .pdf and .png get this width, in\npixels of 1/96 inch; default 1"};
+
+/// The values of --size, --resolution and --least-line-width; UsageError for invalid ones.
+PictureSize pictureSizeOf(const CommandLine& line);
 
 /// Reads the options; UsageError for invalid ones.
 PictureOptions pictureOptionsOf(const CommandLine& line);

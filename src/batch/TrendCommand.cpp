@@ -33,7 +33,7 @@ TrendAbscissa abscissaOption(const CommandLine& line)
     return *abscissa;
 }
 
-void writeTrendFile(const FlutterTrend& trend, QSize size, const std::string& output)
+void writeTrendFile(const FlutterTrend& trend, const PictureSize& size, const std::string& output)
 {
     if (hasExtension(output, trendData)) {
         writeFile(output, trendJson(trend, trendProgram));
@@ -43,7 +43,7 @@ void writeTrendFile(const FlutterTrend& trend, QSize size, const std::string& ou
         writeTrendOrigin(trend, std::string(trendProgram), sheet);
         writeSheet(sheet, output);
     } else {
-        writePicture(TrendPlot(trend, size), output);
+        writePicture(TrendPlot(trend, size.pixels), output, size.settings);
     }
 }
 
@@ -51,7 +51,7 @@ int runTrend(const CommandLine& line, BatchRun& run)
 {
     const std::string output = outputOf(line, trendExtensions);
     const TrendAbscissa abscissa = abscissaOption(line);
-    const QSize size = pictureSizeOf(line, {1000, 750});
+    const PictureSize size = pictureSizeOf(line);
     const StabilitySettings settings = stabilitySettingsOf(line);
     const AircraftOption aircraft = aircraftOf(line);
     const FlutterTrend trend = trendOf(judgedFiles(line, output, settings, aircraft, run), settings,
@@ -60,11 +60,13 @@ int runTrend(const CommandLine& line, BatchRun& run)
     return done;
 }
 
-constexpr auto trendOptions = withStabilityOptions(std::array<OptionDescription, 3> {
+constexpr auto trendOptions = withStabilityOptions(std::array<OptionDescription, 5> {
     {{"--against", "QUANTITY",
       "mach, altitude, mass (in the order of the aircraft\nfile) or file (in the order given); "
       "default mach"},
-     {"--size", "WxH", "size of the picture in pixels; default 1000x750"},
+     sizeOption,
+     resolutionOption,
+     lineWidthOption,
      {"--output", "OUTPUT",
       "the file to write: a picture (.png, .svg, .pdf, .emf),\na table (.csv, .xlsx) or .json",
       true}}});

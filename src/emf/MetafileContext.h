@@ -38,6 +38,7 @@ public:
     void setClip(const QRect& rectangle) override;
     void clearClip() override;
     void setOrigin(QPoint origin) override;
+    bool hasFixedOrder() const override { return true; }
 
     /// Writes the final record and then the header. Without it the sink holds no valid metafile. Do
     /// not draw afterwards.

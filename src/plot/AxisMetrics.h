@@ -11,6 +11,7 @@ constexpr double endMark = 1.8 * thick;
 
 constexpr Pen pen {};
 constexpr ColorValue textColor = 0;
+constexpr ColorValue ground = rgb(255, 255, 255); ///< behind labels in front of curves
 
 /// Rounds a position to a pixel.
 inline QPoint pixel(double column, double row)

@@ -43,6 +43,11 @@ const std::vector<Point>& pointsOf(const Series& series)
     return points;
 }
 
+QPoint roundedPosition(QPointF position)
+{
+    return {roundToPixel(position.x()), roundToPixel(position.y())};
+}
+
 bool isStatic(const Point& point)
 {
     constexpr float staticFrequency = 0.1F; // Hz
@@ -141,29 +146,40 @@ void ucPlot::drawSeries(DeviceContext& context, const Series& series) const
     const Pen pen {series.LineStyle, series.LineWidth, series.ColorIndex};
     const bool hasMarkers =
         series.MarkerSpacing != 0 && series.MarkerStyle != markerNumber(MarkerKind::None);
-    const auto pixelOfPoint = [this, columns = columns(), rows = rows()](const Point& point) {
+    const bool keepsFractions = context.keepsFractions();
+    const auto positionOfPoint = [this, columns = columns(), rows = rows()](const Point& point) {
         const DataPoint data = dataOf(point);
-        return QPoint(columns.pixelOf(data.x), rows.pixelOf(data.y));
+        return QPointF(columns.positionOf(data.x), rows.positionOf(data.y));
     };
-    QPoint from = pixelOfPoint(points.front());
+    QPointF from = positionOfPoint(points.front());
+    QPoint fromPixel = roundedPosition(from);
     for (std::size_t i = 1; i < points.size(); ++i) {
-        const QPoint to = pixelOfPoint(points[i]);
-        if (joins(points[i - 1], points[i]))
-            context.drawLine(from, to, pen);
+        const QPointF to = positionOfPoint(points[i]);
+        const QPoint toPixel = roundedPosition(to);
+        if (joins(points[i - 1], points[i])) {
+            if (keepsFractions)
+                context.drawExactLine(from, to, pen);
+            else
+                context.drawLine(fromPixel, toPixel, pen); // each point is rounded once
+        }
         // The first point has no marker: a marker is drawn at the end of a line.
         if (hasMarkers && static_cast<std::int32_t>(i + 1) % series.MarkerSpacing == 0)
-            drawMarker(context, series, points[i], to);
+            drawMarker(context, series, points[i], toPixel);
         from = to;
+        fromPixel = toPixel;
     }
 }
 
 void ucPlot::drawLine(DeviceContext& context, const RefLine& line) const
 {
-    const QPoint from = pixelOf(line.X1, line.Y1);
-    const QPoint to = pixelOf(line.X2, line.Y2);
-    context.drawLine(from, to, {line.LineStyle, line.LineWidth, line.ColorIndex});
+    const ValueMap columns = this->columns();
+    const ValueMap rows = this->rows();
+    const QPointF end(columns.positionOf(line.X2), rows.positionOf(line.Y2));
+    context.drawExactLine({columns.positionOf(line.X1), rows.positionOf(line.Y1)}, end,
+                          {line.LineStyle, line.LineWidth, line.ColorIndex});
     if (line.Caption.isEmpty())
         return;
+    const QPoint to = roundedPosition(end);
     const QPoint top(to.x() - captionShift,
                      roundToPixel(to.y() - pixelsOfPoints(captionLinePoints)));
     context.drawText(top, line.Caption, Font(), black, TextAlignment::TopCenter);

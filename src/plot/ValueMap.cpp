@@ -40,9 +40,18 @@ ValueMap::ValueMap(double first, double last, double length)
       m_begin(pixels(first * m_pixelsPerUnit))
 { }
 
+double ValueMap::positionOf(double value) const
+{
+    constexpr double farAway = 1 << 26; // beyond any surface; `roundToPixel` has the same limit
+    const double position = pixels(value * m_pixelsPerUnit) - m_begin;
+    if (position > farAway)
+        return farAway;
+    return position > -farAway ? position : -farAway; // also for a position that is no number
+}
+
 int ValueMap::pixelOf(double value) const
 {
-    return roundToPixel(pixels(value * m_pixelsPerUnit) - m_begin);
+    return roundToPixel(positionOf(value));
 }
 
 double ValueMap::divisionValue(int k, int count) const

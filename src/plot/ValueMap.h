@@ -17,6 +17,9 @@ public:
     /// If `first` equals `last`, only `valueAt` and the divisions may be called.
     ValueMap(double first, double last, double length);
 
+    /// The exact position of a value in pixels. Saturates far outside any surface.
+    double positionOf(double value) const;
+
     /// The pixel nearest to a value, rounded by `roundToPixel`.
     int pixelOf(double value) const;
 

@@ -17,6 +17,16 @@ namespace {
 constexpr std::int16_t defaultSpeedIntervals = 7;
 constexpr double defaultMaxSpeed = 700;
 
+/// The letters of a label of digits, and a pixel around them. Digits extend from the baseline
+/// upwards by less than three quarters of the em.
+QRect lettersOf(const DeviceContext& context, const QString& text, QPoint top)
+{
+    const int width = context.textExtent(text, Font()).width();
+    const int baseline = top.y() + context.textAscent(Font());
+    const int height = roundToPixel(0.75 * pixelsOfPoints(Font().points));
+    return {top.x() - width / 2 - 1, baseline - height - 1, width + 2, height + 2};
+}
+
 } // namespace
 
 xAxis::xAxis() : PlotAxis(defaultSpeedIntervals, defaultMaxSpeed) { }
@@ -45,12 +55,32 @@ void xAxis::drawTicks(DeviceContext& context) const
     const ValueMap map(Min(), Max(), Width());
     for (int k = 1; k < nThick(); ++k) {
         const double column = map.divisionPixel(k, nThick());
-        context.drawLine(pixel(column, line - thick / 2), pixel(column, line + thick / 2),
-                         axis::pen);
-        const double value = map.divisionValue(k, nThick());
-        const QString label = QString::fromStdString(formatNumber(value, "0"));
-        context.drawText(pixel(column, line + thick / 2), label, Font(), axis::textColor,
-                         TextAlignment::TopCenter);
+        context.drawExactLine({column, line - thick / 2}, {column, line + thick / 2}, axis::pen);
+        if (!m_hasLabelsInFront || context.hasFixedOrder())
+            drawText(context, labelOf(k));
+    }
+}
+
+xAxis::Label xAxis::labelOf(int k) const
+{
+    const ValueMap map(Min(), Max(), Width());
+    return {pixel(map.divisionPixel(k, nThick()), Height() / 2.0 + thick / 2),
+            QString::fromStdString(formatNumber(map.divisionValue(k, nThick()), "0"))};
+}
+
+void xAxis::drawText(DeviceContext& context, const Label& label)
+{
+    context.drawText(label.top, label.text, Font(), axis::textColor, TextAlignment::TopCenter);
+}
+
+void xAxis::drawLabelsInFront(DeviceContext& context) const
+{
+    if (context.hasFixedOrder())
+        return;
+    for (int k = 1; k < nThick(); ++k) {
+        const Label label = labelOf(k);
+        context.fillRectangle(lettersOf(context, label.text, label.top), axis::ground);
+        drawText(context, label);
     }
 }
 
@@ -61,9 +91,10 @@ void xAxis::drawMark(DeviceContext& context, const RefThick& mark) const
                            "the bounds of the speed axis are equal: " + shortestText(Min()));
     const double line = Height() / 2.0;
     const double column = ValueMap(Min(), Max(), Width()).lengthOf(static_cast<double>(mark.Speed));
-    const QPoint top = pixel(column, line - 1.1 * thick);
-    context.drawLine(pixel(column, line + 0.4 * thick), top, axis::pen);
-    context.drawText(top, mark.Caption, Font(), axis::textColor, TextAlignment::BottomCenter);
+    const QPointF top(column, line - 1.1 * thick);
+    context.drawExactLine({column, line + 0.4 * thick}, top, axis::pen);
+    context.drawText(pixel(top.x(), top.y()), mark.Caption, Font(), axis::textColor,
+                     TextAlignment::BottomCenter);
 }
 
 void xAxis::AddRef(float speed, const QString& caption)

@@ -4,6 +4,9 @@
 #include "plot/PlotAxis.h"
 #include "plot/RefThick.h"
 
+#include <QPoint>
+#include <QString>
+
 #include <utility>
 #include <vector>
 
@@ -35,6 +38,14 @@ public:
     /// Replaces all marks; does not draw.
     void setMarks(std::vector<RefThick> marks) { m_marks = std::move(marks); }
 
+    /// Draws the labels of the ticks on a white ground, so that lines drawn before do not strike
+    /// them through. Nothing on a surface with a fixed order of parts.
+    void drawLabelsInFront(DeviceContext& context) const;
+
+    /// Whether the owner calls `drawLabelsInFront`: the axis then draws no labels itself, except
+    /// on surfaces with a fixed order.
+    void setLabelsInFront(bool on) { m_hasLabelsInFront = on; }
+
     /// Keys "nThick" 7, "Min" 0, "Max" 700.
     void ReadProperties(const PropertyBag& bag);
     PropertyBag WriteProperties() const;
@@ -44,10 +55,20 @@ protected:
     void paint(DeviceContext& context) const override;
 
 private:
+    /// The text of a tick and its reference point.
+    struct Label
+    {
+        QPoint top;
+        QString text;
+    };
+
     void drawTicks(DeviceContext& context) const;
+    Label labelOf(int k) const;
+    static void drawText(DeviceContext& context, const Label& label);
     void drawMark(DeviceContext& context, const RefThick& mark) const;
 
     std::vector<RefThick> m_marks;
+    bool m_hasLabelsInFront = false;
 };
 
 } // namespace tarsil

@@ -39,7 +39,7 @@ void yAxis::paint(DeviceContext& context) const
     const std::string pattern = m_thickFormat.toStdString();
     for (int k = 1; k < nThick(); ++k) {
         const double row = map.divisionPixel(k, nThick());
-        context.drawLine(pixel(line, row), pixel(line + thick, row), axis::pen);
+        context.drawExactLine({line, row}, {line + thick, row}, axis::pen);
         const double value = map.divisionValue(k, nThick());
         const QString label = QString::fromStdString(formatNumber(value, pattern));
         const int height = context.textExtent(label, Font()).height();

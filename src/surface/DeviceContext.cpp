@@ -1,9 +1,25 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "surface/DeviceContext.h"
 
+#include "surface/PixelMath.h"
+
 namespace tarsil {
 
+namespace {
+
+QPoint roundedToPixel(QPointF position)
+{
+    return {roundToPixel(position.x()), roundToPixel(position.y())};
+}
+
+} // namespace
+
 DeviceContext::~DeviceContext() = default;
+
+void DeviceContext::drawExactLine(QPointF from, QPointF to, const Pen& pen)
+{
+    drawLine(roundedToPixel(from), roundedToPixel(to), pen);
+}
 
 QRect textRectangle(QPoint reference, QSize extent, int ascent, TextAlignment alignment)
 {

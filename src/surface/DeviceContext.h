@@ -4,6 +4,7 @@
 #include "base/numbers/ColorValue.h"
 
 #include <QPoint>
+#include <QPointF>
 #include <QRect>
 #include <QSize>
 #include <QString>
@@ -71,6 +72,18 @@ public:
     DeviceContext& operator=(const DeviceContext&) = delete;
 
     virtual void drawLine(QPoint from, QPoint to, const Pen& pen) = 0;
+
+    /// A line between positions that need not be whole pixels, such as a segment of a curve. A
+    /// surface of whole pixels rounds both ends by `roundToPixel`, as this function does; one that
+    /// keeps fractions overrides it.
+    virtual void drawExactLine(QPointF from, QPointF to, const Pen& pen);
+
+    /// Whether `drawExactLine` keeps fractions of a pixel.
+    virtual bool keepsFractions() const { return false; }
+
+    /// Whether the format requires that each part of a plot is drawn as a whole and in its order.
+    virtual bool hasFixedOrder() const { return false; }
+
     virtual void drawText(QPoint reference, const QString& text, const Font& font, ColorValue color,
                           TextAlignment alignment) = 0;
 

@@ -24,24 +24,6 @@ constexpr double narrowLine = 4;
 /// Painters are exact only near the surface; lines are clipped at this distance.
 constexpr double farthest = 16000;
 
-QPen painterPen(const Pen& pen)
-{
-    const int width = std::max(pen.width, 1);
-    QPen result(qtColor(pen.color), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
-    if (width == 1) { // round caps and joins are invisible at this width, but slow
-        result.setCapStyle(isDashed(pen) ? Qt::FlatCap : Qt::SquareCap);
-        result.setJoinStyle(Qt::BevelJoin);
-    }
-    if (isDashed(pen))
-        result.setDashPattern(dashPattern(pen));
-    return result;
-}
-
-QPointF pixelCentre(QPoint pixel)
-{
-    return {pixel.x() + 0.5, pixel.y() + 0.5};
-}
-
 bool isRaster(const QPainter& painter)
 {
     return painter.paintEngine()->type() == QPaintEngine::Raster;
@@ -67,11 +49,12 @@ QLineF wholePixels(QPointF from, QPointF to, bool dashed)
 
 } // namespace
 
-PainterContext::PainterContext(QPainter& painter)
-    : m_painter(painter),
+PainterContext::PainterContext(QPainter& painter, const LineDrawing& lines)
+    : m_painter(painter), m_lines(lines),
       m_narrowWidth(isRaster(painter) ? narrowLine / painter.deviceTransform().m11() : 0),
-      m_thinLinesByPixels(drawsThinLinesByPixels(painter))
+      m_thinLinesByPixels(drawsThinLinesByPixels(painter) && lines.leastWidth == 1)
 {
+    m_lines.keepsFractions |= !isRaster(painter);
     m_painter.setRenderHint(QPainter::Antialiasing);
     m_painter.setRenderHint(QPainter::TextAntialiasing);
     m_painter.setBackgroundMode(Qt::TransparentMode);
@@ -89,10 +72,24 @@ PainterContext::~PainterContext()
 
 void PainterContext::drawLine(QPoint from, QPoint to, const Pen& pen)
 {
+    addLine(from, to, pen);
+}
+
+void PainterContext::drawExactLine(QPointF from, QPointF to, const Pen& pen)
+{
+    if (m_lines.keepsFractions)
+        addLine(from, to, pen);
+    else
+        DeviceContext::drawExactLine(from, to, pen);
+}
+
+void PainterContext::addLine(QPointF from, QPointF to, const Pen& pen)
+{
     if (pen.style == penstyle::none)
         return;
-    QPointF start = pixelCentre(from + m_origin);
-    QPointF end = pixelCentre(to + m_origin);
+    const QPointF pixelCentre(0.5, 0.5);
+    QPointF start = from + m_origin + pixelCentre;
+    QPointF end = to + m_origin + pixelCentre;
     if (!cutLine(start, end, guardBand(farthest)))
         return;
     const bool continues = !isDashed(pen) && !m_points.isEmpty() && pen == m_pen
@@ -111,11 +108,33 @@ void PainterContext::flush()
         return;
     if (m_thinLinesByPixels && m_pen.width <= 1)
         drawThinLines();
-    else if (!isDashed(m_pen) && m_pen.width <= m_narrowWidth)
+    else if (!isDashed(m_pen) && widthOf(m_pen) <= m_narrowWidth)
         drawNarrowLines();
     else
         drawPolyline();
     m_points.clear();
+}
+
+double PainterContext::widthOf(const Pen& pen) const
+{
+    return std::max<double>(pen.width, m_lines.leastWidth);
+}
+
+QPen PainterContext::painterPen(const Pen& pen) const
+{
+    const double width = widthOf(pen);
+    QPen result(qtColor(pen.color), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+    if (pen.width <= 1) { // round caps and joins are invisible at this width, but slow
+        result.setCapStyle(isDashed(pen) ? Qt::FlatCap : Qt::SquareCap);
+        result.setJoinStyle(Qt::BevelJoin);
+    }
+    if (isDashed(pen)) {
+        QList<qreal> pattern = dashPattern(pen);
+        for (qreal& length : pattern) // Qt counts it in widths of the pen
+            length /= width;
+        result.setDashPattern(pattern);
+    }
+    return result;
 }
 
 void PainterContext::drawPolyline()

@@ -50,13 +50,20 @@ QString dashText(const Pen& pen)
     return lengths.join(u',');
 }
 
+/// A position in the picture. A thousandth of a pixel is less than any printer can show.
+QString positionText(double position)
+{
+    constexpr double finest = 1000;
+    return numberText(std::nearbyint(position * finest) / finest);
+}
+
 QString pointsText(const QPolygonF& points)
 {
     QString text;
     for (const QPointF point : points) {
         if (!text.isEmpty())
             text += u' ';
-        text += numberText(point.x()) + u',' + numberText(point.y());
+        text += positionText(point.x()) + u',' + positionText(point.y());
     }
     return text;
 }
@@ -72,9 +79,10 @@ QRectF cutOf(const std::optional<QRect>& clip, const Pen& pen)
 
 } // namespace
 
-SvgContext::SvgContext(QIODevice& output, QSize size, const QString& title) : m_xml(&output)
+SvgContext::SvgContext(QIODevice& output, QSizeF size, const QString& title, double leastWidth)
+    : m_xml(&output), m_leastWidth(leastWidth)
 {
-    const auto millimetres = [](int pixels) {
+    const auto millimetres = [](double pixels) {
         return numberText(pixels * millimetresPerPixel) + QStringLiteral("mm");
     };
     m_xml.setAutoFormatting(true);
@@ -85,7 +93,8 @@ SvgContext::SvgContext(QIODevice& output, QSize size, const QString& title) : m_
     m_xml.writeAttribute(QStringLiteral("width"), millimetres(size.width()));
     m_xml.writeAttribute(QStringLiteral("height"), millimetres(size.height()));
     m_xml.writeAttribute(QStringLiteral("viewBox"),
-                         QStringLiteral("0 0 %1 %2").arg(size.width()).arg(size.height()));
+                         QStringLiteral("0 0 ") + numberText(size.width()) + u' '
+                             + numberText(size.height()));
     m_xml.writeTextElement(QStringLiteral("title"), drawableText(title));
 }
 
@@ -97,12 +106,17 @@ SvgContext::~SvgContext()
 
 void SvgContext::drawLine(QPoint from, QPoint to, const Pen& pen)
 {
+    drawExactLine(from, to, pen);
+}
+
+void SvgContext::drawExactLine(QPointF from, QPointF to, const Pen& pen)
+{
     if (pen.style == penstyle::none)
         return;
     const QPointF pixelCentre(0.5, 0.5);
-    const QPointF whole = QPointF(from + m_origin) + pixelCentre;
+    const QPointF whole = from + m_origin + pixelCentre;
     QPointF start = whole;
-    QPointF end = QPointF(to + m_origin) + pixelCentre;
+    QPointF end = to + m_origin + pixelCentre;
     if (!cutLine(start, end, cutOf(m_clip, pen)))
         return;
     const bool continues =
@@ -262,7 +276,8 @@ void SvgContext::writeLines(double dashOffset)
     m_xml.writeEmptyElement(QStringLiteral("polyline"));
     m_xml.writeAttribute(QStringLiteral("fill"), QStringLiteral("none"));
     m_xml.writeAttribute(QStringLiteral("stroke"), colorText(m_pen.color));
-    m_xml.writeAttribute(QStringLiteral("stroke-width"), QString::number(std::max(m_pen.width, 1)));
+    m_xml.writeAttribute(QStringLiteral("stroke-width"),
+                         numberText(std::max<double>(m_pen.width, m_leastWidth)));
     m_xml.writeAttribute(QStringLiteral("stroke-linecap"),
                          isDashed(m_pen) ? QStringLiteral("butt")
                              : isThin    ? QStringLiteral("square")

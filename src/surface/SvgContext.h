@@ -6,6 +6,7 @@
 
 #include <QList>
 #include <QPolygonF>
+#include <QSizeF>
 #include <QXmlStreamWriter>
 
 #include <optional>
@@ -14,20 +15,23 @@ class QIODevice;
 
 namespace tarsil {
 
-/// Writes a picture as SVG. Lines run through pixel centres; connected solid lines of one pen
-/// become one polyline. Clipped drawing goes into a group with a clip path. For readers without
-/// clip paths, text outside the clip is omitted and lines are cut shortly outside it. Text from
-/// files is written only as XML values.
+/// Writes a picture as SVG. Lines on whole pixels run through their centres; connected solid lines
+/// of one pen become one polyline. Clipped drawing goes into a group with a clip path. For readers
+/// without clip paths, text outside the clip is omitted and lines are cut shortly outside it. Text
+/// from files is written only as XML values.
 class SvgContext : public DeviceContext
 {
 public:
-    /// Begins a picture of `size` pixels at 96 per inch. `output` must outlive this context.
-    SvgContext(QIODevice& output, QSize size, const QString& title);
+    /// Begins a picture of `size` pixels at 96 per inch. Pens narrower than `leastWidth` pixels get
+    /// this width. `output` must outlive this context.
+    SvgContext(QIODevice& output, QSizeF size, const QString& title, double leastWidth = 1);
 
     /// Ends the picture.
     ~SvgContext() override;
 
     void drawLine(QPoint from, QPoint to, const Pen& pen) override;
+    void drawExactLine(QPointF from, QPointF to, const Pen& pen) override;
+    bool keepsFractions() const override { return true; }
     void drawText(QPoint reference, const QString& text, const Font& font, ColorValue color,
                   TextAlignment alignment) override;
     QSize textExtent(const QString& text, const Font& font) const override;
@@ -48,6 +52,7 @@ private:
     void writeRectangle(const QRectF& rectangle, const QString& fill);
 
     QXmlStreamWriter m_xml;
+    double m_leastWidth;
     QPoint m_origin;
     std::optional<QRect> m_clip; ///< in pixels of the whole surface
     std::optional<QRect> m_groupClip; ///< clip of the open group

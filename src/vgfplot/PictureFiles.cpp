@@ -46,9 +46,10 @@ std::vector<std::string> pictureFileNames(const std::vector<std::string>& captio
     return names;
 }
 
-void PictureFiles::add(const DrawnPicture& picture, const std::string& path, PictureFormat format)
+void PictureFiles::add(const DrawnPicture& picture, const std::string& path, PictureFormat format,
+                       const PictureSettings& settings)
 {
-    const QByteArray bytes = pictureBytes(picture, format);
+    const QByteArray bytes = pictureBytes(picture, format, settings);
     m_files.emplace_back(path).write({bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 

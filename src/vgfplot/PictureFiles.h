@@ -23,7 +23,8 @@ class PictureFiles
 public:
     /// Draws a picture and writes it beside its later file. Errors: those of `pictureBytes` and of
     /// writing a file.
-    void add(const DrawnPicture& picture, const std::string& path, PictureFormat format);
+    void add(const DrawnPicture& picture, const std::string& path, PictureFormat format,
+             const PictureSettings& settings = {});
 
     /// Puts all files in place. If that fails for one, which is rare, those before it exist.
     void commit();

@@ -16,6 +16,8 @@
 #include <QPainter>
 #include <QPdfWriter>
 
+#include <cmath>
+
 namespace tarsil {
 
 namespace {
@@ -23,6 +25,7 @@ namespace {
 constexpr int pixelsPerInch = 96;
 constexpr double pointsPerInch = 72;
 constexpr double inchesPerMetre = 1 / 0.0254;
+constexpr double pixelsPerMillimetre = pixelsPerInch / 25.4;
 constexpr double clipboardScale = 2; ///< sharp enough for a printed report
 
 [[noreturn]] void fail(const char* details)
@@ -43,12 +46,12 @@ static_assert(areFormatsInOrder(), "the traits of pictures are indexed by format
 /// The separators are a backslash and the digit zero, as in all such pictures so far.
 const QString description = QStringLiteral("Tarsil\\0Created by Kestrin\\0\\0");
 
-void draw(const DrawnPicture& picture, QPaintDevice& device)
+void draw(const DrawnPicture& picture, QPaintDevice& device, const LineDrawing& lines)
 {
     QPainter painter;
     if (!painter.begin(&device))
         fail("the picture cannot be drawn");
-    PainterContext context(painter);
+    PainterContext context(painter, lines);
     picture.Draw(context);
     context.flush();
     painter.end();
@@ -67,26 +70,57 @@ private:
     QPainter& m_painter;
 };
 
-void writeSvg(const DrawnPicture& picture, QBuffer& buffer)
+/// The size of the file in pixels at 96 per inch.
+QSizeF exactSize(const DrawnPicture& picture, const PictureSettings& settings)
 {
-    SvgContext context(buffer, picture.size(), picture.title());
+    return settings.millimetres ? *settings.millimetres * pixelsPerMillimetre
+                                : QSizeF(picture.size());
+}
+
+void writeSvg(const DrawnPicture& picture, const PictureSettings& settings, QBuffer& buffer)
+{
+    SvgContext context(buffer, exactSize(picture, settings), picture.title(),
+                       settings.leastLineWidth);
     picture.Draw(context);
 }
 
-QSizeF pagePoints(const DrawnPicture& picture)
+QSizeF pagePoints(const DrawnPicture& picture, const PictureSettings& settings)
 {
-    return QSizeF(picture.size()) * pointsPerInch / pixelsPerInch;
+    return exactSize(picture, settings) * pointsPerInch / pixelsPerInch;
 }
 
-void writePdf(const DrawnPicture& picture, QBuffer& buffer)
+void writePdf(const DrawnPicture& picture, const PictureSettings& settings, QBuffer& buffer)
 {
     QPdfWriter writer(&buffer);
     writer.setResolution(pixelsPerInch);
     writer.setTitle(picture.title());
-    writer.setPageSize(
-        QPageSize(pagePoints(picture), QPageSize::Point, QString(), QPageSize::ExactMatch));
+    writer.setPageSize(QPageSize(pagePoints(picture, settings), QPageSize::Point, QString(),
+                                 QPageSize::ExactMatch));
     writer.setPageMargins(QMarginsF());
-    draw(picture, writer);
+    draw(picture, writer, {true, settings.leastLineWidth});
+}
+
+/// An image of `pixels`, in which a pixel of the picture is `scale` pixels wide.
+QImage bitmapOf(const DrawnPicture& picture, QSize pixels, double scale, const LineDrawing& lines)
+{
+    QImage image(pixels, QImage::Format_RGB32);
+    if (image.isNull())
+        fail("a bitmap of this size");
+    const int dotsPerMetre = qRound(scale * pixelsPerInch * inchesPerMetre);
+    image.setDotsPerMeterX(dotsPerMetre);
+    image.setDotsPerMeterY(dotsPerMetre);
+    image.setDevicePixelRatio(scale);
+    image.fill(Qt::white);
+    draw(picture, image, lines);
+    image.setDevicePixelRatio(1);
+    return image;
+}
+
+QImage bitmapFor(const DrawnPicture& picture, const PictureSettings& settings)
+{
+    const double scale = settings.millimetres ? settings.dotsPerInch / pixelsPerInch : 1;
+    return bitmapOf(picture, (exactSize(picture, settings) * scale).toSize(), scale,
+                    {settings.millimetres.has_value(), settings.leastLineWidth});
 }
 
 /// Qt rounds the page to whole points, with the drawing at its upper left corner. Writes the exact
@@ -100,7 +134,9 @@ QByteArray withExactPage(QByteArray pdf, QSizeF points)
     if (start < key.size() || corners.size() != 4)
         fail("a page without a size");
     const double top = corners[3].toDouble();
-    const auto text = [](double number) { return QByteArray::number(number, 'g', 9); };
+    const auto text = [](double number) { // as many digits as fit
+        return QByteArray::number(std::nearbyint(number * 1e4) / 1e4, 'g', 9);
+    };
     const QByteArray box =
         "0 " + text(top - points.height()) + ' ' + text(points.width()) + ' ' + text(top);
     if (box.size() > length)
@@ -128,6 +164,14 @@ std::optional<PictureFormat> pictureFormatOf(std::string_view path)
     return std::nullopt;
 }
 
+QSize pixelsOf(QSizeF millimetres)
+{
+    const auto covering = [](double length) {
+        return static_cast<int>(std::ceil(length * pixelsPerMillimetre - 1e-6));
+    };
+    return {covering(millimetres.width()), covering(millimetres.height())};
+}
+
 void writeMetafile(const DrawnPicture& picture, EmfSink& sink)
 {
     MetafileContext context(sink, description);
@@ -148,34 +192,25 @@ void drawPicture(const DrawnPicture& picture, QPainter& painter, const QRectF& a
 
 QImage pictureImage(const DrawnPicture& picture, double scale)
 {
-    QImage image(picture.size() * scale, QImage::Format_RGB32);
-    if (image.isNull())
-        fail("a bitmap of this size");
-    const int dotsPerMetre = qRound(scale * pixelsPerInch * inchesPerMetre);
-    image.setDotsPerMeterX(dotsPerMetre);
-    image.setDotsPerMeterY(dotsPerMetre);
-    image.setDevicePixelRatio(scale);
-    image.fill(Qt::white);
-    draw(picture, image);
-    image.setDevicePixelRatio(1);
-    return image;
+    return bitmapOf(picture, picture.size() * scale, scale, {});
 }
 
-QByteArray pictureBytes(const DrawnPicture& picture, PictureFormat format)
+QByteArray pictureBytes(const DrawnPicture& picture, PictureFormat format,
+                        const PictureSettings& settings)
 {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     switch (format) {
     case PictureFormat::Svg:
-        writeSvg(picture, buffer);
+        writeSvg(picture, settings, buffer);
         break;
     case PictureFormat::Pdf:
-        writePdf(picture, buffer);
-        return withExactPage(buffer.data(), pagePoints(picture));
+        writePdf(picture, settings, buffer);
+        return withExactPage(buffer.data(), pagePoints(picture, settings));
     case PictureFormat::Emf:
         return metafileBytes(picture);
     case PictureFormat::Png:
-        if (!pictureImage(picture, 1).save(&buffer, "PNG"))
+        if (!bitmapFor(picture, settings).save(&buffer, "PNG"))
             fail("the picture cannot be made");
         break;
     }
@@ -196,7 +231,8 @@ std::unique_ptr<QMimeData> pictureMimeData(const DrawnPicture& picture)
     return data;
 }
 
-void writePicture(const DrawnPicture& picture, const std::string& path)
+void writePicture(const DrawnPicture& picture, const std::string& path,
+                  const PictureSettings& settings)
 {
     const std::optional<PictureFormat> format = pictureFormatOf(path);
     if (!format)
@@ -208,7 +244,7 @@ void writePicture(const DrawnPicture& picture, const std::string& path)
         file.commit();
         return;
     }
-    const QByteArray bytes = pictureBytes(picture, *format);
+    const QByteArray bytes = pictureBytes(picture, *format, settings);
     writeFile(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 

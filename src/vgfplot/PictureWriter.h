@@ -4,6 +4,8 @@
 #include <QByteArray>
 #include <QImage>
 #include <QRectF>
+#include <QSize>
+#include <QSizeF>
 
 #include <array>
 #include <cstddef>
@@ -44,6 +46,23 @@ constexpr const PictureTraits& traitsOf(PictureFormat format)
 /// The format that the extension of a path selects, in any case; empty for another extension.
 std::optional<PictureFormat> pictureFormatOf(std::string_view path);
 
+/// How a picture becomes a file.
+struct PictureSettings
+{
+    /// The exact size of the file. The picture must have `pixelsOf` this size. Empty: that of the
+    /// picture. A metafile always has whole pixels.
+    std::optional<QSizeF> millimetres;
+
+    double dotsPerInch = 300; ///< of a bitmap whose size is in millimetres
+
+    /// Narrower lines get this width in pixels of 1/96 inch; not those of a metafile, whose pens
+    /// are those of the plot.
+    double leastLineWidth = 1;
+};
+
+/// The size of a picture, in whole pixels at 96 per inch, that covers a size in millimetres.
+QSize pixelsOf(QSizeF millimetres);
+
 // A picture in its current size; a pixel is 1/96 inch. Edits in progress are not included
 // (`EvmPlot::commitEdits`). Needs a QGuiApplication. Errors: those of drawing; 5 for a
 // bitmap that does not fit into memory.
@@ -55,7 +74,8 @@ void writeMetafile(const DrawnPicture& picture, EmfSink& sink);
 /// vectors. The state of the painter is restored, also after an error.
 void drawPicture(const DrawnPicture& picture, QPainter& painter, const QRectF& area);
 
-QByteArray pictureBytes(const DrawnPicture& picture, PictureFormat format);
+QByteArray pictureBytes(const DrawnPicture& picture, PictureFormat format,
+                        const PictureSettings& settings = {});
 
 /// `scale`: physical pixels for each pixel of the picture.
 QImage pictureImage(const DrawnPicture& picture, double scale);
@@ -67,6 +87,7 @@ std::unique_ptr<QMimeData> pictureMimeData(const DrawnPicture& picture);
 /// Writes the picture to a file, whole or not at all. The extension of `path`, in any case, selects
 /// the format: .png, .svg, .pdf or .emf. A metafile is streamed, because it can be large. Errors:
 /// also 5 for another extension and those of writing a file.
-void writePicture(const DrawnPicture& picture, const std::string& path);
+void writePicture(const DrawnPicture& picture, const std::string& path,
+                  const PictureSettings& settings = {});
 
 } // namespace tarsil

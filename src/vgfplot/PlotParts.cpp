@@ -22,7 +22,8 @@ auto drawingOrderOf(Parts& parts)
     for (const TextBox box : allTextBoxes)
         *next++ = &parts.box(box);
     *next++ = &parts.vfPlot;
-    *next = &parts.vgPlot;
+    *next++ = &parts.vgPlot;
+    *next = &parts.velLabels;
     return items;
 }
 
@@ -70,6 +71,7 @@ PlotParts::PlotParts(const PlotContainer& curves)
 {
     vgPlot.setPlotType(plottype::dampingOverSpeed);
     vfPlot.setPlotType(plottype::frequencyOverSpeed);
+    velAxis.setLabelsInFront(true);
     gAxis.setDirection(true);
     gAxis.setThickFormat(QStringLiteral("0.00#"));
     freqAxis.setThickFormat(QStringLiteral("0.0#"));
@@ -119,6 +121,7 @@ void PlotParts::layOut(QSize plot)
     vgPlot.setGeometry(layout.vgPlot);
     vfPlot.setGeometry(layout.vfPlot);
     velAxis.setGeometry(layout.velAxis);
+    velLabels.setGeometry(layout.velAxis);
     freqAxis.setGeometry(layout.freqAxis);
     gAxis.setGeometry(layout.gAxis);
     velAxisLabel.setGeometry(layout.velAxisLabel);

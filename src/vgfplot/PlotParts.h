@@ -3,6 +3,7 @@
 
 #include "model/PlotAxes.h"
 #include "plot/EmfRichTextBox.h"
+#include "plot/SpeedLabels.h"
 #include "plot/TrspLabel.h"
 #include "plot/UcPlot.h"
 #include "plot/XAxis.h"
@@ -35,7 +36,7 @@ struct PlotParts
         return ertbTexts[static_cast<std::size_t>(box)];
     }
 
-    static constexpr std::size_t count = 8 + allTextBoxes.size();
+    static constexpr std::size_t count = 9 + allTextBoxes.size();
 
     /// All items; the last one is on top.
     std::array<PlotControl*, count> inDrawingOrder();
@@ -54,6 +55,7 @@ struct PlotParts
     ucPlot vgPlot;
     ucPlot vfPlot;
     xAxis velAxis;
+    SpeedLabels velLabels {velAxis}; ///< in front of the curves
     yAxis gAxis;
     yAxis freqAxis;
     trspLabel velAxisLabel;

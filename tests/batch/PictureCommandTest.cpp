@@ -118,6 +118,25 @@ TEST_F(PictureCommand, givesAPdfPageTheExactSize)
     EXPECT_THAT(bytes, ::testing::EndsWith("%%EOF\n"));
 }
 
+TEST_F(PictureCommand, drawsAPictureOfTheMillimetresAskedFor)
+{
+    const QImage usual = imageOf(draw("a.png", {"--size", "165x120mm", writeEv2()}));
+    EXPECT_EQ(usual.size(), QSize(1949, 1417)); // 165 and 120 * 300 / 25.4
+    EXPECT_EQ(usual.dotsPerMeterX(), 11811); // 300 / 0.0254
+    const QImage coarse =
+        imageOf(draw("b.png", {"--size", "50.8x25.4mm", "--resolution", "150", writeEv2()}));
+    EXPECT_EQ(coarse.size(), QSize(300, 150));
+    EXPECT_THAT(fileBytes(draw("c.svg", {"--size", "165x120mm", writeEv2()})),
+                HasSubstr("width=\"165mm\" height=\"120mm\""));
+}
+
+TEST_F(PictureCommand, widensNarrowLines)
+{
+    const std::string path = draw("out.svg", {"--least-line-width", "1.5", writeEv2()});
+    EXPECT_THAT(fileBytes(path), HasSubstr("stroke-width=\"1.5\""));
+    EXPECT_THAT(fileBytes(path), ::testing::Not(HasSubstr("stroke-width=\"1\"")));
+}
+
 TEST_F(PictureCommand, acceptsScaleAndTicks)
 {
     const std::string texts = svgTexts(
@@ -308,6 +327,12 @@ TEST_F(PictureCommand, refusesWrongUsage)
         {"--output", file("out.png"), "--size", "20001x10"},
         {"--output", file("out.png"), "--size", "640"},
         {"--output", file("out.png"), "--size", "-640x480"},
+        {"--output", file("out.png"), "--size", "165mm"},
+        {"--output", file("out.png"), "--size", "0x120mm"},
+        {"--output", file("out.png"), "--size", "2000x120mm"},
+        {"--output", file("out.png"), "--size", "165x120mm", "--resolution", "0"},
+        {"--output", file("out.png"), "--resolution", "300"},
+        {"--output", file("out.png"), "--least-line-width", "0"},
         {"--output", file("out.png"), "--scale", "0,1,2"},
         {"--output", file("out.png"), "--scale", "5,5,0,1,0,-1"},
         {"--output", file("out.png"), "--ticks", "1,2"},

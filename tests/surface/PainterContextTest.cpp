@@ -134,6 +134,26 @@ TEST(PainterContext, drawsPensOfWidthZeroOnePixelWide)
         EXPECT_EQ(lineWith({style, 0, 0}), lineWith({style, 1, 0})) << style;
 }
 
+TEST(PainterContext, roundsExactLinesUnlessItKeepsFractions)
+{
+    const auto inkOf = [](const LineDrawing& lines) {
+        Picture picture(lines);
+        picture.context().drawExactLine({10, 20.4}, {30, 20.4}, {penstyle::solid, 1, 0});
+        return picture.ink();
+    };
+    EXPECT_EQ(inkOf({}), QRect(QPoint(10, 20), QPoint(30, 20)));
+    // From 0.4 below the centre of row 20 the line reaches into row 21.
+    EXPECT_EQ(inkOf({true, 1}), QRect(QPoint(10, 20), QPoint(30, 21)));
+}
+
+TEST(PainterContext, widensNarrowLines)
+{
+    Picture picture(LineDrawing {false, 5});
+    picture.context().drawLine({100, 50}, {200, 50}, {penstyle::solid, 0, 0});
+    EXPECT_EQ(picture.ink().top(), 48);
+    EXPECT_EQ(picture.ink().bottom(), 52);
+}
+
 TEST(PainterContext, readsRedFromTheLowByteOfAColour)
 {
     Picture picture;

@@ -12,9 +12,9 @@ namespace tarsil::test {
 class Picture
 {
 public:
-    Picture()
+    explicit Picture(const LineDrawing& lines = {})
         : m_image(400, 300, QImage::Format_RGB32), m_painter(whitened(m_image)),
-          m_context(m_painter)
+          m_context(m_painter, lines)
     { }
 
     PainterContext& context() { return m_context; }

@@ -5,6 +5,7 @@
 #include "surface/Picture.h"
 #include "surface/SvgSurface.h"
 
+#include <QBuffer>
 #include <QXmlStreamReader>
 
 #include <gtest/gtest.h>
@@ -66,6 +67,44 @@ TEST(SvgContext, saysItsSizeInMillimetresAndPixels)
     EXPECT_EQ(attributesOf(svg, u"svg", u"width"), list({"105.833333mm"}));
     EXPECT_EQ(attributesOf(svg, u"svg", u"height"), list({"79.375mm"}));
     EXPECT_EQ(attributesOf(svg, u"svg", u"viewBox"), list({"0 0 400 300"}));
+}
+
+TEST(SvgContext, hasTheExactSizeThatIsAskedFor)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    {
+        const SvgContext context(buffer, QSizeF(165, 120) * 96 / 25.4, QStringLiteral("a test"));
+    }
+    EXPECT_EQ(attributesOf(buffer.data(), u"svg", u"width"), list({"165mm"}));
+    EXPECT_EQ(attributesOf(buffer.data(), u"svg", u"height"), list({"120mm"}));
+    // A pixel is 1/96 inch: 165 * 96 / 25.4 and 120 * 96 / 25.4.
+    EXPECT_EQ(attributesOf(buffer.data(), u"svg", u"viewBox"), list({"0 0 623.622047 453.543307"}));
+}
+
+TEST(SvgContext, keepsTheFractionsOfExactLines)
+{
+    const QByteArray svg = svgOf([](DeviceContext& context) {
+        context.setOrigin({100, 50});
+        context.drawExactLine({10.25, 20.5}, {30.125, 20}, {});
+        context.drawExactLine({30.125, 20}, {40.0004, 0}, {});
+    });
+    // Half a pixel is the centre of the pixel of a whole position.
+    EXPECT_EQ(attributesOf(svg, u"polyline", u"points"),
+              list({"110.75,71 130.625,70.5 140.5,50.5"}));
+}
+
+TEST(SvgContext, widensNarrowLines)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    {
+        SvgContext context(buffer, {400, 300}, QStringLiteral("a test"), 2.5);
+        context.drawLine({0, 0}, {10, 10}, {penstyle::solid, 0, 0});
+        context.drawLine({0, 20}, {10, 20}, {penstyle::dash, 1, 0});
+        context.drawLine({0, 30}, {10, 30}, {penstyle::solid, 4, 0});
+    }
+    EXPECT_EQ(attributesOf(buffer.data(), u"polyline", u"stroke-width"), list({"2.5", "2.5", "4"}));
 }
 
 TEST(SvgContext, joinsConnectedSolidLinesOfOnePen)

@@ -292,7 +292,8 @@ TEST_F(EvmPlotDrawing, drawsAWhiteGroundAndThenItsPartsInOrder)
              &plot.parts().velAxis, &plot.parts().velAxisLabel, &plot.parts().freqAxis,
              &plot.parts().freqAxislabel, &plot.parts().gAxis, &plot.parts().gAxisLabel,
              &plot.parts().box(TextBox::Header), &plot.parts().box(TextBox::Legend),
-             &plot.parts().box(TextBox::Mechanism), &plot.parts().vfPlot, &plot.parts().vgPlot})
+             &plot.parts().box(TextBox::Mechanism), &plot.parts().vfPlot, &plot.parts().vgPlot,
+             &plot.parts().velLabels})
         expected.push_back(positionText(part->geometry().topLeft()));
     EXPECT_EQ(originsOf(context), expected);
     EXPECT_EQ(context.calls().back(), "origin 0,0");

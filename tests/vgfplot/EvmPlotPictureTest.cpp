@@ -236,6 +236,54 @@ TEST_F(EvmPlotPicture, keepsThickPensWithinTheCanvasInAnSvg)
     EXPECT_EQ(svg.copy(0, 60, 20, 500), plot.Image().copy(0, 60, 20, 500));
 }
 
+TEST_F(EvmPlotPicture, hasCurvesAtFractionsOfAPixelInAnSvg)
+{
+    // The canvas begins at column 80 and row 78; 700 KEAS are 600 pixels, 50 Hz are 252. So 350
+    // KEAS are column 380 and 20 Hz row 78 + 252 * 0.6 = 229.2, both from the centre of a pixel.
+    EXPECT_TRUE(pictureBytes(plot, PictureFormat::Svg).contains(" 380.5,229.7 "));
+}
+
+TEST_F(EvmPlotPicture, hasTheSizeInMillimetresAndTheResolutionThatAreAskedFor)
+{
+    const PictureSettings settings {QSizeF(165, 120), 300, 1};
+    plot.resize(pixelsOf(*settings.millimetres));
+    EXPECT_EQ(plot.size(), QSize(624, 454)); // 623.6 x 453.5
+    const QByteArray svg = pictureBytes(plot, PictureFormat::Svg, settings);
+    EXPECT_TRUE(svg.contains("width=\"165mm\" height=\"120mm\""));
+    // 165 * 72 / 25.4 and 120 * 72 / 25.4 points; Qt puts the upper edge at 340.
+    EXPECT_TRUE(pictureBytes(plot, PictureFormat::Pdf, settings)
+                    .contains("/MediaBox [0 -0.1575 467.7165 340 "));
+    const QImage png = QImage::fromData(pictureBytes(plot, PictureFormat::Png, settings));
+    EXPECT_EQ(png.size(), QSize(1949, 1417)); // 165 and 120 * 300 / 25.4
+    EXPECT_EQ(png.dotsPerMeterX(), 11811); // 300 / 0.0254
+    EXPECT_EQ(png.dotsPerMeterY(), 11811);
+}
+
+TEST_F(EvmPlotPicture, showsTheLabelsOfTheSpeedAxisInFrontOfTheCurves)
+{
+    // The label of 400 KEAS is centred on column 80 + 600 * 4 / 7 = 423, its letters are rows 337
+    // to 344. A curve 30 pixels wide at g = -0.01, row 340, covers all labels.
+    const QRect letters(415, 337, 17, 8);
+    EvmPlot empty;
+    empty.resize(plot.size());
+    const auto addCurve = [this](EvmPlot& under) {
+        under.rows().add(addMode(evolution, 3, {{0, -0.01F, 10}, {700, -0.01F, 10}}));
+        test::changeSeries(under, 0, [](Series& wide) {
+            wide.LineWidth = 30;
+            wide.ColorIndex = rgb(255, 0, 0);
+        });
+    };
+    EvmPlot covered;
+    covered.resize(plot.size());
+    addCurve(covered);
+    EXPECT_EQ(covered.Image().copy(letters), empty.Image().copy(letters));
+    EXPECT_EQ(covered.Image().pixelColor(440, 340), QColor(255, 0, 0)) << "beside the label";
+    EXPECT_EQ(pictureImage(covered, 1), covered.Image());
+    const QImage svg = test::playSvg(pictureBytes(covered, PictureFormat::Svg));
+    test::expectSameInk(svg, covered.Image(), 1, 1.0);
+    EXPECT_EQ(pictureBytes(covered, PictureFormat::Svg).count(">400<"), 1);
+}
+
 TEST_F(EvmPlotPicture, isWrittenUnderTheVeryNameGiven)
 {
     const test::TemporaryFolder folder;
