@@ -17,7 +17,6 @@
 #include <QToolButton>
 
 #include <algorithm>
-#include <memory>
 
 namespace tarsil {
 
@@ -46,28 +45,27 @@ void prepare(QFileDialog& dialog, const FileQuestion& question)
 QString extensionOf(const QFileDialog& dialog, const FileQuestion& question)
 {
     const QStringList filters = nameFilters(question.filter);
-    const qsizetype entry = filters.indexOf(dialog.selectedNameFilter()) + 1;
-    if (question.firstExtending == 0 || entry < static_cast<qsizetype>(question.firstExtending))
+    const QString chosen = dialog.selectedNameFilter(); // with or without the hidden details
+    qsizetype entry = 1;
+    while (entry <= filters.size() && !filters[entry - 1].startsWith(chosen))
+        ++entry;
+    const auto first = static_cast<qsizetype>(question.firstExtending);
+    if (first == 0 || entry < first || entry > filters.size())
         return {};
     const QString pattern = QString::fromStdString(question.filter).split(u'|').at(2 * entry - 1);
     return pattern.mid(1); // without the asterisk
 }
 
-/// Shows the extension in the name when another entry of the filter is chosen.
+/// Appends the extension when another entry of the filter is chosen. Qt itself replaces the
+/// extension of an entry chosen before.
 void followFilter(QFileDialog& dialog, const FileQuestion& question)
 {
-    if (question.firstExtending == 0)
-        return;
-    auto before = std::make_shared<QString>();
     QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
-                     [&dialog, question, before](const QString& /*filter*/) {
+                     [&dialog, question](const QString& /*filter*/) {
                          const QFileInfo file(dialog.selectedFiles().value(0));
                          const QString extension = extensionOf(dialog, question);
-                         QString name = file.isDir() ? QString() : file.fileName();
-                         if (!before->isEmpty() && name.endsWith(*before, Qt::CaseInsensitive))
-                             name.chop(before->size());
-                         *before = extension;
-                         if (!name.isEmpty())
+                         const QString name = file.fileName();
+                         if (!file.isDir() && !name.endsWith(extension, Qt::CaseInsensitive))
                              dialog.selectFile(name + extension);
                      });
 }

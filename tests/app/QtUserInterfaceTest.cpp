@@ -171,10 +171,10 @@ TEST_F(QtUserInterfaceTest, appendsTheExtensionOfTheChosenFilter)
         return QFileInfo(dialog.selectedFiles().value(0)).fileName();
     };
     onDialog<QFileDialog>([choose](QFileDialog& dialog) {
-        EXPECT_EQ(choose(dialog, "SVG (*.svg)"), QStringLiteral("Plot1.svg"));
-        EXPECT_EQ(choose(dialog, "PNG (*.png)"), QStringLiteral("Plot1.png"));
-        EXPECT_EQ(choose(dialog, "Metafile (*.emf)"), QStringLiteral("Plot1"));
-        choose(dialog, "SVG (*.svg)");
+        EXPECT_EQ(choose(dialog, "SVG (*.svg) (*.svg)"), QStringLiteral("Plot1.svg"));
+        EXPECT_EQ(choose(dialog, "PNG (*.png) (*.png)"), QStringLiteral("Plot1.png"));
+        EXPECT_EQ(choose(dialog, "Metafile (*.emf) (*.emf)"), QStringLiteral("Plot1.emf"));
+        choose(dialog, "SVG (*.svg) (*.svg)");
         dialog.selectFile(QStringLiteral("wing m0.40"));
         static_cast<QDialog&>(dialog).accept();
     });
