@@ -83,7 +83,7 @@ void saveAllPictures(const PlotList& list, const std::string& folder, UserInterf
     writeAll(plots, paths, *format);
     user.showNote(std::to_string(plots.size())
                   + (plots.size() == 1 ? " picture is" : " pictures are") + " in "
-                  + wholePath(*chosen) + " (" + std::string(traitsOf(*format).name) + ")");
+                  + wholePath(*chosen) + " (" + std::string(pictureTraitsOf(*format).name) + ")");
 }
 
 } // namespace tarsil

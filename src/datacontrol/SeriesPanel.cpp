@@ -517,8 +517,8 @@ void SeriesPanel::SavePic_Click()
         plot->ExportPic(QString::fromStdString(name));
     else
         writePicture(*plot, name);
-    user.showNote("The picture is in " + wholePath(name) + " (" + std::string(traitsOf(format).name)
-                  + ")");
+    user.showNote("The picture is in " + wholePath(name) + " ("
+                  + std::string(pictureTraitsOf(format).name) + ")");
 }
 
 } // namespace tarsil

@@ -41,7 +41,7 @@ std::vector<std::string> pictureFileNames(const std::vector<std::string>& captio
         for (int number = 2; used.contains(name.toCaseFolded()); ++number)
             name = stem + u'_' + QString::number(number);
         used.insert(name.toCaseFolded());
-        names.push_back(name.toStdString() + std::string(traitsOf(format).extension));
+        names.push_back(name.toStdString() + std::string(pictureTraitsOf(format).extension));
     }
     return names;
 }

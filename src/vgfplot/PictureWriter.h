@@ -38,7 +38,7 @@ inline constexpr std::array<PictureTraits, 4> pictureTraits = {
      {PictureFormat::Pdf, ".pdf", "PDF"},
      {PictureFormat::Png, ".png", "PNG"}}};
 
-constexpr const PictureTraits& traitsOf(PictureFormat format)
+constexpr const PictureTraits& pictureTraitsOf(PictureFormat format)
 {
     return pictureTraits[static_cast<std::size_t>(format)];
 }
