@@ -9,7 +9,7 @@
 #include "plotwindow/RichTextEditor.h"
 #include "surface/TextMetrics.h"
 #include "vgfplot/PictureWriter.h"
-#include "vgfplot/ScaleFit.h"
+#include "vgfplot/PlotFit.h"
 
 #include <QAction>
 #include <QApplication>
@@ -268,7 +268,7 @@ void EvmPlotView::fitAll()
     finishEditing(true);
     m_gesture.cancel();
     Q_EMIT commandBegun();
-    m_plot.setAxes(fitAxes(m_plot.SeriesCollection(), m_plot.axes()));
+    fitToCurves(m_plot);
     Q_EMIT edited(tr("Fit Axes"), UndoHistory::Joining::No);
 }
 

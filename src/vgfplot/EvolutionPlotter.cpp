@@ -5,7 +5,7 @@
 #include "model/EVM.h"
 #include "plot/LineStyles.h"
 #include "vgfplot/EvmPlot.h"
-#include "vgfplot/ScaleFit.h"
+#include "vgfplot/PlotFit.h"
 
 #include <algorithm>
 #include <set>
@@ -146,7 +146,7 @@ std::size_t plotCurves(EvmPlot& plot, const std::vector<EvolutionCurves>& files,
     if (drawn.empty())
         return 0;
     if (isNew)
-        plot.setAxes(fitAxes(plot.SeriesCollection(), plot.axes()));
+        fitToCurves(plot);
     fillTexts(plot, drawn);
     return drawn.size();
 }

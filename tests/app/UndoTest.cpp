@@ -103,7 +103,7 @@ TEST_F(Undo, takesAnEditedTextBack)
     auto* const editor = view().findChild<QTextEdit*>();
     ASSERT_NE(editor, nullptr);
     editor->setPlainText(QStringLiteral("wing"));
-    choose("mnuClearDamp"); // what is being typed counts first
+    choose("mnuClearRef"); // what is being typed counts first
     EXPECT_EQ(plot().Header().Text(), QStringLiteral("wing"));
     EXPECT_EQ(undoText(), "&Undo Edit Text");
     choose("mnuUndo");

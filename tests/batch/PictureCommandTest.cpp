@@ -147,6 +147,15 @@ TEST_F(PictureCommand, acceptsScaleAndTicks)
     EXPECT_THAT(texts, ::testing::Not(HasSubstr("250|")));
 }
 
+TEST_F(PictureCommand, drawsALineAtDampingZeroOnFittedAxesOnly)
+{
+    const std::string fitted = svgTexts(draw("fitted.svg", {writeEv2()}));
+    EXPECT_THAT(fitted, HasSubstr("g = 0|"));
+    const std::string scaled =
+        svgTexts(draw("scaled.svg", {"--scale", "0,500,0,30,0,-0.2", writeEv2()}));
+    EXPECT_THAT(scaled, ::testing::Not(HasSubstr("g = 0")));
+}
+
 TEST_F(PictureCommand, putsRoundTicksOnAScale)
 {
     const std::string texts =

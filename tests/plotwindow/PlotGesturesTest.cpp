@@ -160,6 +160,7 @@ TEST_F(PlotGestures, fitsAllAxesByHomeAndByADoubleClickBetweenTheCurves)
     const PlotAxes fitted = fitAxes(plot.SeriesCollection(), before);
     press(Qt::Key_Home);
     EXPECT_EQ(plot.axes(), fitted);
+    EXPECT_EQ(plot.references().dampingLines().size(), 1U) << "at damping 0";
     plot.setAxes(before);
     doubleClick({600, 100});
     EXPECT_EQ(plot.axes(), fitted);

@@ -3,10 +3,12 @@
 
 #include "analysis/ModeBuilder.h"
 #include "vgfplot/EvmPlot.h"
+#include "vgfplot/PlotFit.h"
 
 #include <gtest/gtest.h>
 
 #include <set>
+#include <vector>
 
 using namespace tarsil;
 using test::addMode;
@@ -75,6 +77,41 @@ TEST_F(EvolutionPlotter, fitsTheAxesOfAnEmptyPlotOnly)
     plot.setAxes(own);
     plotAll({two.get()});
     EXPECT_EQ(plot.axes(), own) << "the user's scale stays";
+}
+
+TEST_F(EvolutionPlotter, drawsALineAtDampingZeroWhereTheSpeedAxisIsElsewhere)
+{
+    RefLine own;
+    own.Caption = QStringLiteral("required");
+    own.Y1 = own.Y2 = 0.03F;
+    plot.references().restoreDampingLines({own});
+    plotAll({one.get()});
+    ASSERT_GT(plot.axes().damping.min, 0) << "the speed axis is above zero";
+    const auto expectLine = [&] {
+        ASSERT_EQ(plot.references().dampingLines().size(), 2U);
+        EXPECT_EQ(plot.references().dampingLines()[0], own);
+        const RefLine& line = plot.references().dampingLines()[1];
+        EXPECT_EQ(line.Caption, QStringLiteral("g = 0"));
+        EXPECT_EQ(line.Y1, 0);
+        EXPECT_EQ(line.Y2, 0);
+        EXPECT_EQ(line.X1, 0);
+        EXPECT_EQ(line.X2, plot.axes().speed.max);
+    };
+    expectLine();
+    PlotAxes zoomed = plot.axes();
+    zoomed.speed.max = 200;
+    plot.setAxes(zoomed);
+    fitToCurves(plot);
+    expectLine();
+    removeZeroLine(plot);
+    EXPECT_EQ(plot.references().dampingLines(), std::vector {own});
+}
+
+TEST_F(EvolutionPlotter, fitsNothingWithoutCurves)
+{
+    fitToCurves(plot);
+    EXPECT_EQ(plot.axes(), PlotAxes());
+    EXPECT_TRUE(plot.references().dampingLines().empty());
 }
 
 TEST_F(EvolutionPlotter, leavesAScaleAloneThatTheUserSetBefore)
