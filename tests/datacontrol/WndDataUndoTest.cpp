@@ -58,7 +58,7 @@ protected:
 TEST_F(WndDataUndo, undoesEveryCommandInOneStep)
 {
     select(1, 2, SeriesColumn::Mode);
-    const std::vector<std::pair<const char*, std::function<void()>>> commands = {
+    const std::vector<std::pair<const char*, std::function<void()>>> steps = {
         {"Lower Modes", [this] { click("cmdDecMode"); }},
         {"Raise Modes", [this] { click("cmdIncMode"); }},
         {"Mode", [this] { type(0, SeriesColumn::Mode, "9"); }},
@@ -79,7 +79,7 @@ TEST_F(WndDataUndo, undoesEveryCommandInOneStep)
         {"Flutter Mechanism", [this] { chooseMechanism(0); }},
         {"Fit Frequency Axis", [this] { click("btnFitFreq"); }},
         {"Remove Rows", [this] { click("cmdRemove"); }}};
-    for (const auto& [name, command] : commands) {
+    for (const auto& [name, command] : steps) {
         const std::string where = name;
         history.clear();
         const auto before = stateAndRows();

@@ -23,11 +23,11 @@ constexpr std::string_view importKeys = "Source=/runs/a=b/wing.f06\n"
                                         "Density=slug/ft3\n"
                                         "Import_log=line 20: row left out; rows dropped: 3\n";
 
-std::string imported(std::string_view keys, std::string_view rows)
+std::string imported(std::string_view keys, std::string_view results)
 {
     std::string text = ev2Header("");
     text.insert(text.find("\n\n") + 1, keys);
-    return text.append(rows);
+    return text.append(results);
 }
 
 } // namespace

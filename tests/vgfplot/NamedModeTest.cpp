@@ -8,6 +8,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <initializer_list>
 #include <utility>
 
 using namespace tarsil;
@@ -55,7 +57,7 @@ TEST_F(NamedModeTest, isNoneWithoutFaultWhereTheEvolutionIsNotOpen)
 
 TEST_F(NamedModeTest, isAFaultBeyondTheListOrTheModes)
 {
-    for (const std::int16_t number : {-1, 0, 3}) {
+    for (const std::int16_t number : std::initializer_list<std::int16_t> {-1, 0, 3}) {
         EXPECT_EQ(namedMode(naming(number, 1), evolutions).fault, NamedMode::Fault::NoEvolution);
         EXPECT_EQ(namedMode(naming(2, number), evolutions).fault, NamedMode::Fault::NoMode);
         EXPECT_EQ(namedMode(naming(2, number), evolutions).mode, nullptr);
