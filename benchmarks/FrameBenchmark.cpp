@@ -75,7 +75,7 @@ void measure(int modes, int points, bool isSelected, const char* goal)
     const double median = times[times.size() / 2];
     const double worst = times[times.size() * 95 / 100];
     const auto rounded = [](double number) {
-        return std::to_string(std::lround(number * 10) / 10.0).substr(0, 5);
+        return std::to_string(static_cast<double>(std::lround(number * 10)) / 10).substr(0, 5);
     };
     benchmarks::printRow(
         "frame while dragging " + std::to_string(modes) + " curves of " + std::to_string(points)
