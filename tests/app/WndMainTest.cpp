@@ -58,8 +58,8 @@ TEST_F(WndMainTest, hasTheMenusLetterForLetter)
                 ElementsAre("&New Workspace", "&Open Workspace ...", "&Save Worspace",
                             "&Add Modal Evolution ...", "&Import Solver Results ...",
                             "&Export Mix File ...", "&Write Report ...", "&Print Plots ...",
-                            "Save All Pics ...", "&Recent Workspaces",
-                            "Re&cent Modal Evolutions", "Quit"));
+                            "Save All Pics ...", "&Recent Workspaces", "Re&cent Modal Evolutions",
+                            "Quit"));
     EXPECT_THAT(captionsOf(menu("EditMenu")),
                 ElementsAre("&Undo", "&Redo", "", "&Hide", "&Show", "Show &All Hidden"));
     EXPECT_THAT(captionsOf(menu("mnuView")),
