@@ -496,7 +496,8 @@ void SeriesPanel::chooseLine()
 }
 
 /// Cancelling the dialog does not cancel the command: the picture is written under the caption of
-/// the plot. A name that selects no other format is that of a metafile.
+/// the plot, as a metafile whatever the caption ends in. A name that selects no other format is
+/// that of a metafile, too.
 void SeriesPanel::SavePic_Click()
 {
     EvmPlot* const plot = m_commands.activePlot();
@@ -512,7 +513,8 @@ void SeriesPanel::SavePic_Click()
         return;
     const std::string name = answer.value_or(caption);
     plot->commitEdits();
-    const PictureFormat format = pictureFormatOf(name).value_or(PictureFormat::Emf);
+    const PictureFormat format =
+        answer ? pictureFormatOf(*answer).value_or(PictureFormat::Emf) : PictureFormat::Emf;
     if (format == PictureFormat::Emf)
         plot->ExportPic(QString::fromStdString(name));
     else

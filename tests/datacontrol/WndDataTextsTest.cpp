@@ -367,6 +367,10 @@ TEST_F(WndDataTexts, savesThePictureUnderTheCaptionWhenTheDialogIsCancelled)
     EXPECT_THAT(user.questions,
                 ElementsAre("The file 'Plot1' already exists. Do you want to replace it?"));
     EXPECT_EQ(test::fileBytes(folder.file("Plot1")), picture) << "the answer was no";
+    plot().properties().setCaption(QStringLiteral("wing.svg"));
+    click("SavePic");
+    EXPECT_EQ(test::fileBytes(folder.file("wing.svg")).substr(40, 4), " EMF")
+        << "only a name that the user gives selects another format";
     QDir::setCurrent(before);
 }
 
