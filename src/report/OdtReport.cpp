@@ -5,10 +5,10 @@
 #include "report/OdtStyles.h"
 #include "report/OdtXml.h"
 #include "report/ReportContent.h"
-#include "report/ReportDate.h"
 #include "report/ReportPages.h"
 #include "report/ReportText.h"
 #include "report/TableColumns.h"
+#include "surface/PropertyDate.h"
 #include "vgfplot/DrawnPicture.h"
 #include "vgfplot/PictureWriter.h"
 
@@ -245,7 +245,7 @@ std::string OdtWriter::body()
 
 std::string metaOf(const ReportContent& content)
 {
-    const QString date = documentDate(content).toString(QStringLiteral("yyyy-MM-ddTHH:mm:ss"));
+    const QString date = propertyDate(QString::fromStdString(content.date)).toString(QStringLiteral("yyyy-MM-ddTHH:mm:ss"));
     OdtXml xml("office:document-meta");
     xml.begin("office:meta");
     xml.add("meta:generator", {}, shownText(content.program));

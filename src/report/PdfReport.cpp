@@ -2,14 +2,13 @@
 #include "report/PdfReport.h"
 
 #include "base/user/RunTimeError.h"
-#include "report/ReportDate.h"
 #include "report/ReportPages.h"
 #include "report/ReportText.h"
+#include "surface/PdfFile.h"
+#include "surface/PropertyDate.h"
 #include "vgfplot/PictureWriter.h"
 
-#include <QBuffer>
 #include <QColor>
-#include <QHashSeed>
 #include <QPageLayout>
 #include <QPageSize>
 #include <QPainter>
@@ -63,68 +62,15 @@ void drawPages(const std::vector<ReportPage>& pages, QPdfWriter& writer)
     }
 }
 
-/// The writer numbers the fonts in the order of a hash table. While this object exists, that order
-/// does not depend on chance.
-class FixedHashOrder
-{
-public:
-    FixedHashOrder() { QHashSeed::setDeterministicGlobalSeed(); }
-    ~FixedHashOrder() { QHashSeed::resetRandomGlobalSeed(); }
-    FixedHashOrder(const FixedHashOrder&) = delete;
-    FixedHashOrder& operator=(const FixedHashOrder&) = delete;
-};
-
-/// The position after `key` in a PDF.
-qsizetype after(const QByteArray& pdf, const QByteArray& key, qsizetype from = 0)
-{
-    const qsizetype start = pdf.indexOf(key, from);
-    if (start < 0)
-        fail("the document has no date or no table of its objects");
-    return start + key.size();
-}
-
-/// Adds `shift` to a number of fixed or free width that starts at `start` and ends at `end`.
-void addToNumber(QByteArray& pdf, qsizetype start, qsizetype end, qsizetype shift)
-{
-    const qsizetype number = pdf.mid(start, end - start).toLongLong() + shift;
-    pdf.replace(start, end - start, QByteArray::number(number).rightJustified(end - start, '0'));
-}
-
-/// Writes a date over that of the clock, and updates the offsets of the objects after it.
-QByteArray withDate(QByteArray pdf, const QByteArray& date)
-{
-    constexpr qsizetype entrySize = 20; ///< of the table of objects: "0000000015 00000 n \n"
-    constexpr qsizetype offsetSize = 10;
-    const qsizetype start = after(pdf, "/CreationDate (");
-    const qsizetype end = pdf.indexOf(')', start);
-    const qsizetype shift = date.size() - (end - start);
-    pdf.replace(start, end - start, date);
-    const qsizetype pointer = after(pdf, "\nstartxref\n", pdf.lastIndexOf("\nstartxref\n"));
-    addToNumber(pdf, pointer, pdf.indexOf('\n', pointer), shift);
-    const qsizetype table = pdf.lastIndexOf("\nxref\n");
-    qsizetype entry = after(pdf, "\n", after(pdf, "\nxref\n", table));
-    for (; pdf.at(entry) != 't'; entry += entrySize) { // up to "trailer"
-        if (pdf.mid(entry, offsetSize).toLongLong() > start)
-            addToNumber(pdf, entry, entry + offsetSize, shift);
-    }
-    return pdf;
-}
-
 } // namespace
 
 QByteArray pdfReport(const ReportContent& content)
 {
-    const FixedHashOrder order;
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    QPdfWriter writer(&buffer);
-    writer.setResolution(pointsPerInch * pixelsPerPoint);
-    writer.setTitle(shownText(content.title + ": " + content.workspace));
-    writer.setCreator(shownText(content.program));
-    drawPages(reportPages(content), writer);
-    return withDate(
-        buffer.data(),
-        documentDate(content).toString(QStringLiteral("'D:'yyyyMMddHHmmss")).toLatin1());
+    PdfFile pdf(shownText(content.title + ": " + content.workspace));
+    pdf.writer().setResolution(pointsPerInch * pixelsPerPoint);
+    pdf.writer().setCreator(shownText(content.program));
+    drawPages(reportPages(content), pdf.writer());
+    return pdf.bytes(propertyDate(QString::fromStdString(content.date)));
 }
 
 } // namespace tarsil

@@ -7,6 +7,8 @@
 #include "emf/EmfSink.h"
 #include "emf/MetafileContext.h"
 #include "surface/PainterContext.h"
+#include "surface/PdfFile.h"
+#include "surface/PropertyDate.h"
 #include "surface/SvgContext.h"
 #include "vgfplot/DrawnPicture.h"
 
@@ -89,15 +91,17 @@ QSizeF pagePoints(const DrawnPicture& picture, const PictureSettings& settings)
     return exactSize(picture, settings) * pointsPerInch / pixelsPerInch;
 }
 
-void writePdf(const DrawnPicture& picture, const PictureSettings& settings, QBuffer& buffer)
+/// A picture has no date of its own.
+QByteArray pdfBytes(const DrawnPicture& picture, const PictureSettings& settings)
 {
-    QPdfWriter writer(&buffer);
+    PdfFile pdf(picture.title());
+    QPdfWriter& writer = pdf.writer();
     writer.setResolution(pixelsPerInch);
-    writer.setTitle(picture.title());
     writer.setPageSize(QPageSize(pagePoints(picture, settings), QPageSize::Point, QString(),
                                  QPageSize::ExactMatch));
     writer.setPageMargins(QMarginsF());
     draw(picture, writer, {true, settings.leastLineWidth});
+    return pdf.bytes(propertyDate({}));
 }
 
 /// An image of `pixels`, in which a pixel of the picture is `scale` pixels wide.
@@ -205,8 +209,7 @@ QByteArray pictureBytes(const DrawnPicture& picture, PictureFormat format,
         writeSvg(picture, settings, buffer);
         break;
     case PictureFormat::Pdf:
-        writePdf(picture, settings, buffer);
-        return withExactPage(buffer.data(), pagePoints(picture, settings));
+        return withExactPage(pdfBytes(picture, settings), pagePoints(picture, settings));
     case PictureFormat::Emf:
         return metafileBytes(picture);
     case PictureFormat::Png:

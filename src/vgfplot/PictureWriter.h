@@ -74,6 +74,7 @@ void writeMetafile(const DrawnPicture& picture, EmfSink& sink);
 /// vectors. The state of the painter is restored, also after an error.
 void drawPicture(const DrawnPicture& picture, QPainter& painter, const QRectF& area);
 
+/// Equal pictures give equal bytes: the date in a PDF is always 1980-01-01.
 QByteArray pictureBytes(const DrawnPicture& picture, PictureFormat format,
                         const PictureSettings& settings = {});
 

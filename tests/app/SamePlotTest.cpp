@@ -44,6 +44,7 @@ protected:
         EXPECT_FALSE(plot().SeriesCollection().empty());
         EXPECT_TRUE(windowPicture(PictureFormat::Svg) == batchPicture("a.svg", files)) << "SVG";
         EXPECT_TRUE(windowPicture(PictureFormat::Emf) == batchPicture("a.emf", files)) << "EMF";
+        EXPECT_TRUE(windowPicture(PictureFormat::Pdf) == batchPicture("a.pdf", files)) << "PDF";
         EXPECT_TRUE(windowPicture(PictureFormat::Png) == batchPicture("a.png", files)) << "PNG";
     }
 };

@@ -106,6 +106,14 @@ TEST_F(PictureCommand, drawsAPdf)
     EXPECT_THAT(bytes, HasSubstr("/MediaBox [0 0 720 360 "));
 }
 
+TEST_F(PictureCommand, writesTheSamePdfForTheSameInput)
+{
+    const std::string input = writeEv2();
+    const std::string bytes = fileBytes(draw("a.pdf", {input}));
+    EXPECT_THAT(bytes, HasSubstr("/CreationDate (D:19800101000000)")) << "not that of the clock";
+    EXPECT_TRUE(fileBytes(draw("b.pdf", {input})) == bytes);
+}
+
 TEST_F(PictureCommand, givesAPdfPageTheExactSize)
 {
     // 801 x 601 pixels are 600.75 x 450.75 points. The drawing begins at the upper edge, which Qt

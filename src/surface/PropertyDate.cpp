@@ -1,16 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "report/ReportDate.h"
-
-#include "report/ReportContent.h"
+#include "surface/PropertyDate.h"
 
 #include <QLocale>
 
 namespace tarsil {
 
-QDateTime documentDate(const ReportContent& content)
+QDateTime propertyDate(const QString& workspaceDate)
 {
-    constexpr qsizetype dateSize = 11; // "07-Mar-2026 09:05:03"
-    const QString text = QString::fromStdString(content.date).trimmed();
+    constexpr qsizetype dateSize = 11; // "07-Mar-2026"
+    const QString text = workspaceDate.trimmed();
     const QDate date = QLocale::c().toDate(text.left(dateSize), QStringLiteral("dd-MMM-yyyy"));
     const QTime time = QTime::fromString(text.mid(dateSize + 1), QStringLiteral("HH:mm:ss"));
     if (!date.isValid() || !time.isValid())
