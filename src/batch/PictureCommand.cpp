@@ -9,6 +9,7 @@
 #include "vgfplot/EvolutionPlotter.h"
 #include "vgfplot/PictureFiles.h"
 #include "vgfplot/PictureWriter.h"
+#include "vgfplot/PlotFit.h"
 #include "vgfplot/PlotRecords.h"
 
 namespace tarsil::batch {
@@ -52,6 +53,8 @@ bool drawEvolutions(const std::vector<std::string>& paths, const PictureOptions&
     EvmPlot plot;
     const std::size_t drawn = plotCurves(plot, files, options.markers, options.palette);
     const bool isWhole = reportLeftOut(paths, drawn, run);
+    if (options.bounds)
+        removeZeroLine(plot); // that of the fit
     finish(plot, options, options.output, run);
     writePicture(plot, options.output, options.size.settings);
     return isWhole;

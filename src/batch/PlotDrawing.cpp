@@ -4,7 +4,6 @@
 #include "batch/PictureOptions.h"
 #include "rtf/RtfReader.h"
 #include "vgfplot/EvmPlot.h"
-#include "vgfplot/PlotFit.h"
 #include "vgfplot/ScaleFit.h"
 
 #include <algorithm>
@@ -54,8 +53,6 @@ void setScale(EvmPlot& plot, const PictureOptions& options)
     if (options.ticks)
         axes.setTicks(*options.ticks);
     plot.setAxes(axes);
-    if (options.bounds)
-        removeZeroLine(plot);
 }
 
 void setTexts(EvmPlot& plot, const PictureOptions& options)

@@ -208,6 +208,14 @@ TEST_F(PictureOfAWorkspace, hasTheReferencesAndLinesThatWereSaved)
         EXPECT_THAT(texts("out.svg"), HasSubstr(text));
 }
 
+TEST_F(PictureOfAWorkspace, keepsASavedLineAtDampingZeroOnAGivenScale)
+{
+    WorkspaceRecord record = this->record();
+    record.plots[0].dampingLines = {{0, "g = 0"}};
+    EXPECT_EQ(draw({"--plot=1", "--scale", "0,1000,0,30,1,-1", write(record)}).status, 0);
+    EXPECT_THAT(texts("out.svg"), HasSubstr("|g = 0|"));
+}
+
 TEST_F(PictureOfAWorkspace, hasItsHeaderInTheRowThatWasSaved)
 {
     WorkspaceRecord record = this->record();
