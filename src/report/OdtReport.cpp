@@ -245,7 +245,8 @@ std::string OdtWriter::body()
 
 std::string metaOf(const ReportContent& content)
 {
-    const QString date = propertyDate(QString::fromStdString(content.date)).toString(QStringLiteral("yyyy-MM-ddTHH:mm:ss"));
+    const QString date = propertyDate(QString::fromStdString(content.date))
+                             .toString(QStringLiteral("yyyy-MM-ddTHH:mm:ss"));
     OdtXml xml("office:document-meta");
     xml.begin("office:meta");
     xml.add("meta:generator", {}, shownText(content.program));

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "report/ReportFont.h"
 
+#include "report/WordBreaks.h"
+
 #include <QFontMetricsF>
 #include <QTextLayout>
 #include <QTextOption>
@@ -51,7 +53,8 @@ double ascentOf(const ReportFont& font)
 
 std::vector<QString> wrapped(const QString& text, const ReportFont& font, double width)
 {
-    QTextLayout layout(text, pageFont(font));
+    const QString breakable = withWordBreaks(text, font, width);
+    QTextLayout layout(breakable, pageFont(font));
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     layout.setTextOption(option);
@@ -59,7 +62,8 @@ std::vector<QString> wrapped(const QString& text, const ReportFont& font, double
     std::vector<QString> lines;
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
         line.setLineWidth(width * pixelsPerPoint);
-        lines.push_back(text.mid(line.textStart(), line.textLength()).trimmed());
+        QString shown = breakable.mid(line.textStart(), line.textLength());
+        lines.push_back(shown.remove(wordBreak).trimmed());
     }
     layout.endLayout();
     if (lines.empty())

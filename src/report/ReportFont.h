@@ -36,8 +36,8 @@ double lineHeightOf(const ReportFont& font);
 /// The distance from the top of a line to its baseline.
 double ascentOf(const ReportFont& font);
 
-/// The lines of a text that is wrapped at words, and inside a word that is wider than `width`. An
-/// empty text is one empty line.
+/// The lines of a text that is wrapped at words, and inside a word that is wider than `width`, at a
+/// sensible position if it has one (`withWordBreaks`). An empty text is one empty line.
 std::vector<QString> wrapped(const QString& text, const ReportFont& font, double width);
 
 } // namespace tarsil

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
 
 namespace tarsil {
 
@@ -108,6 +109,16 @@ std::vector<double> widthsOf(const std::vector<ColumnRange>& ranges,
     return widths;
 }
 
+/// Keeps the names in the key columns on one line if the table then still fits.
+void keepNames(const ReportTable& table, double width, std::vector<ColumnRange>& ranges)
+{
+    std::vector<ColumnRange> wider = ranges;
+    for (std::size_t i = 0; i < std::min(table.keyColumns, wider.size()); ++i)
+        wider[i].least = wider[i].comfortable;
+    if (sumOf(&ColumnRange::least, wider, allColumns(table.cells)) <= width)
+        ranges = std::move(wider);
+}
+
 /// Splits the columns so that each part begins with the key columns and fits.
 std::vector<std::vector<std::size_t>> split(const ReportTable& table,
                                             const std::vector<ColumnRange>& ranges, double width)
@@ -151,6 +162,7 @@ TableColumns fitColumns(const ReportTable& table, double width)
         if (sumOf(&ColumnRange::comfortable, ranges, allColumns(table.cells)) <= width)
             break;
     }
+    keepNames(table, width, ranges);
     for (std::vector<std::size_t>& part : split(table, ranges, width)) {
         std::vector<double> widths = widthsOf(ranges, part, width);
         columns.parts.push_back({std::move(part), std::move(widths)});

@@ -54,6 +54,22 @@ TEST(TableColumnsTest, makesTheLettersOfAWideTableSmaller)
     EXPECT_LE(sum(columns.parts[0].widths), page + 0.01);
 }
 
+TEST(TableColumnsTest, keepsTheNamesOfACrowdedTableOnOneLine)
+{
+    ReportTable table = numbers(17);
+    const QString remark = QStringLiteral("a remark that is as long as that of a doubtful step ");
+    table.cells.setText(1, 18, "Remark");
+    table.cells.setText(2, 18, remark.repeated(5).toStdString());
+    const TableColumns columns = fitColumns(table, page);
+    ASSERT_EQ(columns.parts.size(), 1U);
+    const std::vector<double>& widths = columns.parts[0].widths;
+    EXPECT_LE(sum(widths), page + 0.01);
+    const double name =
+        widthOf(QStringLiteral("a_long_name_of_an_evolution.ev2"), {columns.points, false});
+    EXPECT_GE(widths.front(), name + 2 * cellPadding);
+    EXPECT_LT(widths.back(), name) << "the remark is wrapped instead";
+}
+
 TEST(TableColumnsTest, splitsATableWhoseNumbersDoNotFit)
 {
     ReportTable table = numbers(60);
