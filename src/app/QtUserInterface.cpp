@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "app/QtUserInterface.h"
 
+#include "app/OperationInput.h"
 #include "app/StatusPanels.h"
-#include "app/StopFilter.h"
 #include "base/files/PathNames.h"
 #include "base/user/BusyStatus.h"
 
@@ -116,10 +116,15 @@ QStringList nameFilters(const std::string& filter)
     return filters;
 }
 
+QtUserInterface::QtUserInterface(const ProgressTimes& times) : m_times(times) { }
+
+QtUserInterface::~QtUserInterface() = default;
+
 void QtUserInterface::attach(QWidget* window, StatusPanels* panels)
 {
     m_window = window;
     m_panels = panels;
+    m_input = panels != nullptr ? std::make_unique<OperationInput>(panels->stopButton()) : nullptr;
 }
 
 /// A name with a folder, such as that of the workspace that is saved again, decides itself.
@@ -268,9 +273,10 @@ void QtUserInterface::showStatus(std::string_view text)
         m_sinceReady.start();
     else if (!m_sinceReady.isValid() || m_sinceReady.elapsed() > m_times.interval.count())
         m_sinceStatus.start(); // otherwise the operation continues that before
-    if (m_panels != nullptr)
-        m_panels->setText(textOf(text));
-    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    if (m_panels == nullptr)
+        return;
+    m_panels->setText(textOf(text));
+    m_input->paintWindows();
 }
 
 void QtUserInterface::showNote(std::string_view text)
@@ -298,26 +304,22 @@ bool QtUserInterface::showProgress(std::size_t done, std::size_t total)
     if (m_sinceUpdate.isValid() && m_sinceUpdate.elapsed() < m_times.interval.count())
         return true;
     m_sinceUpdate.start();
-    const bool isShown = m_panels != nullptr && m_sinceStatus.elapsed() >= m_times.delay.count();
-    if (isShown)
-        m_panels->setProgress(done, total);
-    const bool isStopped = isStoppedMeanwhile(isShown);
+    const bool isStopped = m_panels != nullptr && isStoppedMeanwhile(done, total);
     if (isStopped)
         endProgress();
     return !isStopped;
 }
 
-/// Paints the windows. Input waits for the end of a short operation; during a long one it stops it
-/// or is dropped.
-bool QtUserInterface::isStoppedMeanwhile(bool isShown) const
+/// What arrives before the bar is painted is no answer to it.
+bool QtUserInterface::isStoppedMeanwhile(std::size_t done, std::size_t total)
 {
-    if (!isShown) {
-        QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-        return false;
-    }
-    const StopFilter filter(m_panels->stopButton());
-    QApplication::processEvents();
-    return filter.isStopped();
+    const bool wasShown = m_panels->stopButton().isVisible();
+    if (m_sinceStatus.elapsed() >= m_times.delay.count())
+        m_panels->setProgress(done, total);
+    if (wasShown)
+        return m_input->paintStoppable();
+    m_input->paintWindows();
+    return false;
 }
 
 void QtUserInterface::endProgress()

@@ -10,6 +10,7 @@
 
 #include <chrono>
 #include <cstddef>
+#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
@@ -20,6 +21,7 @@ class QWidget;
 
 namespace tarsil {
 
+class OperationInput;
 class StatusPanels;
 
 /// When the progress of an operation is shown.
@@ -35,10 +37,12 @@ struct ProgressTimes
 class QtUserInterface : public UserInterface
 {
 public:
-    explicit QtUserInterface(const ProgressTimes& times = {}) : m_times(times) { }
+    explicit QtUserInterface(const ProgressTimes& times = {});
+    ~QtUserInterface() override;
 
     /// Dialogs belong to `window` while no window of the program is active; status texts go to
-    /// `panels`. Both must exist whenever this object is used.
+    /// `panels`. Both must exist whenever this object is used. What the user types and clicks while
+    /// an operation runs is handled as by `OperationInput`.
     void attach(QWidget* window, StatusPanels* panels);
 
     /// File dialogs begin in the folder in which files of their kind were last chosen, also in an
@@ -64,7 +68,7 @@ public:
     bool showProgress(std::size_t done, std::size_t total) override;
 
 private:
-    bool isStoppedMeanwhile(bool isShown) const;
+    bool isStoppedMeanwhile(std::size_t done, std::size_t total);
     void endProgress();
     QWidget* asker() const;
     void goToLastFolder(QFileDialog& dialog, const FileQuestion& question) const;
@@ -77,6 +81,7 @@ private:
     QElapsedTimer m_sinceUpdate; ///< invalid until the progress of an operation is updated
     QWidget* m_window = nullptr;
     StatusPanels* m_panels = nullptr;
+    std::unique_ptr<OperationInput> m_input; ///< null without panels
     std::optional<OptionsStore> m_store;
 };
 

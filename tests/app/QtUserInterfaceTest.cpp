@@ -7,12 +7,12 @@
 #include "support/TestFiles.h"
 
 #include <QAccessible>
+#include <QAction>
 #include <QApplication>
-#include <QCloseEvent>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
-#include <QKeyEvent>
+#include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
@@ -20,13 +20,17 @@
 #include <QMouseEvent>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QTest>
 #include <QTimer>
 #include <QToolButton>
+#include <QVBoxLayout>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
 #include <chrono>
 #include <functional>
+#include <vector>
 
 using namespace std::chrono_literals;
 using namespace tarsil;
@@ -55,12 +59,82 @@ protected:
         });
     }
 
+    /// Input that arrives while the windows are painted next.
+    template <typename Input>
+    void meanwhile(Input input)
+    {
+        QMetaObject::invokeMethod(&window, input, Qt::QueuedConnection);
+    }
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
+    {
+        QTest::keyClick(window.windowHandle(), key, modifiers);
+    }
+    QPoint middle(const QWidget& widget) { return widget.mapTo(&window, widget.rect().center()); }
+    void click(const QWidget& widget)
+    {
+        QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, middle(widget));
+    }
+
+    /// The program waits for input: it handles everything that has arrived.
+    static void idle()
+    {
+        constexpr int enough = 20; // more than the events of a test
+        for (int i = 0; i < enough; ++i)
+            QApplication::processEvents();
+    }
+
+    std::vector<QString> received; ///< what the user's input has caused
     QMainWindow window;
     QToolButton& stop() { return *panels.findChild<QToolButton*>(QStringLiteral("stBar_Stop")); }
     QProgressBar& bar() { return *panels.findChild<QProgressBar*>(); }
 
     StatusPanels panels;
     QtUserInterface user {ProgressTimes {0ms, 0ms}};
+};
+
+/// A window with a field, a button and keys.
+class InputMeanwhile : public QtUserInterfaceTest
+{
+protected:
+    InputMeanwhile()
+    {
+        auto* const content = new QWidget(&window);
+        auto* const layout = new QVBoxLayout(content);
+        layout->addWidget(&field);
+        layout->addWidget(&button);
+        button.setFocusPolicy(Qt::NoFocus); // the field keeps it
+        window.setCentralWidget(content);
+        const auto note = [this](const QString& what) {
+            return [this, what] { received.push_back(what); };
+        };
+        QObject::connect(&field, &QLineEdit::textChanged, &window,
+                         [this](const QString& text) { received.push_back(text); });
+        QObject::connect(&button, &QPushButton::clicked, &window, note(QStringLiteral("click")));
+        for (const char* const keys : {"Ctrl+B", "Escape"}) {
+            auto* const action = new QAction(&window);
+            action->setShortcut(QKeySequence(QString::fromLatin1(keys)));
+            window.addAction(action);
+            QObject::connect(action, &QAction::triggered, &window, note(QString::fromLatin1(keys)));
+        }
+        window.activateWindow();
+        field.setFocus();
+        idle();
+    }
+    ~InputMeanwhile() override
+    {
+        field.setParent(nullptr);
+        button.setParent(nullptr);
+    }
+
+    void useAll()
+    {
+        press(Qt::Key_A);
+        press(Qt::Key_B, Qt::ControlModifier);
+        click(button);
+    }
+
+    QLineEdit field;
+    QPushButton button;
 };
 
 } // namespace
@@ -294,55 +368,127 @@ TEST_F(QtUserInterfaceTest, stopsAnOperationByTheButton)
     EXPECT_TRUE(stop().toolTip().contains(QStringLiteral("Esc")));
     user.showStatus("Please Wait ...");
     EXPECT_TRUE(user.showProgress(1, 10));
-    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-        const QPoint center = stop().rect().center();
-        QApplication::postEvent(&stop(),
-                                new QMouseEvent(type, center, stop().mapToGlobal(center),
-                                                Qt::LeftButton, Qt::LeftButton, Qt::NoModifier));
-    }
+    meanwhile([this] { click(stop()); });
     EXPECT_FALSE(user.showProgress(2, 10));
     EXPECT_FALSE(bar().isVisible());
     EXPECT_FALSE(stop().isVisible());
     EXPECT_TRUE(user.showProgress(3, 10)) << "another operation";
+    EXPECT_TRUE(user.showProgress(4, 10));
 }
 
 TEST_F(QtUserInterfaceTest, stopsAnOperationByEscape)
 {
     EXPECT_TRUE(user.showProgress(1, 10));
-    QApplication::postEvent(&window,
-                            new QKeyEvent(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier));
+    meanwhile([this] { press(Qt::Key_Escape); });
     EXPECT_FALSE(user.showProgress(2, 10));
+    idle();
+    EXPECT_TRUE(received.empty()) << "no window gets the key";
 }
 
-TEST_F(QtUserInterfaceTest, dropsOtherInputWhileAnOperationCanBeStopped)
+TEST_F(InputMeanwhile, isDroppedWhileTheProgressIsVisible)
 {
-    auto* const field = new QLineEdit(&window);
-    auto* const button = new QPushButton(&window);
-    window.setCentralWidget(button);
-    int clicks = 0;
-    QObject::connect(button, &QPushButton::clicked, &window, [&clicks] { ++clicks; });
-    const auto use = [&] {
-        QApplication::postEvent(
-            field, new QKeyEvent(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, QStringLiteral("a")));
-        for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-            const QPoint center = button->rect().center();
-            QApplication::postEvent(button,
-                                    new QMouseEvent(type, center, button->mapToGlobal(center),
-                                                    Qt::LeftButton, Qt::LeftButton,
-                                                    Qt::NoModifier));
-        }
-    };
-    use();
-    QApplication::postEvent(&window, new QCloseEvent);
     EXPECT_TRUE(user.showProgress(1, 10));
-    EXPECT_EQ(field->text(), QString());
-    EXPECT_EQ(clicks, 0);
-    EXPECT_TRUE(window.isVisible());
+    meanwhile([this] {
+        useAll();
+        window.windowHandle()->close();
+    });
+    EXPECT_TRUE(user.showProgress(2, 10));
     EXPECT_TRUE(user.showProgress(10, 10));
-    use();
-    QApplication::processEvents();
-    EXPECT_EQ(field->text(), QStringLiteral("a"));
-    EXPECT_EQ(clicks, 1);
+    idle();
+    EXPECT_TRUE(received.empty());
+    EXPECT_TRUE(window.isVisible());
+    useAll();
+    EXPECT_EQ(received,
+              (std::vector<QString> {QStringLiteral("a"), QStringLiteral("Ctrl+B"),
+                                     QStringLiteral("click")}))
+        << "after the operation";
+}
+
+TEST_F(InputMeanwhile, isDeliveredInItsOrderAfterAShortOperation)
+{
+    meanwhile([this] { useAll(); });
+    user.showStatus("Please Wait ...");
+    meanwhile([this] { press(Qt::Key_C); });
+    user.showStatus("Ready");
+    EXPECT_TRUE(received.empty()) << "nothing is delivered into the operation";
+    idle();
+    EXPECT_EQ(received,
+              (std::vector<QString> {QStringLiteral("a"), QStringLiteral("Ctrl+B"),
+                                     QStringLiteral("click"), QStringLiteral("ac")}));
+}
+
+TEST_F(InputMeanwhile, isKeptUntilTheProgressIsPainted)
+{
+    user.showStatus("Please Wait ...");
+    meanwhile([this] {
+        press(Qt::Key_A);
+        press(Qt::Key_Escape);
+    });
+    EXPECT_TRUE(user.showProgress(1, 10)) << "nobody could see the button";
+    EXPECT_TRUE(bar().isVisible());
+    EXPECT_TRUE(user.showProgress(2, 10));
+    user.showStatus("Ready");
+    EXPECT_TRUE(received.empty());
+    idle();
+    EXPECT_EQ(received, (std::vector<QString> {QStringLiteral("a"), QStringLiteral("Escape")}));
+}
+
+TEST_F(InputMeanwhile, ofAButtonThatIsHeldDownIsDeliveredWhole)
+{
+    user.showStatus("Please Wait ...");
+    meanwhile(
+        [this] { QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, middle(button)); });
+    EXPECT_TRUE(user.showProgress(1, 10));
+    meanwhile(
+        [this] { QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, middle(button)); });
+    EXPECT_TRUE(user.showProgress(2, 10));
+    user.showStatus("Ready");
+    EXPECT_TRUE(received.empty());
+    idle();
+    EXPECT_EQ(received, (std::vector<QString> {QStringLiteral("click")}));
+}
+
+TEST_F(InputMeanwhile, waitsForTheNextOperationThatItBegins)
+{
+    QObject::connect(&button, &QPushButton::clicked, &window, [this] {
+        user.showStatus("Please Wait ...");
+        user.showStatus("Ready");
+        received.push_back(QStringLiteral("end"));
+    });
+    meanwhile([this] {
+        click(button);
+        press(Qt::Key_A);
+    });
+    user.showStatus("Please Wait ...");
+    user.showStatus("Ready");
+    idle();
+    EXPECT_EQ(received,
+              (std::vector<QString> {QStringLiteral("click"), QStringLiteral("end"),
+                                     QStringLiteral("a")}));
+}
+
+TEST_F(InputMeanwhile, isLostWhenAMessageBlocksItsWindow)
+{
+    meanwhile([this] { useAll(); });
+    user.showStatus("Please Wait ...");
+    onDialog<QMessageBox>([](QMessageBox& box) {
+        idle();
+        box.reject();
+    });
+    user.showMessage("Wrong.", "Error", MessageIcon::Critical);
+    idle();
+    EXPECT_TRUE(received.empty());
+    useAll();
+    EXPECT_EQ(received.size(), 3U);
+}
+
+TEST_F(InputMeanwhile, closesTheWindowAfterTheOperation)
+{
+    meanwhile([this] { window.windowHandle()->close(); });
+    user.showStatus("Please Wait ...");
+    EXPECT_TRUE(window.isVisible());
+    idle();
+    EXPECT_FALSE(window.isVisible());
 }
 
 TEST_F(QtUserInterfaceTest, showsNoProgressOfAShortOperation)

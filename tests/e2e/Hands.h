@@ -23,6 +23,9 @@ public:
     /// this name, and focuses it. False when none appears.
     bool focusNew(const QString& title);
 
+    /// Whether the window that `focusNew` focused last is still visible.
+    bool isNewShown(const QString& title) const { return windows(title).contains(m_known.last()); }
+
     /// Focuses a window that was focused before.
     bool focus(const QString& title);
 

@@ -165,12 +165,19 @@ void Person::chooseFor(const QString& entry, const char* command) const
     clickAt(find({QStringLiteral("action"), textOf(command)}).center());
 }
 
+/// The program must have noticed the focus: until then the same names are found in another window.
+void Person::goTo(const QString& title)
+{
+    if (!m_hands.focusNew(title))
+        throw StepFailed(title + QStringLiteral(" does not open"));
+    find({QStringLiteral("window"), title});
+}
+
 void Person::inDialog(const std::function<void()>& open, const char* title,
                       const std::function<void()>& action)
 {
     open();
-    if (!m_hands.focusNew(textOf(title)))
-        throw StepFailed(textOf(title) + QStringLiteral(" does not open"));
+    goTo(textOf(title));
     action();
     if (!waitUntil([&] { return !m_hands.isShown(textOf(title)); }))
         throw StepFailed(textOf(title) + QStringLiteral(" does not close"));
@@ -178,19 +185,27 @@ void Person::inDialog(const std::function<void()>& open, const char* title,
         throw StepFailed(QStringLiteral("no main window"));
 }
 
+/// Waits until the box is closed, because the window below does not accept input before.
+void Person::inBox(const std::function<void()>& action)
+{
+    const QString title = QStringLiteral("^Tarsil$");
+    goTo(title);
+    action();
+    if (!waitUntil([&] { return !m_hands.isNewShown(title); }))
+        throw StepFailed(QStringLiteral("the box does not close"));
+}
+
 void Person::answer(const char* button)
 {
-    if (!m_hands.focusNew(QStringLiteral("^Tarsil$")))
-        throw StepFailed(QStringLiteral("no question"));
-    clickOn(button);
+    inBox([&] { clickOn(button); });
 }
 
 void Person::answerWith(const QString& text)
 {
-    if (!m_hands.focusNew(QStringLiteral("^Tarsil$")))
-        throw StepFailed(QStringLiteral("no question"));
-    type(text);
-    clickOn("OK");
+    inBox([&] {
+        type(text);
+        clickOn("OK");
+    });
 }
 
 bool Person::closesBoxOf(const char* dialog)

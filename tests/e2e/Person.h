@@ -141,6 +141,8 @@ private:
     QRect find(const QStringList& request) const;
     QRect findByScrolling(const char* view, const QStringList& request) const;
     void leave() const;
+    void goTo(const QString& title);
+    void inBox(const std::function<void()>& action);
     void changes(const QRect& rectangle, const std::function<void()>& action) const;
     bool waitFor(const QRect& rectangle, const std::function<bool(const QImage&)>& condition) const;
 

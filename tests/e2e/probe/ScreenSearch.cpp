@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QMenu>
 #include <QMenuBar>
+#include <QRegularExpression>
 #include <QToolButton>
 
 namespace tarsil::test {
@@ -102,6 +103,14 @@ QRect indexOnScreen(const QAbstractItemView& view, const QModelIndex& index)
     return index.isValid() ? onScreen(*view.viewport(), view.visualRect(index)) : QRect();
 }
 
+QRect findActiveWindow(const QString& title)
+{
+    const QWidget* const window = QApplication::activeWindow();
+    const bool isIt =
+        window != nullptr && QRegularExpression(title).match(window->windowTitle()).hasMatch();
+    return isIt ? window->geometry() : QRect();
+}
+
 /// The first entry of a text, at any depth.
 QModelIndex findText(const QAbstractItemModel& model, const QString& text)
 {
@@ -118,6 +127,8 @@ QRect findOnScreen(const QStringList& request)
     const QString& name = request.value(1);
     if (kind == QStringLiteral("action"))
         return findAction(name);
+    if (kind == QStringLiteral("window"))
+        return findActiveWindow(name);
     const QWidget* const widget = findWidget(name);
     if (widget == nullptr)
         return {};
