@@ -4,9 +4,12 @@
 #include "surface/DeviceContext.h"
 #include "surface/TextMetrics.h"
 
+#include <QLineF>
+#include <QList>
 #include <QPen>
 #include <QPointF>
 #include <QPolygonF>
+#include <QRectF>
 
 #include <optional>
 
@@ -47,6 +50,7 @@ public:
 
 private:
     void addLine(QPointF from, QPointF to, const Pen& pen);
+    bool isBeyond(QPointF from, QPointF to, const Pen& pen) const;
     double widthOf(const Pen& pen) const;
     QPen painterPen(const Pen& pen) const;
     void drawPolyline();
@@ -59,6 +63,8 @@ private:
     std::optional<QRect> m_clip; ///< in pixels of the whole surface
     Pen m_pen; ///< pen of the collected lines
     QPolygonF m_points; ///< connected lines not drawn yet
+    QList<QLineF> m_segments; ///< memory for lines that are drawn one by one
+    std::optional<QRectF> m_surface; ///< the surface, if it is a raster
     TextMetrics m_text;
     double m_narrowWidth; ///< up to this width lines have no round joins
     bool m_thinLinesByPixels; ///< lines one pixel wide use the fast path of the raster engine

@@ -181,6 +181,54 @@ TEST(PainterContext, joinsThinSegmentsToTheSamePictureAsSingleOnes)
     }
 }
 
+TEST(PainterContext, joinsSegmentsAlongRowsAndColumnsToTheSamePictureAsSingleOnes)
+{
+    // Along a row, on a spot, back along it, down a column, on, up beyond its start, and away.
+    const std::vector<QPoint> walk = {{10, 40}, {20, 40}, {20, 40}, {45, 40}, {30, 40}, {30, 60},
+                                      {30, 75}, {30, 75}, {30, 20}, {31, 20}, {60, 50}, {60, 50}};
+    const Pen pen {penstyle::solid, 1, 0};
+    Picture joined;
+    Picture single;
+    for (std::size_t i = 1; i < walk.size(); ++i) {
+        joined.context().drawLine(walk[i - 1], walk[i], pen);
+        single.context().drawLine(walk[i - 1], walk[i], pen);
+        single.context().flush();
+    }
+    EXPECT_EQ(joined.image(), single.image());
+}
+
+TEST(PainterContext, drawsACurveBeyondTheEdgesLikeThatOfALargerPicture)
+{
+    constexpr QPoint shift(150, 120);
+    QImage large(800, 600, QImage::Format_RGB32);
+    large.fill(Qt::white);
+    QPainter painter(&large);
+    PainterContext context(painter);
+    context.setOrigin(shift);
+    Picture picture;
+    for (const int width : {1, 3}) {
+        QPoint from(-140, 100);
+        for (const QPoint to : {QPoint(-1, -60), QPoint(60, -3), QPoint(300, -1), QPoint(402, 80),
+                                QPoint(401, 140), QPoint(399, 303), QPoint(20, 301)}) {
+            picture.context().drawLine(from, to, {penstyle::solid, width, 0});
+            context.drawLine(from, to, {penstyle::solid, width, 0});
+            from = to;
+        }
+    }
+    context.flush();
+    // The engine rounds where it cuts lines at the edges of its image.
+    EXPECT_LE(largestDifference(picture.image(), large.copy(QRect(shift, picture.image().size()))),
+              6);
+}
+
+TEST(PainterContext, drawsTheHalfOfAWideLineThatReachesIntoThePicture)
+{
+    Picture picture;
+    picture.context().drawLine({50, -9}, {350, -9}, {penstyle::solid, 30, 0});
+    EXPECT_EQ(picture.image().pixelColor(200, 4), QColor(Qt::black));
+    EXPECT_EQ(picture.image().pixelColor(200, 8), QColor(Qt::white));
+}
+
 TEST(PainterContext, joinsThickSegmentsToThePictureOfSingleOnesButForBlending)
 {
     // Where two antialiased segments meet, separate ones blend twice: a pixel with coverage c gets
