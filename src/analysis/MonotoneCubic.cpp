@@ -76,15 +76,15 @@ private:
     double m_cube;
 };
 
-/// The zero of a monotone cubic by Newton's method, with bisection where a step would leave the
-/// interval.
-double zeroBetween(const HermiteCubic& cubic, bool isRising)
+/// The zero of a monotone cubic by Newton's method, from a first estimate, with bisection where a
+/// step would leave the interval.
+double zeroBetween(const HermiteCubic& cubic, double estimate, bool isRising)
 {
     constexpr int mostSteps = 60;
-    constexpr double smallestStep = 1e-15;
+    constexpr double lastStep = 1e-10; // the error after a step is about its square
     double low = 0;
     double high = 1;
-    double t = (low + high) / 2;
+    double t = estimate;
     for (int i = 0; i < mostSteps; ++i) {
         const double value = cubic.value(t);
         if (value == 0)
@@ -93,7 +93,7 @@ double zeroBetween(const HermiteCubic& cubic, bool isRising)
         double next = t - value / cubic.slope(t);
         if (!(next > low && next < high))
             next = (low + high) / 2;
-        if (std::abs(next - t) <= smallestStep)
+        if (std::abs(next - t) <= lastStep)
             return next;
         t = next;
     }
@@ -111,7 +111,7 @@ double zeroOfMonotoneCubic(std::span<const CurvePoint> points, std::size_t index
     const double h = width(points, index);
     const HermiteCubic cubic(from.y, to.y, h * slopeAt(points, index),
                              h * slopeAt(points, index + 1));
-    return from.x + h * zeroBetween(cubic, from.y < 0);
+    return from.x + h * zeroBetween(cubic, from.y / (from.y - to.y), from.y < 0);
 }
 
 } // namespace tarsil

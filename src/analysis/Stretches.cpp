@@ -30,16 +30,17 @@ private:
     {
         return static_cast<double>(m_points[i].damping) - static_cast<double>(m_level);
     }
-    bool isOnLevel(std::size_t i) const { return m_points[i].damping == m_level; }
     bool isAbove(std::size_t i) const { return m_points[i].damping > m_level; }
     bool isStatic(std::size_t i) const { return m_points[i].frequency < m_limits.staticFrequency; }
 
+    std::size_t nextOffLevel(std::size_t i) const;
+    std::size_t lastBelow(std::size_t i) const;
+    std::size_t lastAbove(std::size_t i);
     void cross(std::size_t before, std::size_t i);
     Crossing crossing(std::size_t before, std::size_t after) const;
     double speedOnCurve(std::size_t after, double straight) const;
     Confidence confidenceOf(const Crossing& crossing) const;
     void begin(std::size_t i);
-    void add(std::size_t i);
     void finish();
 
     std::span<const StabilityPoint> m_points;
@@ -52,30 +53,58 @@ private:
 
 LevelStretches StretchSearch::run()
 {
-    std::size_t before = 0;
-    while (before < m_points.size() && isOnLevel(before))
-        ++before;
-    if (before == m_points.size())
+    std::size_t i = nextOffLevel(0);
+    if (i == m_points.size())
         return {};
-    bool wasAbove = isAbove(before);
-    if (wasAbove)
-        begin(before);
-    for (std::size_t i = before + 1; i < m_points.size(); ++i) {
-        if (isOnLevel(i))
-            continue;
-        if (wasAbove != isAbove(i) || before + 1 != i)
-            cross(before, i);
-        wasAbove = isAbove(i);
-        if (wasAbove)
-            add(i);
-        before = i;
+    if (isAbove(i))
+        begin(i);
+    for (;;) {
+        const std::size_t last = isAbove(i) ? lastAbove(i) : lastBelow(i);
+        i = nextOffLevel(last + 1);
+        if (i == m_points.size()) {
+            if (isAbove(last))
+                finish();
+            return std::move(m_result);
+        }
+        cross(last, i);
     }
-    if (wasAbove)
-        finish();
-    return std::move(m_result);
 }
 
-/// Handles the interval between the last point that is not on the level and point i.
+/// The index of the first point from i on that is not on the level, or the number of points.
+std::size_t StretchSearch::nextOffLevel(std::size_t i) const
+{
+    while (i < m_points.size() && m_points[i].damping == m_level)
+        ++i;
+    return i;
+}
+
+/// The last of the points below the level that follow each other from i on.
+std::size_t StretchSearch::lastBelow(std::size_t i) const
+{
+    const float level = m_level;
+    while (i + 1 < m_points.size() && m_points[i + 1].damping < level)
+        ++i;
+    return i;
+}
+
+/// The last of the points above the level that follow each other from i on; adds them to the last
+/// stretch.
+std::size_t StretchSearch::lastAbove(std::size_t i)
+{
+    const float level = m_level;
+    float peak = m_points[m_peak].damping;
+    for (;; ++i) {
+        m_isStatic = m_isStatic && isStatic(i);
+        if (m_points[i].damping > peak) {
+            peak = m_points[i].damping;
+            m_peak = i;
+        }
+        if (i + 1 == m_points.size() || !(m_points[i + 1].damping > level))
+            return i;
+    }
+}
+
+/// Handles the interval between two points off the level; those between them are on it.
 void StretchSearch::cross(std::size_t before, std::size_t i)
 {
     if (isAbove(i) == isAbove(before)) {
@@ -150,21 +179,12 @@ Confidence StretchSearch::confidenceOf(const Crossing& crossing) const
 /// Begins a stretch, whose first point is i.
 void StretchSearch::begin(std::size_t i)
 {
-    constexpr std::size_t usualCount = 4;
+    constexpr std::size_t usualCount = 3; // less than 1 KiB, which malloc hands out fastest
     if (m_result.stretches.empty())
         m_result.stretches.reserve(usualCount);
     m_result.stretches.emplace_back();
     m_peak = i;
     m_isStatic = true;
-    add(i);
-}
-
-/// Adds a point above the level to the last stretch.
-void StretchSearch::add(std::size_t i)
-{
-    m_isStatic = m_isStatic && isStatic(i);
-    if (m_points[i].damping > m_points[m_peak].damping)
-        m_peak = i;
 }
 
 void StretchSearch::finish()
