@@ -6,23 +6,18 @@
 #include "base/text/ShortList.h"
 #include "base/user/ErrorGuard.h"
 #include "base/user/UserInterface.h"
+#include "base/user/UserName.h"
 #include "document/Document.h"
 #include "document/RecoveryCopy.h"
 #include "formats/EvolutionLoader.h"
 #include "vgfplot/EvmPlot.h"
 
 #include <QString>
-#include <QtGlobal>
 
 #include <cstddef>
 #include <exception>
 #include <filesystem>
 #include <system_error>
-
-#ifdef Q_OS_UNIX
-#include <pwd.h>
-#include <unistd.h>
-#endif
 
 namespace tarsil {
 
@@ -37,16 +32,6 @@ std::string withExtension(const std::string& path)
     const QString extension = QStringLiteral(".tsw");
     return QString::fromStdString(path).endsWith(extension, Qt::CaseInsensitive) ? path
                                                                                  : path + ".tsw";
-}
-
-/// The name of the account, not that of the environment.
-std::string userName()
-{
-#ifdef Q_OS_UNIX
-    if (const passwd* const account = getpwuid(geteuid()))
-        return account->pw_name;
-#endif
-    return qEnvironmentVariable("USER", qEnvironmentVariable("USERNAME")).toStdString();
 }
 
 /// "Header of [PLOT1], Legend of [PLOT2]".

@@ -2,9 +2,8 @@
 #include "workspace/FileIdentities.h"
 
 #include "base/files/PathNames.h"
+#include "base/text/CaseFolding.h"
 
-#include <filesystem>
-#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -12,28 +11,28 @@ namespace tarsil {
 
 namespace {
 
-namespace fs = std::filesystem;
-
 std::string canonicalText(const std::string& path)
 {
-    std::error_code failed;
-    const fs::path real = fs::canonical(nativePath(path), failed);
-    return failed ? path : pathText(real);
+    const auto real = realPath(nativePath(path));
+    return real ? pathText(*real) : path;
 }
 
 /// Whether the last component of a path is a plain name in the folder before it.
 bool isPlainName(const std::string& path)
 {
     const std::string_view name = nameIn(path);
-    std::error_code unknown;
-    const fs::file_status status = fs::symlink_status(nativePath(path), unknown);
-    return !name.empty() && name != "." && name != ".." && fs::exists(status)
-        && !fs::is_symlink(status);
+    return !name.empty() && name != "." && name != ".." && isPlainEntry(nativePath(path));
 }
 
 } // namespace
 
 std::string FileIdentities::of(const std::string& file)
+{
+    std::string path = canonicalPath(file);
+    return hasWindowsPaths ? withoutCase(path) : path;
+}
+
+std::string FileIdentities::canonicalPath(const std::string& file)
 {
     const std::string folder(folderIn(file));
     if (folder.empty() || !isPlainName(file))

@@ -8,7 +8,7 @@
 namespace tarsil {
 
 /// Canonical paths of files, without links and "..", so that all paths to a file give the same
-/// text. Folders are cached.
+/// text; where the system ignores the case of names, so does the text. Folders are cached.
 class FileIdentities
 {
 public:
@@ -16,6 +16,7 @@ public:
     std::string of(const std::string& file);
 
 private:
+    std::string canonicalPath(const std::string& file);
     const std::string& ofFolder(const std::string& folder);
 
     std::unordered_map<std::string, std::string> m_folders;

@@ -31,7 +31,7 @@ FolderEntry entryOf(const fs::directory_entry& found, const std::unordered_set<s
     FolderEntry entry {pathText(found.path().filename())};
     const bool canBeNamed =
         entry.name.find('\\') == std::string::npos; // it is a separator in paths
-    entry.isFolder = canBeNamed && found.is_directory(unknown) && !found.is_symlink(unknown);
+    entry.isFolder = canBeNamed && found.is_directory(unknown) && isPlainEntry(found.path());
     entry.isWanted = canBeNamed && !entry.isFolder && names.contains(withoutCase(entry.name))
         && found.is_regular_file(unknown);
     return entry;

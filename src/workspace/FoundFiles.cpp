@@ -29,13 +29,14 @@ std::string folderOf(const std::string& workspacePath)
     return pathText(nativePath(joinPath(resolvePath(workspacePath).folder, "x")).parent_path());
 }
 
-/// Replaces repeated separators by one.
+/// Replaces repeated separators by one, but not those before the name of a computer.
 std::string plainText(std::string_view stored)
 {
     std::string text(stored);
     std::replace(text.begin(), text.end(), '\\', '/');
     const auto areSlashes = [](char a, char b) { return a == '/' && b == '/'; };
-    text.erase(std::unique(text.begin(), text.end(), areSlashes), text.end());
+    const std::ptrdiff_t first = hasWindowsPaths && text.starts_with("//") ? 1 : 0;
+    text.erase(std::unique(text.begin() + first, text.end(), areSlashes), text.end());
     return text;
 }
 
@@ -45,12 +46,13 @@ std::size_t rootLength(const std::string& path)
     return pathText(nativePath(path.substr(0, 3)).root_path()).size();
 }
 
-/// The spelling by which entries of one path are recognised. With drive letters case is ignored.
+/// The spelling by which entries of one path are recognised. Case is ignored with drive letters,
+/// and where the system ignores it.
 std::string keyOf(std::string_view stored)
 {
     const std::string path = plainText(stored);
     const bool hasDrive = path.size() > 1 && path[1] == ':';
-    return hasDrive ? withoutCase(path) : path;
+    return hasDrive || hasWindowsPaths ? withoutCase(path) : path;
 }
 
 /// The path of a stored path when the workspace is in `folder`.

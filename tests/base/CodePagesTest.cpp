@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "base/text/CodePages.h"
 
+#include "base/files/Sha256.h"
+#include "base/text/TextCodec.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -45,6 +48,21 @@ TEST(CodePages, readThePagesOfTheSystem)
         {1256, u"\u00E0"}, {1257, u"\u0105"}, {1258, u"\u00E0"}, {codepage::macRoman, u"\u2021"}};
     for (const auto& [page, character] : pages)
         EXPECT_EQ(decodeCodePage(page, "\xE0"), character) << page;
+}
+
+/// The digest is that of the tables of the GNU C library. Left out are 858, which not every system
+/// has, and pages in which a few characters differ between systems.
+TEST(CodePages, giveTheSameCharactersOnEverySystem)
+{
+    CodePageDecoder decoder;
+    Sha256 digest;
+    for (const int page : {437, 737, 775, 850, 852, 855,  857,  860,  861,  862,  863,  865, 866,
+                           869, 874, 932, 936, 949, 1250, 1251, 1253, 1254, 1256, 1257, 1258}) {
+        for (int byte = 0; byte < 256; ++byte)
+            digest.add(
+                utf8FromUtf16(decoder.decode(page, std::string(1, static_cast<char>(byte)))));
+    }
+    EXPECT_EQ(digest.finish(), "02b758bb0ef78b0a9e6aebaf9a761884a7aaaf819cddaf918d8fdc82d9d75781");
 }
 
 TEST(CodePages, readPagesOfTwoBytesAndUtf8)

@@ -8,10 +8,10 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <filesystem>
 #include <string>
 #include <string_view>
-#include <sys/stat.h>
-#include <sys/time.h>
 
 using namespace tarsil;
 
@@ -60,9 +60,9 @@ TEST(FileFacts, areSizeTimeAndDigest)
     const test::TemporaryFolder folder;
     const std::string path = folder.write("a.ev2", "abc");
     const std::string large = folder.write("b.ev2", std::string(1000000, 'a'));
-    const timeval time {1000000000, 0}; // 2001-09-09 01:46:40 UTC
-    const timeval times[] = {time, time};
-    ASSERT_EQ(utimes(path.c_str(), times), 0);
+    const std::chrono::sys_seconds time {
+        std::chrono::seconds(1000000000)}; // 2001-09-09 01:46:40 UTC
+    std::filesystem::last_write_time(path, std::chrono::file_clock::from_sys(time));
     const FileFacts facts = factsOf(path);
     EXPECT_EQ(facts.size, 3U);
     EXPECT_EQ(facts.modified, "2001-09-09 01:46:40");

@@ -5,13 +5,32 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <filesystem>
+#include <string>
 
 namespace tarsil {
 
 namespace {
 
 using test::TemporaryFolder;
+
+/// The start of an absolute path.
+#ifdef _WIN32
+const std::string root = "C:";
+#else
+const std::string root;
+#endif
+
+/// A path as messages show it.
+std::string shown(std::string path)
+{
+#ifdef _WIN32
+    std::replace(path.begin(), path.end(), '/', '\\');
+#endif
+    return path;
+}
 
 TEST(PathNames, joinsWithABackslash)
 {
@@ -27,8 +46,8 @@ TEST(PathNames, acceptBothSeparators)
 
 TEST(PathNames, cutsAPathAtItsLastSeparator)
 {
-    const FilePath file = resolvePath("/data\\run 1/wing.evm");
-    EXPECT_EQ(file.folder, "/data/run 1");
+    const FilePath file = resolvePath(root + "/data\\run 1/wing.evm");
+    EXPECT_EQ(file.folder, root + "/data/run 1");
     EXPECT_EQ(file.name, "wing.evm");
 }
 
@@ -36,9 +55,10 @@ TEST(PathNames, makesAPathAbsoluteAndPlain)
 {
     const FilePath file = resolvePath("a/../wing.evm");
     EXPECT_EQ(file.folder, pathText(std::filesystem::current_path()));
-    EXPECT_EQ(resolvePath("/data/./x/../wing.evm").folder, "/data");
+    EXPECT_EQ(resolvePath(root + "/data/./x/../wing.evm").folder, root + "/data");
 }
 
+#ifndef _WIN32 // which steps up before it follows links
 TEST(PathNames, stepsUpFromWhereASymbolicLinkLeads)
 {
     const TemporaryFolder folder;
@@ -50,6 +70,7 @@ TEST(PathNames, stepsUpFromWhereASymbolicLinkLeads)
     EXPECT_EQ(resolvePath(folder.file("link") + "/a.evm").folder, folder.file("link"))
         << "otherwise the user's own name of the folder stays";
 }
+#endif
 
 TEST(PathNames, comesBackFromItsTwoPieces)
 {
@@ -61,18 +82,18 @@ TEST(PathNames, comesBackFromItsTwoPieces)
 
 TEST(PathNames, keepsNoSeparatorAtTheEndOfARootFolder)
 {
-    const FilePath file = resolvePath("/wing.evm");
-    EXPECT_EQ(file.folder, "");
-    EXPECT_EQ(nativePath(joinPath(file.folder, file.name)), "/wing.evm");
+    const FilePath file = resolvePath(root + "/wing.evm");
+    EXPECT_EQ(file.folder, root);
+    EXPECT_EQ(nativePath(joinPath(file.folder, file.name)), root + "/wing.evm");
 }
 
 TEST(PathNames, showsARelativePathFromTheRootOn)
 {
     const std::string here = std::filesystem::current_path().string();
-    EXPECT_EQ(wholePath("wing.evm"), here + "/wing.evm");
-    EXPECT_EQ(wholePath("runs\\wing.evm"), here + "/runs/wing.evm");
-    EXPECT_EQ(wholePath("/runs\\wing.evm"), "/runs/wing.evm");
-    EXPECT_EQ(wholePath("/wing.evm"), "/wing.evm");
+    EXPECT_EQ(wholePath("wing.evm"), shown(here + "/wing.evm"));
+    EXPECT_EQ(wholePath("runs\\wing.evm"), shown(here + "/runs/wing.evm"));
+    EXPECT_EQ(wholePath(root + "/runs\\wing.evm"), shown(root + "/runs/wing.evm"));
+    EXPECT_EQ(wholePath(root + "/wing.evm"), shown(root + "/wing.evm"));
 }
 
 TEST(PathNames, treatAFolderAsNoFile)
@@ -89,11 +110,13 @@ TEST(PathNames, distinguishFilesWhateverThePath)
     const TemporaryFolder folder;
     const std::string wing = folder.write("wing.evm", "x");
     const std::string copy = folder.write("copy.evm", "x");
-    std::filesystem::create_symlink(wing, folder.file("soft.evm"));
+    const bool hasLink = test::makeLink(wing, folder.file("soft.evm"));
     std::filesystem::create_hard_link(wing, folder.file("hard.evm"));
     const auto identity = fileIdentity(wing);
     ASSERT_TRUE(identity);
-    EXPECT_EQ(fileIdentity(folder.file("soft.evm")), identity);
+    if (hasLink) {
+        EXPECT_EQ(fileIdentity(folder.file("soft.evm")), identity);
+    }
     EXPECT_EQ(fileIdentity(folder.file("hard.evm")), identity);
     EXPECT_EQ(fileIdentity(folder.path().string() + "\\wing.evm"), identity);
     EXPECT_NE(fileIdentity(copy), identity);
@@ -111,7 +134,9 @@ TEST(PathNames, namesTheErrorOfAFailedFileOperation)
     EXPECT_EQ(numberOf(ENOTDIR, "x"), ErrorNumber::PathNotFound);
     EXPECT_EQ(numberOf(EACCES, "x"), ErrorNumber::PermissionDenied);
     EXPECT_EQ(numberOf(ENOSPC, "x"), ErrorNumber::DiskFull);
+#ifdef EDQUOT
     EXPECT_EQ(numberOf(EDQUOT, "x"), ErrorNumber::DiskFull);
+#endif
     EXPECT_EQ(numberOf(EIO, "x"), ErrorNumber::DeviceInputOutput);
     EXPECT_EQ(numberOf(EISDIR, "x"), ErrorNumber::PathFileAccess);
     EXPECT_EQ(fileError(EACCES, "Test", "x.evm").description(), "Permission denied: x.evm");

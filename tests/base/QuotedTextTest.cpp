@@ -27,7 +27,8 @@ TEST(QuotedText, isCutAfterSixtyBytes)
 
 TEST(QuotedText, isCutBetweenCharacters)
 {
-    const std::string text = std::string(59, 'a') + "\xE2\x80\x93 and more";
+    std::string text(59, 'a');
+    text += "\xE2\x80\x93 and more";
     EXPECT_EQ(quotedText(text), "\"" + std::string(59, 'a') + "...\"");
 }
 

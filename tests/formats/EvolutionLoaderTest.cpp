@@ -203,7 +203,8 @@ TEST_F(EvolutionLoader, knowsAFileByAPathThatStepsUp)
 TEST_F(EvolutionLoader, knowsAFileByASymbolicLinkAndNamesItAsItIsOpen)
 {
     const std::string wing = writeEvolution("wing.evm");
-    std::filesystem::create_symlink(wing, folder.path() / "link.evm");
+    if (!test::makeLink(wing, folder.path() / "link.evm"))
+        GTEST_SKIP() << "no symbolic links here";
     expectOneFile(wing, folder.file("link.evm"));
 }
 
@@ -217,7 +218,8 @@ TEST_F(EvolutionLoader, knowsAFileByAHardLink)
 TEST_F(EvolutionLoader, knowsALinkToAFileThatIsOpenFromBefore)
 {
     const std::string wing = writeEvolution("wing.evm");
-    std::filesystem::create_symlink(wing, folder.path() / "link.evm");
+    if (!test::makeLink(wing, folder.path() / "link.evm"))
+        GTEST_SKIP() << "no symbolic links here";
     load({wing});
     EXPECT_TRUE(load({folder.file("link.evm")}).empty());
     EXPECT_EQ(user.messages, std::vector<Message>({alreadyLoaded("wing.evm")}));
@@ -226,7 +228,8 @@ TEST_F(EvolutionLoader, knowsALinkToAFileThatIsOpenFromBefore)
 TEST_F(EvolutionLoader, knowsAFileInALinkedFolder)
 {
     const std::string wing = writeEvolution("wing.evm");
-    std::filesystem::create_directory_symlink(folder.path(), folder.path() / "here");
+    if (!test::makeLink(folder.path(), folder.path() / "here"))
+        GTEST_SKIP() << "no symbolic links here";
     expectOneFile(wing, folder.file("here/wing.evm"));
 }
 

@@ -20,7 +20,7 @@ public:
 
     const std::filesystem::path& path() const { return m_path; }
 
-    /// The path of a file of this name in the folder.
+    /// The path of a file of this name in the folder, with "/" as separator.
     std::string file(std::string_view name) const;
 
     /// Writes such a file and returns its path.
@@ -30,8 +30,12 @@ private:
     std::filesystem::path m_path;
 };
 
-/// All bytes of a file.
+/// Makes a symbolic link if the system permits it; returns whether it did.
+bool makeLink(const std::filesystem::path& target, const std::filesystem::path& link);
+
+/// All bytes of a file; the path as text is UTF-8.
 std::string fileBytes(const std::filesystem::path& path);
+std::string fileBytes(const std::string& path);
 
 /// The path of a file of the samples.
 std::string sample(std::string_view name);

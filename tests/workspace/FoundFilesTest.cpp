@@ -18,18 +18,15 @@ namespace {
 class FoundFiles : public ::testing::Test
 {
 protected:
-    /// The path at which a file is found, in native form.
-    std::string found(const std::string& stored) const
-    {
-        return shownPath(foundFiles({stored}, folder.file("case.tsw")).front());
-    }
+    /// The path at which a file is found, with "/" as separator.
+    std::string found(const std::string& stored) const { return foundAll({stored}).front(); }
 
     /// The paths of several files.
     std::vector<std::string> foundAll(const std::vector<std::string>& stored) const
     {
         std::vector<std::string> files = foundFiles(stored, folder.file("case.tsw"));
         for (std::string& file : files)
-            file = shownPath(file);
+            file = pathText(nativePath(file));
         return files;
     }
 
@@ -170,7 +167,8 @@ TEST_F(FoundFiles, areNotFilesThatTheWorkspaceListsItself)
 {
     const std::string wing = writeBelow("a", "wing.ev2");
     EXPECT_THAT(foundAll({"C:\\a\\wing.ev2", wing}), ElementsAre("C:/a/wing.ev2", wing));
-    std::filesystem::create_symlink(wing, folder.path() / "wing.ev2");
+    if (!test::makeLink(wing, folder.path() / "wing.ev2"))
+        return;
     EXPECT_THAT(foundAll({"C:\\a\\wing.ev2", wing}), ElementsAre("C:/a/wing.ev2", wing))
         << "a link leads to the same file";
 }
@@ -206,11 +204,13 @@ TEST_F(FoundFiles, areOneWherePathsOfADriveDifferInCase)
     EXPECT_THAT(foundAll({"C:\\m040\\wing.ev2", "C:\\M040\\WING.EV2"}), ElementsAre(wing, wing));
 }
 
+#ifndef _WIN32 // which ignores case in every path
 TEST_F(FoundFiles, areTwoWhereOtherPathsDifferInCase)
 {
     const std::string wing = folder.write("wing.ev2", "x");
     EXPECT_THAT(foundAll({"/a/WING.EV2", "/a/wing.ev2"}), ElementsAre("/a/WING.EV2", wing));
 }
+#endif
 
 TEST_F(FoundFiles, areFoundInAVastFolderWithTheirStoredFolders)
 {

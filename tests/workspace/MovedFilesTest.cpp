@@ -5,6 +5,7 @@
 
 #include "workspace/FoundFiles.h"
 
+#include "base/files/AtomicFile.h"
 #include "base/files/PathNames.h"
 #include "base/text/CaseFolding.h"
 #include "support/TestFiles.h"
@@ -241,12 +242,13 @@ TEST(MovedFiles, ofDeepFoldersAreFound)
     std::string deep;
     for (int i = 0; i < 400; ++i)
         deep += i % 3 == 0 ? "a/" : "b/";
-    fs::create_directories(folder.path() / "ws" / deep);
+    fs::create_directories(nativePath(folder.file("ws/" + deep)));
     std::vector<std::string> stored;
     std::vector<std::string> expected;
     for (int i = 0; i < 20; ++i) {
         const std::string name = std::to_string(i) + ".ev2";
-        expected.push_back(folder.write("ws/" + deep + name, "x"));
+        expected.push_back(folder.file("ws/" + deep + name));
+        writeFile(expected.back(), "x");
         stored.push_back("/gone/" + deep + name);
     }
     EXPECT_EQ(foundFiles(stored, folder.file("ws/x.tsw")), expected);

@@ -2,14 +2,13 @@
 #include "base/files/AtomicFile.h"
 
 #include "base/files/FileRights.h"
+#include "base/files/FileTarget.h"
 #include "base/files/PathNames.h"
 
 #include <cerrno>
+#include <cstdio>
+#include <limits>
 #include <system_error>
-
-#if __has_include(<unistd.h>)
-#include <unistd.h>
-#endif
 
 namespace tarsil {
 
@@ -20,21 +19,6 @@ namespace fs = std::filesystem;
 [[noreturn]] void fail(int code, std::string_view path)
 {
     throw fileError(code, "AtomicFile", path);
-}
-
-/// The file that `path` leads to when it is a symbolic link. The file need not exist.
-fs::path targetOf(std::string_view path)
-{
-    constexpr int mostLinks = 40; // the limit of the system
-    std::error_code failed;
-    fs::path target = nativePath(path);
-    for (int links = 0; fs::is_symlink(fs::symlink_status(target, failed)); ++links) {
-        const fs::path next = fs::read_symlink(target, failed);
-        if (failed || links == mostLinks)
-            fail(failed ? failed.value() : ELOOP, path);
-        target = target.parent_path() / next;
-    }
-    return target;
 }
 
 /// Refuses a target that the rename would silently replace: a folder, a device, or a file that
@@ -48,7 +32,7 @@ bool checkTarget(std::string_view path)
     if (status.type() == fs::file_type::not_found)
         return false;
     if (!fs::status_known(status))
-        fail(failed.value(), path);
+        fail(failed.default_error_condition().value(), path);
     if (fs::is_directory(status))
         fail(EISDIR, path);
     if (!fs::is_regular_file(status)) // a device or a pipe would be replaced instead of written to
@@ -57,10 +41,7 @@ bool checkTarget(std::string_view path)
         fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
     if ((status.permissions() & anyWrite) == fs::perms::none)
         fail(EACCES, path);
-#if __has_include(<unistd.h>)
-    if (::access(target.c_str(), W_OK) != 0)
-        fail(errno, path);
-#endif
+    requireWritable(target, path);
     return true;
 }
 
@@ -75,7 +56,7 @@ bool checkTarget(std::string_view path)
         fail(code, path);
     const fs::path folder = target.parent_path();
     throw RunTimeError(ErrorNumber::PermissionDenied, "AtomicFile",
-                       file + " (the folder " + (folder.empty() ? "." : folder.string())
+                       file + " (the folder " + (folder.empty() ? "." : systemText(folder))
                            + " may not be written)");
 }
 
@@ -102,7 +83,8 @@ void AtomicFile::write(std::string_view bytes)
 void AtomicFile::patch(std::size_t offset, std::string_view bytes)
 {
     errno = 0;
-    failUnless(std::fseek(m_temporary.stream(), static_cast<long>(offset), SEEK_SET) == 0);
+    failUnless(offset <= std::numeric_limits<long>::max()
+               && std::fseek(m_temporary.stream(), static_cast<long>(offset), SEEK_SET) == 0);
     write(bytes);
     failUnless(std::fseek(m_temporary.stream(), 0, SEEK_END) == 0);
 }
@@ -115,7 +97,7 @@ void AtomicFile::commit()
         copyRights(m_target, m_temporary.stream());
     failWith(m_temporary.flush());
     failWith(m_temporary.close());
-    const int code = m_temporary.renameTo(m_target);
+    const int code = m_temporary.replaceTarget();
     if (code == EACCES || code == EROFS)
         failInFolder(code, m_target, m_path);
     failWith(code);

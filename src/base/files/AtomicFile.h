@@ -13,9 +13,10 @@ namespace tarsil {
 /// Writes a file whole or not at all. The bytes go to a temporary file in the same folder; `commit`
 /// renames it to `path`. Without `commit`, or after an error, the old file is unchanged. The new
 /// file gets the rights of the old one (`copyRights`); before the rename only its owner can read
-/// it. A symbolic link is followed, even when the file it leads to does not exist yet. The errors
-/// of every operation name `path`: 61 disk full, 70 not permitted (also a read-only file), 75
-/// `path` is a folder, device or pipe, 76 folder missing, 57 input/output error.
+/// it. A symbolic link is followed, even when the file it leads to does not exist yet (on Windows
+/// that is error 53). The errors of every operation name `path`: 61 disk full, 70 not permitted
+/// (also a read-only file, and on Windows one that another program has open), 75 `path` is a
+/// folder, device or pipe, 76 folder missing, 57 input/output error.
 class AtomicFile
 {
 public:

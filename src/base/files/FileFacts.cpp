@@ -2,28 +2,27 @@
 #include "base/files/FileFacts.h"
 
 #include "base/files/InputFile.h"
-#include "base/files/PathNames.h"
 #include "base/files/Sha256.h"
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <ctime>
-#include <sys/stat.h>
 #include <vector>
 
 namespace tarsil {
 
 namespace {
 
-std::string timeOf(std::string_view path)
+/// Empty for a time that the system cannot convert.
+std::string timeText(std::time_t time)
 {
-    struct stat status
-    { };
-    if (stat(nativePath(path).c_str(), &status) != 0)
-        throw fileError(errno, "FileFacts", path);
     std::tm parts {};
-    gmtime_r(&status.st_mtime, &parts);
+#ifdef _WIN32
+    if (gmtime_s(&parts, &time) != 0)
+        return {};
+#else
+    gmtime_r(&time, &parts);
+#endif
     std::array<char, 32> text {};
     const std::size_t length = std::strftime(text.data(), text.size(), "%Y-%m-%d %H:%M:%S", &parts);
     return {text.data(), length};
@@ -37,7 +36,7 @@ FileFacts factsOf(std::string_view path)
     FileFacts facts;
     InputFile file(path);
     facts.size = file.bytesLeft();
-    facts.modified = timeOf(path);
+    facts.modified = timeText(file.modified());
     Sha256 digest;
     std::vector<char> piece(pieceSize);
     while (file.bytesLeft() > 0) {

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "base/files/OpenFile.h"
+
 #include <cstddef>
+#include <ctime>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -17,9 +20,6 @@ public:
     /// `path` is in stored or native form. Errors: 53 missing, 76 folder missing, 70 not readable,
     /// 75 not a regular file, 57 input/output error.
     explicit InputFile(std::string_view path);
-    ~InputFile();
-    InputFile(const InputFile&) = delete;
-    InputFile& operator=(const InputFile&) = delete;
 
     /// The number of bytes that have not been read yet.
     std::size_t bytesLeft() const { return m_bytesLeft; }
@@ -33,16 +33,18 @@ public:
     void peek(std::size_t offset, char* to, std::size_t count) const;
 
     /// Raises error 75 when another program has changed the file since it was opened: the bytes
-    /// read may be a mix of two versions.
+    /// read may be a mix of two versions. On Windows a change that keeps the size is seen once the
+    /// other program has closed the file.
     void requireUnchanged() const;
 
-private:
-    class Source;
+    /// The time of the last modification before the file was opened.
+    std::time_t modified() const { return m_file.version().seconds; }
 
+private:
     [[noreturn]] void failAsChanged() const;
 
     std::string m_path;
-    std::unique_ptr<Source> m_source; ///< the platform's file
+    OpenFile m_file;
     std::size_t m_position = 0;
     std::size_t m_bytesLeft = 0;
 };

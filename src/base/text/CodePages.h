@@ -23,6 +23,8 @@ char16_t windows1252Character(unsigned char byte);
 /// The Windows-1252 byte of a character; empty when the code page lacks the character.
 std::optional<unsigned char> windows1252Byte(char32_t character);
 
+class CodePageConverter;
+
 /// Converts bytes of many code pages to UTF-16. The table of a page is opened on first use and
 /// stays open while the decoder exists. Not shared: each reader has its own decoder.
 class CodePageDecoder
@@ -38,12 +40,10 @@ public:
     std::u16string decode(int codePage, std::string_view bytes);
 
 private:
-    class Converter;
-
     /// The converter of a page, opened on first use; null for an unknown page.
-    Converter* converter(int codePage);
+    CodePageConverter* converter(int codePage);
 
-    std::unordered_map<int, std::unique_ptr<Converter>> m_converters;
+    std::unordered_map<int, std::unique_ptr<CodePageConverter>> m_converters;
 };
 
 } // namespace tarsil

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "base/files/FileRights.h"
 
-#if __has_include(<sys/acl.h>)
 #include <acl/libacl.h>
 #include <sys/acl.h>
 #include <sys/stat.h>
@@ -10,11 +9,8 @@
 #include <cerrno>
 #include <memory>
 #include <type_traits>
-#endif
 
 namespace tarsil {
-
-#if __has_include(<sys/acl.h>)
 
 namespace {
 
@@ -116,11 +112,5 @@ void copyRights(const std::filesystem::path& target, std::FILE* file)
     if (!list || !give(list, handle)) // the meaning of the group bits is unknown
         static_cast<void>(::fchmod(handle, old.st_mode & S_IRWXU));
 }
-
-#else
-
-void copyRights(const std::filesystem::path& /*target*/, std::FILE* /*file*/) { }
-
-#endif
 
 } // namespace tarsil
