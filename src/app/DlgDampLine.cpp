@@ -6,6 +6,7 @@
 #include "base/numbers/NumberFormat.h"
 #include "base/numbers/Numbers.h"
 #include "base/user/ErrorGuard.h"
+#include "base/user/TypedNumber.h"
 #include "plotwindow/NumberInput.h"
 #include "vgfplot/EvmPlot.h"
 
@@ -65,7 +66,7 @@ void dlgDampLine::sdampInp_Change()
         return;
     const std::optional<double> damping = input.numberIfAny();
     if (!damping)
-        return askForNumber();
+        return askForNumber(userInterface());
     guarded(userInterface(), moduleName, [this, damping] {
         m_ui->captionInp->setText(QString::fromStdString("g = " + percentText(*damping) + " %"));
     });
@@ -90,7 +91,7 @@ void dlgDampLine::sdampInp_LostFocus()
         return;
     m_isLeft = false;
     m_ui->sdampInp->setFocus();
-    askForNumber();
+    askForNumber(userInterface());
 }
 
 void dlgDampLine::sdampBtn_Click()

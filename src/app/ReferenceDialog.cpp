@@ -2,7 +2,6 @@
 #include "app/ReferenceDialog.h"
 
 #include "base/user/ErrorGuard.h"
-#include "base/user/RunTimeError.h"
 #include "base/user/UserInterface.h"
 #include "document/Document.h"
 #include "plotwindow/NumberInput.h"
@@ -22,34 +21,22 @@ void ReferenceDialog::done(int result)
     QDialog::done(result);
 }
 
-void ReferenceDialog::addNumber(QLineEdit& input, const QString& name, std::string_view module,
+void ReferenceDialog::addNumber(QLineEdit& input, const QString& step, std::string_view module,
                                 const std::function<void(EvmPlot&, float)>& add)
 {
     m_userInterface.beginCommand();
     guarded(m_userInterface, module, [&] {
-        const NumberInput number(input, module, "Value");
-        float value = 0;
-        try {
-            value = number.single();
-        } catch (const RunTimeError& error) {
-            number.goTo(); // after a click on the button no field has the focus
-            if (error.number() == ErrorNumber::TypeMismatch)
-                return askForNumber();
-            throw;
-        }
+        const auto value = NumberInput(input, module, "Value").typedSingle(m_userInterface);
+        if (!value)
+            return;
         EvmPlot* const plot = m_document.plots().active();
         if (plot == nullptr)
             m_userInterface.showMessage("Please select activate a plot.", "Tarsil",
                                         MessageIcon::Exclamation);
         else
-            add(*plot, value);
+            add(*plot, *value);
     });
-    m_document.history().note(name);
-}
-
-void ReferenceDialog::askForNumber()
-{
-    m_userInterface.showMessage("Please enter a numeric value.", "Tarsil", MessageIcon::None);
+    m_document.history().note(step);
 }
 
 /// Enter presses the default button, but adds only once while it is held down.

@@ -36,7 +36,6 @@ protected:
     void addNumber(QLineEdit& input, const QString& step, std::string_view module,
                    const std::function<void(EvmPlot&, float)>& add);
 
-    void askForNumber();
     UserInterface& userInterface() { return m_userInterface; }
 
     void keyPressEvent(QKeyEvent* event) override;

@@ -329,12 +329,8 @@ bool SeriesGridModel::setText(const QModelIndex& cell, const QString& text)
 bool SeriesGridModel::setModeText(const QModelIndex& cell, const QString& text)
 {
     try {
-        const std::string typed = text.toStdString();
-        std::int16_t number = 0;
-        const NumberStatus status = parseInteger16(typed, number);
-        if (status != NumberStatus::Ok)
-            throwNumberError(status, typed, "wndData",
-                             "Mode of row " + std::to_string(cell.row() + 1));
+        const std::int16_t number = toInteger16(text.toStdString(), "wndData",
+                                                "Mode of row " + std::to_string(cell.row() + 1));
         m_history.change(tr("Mode"), [&] { m_plot->rows().setMode(row(cell.row())->id, number); });
         return true;
     } catch (const RunTimeError& error) {

@@ -2,7 +2,7 @@
 
 // Editing of the labels of the explorer's tree.
 
-#include "base/numbers/Numbers.h"
+#include "base/user/TypedNumber.h"
 #include "base/user/UserInterface.h"
 #include "document/Document.h"
 #include "explorer/ExplorerNode.h"
@@ -81,7 +81,8 @@ void wndEvolExplorer::changeParameter(EVM& evolution, EvolutionValue value, cons
         parameters.mass = text.toStdString();
         break;
     case EvolutionValue::Mach: {
-        const std::optional<float> mach = machOf(text);
+        const std::optional<float> mach =
+            typedSingle(text.toStdString(), "wndEvolExplorer", "Mach No.", m_user);
         if (!mach)
             return;
         parameters.mach = *mach;
@@ -92,21 +93,6 @@ void wndEvolExplorer::changeParameter(EVM& evolution, EvolutionValue value, cons
     }
     m_document.evolutions().setParameters(evolution, parameters);
     m_document.history().note(tr("Edit Parameters"));
-}
-
-/// The number of a text; empty, after a message, when it is not a number. Error 6 "Overflow"
-/// outside the range of a single.
-std::optional<float> wndEvolExplorer::machOf(const QString& text)
-{
-    const std::string number = text.toStdString();
-    float mach = 0;
-    const NumberStatus status = parseSingle(number, mach);
-    if (status == NumberStatus::Overflow)
-        throwNumberError(status, number, "wndEvolExplorer", "Mach No.");
-    if (status == NumberStatus::Ok)
-        return mach;
-    m_user.showMessage("Please enter a numeric value.", "Tarsil", MessageIcon::None);
-    return std::nullopt;
 }
 
 } // namespace tarsil

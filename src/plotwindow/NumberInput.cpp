@@ -3,6 +3,7 @@
 
 #include "base/numbers/Numbers.h"
 #include "base/user/RunTimeError.h"
+#include "base/user/TypedNumber.h"
 
 #include <QLineEdit>
 
@@ -44,6 +45,14 @@ float NumberInput::single() const
     return toSingle(text(), m_module, m_name);
 }
 
+std::optional<float> NumberInput::typedSingle(UserInterface& user) const
+{
+    float value = 0;
+    if (parseSingle(text(), value) != NumberStatus::Ok)
+        goTo();
+    return tarsil::typedSingle(text(), m_module, m_name, user);
+}
+
 std::optional<double> NumberInput::numberIfAny() const
 {
     double value = 0;
@@ -67,11 +76,7 @@ std::int16_t NumberInput::integer16() const
 std::int16_t NumberInput::integer16Before(const QString& separator) const
 {
     const std::string text = m_input.text().section(separator, 0, 0).toStdString();
-    std::int16_t value = 0;
-    const NumberStatus status = parseInteger16(text, value);
-    if (status != NumberStatus::Ok)
-        throwNumberError(status, text, m_module, m_name);
-    return value;
+    return toInteger16(text, m_module, m_name);
 }
 
 std::int32_t NumberInput::count(std::int32_t most) const

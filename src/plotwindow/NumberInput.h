@@ -13,6 +13,8 @@ class QLineEdit;
 
 namespace tarsil {
 
+class UserInterface;
+
 /// The number in an input field. Errors 13 "Type mismatch" and 6 "Overflow" name the field and its
 /// text.
 class NumberInput
@@ -27,6 +29,10 @@ public:
 
     double number() const;
     float single() const;
+
+    /// The single. When the text is not a number: empty, after the message that a number is needed.
+    /// When there is a message or an error the field gets the focus as by `goTo`.
+    std::optional<float> typedSingle(UserInterface& user) const;
 
     /// The number; empty unless the text is a number in the range of a double.
     std::optional<double> numberIfAny() const;

@@ -50,11 +50,7 @@ ValueFields::ValueFields(std::string_view value, std::size_t least, std::string 
 
 std::int16_t ValueFields::integer16(std::size_t index, std::string_view content) const
 {
-    std::int16_t value = 0;
-    const NumberStatus status = parseInteger16(text(index), value);
-    if (status != NumberStatus::Ok)
-        throwNumberError(status, text(index), workspaceModule, where(index, content));
-    return value;
+    return toInteger16(text(index), workspaceModule, where(index, content));
 }
 
 std::int32_t ValueFields::integer32(std::size_t index, std::string_view content) const

@@ -160,6 +160,8 @@ TEST(Numbers, raisesErrorsThatSayWhereAndWhat)
     EXPECT_EQ(error->source(), "EVM");
     EXPECT_EQ(error->description(), "Type mismatch: wing.evm, line 5: \"****\"");
     EXPECT_EQ(errorTextOf([] { toDouble("1e999", "EVM", ""); }), "6 Overflow: \"1e999\"");
+    EXPECT_EQ(errorTextOf([] { toInteger16("40000", "EVM", "row 2"); }),
+              "6 Overflow: row 2: \"40000\"");
 }
 
 TEST(Numbers, cutsLongTextsInMessages)

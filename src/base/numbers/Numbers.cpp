@@ -187,6 +187,18 @@ template <typename Number>
     return sign + digits.insert(static_cast<std::size_t>(point), 1, '.');
 }
 
+/// The number in a text; raises the error of a status other than Ok.
+template <typename Number>
+Number converted(NumberStatus (*parse)(std::string_view, Number&), std::string_view text,
+                 std::string_view source, std::string_view where)
+{
+    Number value = 0;
+    const NumberStatus status = parse(text, value);
+    if (status != NumberStatus::Ok)
+        throwNumberError(status, text, source, where);
+    return value;
+}
+
 } // namespace
 
 NumberStatus parseSingle(std::string_view text, float& value)
@@ -246,20 +258,17 @@ void throwNumberError(NumberStatus status, std::string_view text, std::string_vi
 
 float toSingle(std::string_view text, std::string_view source, std::string_view where)
 {
-    float value = 0;
-    const NumberStatus status = parseSingle(text, value);
-    if (status != NumberStatus::Ok)
-        throwNumberError(status, text, source, where);
-    return value;
+    return converted(parseSingle, text, source, where);
 }
 
 double toDouble(std::string_view text, std::string_view source, std::string_view where)
 {
-    double value = 0;
-    const NumberStatus status = parseDouble(text, value);
-    if (status != NumberStatus::Ok)
-        throwNumberError(status, text, source, where);
-    return value;
+    return converted(parseDouble, text, source, where);
+}
+
+std::int16_t toInteger16(std::string_view text, std::string_view source, std::string_view where)
+{
+    return converted(parseInteger16, text, source, where);
 }
 
 std::int16_t roundToInteger16(double value, std::string_view source, std::string_view where)

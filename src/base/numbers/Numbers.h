@@ -28,6 +28,7 @@ NumberStatus parseInteger16(std::string_view text, std::int16_t& value);
 /// contains `where` and the text. `source` is the source of the error.
 float toSingle(std::string_view text, std::string_view source, std::string_view where);
 double toDouble(std::string_view text, std::string_view source, std::string_view where);
+std::int16_t toInteger16(std::string_view text, std::string_view source, std::string_view where);
 
 /// Raises the error of a status other than Ok. The description contains `where` and the text.
 [[noreturn]] void throwNumberError(NumberStatus status, std::string_view text,
