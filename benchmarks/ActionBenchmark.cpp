@@ -5,9 +5,9 @@
 
 #include "GeneratedFiles.h"
 #include "RatioTable.h"
-#include "SilentUser.h"
 #include "app/WndMain.h"
 #include "document/Document.h"
+#include "support/SilentUser.h"
 
 #include <QAbstractItemView>
 #include <QAction>
@@ -35,7 +35,7 @@ constexpr int speedCount = 40;
 constexpr int removedCount = 900;
 
 /// A user who is told that not all evolutions are drawn.
-class InformedUser : public SilentUser
+class InformedUser : public test::SilentUser
 {
 public:
     void showMessage(const std::string& /*text*/, const std::string& /*title*/,

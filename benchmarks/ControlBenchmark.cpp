@@ -3,7 +3,7 @@
 // The cost of a click in the Data Control window with 500 rows, relative to drawing the plot alone.
 
 #include "RatioTable.h"
-#include "SilentUser.h"
+#include "StrictUser.h"
 #include "datacontrol/SeriesGridModel.h"
 #include "datacontrol/SeriesGridView.h"
 #include "datacontrol/WndData.h"
@@ -21,7 +21,7 @@
 namespace {
 
 using namespace tarsil;
-using benchmarks::SilentUser;
+using benchmarks::StrictUser;
 
 constexpr int rowCount = 500;
 constexpr int modeCount = 50;
@@ -59,7 +59,7 @@ int main(int argc, char** argv)
     EVM evolution;
     fillEvolution(evolution);
     Document document;
-    SilentUser user;
+    StrictUser user;
     wndEvolPlot plots(document.plots(), user);
     plots.resize(640, 720);
     plots.ActivatePlot(plots.plots().front());

@@ -6,7 +6,7 @@
 
 #include "GeneratedFiles.h"
 #include "RatioTable.h"
-#include "SilentUser.h"
+#include "StrictUser.h"
 #include "app/WorkspaceCommands.h"
 #include "document/Document.h"
 #include "explorer/WndEvolExplorer.h"
@@ -69,7 +69,7 @@ void openAll(OwnedEvolutions& evolutions, const ManyFiles& many, std::size_t cou
 /// The time to open it, without releasing what was open before.
 double openingTime(const ManyFiles& many)
 {
-    SilentUser user;
+    StrictUser user;
     Document document;
     wndEvolPlot plots(document.plots(), user);
     wndEvolExplorer explorer(document, plots, user);
@@ -97,7 +97,7 @@ void measureOpening(const ManyFiles& many)
 /// The seconds for each of `count` nodes.
 double timePerNode(const ManyFiles& many, std::size_t count)
 {
-    SilentUser user;
+    StrictUser user;
     Document document;
     wndEvolPlot plots(document.plots(), user);
     const wndEvolExplorer explorer(document, plots, user);

@@ -6,7 +6,7 @@
 // usage: fault_window save|picture|mix|report|options|quit TARGET [FILE...]
 
 #include "app/WndMain.h"
-#include "base/user/UserInterface.h"
+#include "support/SilentUser.h"
 
 #include <QAction>
 #include <QApplication>
@@ -20,8 +20,9 @@ namespace {
 
 using namespace tarsil;
 
-/// Answers every question for a file with the target, and every other one with yes.
-class EagerUser : public UserInterface
+/// Answers a question for a file to save with the target and the others so that the command goes
+/// on.
+class EagerUser : public test::SilentUser
 {
 public:
     explicit EagerUser(std::string target) : m_target(std::move(target)) { }
@@ -47,24 +48,10 @@ public:
     {
         return "0";
     }
-    std::optional<std::size_t> askChoice(const std::string&, const std::string&,
-                                         const std::vector<std::string>&) override
-    {
-        return std::nullopt;
-    }
-    std::vector<std::string> askOpenFiles(const FileQuestion& /*question*/) override { return {}; }
     std::optional<std::string> askSaveFile(const FileQuestion& /*question*/) override
     {
         return m_target;
     }
-    std::optional<std::string> askFolder(const std::string& /*initial*/) override
-    {
-        return std::nullopt;
-    }
-    void showStatus(std::string_view /*text*/) override { }
-    void showNote(std::string_view /*text*/) override { }
-    void beginCommand() override { }
-    bool showProgress(std::size_t /*done*/, std::size_t /*total*/) override { return true; }
 
 private:
     std::string m_target;

@@ -3,21 +3,12 @@
 
 #include "base/user/UserInterface.h"
 
-#include <cstdlib>
-#include <iostream>
+namespace tarsil::test {
 
-namespace tarsil::benchmarks {
-
-/// A user who refuses everything; a message ends the benchmark.
+/// A user who refuses everything. The effect of a message is that of the derived class.
 class SilentUser : public UserInterface
 {
 public:
-    void showMessage(const std::string& text, const std::string& /*title*/,
-                     MessageIcon /*icon*/) override
-    {
-        std::cerr << text << '\n';
-        std::exit(EXIT_FAILURE);
-    }
     bool confirm(const std::string& /*question*/, const std::string& /*title*/) override
     {
         return false;
@@ -52,4 +43,4 @@ public:
     bool showProgress(std::size_t /*done*/, std::size_t /*total*/) override { return true; }
 };
 
-} // namespace tarsil::benchmarks
+} // namespace tarsil::test
