@@ -2,12 +2,7 @@
 
 // Every control of every window and dialog has a name that a screen reader can say.
 
-#include "app/WndGuide.h"
-#include "app/WndMainFixture.h"
-#include "datacontrol/DlgSeriesStyle.h"
-#include "explorer/WndSelModes.h"
-#include "plotwindow/DlgPlotProp.h"
-#include "vgfplot/EvmPlot.h"
+#include "app/EveryWindow.h"
 
 #include <QAccessible>
 #include <QDialog>
@@ -19,7 +14,6 @@
 #include <set>
 
 using namespace tarsil;
-using test::sample;
 using ::testing::ElementsAre;
 
 namespace {
@@ -84,39 +78,15 @@ std::vector<std::string> namelessIn(QWidget& window)
     return nameless;
 }
 
-class AccessibleNames : public test::WndMainTest
-{
-protected:
-    void SetUp() override { load({sample("goland.tsw")}); }
-
-    /// The dialogs that a command has opened.
-    void expectNamesAfter(const char* command)
-    {
-        choose(command);
-        bool isOpen = false;
-        for (auto* const dialog : window.findChildren<QDialog*>()) {
-            if (!dialog->isVisible())
-                continue;
-            isOpen = true;
-            EXPECT_THAT(namelessIn(*dialog), ElementsAre()) << command;
-            dialog->close();
-        }
-        EXPECT_TRUE(isOpen) << command;
-    }
-
-    void expectNamesIn(QDialog& dialog)
-    {
-        dialog.show();
-        QApplication::processEvents();
-        EXPECT_THAT(namelessIn(dialog), ElementsAre());
-    }
-};
+using AccessibleNames = test::EveryWindow;
 
 } // namespace
 
-TEST_F(AccessibleNames, areInTheMainWindow)
+TEST_F(AccessibleNames, areInEveryWindow)
 {
-    EXPECT_THAT(namelessIn(window), ElementsAre());
+    visit([](QWidget& shown) {
+        EXPECT_THAT(namelessIn(shown), ElementsAre()) << shown.metaObject()->className();
+    });
 }
 
 TEST_F(AccessibleNames, areInTheMenus)
@@ -127,28 +97,6 @@ TEST_F(AccessibleNames, areInTheMenus)
         for (const QAction* action : entry->menu()->actions())
             EXPECT_FALSE(action->isSeparator() ? false : action->text().isEmpty());
     }
-}
-
-TEST_F(AccessibleNames, areInTheDialogsOfTheMenus)
-{
-    for (const char* command : {"mnuAddRef", "mnuAddDamp", "mnuOptions", "stability", "showGuide"})
-        expectNamesAfter(command);
-}
-
-TEST_F(AccessibleNames, areInTheDialogOfTheImport)
-{
-    user.openFiles = {{sample("goland_clean.f06")}};
-    expectNamesAfter("ImportMenu");
-}
-
-TEST_F(AccessibleNames, areInTheDialogsOfPlotAndRows)
-{
-    dlgPlotProp axes(plot(), user, &window);
-    expectNamesIn(axes);
-    wndSelModes modes(window.explorer(), window.evolPlot(), user, &window);
-    expectNamesIn(modes);
-    dlgSeriesStyle line(LineLook {}, &window);
-    expectNamesIn(line);
 }
 
 TEST(AccessibleNamesCheck, findsAControlWithoutName)
