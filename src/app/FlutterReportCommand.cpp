@@ -125,7 +125,7 @@ QString FlutterReportCommand::write(const Sheet& table, const Sheet& stability,
                                     const QString& folder) const
 {
     QDir().mkpath(folder);
-    const QString path = freeName(folder);
+    QString path = freeName(folder);
     writeSheets(std::array {&table, &stability}, path.toStdString());
     return path;
 }

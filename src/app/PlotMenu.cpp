@@ -18,6 +18,15 @@ QString shownCaption(const EvmPlot& plot)
     return caption.replace(u'&', QStringLiteral("&&"));
 }
 
+void addEntry(QMenu& menu, QActionGroup& group, PlotList& plots, EvmPlot& plot)
+{
+    QAction* const entry = menu.addAction(shownCaption(plot));
+    entry->setCheckable(true);
+    entry->setChecked(&plot == plots.active());
+    entry->setActionGroup(&group);
+    QObject::connect(entry, &QAction::triggered, &plot, [&plots, &plot] { plots.activate(&plot); });
+}
+
 } // namespace
 
 void listPlots(QMenu& menu, PlotList& plots)
@@ -26,14 +35,8 @@ void listPlots(QMenu& menu, PlotList& plots)
     const auto fill = [&menu, &plots, group] {
         qDeleteAll(group->actions());
         menu.addSeparator()->setActionGroup(group);
-        for (EvmPlot* const plot : plots.all()) {
-            QAction* const entry = menu.addAction(shownCaption(*plot));
-            entry->setCheckable(true);
-            entry->setChecked(plot == plots.active());
-            entry->setActionGroup(group);
-            QObject::connect(entry, &QAction::triggered, plot,
-                             [&plots, plot] { plots.activate(plot); });
-        }
+        for (EvmPlot* const plot : plots.all())
+            addEntry(menu, *group, plots, *plot);
     };
     QObject::connect(&menu, &QMenu::aboutToShow, group, fill);
 }

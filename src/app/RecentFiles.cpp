@@ -90,6 +90,7 @@ void RecentFiles::add(const RememberedList& list, const std::vector<std::string>
 {
     const QString today = QDate::currentDate().toString(Qt::ISODate);
     std::vector<RememberedPair> pairs;
+    pairs.reserve(paths.size());
     for (const std::string& path : paths)
         pairs.push_back({QString::fromStdString(wholePath(path)), today});
     m_store.rememberQuietly(list, pairs);

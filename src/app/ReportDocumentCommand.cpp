@@ -36,8 +36,9 @@ std::string withReportExtension(const std::string& path)
     const QString name = QString::fromStdString(path);
     const bool hasOne = std::any_of(
         reportExtensions.begin(), reportExtensions.end(), [&name](std::string_view extension) {
-            return name.endsWith(QString::fromUtf8(extension.data(), qsizetype(extension.size())),
-                                 Qt::CaseInsensitive);
+            return name.endsWith(
+                QString::fromUtf8(extension.data(), static_cast<qsizetype>(extension.size())),
+                Qt::CaseInsensitive);
         });
     return hasOne ? path : path + ".pdf";
 }

@@ -24,6 +24,7 @@ constexpr const char* allPicturesTitle = "Save All Pics";
 std::optional<PictureFormat> askFormat(UserInterface& user)
 {
     std::vector<std::string> formats;
+    formats.reserve(pictureTraits.size());
     for (const PictureTraits& traits : pictureTraits)
         formats.push_back(std::string(traits.name) + " (" + std::string(traits.extension) + ")");
     const std::optional<std::size_t> index =
@@ -46,6 +47,7 @@ std::vector<std::string> picturePathsOf(const std::vector<EvmPlot*>& plots,
                                         const std::string& folder, PictureFormat format)
 {
     std::vector<std::string> captions;
+    captions.reserve(plots.size());
     for (const EvmPlot* const plot : plots)
         captions.push_back(plot->properties().Caption().toStdString());
     std::vector<std::string> paths = pictureFileNames(captions, format);

@@ -11,6 +11,6 @@ class UserInterface;
 /// Asks for a format and a folder, which is `folder` at first, and writes the picture of every plot
 /// there, named by its caption. Asks once before files are replaced. Does nothing when the user
 /// cancels. Nothing is written if a plot cannot be drawn or a file cannot be written.
-void saveAllPictures(const PlotList& plots, const std::string& folder, UserInterface& user);
+void saveAllPictures(const PlotList& list, const std::string& folder, UserInterface& user);
 
 } // namespace tarsil

@@ -17,7 +17,7 @@ QString sharedFile(const SharedFolder& folder, const QString& name)
     const QString built = QStringLiteral("../../../%1/%2");
     for (const QString& path : {installed.arg(QLatin1StringView(folder.installed), name),
                                 built.arg(QLatin1StringView(folder.source), name)}) {
-        const QString whole = QDir::cleanPath(programs.absoluteFilePath(path));
+        QString whole = QDir::cleanPath(programs.absoluteFilePath(path));
         if (QFileInfo(whole).isFile())
             return whole;
     }

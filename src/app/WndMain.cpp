@@ -191,18 +191,19 @@ void wndMain::connectExplorer()
 void wndMain::connectRecentFiles()
 {
     m_recent = new RecentFiles(m_document, m_memory, this);
-    const auto runs = [this](auto action) {
-        return [this, action](const std::string& path) {
-            commitEdits();
-            m_userInterface.beginCommand();
-            guarded(m_userInterface, "wndMain", [&] { action(path); });
-            m_recent->followWorkspace();
-        };
-    };
     connect(m_recent, &RecentFiles::workspaceChosen, this,
-            runs([this](const std::string& path) { openWorkspace(path); }));
+            [this](const std::string& path) { runRecent([&] { openWorkspace(path); }); });
     connect(m_recent, &RecentFiles::evolutionChosen, this,
-            runs([this](const std::string& path) { open({path}); }));
+            [this](const std::string& path) { runRecent([&] { open({path}); }); });
+}
+
+/// Opens a recent file.
+void wndMain::runRecent(const std::function<void()>& opens)
+{
+    commitEdits();
+    m_userInterface.beginCommand();
+    guarded(m_userInterface, "wndMain", opens);
+    m_recent->followWorkspace();
 }
 
 /// Keeps the notes about the speed axis and misplaced reference speeds up to date. A plot signals a

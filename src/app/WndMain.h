@@ -100,12 +100,19 @@ private:
     {
         const char* name;
         const char* caption;
-        const char* twin;
-        const char* twinCaption;
         std::vector<Command> commands;
+        const char* twin = nullptr;
+        const char* twinCaption = nullptr;
     };
 
     static std::vector<CommandMenu> commandTable();
+    static CommandMenu fileMenu();
+    static CommandMenu viewMenu();
+    static CommandMenu formatMenu();
+    static CommandMenu toolsMenu();
+    static CommandMenu windowMenu();
+    static CommandMenu editMenu();
+    static CommandMenu helpMenu();
 
     void makeChildWindows();
     void connectExplorer();
@@ -115,6 +122,7 @@ private:
     void addRecentFiles();
     void addHideActions();
     void connectRecentFiles();
+    void runRecent(const std::function<void()>& opens);
     void closeDialogs();
     void addCommand(QMenu& menu, const Command& command, const char* name);
     void run(const QString& name, Handler handler);

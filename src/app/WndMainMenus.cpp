@@ -37,70 +37,90 @@ QString withoutMnemonic(QString text)
 
 std::vector<wndMain::CommandMenu> wndMain::commandTable()
 {
+    return {fileMenu(),   viewMenu(), formatMenu(), toolsMenu(),
+            windowMenu(), editMenu(), helpMenu()};
+}
+
+wndMain::CommandMenu wndMain::fileMenu()
+{
     return {
-        {"FileMenu",
-         "&File",
-         nullptr,
-         nullptr,
-         {{"mnuNewWorkspace", nullptr, "&New Workspace", &wndMain::mnuNewWorkspace_Click, "Ctrl+N"},
-          {"OpenMenu", nullptr, "&Open Workspace ...", &wndMain::OpenMenu_Click, "Ctrl+O"},
-          {"mnuSaveWorkspace", nullptr, "&Save Worspace", &wndMain::mnuSaveWorkspace_Click,
-           "Ctrl+S"},
-          {"AddMenu", nullptr, "&Add Modal Evolution ...", &wndMain::AddMenu_Click, "Ctrl+Shift+O"},
-          {"ImportMenu", nullptr, "&Import Solver Results ...", &wndMain::ImportMenu_Click},
-          {"ExportMenu", nullptr, "&Export Mix File ...", &wndMain::ExportMenu_Click},
-          {"writeDocument", nullptr, "&Write Report ...", &wndMain::writeDocument},
-          {"printPlots", nullptr, "&Print Plots ...", &wndMain::showPrint, "Ctrl+P"},
-          {"savePictures", nullptr, "Save All Pics ...", &wndMain::savePictures},
-          {"QuitMenu", nullptr, "Quit", &wndMain::QuitMenu_Click, "Ctrl+Q"}}},
-        {"mnuView",
-         "&View",
-         nullptr,
-         nullptr,
-         {{"mnuDataControl", nullptr, "Data Control", &wndMain::mnuDataControl_Click},
-          {"mnuModalEvolExplorer", nullptr, "Modal Evolution Explorer",
-           &wndMain::mnuModalEvolExplorer_Click},
-          {"mnuVgfPlot", nullptr, "V-g-f Plot", &wndMain::mnuVgfPlot_Click}}},
-        {"mnuFormat",
-         "&Format",
-         "popFormat",
-         "Format",
-         {{"mnuSetScale", "popSetScale", "Set Scale", &wndMain::mnuSetScale_Click},
-          {"breakCurves", "popBreakCurves", "Break Curves at Jumps", &wndMain::breakCurves}}},
-        {"mnuTools",
-         "&Tools",
-         "popTools",
-         "Tools",
-         {{"mnuAddRef", "popAddRef", "Add Reference Speed ...", &wndMain::mnuAddRef_Click},
-          {"mnuClearRef", "popClearRef", "Clear Reference Speeds", &wndMain::mnuClearRef_Click},
-          {"mnuAddDamp", "popAddDamp", "Add Damping Line ...", &wndMain::mnuAddDamp_Click},
-          {"mnuClearDamp", "popClearDamp", "Clear Damping Lines", &wndMain::mnuClearDamp_Click},
-          {"mnuFlutCalc", "popFlutCalc", "Calculate Flutter Speeds", &wndMain::mnuFlutCalc_Click},
-          {"stability", "popStability", "Stability ...", &wndMain::showStability},
-          {"flutterTrend", nullptr, "Flutter Trend ...", &wndMain::showTrend},
-          {"mnuOptions", nullptr, "Options ...", &wndMain::mnuOptions_Click}}},
-        {"WindowsMenu",
-         "&Window",
-         nullptr,
-         nullptr,
-         {{"mnuDefLayout", nullptr, "Defalut Layout", &wndMain::mnuDefLayout_Click},
-          {"TileVertMenu", nullptr, "Tile Vertically", &wndMain::TileVertMenu_Click},
-          {"TileHorizMenu", nullptr, "Tile Horizontally", &wndMain::TileHorizMenu_Click}}},
-        {"EditMenu",
-         "&Edit",
-         nullptr,
-         nullptr,
-         {{"mnuUndo", nullptr, "&Undo", &wndMain::mnuUndo_Click, "Ctrl+Z"},
-          {"mnuRedo", nullptr, "&Redo", &wndMain::mnuRedo_Click, "Ctrl+Shift+Z"}}},
-        {"HelpMenu",
-         "&Help",
-         nullptr,
-         nullptr,
-         {{"showGuide", nullptr, "&Guide", &wndMain::showGuide},
-          {"help", nullptr, "&Keys", &wndMain::showHelp, "F1"},
-          {"openSamples", nullptr, "Open &Samples", &wndMain::openSamples},
-          {"about", nullptr, "&About Tarsil", &wndMain::showAbout}}},
-    };
+        "FileMenu",
+        "&File",
+        {{"mnuNewWorkspace", nullptr, "&New Workspace", &wndMain::mnuNewWorkspace_Click, "Ctrl+N"},
+         {"OpenMenu", nullptr, "&Open Workspace ...", &wndMain::OpenMenu_Click, "Ctrl+O"},
+         {"mnuSaveWorkspace", nullptr, "&Save Worspace", &wndMain::mnuSaveWorkspace_Click,
+          "Ctrl+S"},
+         {"AddMenu", nullptr, "&Add Modal Evolution ...", &wndMain::AddMenu_Click, "Ctrl+Shift+O"},
+         {"ImportMenu", nullptr, "&Import Solver Results ...", &wndMain::ImportMenu_Click},
+         {"ExportMenu", nullptr, "&Export Mix File ...", &wndMain::ExportMenu_Click},
+         {"writeDocument", nullptr, "&Write Report ...", &wndMain::writeDocument},
+         {"printPlots", nullptr, "&Print Plots ...", &wndMain::showPrint, "Ctrl+P"},
+         {"savePictures", nullptr, "Save All Pics ...", &wndMain::savePictures},
+         {"QuitMenu", nullptr, "Quit", &wndMain::QuitMenu_Click, "Ctrl+Q"}}};
+}
+
+wndMain::CommandMenu wndMain::viewMenu()
+{
+    return {"mnuView",
+            "&View",
+            {{"mnuDataControl", nullptr, "Data Control", &wndMain::mnuDataControl_Click},
+             {"mnuModalEvolExplorer", nullptr, "Modal Evolution Explorer",
+              &wndMain::mnuModalEvolExplorer_Click},
+             {"mnuVgfPlot", nullptr, "V-g-f Plot", &wndMain::mnuVgfPlot_Click}}};
+}
+
+wndMain::CommandMenu wndMain::formatMenu()
+{
+    return {"mnuFormat",
+            "&Format",
+            {{"mnuSetScale", "popSetScale", "Set Scale", &wndMain::mnuSetScale_Click},
+             {"breakCurves", "popBreakCurves", "Break Curves at Jumps", &wndMain::breakCurves}},
+            "popFormat",
+            "Format"};
+}
+
+wndMain::CommandMenu wndMain::toolsMenu()
+{
+    return {
+        "mnuTools",
+        "&Tools",
+        {{"mnuAddRef", "popAddRef", "Add Reference Speed ...", &wndMain::mnuAddRef_Click},
+         {"mnuClearRef", "popClearRef", "Clear Reference Speeds", &wndMain::mnuClearRef_Click},
+         {"mnuAddDamp", "popAddDamp", "Add Damping Line ...", &wndMain::mnuAddDamp_Click},
+         {"mnuClearDamp", "popClearDamp", "Clear Damping Lines", &wndMain::mnuClearDamp_Click},
+         {"mnuFlutCalc", "popFlutCalc", "Calculate Flutter Speeds", &wndMain::mnuFlutCalc_Click},
+         {"stability", "popStability", "Stability ...", &wndMain::showStability},
+         {"flutterTrend", nullptr, "Flutter Trend ...", &wndMain::showTrend},
+         {"mnuOptions", nullptr, "Options ...", &wndMain::mnuOptions_Click}},
+        "popTools",
+        "Tools"};
+}
+
+wndMain::CommandMenu wndMain::windowMenu()
+{
+    return {"WindowsMenu",
+            "&Window",
+            {{"mnuDefLayout", nullptr, "Defalut Layout", &wndMain::mnuDefLayout_Click},
+             {"TileVertMenu", nullptr, "Tile Vertically", &wndMain::TileVertMenu_Click},
+             {"TileHorizMenu", nullptr, "Tile Horizontally", &wndMain::TileHorizMenu_Click}}};
+}
+
+wndMain::CommandMenu wndMain::editMenu()
+{
+    return {"EditMenu",
+            "&Edit",
+            {{"mnuUndo", nullptr, "&Undo", &wndMain::mnuUndo_Click, "Ctrl+Z"},
+             {"mnuRedo", nullptr, "&Redo", &wndMain::mnuRedo_Click, "Ctrl+Shift+Z"}}};
+}
+
+wndMain::CommandMenu wndMain::helpMenu()
+{
+    return {"HelpMenu",
+            "&Help",
+            {{"showGuide", nullptr, "&Guide", &wndMain::showGuide},
+             {"help", nullptr, "&Keys", &wndMain::showHelp, "F1"},
+             {"openSamples", nullptr, "Open &Samples", &wndMain::openSamples},
+             {"about", nullptr, "&About Tarsil", &wndMain::showAbout}}};
 }
 
 void wndMain::makeMenuBar()

@@ -23,7 +23,7 @@ UsageError notANumber(std::string_view text, std::string_view option)
 /// "--mach M", "--require[=FACTOR]" or "--json".
 std::string nameWithValue(const OptionDescription& option)
 {
-    const std::string name(option.name);
+    std::string name(option.name);
     if (option.value.empty())
         return name;
     const std::string value(option.value);

@@ -79,6 +79,7 @@ std::vector<std::string> outputsOf(const std::vector<PlotRecord>& plots,
     if (!options.folderFormat)
         return numberedOutputs(options.output, plots.size());
     std::vector<std::string> captions;
+    captions.reserve(plots.size());
     for (const PlotRecord& plot : plots)
         captions.push_back(plot.caption);
     std::vector<std::string> outputs = pictureFileNames(captions, *options.folderFormat);

@@ -102,7 +102,7 @@ void leaveOutFaults(PlotRecord& plot, const std::string& path, WorkspaceInput& i
     const NamedSeries named = namedSeries(plot, input.evolutions);
     for (const std::string& fault : named.faultTexts(plot)) {
         input.isWhole = false;
-        run.complain(path + ": " + fault);
+        run.complain(std::string(path).append(": ").append(fault));
     }
     std::vector<SeriesRecord> present;
     for (const auto& [series, mode] : named.present)

@@ -103,6 +103,7 @@ private:
     static std::vector<Button> buttonTable();
 
     void makeToolbar();
+    void addButton(const Button& button);
     void makeTree();
     void followDocument();
     void run(const std::function<void()>& action);
@@ -121,7 +122,6 @@ private:
     void rename(QTreeWidgetItem& node, const QString& text);
     void renamePlot(EvmPlot& plot, const QString& text);
     void changeParameter(EVM& evolution, EvolutionValue value, const QString& text);
-    std::optional<float> machOf(const QString& text);
     void forget(const std::vector<EVM*>& evolutions);
     void showReference(EVM* before, EVM* now);
     void showWarnings(EVM& evolution, const QString& warnings);

@@ -39,18 +39,23 @@ void wndEvolExplorer::makeToolbar()
     m_toolBar->setAccessibleName(QStringLiteral("Workspace"));
     m_toolBar->setIconSize({20, 20});
     for (const Button& button : buttonTable()) {
-        const QString key = QString::fromLatin1(button.key);
-        const QString toolTip = QString::fromLatin1(button.toolTip);
-        QAction* const action = m_toolBar->addAction(m_images.image(key), toolTip);
-        action->setObjectName(key);
-        action->setToolTip(toolTip);
-        connect(action, &QAction::triggered, this, [this, toolTip, handler = button.handler] {
-            runCommand([this, handler] { (this->*handler)(); });
-            m_document.history().note(toolTip);
-        });
+        addButton(button);
         if (button.endsGroup)
             m_toolBar->addSeparator();
     }
+}
+
+void wndEvolExplorer::addButton(const Button& button)
+{
+    const QString key = QString::fromLatin1(button.key);
+    const QString toolTip = QString::fromLatin1(button.toolTip);
+    QAction* const action = m_toolBar->addAction(m_images.image(key), toolTip);
+    action->setObjectName(key);
+    action->setToolTip(toolTip);
+    connect(action, &QAction::triggered, this, [this, toolTip, handler = button.handler] {
+        runCommand([this, handler] { (this->*handler)(); });
+        m_document.history().note(toolTip);
+    });
 }
 
 void wndEvolExplorer::showKeyOfSave(const QKeySequence& key)

@@ -304,12 +304,7 @@ void dlgImport::btnImport_Click()
         const std::vector<std::string> existing = existingFiles();
         if (!existing.empty() && !mayReplace(existing))
             return;
-        const solver::WrittenFiles written = [this] {
-            const BusyStatus status(m_user, writing);
-            return m_plan.write([this](std::size_t done, std::size_t total) {
-                return m_user.showProgress(done, total);
-            });
-        }();
+        const solver::WrittenFiles written = write();
         if (!written.failures.empty())
             m_user.showMessage(shortList(written.failures, mostReports), "Error",
                                MessageIcon::Critical);
@@ -323,6 +318,14 @@ void dlgImport::btnImport_Click()
         else
             m_document.history().clear(); // its steps may hold curves that are in no file any more
     });
+}
+
+/// Writes the planned files while the busy status is shown.
+solver::WrittenFiles dlgImport::write()
+{
+    const BusyStatus status(m_user, writing);
+    return m_plan.write(
+        [this](std::size_t done, std::size_t total) { return m_user.showProgress(done, total); });
 }
 
 std::vector<std::string> dlgImport::existingFiles() const

@@ -82,6 +82,7 @@ private:
 
     std::vector<std::string> existingFiles() const;
     bool mayReplace(const std::vector<std::string>& existing) const;
+    solver::WrittenFiles write();
     void load(const solver::WrittenFiles& files);
 
     std::unique_ptr<Ui::dlgImport> m_ui;

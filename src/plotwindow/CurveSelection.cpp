@@ -130,16 +130,16 @@ bool CurveSelection::moveAlong(int points)
     return true;
 }
 
-bool CurveSelection::moveToCurve(int count)
+bool CurveSelection::moveToCurve(int rows)
 {
     if (!hasCursor())
         return placeCursor();
     const double speed = modeOf(m_cursor->row)->Points[m_cursor->point].speed;
-    const Rows rows = rowsWithPoints();
-    const auto present = std::find(rows.begin(), rows.end(), m_cursor->row);
-    const auto last = static_cast<int>(rows.size()) - 1;
-    const int index = std::clamp(static_cast<int>(present - rows.begin()) + count, 0, last);
-    const RowId row = rows[static_cast<std::size_t>(index)];
+    const Rows all = rowsWithPoints();
+    const auto present = std::find(all.begin(), all.end(), m_cursor->row);
+    const auto last = static_cast<int>(all.size()) - 1;
+    const int index = std::clamp(static_cast<int>(present - all.begin()) + rows, 0, last);
+    const RowId row = all[static_cast<std::size_t>(index)];
     m_cursor = Cursor {row, nearestPoint(row, speed)};
     m_rows = {row};
     return true;

@@ -112,7 +112,7 @@ private:
     void paintSelection(QPainter& painter) const;
     void showBoxMenu(TextBox box, QPoint position);
     void paintBand(QPainter& painter) const;
-    void startEditing(TextBox box);
+    void startEditing(TextBox which);
     void editAxis(PlotZone axis, QPoint position);
     void openEditor(InPlaceEditor& editor, QRect area, std::function<QString()> apply);
     void commitEditor();

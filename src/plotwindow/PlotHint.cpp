@@ -10,6 +10,7 @@ namespace tarsil {
 namespace {
 
 constexpr int padding = 12;
+constexpr double cornerRadius = 6;
 
 // Pictures are white in every desktop theme.
 const QColor textColor(70, 70, 70);
@@ -29,8 +30,8 @@ void paintHint(const QString& text, const EvmPlot& plot, QPainter& painter)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(frameColor);
     painter.setBrush(Qt::white);
-    painter.drawRoundedRect(needed.adjusted(-padding, -padding, padding, padding), padding / 2,
-                            padding / 2);
+    painter.drawRoundedRect(needed.adjusted(-padding, -padding, padding, padding), cornerRadius,
+                            cornerRadius);
     painter.setPen(textColor);
     painter.drawText(space, alignment, text);
     painter.restore();

@@ -9,6 +9,8 @@
 #include <QKeyEvent>
 #include <QStyleHints>
 
+#include <algorithm>
+
 namespace tarsil {
 
 namespace {
@@ -35,11 +37,11 @@ std::optional<QPoint> stepOf(const QKeyEvent& key)
 
 std::optional<TextBox> TextBoxMover::boxAt(QPoint position) const
 {
-    for (auto box = allTextBoxes.rbegin(); box != allTextBoxes.rend(); ++box) {
-        if (m_plot.parts().box(*box).geometry().contains(position))
-            return *box;
-    }
-    return std::nullopt;
+    const auto box =
+        std::find_if(allTextBoxes.rbegin(), allTextBoxes.rend(), [&](TextBox candidate) {
+            return m_plot.parts().box(candidate).geometry().contains(position);
+        });
+    return box == allTextBoxes.rend() ? std::nullopt : std::optional(*box);
 }
 
 void TextBoxMover::select(std::optional<TextBox> box)

@@ -40,7 +40,8 @@ public:
 private:
     void drawPage(std::size_t page);
     void drawPlot(const EvmPlot& plot, const PrintedCell& cell);
-    void drawText(const QRectF& area, Qt::Alignment alignment, const QString& text, QFont font);
+    void drawText(const QRectF& area, Qt::Alignment alignment, const QString& text,
+                  const QFont& font);
     void drawLine(const QRectF& edge, double y);
     QRectF pixels(const QRectF& area) const
     {
@@ -72,7 +73,7 @@ PagePainter::PagePainter(const PrintJob& job, QPagedPaintDevice& device)
 
 /// A text that is too long is cut in its middle.
 void PagePainter::drawText(const QRectF& area, Qt::Alignment alignment, const QString& text,
-                           QFont font)
+                           const QFont& font)
 {
     const QRectF box = pixels(area);
     m_painter.setFont(font);

@@ -59,6 +59,15 @@ void addCellText(OdtXml& xml, double points, const QString& color, bool isBold, 
     xml.end();
 }
 
+/// The styles of the cells of one size and color.
+void addCellTexts(OdtXml& xml, double points, const QString& color)
+{
+    for (const bool isBold : {false, true}) {
+        addCellText(xml, points, color, isBold, false);
+        addCellText(xml, points, color, isBold, true);
+    }
+}
+
 void addCell(OdtXml& xml, const QString& fill)
 {
     xml.begin("style:style",
@@ -237,12 +246,8 @@ void addContentStyles(OdtXml& xml)
         addPageHeading(xml, level, true, false);
     }
     for (const double points : tableFontSizes) {
-        for (const QString& color : rowColors) {
-            for (const bool isBold : {false, true}) {
-                addCellText(xml, points, color, isBold, false);
-                addCellText(xml, points, color, isBold, true);
-            }
-        }
+        for (const QString& color : rowColors)
+            addCellTexts(xml, points, color);
     }
     xml.begin("style:style",
               {{"style:name", rowStyle}, {"style:family", QStringLiteral("table-row")}});

@@ -79,6 +79,7 @@ std::vector<double> limitedWidths(const std::vector<ColumnRange>& ranges,
                                   const std::vector<std::size_t>& columns, double limit)
 {
     std::vector<double> widths;
+    widths.reserve(columns.size());
     for (const std::size_t column : columns)
         widths.push_back(std::clamp(limit, ranges[column - 1].least, ranges[column - 1].natural));
     return widths;
