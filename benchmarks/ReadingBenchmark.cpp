@@ -17,9 +17,11 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
+#include <bit>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <filesystem>
 #include <iostream>
 #include <limits>
@@ -76,11 +78,16 @@ std::unique_ptr<EVM> readEvolution(const std::string& path, Layout layout)
     return evolution;
 }
 
+bool sameBits(float a, float b)
+{
+    return std::bit_cast<std::uint32_t>(a) == std::bit_cast<std::uint32_t>(b);
+}
+
 bool sameValues(const Point& a, const Point& b)
 {
-    const float left[] = {a.kfreq, a.re, a.im, a.speed, a.G, a.f};
-    const float right[] = {b.kfreq, b.re, b.im, b.speed, b.G, b.f};
-    return std::memcmp(left, right, sizeof left) == 0
+    const std::array left {a.kfreq, a.re, a.im, a.speed, a.G, a.f};
+    const std::array right {b.kfreq, b.re, b.im, b.speed, b.G, b.f};
+    return std::equal(left.begin(), left.end(), right.begin(), sameBits)
         && std::equal(a.mpf.begin(), a.mpf.end(), b.mpf.begin(), b.mpf.end());
 }
 

@@ -86,6 +86,17 @@ void writeTables(const fs::path& path)
     }
 }
 
+void addNumbers(const char* field, const char* end, std::vector<double>& values)
+{
+    for (int i = 0; i < numbersOfRow; ++i) {
+        while (*field == ' ')
+            ++field;
+        double value = 0;
+        field = std::from_chars(field, end, value).ptr;
+        values.push_back(value);
+    }
+}
+
 /// Reads seven numbers from each line that begins with eight blanks.
 std::size_t readWithFromChars(const fs::path& path)
 {
@@ -99,16 +110,8 @@ std::size_t readWithFromChars(const fs::path& path)
         const char* lineEnd = static_cast<const char*>(
             std::memchr(position, '\n', static_cast<std::size_t>(end - position)));
         lineEnd = lineEnd == nullptr ? end : lineEnd;
-        if (lineEnd - position > 100 && std::memcmp(position, "        0.", 10) == 0) {
-            const char* field = position;
-            for (int i = 0; i < numbersOfRow; ++i) {
-                while (*field == ' ')
-                    ++field;
-                double value = 0;
-                field = std::from_chars(field, lineEnd, value).ptr;
-                values.push_back(value);
-            }
-        }
+        if (lineEnd - position > 100 && std::memcmp(position, "        0.", 10) == 0)
+            addNumbers(position, lineEnd, values);
         position = lineEnd + 1;
     }
     ::munmap(memory, size);

@@ -60,6 +60,7 @@ std::unique_ptr<EVM> makeEvolution(int seed, double rise)
 std::vector<std::unique_ptr<EVM>> makeEvolutions(double rise)
 {
     std::vector<std::unique_ptr<EVM>> evolutions;
+    evolutions.reserve(evolutionCount);
     for (int i = 0; i < evolutionCount; ++i)
         evolutions.push_back(makeEvolution(i, rise));
     return evolutions;

@@ -68,7 +68,7 @@ void requireRecords(const QByteArray& metafile)
 } // namespace
 
 /// Fontconfig keeps its data until the process ends, which is not a leak of this program.
-extern "C" const char* __lsan_default_suppressions() // NOLINT(bugprone-reserved-identifier)
+extern "C" const char* __lsan_default_suppressions() // NOLINT(clang-diagnostic-reserved-identifier)
 {
     return "leak:libfontconfig";
 }

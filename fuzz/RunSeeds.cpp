@@ -21,7 +21,7 @@
 // to the working folder as NAME-input.
 
 /// A function of the sanitizers, null without them.
-extern "C" void __sanitizer_set_death_callback( // NOLINT(bugprone-reserved-identifier)
+extern "C" void __sanitizer_set_death_callback( // NOLINT(clang-diagnostic-reserved-identifier)
     void (*callback)()) __attribute__((weak));
 
 namespace {

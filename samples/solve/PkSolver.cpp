@@ -112,7 +112,7 @@ PkSolver::Root PkSolver::convergedRoot(double speed, const Root& last, Complex e
         const auto closer = [&](const Root& left, const Root& right) {
             return distance(left) < distance(right);
         };
-        const Root best = *std::min_element(roots.begin(), roots.end(), closer);
+        Root best = *std::min_element(roots.begin(), roots.end(), closer);
         const double next = reducedFrequencyOf(best.p, speed, m_semiChord);
         if (std::abs(next - k) <= 1.0e-9 * std::max(k, 1.0)) {
             return best;

@@ -65,6 +65,20 @@ void writeCase(const FlutterCase& flutterCase, const FlutterCurves& curves,
     report(flutterCase, curves);
 }
 
+void writeCases(const std::filesystem::path& folder)
+{
+    std::filesystem::create_directories(folder);
+    std::vector<SolvedCase> printed;
+    for (const FlutterCase& flutterCase : sampleCases()) {
+        const FlutterCurves curves = solveCase(flutterCase);
+        writeCase(flutterCase, curves, folder);
+        if (flutterCase.configuration.store.mass == 0) {
+            printed.push_back({flutterCase, curves});
+        }
+    }
+    writeFile(folder / "goland_clean.f06", summaryText(printed));
+}
+
 } // namespace
 
 int main(int argumentCount, char* arguments[])
@@ -74,16 +88,7 @@ int main(int argumentCount, char* arguments[])
         return 2;
     }
     try {
-        std::filesystem::create_directories(arguments[1]);
-        std::vector<SolvedCase> printed;
-        for (const FlutterCase& flutterCase : sampleCases()) {
-            const FlutterCurves curves = solveCase(flutterCase);
-            writeCase(flutterCase, curves, arguments[1]);
-            if (flutterCase.configuration.store.mass == 0) {
-                printed.push_back({flutterCase, curves});
-            }
-        }
-        writeFile(std::filesystem::path(arguments[1]) / "goland_clean.f06", summaryText(printed));
+        writeCases(arguments[1]);
     } catch (const std::exception& error) {
         std::cerr << "goland-solve: " << error.what() << '\n';
         return 1;
