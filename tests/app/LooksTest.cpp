@@ -63,7 +63,9 @@ protected:
         QApplication::setPalette(GetParam() ? darkDesktop() : lightDesktop());
         makeHintsReadable();
     }
-    ~WithDesktop() { QApplication::setPalette(QPalette()); }
+
+public:
+    ~WithDesktop() override { QApplication::setPalette(QPalette()); }
 };
 
 /// Text that a person reads, and its ground.

@@ -46,7 +46,7 @@ protected:
         user.attach(&window, &panels);
         window.show();
     }
-    ~QtUserInterfaceTest() override { panels.setParent(nullptr); }
+    void TearDown() override { panels.setParent(nullptr); }
 
     /// Runs an action on the dialog that opens next.
     template <typename Dialog, typename Action>

@@ -38,9 +38,9 @@ class SessionRoundTripTest : public test::WndMainTest
 protected:
     void openEvolutions();
     void makeSession(unsigned seed);
-    void fill(EvmPlot& plot);
-    void addSeries(EvmPlot& plot);
-    void addMarks(EvmPlot& plot);
+    void fill(EvmPlot& one);
+    void addSeries(EvmPlot& one);
+    void addMarks(EvmPlot& one);
     void editEvolutions();
     std::vector<std::pair<EditableParam, bool>> evolutions();
     RichText richText();

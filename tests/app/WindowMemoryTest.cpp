@@ -72,7 +72,7 @@ TEST_F(WindowMemory, keepsTheSharesOfTheWindowsWhenTheMainWindowIsResized)
     EXPECT_EQ(frame("wndEvolExplorer").geometry(),
               QRect(0, 0, inner().width(), inner().height() / 2));
     const QRect plot = frame("wndEvolPlot").geometry();
-    EXPECT_NEAR(plot.left(), inner().width() / 2, 1);
+    EXPECT_NEAR(plot.left(), inner().width() / 2.0, 1);
     EXPECT_EQ(plot.right() + 1, inner().width());
     EXPECT_EQ(plot.height(), inner().height());
 }

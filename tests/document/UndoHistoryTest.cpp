@@ -103,6 +103,33 @@ protected:
     UndoHistory& history = document.history();
 };
 
+/// What the document was after each step.
+class StateList
+{
+public:
+    explicit StateList(Snapshot first) { m_states.push_back(std::move(first)); }
+
+    /// The present state, and the number of steps that lead to it.
+    const Snapshot& now() const { return m_states[m_now]; }
+    int index() const { return static_cast<int>(m_now); }
+
+    void undo() { m_now -= m_now > 0 ? 1 : 0; }
+    void redo() { m_now += m_now + 1 < m_states.size() ? 1 : 0; }
+
+    /// Replaces the states that could be redone. A state like the present one is no step.
+    void add(Snapshot state)
+    {
+        if (state == now())
+            return;
+        m_states.resize(++m_now);
+        m_states.push_back(std::move(state));
+    }
+
+private:
+    std::vector<Snapshot> m_states;
+    std::size_t m_now = 0;
+};
+
 /// A user who runs random commands.
 class RandomUser
 {
@@ -240,6 +267,18 @@ private:
     Document& m_document;
     std::mt19937 m_random;
 };
+
+/// Whether a random change raises an error; one that `fails` does so after its changes.
+bool changeRaisesError(Document& document, RandomUser& user, bool fails)
+{
+    const auto change = [&] {
+        user.change();
+        if (fails)
+            throw RunTimeError(ErrorNumber::Overflow, "test", "on purpose");
+    };
+    return errorNumberOf([&] { document.history().change(QStringLiteral("any"), change); })
+        .has_value();
+}
 
 } // namespace
 
@@ -424,34 +463,23 @@ TEST_F(UndoHistoryTest, isExactUnderAnyChanges)
     for (const unsigned seed : {1U, 20261122U}) {
         history.clear();
         RandomUser user(document, seed);
-        std::vector<Snapshot> states {snapshot()};
-        std::size_t now = 0; // index of the present state
+        StateList states(snapshot());
         for (int i = 0; i < 5000; ++i) {
             const std::size_t action = user.below(6);
             if (action == 0) {
                 history.undo();
-                now -= now > 0 ? 1 : 0;
+                states.undo();
             } else if (action == 1) {
                 history.redo();
-                now += now + 1 < states.size() ? 1 : 0;
+                states.redo();
             } else {
                 const bool fails = action == 2;
-                const auto error = errorNumberOf([&] {
-                    history.change(QStringLiteral("any"), [&] {
-                        user.change();
-                        if (fails)
-                            throw RunTimeError(ErrorNumber::Overflow, "test", "on purpose");
-                    });
-                });
-                ASSERT_EQ(error.has_value(), fails) << seed << " " << i;
-                if (!fails && snapshot() != states[now]) {
-                    states.resize(now + 1);
-                    states.push_back(snapshot());
-                    now = states.size() - 1;
-                }
+                ASSERT_EQ(changeRaisesError(document, user, fails), fails) << seed << " " << i;
+                if (!fails)
+                    states.add(snapshot());
             }
-            ASSERT_EQ(snapshot(), states[now]) << seed << " " << i;
-            ASSERT_EQ(static_cast<std::size_t>(history.steps().index()), now) << seed << " " << i;
+            ASSERT_EQ(snapshot(), states.now()) << seed << " " << i;
+            ASSERT_EQ(history.steps().index(), states.index()) << seed << " " << i;
         }
     }
 }

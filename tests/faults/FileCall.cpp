@@ -59,7 +59,7 @@ std::string descriptorPath(pid_t process, unsigned long long descriptor)
 
 std::string pathAt(pid_t process, unsigned long long folder, unsigned long long address)
 {
-    const std::string text = textAt(process, address);
+    std::string text = textAt(process, address);
     if (text.starts_with('/'))
         return text;
     const std::string base = descriptorPath(process, folder);

@@ -25,9 +25,10 @@ std::string largeEvolution()
     for (int mode = 1; mode <= modes; ++mode) {
         std::string number = std::to_string(mode);
         number.insert(0, 3 - number.size(), ' ');
+        const std::string line = number + "  0.500   10.000 1.00000E-02    5.000" + number
+            + "  0.500   20.000 2.00000E-02    6.000\n";
         for (int i = 0; i < points / 2; ++i)
-            text += number + "  0.500   10.000 1.00000E-02    5.000" + number
-                + "  0.500   20.000 2.00000E-02    6.000\n";
+            text += line;
     }
     return text;
 }
@@ -77,6 +78,30 @@ protected:
         return a.status == b.status && a.out == b.out && a.err == b.err;
     }
 
+    /// Reads the file once for each system call, truncated before this call.
+    void expectErrorsWhenCut(const RunResult& whole, std::size_t size) const
+    {
+        const std::string& bytes = GetParam().bytes;
+        const RunResult cut = read(bytes.substr(0, size), {});
+        const std::string path = folder.file("watched/" + GetParam().file);
+        const auto cutFile = [&path, size] { fs::resize_file(path, size); };
+        bool isMet = true;
+        int errors = 0;
+        for (std::size_t call = 1; isMet; ++call) {
+            const RunResult result = read(bytes, {FaultKind::Meddle, call, 0, cutFile});
+            SCOPED_TRACE("cut to " + std::to_string(size) + " bytes before call "
+                         + std::to_string(call) + ": " + result.metCall + "\n" + result.err);
+            isMet = !result.metCall.empty();
+            EXPECT_EQ(result.signal, 0);
+            if (areSame(result, whole) || areSame(result, cut))
+                continue;
+            ++errors;
+            EXPECT_EQ(result.status, 1);
+            EXPECT_NE(result.err.find("another program changed it"), std::string::npos);
+        }
+        EXPECT_GT(errors, 0) << "it was never cut between two calls of one reading";
+    }
+
     const TemporaryFolder folder;
     const FaultInjector injector;
 };
@@ -91,26 +116,8 @@ TEST_P(InputFaults, areErrorsLikeAnyOther)
     const std::string& bytes = GetParam().bytes;
     const RunResult whole = read(bytes, {});
     EXPECT_EQ(whole.status, 0) << whole.err;
-    for (const std::size_t size : {std::size_t {0}, bytes.size() / 2}) {
-        const RunResult cut = read(bytes.substr(0, size), {});
-        const std::string path = folder.file("watched/" + GetParam().file);
-        bool isMet = true;
-        int errors = 0;
-        for (std::size_t call = 1; isMet; ++call) {
-            const auto cutFile = [&path, size] { fs::resize_file(path, size); };
-            const RunResult result = read(bytes, {FaultKind::Meddle, call, 0, cutFile});
-            SCOPED_TRACE("cut to " + std::to_string(size) + " bytes before call "
-                         + std::to_string(call) + ": " + result.metCall + "\n" + result.err);
-            isMet = !result.metCall.empty();
-            EXPECT_EQ(result.signal, 0);
-            if (areSame(result, whole) || areSame(result, cut))
-                continue;
-            ++errors;
-            EXPECT_EQ(result.status, 1);
-            EXPECT_NE(result.err.find("another program changed it"), std::string::npos);
-        }
-        EXPECT_GT(errors, 0) << "it was never cut between two calls of one reading";
-    }
+    for (const std::size_t size : {std::size_t {0}, bytes.size() / 2})
+        expectErrorsWhenCut(whole, size);
 }
 
 INSTANTIATE_TEST_SUITE_P(Files, InputFaults, ::testing::ValuesIn(readings()),

@@ -99,7 +99,7 @@ TEST_F(ReportContents, haveTheWarningsAboutAFile)
 TEST_F(ReportContents, nameAnEvolutionThatIsNotOpen)
 {
     input.evolutions.push_back(nullptr);
-    input.record.files.push_back("C:\\flutter\\gone.ev2");
+    input.record.files.emplace_back("C:\\flutter\\gone.ev2");
     EXPECT_THAT(texts(), Contains("3  gone.ev2"));
     EXPECT_THAT(texts(), Contains(HasSubstr("could not be opened")));
 }

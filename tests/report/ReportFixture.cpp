@@ -30,6 +30,17 @@ PlotRecord wing()
     return plot;
 }
 
+void addCellTexts(const Sheet& table, std::vector<std::string>& texts)
+{
+    for (std::size_t row = 1; row <= table.rowCount(); ++row) {
+        for (std::size_t column = 1; column <= table.columnCount(); ++column) {
+            const QString text = cellText(table.cell(row, column));
+            if (!text.isEmpty())
+                texts.push_back(text.toStdString());
+        }
+    }
+}
+
 } // namespace
 
 ReportFixture::ReportFixture()
@@ -82,15 +93,8 @@ std::vector<std::string> textsOf(const ReportContent& content)
                 texts.push_back(picture->caption);
         }
     }
-    for (const Sheet* table : tablesOf(content)) {
-        for (std::size_t row = 1; row <= table->rowCount(); ++row) {
-            for (std::size_t column = 1; column <= table->columnCount(); ++column) {
-                const QString text = cellText(table->cell(row, column));
-                if (!text.isEmpty())
-                    texts.push_back(text.toStdString());
-            }
-        }
-    }
+    for (const Sheet* table : tablesOf(content))
+        addCellTexts(*table, texts);
     return texts;
 }
 

@@ -30,7 +30,7 @@ InkColor inkAt(const QImage& image, int column, int row)
 bool isSameHue(const InkColor& a, const InkColor& b)
 {
     const auto product = [](const InkColor& x, const InkColor& y) {
-        return double(x.red) * y.red + double(x.green) * y.green + double(x.blue) * y.blue;
+        return static_cast<double>(x.red * y.red + x.green * y.green + x.blue * y.blue);
     };
     return product(a, b) > 0.8 * std::sqrt(product(a, a) * product(b, b));
 }
@@ -81,7 +81,7 @@ double inkShare(const QImage& image, const QRect& area, const QImage& other, int
             found += hasInkNear(other, {column, row}, distance, ink) ? 1 : 0;
         }
     }
-    return inked == 0 ? 0 : double(found) / inked;
+    return inked == 0 ? 0 : static_cast<double>(found) / inked;
 }
 
 void expectSameInk(const QImage& a, const QImage& b, int distance, double share)
