@@ -45,7 +45,6 @@ protected:
     {
         std::vector<std::string> names;
         const auto& tree = partOf<QTreeWidget>(*dialog(), "treAnalyses");
-        names.reserve(static_cast<std::size_t>(tree.topLevelItemCount()));
         for (int i = 0; i < tree.topLevelItemCount(); ++i)
             names.push_back(tree.topLevelItem(i)->text(0).toStdString());
         return names;

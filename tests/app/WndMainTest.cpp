@@ -155,11 +155,9 @@ TEST_F(WndMainTest, startsWithTheFirstPlotActive)
 
 TEST_F(WndMainTest, reportsThatAPlotAcceptsNoMoreCurves)
 {
-    constexpr int count = 80; // of seven modes each
     std::vector<std::string> many;
-    many.reserve(count);
     const std::string text = test::fileBytes(sample("goland_clean_m040.ev2"));
-    for (int i = 0; i < count; ++i)
+    for (int i = 0; i < 80; ++i) // of seven modes each
         many.push_back(folder.write("many" + std::to_string(i) + ".ev2", text));
     load(many);
     EXPECT_EQ(window.document().evolutions().all().size(), 80U);

@@ -37,7 +37,7 @@ protected:
     }
 
     RowId id(std::size_t row) { return plot().rows().at(row).id; }
-    void select(std::vector<std::size_t> rows)
+    void select(const std::vector<std::size_t>& rows)
     {
         std::vector<RowId> ids;
         for (const std::size_t row : rows)

@@ -205,7 +205,7 @@ TEST_F(SeriesGridModelTest, refusesAModeThatIsNoNumber)
                      [&](const QModelIndex& cell, const QString& typed, const RunTimeError& error) {
                          EXPECT_EQ(cell, model.index(1, static_cast<int>(SeriesColumn::Mode)));
                          EXPECT_EQ(typed, reports.empty() ? u"two" : u"40000");
-                         reports.push_back(error.what());
+                         reports.emplace_back(error.what());
                      });
     EXPECT_FALSE(type(1, SeriesColumn::Mode, "two"));
     EXPECT_FALSE(type(1, SeriesColumn::Mode, "40000"));

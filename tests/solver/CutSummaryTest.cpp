@@ -43,13 +43,13 @@ std::size_t importText(std::string_view text)
     return rowsOf(file);
 }
 
-void expectNeverMoreThanTheWhole(const std::string& text)
+void expectNeverMoreThanTheWhole(std::string_view text)
 {
     const std::size_t whole = importText(text);
     EXPECT_GT(whole, 0U);
     std::size_t before = 0;
     for (std::size_t size = 0; size <= text.size(); ++size) {
-        const std::size_t rows = importText(std::string_view(text).substr(0, size));
+        const std::size_t rows = importText(text.substr(0, size));
         ASSERT_LE(rows, whole) << "cut after " << size << " bytes";
         ASSERT_GE(rows, before) << "cut after " << size << " bytes";
         before = rows;
