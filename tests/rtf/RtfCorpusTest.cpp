@@ -70,7 +70,7 @@ TextFormat formatOf(const QJsonObject& object)
 RichText textOfJson(const QJsonArray& runs)
 {
     RichText text;
-    for (const QJsonValue& value : runs) {
+    for (const auto& value : runs) {
         const QJsonObject run = value.toObject();
         text.runs.push_back({run["text"_L1].toString().toStdU16String(), formatOf(run)});
     }

@@ -30,9 +30,9 @@ std::string bodyOf(const RichText& text)
 {
     const std::string rtf = writeRtf(text);
     const std::size_t start = rtf.find("\\pard") + 5;
-    const std::string_view body = std::string_view(rtf).substr(start, rtf.rfind("\\par") - start);
+    const std::string body = rtf.substr(start, rtf.rfind("\\par") - start);
     constexpr std::string_view first = "\\f0\\fs20";
-    return std::string(body.starts_with(first) ? body.substr(first.size()) : body);
+    return body.starts_with(first) ? body.substr(first.size()) : body;
 }
 
 std::string bodyOf(std::u16string characters, TextFormat format = {})
