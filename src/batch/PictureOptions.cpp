@@ -173,9 +173,19 @@ std::optional<PictureFormat> folderFormatOf(const CommandLine& line)
     return format;
 }
 
+MetafileDashes dashesOf(const CommandLine& line)
+{
+    const auto text = line.value("--dashes");
+    if (!text || *text == "pens")
+        return MetafileDashes::Pens;
+    if (*text == "lines")
+        return MetafileDashes::Lines;
+    throw wrongValue("--dashes", *text, "pens or lines");
+}
+
 } // namespace
 
-constinit const std::array<OptionDescription, 19> pictureOptionDescriptions = {
+constinit const std::array<OptionDescription, 20> pictureOptionDescriptions = {
     {{"--modes", "LIST", "modes to draw; default is all"},
      plotOption,
      {"--all", "",
@@ -191,6 +201,7 @@ constinit const std::array<OptionDescription, 19> pictureOptionDescriptions = {
      sizeOption,
      resolutionOption,
      lineWidthOption,
+     dashesOption,
      {"--header", "TEXT",
       "text above the plot; in all texts \\n begins a new line,\nand Rich Text Format ({\\rtf...) "
       "keeps its look;\ndefault: airplane, mass, method and Mach number as\nfar as the files "
@@ -233,6 +244,7 @@ PictureSize pictureSizeOf(const CommandLine& line)
                              "a number from 0.1 to 100");
         size.settings.leastLineWidth = *width;
     }
+    size.settings.dashes = dashesOf(line);
     return size;
 }
 

@@ -55,7 +55,7 @@ struct PictureOptions
     CurvePalette palette = CurvePalette::Standard;
 };
 
-extern const std::array<OptionDescription, 19> pictureOptionDescriptions;
+extern const std::array<OptionDescription, 20> pictureOptionDescriptions;
 
 // The options of every picture.
 inline constexpr OptionDescription sizeOption {
@@ -67,7 +67,12 @@ inline constexpr OptionDescription lineWidthOption {
     "--least-line-width", "W",
     "narrower lines in .svg, .pdf and .png get this width, in\npixels of 1/96 inch; default 1"};
 
-/// The values of --size, --resolution and --least-line-width; UsageError for invalid ones.
+inline constexpr OptionDescription dashesOption {
+    "--dashes", "DASHES",
+    "dashes of a .emf: pens, which each program draws in its\nown way and some draw solid, or "
+    "lines, short ones;\ndefault pens"};
+
+/// The values of the options of every picture; UsageError for invalid ones.
 PictureSize pictureSizeOf(const CommandLine& line);
 
 /// Reads the options; UsageError for invalid ones.

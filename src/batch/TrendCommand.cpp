@@ -60,13 +60,14 @@ int runTrend(const CommandLine& line, BatchRun& run)
     return done;
 }
 
-constexpr auto trendOptions = withStabilityOptions(std::array<OptionDescription, 5> {
+constexpr auto trendOptions = withStabilityOptions(std::array<OptionDescription, 6> {
     {{"--against", "QUANTITY",
       "mach, altitude, mass (in the order of the aircraft\nfile) or file (in the order given); "
       "default mach"},
      sizeOption,
      resolutionOption,
      lineWidthOption,
+     dashesOption,
      {"--output", "OUTPUT",
       "the file to write: a picture (.png, .svg, .pdf, .emf),\na table (.csv, .xlsx) or .json",
       true}}});

@@ -515,10 +515,11 @@ void SeriesPanel::SavePic_Click()
     plot->commitEdits();
     const PictureFormat format =
         answer ? pictureFormatOf(*answer).value_or(PictureFormat::Emf) : PictureFormat::Emf;
+    const PictureSettings& settings = m_commands.document().plots().pictureSettings();
     if (format == PictureFormat::Emf)
-        plot->ExportPic(QString::fromStdString(name));
+        plot->ExportPic(QString::fromStdString(name), settings);
     else
-        writePicture(*plot, name);
+        writePicture(*plot, name, settings);
     user.showNote("The picture is in " + wholePath(name) + " ("
                   + std::string(pictureTraitsOf(format).name) + ")");
 }

@@ -4,6 +4,7 @@
 #include "model/PlotAxes.h"
 #include "plot/CurvePalette.h"
 #include "plot/Marker.h"
+#include "vgfplot/PictureWriter.h"
 
 #include <QObject>
 #include <QString>
@@ -64,6 +65,10 @@ public:
     void setNewSeriesPalette(CurvePalette palette) { m_newSeriesPalette = palette; }
     CurvePalette newSeriesPalette() const { return m_newSeriesPalette; }
 
+    /// How pictures of plots become files.
+    void setPictureSettings(const PictureSettings& settings) { m_pictureSettings = settings; }
+    const PictureSettings& pictureSettings() const { return m_pictureSettings; }
+
     /// Appends a plot with the index after the highest in use; does not activate it. An empty
     /// caption becomes "Plot" and the index counted from 1: "Plot2". A caption in use gets a
     /// number: "Wing(2)". Error 6 "Overflow" for an index above 32767.
@@ -113,6 +118,7 @@ private:
     PlotAxes m_newPlotAxes;
     std::optional<MarkerOptions> m_newSeriesMarkers;
     CurvePalette m_newSeriesPalette = CurvePalette::Standard;
+    PictureSettings m_pictureSettings;
 };
 
 } // namespace tarsil

@@ -3,10 +3,12 @@
 
 #include "emf/EmfHeader.h"
 #include "emf/EmfText.h"
+#include "surface/Dashes.h"
 #include "surface/LineCut.h"
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdint>
 #include <limits>
 #include <span>
@@ -64,11 +66,6 @@ Pen writtenPen(const Pen& pen)
     if (pen.width <= 1 && pen.style >= penstyle::dash && pen.style <= penstyle::dashDotDot)
         return {pen.style, 0, pen.color};
     return {penstyle::solid, std::clamp(pen.width, 0, widestPen), pen.color};
-}
-
-bool isDashed(const Pen& written)
-{
-    return written.style != penstyle::solid && written.style != penstyle::none;
 }
 
 QRect grown(const QRect& box, const Pen& pen)
@@ -130,8 +127,9 @@ EmfRecord endRecord()
 
 } // namespace
 
-MetafileContext::MetafileContext(EmfSink& sink, const QString& description)
-    : m_stream(sink), m_objects(m_stream), m_state(m_stream, m_objects), m_description(description)
+MetafileContext::MetafileContext(EmfSink& sink, const QString& description, MetafileDashes dashes)
+    : m_stream(sink), m_objects(m_stream), m_state(m_stream, m_objects), m_description(description),
+      m_dashes(dashes)
 {
     m_stream.write(headerRecord({m_description}));
     m_state.begin();
@@ -141,24 +139,54 @@ void MetafileContext::drawLine(QPoint from, QPoint to, const Pen& pen)
 {
     if (drawsNothing())
         return;
+    if (m_dashes == MetafileDashes::Lines && isDashed(pen)) {
+        addDashes(QPointF(from) + QPointF(m_origin), QPointF(to) + QPointF(m_origin), pen);
+        return;
+    }
     const auto line = placedLine(from, to, m_origin);
     if (!line)
         return;
     const Pen written = writtenPen(pen);
-    if (isDashed(written)) {
+    if (isDashed(written))
         writeDashes(line->from, line->to, written);
-        return;
-    }
-    const bool continues = !m_lines.points.empty() && m_lines.points.back() == line->from
+    else
+        addLine(line->from, line->to, written);
+}
+
+/// Adds a solid line to those that are not written yet, if it continues them.
+void MetafileContext::addLine(QPoint from, QPoint to, const Pen& written)
+{
+    const bool continues = !m_lines.points.empty() && m_lines.points.back() == from
         && m_lines.pen == written && m_lines.clip == m_clip
         && m_lines.points.size() < longestPolyline;
     if (!continues) {
         writeLines();
         m_lines.pen = written;
         m_lines.clip = m_clip;
-        m_lines.points.push_back(line->from);
+        m_lines.points.push_back(from);
     }
-    m_lines.points.push_back(line->to);
+    m_lines.points.push_back(to);
+}
+
+/// Adds the dashes of a line that are within the clip, as the pattern begins at `from`.
+void MetafileContext::addDashes(QPointF from, QPointF to, const Pen& pen)
+{
+    const QPointF way = to - from;
+    const double length = std::hypot(way.x(), way.y());
+    QPointF start = from;
+    QPointF end = to;
+    const QRectF seen = m_clip ? QRectF(*m_clip) : guardBand(farthest);
+    if (length == 0 || !cutLine(start, end, seen))
+        return;
+    const auto distance = [from](QPointF point) {
+        return std::hypot(point.x() - from.x(), point.y() - from.y());
+    };
+    const auto pointAt = [&](double position) {
+        return (from + way * (position / length)).toPoint();
+    };
+    const Pen solid = {penstyle::solid, std::max(pen.width, 0), pen.color};
+    for (const Dash& dash : dashesBetween(dashPattern(pen), distance(start), distance(end)))
+        addLine(pointAt(dash.begin), pointAt(dash.end), solid);
 }
 
 void MetafileContext::drawText(QPoint reference, const QString& text, const Font& font,

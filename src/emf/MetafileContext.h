@@ -14,6 +14,10 @@ namespace tarsil {
 
 class EmfSink;
 
+/// How a metafile contains the dashes of a line: as a pen, which each program draws in its own way
+/// and some draw solid, or as short lines of a solid pen, with their ends on whole pixels.
+enum class MetafileDashes { Pens, Lines };
+
 /// Draws into an Enhanced Metafile: a list of records that a player repeats on its own surface, at
 /// any size. Records go to the sink while drawing, so memory use does not grow with the picture.
 /// Connected solid lines of one pen become one record. Dashed lines get one record each, because
@@ -27,7 +31,8 @@ class MetafileContext : public DeviceContext
 public:
     /// `sink` must be empty and outlive the context. `description` names the program and the
     /// picture.
-    explicit MetafileContext(EmfSink& sink, const QString& description);
+    explicit MetafileContext(EmfSink& sink, const QString& description,
+                             MetafileDashes dashes = MetafileDashes::Pens);
 
     void drawLine(QPoint from, QPoint to, const Pen& pen) override;
     void drawText(QPoint reference, const QString& text, const Font& font, ColorValue color,
@@ -54,6 +59,8 @@ private:
     };
 
     bool drawsNothing() const;
+    void addLine(QPoint from, QPoint to, const Pen& written);
+    void addDashes(QPointF from, QPointF to, const Pen& pen);
     void writeLines();
     void writeDashes(QPoint from, QPoint to, const Pen& pen);
     void addBounds(const QRect& box, const std::optional<QRect>& clip);
@@ -63,6 +70,7 @@ private:
     EmfState m_state;
     TextMetrics m_text;
     QString m_description;
+    MetafileDashes m_dashes;
     QPoint m_origin;
     std::optional<QRect> m_clip;
     Lines m_lines;

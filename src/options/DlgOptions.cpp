@@ -32,6 +32,8 @@ constexpr std::string_view aircraftFilter =
     "Aircraft information data file (*.inp)|*.inp|All Files (*.*)|*.*|";
 const QString lineStylesOn = QStringLiteral("on"); ///< in the options file
 const QString lineStylesOff = QStringLiteral("off");
+const QString dashLines = QStringLiteral("lines");
+const QString dashPens = QStringLiteral("pens");
 constexpr std::size_t firstTicks = 6; ///< index in the entries
 
 constexpr std::array colourChoices = {
@@ -86,9 +88,9 @@ void dlgOptions::GetOptReg()
     m_ui->txtAcInfo->setText(stored.acInfoDataFile);
     m_ui->txtVgfScale->setText(stored.vgfScale);
     m_ui->txtVgfThicks->setText(stored.vgfThicks);
-    showPalette(stored);
+    showLook(stored);
     if (!ApplyOpt()) {
-        applyPalette();
+        applyLook();
         AirplaneInfo airplane = m_document.airplane();
         airplane.Filename = stored.acInfoDataFile.toStdString();
         m_document.setAirplane(std::move(airplane));
@@ -103,16 +105,20 @@ void dlgOptions::SetOptReg() const
 
 OptionTexts dlgOptions::textsToKeep() const
 {
-    return {QString::fromStdString(m_document.airplane().Filename), m_ui->txtVgfScale->text(),
-            m_ui->txtVgfThicks->text(), m_ui->cboColours->currentData().toString(),
-            m_ui->chkLineStyles->isChecked() ? lineStylesOn : lineStylesOff};
+    return {QString::fromStdString(m_document.airplane().Filename),
+            m_ui->txtVgfScale->text(),
+            m_ui->txtVgfThicks->text(),
+            m_ui->cboColours->currentData().toString(),
+            m_ui->chkLineStyles->isChecked() ? lineStylesOn : lineStylesOff,
+            m_ui->chkDashLines->isChecked() ? dashLines : dashPens};
 }
 
 /// An unknown text means the default.
-void dlgOptions::showPalette(const OptionTexts& stored)
+void dlgOptions::showLook(const OptionTexts& stored)
 {
     m_ui->cboColours->setCurrentIndex(std::max(m_ui->cboColours->findData(stored.curveColours), 0));
     m_ui->chkLineStyles->setChecked(stored.curveLineStyles == lineStylesOn);
+    m_ui->chkDashLines->setChecked(stored.metafileDashes == dashLines);
 }
 
 CurvePalette dlgOptions::palette() const
@@ -123,9 +129,13 @@ CurvePalette dlgOptions::palette() const
         : paletteNamed(colours).value_or(CurvePalette::Standard);
 }
 
-void dlgOptions::applyPalette()
+void dlgOptions::applyLook()
 {
     m_document.plots().setNewSeriesPalette(palette());
+    PictureSettings settings;
+    if (m_ui->chkDashLines->isChecked())
+        settings.dashes = MetafileDashes::Lines;
+    m_document.plots().setPictureSettings(settings);
 }
 
 void dlgOptions::UpDateOpt()
@@ -148,7 +158,7 @@ bool dlgOptions::ApplyOpt()
         UpDateOpt();
         readAircraftFile();
         applyAxes();
-        applyPalette();
+        applyLook();
     });
 }
 

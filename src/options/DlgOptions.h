@@ -76,8 +76,8 @@ private:
     void readAircraftFile();
     void applyAxes();
     CurvePalette palette() const;
-    void applyPalette();
-    void showPalette(const OptionTexts& stored);
+    void applyLook();
+    void showLook(const OptionTexts& stored);
     void showWhetherFileIsThere();
     OptionTexts textsToKeep() const;
     EvmPlot& vgfPlot() const;

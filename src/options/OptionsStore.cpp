@@ -33,11 +33,12 @@ struct Key
     bool isShown; ///< written even when it is not set, so that people see that it exists
 };
 
-constexpr std::array<Key, 5> keys = {{{"AcInfoDataFile", &OptionTexts::acInfoDataFile, true},
+constexpr std::array<Key, 6> keys = {{{"AcInfoDataFile", &OptionTexts::acInfoDataFile, true},
                                       {"vgfScale", &OptionTexts::vgfScale, true},
                                       {"vgfThicks", &OptionTexts::vgfThicks, true},
                                       {"curveColours", &OptionTexts::curveColours, false},
-                                      {"curveLineStyles", &OptionTexts::curveLineStyles, false}}};
+                                      {"curveLineStyles", &OptionTexts::curveLineStyles, false},
+                                      {"metafileDashes", &OptionTexts::metafileDashes, false}}};
 
 /// The bytes of the file; empty when it does not exist.
 std::string bytesOf(const std::string& path)

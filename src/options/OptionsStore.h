@@ -21,6 +21,7 @@ struct OptionTexts
     QString vgfThicks; ///< ticks of the speed, damping and frequency axis
     QString curveColours; ///< colours of new curves: the name of a `CurvePalette` of colours
     QString curveLineStyles; ///< "on": line styles instead of colours
+    QString metafileDashes; ///< "lines": dashes of metafiles as short lines instead of pens
 
     bool operator==(const OptionTexts&) const = default;
 };

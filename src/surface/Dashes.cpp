@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "surface/Dashes.h"
 
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+
 namespace tarsil {
 
 bool isDashed(const Pen& pen)
@@ -22,6 +26,22 @@ QList<qreal> dashPattern(const Pen& pen)
     default:
         return {9, 3, 3, 3, 3, 3};
     }
+}
+
+std::vector<Dash> dashesBetween(const QList<qreal>& pattern, double first, double last)
+{
+    const double period = std::accumulate(pattern.begin(), pattern.end(), 0.0);
+    std::vector<Dash> dashes;
+    for (double begin = std::floor(first / period) * period; begin < last; begin += period) {
+        double dash = begin;
+        for (qsizetype i = 0; i + 1 < pattern.size(); i += 2) {
+            const double end = dash + pattern[i];
+            if (end > first && dash < last)
+                dashes.push_back({std::max(dash, first), std::min(end, last)});
+            dash = end + pattern[i + 1];
+        }
+    }
+    return dashes;
 }
 
 } // namespace tarsil

@@ -140,15 +140,15 @@ void EvmPlot::Clone(const EvmPlot& source)
     setBounds(source.axes().bounds());
 }
 
-void EvmPlot::ExportPic(const QString& fileName) const
+void EvmPlot::ExportPic(const QString& fileName, const PictureSettings& settings) const
 {
-    WriteEmfPicture(fileName);
+    WriteEmfPicture(fileName, settings);
 }
 
-void EvmPlot::WriteEmfPicture(const QString& fileName) const
+void EvmPlot::WriteEmfPicture(const QString& fileName, const PictureSettings& settings) const
 {
     EmfFile file(fileName.toStdString());
-    writeMetafile(*this, file);
+    writeMetafile(*this, file, settings);
     file.commit();
 }
 

@@ -5,6 +5,7 @@
 #include "plot/EmfRichTextBox.h"
 #include "plot/UcPlot.h"
 #include "vgfplot/DrawnPicture.h"
+#include "vgfplot/PictureWriter.h"
 #include "vgfplot/PlotParts.h"
 #include "vgfplot/PlotPicture.h"
 #include "vgfplot/PlotProperties.h"
@@ -99,7 +100,7 @@ public:
 
     /// Writes the picture as an Enhanced Metafile, whole or not at all. The file name is used as
     /// given. Errors: those of drawing and of writing a file.
-    void ExportPic(const QString& fileName) const;
+    void ExportPic(const QString& fileName, const PictureSettings& settings = {}) const;
 
     /// Draws the picture into `context`: white ground, axes, titles, boxes, curves. Edits in
     /// progress are not included; call `commitEdits` first to include them.
@@ -122,7 +123,7 @@ Q_SIGNALS:
 private:
     void setBounds(const PlotBounds& bounds);
     void followRows();
-    void WriteEmfPicture(const QString& fileName) const;
+    void WriteEmfPicture(const QString& fileName, const PictureSettings& settings) const;
 
     PlotRows m_rows;
     PlotParts m_parts;

@@ -5,7 +5,6 @@
 #include "base/text/AsciiText.h"
 #include "base/user/RunTimeError.h"
 #include "emf/EmfSink.h"
-#include "emf/MetafileContext.h"
 #include "surface/PainterContext.h"
 #include "surface/PdfFile.h"
 #include "surface/PropertyDate.h"
@@ -148,10 +147,10 @@ QByteArray withExactPage(QByteArray pdf, QSizeF points)
     return pdf.replace(start, length, box.leftJustified(length));
 }
 
-QByteArray metafileBytes(const DrawnPicture& picture)
+QByteArray metafileBytes(const DrawnPicture& picture, const PictureSettings& settings)
 {
     EmfMemory memory;
-    writeMetafile(picture, memory);
+    writeMetafile(picture, memory, settings);
     return QByteArray::fromStdString(memory.bytes());
 }
 
@@ -176,9 +175,9 @@ QSize pixelsOf(QSizeF millimetres)
     return {covering(millimetres.width()), covering(millimetres.height())};
 }
 
-void writeMetafile(const DrawnPicture& picture, EmfSink& sink)
+void writeMetafile(const DrawnPicture& picture, EmfSink& sink, const PictureSettings& settings)
 {
-    MetafileContext context(sink, description);
+    MetafileContext context(sink, description, settings.dashes);
     picture.Draw(context);
     context.close();
 }
@@ -211,7 +210,7 @@ QByteArray pictureBytes(const DrawnPicture& picture, PictureFormat format,
     case PictureFormat::Pdf:
         return withExactPage(pdfBytes(picture, settings), pagePoints(picture, settings));
     case PictureFormat::Emf:
-        return metafileBytes(picture);
+        return metafileBytes(picture, settings);
     case PictureFormat::Png:
         if (!bitmapFor(picture, settings).save(&buffer, "PNG"))
             fail("the picture cannot be made");
@@ -243,7 +242,7 @@ void writePicture(const DrawnPicture& picture, const std::string& path,
                            path + " does not end in .png, .svg, .pdf or .emf");
     if (format == PictureFormat::Emf) {
         EmfFile file(path);
-        writeMetafile(picture, file);
+        writeMetafile(picture, file, settings);
         file.commit();
         return;
     }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "emf/MetafileContext.h"
+
 #include <QByteArray>
 #include <QImage>
 #include <QRectF>
@@ -58,6 +60,8 @@ struct PictureSettings
     /// Narrower lines get this width in pixels of 1/96 inch; not those of a metafile, whose pens
     /// are those of the plot.
     double leastLineWidth = 1;
+
+    MetafileDashes dashes = MetafileDashes::Pens; ///< of a metafile
 };
 
 /// The size of a picture, in whole pixels at 96 per inch, that covers a size in millimetres.
@@ -68,7 +72,8 @@ QSize pixelsOf(QSizeF millimetres);
 // bitmap that does not fit into memory.
 
 /// Writes the picture as an Enhanced Metafile; does not commit `sink`.
-void writeMetafile(const DrawnPicture& picture, EmfSink& sink);
+void writeMetafile(const DrawnPicture& picture, EmfSink& sink,
+                   const PictureSettings& settings = {});
 
 /// Draws the picture into an area of a page, scaled to its width; for a printer or a PDF in
 /// vectors. The state of the painter is restored, also after an error.

@@ -145,6 +145,17 @@ TEST_F(PictureCommand, widensNarrowLines)
     EXPECT_THAT(fileBytes(path), ::testing::Not(HasSubstr("stroke-width=\"1\"")));
 }
 
+TEST_F(PictureCommand, writesTheDashesOfMetafilesAsPensOrAsLines)
+{
+    const auto withDashes = [this](const std::string& dashes) {
+        return fileBytes(
+            draw("out.emf", {"--palette", "line-styles", "--dashes", dashes, writeEv2()}));
+    };
+    const std::string usual = fileBytes(draw("out.emf", {"--palette", "line-styles", writeEv2()}));
+    EXPECT_EQ(withDashes("pens"), usual);
+    EXPECT_NE(withDashes("lines"), usual);
+}
+
 TEST_F(PictureCommand, acceptsScaleAndTicks)
 {
     const std::string texts = svgTexts(
@@ -350,6 +361,7 @@ TEST_F(PictureCommand, refusesWrongUsage)
         {"--output", file("out.png"), "--size", "165x120mm", "--resolution", "0"},
         {"--output", file("out.png"), "--resolution", "300"},
         {"--output", file("out.png"), "--least-line-width", "0"},
+        {"--output", file("out.emf"), "--dashes", "dots"},
         {"--output", file("out.png"), "--scale", "0,1,2"},
         {"--output", file("out.png"), "--scale", "5,5,0,1,0,-1"},
         {"--output", file("out.png"), "--ticks", "1,2"},

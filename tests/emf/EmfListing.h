@@ -30,10 +30,10 @@ std::vector<EmfItem> polylinesOf(const EmfContents& contents);
 
 /// The metafile made by `draw`, read by the tests' reader.
 template <typename Draw>
-EmfContents metafileOf(Draw draw)
+EmfContents metafileOf(Draw draw, MetafileDashes dashes = MetafileDashes::Pens)
 {
     EmfMemory memory;
-    MetafileContext context(memory, QStringLiteral("a test"));
+    MetafileContext context(memory, QStringLiteral("a test"), dashes);
     draw(context);
     context.close();
     return readMetafile(memory.bytes());
@@ -42,9 +42,9 @@ EmfContents metafileOf(Draw draw)
 /// Its listing without the common start and end: saving and restoring the state, and deleting
 /// objects.
 template <typename Draw>
-std::vector<std::string> drawnRecords(Draw draw)
+std::vector<std::string> drawnRecords(Draw draw, MetafileDashes dashes = MetafileDashes::Pens)
 {
-    std::vector<std::string> lines = listingOf(metafileOf(draw));
+    std::vector<std::string> lines = listingOf(metafileOf(draw, dashes));
     lines.erase(lines.begin());
     while (lines.back().starts_with("delete"))
         lines.pop_back();

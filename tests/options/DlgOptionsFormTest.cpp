@@ -58,7 +58,7 @@ TEST_F(DlgOptionsTest, leadsTheTabKeyThroughItsControlsInOrder)
     const QWidget* control = &partOf<QWidget>(*dialog, "txtAcInfo");
     for (const char* const name :
          {"txtAcInfo", "btnAcInfo", "txtVgfScale", "txtVgfThicks", "cboColours", "chkLineStyles",
-          "btnOK", "btnApply", "btnCancel"}) {
+          "chkDashLines", "btnOK", "btnApply", "btnCancel"}) {
         EXPECT_EQ(control->objectName().toStdString(), name);
         do
             control = control->nextInFocusChain();

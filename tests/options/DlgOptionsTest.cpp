@@ -382,6 +382,21 @@ TEST_F(DlgOptionsTest, keepsTheLookOfCurvesForTheNextStart)
     EXPECT_EQ(plots().newSeriesPalette(), CurvePalette::LineStyles);
 }
 
+TEST_F(DlgOptionsTest, writesTheDashesOfMetafilesAsTheUserWants)
+{
+    const auto dashes = [this] { return plots().pictureSettings().dashes; };
+    test::partOf<QCheckBox>(*dialog, "chkDashLines").setChecked(true);
+    EXPECT_EQ(dashes(), MetafileDashes::Pens) << "not applied yet";
+    clickButton("btnApply");
+    EXPECT_EQ(dashes(), MetafileDashes::Lines);
+    dialog->SetOptReg();
+    EXPECT_EQ(store.read().metafileDashes.toStdString(), "lines");
+    plots().setPictureSettings({});
+    dialog = std::make_unique<dlgOptions>(document, user, store);
+    dialog->GetOptReg();
+    EXPECT_EQ(dashes(), MetafileDashes::Lines);
+}
+
 TEST_F(DlgOptionsTest, ignoresAnUnknownLookOfCurves)
 {
     folder.write("tarsil.ini", "[Options]\ncurveColours=gold\ncurveLineStyles=perhaps\n");

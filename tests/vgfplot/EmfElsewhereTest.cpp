@@ -83,6 +83,18 @@ protected:
             EXPECT_GE(test::inkShare(screen, area, shown, tolerance), 0.9) << name;
     }
 
+    /// The picture in Inkscape; null if it is not installed.
+    QImage inInkscape()
+    {
+        const QString inkscape = QStandardPaths::findExecutable(QStringLiteral("inkscape"));
+        if (inkscape.isEmpty())
+            return {};
+        return convert(inkscape,
+                       {path("plot.emf"), QStringLiteral("--export-type=png"),
+                        QStringLiteral("--export-filename=") + path("plot.png"),
+                        QStringLiteral("--export-dpi=96")});
+    }
+
     test::TemporaryFolder folder;
     EVM evolution;
     EvmPlot plot;
@@ -122,16 +134,34 @@ TEST_F(EmfElsewhere, looksLikeTheScreenInLibreOffice)
 
 TEST_F(EmfElsewhere, looksLikeTheScreenInInkscapeAndIsAsLarge)
 {
-    const QString inkscape = QStandardPaths::findExecutable(QStringLiteral("inkscape"));
-    if (inkscape.isEmpty())
+    const QImage picture = inInkscape();
+    if (picture.isNull())
         GTEST_SKIP() << "Inkscape is not installed";
-    const QImage picture = convert(inkscape,
-                                   {path("plot.emf"), QStringLiteral("--export-type=png"),
-                                    QStringLiteral("--export-filename=") + path("plot.png"),
-                                    QStringLiteral("--export-dpi=96")});
-    ASSERT_FALSE(picture.isNull());
     // 96 pixels are an inch; the frame ends in the middle of the last pixel.
     EXPECT_NEAR(picture.width(), 800, 1);
     EXPECT_NEAR(picture.height(), 600, 1);
     expectTheScreen(laidOnWhite(picture, {0, 0}, plot.size()));
+}
+
+TEST_F(EmfElsewhere, hasGapsInInkscapeIfDashesAreLines)
+{
+    PictureSettings settings;
+    settings.dashes = MetafileDashes::Lines;
+    plot.ExportPic(path("plot.emf"), settings);
+    const QImage picture = inInkscape();
+    if (picture.isNull())
+        GTEST_SKIP() << "Inkscape is not installed";
+    const auto isRed = [](QColor color) {
+        return color.red() > color.green() + 60 && color.red() > color.blue() + 60;
+    };
+    const QRect canvas = plot.parts().vgPlot.geometry();
+    int inked = 0;
+    for (int x = canvas.left(); x < canvas.right(); ++x) {
+        bool isInked = false;
+        for (int y = canvas.top(); y < canvas.bottom(); ++y)
+            isInked = isInked || isRed(picture.pixelColor(x, y));
+        inked += isInked ? 1 : 0;
+    }
+    // Dashes of 18 pixels, with round ends, and gaps of 6.
+    EXPECT_NEAR(double(inked) / canvas.width(), 19.0 / 24, 0.06);
 }
