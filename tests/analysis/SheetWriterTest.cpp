@@ -15,9 +15,13 @@
 #include <cmath>
 #include <csignal>
 #include <cstdlib>
+#include <filesystem>
 #include <optional>
 #include <string>
+
+#ifndef _WIN32
 #include <sys/resource.h>
+#endif
 
 using namespace tarsil;
 using test::fileBytes;
@@ -44,6 +48,26 @@ std::optional<RunTimeError> writingError(const Sheet& sheet, const std::string& 
     return test::errorOf([&] { writeSheet(sheet, path); });
 }
 
+// An empty value is the same as no variable.
+#ifdef _WIN32
+constexpr const char* temporaryFolder = "TMP";
+
+void setVariable(const char* name, const std::string& value)
+{
+    _putenv_s(name, value.c_str());
+}
+#else
+constexpr const char* temporaryFolder = "TMPDIR";
+
+void setVariable(const char* name, const std::string& value)
+{
+    if (value.empty())
+        unsetenv(name);
+    else
+        setenv(name, value.c_str(), 1);
+}
+#endif
+
 std::size_t fileCount(const TemporaryFolder& folder)
 {
     std::size_t count = 0;
@@ -52,6 +76,7 @@ std::size_t fileCount(const TemporaryFolder& folder)
     return count;
 }
 
+#ifndef _WIN32 // which has no limit of a file's size
 /// Limits the size of the files of this process, as a full disk does.
 class FileSizeLimit
 {
@@ -71,6 +96,7 @@ public:
 private:
     rlimit m_before {};
 };
+#endif
 
 } // namespace
 
@@ -303,14 +329,11 @@ TEST(SheetAsXlsx, refusesMoreColumnsThanASpreadsheetHas)
 TEST(SheetAsXlsx, needsNoFolderForTemporaryFiles)
 {
     const TemporaryFolder folder;
-    const char* const before = std::getenv("TMPDIR");
+    const char* const before = std::getenv(temporaryFolder);
     const std::string kept = before != nullptr ? before : "";
-    setenv("TMPDIR", folder.file("none").c_str(), 1);
+    setVariable(temporaryFolder, folder.file("none"));
     writeSheet(example(), folder.file("a.xlsx"));
-    if (before != nullptr)
-        setenv("TMPDIR", kept.c_str(), 1);
-    else
-        unsetenv("TMPDIR");
+    setVariable(temporaryFolder, kept);
     EXPECT_EQ(test::readXlsx(folder.file("a.xlsx")).cell(4, 4), example().cell(4, 4));
 }
 
@@ -391,6 +414,7 @@ TEST(SheetFile, leavesAReadOnlyFileAsItIs)
     EXPECT_EQ(fileCount(folder), 2U);
 }
 
+#ifndef _WIN32
 TEST(SheetFile, leavesTheOldFileWhenTheNewOneDoesNotFit)
 {
     const TemporaryFolder folder;
@@ -407,3 +431,4 @@ TEST(SheetFile, leavesTheOldFileWhenTheNewOneDoesNotFit)
     }
     EXPECT_EQ(fileCount(folder), 2U);
 }
+#endif

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "rtf/FontName.h"
 
-#include <QString>
+#include "base/text/TextCodec.h"
 
 #include <gtest/gtest.h>
 
@@ -13,7 +13,7 @@ TEST(FontName, isMadeOfLettersDigitsAndAFewSigns)
          {u"Arial", u"R&D Sans", u"MS Shell Dlg 2", u"@MS Mincho", u"Arial (Hebrew)", u"Bell's 3.5",
           u"\uFF2D\uFF33 \u660E\u671D", u"\u041F\u0440", u"Italique \u00E9", u"\U0001D6FAx",
           u"Arial,Bold", u"C#-A_B+C/D!"})
-        EXPECT_TRUE(isFontName(name)) << QString::fromUtf16(name).toStdString();
+        EXPECT_TRUE(isFontName(name)) << utf8FromUtf16(name);
 }
 
 TEST(FontName, holdsNoMarkUpAndNothingUnseen)
@@ -30,5 +30,5 @@ TEST(FontName, holdsNoMarkUpAndNothingUnseen)
                                  u"a\uE000b", u"a\xD800",
                                  u"a\xDC00z", u"a%b",
                                  u"a*b",      u"a|b"})
-        EXPECT_FALSE(isFontName(name)) << QString::fromUtf16(name).toStdString();
+        EXPECT_FALSE(isFontName(name)) << utf8FromUtf16(name);
 }
