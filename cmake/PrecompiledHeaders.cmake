@@ -41,6 +41,9 @@ set(widget_headers
     <QTreeWidget>
     <QWidget>)
 set(test_headers <gmock/gmock.h> <gtest/gtest.h>)
+if(TARSIL_TESTS)
+  find_package(GTest REQUIRED)
+endif()
 
 # tarsil_precompiled_set(NAME HEADERS ... LINK ...): precompiled headers for targets with the same
 # flags.
@@ -52,11 +55,21 @@ function(tarsil_precompiled_set name)
   target_precompile_headers(${target} PRIVATE ${SET_HEADERS})
 endfunction()
 
+# Compiles the files of TARGET with the set NAME.
+function(tarsil_precompile target name)
+  target_precompile_headers(${target} REUSE_FROM tarsil_precompiled_${name})
+endfunction()
+
 tarsil_precompiled_set(plain HEADERS ${standard_headers})
+if(TARSIL_CORE_ONLY)
+  if(TARSIL_TESTS)
+    tarsil_precompiled_set(tests HEADERS ${standard_headers} ${test_headers} LINK GTest::gtest GTest::gmock)
+  endif()
+  return()
+endif()
 tarsil_precompiled_set(gui HEADERS ${standard_headers} ${gui_headers} LINK Qt6::Gui)
 tarsil_precompiled_set(widgets HEADERS ${standard_headers} ${gui_headers} ${widget_headers} LINK Qt6::Widgets)
 if(TARSIL_TESTS)
-  find_package(GTest REQUIRED)
   tarsil_precompiled_set(
     tests HEADERS ${standard_headers} ${gui_headers} ${test_headers} LINK Qt6::Gui GTest::gtest GTest::gmock)
   tarsil_precompiled_set(
@@ -64,8 +77,3 @@ if(TARSIL_TESTS)
     HEADERS ${standard_headers} ${gui_headers} ${widget_headers} ${test_headers}
     LINK Qt6::Widgets GTest::gtest GTest::gmock)
 endif()
-
-# Compiles the files of TARGET with the set NAME.
-function(tarsil_precompile target name)
-  target_precompile_headers(${target} REUSE_FROM tarsil_precompiled_${name})
-endfunction()
