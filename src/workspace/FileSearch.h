@@ -22,7 +22,8 @@ struct FileSearch
 };
 
 /// The files below a folder whose names are in `names`, which are folded by `withoutCase`. Skips
-/// what cannot be read and links to folders. Paths have "/" as separator. Reports the number of
+/// what cannot be read, links to folders, and on Windows folders with paths longer than 260
+/// characters. Paths have "/" as separator. Reports the number of
 /// files and folders visited after each folder.
 FileSearch filesBelow(const std::string& folder, const std::unordered_set<std::string>& names,
                       const Progress& progress = {});

@@ -2,6 +2,7 @@
 #include "AircraftFixtures.h"
 
 #include "support/Errors.h"
+#include "support/Separators.h"
 #include "support/TestFiles.h"
 
 #include <gtest/gtest.h>
@@ -83,7 +84,8 @@ TEST(AirplaneInfo, keepsWhatWasReadBeforeAnError)
     AirplaneInfo info;
     info.Filename = folder.write("wing.inp", std::string(oneOfEach).append("0.50=4|five|6\n"));
     EXPECT_EQ(errorTextOf([&info] { info.Create(); }),
-              "13 Type mismatch: " + info.Filename + ", line 10, field 1 (Vd): \"five\"");
+              "13 Type mismatch: " + test::systemSeparators(info.Filename)
+                  + ", line 10, field 1 (Vd): \"five\"");
     EXPECT_EQ(info.MassConfs.size(), 1U);
     EXPECT_EQ(info.FlutterMechs.size(), 1U);
     EXPECT_EQ(info.FlutterEnvs.size(), 1U);

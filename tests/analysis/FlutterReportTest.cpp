@@ -6,6 +6,7 @@
 #include "base/numbers/Numbers.h"
 #include "base/user/RunTimeError.h"
 #include "support/Errors.h"
+#include "support/Separators.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -321,8 +322,8 @@ TEST(Report, writesTheOtherRowsWhenASearchFails)
             errors.push_back(error.description());
         });
     EXPECT_THAT(errors,
-                ::testing::ElementsAre("Division by zero: /wing.ev2, mode 1, between the "
-                                       "speeds 300 and 300"));
+                ::testing::ElementsAre("Division by zero: " + test::systemSeparators("/wing.ev2")
+                                       + ", mode 1, between the speeds 300 and 300"));
     EXPECT_EQ(sheet.columnCount(), 11U) << "one crossing at most";
     EXPECT_EQ(number(sheet, 2, 5), 1);
     EXPECT_EQ(number(sheet, 2, 6), 1) << "the largest damping needs no search";

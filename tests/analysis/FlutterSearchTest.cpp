@@ -4,6 +4,7 @@
 #include "analysis/ModeBuilder.h"
 #include "base/user/RunTimeError.h"
 #include "support/Errors.h"
+#include "support/Separators.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -161,7 +162,8 @@ TEST(Crossings, areRefusedBetweenTwoPointsOfTheSameSpeed)
     EXPECT_EQ(error.value().number(), ErrorNumber::DivisionByZero);
     EXPECT_EQ(error.value().source(), "AeMode");
     EXPECT_EQ(error.value().description(),
-              "Division by zero: folder/twice.ev2, mode 7, between the speeds 300 and 300");
+              "Division by zero: " + test::systemSeparators("folder/twice.ev2")
+                  + ", mode 7, between the speeds 300 and 300");
     EXPECT_EQ(mode.flutterPoints.size(), 1U) << "what was found before stays";
 }
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "base/files/PathNames.h"
 
+#include "support/Separators.h"
 #include "support/TestFiles.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cerrno>
 #include <filesystem>
 #include <string>
@@ -22,15 +22,6 @@ const std::string root = "C:";
 #else
 const std::string root;
 #endif
-
-/// A path as messages show it.
-std::string shown(std::string path)
-{
-#ifdef _WIN32
-    std::replace(path.begin(), path.end(), '/', '\\');
-#endif
-    return path;
-}
 
 TEST(PathNames, joinsWithABackslash)
 {
@@ -90,10 +81,10 @@ TEST(PathNames, keepsNoSeparatorAtTheEndOfARootFolder)
 TEST(PathNames, showsARelativePathFromTheRootOn)
 {
     const std::string here = std::filesystem::current_path().string();
-    EXPECT_EQ(wholePath("wing.evm"), shown(here + "/wing.evm"));
-    EXPECT_EQ(wholePath("runs\\wing.evm"), shown(here + "/runs/wing.evm"));
-    EXPECT_EQ(wholePath(root + "/runs\\wing.evm"), shown(root + "/runs/wing.evm"));
-    EXPECT_EQ(wholePath(root + "/wing.evm"), shown(root + "/wing.evm"));
+    EXPECT_EQ(wholePath("wing.evm"), test::systemSeparators(here + "/wing.evm"));
+    EXPECT_EQ(wholePath("runs\\wing.evm"), test::systemSeparators(here + "/runs/wing.evm"));
+    EXPECT_EQ(wholePath(root + "/runs\\wing.evm"), test::systemSeparators(root + "/runs/wing.evm"));
+    EXPECT_EQ(wholePath(root + "/wing.evm"), test::systemSeparators(root + "/wing.evm"));
 }
 
 TEST(PathNames, treatAFolderAsNoFile)

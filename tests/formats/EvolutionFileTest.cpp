@@ -146,7 +146,7 @@ TEST_F(EvolutionFile, isOpenedByItsPath)
     const auto evolution =
         openEvolution(m_folder.write("a b.ev2", ev2Header("Airplane=GOLAND\n") + ev2Row(8)));
     EXPECT_EQ(evolution->FileName, "a b.ev2");
-    EXPECT_EQ(evolution->Folder, m_folder.path().string());
+    EXPECT_EQ(evolution->Folder, m_folder.path().generic_string());
     EXPECT_EQ(evolution->Param.Airplane, "GOLAND");
     EXPECT_EQ(numberOf(errorOf([&] { openEvolution(m_folder.file("missing.ev2")); })), 53);
 }

@@ -3,6 +3,7 @@
 
 #include "formats/MdlMix.h"
 #include "support/ScriptedUserInterface.h"
+#include "support/Separators.h"
 #include "support/TestFiles.h"
 
 #include <gtest/gtest.h>
@@ -92,7 +93,8 @@ TEST_F(MixedExport, showsWhatItDoesInTheStatusBar)
 {
     exported("all.mix");
     EXPECT_EQ(user.statuses, statusesOfExport);
-    EXPECT_EQ(user.note, "The mixed modal evolution is in " + folder.file("all.mix"));
+    EXPECT_EQ(user.note,
+              "The mixed modal evolution is in " + test::systemSeparators(folder.file("all.mix")));
 }
 
 TEST_F(MixedExport, writesNothingWhenItIsCancelled)

@@ -3,6 +3,7 @@
 
 #include "base/user/RunTimeError.h"
 #include "solver/PrintedPages.h"
+#include "support/Separators.h"
 #include "support/TestFiles.h"
 
 #include <gmock/gmock.h>
@@ -58,7 +59,7 @@ TEST(SolverOutput, writesWhereAnEvolutionComesFrom)
     const std::string text =
         evolutionText(readSolverOutput(path), 0, units, {"test 1.0", "", "FULL"});
     EXPECT_THAT(text, HasSubstr("Program_version=test 1.0\n"));
-    EXPECT_THAT(text, HasSubstr("Source=" + path + "\n"));
+    EXPECT_THAT(text, HasSubstr("Source=" + test::systemSeparators(path) + "\n"));
     EXPECT_THAT(text, HasSubstr("Source_lines=4-12\n"));
     EXPECT_THAT(text, HasSubstr("Speed_unit=ft/s\n"));
     EXPECT_THAT(text, HasSubstr("Vref=1\n"));

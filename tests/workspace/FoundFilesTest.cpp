@@ -193,8 +193,10 @@ TEST_F(FoundFiles, areFoundWithoutCaseWhereNoNameIsTheSame)
     EXPECT_EQ(found("C:\\STORE\\WING_\u00dc.EV2"), wing);
     const std::string exact = writeBelow("A", "TAIL.EV2");
     EXPECT_EQ(found("C:\\x\\TAIL.EV2"), exact);
-    EXPECT_THAT(foundAll({"/x/tail.ev2", "/x/TAIL.EV2"}),
-                ElementsAre(folder.file("other/tail.ev2"), exact));
+    if (!hasWindowsPaths) { // these are one path on Windows
+        EXPECT_THAT(foundAll({"/x/tail.ev2", "/x/TAIL.EV2"}),
+                    ElementsAre(folder.file("other/tail.ev2"), exact));
+    }
 }
 
 TEST_F(FoundFiles, areOneWherePathsOfADriveDifferInCase)
