@@ -68,7 +68,7 @@ int modeOfTemporary(const TemporaryFolder& folder)
 
 std::string writeOver(const TemporaryFolder& folder, mode_t mode)
 {
-    const std::string path = folder.write("a.txt", "old");
+    std::string path = folder.write("a.txt", "old");
     EXPECT_EQ(::chmod(path.c_str(), mode), 0);
     return path;
 }
@@ -76,7 +76,7 @@ std::string writeOver(const TemporaryFolder& folder, mode_t mode)
 /// The access list in the short form of the system's tools; empty when unsupported.
 std::string accessListOf(const std::string& path)
 {
-    const acl_t list = acl_get_file(path.c_str(), ACL_TYPE_ACCESS);
+    acl_t list = acl_get_file(path.c_str(), ACL_TYPE_ACCESS);
     if (list == nullptr)
         return {};
     char* const text = acl_to_any_text(list, nullptr, ',', TEXT_ABBREVIATE | TEXT_NUMERIC_IDS);
@@ -88,7 +88,7 @@ std::string accessListOf(const std::string& path)
 
 bool setAccessList(const std::string& path, const char* text, acl_type_t type = ACL_TYPE_ACCESS)
 {
-    const acl_t list = acl_from_text(text);
+    acl_t list = acl_from_text(text);
     const bool isSet = acl_set_file(path.c_str(), type, list) == 0;
     acl_free(list);
     return isSet;
@@ -141,7 +141,7 @@ protected:
 
     std::string fileOf(uid_t owner, gid_t group, mode_t mode) const
     {
-        const std::string path = folder.write("a.txt", "old");
+        std::string path = folder.write("a.txt", "old");
         EXPECT_EQ(::chown(path.c_str(), owner, group), 0);
         EXPECT_EQ(::chmod(path.c_str(), mode), 0);
         return path;
@@ -385,7 +385,7 @@ TEST_F(SavedUnderSignals, failsAtTheLimitOfAFilesSize)
 TEST_F(SavedRights, removeWhatAKilledRunLeftADayAgo)
 {
     const auto leave = [this](const char* name, std::time_t age) {
-        const std::string path = folder.write(name, "half");
+        std::string path = folder.write(name, "half");
         const std::time_t then = std::time(nullptr) - age;
         const timespec times[2] = {{then, 0}, {then, 0}};
         EXPECT_EQ(::utimensat(AT_FDCWD, path.c_str(), times, 0), 0);

@@ -38,7 +38,7 @@ public:
     /// As in files: 0.123, 273.646, -4.96966E-05.
     std::string fileField()
     {
-        const std::string plain = sign() + digits(1 + upTo(4)) + "." + digits(upTo(6));
+        std::string plain = sign() + digits(1 + upTo(4)) + "." + digits(upTo(6));
         if (upTo(1) == 0)
             return plain;
         return sign() + digits(1) + "." + digits(5 + upTo(2)) + exponent("E", 2);
@@ -63,7 +63,8 @@ public:
     /// Exactly half-way between two singles, or one unit of the last digit away.
     std::string halfWay()
     {
-        const auto mantissa = static_cast<std::uint64_t>((1 << 23) + upTo((1 << 23) - 1));
+        const auto mantissa =
+            (std::uint64_t {1} << 23U) + static_cast<std::uint64_t>(upTo((1 << 23) - 1));
         std::uint64_t twice = 2 * mantissa + 1;
         int halvings = upTo(10);
         // The digits of twice / 2^halvings: twice * 5^halvings with the point shifted by the
@@ -169,7 +170,7 @@ std::string plainForm(std::string text)
     const std::string mantissa = text.substr(0, letter);
     const std::string exponent = letter == std::string::npos ? "" : text.substr(letter + 1);
     const auto number = mantissa.find_first_not_of('-');
-    const bool bad = number == std::string::npos || number > 1
+    const bool bad = number > 1 // also npos
         || mantissa.find_first_not_of("0123456789.", number) != std::string::npos
         || mantissa.find_first_of("0123456789") == std::string::npos
         || std::count(mantissa.begin(), mantissa.end(), '.') > 1

@@ -20,7 +20,7 @@ protected:
     /// The record with the present paths of its files.
     WorkspaceRecord settled() const
     {
-        WorkspaceRecord record = this->record();
+        WorkspaceRecord record = WorkspaceFixture::record();
         record.files = {wing, old};
         return record;
     }
@@ -71,7 +71,7 @@ TEST_F(CheckOfAWorkspace, findsFilesThatAreElsewhereOrMissing)
 TEST_F(CheckOfAWorkspace, findsAFileThatNoSeriesNeeds)
 {
     WorkspaceRecord record = settled();
-    record.files.push_back("C:\\flutter\\gone.ev2");
+    record.files.emplace_back("C:\\flutter\\gone.ev2");
     EXPECT_EQ(findings(record),
               "11: [MODAL EVOLUTION FILES], File(3): C:\\flutter\\gone.ev2 is missing\n");
 }
@@ -223,7 +223,7 @@ TEST_F(CheckOfAWorkspace, goesOnAfterAFileThatCannotBeOpenedOrRead)
 TEST_F(CheckOfAWorkspace, findsWhereReadingEndsBesidesWhatPrecedesIt)
 {
     WorkspaceRecord record = settled();
-    record.files.push_back("C:\\flutter\\gone.ev2");
+    record.files.emplace_back("C:\\flutter\\gone.ev2");
     record.plots[0].series[0].mode = 9;
     const std::string bytes = test::fileBytes(write(record));
     // The axis of the first plot comes before its series, that of the second after them.

@@ -79,7 +79,7 @@ TEST_F(Document, reportsAtTheGivenDampingUpToTheGivenSpeed)
 
 TEST_F(Document, hasAlsoTheEvolutionsThatNoPlotShows)
 {
-    WorkspaceRecord record = this->record();
+    WorkspaceRecord record = WorkspaceFixture::record();
     record.plots.erase(record.plots.begin());
     EXPECT_EQ(document(write(record)).status, 0);
     EXPECT_THAT(text(), HasSubstr("2  old.evm"));

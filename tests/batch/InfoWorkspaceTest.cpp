@@ -102,7 +102,7 @@ TEST_F(InfoOfAWorkspace, keepsNumbersThatNameNothingAndColoursOfAllBits)
 
 TEST_F(InfoOfAWorkspace, cutsATextWhereTheReaderCutsIt)
 {
-    WorkspaceRecord record = this->record();
+    WorkspaceRecord record = WorkspaceFixture::record();
     record.description = std::string(1100, 'x');
     record.plots[0].header.rtf = "{\\rtf1 " + std::string(2000, 'y') + "}";
     const std::string text = json(test::fileBytes(write(record)));
@@ -112,7 +112,7 @@ TEST_F(InfoOfAWorkspace, cutsATextWhereTheReaderCutsIt)
 
 TEST_F(InfoOfAWorkspace, writesLineBreaksOfEveryTextAlike)
 {
-    WorkspaceRecord record = this->record();
+    WorkspaceRecord record = WorkspaceFixture::record();
     record.description = "first\r\nsecond";
     EXPECT_THAT(json(test::fileBytes(write(record))), HasSubstr(R"("first\nsecond")"));
 }
@@ -127,7 +127,7 @@ TEST_F(InfoOfAWorkspace, needsNoneOfTheEvolutions)
 
 TEST_F(InfoOfAWorkspace, givesTextForPeople)
 {
-    WorkspaceRecord record = this->record();
+    WorkspaceRecord record = WorkspaceFixture::record();
     record.plots[0].header.rtf = test::rtfOf("first\\par second");
     record.plots[1].series.clear();
     const auto result = runBatch({"info", write(record)});
@@ -159,7 +159,7 @@ TEST_F(InfoOfAWorkspace, givesTextForPeople)
 
 TEST_F(InfoOfAWorkspace, givesReferencesLooksAndEditedParameters)
 {
-    WorkspaceRecord record = this->record();
+    WorkspaceRecord record = WorkspaceFixture::record();
     record.files.emplace_back();
     record.edited = {{2, {"QRX", "Flügel \"B\"", 0.62F}}};
     record.reference = 1;

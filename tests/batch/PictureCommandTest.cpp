@@ -21,7 +21,7 @@ protected:
     /// Draws to a file of this name, with more arguments, and returns its path.
     std::string draw(std::string_view name, const std::vector<std::string>& more) const
     {
-        const std::string output = file(name);
+        std::string output = file(name);
         std::vector<std::string> all = {"picture", "--output", output};
         all.insert(all.end(), more.begin(), more.end());
         const auto result = runBatch(all);

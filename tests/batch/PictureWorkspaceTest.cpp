@@ -51,7 +51,7 @@ TEST_F(PictureOfAWorkspace, isOneForEachPlot)
 
 TEST_F(PictureOfAWorkspace, leavesOutHiddenCurves)
 {
-    WorkspaceRecord record = this->record();
+    WorkspaceRecord record = WorkspaceFixture::record();
     const auto picture = [&](const char* name) {
         const std::string path = file(name);
         EXPECT_EQ(runBatch({"picture", "--plot=1", "--output", path, write(record)}).status, 0);
@@ -72,7 +72,7 @@ TEST_F(PictureOfAWorkspace, keepsItsNameForASinglePlot)
 {
     EXPECT_EQ(draw({"--plot", "Store", write(record())}).status, 0);
     EXPECT_THAT(texts("out.svg"), HasSubstr("|header of Store|"));
-    WorkspaceRecord record = this->record();
+    WorkspaceRecord record = WorkspaceFixture::record();
     record.plots.resize(1);
     EXPECT_EQ(draw({write(record)}).status, 0);
     EXPECT_THAT(texts("out.svg"), HasSubstr("|header of Wing|"));
@@ -93,7 +93,7 @@ TEST_F(PictureOfAWorkspace, goesToAFolderUnderItsCaption)
 {
     const std::string folder = file("pictures");
     std::filesystem::create_directory(folder);
-    WorkspaceRecord record = this->record();
+    WorkspaceRecord record = WorkspaceFixture::record();
     record.plots[1].caption = "a/b";
     const std::string path = write(record);
     const auto result = runBatch({"picture", "--all", "--output", folder, path});
@@ -117,7 +117,7 @@ TEST_F(PictureOfAWorkspace, goesToAFolderWithAllOthersOrNotAtAll)
     EXPECT_EQ(missing.status, 1);
     EXPECT_THAT(missing.err, HasSubstr("Path not found"));
     std::filesystem::create_directory(folder);
-    WorkspaceRecord record = this->record();
+    WorkspaceRecord record = WorkspaceFixture::record();
     record.plots[1].axes.speed.ticks = 0;
     const auto result = runBatch({"picture", "--all", "--output", folder, write(record)});
     EXPECT_EQ(result.status, 1);
@@ -152,7 +152,7 @@ TEST_F(PictureOfAWorkspace, hasTheAxesAndColoursOfThePlot)
 
 TEST_F(PictureOfAWorkspace, putsTheTextsWhereTheyStood)
 {
-    WorkspaceRecord record = this->record();
+    WorkspaceRecord record = WorkspaceFixture::record();
     record.plots.resize(1);
     record.plots[0].legend.rtf = test::rtfOf("XX");
     record.plots[0].mechanism.rtf = test::rtfOf("YY");
@@ -183,7 +183,7 @@ TEST_F(PictureOfAWorkspace, usesTextsScaleAndSizeOfTheCommandLine)
 
 TEST_F(PictureOfAWorkspace, hasTheReferencesAndLinesThatWereSaved)
 {
-    WorkspaceRecord record = this->record();
+    WorkspaceRecord record = WorkspaceFixture::record();
     const auto picture = [&] {
         EXPECT_EQ(draw({"--plot=1", write(record)}).status, 0);
         return fileBytes(file("out.svg"));
@@ -210,7 +210,7 @@ TEST_F(PictureOfAWorkspace, hasTheReferencesAndLinesThatWereSaved)
 
 TEST_F(PictureOfAWorkspace, keepsASavedLineAtDampingZeroOnAGivenScale)
 {
-    WorkspaceRecord record = this->record();
+    WorkspaceRecord record = WorkspaceFixture::record();
     record.plots[0].dampingLines = {{0, "g = 0"}};
     EXPECT_EQ(draw({"--plot=1", "--scale", "0,1000,0,30,1,-1", write(record)}).status, 0);
     EXPECT_THAT(texts("out.svg"), HasSubstr("|g = 0|"));
@@ -218,7 +218,7 @@ TEST_F(PictureOfAWorkspace, keepsASavedLineAtDampingZeroOnAGivenScale)
 
 TEST_F(PictureOfAWorkspace, hasItsHeaderInTheRowThatWasSaved)
 {
-    WorkspaceRecord record = this->record();
+    WorkspaceRecord record = WorkspaceFixture::record();
     record.plots[0].header.position = {0, 15 * 40};
     EXPECT_EQ(draw({"--plot=1", write(record)}).status, 0);
     const std::string low = fileBytes(file("out.svg"));
@@ -240,7 +240,7 @@ TEST_F(PictureOfAWorkspace, canTakeATextAway)
 TEST_F(PictureOfAWorkspace, leavesOutWhatIsMissing)
 {
     std::filesystem::remove(old);
-    WorkspaceRecord record = this->record();
+    WorkspaceRecord record = WorkspaceFixture::record();
     record.plots[1].series.insert(record.plots[1].series.begin(), {1, 9, "?", 8, 1, 2, "", 0, 0});
     const auto result = draw({write(record)});
     EXPECT_EQ(result.status, 1);
@@ -253,7 +253,7 @@ TEST_F(PictureOfAWorkspace, leavesOutWhatIsMissing)
 
 TEST_F(PictureOfAWorkspace, namesThePlotThatCannotBeDrawn)
 {
-    WorkspaceRecord record = this->record();
+    WorkspaceRecord record = WorkspaceFixture::record();
     record.plots[1].axes.speed.ticks = 0;
     const auto result = draw({write(record)});
     EXPECT_EQ(result.status, 1);
@@ -264,7 +264,7 @@ TEST_F(PictureOfAWorkspace, namesThePlotThatCannotBeDrawn)
 
 TEST_F(PictureOfAWorkspace, needsAPlot)
 {
-    WorkspaceRecord record = this->record();
+    WorkspaceRecord record = WorkspaceFixture::record();
     const auto unknown = draw({"--plot", "Tail", write(record)});
     EXPECT_EQ(unknown.status, 1);
     EXPECT_THAT(unknown.err, HasSubstr("there are 1 \"Wing\", 2 \"Store\""));

@@ -60,10 +60,10 @@ TEST_F(ReportOfAWorkspace, hasARowForEachSeriesInOrder)
 
 TEST_F(ReportOfAWorkspace, hasTheParametersThatWereEdited)
 {
-    WorkspaceRecord record = this->record();
+    WorkspaceRecord record = WorkspaceFixture::record();
     record.edited = {{1, {"QRX", "heavy", 0.5F}}, {2, {"old", "empty", 0.25F}}};
     const std::string edited = write(record, "edited.tsw");
-    const std::string plain = write(this->record());
+    const std::string plain = write(WorkspaceFixture::record());
     EXPECT_EQ(report({edited, plain, wing}).status, 0);
     const std::string text = fileBytes(file("out.csv"));
     EXPECT_THAT(text, HasSubstr("\r\nwing.ev2,torsion,heavy,0.5,5,"));
@@ -75,7 +75,7 @@ TEST_F(ReportOfAWorkspace, hasTheParametersThatWereEdited)
 
 TEST_F(ReportOfAWorkspace, saysWhichFileHasNoPath)
 {
-    WorkspaceRecord record = this->record();
+    WorkspaceRecord record = WorkspaceFixture::record();
     record.files[1].clear();
     const std::string path = write(record);
     const auto result = report({path});
@@ -98,7 +98,7 @@ TEST_F(ReportOfAWorkspace, usesThePlotAskedFor)
 
 TEST_F(ReportOfAWorkspace, prefersANumberToACaptionAndTheFirstOfEqualCaptions)
 {
-    WorkspaceRecord record = this->record();
+    WorkspaceRecord record = WorkspaceFixture::record();
     record.plots[0].caption = "2";
     EXPECT_EQ(report({"--plot", "2", write(record)}).status, 0);
     EXPECT_EQ(rows(), "wing.ev2 bending 3 350|");
@@ -141,7 +141,7 @@ TEST_F(ReportOfAWorkspace, leavesOutTheSeriesOfAMissingFile)
 
 TEST_F(ReportOfAWorkspace, usesNoFileThatSeveralPathsMean)
 {
-    WorkspaceRecord record = this->record();
+    WorkspaceRecord record = WorkspaceFixture::record();
     record.files = {"C:\\clean\\wing.ev2", "C:\\store\\wing.ev2"};
     const std::string path = write(record);
     const auto result = report({path});
@@ -169,7 +169,7 @@ TEST_F(ReportOfAWorkspace, distinguishesNamesakesByTheirFolders)
     std::string bytes = fileBytes(old);
     folder().write("moved/clean/wing.evm", bytes);
     folder().write("moved/store/wing.evm", bytes.replace(bytes.find("200.000"), 3, "300"));
-    WorkspaceRecord record = this->record();
+    WorkspaceRecord record = WorkspaceFixture::record();
     record.files = {"C:\\store\\wing.evm", "C:\\clean\\wing.evm"};
     record.plots.pop_back();
     record.plots[0].series[0].mode = 1;
@@ -193,14 +193,14 @@ TEST_F(ReportOfAWorkspace, leavesOutTheSeriesOfAFileThatCannotBeRead)
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.err, HasSubstr("Type mismatch: " + old + ", line 4"));
     EXPECT_EQ(rows(), "wing.ev2 torsion 5 250|wing.ev2 bending 3 350|");
-    WorkspaceRecord record = this->record();
+    WorkspaceRecord record = WorkspaceFixture::record();
     record.files[1] = folder().write("notes.txt", "x");
     EXPECT_THAT(report({write(record)}).err, HasSubstr("notes.txt: a modal evolution has .evm"));
 }
 
 TEST_F(ReportOfAWorkspace, leavesOutSeriesThatNameNothing)
 {
-    WorkspaceRecord record = this->record();
+    WorkspaceRecord record = WorkspaceFixture::record();
     record.plots[0].series[0].mode = 3;
     record.plots[0].series[1].evolution = 3;
     record.plots[1].series.resize(4, record.plots[1].series[0]);
@@ -232,7 +232,7 @@ TEST_F(ReportOfAWorkspace, isAmongEvolutionsInTheOrderGiven)
 
 TEST_F(ReportOfAWorkspace, opensAFileThatIsListedTwice)
 {
-    WorkspaceRecord record = this->record();
+    WorkspaceRecord record = WorkspaceFixture::record();
     record.files[1] = record.files[0];
     const auto result = report({write(record)});
     EXPECT_EQ(result.status, 0);
@@ -241,7 +241,7 @@ TEST_F(ReportOfAWorkspace, opensAFileThatIsListedTwice)
 
 TEST_F(ReportOfAWorkspace, hasHeadingsOnlyWithoutPlots)
 {
-    WorkspaceRecord record = this->record();
+    WorkspaceRecord record = WorkspaceFixture::record();
     record.plots.clear();
     EXPECT_EQ(report({write(record)}).status, 0);
     EXPECT_EQ(rows(), "");

@@ -125,8 +125,8 @@ TEST_F(EmfElsewhere, looksLikeTheScreenInLibreOffice)
     // The page is larger than the picture and has another scale: the inks are superimposed.
     const QRect onScreen = test::inkBounds(plot.Image());
     const QRect onPage = test::inkBounds(page);
-    const double scale = double(onPage.width()) / onScreen.width();
-    EXPECT_NEAR(double(onPage.height()) / onScreen.height(), scale, 0.01 * scale);
+    const double scale = static_cast<double>(onPage.width()) / onScreen.width();
+    EXPECT_NEAR(static_cast<double>(onPage.height()) / onScreen.height(), scale, 0.01 * scale);
     const QImage ink =
         page.copy(onPage).scaled(onScreen.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     expectTheScreen(laidOnWhite(ink, onScreen.topLeft(), plot.size()));

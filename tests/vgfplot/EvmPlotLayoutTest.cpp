@@ -51,7 +51,7 @@ TEST_P(EvmPlotLayout, putsTheCanvasesAtTheirFractions)
 TEST_P(EvmPlotLayout, putsTheSpeedAxisBetweenTheHalves)
 {
     // The half height 0.42 and the top 0.1 + 0.03 together.
-    EXPECT_NEAR(plot.parts().velAxis.Top() + plot.parts().velAxis.Height() / 2, 0.55 * height,
+    EXPECT_NEAR(plot.parts().velAxis.Top() + plot.parts().velAxis.Height() / 2.0, 0.55 * height,
                 rowTolerance);
     EXPECT_EQ(plot.parts().velAxis.Top() + plot.parts().velAxis.Height() / 2,
               plot.parts().vfPlot.Top() + plot.parts().vfPlot.Height());

@@ -216,7 +216,7 @@ TEST_F(EvmPlotPicture, writesNothingButNamesOfFontsIntoAnSvg)
         plot.texts().setTextRTF(TextBox::Header,
                                 std::string("{\\rtf1{\\fonttbl{\\f0 ") + face
                                     + ";}}\\f0 header\\par}");
-        const QByteArray svg = pictureBytes(plot, PictureFormat::Svg);
+        QByteArray svg = pictureBytes(plot, PictureFormat::Svg);
         EXPECT_NO_THROW(test::playSvg(svg)) << face;
         return svg;
     };
