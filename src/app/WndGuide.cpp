@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "app/WndGuide.h"
 
+#include "plotwindow/ScreenSize.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -45,7 +47,7 @@ wndGuide::wndGuide(const QString& path, QWidget* parent)
     setObjectName(QStringLiteral("wndGuide"));
     setWindowTitle(tr("Guide"));
     setAccessibleName(windowTitle());
-    resize(900, 700);
+    resize(sizeOnScreen(*this, {900, 700}));
     m_browser->setObjectName(QStringLiteral("guide"));
     m_browser->setAccessibleName(tr("Guide"));
     m_browser->setOpenExternalLinks(true);

@@ -16,6 +16,8 @@
 
 #include <gmock/gmock.h>
 
+#include <array>
+
 using namespace tarsil;
 using test::describe;
 using ::testing::ElementsAre;
@@ -25,7 +27,9 @@ using ::testing::SizeIs;
 namespace {
 
 constexpr double leastContrast = 4.5; // WCAG 2.1, success criterion 1.4.3
-constexpr QSize smallScreen(1024, 700);
+
+/// A small screen, and one of 1536 x 1024 pixels at a scale of 150 %.
+constexpr std::array<QSize, 2> smallScreens = {QSize(1024, 700), QSize(1024, 682)};
 
 QPalette lightDesktop()
 {
@@ -169,7 +173,7 @@ std::vector<std::string> unreadableIn(const QWidget& window)
 class Desktops : public WithDesktop, public test::EveryWindow
 { };
 
-class SmallScreen : public test::EveryWindow
+class SmallScreen : public test::EveryWindow, public ::testing::WithParamInterface<QSize>
 { };
 
 /// Notes are shortened where there is no room, and show the whole text in their tool tip.
@@ -225,10 +229,11 @@ INSTANTIATE_TEST_SUITE_P(Looks, Desktops, ::testing::Bool(), [](const auto& test
     return nameOfDesktop(tested.param).toStdString();
 });
 
-TEST_F(SmallScreen, showsEveryWindowWhole)
+TEST_P(SmallScreen, showsEveryWindowWhole)
 {
+    const QSize smallScreen = GetParam();
     window.resize(smallScreen);
-    visit([](QWidget& shown) {
+    visit([smallScreen](QWidget& shown) {
         const QSize least = shown.minimumSizeHint().expandedTo(shown.minimumSize());
         EXPECT_EQ(least.boundedTo(smallScreen), least)
             << shown.objectName().toStdString() << " needs " << sizeText(least);
@@ -238,6 +243,9 @@ TEST_F(SmallScreen, showsEveryWindowWhole)
         EXPECT_THAT(cutIn(shown), ElementsAre());
     });
 }
+
+INSTANTIATE_TEST_SUITE_P(Looks, SmallScreen, ::testing::ValuesIn(smallScreens),
+                         [](const auto& tested) { return sizeText(tested.param); });
 
 TEST(LooksCheck, findsPlantedFaults)
 {
