@@ -10,6 +10,7 @@
 #include <array>
 #include <filesystem>
 #include <ostream>
+#include <system_error>
 
 namespace tarsil::batch {
 
@@ -219,12 +220,15 @@ int writeEvolutions(const solver::ImportPlan& plan, BatchRun& run)
     return written.failures.empty() ? done : failed;
 }
 
+/// A folder whose state is unknown shows it when the first file is written.
 std::string existingFolder(const CommandLine& line)
 {
     const auto folder = line.value("--output");
     if (!folder)
         throw UsageError("--output is missing: the folder to write to");
-    if (!std::filesystem::is_directory(nativePath(*folder)))
+    std::error_code unknown;
+    const auto status = std::filesystem::status(nativePath(*folder), unknown);
+    if (std::filesystem::status_known(status) && !std::filesystem::is_directory(status))
         throw Failure(*folder + " is not a folder");
     return *folder;
 }

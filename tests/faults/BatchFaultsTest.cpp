@@ -18,7 +18,17 @@ struct BatchWriter
     std::vector<std::string> words; ///< after the program's name
     std::string file;
     std::vector<std::string> inputs;
+    bool namesFolder = false; ///< whether the command is given the folder of the file
 };
+
+/// The part of a printed solver output with one analysis.
+std::string firstAnalysis()
+{
+    static const TemporaryFolder folder;
+    const std::string text = fileBytes(sample("goland_clean.f06"));
+    const std::size_t next = text.find("SUBCASE 2");
+    return folder.write("wing.f06", text.substr(0, text.rfind('\n', next) + 1));
+}
 
 std::vector<BatchWriter> batchWriters()
 {
@@ -33,6 +43,21 @@ std::vector<BatchWriter> batchWriters()
             {"png", {"picture"}, "plot.png", {clean}},
             {"metafile", {"picture"}, "plot.emf", {clean}},
             {"pictureOfAWorkspace", {"picture", "--plot", "1"}, "plot.svg", {sample("goland.tsw")}},
+            {"documentAsPdf", {"document"}, "report.pdf", {sample("goland.tsw")}},
+            {"documentAsText", {"document"}, "report.odt", {sample("goland.tsw")}},
+            {"documentAsPage", {"document"}, "report.html", {sample("goland.tsw")}},
+            {"trendPicture", {"trend"}, "trend.svg", {clean, store}},
+            {"trendWorkbook", {"trend"}, "trend.xlsx", {clean, store}},
+            {"trendTable", {"trend"}, "trend.csv", {clean, store}},
+            {"trendForScripts", {"trend"}, "trend.json", {clean, store}},
+            {"crossingsWorkbook", {"crossings"}, "crossings.xlsx", {clean}},
+            {"crossingsTable", {"crossings"}, "crossings.csv", {clean}},
+            {"crossingsForScripts", {"crossings"}, "crossings.json", {clean}},
+            {"import",
+             {"import", "--speed-unit", "in/s"},
+             "wing_s1_M0.40.ev2",
+             {firstAnalysis()},
+             true},
             {"conversion", {"convert"}, "case.evm", {clean}},
             {"mix", {"mix"}, "worst.mix", {clean + ":1,2", store + ":2"}}};
 }
@@ -55,7 +80,8 @@ TEST_P(BatchFaults, leaveTheOldFileOrTheNewOne)
     const auto command = [&writer](const std::string& target) {
         std::vector<std::string> words {TARSIL_BATCH};
         words.insert(words.end(), writer.words.begin(), writer.words.end());
-        words.insert(words.end(), {"--output", target});
+        const std::string folder = target.substr(0, target.rfind('/'));
+        words.insert(words.end(), {"--output", writer.namesFolder ? folder : target});
         words.insert(words.end(), writer.inputs.begin(), writer.inputs.end());
         return words;
     };

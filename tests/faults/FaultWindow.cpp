@@ -3,7 +3,7 @@
 // The main window without a user: opens the files, runs one command, and quits. Exits with 1 when a
 // message other than of success was shown, and prints it to standard error.
 //
-// usage: fault_window save|picture|mix|report|options|quit TARGET [FILE...]
+// usage: fault_window save|picture|mix|report|document|pictures|options|quit TARGET [FILE...]
 
 #include "app/WndMain.h"
 #include "support/SilentUser.h"
@@ -20,8 +20,8 @@ namespace {
 
 using namespace tarsil;
 
-/// Answers a question for a file to save with the target and the others so that the command goes
-/// on.
+/// Answers a question for a file to save with the target, that for a format with the second, SVG,
+/// and the others so that the command goes on.
 class EagerUser : public test::SilentUser
 {
 public:
@@ -48,9 +48,18 @@ public:
     {
         return "0";
     }
+    std::optional<std::size_t> askChoice(const std::string&, const std::string&,
+                                         const std::vector<std::string>&) override
+    {
+        return 1;
+    }
     std::optional<std::string> askSaveFile(const FileQuestion& /*question*/) override
     {
         return m_target;
+    }
+    std::optional<std::string> askFolder(const std::string& /*initial*/) override
+    {
+        return QFileInfo(QString::fromStdString(m_target)).path().toStdString();
     }
 
 private:
@@ -83,6 +92,10 @@ void give(wndMain& window, const std::string& command)
         choose(window, "ExportMenu");
     else if (command == "report")
         choose(window, "mnuFlutCalc");
+    else if (command == "document")
+        choose(window, "writeDocument");
+    else if (command == "pictures")
+        choose(window, "savePictures");
     else if (command == "options")
         changeOptions(window);
 }

@@ -23,6 +23,7 @@ struct WindowWriter
     std::string old = Writer().old;
     bool makesFile = true;
     std::string remark = {};
+    const char* input = "goland_clean_m040.ev2";
 };
 
 std::vector<WindowWriter> windowWriters()
@@ -31,6 +32,9 @@ std::vector<WindowWriter> windowWriters()
             {"picture", "plot.emf"},
             {"mix", "worst.mix"},
             {"report", "Flutter report*.xlsx", ""},
+            // The dates of the document are those of the workspace.
+            {"document", "report.pdf", Writer().old, true, {}, "goland.tsw"},
+            {"pictures", "Plot1.svg"},
             {"options", "tarsil.ini", settings, true, unreadSettings},
             {"quit", "tarsil.ini", settings, false}};
 }
@@ -52,7 +56,7 @@ TEST_P(WindowFaults, leaveTheOldFileOrTheNewOne)
     const WindowWriter& writer = GetParam();
     const auto command = [&writer](const std::string& target) {
         return std::vector<std::string> {TARSIL_FAULT_WINDOW, writer.command, target,
-                                         sample("goland_clean_m040.ev2")};
+                                         sample(writer.input)};
     };
     FaultTrial({command, writer.file, writer.old, writer.makesFile, writer.remark, "windows.ini"})
         .run();
