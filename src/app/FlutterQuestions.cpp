@@ -49,6 +49,15 @@ std::optional<std::string> FlutterQuestions::askMach(const AeMode& mode, std::st
     return answer;
 }
 
+std::optional<std::string>
+FlutterQuestions::askMachOnce(const AeMode& mode, std::string_view prompt, std::string_view busy)
+{
+    const auto answer = m_machAnswers.find(mode.Parent->path());
+    if (answer != m_machAnswers.end() && !answer->second.empty())
+        return answer->second;
+    return askMach(mode, prompt, busy);
+}
+
 float FlutterQuestions::answeredMach(const EVM& evolution) const
 {
     const auto answer = m_machAnswers.find(evolution.path());

@@ -19,7 +19,7 @@ struct FlutterAnswers
     double speedLimit = 0; ///< KEAS
 };
 
-/// The questions of the commands that compute a flutter table.
+/// The questions of the commands that compute a flutter table, which share the answers.
 class FlutterQuestions
 {
 public:
@@ -35,6 +35,10 @@ public:
     /// status afterwards.
     std::optional<std::string> askMach(const AeMode& mode, std::string_view prompt,
                                        std::string_view busy);
+
+    /// Like `askMach`, but asks only for an evolution without an earlier answer.
+    std::optional<std::string> askMachOnce(const AeMode& mode, std::string_view prompt,
+                                           std::string_view busy);
 
     /// The last answer of the user for an evolution; 0 when there is none.
     float answeredMach(const EVM& evolution) const;

@@ -27,8 +27,10 @@ public:
     /// Opens a file in the system's program for it. False when there is none.
     using FileOpener = std::function<bool(const QString&)>;
 
-    FlutterReportCommand(UserInterface& userInterface, FileOpener opener)
-        : m_userInterface(userInterface), m_questions(userInterface), m_opener(std::move(opener))
+    /// `userInterface` and `questions` must outlive this object.
+    FlutterReportCommand(UserInterface& userInterface, FlutterQuestions& questions,
+                         FileOpener opener)
+        : m_userInterface(userInterface), m_questions(questions), m_opener(std::move(opener))
     { }
 
     /// Writes the workbook to `folder`. First shows which rows of the plot have no curve and are
@@ -46,7 +48,7 @@ private:
     void open(const QString& path);
 
     UserInterface& m_userInterface;
-    FlutterQuestions m_questions;
+    FlutterQuestions& m_questions;
     FileOpener m_opener;
 };
 

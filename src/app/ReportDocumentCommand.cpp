@@ -20,6 +20,7 @@
 #include <QString>
 
 #include <algorithm>
+#include <cstddef>
 #include <vector>
 
 namespace tarsil {
@@ -69,9 +70,21 @@ void ReportDocumentCommand::run()
     const BusyStatus status(m_user, writingReport);
     ReportInput input = inputOf(*answers);
     addFlutterTable(input);
-    addStability(input);
-    writeReport(reportContent(input), *path);
-    m_user.showNote("The report document is in " + wholePath(*path));
+    m_user.showNote(write(input, *path) ? "The report document is in " + wholePath(*path)
+                                        : "Stopped: no report document was written");
+}
+
+/// The stability, the content and the file are a third of the progress each. False after a stop.
+bool ReportDocumentCommand::write(ReportInput& input, const std::string& path) const
+{
+    const Progress progress = [this](std::size_t done, std::size_t total) {
+        return m_user.showProgress(done, total);
+    };
+    constexpr std::size_t parts = 3;
+    if (!addStability(input, partOf(progress, 0, parts)))
+        return false;
+    const auto content = reportContent(input, partOf(progress, 1, parts));
+    return content && writeReport(*content, path, partOf(progress, 2, parts));
 }
 
 std::optional<std::string> ReportDocumentCommand::askFile()
@@ -112,7 +125,7 @@ void ReportDocumentCommand::addFlutterTable(ReportInput& input)
             failures.push_back(error.description());
     };
     const auto askMach = [this](const AeMode& mode, std::string_view prompt) {
-        return m_questions.askMach(mode, prompt, writingReport);
+        return m_questions.askMachOnce(mode, prompt, writingReport);
     };
     FlutterReport(input.referenceDamping, input.speedLimit, askMach)
         .writeWhatCan(reportRows(input.record.plots, input.evolutions), input.flutterTable,
@@ -123,17 +136,23 @@ void ReportDocumentCommand::addFlutterTable(ReportInput& input)
                            "Tarsil", MessageIcon::Exclamation);
 }
 
-void ReportDocumentCommand::addStability(ReportInput& input) const
+/// False after a stop.
+bool ReportDocumentCommand::addStability(ReportInput& input, const Progress& progress) const
 {
     const AirplaneInfo& airplane = m_document.airplane();
     input.stability.program = "Tarsil " + QCoreApplication::applicationVersion().toStdString();
     input.stability.settings = reportSettings(input.referenceDamping);
-    for (const EVM* evolution : presentEvolutions(input.evolutions)) {
+    const std::vector<const EVM*> evolutions = presentEvolutions(input.evolutions);
+    for (const EVM* evolution : evolutions) {
         StabilityInput one {evolution, m_questions.answeredMach(*evolution), std::nullopt};
         if (!airplane.FlutterEnvs.empty())
             one.required = requiredSpeed(*evolution, airplane, Requirement());
-        input.stability.evolutions.push_back(judged(one, input.stability.settings));
+        std::vector<EvolutionStability>& judgedOnes = input.stability.evolutions;
+        judgedOnes.push_back(judged(one, input.stability.settings));
+        if (!goesOn(progress, judgedOnes.size(), evolutions.size()))
+            return false;
     }
+    return true;
 }
 
 } // namespace tarsil

@@ -3,6 +3,7 @@
 
 #include "base/files/PathNames.h"
 #include "base/text/ShortList.h"
+#include "base/user/BusyStatus.h"
 #include "base/user/RunTimeError.h"
 #include "base/user/UserInterface.h"
 #include "document/PlotList.h"
@@ -13,6 +14,7 @@
 #include <cstddef>
 #include <iterator>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 namespace tarsil {
@@ -20,6 +22,7 @@ namespace tarsil {
 namespace {
 
 constexpr const char* allPicturesTitle = "Save All Pics";
+constexpr std::string_view savingPictures = "Save All Pics. Please Wait ...";
 
 std::optional<PictureFormat> askFormat(UserInterface& user)
 {
@@ -56,18 +59,32 @@ std::vector<std::string> picturePathsOf(const std::vector<EvmPlot*>& plots,
     return paths;
 }
 
-void writeAll(const std::vector<EvmPlot*>& plots, const std::vector<std::string>& paths,
-              PictureFormat format)
+/// Returns the number of pictures written before a stop.
+std::size_t writeAll(const std::vector<EvmPlot*>& plots, const std::vector<std::string>& paths,
+                     PictureFormat format, UserInterface& user)
 {
+    const BusyStatus status(user, savingPictures);
     PictureFiles files;
-    for (std::size_t i = 0; i < plots.size(); ++i) {
+    std::size_t count = 0;
+    do {
+        const EvmPlot& plot = *plots[count];
         try {
-            files.add(*plots[i], paths[i], format);
+            files.add(plot, paths[count], format);
         } catch (const RunTimeError& error) {
-            throw error.at("plot \"" + plots[i]->properties().Caption().toStdString() + "\"");
+            throw error.at("plot \"" + plot.properties().Caption().toStdString() + "\"");
         }
-    }
+        ++count;
+    } while (user.showProgress(count, plots.size()) && count < plots.size());
     files.commit();
+    return count;
+}
+
+std::string countText(std::size_t written, std::size_t all)
+{
+    if (written < all)
+        return "Stopped: " + std::to_string(written) + " of " + std::to_string(all)
+            + " pictures are";
+    return std::to_string(all) + (all == 1 ? " picture is" : " pictures are");
 }
 
 } // namespace
@@ -82,10 +99,9 @@ void saveAllPictures(const PlotList& list, const std::string& folder, UserInterf
     const std::vector<std::string> paths = picturePathsOf(plots, *chosen, *format);
     if (!mayReplaceAll(paths, user))
         return;
-    writeAll(plots, paths, *format);
-    user.showNote(std::to_string(plots.size())
-                  + (plots.size() == 1 ? " picture is" : " pictures are") + " in "
-                  + wholePath(*chosen) + " (" + std::string(pictureTraitsOf(*format).name) + ")");
+    const std::size_t written = writeAll(plots, paths, *format, user);
+    user.showNote(countText(written, plots.size()) + " in " + wholePath(*chosen) + " ("
+                  + std::string(pictureTraitsOf(*format).name) + ")");
 }
 
 } // namespace tarsil

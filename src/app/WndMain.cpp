@@ -102,7 +102,8 @@ wndMain::wndMain(UserInterface& userInterface, FlutterReportCommand::FileOpener 
                  OptionsStore store)
     : m_userInterface(userInterface), m_workspace(m_document, userInterface),
       m_store(std::move(store)), m_memory(m_store.memory()), m_recovery(folderOf(m_store.path())),
-      m_report(userInterface, std::move(opener)), m_reportDocument(m_document, userInterface),
+      m_questions(userInterface), m_report(userInterface, m_questions, std::move(opener)),
+      m_reportDocument(m_document, userInterface, m_questions),
       m_tracking(m_document, userInterface),
       m_reportFolder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)),
       m_area(new QMdiArea(this)), m_statusPanels(new StatusPanels(this))

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/ChildLayout.h"
+#include "app/FlutterQuestions.h"
 #include "app/FlutterReportCommand.h"
 #include "app/RecentFiles.h"
 #include "app/ReportDocumentCommand.h"
@@ -189,6 +190,7 @@ private:
     OptionsStore m_store;
     OptionsStore m_memory; ///< of the windows
     std::optional<RecoveryCopy> m_recovery; ///< until the program ends
+    FlutterQuestions m_questions;
     FlutterReportCommand m_report;
     ReportDocumentCommand m_reportDocument;
     TrackingCommands m_tracking;

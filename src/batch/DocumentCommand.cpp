@@ -85,7 +85,7 @@ int runDocument(const CommandLine& line, BatchRun& run)
                                               options, input.flutterTable, run);
     input.stability =
         stabilityOfEvolutions(workspace.evolutions, settings, aircraft, options.machNumber());
-    writeReport(reportContent(input), output);
+    writeReport(reportContent(input).value(), output);
     const bool pass = allPass(input.stability.evolutions, run);
     return workspace.isWhole && isComplete && pass ? done : failed;
 }

@@ -8,6 +8,7 @@
 #include "base/text/ShortList.h"
 #include "base/user/BusyStatus.h"
 #include "base/user/ErrorGuard.h"
+#include "base/user/Progress.h"
 #include "base/user/RunTimeError.h"
 #include "base/user/UserInterface.h"
 #include "document/Document.h"
@@ -15,6 +16,7 @@
 #include "importing/ImportPreview.h"
 #include "model/EVM.h"
 #include "plotwindow/InputMessage.h"
+#include "plotwindow/ScreenSize.h"
 #include "plotwindow/ToolTipText.h"
 #include "plotwindow/WarningColor.h"
 
@@ -109,7 +111,7 @@ dlgImport::dlgImport(Document& document, UserInterface& user, OptionsStore store
     colorDoubts();
     fillUnitInputs();
     connectInputs();
-    resize(960, 660);
+    resize(sizeOnScreen(*this, {960, 660}));
 }
 
 dlgImport::~dlgImport() = default;
@@ -170,15 +172,20 @@ bool dlgImport::addFiles(const std::vector<std::string>& paths)
     return true;
 }
 
-/// The files read before a stop are in the plan.
+/// The files read before a stop are in the plan, and nothing of the one that is being read.
 void dlgImport::read(const std::vector<std::string>& paths)
 {
     const BusyStatus status(m_user, reading);
-    for (std::size_t done = 1; done <= paths.size(); ++done) {
-        m_plan.add(paths[done - 1]);
-        if (m_user.showProgress(done, paths.size()) || done == paths.size())
+    const std::size_t count = paths.size();
+    const Progress progress = [this](std::size_t done, std::size_t total) {
+        return m_user.showProgress(done, total);
+    };
+    for (std::size_t i = 0; i < count; ++i) {
+        const bool isRead = m_plan.add(paths[i], partOf(progress, i, count));
+        const std::size_t read = isRead ? i + 1 : i;
+        if (isRead && (m_user.showProgress(read, count) || read == count))
             continue;
-        m_user.showNote("Stopped: " + std::to_string(done) + " of " + std::to_string(paths.size())
+        m_user.showNote("Stopped: " + std::to_string(read) + " of " + std::to_string(count)
                         + " files were read");
         return;
     }

@@ -35,7 +35,7 @@ class PagePainter
 public:
     PagePainter(const PrintJob& job, QPagedPaintDevice& device);
 
-    void drawAll();
+    bool drawAll(const Progress& progress);
 
 private:
     void drawPage(std::size_t page);
@@ -116,21 +116,24 @@ void PagePainter::drawPage(std::size_t page)
         drawPlot(*m_job.plots[i], m_layout.cells[i - first]);
 }
 
-void PagePainter::drawAll()
+bool PagePainter::drawAll(const Progress& progress)
 {
     const std::size_t count = pageCount(m_job.plots.size(), m_job.plotsPerPage);
     for (std::size_t page = 0; page < count; ++page) {
         if (page > 0 && !m_device.newPage())
             failPrinting();
         drawPage(page);
+        if (!goesOn(progress, page + 1, count) && page + 1 < count)
+            return false;
     }
+    return true;
 }
 
 } // namespace
 
-void printPlots(const PrintJob& job, QPagedPaintDevice& device)
+bool printPlots(const PrintJob& job, QPagedPaintDevice& device, const Progress& progress)
 {
-    PagePainter(job, device).drawAll();
+    return PagePainter(job, device).drawAll(progress);
 }
 
 } // namespace tarsil

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "base/user/Progress.h"
+
 #include <QString>
 
 #include <cstddef>
@@ -24,7 +26,8 @@ struct PrintJob
 
 /// Draws the plots on the pages of a printer or a PDF, as vectors, each with its caption above it.
 /// The page layout is that of the device. Errors: 5 when the device cannot be drawn on; those of
-/// drawing a plot. Pages drawn before an error may have been printed.
-void printPlots(const PrintJob& job, QPagedPaintDevice& device);
+/// drawing a plot. Pages drawn before an error may have been printed. Reports progress after each
+/// page. Returns false after a stop, when pages are missing.
+bool printPlots(const PrintJob& job, QPagedPaintDevice& device, const Progress& progress = {});
 
 } // namespace tarsil

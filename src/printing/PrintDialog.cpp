@@ -3,6 +3,7 @@
 
 #include "base/files/AtomicFile.h"
 #include "base/files/PathNames.h"
+#include "base/user/BusyStatus.h"
 #include "base/user/ErrorGuard.h"
 #include "base/user/UserInterface.h"
 #include "document/DateText.h"
@@ -31,6 +32,7 @@ namespace tarsil {
 namespace {
 
 constexpr std::string_view printModule = "PrintDialog";
+constexpr std::string_view printing = "Print Plots. Please Wait ...";
 constexpr std::string_view pdfFilter = "PDF (*.pdf)|*.pdf|";
 
 QPushButton* buttonOf(QWidget* parent, const char* name, const QString& caption)
@@ -148,30 +150,39 @@ void PrintDialog::setUpPage()
     dialog.exec();
 }
 
-void PrintDialog::printOn(QPrinter& printer)
-{
-    guarded(m_user, printModule, [&] { printPlots(job(), printer); });
-}
-
 void PrintDialog::preview()
 {
     QPrintPreviewDialog dialog(m_printer.get(), this);
     dialog.setObjectName(QStringLiteral("printPreview"));
     dialog.setWindowTitle(tr("Print Preview"));
     dialog.setAccessibleName(dialog.windowTitle());
-    connect(&dialog, &QPrintPreviewDialog::paintRequested, this,
-            [this](QPrinter* printer) { printOn(*printer); });
+    connect(&dialog, &QPrintPreviewDialog::paintRequested, this, [this](QPrinter* printer) {
+        guarded(m_user, printModule, [&] { printPlots(job(), *printer); });
+    });
     dialog.exec();
 }
 
+/// The dialog stays open after a stop. The printer gets the pages drawn before.
 void PrintDialog::print()
 {
     QPrintDialog dialog(m_printer.get(), this);
     dialog.setAccessibleName(dialog.windowTitle());
     if (dialog.exec() != QDialog::Accepted)
         return;
-    printOn(*m_printer);
-    accept();
+    bool isStopped = false;
+    guarded(m_user, printModule, [&] {
+        const BusyStatus status(m_user, printing);
+        isStopped = !printPlots(job(), *m_printer, shownProgress());
+        if (isStopped)
+            m_user.showNote("Stopped: only the first pages were printed");
+    });
+    if (!isStopped)
+        accept();
+}
+
+Progress PrintDialog::shownProgress()
+{
+    return [this](std::size_t done, std::size_t total) { return m_user.showProgress(done, total); };
 }
 
 /// The file is written whole or not at all.
@@ -193,7 +204,11 @@ void PrintDialog::writePdf()
         QPdfWriter writer(&buffer);
         writer.setTitle(m_document.texts().name);
         writer.setPageLayout(m_printer->pageLayout());
-        printPlots(job(), writer);
+        const BusyStatus status(m_user, printing);
+        if (!printPlots(job(), writer, shownProgress())) {
+            m_user.showNote("Stopped: no file was written");
+            return;
+        }
         const QByteArray& bytes = buffer.data();
         writeFile(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
         m_user.showNote("The plots are in " + wholePath(path));

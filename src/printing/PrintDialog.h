@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "base/user/Progress.h"
+
 #include <QDialog>
 
 #include <memory>
@@ -41,7 +43,7 @@ private:
     void preview();
     void print();
     void writePdf();
-    void printOn(QPrinter& printer);
+    Progress shownProgress();
 
     Document& m_document;
     UserInterface& m_user;

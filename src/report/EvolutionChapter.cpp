@@ -109,26 +109,31 @@ ReportTable factsAbout(const EVM& evolution, bool isReference)
     return facts.take();
 }
 
+void addEvolution(const ReportInput& input, std::size_t index, ReportSection& section)
+{
+    const std::string number = std::to_string(index + 1);
+    const EVM* const evolution = input.evolutions[index];
+    if (evolution == nullptr) {
+        const std::string& path = input.record.files.at(index);
+        section.blocks.emplace_back(ReportHeading {2, number + "  " + resolvePath(path).name});
+        section.blocks.emplace_back(ReportParagraph {
+            shownPath(path) + " could not be opened; its curves are left out.", CellStyle::Bad});
+        return;
+    }
+    const bool isReference = input.record.reference == static_cast<int>(index + 1);
+    section.blocks.emplace_back(ReportHeading {2, number + "  " + evolution->FileName});
+    section.blocks.emplace_back(factsAbout(*evolution, isReference));
+}
+
 } // namespace
 
-ReportSection evolutionChapter(const ReportInput& input)
+ReportSection evolutionChapter(const ReportInput& input, StepCounter& steps)
 {
     ReportSection section;
     section.blocks.emplace_back(ReportHeading {1, "Modal evolutions"});
-    for (std::size_t i = 0; i < input.evolutions.size(); ++i) {
-        const std::string number = std::to_string(i + 1);
-        const EVM* const evolution = input.evolutions[i];
-        if (evolution == nullptr) {
-            const std::string& path = input.record.files.at(i);
-            section.blocks.emplace_back(ReportHeading {2, number + "  " + resolvePath(path).name});
-            section.blocks.emplace_back(
-                ReportParagraph {shownPath(path) + " could not be opened; its curves are left out.",
-                                 CellStyle::Bad});
-            continue;
-        }
-        const bool isReference = input.record.reference == static_cast<int>(i + 1);
-        section.blocks.emplace_back(ReportHeading {2, number + "  " + evolution->FileName});
-        section.blocks.emplace_back(factsAbout(*evolution, isReference));
+    for (std::size_t i = 0; i < input.evolutions.size() && !steps.isStopped(); ++i) {
+        addEvolution(input, i, section);
+        steps.next();
     }
     return section;
 }

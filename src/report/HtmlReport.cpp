@@ -164,20 +164,24 @@ QString head(const ReportContent& content)
 
 } // namespace
 
-QByteArray htmlReport(const ReportContent& content)
+std::optional<std::string> htmlReport(const ReportContent& content, const Progress& progress)
 {
+    StepCounter steps(progress, blockCount(content) + 1);
     HtmlBlocks blocks;
     for (const ReportSection& section : content.sections) {
         blocks.beginSection();
-        for (const ReportBlock& block : section.blocks)
+        for (const ReportBlock& block : section.blocks) {
             std::visit(blocks, block);
+            if (!steps.next())
+                return std::nullopt;
+        }
         blocks.endSection();
     }
     const QString foot =
         QStringLiteral("<footer><p>%1 &middot; %2</p></footer>\n</body>\n</html>\n")
             .arg(shownText(content.program).toHtmlEscaped(),
                  shownText(content.date).toHtmlEscaped());
-    return (head(content) + blocks.html() + foot).toUtf8();
+    return (head(content) + blocks.html() + foot).toStdString();
 }
 
 } // namespace tarsil

@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <QByteArray>
+#include "base/user/Progress.h"
+
+#include <optional>
+#include <string>
 
 namespace tarsil {
 
 struct ReportContent;
 
 /// The document as a page of HTML in UTF-8 that needs no other file; its pictures are SVG. Equal
-/// contents give equal bytes. Needs a QGuiApplication. Errors: those of the pictures.
-QByteArray htmlReport(const ReportContent& content);
+/// contents give equal bytes. Needs a QGuiApplication. Reports progress after each block.
+/// Empty after a stop. Errors: those of the pictures.
+std::optional<std::string> htmlReport(const ReportContent& content, const Progress& progress);
 
 } // namespace tarsil

@@ -71,8 +71,8 @@ public:
         : m_content(content), m_tables(tablesOf(content))
     { }
 
-    /// The part "content.xml".
-    std::string body();
+    /// The part "content.xml". Each block is a step; after a stop it is incomplete.
+    std::string body(StepCounter& steps);
 
     /// The pictures; call after `body`.
     std::vector<ArchivePart> takePictures() { return std::move(m_pictures); }
@@ -80,7 +80,7 @@ public:
 private:
     void addTableStyles();
     void addTableStyle(const TablePart& part, std::size_t number);
-    void addSection(const ReportSection& section, bool isFirst);
+    void addSection(const ReportSection& section, bool isFirst, StepCounter& steps);
     void addBlock(const ReportHeading& heading);
     void addBlock(const ReportParagraph& paragraph);
     void addBlock(const ReportTable& table);
@@ -220,16 +220,19 @@ void OdtWriter::addBlock(const ReportPicture& picture)
     m_xml.add("text:p", {{"text:style-name", QStringLiteral("Caption")}}, caption);
 }
 
-void OdtWriter::addSection(const ReportSection& section, bool isFirst)
+void OdtWriter::addSection(const ReportSection& section, bool isFirst, StepCounter& steps)
 {
     const auto& heading = std::get<ReportHeading>(section.blocks.front());
     m_pageHeading = pageHeadingStyle(heading.level, section.isLandscape, isFirst);
     m_area = paper::contentArea(section.isLandscape).size();
-    for (const ReportBlock& block : section.blocks)
+    for (const ReportBlock& block : section.blocks) {
         std::visit([this](const auto& one) { addBlock(one); }, block);
+        if (!steps.next())
+            return;
+    }
 }
 
-std::string OdtWriter::body()
+std::string OdtWriter::body(StepCounter& steps)
 {
     m_xml.begin("office:automatic-styles");
     addContentStyles(m_xml);
@@ -238,8 +241,10 @@ std::string OdtWriter::body()
     m_xml.begin("office:body");
     m_xml.begin("office:text");
     bool isFirst = true;
-    for (const ReportSection& section : m_content.sections)
-        addSection(section, std::exchange(isFirst, false));
+    for (const ReportSection& section : m_content.sections) {
+        if (!steps.isStopped())
+            addSection(section, std::exchange(isFirst, false), steps);
+    }
     return m_xml.finish();
 }
 
@@ -267,10 +272,13 @@ std::string manifestOf(const std::vector<ArchivePart>& pictures)
 
 } // namespace
 
-std::string odtReport(const ReportContent& content)
+std::optional<std::string> odtReport(const ReportContent& content, const Progress& progress)
 {
+    StepCounter steps(progress, blockCount(content) + 1);
     OdtWriter writer(content);
-    std::string body = writer.body();
+    std::string body = writer.body(steps);
+    if (steps.isStopped())
+        return std::nullopt;
     std::vector<ArchivePart> pictures = writer.takePictures();
     std::vector<ArchivePart> parts = {{"mimetype", mimeType, false},
                                       {"META-INF/manifest.xml", manifestOf(pictures)},

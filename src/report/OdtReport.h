@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "base/user/Progress.h"
+
+#include <optional>
 #include <string>
 
 namespace tarsil {
@@ -8,7 +11,8 @@ namespace tarsil {
 struct ReportContent;
 
 /// The document as a text of the Open Document Format (ISO/IEC 26300), with the pictures as SVG.
-/// Equal contents give equal bytes. Needs a QGuiApplication. Errors: those of the pictures.
-std::string odtReport(const ReportContent& content);
+/// Equal contents give equal bytes. Needs a QGuiApplication. Reports progress after each block.
+/// Empty after a stop. Errors: those of the pictures.
+std::optional<std::string> odtReport(const ReportContent& content, const Progress& progress);
 
 } // namespace tarsil

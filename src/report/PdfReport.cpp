@@ -50,7 +50,8 @@ QPageLayout layoutOf(const ReportPage& page)
             QMarginsF()};
 }
 
-void drawPages(const std::vector<ReportPage>& pages, QPdfWriter& writer)
+/// False after a stop.
+bool drawPages(const std::vector<ReportPage>& pages, QPdfWriter& writer, const Progress& progress)
 {
     QPainter painter;
     for (std::size_t i = 0; i < pages.size(); ++i) {
@@ -59,18 +60,22 @@ void drawPages(const std::vector<ReportPage>& pages, QPdfWriter& writer)
         if (!isReady)
             fail("the document cannot be drawn");
         drawPage(pages[i], painter);
+        if (!goesOn(progress, i + 1, pages.size() + 1))
+            return false;
     }
+    return true;
 }
 
 } // namespace
 
-QByteArray pdfReport(const ReportContent& content)
+std::optional<std::string> pdfReport(const ReportContent& content, const Progress& progress)
 {
     PdfFile pdf(shownText(content.title + ": " + content.workspace));
     pdf.writer().setResolution(pointsPerInch * pixelsPerPoint);
     pdf.writer().setCreator(shownText(content.program));
-    drawPages(reportPages(content), pdf.writer());
-    return pdf.bytes(propertyDate(QString::fromStdString(content.date)));
+    if (!drawPages(reportPages(content), pdf.writer(), progress))
+        return std::nullopt;
+    return pdf.bytes(propertyDate(QString::fromStdString(content.date))).toStdString();
 }
 
 } // namespace tarsil

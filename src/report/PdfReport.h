@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <QByteArray>
+#include "base/user/Progress.h"
+
+#include <optional>
+#include <string>
 
 namespace tarsil {
 
 struct ReportContent;
 
 /// The document as PDF, with the pictures as vectors. Equal contents give equal bytes. Needs a
-/// QGuiApplication. Errors: 5 when it cannot be drawn; those of the pictures.
-QByteArray pdfReport(const ReportContent& content);
+/// QGuiApplication. Reports progress after each page.
+/// Empty after a stop. Errors: 5 when it cannot be drawn; those of the pictures.
+std::optional<std::string> pdfReport(const ReportContent& content, const Progress& progress);
 
 } // namespace tarsil

@@ -101,10 +101,11 @@ ReportSection flutterChapter(const ReportInput& input)
     return section;
 }
 
-ReportSection stabilityChapter(const StabilityReport& report)
+ReportSection stabilityChapter(const StabilityReport& report, StepCounter& steps)
 {
     Sheet sheet(stabilitySheetTitle);
-    writeStability(report, sheet);
+    writeStability(report, sheet,
+                   [&steps](std::size_t /*done*/, std::size_t /*total*/) { return steps.next(); });
     ReportSection section;
     section.isLandscape = true;
     section.blocks.emplace_back(ReportHeading {1, "Stability"});
@@ -148,7 +149,7 @@ void addSource(std::string_view kind, const std::string& path, Sheet& sheet)
 }
 
 /// The files that the document is made of, each once.
-ReportSection sourceChapter(const ReportInput& input)
+ReportSection sourceChapter(const ReportInput& input, StepCounter& steps)
 {
     Sheet sheet;
     std::size_t column = 0;
@@ -164,6 +165,8 @@ ReportSection sourceChapter(const ReportInput& input)
         const std::string& output = evolution->provenance.source;
         if (!output.empty() && std::find(outputs.begin(), outputs.end(), output) == outputs.end())
             outputs.push_back(output);
+        if (!steps.next())
+            break;
     }
     for (const std::string& output : outputs)
         addSource("solver output", output, sheet);
@@ -194,8 +197,10 @@ std::vector<const EVM*> presentEvolutions(const std::vector<EVM*>& evolutions)
     return open;
 }
 
-ReportContent reportContent(const ReportInput& input)
+std::optional<ReportContent> reportContent(const ReportInput& input, const Progress& progress)
 {
+    const std::size_t open = presentEvolutions(input.evolutions).size();
+    StepCounter steps(progress, input.evolutions.size() + input.record.plots.size() + 2 * open + 1);
     ReportContent content;
     content.title = "Flutter report";
     content.workspace = input.name;
@@ -203,16 +208,21 @@ ReportContent reportContent(const ReportInput& input)
     content.date = input.record.dateModified;
     std::vector<ReportSection>& sections = content.sections;
     sections.push_back(titlePage(input));
-    sections.push_back(evolutionChapter(input));
-    for (std::size_t i = 0; i < input.record.plots.size(); ++i)
+    sections.push_back(evolutionChapter(input, steps));
+    for (std::size_t i = 0; i < input.record.plots.size() && !steps.isStopped(); ++i) {
         sections.push_back(plotSection(input, i));
+        steps.next();
+    }
+    if (steps.isStopped())
+        return std::nullopt;
     sections.push_back(flutterChapter(input));
-    sections.push_back(stabilityChapter(input.stability));
+    sections.push_back(stabilityChapter(input.stability, steps));
     const std::vector<EvolutionStability>& judged = input.stability.evolutions;
     if (std::any_of(judged.begin(), judged.end(), hasMargin))
         sections.push_back(requirementChapter(input.stability));
-    sections.push_back(sourceChapter(input));
-    return content;
+    if (!steps.isStopped())
+        sections.push_back(sourceChapter(input, steps));
+    return steps.isStopped() ? std::nullopt : std::optional(std::move(content));
 }
 
 } // namespace tarsil

@@ -4,9 +4,11 @@
 #include "analysis/FlutterReport.h"
 #include "analysis/Sheet.h"
 #include "analysis/StabilitySheet.h"
+#include "base/user/Progress.h"
 #include "report/ReportContent.h"
 #include "workspace/WorkspaceRecord.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -39,7 +41,8 @@ std::vector<const EVM*> presentEvolutions(const std::vector<EVM*>& evolutions);
 
 /// The title page, a chapter each for evolutions, plots, flutter table, stability and requirement
 /// (if one was judged), and the list of all source files with their present digests. A file that
-/// cannot be read is listed with the reason. Errors: those of drawing items of the plots.
-ReportContent reportContent(const ReportInput& input);
+/// cannot be read is listed with the reason. Reports progress after each file and each plot. Empty
+/// after a stop. Errors: those of drawing items of the plots.
+std::optional<ReportContent> reportContent(const ReportInput& input, const Progress& progress = {});
 
 } // namespace tarsil

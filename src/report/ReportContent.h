@@ -63,4 +63,12 @@ struct ReportContent
     std::vector<ReportSection> sections;
 };
 
+inline std::size_t blockCount(const ReportContent& content)
+{
+    std::size_t count = 0;
+    for (const ReportSection& section : content.sections)
+        count += section.blocks.size();
+    return count;
+}
+
 } // namespace tarsil

@@ -9,22 +9,26 @@
 
 #include <QString>
 
+#include <optional>
+
 namespace tarsil {
 
 namespace {
 
-std::string reportBytes(const ReportContent& content, const std::string& path)
+/// Empty after a stop.
+std::optional<std::string> reportBytes(const ReportContent& content, const std::string& path,
+                                       const Progress& progress)
 {
     const QString name = QString::fromStdString(path);
     const auto endsIn = [&name](const char* extension) {
         return name.endsWith(QLatin1String(extension), Qt::CaseInsensitive);
     };
     if (endsIn(".pdf"))
-        return pdfReport(content).toStdString();
+        return pdfReport(content, progress);
     if (endsIn(".odt"))
-        return odtReport(content);
+        return odtReport(content, progress);
     if (endsIn(".html"))
-        return htmlReport(content).toStdString();
+        return htmlReport(content, progress);
     throw RunTimeError(ErrorNumber::InvalidProcedureCall, "ReportWriter",
                        path + " does not end in .pdf, .odt or .html");
 }
@@ -32,11 +36,15 @@ std::string reportBytes(const ReportContent& content, const std::string& path)
 } // namespace
 
 /// Opens the target first, so that an error with it is found before any work.
-void writeReport(const ReportContent& content, const std::string& path)
+bool writeReport(const ReportContent& content, const std::string& path, const Progress& progress)
 {
     AtomicFile file(path);
-    file.write(reportBytes(content, path));
+    const std::optional<std::string> bytes = reportBytes(content, path, progress);
+    if (!bytes)
+        return false;
+    file.write(*bytes);
     file.commit();
+    return true;
 }
 
 } // namespace tarsil

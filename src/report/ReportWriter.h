@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "base/user/Progress.h"
+
 #include <array>
 #include <string>
 #include <string_view>
@@ -13,8 +15,11 @@ struct ReportContent;
 inline constexpr std::array<std::string_view, 3> reportExtensions = {".pdf", ".odt", ".html"};
 
 /// Writes a report document to a file, whole or not at all. The extension of `path`, in any case,
-/// selects the format. Equal contents give equal bytes. Needs a QGuiApplication. Errors: 5 for
-/// another extension; those of the pictures and of writing a file.
-void writeReport(const ReportContent& content, const std::string& path);
+/// selects the format. Equal contents give equal bytes. Needs a QGuiApplication. Reports progress
+/// after each page of a PDF, and each block of the other formats. Returns false after a stop, when
+/// nothing is written. Errors: 5 for another extension; those of the pictures and of writing a
+/// file.
+bool writeReport(const ReportContent& content, const std::string& path,
+                 const Progress& progress = {});
 
 } // namespace tarsil

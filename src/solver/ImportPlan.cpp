@@ -63,24 +63,27 @@ std::string freePath(const std::string& folder, const std::string& name,
 
 } // namespace
 
-void ImportPlan::add(const std::string& path)
+bool ImportPlan::add(const std::string& path, const Progress& progress)
 {
     const bool isKnown =
         std::any_of(m_outputs.begin(), m_outputs.end(),
                     [&path](const SolverOutput& output) { return isSameFile(output.path, path); });
     if (isKnown)
-        return;
+        return true;
     try {
-        SolverOutput output = readSolverOutput(path);
+        SolverOutput output = readSolverOutput(path, progress);
+        if (output.file.isStopped)
+            return false;
         if (const auto refusal = refusalOf(output)) {
             m_refusals.push_back(*refusal);
-            return;
+            return true;
         }
         m_chosen.emplace_back(output.runs.size(), true);
         m_outputs.push_back(std::move(output));
     } catch (const RunTimeError& error) {
         m_refusals.push_back(error.description());
     }
+    return true;
 }
 
 const SolverRun& ImportPlan::run(const AnalysisIndex& analysis) const

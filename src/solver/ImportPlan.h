@@ -50,8 +50,9 @@ class ImportPlan
 {
 public:
     /// Reads a solver output and selects all its analyses. Ignores a file that is in the plan
-    /// already. A file without an analysis is not added, but listed in `refusals`.
-    void add(const std::string& path);
+    /// already. A file without an analysis is not added, but listed in `refusals`. Reports progress
+    /// within a large file. Returns false after a stop, when nothing of the file is in the plan.
+    bool add(const std::string& path, const Progress& progress = {});
 
     const std::vector<SolverOutput>& outputs() const { return m_outputs; }
     const SolverRun& run(const AnalysisIndex& analysis) const;

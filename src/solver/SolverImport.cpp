@@ -80,11 +80,11 @@ std::string stemOf(std::string_view path)
 
 } // namespace
 
-SolverOutput readSolverOutput(std::string_view path)
+SolverOutput readSolverOutput(std::string_view path, const Progress& progress)
 {
     SolverOutput output;
     output.path = std::string(path);
-    output.file = readSummaries(path);
+    output.file = readSummaries(path, progress);
     output.runs = runsOf(output.file);
     output.names = runNames(output.runs, stemOf(path));
     output.evidence = unitEvidence(output.runs);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "base/user/Progress.h"
 #include "solver/SolverRun.h"
 #include "solver/UnitEvidence.h"
 
@@ -31,9 +32,10 @@ struct SolverOutput
     UnitEvidence evidence;
 };
 
-/// Reads a solver output, which has no runs without a flutter summary. Errors: those of reading a
-/// file.
-SolverOutput readSolverOutput(std::string_view path);
+/// Reads a solver output, which has no runs without a flutter summary. Reports progress like
+/// `readSummaries`; after a stop, `file.isStopped` is set and there are no runs. Errors: those of
+/// reading a file.
+SolverOutput readSolverOutput(std::string_view path, const Progress& progress = {});
 
 /// Whether the rows or headings of a run contain a density. Without one, its speeds can only be
 /// imported as equivalent airspeeds.

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 
 namespace tarsil::solver {
 
@@ -28,6 +29,13 @@ bool beginsBinary(std::string_view path)
     const std::size_t count = std::min(bytes.size(), file.bytesLeft());
     file.read(bytes.data(), count);
     return std::string_view(bytes.data(), count).find('\0') != std::string_view::npos;
+}
+
+SummaryFile stopped()
+{
+    SummaryFile file;
+    file.isStopped = true;
+    return file;
 }
 
 } // namespace
@@ -63,7 +71,7 @@ void SummaryScanner::skip(std::string_view piece)
     readLines(piece.substr(start));
 }
 
-SummaryFile readSummaries(std::string_view path)
+SummaryFile readSummaries(std::string_view path, const Progress& progress)
 {
     if (beginsBinary(path)) {
         SummaryFile binary;
@@ -71,9 +79,13 @@ SummaryFile readSummaries(std::string_view path)
         return binary;
     }
     FileLines lines(path);
+    const std::size_t size = lines.bytesLeft();
     SummaryScanner scanner;
-    for (std::string_view piece = lines.next(); !piece.empty(); piece = lines.next())
+    for (std::string_view piece = lines.next(); !piece.empty(); piece = lines.next()) {
         scanner.read(piece);
+        if (lines.bytesLeft() > 0 && !goesOn(progress, size - lines.bytesLeft(), size))
+            return stopped();
+    }
     lines.requireUnchanged();
     return scanner.result();
 }

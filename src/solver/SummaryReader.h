@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "base/user/Progress.h"
 #include "solver/SummaryTable.h"
 #include "solver/TableReader.h"
 
@@ -28,8 +29,8 @@ private:
 
 /// Reads the flutter summaries of a printed solver output, whatever its name. Reads the file once,
 /// in pieces, and stores only tables. Without a summary the result has no tables. A binary file is
-/// recognised by its first bytes, and the rest is not read. Errors: those of reading a file; faults
-/// of the text are entries of the log.
-SummaryFile readSummaries(std::string_view path);
+/// recognised by its first bytes, and the rest is not read. Reports the bytes read after each piece
+/// but the last one. Errors: those of reading a file; faults of the text are entries of the log.
+SummaryFile readSummaries(std::string_view path, const Progress& progress = {});
 
 } // namespace tarsil::solver

@@ -74,6 +74,7 @@ struct SummaryFile
     std::vector<LogEntry> log;
     std::size_t lines = 0;
     bool isBinary = false; ///< the file begins with bytes that text does not contain
+    bool isStopped = false; ///< the user has stopped the reading; then there is nothing else
 };
 
 } // namespace tarsil::solver

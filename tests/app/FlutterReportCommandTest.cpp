@@ -34,7 +34,8 @@ protected:
 
     void run()
     {
-        FlutterReportCommand command(user, [this](const QString& file) {
+        FlutterQuestions questions(user);
+        FlutterReportCommand command(user, questions, [this](const QString& file) {
             opened.append(file);
             return canOpen;
         });
@@ -155,7 +156,8 @@ TEST_F(FlutterReportCommandTest, leavesOutRowsWithoutACurveAndSaysWhich)
 
 TEST_F(FlutterReportCommandTest, offersNoAnswerThatWasNoNumber)
 {
-    FlutterReportCommand command(user, [](const QString&) { return true; });
+    FlutterQuestions questions(user);
+    FlutterReportCommand command(user, questions, [](const QString&) { return true; });
     user.texts = {"0", "1000", "0.5", "fast"};
     command.run(plot, airplane, documents());
     user.texts = {"0", "1000", "", ""};

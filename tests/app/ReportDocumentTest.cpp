@@ -60,6 +60,27 @@ TEST_F(ReportDocument, asksForMachNumbersThatFilesDoNotHave)
     EXPECT_THAT(html(), HasSubstr("Workspace</th><td>not saved"));
 }
 
+TEST_F(ReportDocument, asksForAMachNumberOnlyOnce)
+{
+    load({sample("goland_clean_m040.evm")});
+    window.document().evolutions().setParameters(*window.document().evolutions().all().front(),
+                                                 {"wing", "clean", 0});
+    user.texts = {"0", "400", "0.4"};
+    choose("mnuFlutCalc");
+    EXPECT_EQ(user.questions.size(), 3U);
+    user.questions.clear();
+    user.texts = {"0", "400"};
+    user.saveFiles = {folder.file("out.html")};
+    choose("writeDocument");
+    EXPECT_EQ(user.questions.size(), 2U) << "the answer is known from the flutter table";
+    EXPECT_THAT(html(), HasSubstr("<td class=\"number\">0.4</td>"));
+    user.questions.clear();
+    user.texts = {"0", "400", "0.4"};
+    choose("mnuFlutCalc");
+    EXPECT_EQ(user.questions.size(), 3U) << "the flutter table always asks";
+    EXPECT_EQ(user.initials.back(), "0.4");
+}
+
 TEST_F(ReportDocument, isNotWrittenWithoutAnswers)
 {
     load({sample("goland.tsw")});

@@ -19,7 +19,9 @@ using namespace tarsil;
 using test::sample;
 using ::testing::Contains;
 using ::testing::ElementsAre;
+using ::testing::EndsWith;
 using ::testing::IsEmpty;
+using ::testing::StartsWith;
 
 namespace {
 
@@ -109,6 +111,54 @@ TEST_F(Stop, usesNoFileOfAStoppedSearch)
     stopAt(0);
     open();
     EXPECT_THAT(loaded(), ElementsAre("a.ev2", "b.ev2", "c.ev2"));
+}
+
+TEST_F(Stop, writesNoReportDocument)
+{
+    for (EVM* const evolution : window.document().load(copies("runs"), user))
+        plot().rows().add(*evolution->Modes[0]);
+    for (const char* const name : {"out.pdf", "out.odt", "out.html"}) {
+        const auto write = [&](std::size_t stop) {
+            user.texts = {"0", "400"};
+            user.saveFiles = {folder.file(name)};
+            stopAt(stop);
+            choose("writeDocument");
+        };
+        write(0);
+        EXPECT_THAT(user.note, EndsWith(name));
+        std::filesystem::remove(folder.file(name));
+        const std::size_t reports = user.progress.size();
+        for (const std::size_t stop : {std::size_t {1}, reports / 2, reports}) {
+            write(stop);
+            EXPECT_EQ(user.progress.size(), stop) << name;
+            EXPECT_FALSE(std::filesystem::exists(folder.file(name))) << stop;
+            EXPECT_EQ(user.note, "Stopped: no report document was written");
+            EXPECT_EQ(user.statuses.back(), "Ready");
+        }
+    }
+    EXPECT_THAT(user.messages, IsEmpty());
+}
+
+TEST_F(Stop, writesThePicturesDrawnSoFar)
+{
+    for (const char* const caption : {"second", "third"})
+        window.document().plots().add(QString::fromLatin1(caption));
+    const auto write = [&](std::size_t stop) {
+        user.choiceIndices.push_back(1);
+        user.folders.push_back(folder.path().string());
+        stopAt(stop);
+        choose("savePictures");
+    };
+    write(2);
+    EXPECT_TRUE(std::filesystem::exists(folder.file("second.svg")));
+    EXPECT_FALSE(std::filesystem::exists(folder.file("third.svg")));
+    EXPECT_THAT(user.note, StartsWith("Stopped: 2 of 3 pictures are in "));
+    EXPECT_EQ(user.statuses.back(), "Ready");
+    user.confirmations = {true};
+    write(3);
+    EXPECT_TRUE(std::filesystem::exists(folder.file("third.svg")));
+    EXPECT_THAT(user.note, StartsWith("3 pictures are in ")) << "a stop after the last one";
+    EXPECT_THAT(user.messages, IsEmpty());
 }
 
 TEST_F(Stop, leavesTheRemainingEvolutionsUntracked)

@@ -204,6 +204,25 @@ TEST_F(DlgImport, loadsTheFilesReadBeforeAStop)
     EXPECT_EQ(user.note, "Stopped: 1 of 2 evolutions were loaded");
 }
 
+TEST_F(DlgImport, listsNothingOfAFileThatIsBeingReadAtAStop)
+{
+    const std::string large = summary() + std::string(400000, '\n') + summary();
+    const std::vector<std::string> outputs = {folder.write("wing.f06", summary()),
+                                              folder.write("tail.f06", large)};
+    user.stopsAt = 2;
+    EXPECT_TRUE(dialog->addFiles(outputs));
+    EXPECT_EQ(partOf<QTreeWidget>(*dialog, "treAnalyses").topLevelItemCount(), 1);
+    EXPECT_EQ(user.note, "Stopped: 1 of 2 files were read");
+    EXPECT_THAT(user.messages, IsEmpty());
+    for (std::size_t i = 1; i < user.progress.size(); ++i) // in the same units
+        EXPECT_GT(user.progress[i].first * user.progress[i - 1].second,
+                  user.progress[i - 1].first * user.progress[i].second);
+    user.progress.clear();
+    user.stopsAt = 0;
+    EXPECT_TRUE(dialog->addFiles({outputs.back()}));
+    EXPECT_EQ(partOf<QTreeWidget>(*dialog, "treAnalyses").topLevelItemCount(), 2);
+}
+
 TEST_F(DlgImport, listsTheFilesReadBeforeAStop)
 {
     const std::vector<std::string> outputs = {folder.write("wing.f06", summary()),

@@ -15,6 +15,8 @@
 
 #include <gmock/gmock.h>
 
+#include <filesystem>
+
 using namespace tarsil;
 using ::testing::HasSubstr;
 
@@ -46,6 +48,20 @@ protected:
 };
 
 } // namespace
+
+TEST_F(PrintDialogTest, writesNoPdfAfterAStop)
+{
+    for (const std::size_t page : {1U, 2U}) {
+        user.saveFiles = {folder.file("out.pdf")};
+        user.progress.clear();
+        user.stopsAt = page;
+        button("pdf").click();
+        EXPECT_EQ(user.progress.size(), page);
+        EXPECT_FALSE(std::filesystem::exists(folder.file("out.pdf")));
+        EXPECT_EQ(user.note, "Stopped: no file was written");
+        EXPECT_EQ(user.statuses.back(), "Ready");
+    }
+}
 
 TEST_F(PrintDialogTest, writesTheTickedPlotsAsPdf)
 {

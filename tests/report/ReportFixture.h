@@ -21,7 +21,7 @@ protected:
     /// damping line; the second evolution is edited. Saved on 7 March 2026 at 15:20:00 by "rivera".
     ReportFixture();
 
-    ReportContent content() const { return reportContent(input); }
+    ReportContent content() const { return reportContent(input).value(); }
 
     std::string file(std::string_view name) const { return folder.file(name); }
 

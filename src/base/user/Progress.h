@@ -16,4 +16,40 @@ inline bool goesOn(const Progress& progress, std::size_t done, std::size_t total
     return !progress || progress(done, total);
 }
 
+/// The progress of a part of a computation of several equal parts, counted from 0.
+inline Progress partOf(const Progress& whole, std::size_t part, std::size_t parts)
+{
+    constexpr std::size_t steps = 1000; // of each part
+    if (!whole)
+        return {};
+    return [whole, part, parts](std::size_t done, std::size_t total) {
+        return whole(part * steps + done * steps / total, parts * steps);
+    };
+}
+
+/// Counts the steps of a computation that is made of several functions. A function that is told to
+/// stop returns an incomplete result, which is not used.
+class StepCounter
+{
+public:
+    /// `total` is the number of steps.
+    StepCounter(const Progress& progress, std::size_t total) : m_progress(progress), m_total(total)
+    { }
+
+    /// Ends a step. Returns whether to go on.
+    bool next()
+    {
+        m_isStopped = m_isStopped || !goesOn(m_progress, ++m_done, m_total);
+        return !m_isStopped;
+    }
+
+    bool isStopped() const { return m_isStopped; }
+
+private:
+    const Progress& m_progress;
+    std::size_t m_total;
+    std::size_t m_done = 0;
+    bool m_isStopped = false;
+};
+
 } // namespace tarsil
