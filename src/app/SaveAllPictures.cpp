@@ -60,16 +60,17 @@ std::vector<std::string> picturePathsOf(const std::vector<EvmPlot*>& plots,
 }
 
 /// Returns the number of pictures written before a stop.
-std::size_t writeAll(const std::vector<EvmPlot*>& plots, const std::vector<std::string>& paths,
+std::size_t writeAll(const PlotList& list, const std::vector<std::string>& paths,
                      PictureFormat format, UserInterface& user)
 {
     const BusyStatus status(user, savingPictures);
+    const std::vector<EvmPlot*> plots = list.all();
     PictureFiles files;
     std::size_t count = 0;
     do {
         const EvmPlot& plot = *plots[count];
         try {
-            files.add(plot, paths[count], format);
+            files.add(plot, paths[count], format, list.pictureSettings());
         } catch (const RunTimeError& error) {
             throw error.at("plot \"" + plot.properties().Caption().toStdString() + "\"");
         }
@@ -99,7 +100,7 @@ void saveAllPictures(const PlotList& list, const std::string& folder, UserInterf
     const std::vector<std::string> paths = picturePathsOf(plots, *chosen, *format);
     if (!mayReplaceAll(paths, user))
         return;
-    const std::size_t written = writeAll(plots, paths, *format, user);
+    const std::size_t written = writeAll(list, paths, *format, user);
     user.showNote(countText(written, plots.size()) + " in " + wholePath(*chosen) + " ("
                   + std::string(pictureTraitsOf(*format).name) + ")");
 }

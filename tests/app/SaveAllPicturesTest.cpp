@@ -3,6 +3,7 @@
 // The command "Save All Pics ...".
 
 #include "app/WndMainFixture.h"
+#include "support/ChangeSeries.h"
 #include "vgfplot/EvmPlot.h"
 #include "vgfplot/PictureWriter.h"
 
@@ -52,6 +53,18 @@ TEST_F(SaveAllPictures, writesEveryPlotUnderItsCaption)
     EXPECT_EQ(second->size(), plot().size());
     EXPECT_EQ(user.note, "2 pictures are in " + pictures + " (SVG)");
     EXPECT_THAT(user.messages, IsEmpty());
+}
+
+TEST_F(SaveAllPictures, writesTheDashesOfMetafilesAsTheUserWants)
+{
+    test::changeSeries(plot(), 0, [](Series& series) { series.LineStyle = penstyle::dash; });
+    PictureSettings settings;
+    settings.dashes = MetafileDashes::Lines;
+    window.document().plots().setPictureSettings(settings);
+    saveAll(0);
+    const std::string bytes = test::fileBytes(pictures + "/Plot1.emf");
+    EXPECT_EQ(bytes, pictureBytes(plot(), PictureFormat::Emf, settings).toStdString());
+    EXPECT_NE(bytes, pictureBytes(plot(), PictureFormat::Emf).toStdString());
 }
 
 TEST_F(SaveAllPictures, asksOnceBeforeFilesAreReplaced)
