@@ -96,6 +96,7 @@ int showProgram(const QString& file, const QString& folder)
 {
     QtUserInterface user;
     wndMain window(user, withoutSpreadsheet, optionsIn(folder));
+    user.attach(&window, &window.stBar());
     const FirstFrame frame(window.evolPlot().viewOf(*window.evolPlot().plots().front()));
     window.resize(960, 720);
     window.show();

@@ -2,6 +2,7 @@
 
 // The command "Save All Pics ...".
 
+#include "analysis/ModeBuilder.h"
 #include "app/WndMainFixture.h"
 #include "support/ChangeSeries.h"
 #include "vgfplot/EvmPlot.h"
@@ -57,6 +58,8 @@ TEST_F(SaveAllPictures, writesEveryPlotUnderItsCaption)
 
 TEST_F(SaveAllPictures, writesTheDashesOfMetafilesAsTheUserWants)
 {
+    EVM evolution;
+    plot().rows().add(test::addMode(evolution, 1, {{0, -0.02F, 10}, {700, 0.05F, 80}}));
     test::changeSeries(plot(), 0, [](Series& series) { series.LineStyle = penstyle::dash; });
     PictureSettings settings;
     settings.dashes = MetafileDashes::Lines;
@@ -65,6 +68,7 @@ TEST_F(SaveAllPictures, writesTheDashesOfMetafilesAsTheUserWants)
     const std::string bytes = test::fileBytes(pictures + "/Plot1.emf");
     EXPECT_EQ(bytes, pictureBytes(plot(), PictureFormat::Emf, settings).toStdString());
     EXPECT_NE(bytes, pictureBytes(plot(), PictureFormat::Emf).toStdString());
+    plot().rows().clear();
 }
 
 TEST_F(SaveAllPictures, asksOnceBeforeFilesAreReplaced)
