@@ -2,7 +2,7 @@
 #include "surface/Dashes.h"
 
 #include <algorithm>
-#include <cmath>
+#include <cstdint>
 #include <numeric>
 
 namespace tarsil {
@@ -32,8 +32,10 @@ std::vector<Dash> dashesBetween(const QList<qreal>& pattern, double first, doubl
 {
     const double period = std::accumulate(pattern.begin(), pattern.end(), 0.0);
     std::vector<Dash> dashes;
-    for (double begin = std::floor(first / period) * period; begin < last; begin += period) {
-        double dash = begin;
+    for (auto count = static_cast<std::int64_t>(first / period);; ++count) {
+        double dash = static_cast<double>(count) * period;
+        if (dash >= last)
+            return dashes;
         for (qsizetype i = 0; i + 1 < pattern.size(); i += 2) {
             const double end = dash + pattern[i];
             if (end > first && dash < last)
@@ -41,7 +43,6 @@ std::vector<Dash> dashesBetween(const QList<qreal>& pattern, double first, doubl
             dash = end + pattern[i + 1];
         }
     }
-    return dashes;
 }
 
 } // namespace tarsil
