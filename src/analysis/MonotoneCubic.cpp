@@ -8,49 +8,41 @@ namespace tarsil {
 
 namespace {
 
-double width(std::span<const CurvePoint> points, std::size_t i)
+/// An interval of the curve.
+struct Interval
 {
-    return points[i + 1].x - points[i].x;
-}
+    Interval(const CurvePoint& from, const CurvePoint& to)
+        : width(to.x - from.x), secant((to.y - from.y) / width)
+    { }
 
-double secant(std::span<const CurvePoint> points, std::size_t i)
-{
-    return (points[i + 1].y - points[i].y) / width(points, i);
-}
+    double width;
+    double secant;
+};
 
-double innerSlope(std::span<const CurvePoint> points, std::size_t i)
+/// The slope between two intervals: the harmonic mean of their secants, weighted by their widths.
+double innerSlope(const Interval& before, const Interval& after)
 {
-    const double before = secant(points, i - 1);
-    const double after = secant(points, i);
-    if (before * after <= 0)
+    const double product = before.secant * after.secant;
+    if (product <= 0)
         return 0;
-    const double weightBefore = 2 * width(points, i) + width(points, i - 1);
-    const double weightAfter = width(points, i) + 2 * width(points, i - 1);
-    return (weightBefore + weightAfter) / (weightBefore / before + weightAfter / after);
+    const double weightBefore = 2 * after.width + before.width;
+    const double weightAfter = after.width + 2 * before.width;
+    return (weightBefore + weightAfter) * product
+        / (weightBefore * after.secant + weightAfter * before.secant);
 }
 
 /// The slope at an end of the curve, from the last interval and its neighbour.
-double endSlope(double widthAtEnd, double widthBeside, double secantAtEnd, double secantBeside)
+double endSlope(const Interval& last, const Interval& neighbour)
 {
-    const double slope = ((2 * widthAtEnd + widthBeside) * secantAtEnd - widthAtEnd * secantBeside)
-        / (widthAtEnd + widthBeside);
-    if (slope * secantAtEnd <= 0)
+    const double slope =
+        ((2 * last.width + neighbour.width) * last.secant - last.width * neighbour.secant)
+        / (last.width + neighbour.width);
+    if (slope * last.secant <= 0)
         return 0;
     constexpr double mostSteep = 3;
-    if (secantAtEnd * secantBeside <= 0 && std::abs(slope) > mostSteep * std::abs(secantAtEnd))
-        return mostSteep * secantAtEnd;
+    if (last.secant * neighbour.secant <= 0 && std::abs(slope) > mostSteep * std::abs(last.secant))
+        return mostSteep * last.secant;
     return slope;
-}
-
-double slopeAt(std::span<const CurvePoint> points, std::size_t i)
-{
-    const std::size_t last = points.size() - 1;
-    if (i == 0)
-        return endSlope(width(points, 0), width(points, 1), secant(points, 0), secant(points, 1));
-    if (i == last)
-        return endSlope(width(points, last - 1), width(points, last - 2), secant(points, last - 1),
-                        secant(points, last - 2));
-    return innerSlope(points, i);
 }
 
 /// A cubic over t in 0..1, given by its values and slopes at both ends.
@@ -81,7 +73,7 @@ private:
 double zeroBetween(const HermiteCubic& cubic, double estimate, bool isRising)
 {
     constexpr int mostSteps = 60;
-    constexpr double lastStep = 1e-10; // the error after a step is about its square
+    constexpr double lastStep = 1e-6; // the error is smaller, in most cases about the square
     double low = 0;
     double high = 1;
     double t = estimate;
@@ -108,10 +100,15 @@ double zeroOfMonotoneCubic(std::span<const CurvePoint> points, std::size_t index
     const CurvePoint to = points[index + 1];
     if (from.y == 0)
         return from.x;
-    const double h = width(points, index);
-    const HermiteCubic cubic(from.y, to.y, h * slopeAt(points, index),
-                             h * slopeAt(points, index + 1));
-    return from.x + h * zeroBetween(cubic, from.y / (from.y - to.y), from.y < 0);
+    const Interval middle(from, to);
+    const bool isFirst = index == 0;
+    const bool isLast = index + 2 == points.size();
+    const Interval before = isFirst ? middle : Interval(points[index - 1], from);
+    const Interval after = isLast ? middle : Interval(to, points[index + 2]);
+    const double slopeFrom = isFirst ? endSlope(middle, after) : innerSlope(before, middle);
+    const double slopeTo = isLast ? endSlope(middle, before) : innerSlope(middle, after);
+    const HermiteCubic cubic(from.y, to.y, middle.width * slopeFrom, middle.width * slopeTo);
+    return from.x + middle.width * zeroBetween(cubic, from.y / (from.y - to.y), from.y < 0);
 }
 
 } // namespace tarsil

@@ -37,7 +37,7 @@ private:
     std::size_t lastBelow(std::size_t i) const;
     std::size_t lastAbove(std::size_t i);
     void cross(std::size_t before, std::size_t i);
-    Crossing crossing(std::size_t before, std::size_t after) const;
+    void fill(Crossing& crossing, std::size_t before, std::size_t after) const;
     double speedOnCurve(std::size_t after, double straight) const;
     Confidence confidenceOf(const Crossing& crossing) const;
     void begin(std::size_t i);
@@ -111,40 +111,38 @@ void StretchSearch::cross(std::size_t before, std::size_t i)
         m_result.touches.push_back({m_points[before + 1].speed});
     } else if (isAbove(i)) {
         begin(i);
-        m_result.stretches.back().start = crossing(before, i);
+        fill(m_result.stretches.back().start.emplace(), before, i);
     } else {
-        m_result.stretches.back().end = crossing(before, i);
+        fill(m_result.stretches.back().end.emplace(), before, i);
         finish();
     }
 }
 
-Crossing StretchSearch::crossing(std::size_t before, std::size_t after) const
+void StretchSearch::fill(Crossing& crossing, std::size_t before, std::size_t after) const
 {
     const StabilityPoint& from = m_points[before];
     const StabilityPoint& to = m_points[after];
-    Crossing result;
-    result.fromSpeed = from.speed;
-    result.toSpeed = to.speed;
-    result.lower = before;
+    crossing.fromSpeed = from.speed;
+    crossing.toSpeed = to.speed;
+    crossing.lower = before;
     if (after - before > 1) {
-        result.part = 1;
-        result.speed = m_points[before + 1].speed;
-        result.frequency = m_points[before + 1].frequency;
+        crossing.part = 1;
+        crossing.speed = m_points[before + 1].speed;
+        crossing.frequency = m_points[before + 1].frequency;
     } else {
-        result.part = above(before) / (above(before) - above(after));
-        result.speed = from.speed + result.part * (static_cast<double>(to.speed) - from.speed);
-        result.frequency =
-            from.frequency + result.part * (static_cast<double>(to.frequency) - from.frequency);
+        crossing.part = above(before) / (above(before) - above(after));
+        crossing.speed = from.speed + crossing.part * (static_cast<double>(to.speed) - from.speed);
+        crossing.frequency =
+            from.frequency + crossing.part * (static_cast<double>(to.frequency) - from.frequency);
     }
-    result.speedOnCurve = speedOnCurve(after, result.speed);
+    crossing.speedOnCurve = speedOnCurve(after, crossing.speed);
     if (isStatic(before) != isStatic(after))
-        result.kind = CrossingKind::Mixed;
+        crossing.kind = CrossingKind::Mixed;
     else
-        result.kind = isStatic(before) ? CrossingKind::Divergence : CrossingKind::Flutter;
+        crossing.kind = isStatic(before) ? CrossingKind::Divergence : CrossingKind::Flutter;
     for (std::size_t i = before; i < after; ++i)
-        result.jumps = result.jumps || m_points[i].jumpsToNext;
-    result.confidence = confidenceOf(result);
-    return result;
+        crossing.jumps = crossing.jumps || m_points[i].jumpsToNext;
+    crossing.confidence = confidenceOf(crossing);
 }
 
 /// The zero in the interval that ends at `after`, from its points and one neighbour on each side.
@@ -203,6 +201,10 @@ void StretchSearch::finish()
 }
 
 } // namespace
+
+Crossing::Crossing() = default;
+
+Stretch::Stretch() = default;
 
 LevelStretches stretchesAbove(std::span<const StabilityPoint> points, float level,
                               const StretchLimits& limits)

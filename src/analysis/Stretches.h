@@ -33,9 +33,12 @@ enum class Confidence {
     C ///< the root jumps in the interval or changes its kind
 };
 
-/// A crossing of a level by a root.
+/// A crossing of a level by a root. The constructor is in the source file because a defaulted one
+/// lets containers clear the whole object first, which took a fifth of the search.
 struct Crossing
 {
+    Crossing();
+
     double speed = 0; ///< KEAS, on the straight line between the two points around it
     double frequency = 0; ///< Hz, interpolated like the speed
     double fromSpeed = 0; ///< of the point before
@@ -59,9 +62,11 @@ inline bool hasSpeed(const Crossing& crossing)
 /// How far a stretch rises above its level; see `StretchLimits`.
 enum class StretchHeight { Noise, Weak, Real };
 
-/// A maximal run of points of one root above a level.
+/// A maximal run of points of one root above a level. For the constructor see `Crossing`.
 struct Stretch
 {
+    Stretch();
+
     std::optional<Crossing> start; ///< absent: above the level from the first speed
     std::optional<Crossing>
         end; ///< absent: up to the last speed. A stretch with start and end is a hump

@@ -153,3 +153,10 @@ TEST(MonotoneCubic, isZeroWhereOtherProgramsSay)
     const std::vector<CurvePoint> onTheLevel = {{100, -1}, {125, 0}, {150, 1}};
     EXPECT_EQ(zeroOfMonotoneCubic(onTheLevel, 1), 125);
 }
+
+// The same formula solved by bisection with 40 decimal digits.
+TEST(MonotoneCubic, isZeroNearAMaximumJustAboveTheLevel)
+{
+    const std::vector<CurvePoint> flat = {{100, -0.25}, {101, 0.0002}, {102.5, -80}};
+    EXPECT_NEAR(zeroOfMonotoneCubic(flat, 0), 100.9071929652736583521, 1e-9);
+}
