@@ -14,7 +14,7 @@ namespace tarsil {
 namespace {
 
 constexpr double leading = 1.25; ///< line height in sizes of the font
-constexpr double baseline = 0.95; ///< its baseline
+constexpr double toBaseline = 0.95; ///< its baseline
 
 } // namespace
 
@@ -48,7 +48,7 @@ double lineHeightOf(const ReportFont& font)
 
 double ascentOf(const ReportFont& font)
 {
-    return baseline * font.points;
+    return toBaseline * font.points;
 }
 
 std::vector<QString> wrapped(const QString& text, const ReportFont& font, double width)

@@ -25,7 +25,10 @@ std::string quotedText(std::string_view text)
         while (end > longest - 4 && continues(text[end]))
             --end;
     }
-    return "\"" + printableText(text.substr(0, end)) + (end < text.size() ? "...\"" : "\"");
+    std::string quoted = "\"";
+    quoted += printableText(text.substr(0, end));
+    quoted += end < text.size() ? "...\"" : "\"";
+    return quoted;
 }
 
 } // namespace tarsil
