@@ -127,7 +127,7 @@ void TableReader::readTableRow(std::string_view line, bool isWhole)
         }
         row.line = m_file.lines;
         m_table.rows.push_back(row);
-        m_rowLength = line.size();
+        m_rowLengths[m_table.carriesDensity ? 1 : 0] = line.size();
         m_state = State::InRows;
         break;
     case RowKind::Blank:
@@ -152,7 +152,8 @@ void TableReader::readTableRow(std::string_view line, bool isWhole)
 /// The last row of a truncated file has fewer digits than the others, and so a wrong value.
 bool TableReader::isCutRow(std::string_view line, bool isWhole) const
 {
-    return !isWhole && (m_state != State::InRows || line.size() < m_rowLength);
+    const std::size_t usual = m_rowLengths[m_table.carriesDensity ? 1 : 0];
+    return !isWhole && (usual == 0 || line.size() < usual);
 }
 
 /// Appends the table to those of the file; a continuation page is appended to its table.
@@ -172,7 +173,6 @@ void TableReader::finishTable()
         }
     }
     m_table = SummaryTable();
-    m_rowLength = 0;
     m_state = State::BetweenTables;
 }
 

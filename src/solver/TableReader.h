@@ -45,7 +45,8 @@ private:
     SummaryTable m_table; ///< the open table
     State m_state = State::BetweenTables;
     std::size_t m_linesLeft = 0; ///< lines in which the next part of the heading must appear
-    std::size_t m_rowLength = 0; ///< length of the last row in characters
+    std::array<std::size_t, 2>
+        m_rowLengths {}; ///< characters of the last row without and with density
     std::size_t m_unlisted = 0; ///< number of entries beyond the limit of the log
     std::array<std::string, linesAboveTitle> m_last; ///< the last lines, as a ring buffer
     std::size_t m_nextOfLast = 0;

@@ -85,6 +85,17 @@ TEST(CutSummary, hasNoMoreRowsThanTheWholeOfLoopsOfK)
     expectNeverMoreThanTheWhole(text);
 }
 
+/// The line end of the last row is missing, as some editors leave it.
+TEST(CutSummary, keepsAWholeRowThatIsAloneOnTheLastPage)
+{
+    const std::string page = printed({.rows = {row("1.0E+02")}});
+    std::string text = page + page;
+    text.pop_back();
+    EXPECT_EQ(importText(text), 2U);
+    text.pop_back();
+    EXPECT_EQ(importText(text), 1U) << "the last digit is missing";
+}
+
 /// Truncates at every byte around the first page breaks, and at some bytes between.
 TEST(CutSummary, hasNoMoreRowsThanTheWholeOfASample)
 {
