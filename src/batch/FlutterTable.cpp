@@ -3,6 +3,7 @@
 
 #include "analysis/Sheet.h"
 #include "base/files/PathNames.h"
+#include "base/text/QuotedText.h"
 #include "base/user/RunTimeError.h"
 #include "batch/BatchRun.h"
 #include "batch/CommandLine.h"
@@ -22,7 +23,7 @@ std::optional<std::string> machOf(const CommandLine& line)
 {
     auto text = line.value("--mach");
     if (text && singlesOf(*text, 1, "--mach").front() <= 0)
-        throw UsageError("--mach must be greater than 0");
+        throw UsageError("--mach: " + quotedText(*text) + " is not a number greater than 0");
     return text;
 }
 

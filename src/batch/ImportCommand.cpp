@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "base/files/PathNames.h"
 #include "base/numbers/Numbers.h"
+#include "base/text/QuotedText.h"
 #include "base/text/TextCodec.h"
 #include "batch/BatchRun.h"
 #include "batch/Commands.h"
@@ -29,19 +30,27 @@ std::string namesOf(const Units& units)
     return names;
 }
 
+template <typename Units>
+UsageError notAUnit(std::string_view option, std::string_view text, const Units& units)
+{
+    return UsageError(std::string(option) + ": " + quotedText(text) + " is not one of "
+                      + namesOf(units));
+}
+
 /// The units on the command line; empty without --speed-unit.
 std::optional<UnitChoice> unitChoice(const CommandLine& line)
 {
     UnitChoice choice;
     if (const auto vref = line.number("--vref")) {
         if (!(*vref > 0))
-            throw UsageError("--vref: a number above 0 is wanted");
+            throw UsageError("--vref: " + quotedText(*line.value("--vref"))
+                             + " is not a number greater than 0");
         choice.vref = *vref;
     }
     if (const auto density = line.value("--density")) {
         const auto unit = solver::densityUnit(*density);
         if (!unit)
-            throw UsageError("--density: one of " + namesOf(solver::densityUnits) + " is wanted");
+            throw notAUnit("--density", *density, solver::densityUnits);
         choice.density = *unit;
     }
     choice.isEquivalent = line.has("--equivalent");
@@ -50,7 +59,7 @@ std::optional<UnitChoice> unitChoice(const CommandLine& line)
         return std::nullopt;
     const auto unit = solver::speedUnit(*speed);
     if (!unit)
-        throw UsageError("--speed-unit: one of " + namesOf(solver::speedUnits) + " is wanted");
+        throw notAUnit("--speed-unit", *speed, solver::speedUnits);
     choice.speed = *unit;
     return choice;
 }
@@ -215,6 +224,8 @@ int writeEvolutions(const solver::ImportPlan& plan, BatchRun& run)
         run.out() << printableText(shownPath(path)) << '\n';
     for (const std::string& failure : written.failures)
         run.complain(failure);
+    for (const std::string& doubt : plan.doubts())
+        run.complain(doubt);
     for (const std::string& finding : plan.findings())
         run.complain(finding);
     return written.failures.empty() ? done : failed;
@@ -229,7 +240,7 @@ std::string existingFolder(const CommandLine& line)
     std::error_code unknown;
     const auto status = std::filesystem::status(nativePath(*folder), unknown);
     if (std::filesystem::status_known(status) && !std::filesystem::is_directory(status))
-        throw Failure(*folder + " is not a folder");
+        throw Failure(quotedText(*folder) + " is not a folder");
     return *folder;
 }
 

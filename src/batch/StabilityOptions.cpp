@@ -3,6 +3,7 @@
 
 #include "analysis/ModeTracking.h"
 #include "base/files/PathNames.h"
+#include "base/text/QuotedText.h"
 #include "base/user/RunTimeError.h"
 #include "batch/BatchRun.h"
 #include "batch/WorkspaceInput.h"
@@ -15,7 +16,8 @@ double atLeastZero(const CommandLine& line, std::string_view option, double usua
 {
     const double value = line.number(option).value_or(usual);
     if (!(value >= 0))
-        throw UsageError(std::string(option) + ": a number of at least 0 is wanted");
+        throw UsageError(std::string(option) + ": " + quotedText(*line.value(option))
+                         + " is not a number of at least 0");
     return value;
 }
 
@@ -34,7 +36,8 @@ Requirement requirementOf(const CommandLine& line)
     if (const std::string factor = *line.value("--require"); !factor.empty())
         requirement.factor = numberOf(factor, "--require");
     if (!(requirement.factor > 0))
-        throw UsageError("--require: a factor greater than 0 is wanted");
+        throw UsageError("--require: " + quotedText(*line.value("--require"))
+                         + " is not a factor greater than 0");
     if (const auto level = line.value("--require-level"))
         requirement.level = singlesOf(*level, 1, "--require-level").front();
     return requirement;
@@ -85,6 +88,8 @@ std::vector<EvolutionStability> judgedFiles(const CommandLine& line, const std::
 {
     if (hasWorkspace(line.operands()))
         throw UsageError("a workspace is given; modal evolutions are wanted");
+    if (line.has("--aircraft"))
+        refuseOutputOverInput(output, aircraft.airplane.Filename);
     std::vector<EvolutionStability> evolutions;
     for (const std::string& path : line.operands()) {
         refuseOutputOverInput(output, path);

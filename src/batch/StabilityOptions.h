@@ -54,8 +54,9 @@ struct AircraftOption
 /// requirement without aircraft or an invalid value; errors of reading the aircraft file.
 AircraftOption aircraftOf(const CommandLine& line);
 
-/// Judges the evolutions of the command line. Errors: those of opening them; Failure for one that
-/// is the output, or that cannot be tracked as requested.
+/// Judges the evolutions of the command line. Errors: those of opening them; Failure for an
+/// output that is one of them or the aircraft file, and for one that cannot be tracked as
+/// requested.
 std::vector<EvolutionStability> judgedFiles(const CommandLine& line, const std::string& output,
                                             const StabilitySettings& settings,
                                             const AircraftOption& aircraft, BatchRun& run);

@@ -4,6 +4,7 @@
 #include "base/files/InputFile.h"
 #include "base/files/PathNames.h"
 #include "base/numbers/Numbers.h"
+#include "base/text/QuotedText.h"
 #include "base/text/TextCodec.h"
 #include "batch/BatchRun.h"
 #include "batch/Commands.h"
@@ -20,12 +21,10 @@ namespace {
 
 constexpr std::array<std::string_view, 1> trackOutputs = {".ev2"};
 
-std::int16_t modeNumber(std::string_view text)
+UsageError notAnExchange(std::string_view text)
 {
-    std::int16_t number = 0;
-    if (parseInteger16(text, number) != NumberStatus::Ok)
-        throw UsageError("--swap: two mode numbers and a speed are wanted, like 4,5@382.5");
-    return number;
+    return UsageError("--swap: " + quotedText(text)
+                      + " is not two mode numbers and a speed, like 4,5@382.5");
 }
 
 /// Parses "A,B@KEAS".
@@ -34,10 +33,13 @@ ModeExchange exchangeOf(std::string_view text)
     const std::vector<std::string_view> parts = split(text, '@');
     const std::vector<std::string_view> modes = split(parts.front(), ',');
     constexpr std::size_t two = 2;
-    if (parts.size() != two || modes.size() != two)
-        throw UsageError("--swap: two mode numbers and a speed are wanted, like 4,5@382.5");
-    return {modeNumber(modes[0]), modeNumber(modes[1]),
-            static_cast<float>(numberOf(parts[1], "--swap"))};
+    ModeExchange exchange;
+    if (parts.size() != two || modes.size() != two
+        || parseInteger16(modes[0], exchange.firstMode) != NumberStatus::Ok
+        || parseInteger16(modes[1], exchange.secondMode) != NumberStatus::Ok
+        || parseSingle(parts[1], exchange.aboveSpeed) != NumberStatus::Ok)
+        throw notAnExchange(text);
+    return exchange;
 }
 
 std::vector<ModeExchange> exchangesOf(const CommandLine& line)

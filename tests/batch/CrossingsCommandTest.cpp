@@ -126,10 +126,39 @@ TEST_F(CrossingsCommand, refusesWordsForNumbersAndOtherOutputs)
     EXPECT_EQ(fileCount(), 1U);
 }
 
+TEST_F(CrossingsCommand, namesTheTextThatIsWrong)
+{
+    const std::string path = writeEv2();
+    const std::string aircraft = folder().write("wing.inp", "[FLUTTER ENVELOPE]\n0.78=1|2|1\n");
+    const auto errorOf = [&](std::vector<std::string> options) {
+        options.insert(options.begin(), "crossings");
+        options.insert(options.end(), {"--output", file("out.csv"), path});
+        return runBatch(options).err;
+    };
+    EXPECT_THAT(errorOf({"--tolerance", "-1"}),
+                HasSubstr("--tolerance: \"-1\" is not a number of at least 0"));
+    EXPECT_THAT(errorOf({"--require=-2", "--aircraft", aircraft}),
+                HasSubstr("--require: \"-2\" is not a factor greater than 0"));
+}
+
+TEST_F(CrossingsCommand, keepsItsAircraftFile)
+{
+    const std::string text = "[FLUTTER ENVELOPE]\n0.78=100|200|150\n";
+    const std::string aircraft = folder().write("wing.csv", text);
+    const auto result = runBatch(
+        {"crossings", "--require", "--aircraft", aircraft, "--output", aircraft, writeEv2()});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.err, HasSubstr("wing.csv is one of the files to read"));
+    EXPECT_EQ(fileBytes(aircraft), text);
+}
+
 TEST_F(CrossingsCommand, saysWhyAnEvolutionCannotBeTracked)
 {
-    const auto result =
-        runBatch({"crossings", "--tracked", "--output", file("out.json"), writeEvm()});
+    const std::string path = folder().write("two.evm",
+                                            "\n\n\n" + std::string(60, ' ') + "   1       2\n"
+                                                + "  7  0.100  100.000 5.00000E-01    4.000"
+                                                  "  8  0.200  100.000 5.00000E-01    8.000\n");
+    const auto result = runBatch({"crossings", "--tracked", "--output", file("out.json"), path});
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.err, HasSubstr("cannot be tracked: its points have no eigenvalues"));
     EXPECT_EQ(fileCount(), 1U);

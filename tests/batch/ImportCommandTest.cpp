@@ -106,16 +106,30 @@ TEST_F(ImportCommand, refusesUnknownUnitsAndMissingFolders)
     const std::string path = writeSummary();
     const std::string here = folder().path().string();
     EXPECT_THAT(runBatch({"import", "--speed-unit", "km/h", "--output", here, path}).err,
-                HasSubstr("m/s, ft/s, in/s, mm/s, kt"));
+                HasSubstr("\"km/h\" is not one of m/s, ft/s, in/s, mm/s, kt"));
     EXPECT_THAT(
         runBatch({"import", "--speed-unit", "m/s", "--density", "x", "--output", here, path}).err,
-        HasSubstr("ratio, kg/m3, slug/ft3, lbf.s2/in4, t/mm3"));
+        HasSubstr("\"x\" is not one of ratio, kg/m3, slug/ft3, lbf.s2/in4, t/mm3"));
     EXPECT_EQ(runBatch({"import", "--speed-unit", "m/s", path}).status, 2);
     EXPECT_EQ(runBatch({"import", "--speed-unit", "m/s", "--output", file("no"), path}).status, 1);
     EXPECT_EQ(
         runBatch({"import", "--speed-unit", "m/s", "--vref", "0", "--output", here, path}).status,
         2);
     EXPECT_EQ(fileCount(), 1U);
+}
+
+TEST_F(ImportCommand, saysWhatSpeaksAgainstTheUnits)
+{
+    const auto import = [&](std::string_view density) {
+        return runBatch({"import", "--speed-unit", "m/s", "--density", std::string(density),
+                         "--output", folder().path().string(), writeSummary()});
+    };
+    const auto doubtful = import("kg/m3");
+    EXPECT_EQ(doubtful.status, 0);
+    EXPECT_THAT(doubtful.err,
+                HasSubstr("wing.f06, line 4: the heading prints a density ratio, which the unit "
+                          "kg/m3 would scale"));
+    EXPECT_EQ(import("ratio").err, "");
 }
 
 TEST_F(ImportCommand, distinguishesNamesOfTwoSources)

@@ -89,6 +89,8 @@ TEST_F(TrackCommand, refusesWhatItCannotDo)
     const std::string path = writeCrossingRoots();
     EXPECT_EQ(runBatch({"track", "--swap", "3", path}).status, 2);
     EXPECT_EQ(runBatch({"track", "--swap", "3,x@5", path}).status, 2);
+    EXPECT_THAT(runBatch({"track", "--swap", "3,4@1e300", path}).err,
+                HasSubstr("--swap: \"3,4@1e300\" is not two mode numbers and a speed"));
     EXPECT_THAT(runBatch({"track", "--swap", "3,9@100", path}).err,
                 HasSubstr("there is no mode 9"));
     EXPECT_THAT(runBatch({"track", "--swap", "3,3@100", path}).err, HasSubstr("with itself"));
