@@ -147,7 +147,7 @@ ModeTracking::ModeTracking(const EVM& evolution, const Progress& progress)
 
 std::optional<std::string> ModeTracking::obstacle(const EVM& evolution)
 {
-    bool hasEigenvalues = false;
+    bool hasEigenvalues = evolution.Modes.size() == 1;
     for (const auto& mode : evolution.Modes) {
         if (mode->Points.size() != pointCount(evolution))
             return "its modes have unequal numbers of points";

@@ -46,8 +46,7 @@ Margin marginOf(const StabilityVerdict& verdict, float lastSpeed, const Required
     if (!margin.isInstability)
         margin.reached = lastSpeed;
     else if (verdict.unstableFromFirst.empty())
-        margin.reached =
-            hasSpeed(*verdict.lowest) ? verdict.lowest->speed : verdict.lowest->fromSpeed;
+        margin.reached = lowestSpeed(*verdict.lowest);
     margin.passes = margin.value().value_or(-1) >= 0;
     return margin;
 }

@@ -106,7 +106,7 @@ void judge(const RootStretches& root, StabilityVerdict& verdict)
             continue;
         if (!stretch.start) {
             verdict.unstableFromFirst.push_back(root.mode);
-        } else if (!verdict.lowest || stretch.start->speed < verdict.lowest->speed) {
+        } else if (!verdict.lowest || lowestSpeed(*stretch.start) < lowestSpeed(*verdict.lowest)) {
             verdict.lowest = stretch.start;
             verdict.lowestMode = root.mode;
         }

@@ -48,7 +48,7 @@ struct StabilityVerdict
 {
     float level = 0;
     std::vector<std::int16_t> unstableFromFirst; ///< modes above the level from the first speed
-    std::optional<Crossing> lowest; ///< the lowest start of a real stretch
+    std::optional<Crossing> lowest; ///< the start of a real stretch with the least `lowestSpeed`
     std::int16_t lowestMode = 0;
 };
 

@@ -30,6 +30,20 @@ void sortOut(EvolutionStability& result)
                      [](const auto& a, const auto& b) { return startOf(a) < startOf(b); });
 }
 
+/// The largest speed that every mode reaches: a mode that ends earlier proves nothing above it.
+float commonLastSpeed(const EVM& evolution)
+{
+    float common = lastSpeedOf(evolution);
+    for (const auto& mode : evolution.Modes) {
+        const auto last =
+            std::max_element(mode->Points.begin(), mode->Points.end(),
+                             [](const Point& a, const Point& b) { return a.speed < b.speed; });
+        if (last != mode->Points.end())
+            common = std::min(common, last->speed);
+    }
+    return common;
+}
+
 /// The verdict at a level, which need not be one of the settings.
 StabilityVerdict verdictAt(float level, const EvolutionStability& stability,
                            StabilitySettings settings)
@@ -56,7 +70,7 @@ EvolutionStability judged(const StabilityInput& input, const StabilitySettings& 
 {
     EvolutionStability result;
     result.evolution = input.evolution;
-    result.lastSpeed = lastSpeedOf(*input.evolution);
+    result.lastSpeed = commonLastSpeed(*input.evolution);
     if (settings.isTracked) {
         if (const auto obstacle = ModeTracking::obstacle(*input.evolution)) {
             result.obstacle = *obstacle;

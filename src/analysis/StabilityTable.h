@@ -33,7 +33,7 @@ struct StabilityLine
 struct EvolutionStability
 {
     const EVM* evolution = nullptr; ///< not owned
-    float lastSpeed = 0; ///< KEAS
+    float lastSpeed = 0; ///< KEAS; the largest speed that every mode reaches
     std::vector<RootStretches> roots; ///< all stretches
     std::vector<StabilityVerdict> verdicts; ///< one for each level
     std::vector<StabilityLine> lines; ///< the real stretches, by rising start

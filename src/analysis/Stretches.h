@@ -3,6 +3,7 @@
 
 #include "analysis/FlightCondition.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <optional>
 #include <span>
@@ -57,6 +58,13 @@ struct Crossing
 inline bool hasSpeed(const Crossing& crossing)
 {
     return crossing.kind != CrossingKind::Mixed && !crossing.jumps;
+}
+
+/// The lowest speed (KEAS) at which a crossing may be: its own, or the end of its interval if it
+/// has none.
+inline double lowestSpeed(const Crossing& crossing)
+{
+    return hasSpeed(crossing) ? crossing.speed : std::min(crossing.fromSpeed, crossing.toSpeed);
 }
 
 /// How far a stretch rises above its level; see `StretchLimits`.

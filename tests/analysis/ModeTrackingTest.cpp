@@ -121,6 +121,8 @@ TEST(ModeTracking, reportsWhatPreventsIt)
               "its modes have unequal numbers of points");
     BuiltEvolution empty;
     empty.add({{0, 0}, {0, 0}});
+    EXPECT_FALSE(ModeTracking::obstacle(empty.evolution)) << "one mode is never exchanged";
+    empty.add({{0, 0}, {0, 0}});
     EXPECT_EQ(ModeTracking::obstacle(empty.evolution), "its points have no eigenvalues");
     BuiltEvolution good;
     good.add({{0, 10}});

@@ -103,9 +103,11 @@ TEST(Stability, givesNoSpeedBetweenDifferentRoots)
 TEST(Stability, refusesToTrackWhatHasNoEigenvalues)
 {
     EVM evolution;
-    addMode(evolution, 1, {{300, -0.1F, 0}, {400, 0.1F, 10}});
+    addMode(evolution, 1, {{300, -0.1F, 10}, {400, 0.1F, 10}});
     StabilitySettings settings = atZero();
     settings.isTracked = true;
+    EXPECT_EQ(stabilityOf(evolution, settings).size(), 1U) << "one mode is never exchanged";
+    addMode(evolution, 2, {{300, -0.1F, 20}, {400, 0.1F, 20}});
     EXPECT_THROW(stabilityOf(evolution, settings), RunTimeError);
 }
 
@@ -234,6 +236,25 @@ TEST_F(RequirementTest, takesTheLowerEndOfAnIntervalOfDifferentRoots)
     EXPECT_NEAR(*marginAt(290, {1, 0}).value(), 10, 1e-4);
 }
 
+TEST_F(RequirementTest, countsTheLowerEndOfAnIntervalBeforeALowerCrossing)
+{
+    // Mode 1 crosses at 325 KEAS; on a straight line mode 2 would cross at 380, but it becomes
+    // static somewhere between 300 and 400.
+    addMode(evolution, 2, {{300, -0.4F, 0}, {400, 0.1F, 10}});
+    EXPECT_NEAR(*marginAt(290, {1, 0}).value(), 10, 1e-4);
+    EXPECT_FALSE(marginAt(310, {1, 0}).passes);
+    EXPECT_EQ(verdictAtZero(evolution), "between 300 and 400 KEAS, different roots, mode 2 (C)");
+}
+
+TEST_F(RequirementTest, isNotShownWhereOneModeEndsBelowIt)
+{
+    evolution.Modes[0]->Points[1].G = -0.125F;
+    addMode(evolution, 2, {{300, -0.1F, 8}, {350, -0.1F, 8}});
+    EXPECT_TRUE(marginAt(350, {1, 0}).passes);
+    EXPECT_EQ(marginText(marginAt(360, {1, 0})),
+              "not shown: the speeds end 10 KEAS below 1 x 360 = 360 KEAS at g = 0");
+}
+
 TEST_F(RequirementTest, isNotShownWhereTheSpeedsEndBelowIt)
 {
     evolution.Modes[0]->Points[1].G = -0.125F;
@@ -352,6 +373,7 @@ TEST_F(StabilitySheetTest, saysFromWhichSettingsProgramAndFilesItComes)
 TEST_F(StabilitySheetTest, saysWhyAFileIsNotThereOrCannotBeTracked)
 {
     addMode(evolution, 1, {{300, -0.5F, 8}, {400, -0.5F, 10}});
+    addMode(evolution, 2, {{300, -0.5F, 9}, {400, -0.5F, 11}});
     StabilitySettings settings = atZero();
     settings.isTracked = true;
     const Sheet sheet = write(settings);

@@ -139,6 +139,7 @@ TEST_F(PlotStabilityTest, hasAColumnForTheMarginWhereTheAirplaneHasEnvelopes)
 
 TEST_F(PlotStabilityTest, saysWhyAnEvolutionCannotBeTracked)
 {
+    addMode(first, 2, {{300, -0.5F, 12}, {400, -0.5F, 14}});
     settings.isTracked = true;
     VerdictModel model;
     model.setEvolutions(judge().evolutions, settings.levels);

@@ -97,6 +97,8 @@ TEST_F(WndStabilityTest, letsGoOfEvolutionsThatAreRemoved)
 
 TEST_F(WndStabilityTest, judgesAgainWithOtherSettings)
 {
+    addMode(*first, 2, {{300, -0.5F, 12}, {400, -0.5F, 14}});
+    addMode(*second, 2, {{300, -0.5F, 12}, {320, -0.5F, 13}, {340, -0.5F, 14}});
     draw(*first);
     draw(*second);
     part<QLineEdit>("toleranceInp").setText(QStringLiteral("0.01"));
