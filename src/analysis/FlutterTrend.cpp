@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <array>
-#include <functional>
 #include <utility>
 
 namespace tarsil {
@@ -22,18 +21,17 @@ constexpr std::array<std::pair<TrendAbscissa, std::string_view>, 4> trendAbsciss
      {TrendAbscissa::Mass, "mass"},
      {TrendAbscissa::File, "file"}}};
 
-/// The point of lowest or highest speed of an evolution; null without points.
-template <typename IsBetter>
-const Point* extremePoint(const EVM& evolution, IsBetter isBetter)
+/// The point of lowest speed of an evolution; null without points.
+const Point* slowestPoint(const EVM& evolution)
 {
-    const Point* found = nullptr;
+    const Point* slowest = nullptr;
     for (const auto& mode : evolution.Modes) {
         for (const Point& point : mode->Points) {
-            if (found == nullptr || isBetter(point.speed, found->speed))
-                found = &point;
+            if (slowest == nullptr || point.speed < slowest->speed)
+                slowest = &point;
         }
     }
-    return found;
+    return slowest;
 }
 
 /// A point of a speed; null for none.
@@ -83,11 +81,11 @@ TrendPoint trendPointOf(const EvolutionStability& stability, const StabilityVerd
     if (!verdict.unstableFromFirst.empty()) {
         result.onset = TrendOnset::FirstSpeed;
         result.modes = verdict.unstableFromFirst;
-        setLimit(extremePoint(*stability.evolution, std::less<>()), result);
+        setLimit(slowestPoint(*stability.evolution), result);
     } else if (verdict.lowest) {
         result.modes = {verdict.lowestMode};
         setStart(*verdict.lowest, result);
-    } else if (const Point* last = extremePoint(*stability.evolution, std::greater<>())) {
+    } else if (const Point* last = pointOfSpeed(*stability.evolution, stability.lastSpeed)) {
         result.onset = TrendOnset::None;
         setLimit(last, result);
     } else {

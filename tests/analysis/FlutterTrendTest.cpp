@@ -82,6 +82,12 @@ TEST_F(FlutterTrendTest, hasASpeedForAStartOnly)
     EXPECT_EQ(points[4].toSpeed, 300);
 }
 
+TEST_F(FlutterTrendTest, hasNoInstabilityUpToTheLastSpeedOfAllModes)
+{
+    addMode(*evolutions[3], 2, {{100, -0.1F, 9}, {400, -0.2F, 9}});
+    EXPECT_EQ(trend(TrendAbscissa::File).points[3].speed, 400) << "mode 1 goes to 420";
+}
+
 TEST_F(FlutterTrendTest, hasAPointForEachLevelAndEvolution)
 {
     settings.levels = {0, 0.05F};
