@@ -48,6 +48,12 @@ Margin marginOf(const StabilityVerdict& verdict, float lastSpeed, const Required
     else if (verdict.unstableFromFirst.empty())
         margin.reached = lowestSpeed(*verdict.lowest);
     margin.passes = margin.value().value_or(-1) >= 0;
+    if (margin.passes && lastSpeed < required.speed()) {
+        // A mode ends below the required speed; that another one starts above it is no proof.
+        margin.isInstability = false;
+        margin.reached = lastSpeed;
+        margin.passes = false;
+    }
     return margin;
 }
 

@@ -40,7 +40,7 @@ struct Margin
     RequiredSpeed required;
     /// The speed (KEAS) at which instability begins at the latest: the lowest reliable start, or
     /// the lower end of its interval if only that is known, or the last speed if there is no
-    /// instability. Empty when a mode is unstable from the first speed.
+    /// instability up to it. Empty when a mode is unstable from the first speed.
     std::optional<double> reached;
     bool isInstability = false; ///< `reached` is a start, not the last speed
     bool passes = false; ///< there is a dive speed, and `reached` is not below the required speed
@@ -49,8 +49,8 @@ struct Margin
     std::optional<double> value() const;
 };
 
-/// The margin of a verdict at the level of the requirement. A verdict without instability passes
-/// only if the speeds extend to the required one.
+/// The margin of a verdict at the level of the requirement. `lastSpeed` is the largest speed that
+/// every mode reaches; no verdict passes if that is below the required speed.
 Margin marginOf(const StabilityVerdict& verdict, float lastSpeed, const RequiredSpeed& required);
 
 /// The margin as one line, such as "pass: 24.7 KEAS above 1.15 x 210 = 241.5 KEAS at g = 0.03".

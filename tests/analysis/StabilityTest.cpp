@@ -255,6 +255,15 @@ TEST_F(RequirementTest, isNotShownWhereOneModeEndsBelowIt)
               "not shown: the speeds end 10 KEAS below 1 x 360 = 360 KEAS at g = 0");
 }
 
+TEST_F(RequirementTest, isNotShownByAStartOfAnotherModeAboveIt)
+{
+    addMode(evolution, 2, {{200, -0.1F, 8}, {290, -0.1F, 8}});
+    EXPECT_TRUE(marginAt(280, {1, 0}).passes) << "mode 1 starts at 325 KEAS";
+    EXPECT_FALSE(marginAt(300, {1, 0}).passes);
+    EXPECT_EQ(marginText(marginAt(300, {1, 0})),
+              "not shown: the speeds end 10 KEAS below 1 x 300 = 300 KEAS at g = 0");
+}
+
 TEST_F(RequirementTest, isNotShownWhereTheSpeedsEndBelowIt)
 {
     evolution.Modes[0]->Points[1].G = -0.125F;
