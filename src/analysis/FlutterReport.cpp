@@ -61,15 +61,17 @@ bool attempt(const FlutterReport::FailureReport& report, Part part)
 }
 
 /// Searches every mode and returns the largest number of crossings. A mode whose search fails gets
-/// none: its first crossings alone could pass for all of them.
+/// none: its first crossings alone could pass for all of them. Each mode is a step.
 std::size_t findCrossings(const std::vector<ReportRow>& rows, double gOffset,
-                          const FlutterReport::FailureReport& report)
+                          const FlutterReport::FailureReport& report, StepCounter& steps)
 {
     std::size_t largest = 0;
     for (const ReportRow& row : rows) {
         if (!attempt(report, [&] { FlutterPtsCalc(*row.mode, gOffset); }))
             row.mode->flutterPoints.clear();
         largest = std::max(largest, row.mode->flutterPoints.size());
+        if (!steps.next())
+            break;
     }
     return largest;
 }
@@ -94,20 +96,26 @@ FlutterReport::FlutterReport(double referenceDamping, double speedLimit, MachQue
     : m_referenceDamping(referenceDamping), m_speedLimit(speedLimit), m_askMach(std::move(askMach))
 { }
 
-void FlutterReport::write(const std::vector<ReportRow>& rows, Sheet& sheet) const
+bool FlutterReport::write(const std::vector<ReportRow>& rows, Sheet& sheet,
+                          const Progress& progress) const
 {
-    writeWhatCan(rows, sheet, [](const RunTimeError& error) { throw error; });
+    return writeWhatCan(
+        rows, sheet, [](const RunTimeError& error) { throw error; }, progress);
 }
 
-void FlutterReport::writeWhatCan(const std::vector<ReportRow>& rows, Sheet& sheet,
-                                 const FailureReport& report) const
+bool FlutterReport::writeWhatCan(const std::vector<ReportRow>& rows, Sheet& sheet,
+                                 const FailureReport& report, const Progress& progress) const
 {
+    StepCounter steps(progress, 2 * rows.size() + 1);
     writeHeadings(sheet);
-    const std::size_t crossings = findCrossings(rows, -m_referenceDamping, report);
+    const std::size_t crossings = findCrossings(rows, -m_referenceDamping, report, steps);
     writeBlockHeadings(crossings, sheet);
     std::size_t line = headingLine;
-    for (const ReportRow& row : rows)
-        writeRow(row, ++line, crossings, sheet, report);
+    for (auto row = rows.begin(); row != rows.end() && !steps.isStopped(); ++row) {
+        writeRow(*row, ++line, crossings, sheet, report);
+        steps.next();
+    }
+    return !steps.isStopped();
 }
 
 void FlutterReport::writeRow(const ReportRow& row, std::size_t line, std::size_t crossings,

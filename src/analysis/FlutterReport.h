@@ -2,6 +2,7 @@
 #pragma once
 
 #include "analysis/Sheet.h"
+#include "base/user/Progress.h"
 
 #include <functional>
 #include <optional>
@@ -58,15 +59,18 @@ public:
     /// Fills the sheet row by row. After an error the cells already written stay. Replaces the
     /// flutter points of the modes. If an evolution has no Mach number, the question is asked for
     /// each crossing; no answer, or one that is not a number, is error 13. Other errors: those of
-    /// the searches (9 for a mode without points among them) and of the altitude.
-    void write(const std::vector<ReportRow>& rows, Sheet& sheet) const;
+    /// the searches (9 for a mode without points among them) and of the altitude. Reports progress
+    /// after the search of each mode and after each row. Returns false after a stop; the sheet is
+    /// not complete then.
+    bool write(const std::vector<ReportRow>& rows, Sheet& sheet,
+               const Progress& progress = {}) const;
 
     /// Like `write`, but continues after a failure. A mode that cannot be searched (two points of
     /// one speed around a crossing, for instance) gets empty cells for its crossings; an altitude
     /// or maximum that cannot be computed leaves its own cell empty. Each such error goes to
     /// `report`. Errors: 13 for a Mach number as above, and those that `report` raises.
-    void writeWhatCan(const std::vector<ReportRow>& rows, Sheet& sheet,
-                      const FailureReport& report) const;
+    bool writeWhatCan(const std::vector<ReportRow>& rows, Sheet& sheet, const FailureReport& report,
+                      const Progress& progress = {}) const;
 
 private:
     void writeRow(const ReportRow& row, std::size_t line, std::size_t crossings, Sheet& sheet,

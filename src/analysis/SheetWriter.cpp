@@ -70,16 +70,17 @@ void writeSheet(const Sheet& sheet, std::string_view path)
     writeSheets({&only, 1}, path);
 }
 
-void writeSheets(std::span<const Sheet* const> sheets, std::string_view path)
+bool writeSheets(std::span<const Sheet* const> sheets, std::string_view path,
+                 const Progress& progress)
 {
     const std::string extension = lowerCaseExtension(path);
     if (extension == ".xlsx")
-        writeXlsx(sheets, path);
-    else if (extension == ".csv")
-        writeFile(path, encodeText(csvText(*sheets.front())));
-    else
+        return writeXlsx(sheets, path, progress);
+    if (extension != ".csv")
         throw RunTimeError(ErrorNumber::InvalidProcedureCall, "SheetWriter",
                            std::string(path) + " ends neither in .xlsx nor in .csv");
+    writeFile(path, encodeText(csvText(*sheets.front())));
+    return true;
 }
 
 } // namespace tarsil

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "base/user/Progress.h"
+
 #include <span>
 #include <string_view>
 
@@ -24,7 +26,9 @@ class Sheet;
 void writeSheet(const Sheet& sheet, std::string_view path);
 
 /// Writes several sheets: a spreadsheet has all of them as pages, in order; a .csv file, which has
-/// room for one table, has the first.
-void writeSheets(std::span<const Sheet* const> sheets, std::string_view path);
+/// room for one table, has the first. Reports progress while it makes a spreadsheet. Returns false
+/// after a stop, when nothing is written.
+bool writeSheets(std::span<const Sheet* const> sheets, std::string_view path,
+                 const Progress& progress = {});
 
 } // namespace tarsil

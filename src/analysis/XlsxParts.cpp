@@ -245,11 +245,14 @@ std::string SharedTexts::xml() const
     return xml + "</sst>\n";
 }
 
-/// Writes a page with its cells.
+/// Writes a page with its cells. Each column and each row is a step; after a stop the page is
+/// incomplete.
 class PageWriter
 {
 public:
-    PageWriter(const Sheet& sheet, SharedTexts& texts) : m_sheet(sheet), m_texts(texts) { }
+    PageWriter(const Sheet& sheet, SharedTexts& texts, StepCounter& steps)
+        : m_sheet(sheet), m_texts(texts), m_steps(steps)
+    { }
 
     std::string page(bool isFirst);
 
@@ -260,6 +263,7 @@ private:
 
     const Sheet& m_sheet;
     SharedTexts& m_texts;
+    StepCounter& m_steps;
 };
 
 std::string PageWriter::page(bool isFirst)
@@ -271,11 +275,13 @@ std::string PageWriter::page(bool isFirst)
 std::string PageWriter::columns() const
 {
     std::string xml;
-    for (std::size_t column = 1; column <= m_sheet.columnCount(); ++column) {
+    const std::size_t count = m_sheet.columnCount();
+    for (std::size_t column = 1; column <= count && !m_steps.isStopped(); ++column) {
         const std::string number = textOf(column);
         xml.append("<col min=\"").append(number).append("\" max=\"").append(number);
         xml.append("\" width=\"").append(textOf(widthOf(m_sheet, column)));
         xml.append("\" customWidth=\"1\"/>");
+        m_steps.next();
     }
     return xml.empty() ? xml : "<cols>" + xml + "</cols>";
 }
@@ -283,11 +289,12 @@ std::string PageWriter::columns() const
 std::string PageWriter::rows()
 {
     std::string xml;
-    for (std::size_t row = 1; row <= m_sheet.rowCount(); ++row) {
+    for (std::size_t row = 1; row <= m_sheet.rowCount() && !m_steps.isStopped(); ++row) {
         xml.append("<row r=\"").append(textOf(row)).append("\">");
         for (std::size_t column = 1; column <= m_sheet.columnCount(); ++column)
             xml.append(cell(row, column));
         xml.append("</row>");
+        m_steps.next();
     }
     return xml;
 }
@@ -357,6 +364,14 @@ void WorkbookWriter::addPage(const Sheet& sheet)
         + number + "\"/>";
 }
 
+std::size_t stepsOf(std::span<const Sheet* const> sheets)
+{
+    std::size_t steps = 0;
+    for (const Sheet* sheet : sheets)
+        steps += sheet->columnCount() + sheet->rowCount();
+    return steps;
+}
+
 } // namespace
 
 std::string xlsxText(std::string_view utf8)
@@ -378,8 +393,10 @@ std::string xlsxText(std::string_view utf8)
     return runs.empty() ? rest : runs + "<r>" + rest + "</r>";
 }
 
-std::vector<ArchivePart> xlsxParts(std::span<const Sheet* const> sheets, std::string_view path)
+std::optional<std::vector<ArchivePart>> xlsxParts(std::span<const Sheet* const> sheets,
+                                                  std::string_view path, const Progress& progress)
 {
+    StepCounter steps(progress, stepsOf(sheets) + 1);
     WorkbookWriter workbook;
     SharedTexts texts(path);
     std::vector<ArchivePart> pages;
@@ -388,7 +405,9 @@ std::vector<ArchivePart> xlsxParts(std::span<const Sheet* const> sheets, std::st
             failWriting(path, "more rows or columns than a spreadsheet can have");
         workbook.addPage(*sheet);
         pages.push_back({"xl/worksheets/sheet" + textOf(workbook.pageCount()) + ".xml",
-                         PageWriter(*sheet, texts).page(pages.empty())});
+                         PageWriter(*sheet, texts, steps).page(pages.empty())});
+        if (steps.isStopped())
+            return std::nullopt;
     }
     std::vector<ArchivePart> parts = {{"[Content_Types].xml", workbook.types()},
                                       {"_rels/.rels", packageRelations},

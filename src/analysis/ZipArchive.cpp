@@ -5,6 +5,7 @@
 
 #include <zip.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -32,23 +33,32 @@ using Archive = std::unique_ptr<zip_t, Discard>;
 class ZipWriter
 {
 public:
-    explicit ZipWriter(std::string_view source);
+    /// `progress` must outlive the writer.
+    ZipWriter(std::string_view source, const Progress& progress);
 
     /// `bytes` must outlive the writer.
     void add(const ArchivePart& part);
 
-    std::string finish();
+    /// Empty after a stop.
+    std::optional<std::string> finish();
 
 private:
+    void watch();
+    static void look(zip_t* archive, double share, void* writer);
+    static int isCancelled(zip_t* archive, void* writer);
+    std::string takeBytes();
     [[noreturn]] void fail(zip_error_t& error) const;
     [[noreturn]] void failArchive() const { fail(*zip_get_error(m_archive.get())); }
 
     std::string_view m_name;
+    const Progress& m_progress;
+    bool m_isStopped = false;
     Source m_memory; ///< the archive's bytes
     Archive m_archive;
 };
 
-ZipWriter::ZipWriter(std::string_view source) : m_name(source)
+ZipWriter::ZipWriter(std::string_view source, const Progress& progress)
+    : m_name(source), m_progress(progress)
 {
     zip_error_t error {};
     zip_error_init(&error);
@@ -79,11 +89,46 @@ void ZipWriter::add(const ArchivePart& part)
         failArchive();
 }
 
-std::string ZipWriter::finish()
+/// Makes the library report while it compresses.
+void ZipWriter::watch()
 {
-    if (zip_close(m_archive.get()) != 0)
+    constexpr double leastStep = 0; // looks after each piece that is written
+    if (zip_register_progress_callback_with_state(m_archive.get(), leastStep, look, nullptr, this)
+            != 0
+        || zip_register_cancel_callback_with_state(m_archive.get(), isCancelled, nullptr, this)
+            != 0)
         failArchive();
-    static_cast<void>(m_archive.release()); // zip_close has freed it
+}
+
+void ZipWriter::look(zip_t* /*archive*/, double share, void* writer)
+{
+    constexpr std::size_t steps = 1000;
+    auto& self = *static_cast<ZipWriter*>(writer);
+    const auto done = static_cast<std::size_t>(share * steps);
+    self.m_isStopped = self.m_isStopped || !self.m_progress(std::min(done, steps - 1), steps);
+}
+
+int ZipWriter::isCancelled(zip_t* /*archive*/, void* writer)
+{
+    return static_cast<const ZipWriter*>(writer)->m_isStopped ? 1 : 0;
+}
+
+std::optional<std::string> ZipWriter::finish()
+{
+    if (m_progress)
+        watch();
+    const bool isClosed = zip_close(m_archive.get()) == 0;
+    if (isClosed)
+        static_cast<void>(m_archive.release()); // zip_close has freed it
+    if (m_isStopped)
+        return std::nullopt;
+    if (!isClosed)
+        failArchive();
+    return takeBytes();
+}
+
+std::string ZipWriter::takeBytes()
+{
     zip_source_t* const memory = m_memory.get();
     zip_stat_t status {};
     if (zip_source_open(memory) != 0 || zip_source_stat(memory, &status) != 0)
@@ -106,9 +151,10 @@ void ZipWriter::fail(zip_error_t& error) const
 
 } // namespace
 
-std::string zipArchive(const std::vector<ArchivePart>& parts, std::string_view source)
+std::optional<std::string> zipArchive(const std::vector<ArchivePart>& parts,
+                                      std::string_view source, const Progress& progress)
 {
-    ZipWriter writer(source);
+    ZipWriter writer(source, progress);
     for (const ArchivePart& part : parts)
         writer.add(part);
     return writer.finish();

@@ -75,59 +75,83 @@ void FlutterReportCommand::run(const EvmPlot& plot, const AirplaneInfo& airplane
         if (!answers)
             return;
         const BusyStatus status(m_userInterface, busy);
-        const Sheet table = flutterTable(plot, *answers);
-        if (const auto stability = stabilityTable(plot, airplane, answers->referenceDamping))
-            open(write(table, *stability, folder));
+        if (const auto path = makeWorkbook(plot, airplane, *answers, folder))
+            open(*path);
         else
             m_userInterface.showNote("Stopped: no workbook was written");
     });
 }
 
-Sheet FlutterReportCommand::flutterTable(const EvmPlot& plot, const FlutterAnswers& answers)
+/// The path of the workbook; empty after a stop.
+std::optional<QString> FlutterReportCommand::makeWorkbook(const EvmPlot& plot,
+                                                          const AirplaneInfo& airplane,
+                                                          const FlutterAnswers& answers,
+                                                          const QString& folder)
+{
+    constexpr std::size_t parts = 10; // of about the same time
+    const Progress progress = [this](std::size_t done, std::size_t total) {
+        return m_userInterface.showProgress(done, total);
+    };
+    const auto table = flutterTable(plot, answers, partOf(progress, 0, parts));
+    if (!table)
+        return std::nullopt;
+    const auto stability =
+        stabilityTable(plot, airplane, answers.referenceDamping, partOf(progress, 1, parts, 5));
+    if (!stability)
+        return std::nullopt;
+    return write(*table, *stability, folder, partOf(progress, 6, parts, 4));
+}
+
+/// Empty after a stop; after an error it has the cells written so far.
+std::optional<Sheet> FlutterReportCommand::flutterTable(const EvmPlot& plot,
+                                                        const FlutterAnswers& answers,
+                                                        const Progress& progress)
 {
     Sheet sheet;
+    bool isStopped = false;
     guarded(m_userInterface, module, [&] {
         const auto askHere = [this](const AeMode& mode, std::string_view prompt) {
             return m_questions.askMach(mode, prompt, busy);
         };
-        FlutterReport(answers.referenceDamping, answers.speedLimit, askHere)
-            .write(rowsOf(plot), sheet);
+        isStopped = !FlutterReport(answers.referenceDamping, answers.speedLimit, askHere)
+                         .write(rowsOf(plot), sheet, progress);
     });
-    return sheet;
+    return isStopped ? std::nullopt : std::optional(std::move(sheet));
 }
 
-/// Empty after a stop. Half of the progress is the search for stretches, half the source files.
+/// Empty after a stop. The source files take most of the time.
 std::optional<Sheet> FlutterReportCommand::stabilityTable(const EvmPlot& plot,
                                                           const AirplaneInfo& airplane,
-                                                          double damping) const
+                                                          double damping,
+                                                          const Progress& progress) const
 {
+    constexpr std::size_t parts = 5;
+    const Progress search = partOf(progress, 0, parts);
     const std::string program = "Tarsil " + QCoreApplication::applicationVersion().toStdString();
     StabilityReport report {{}, reportSettings(damping), program};
     const std::vector<const EVM*> evolutions = evolutionsOf(plot);
-    const std::size_t count = evolutions.size();
     for (const EVM* evolution : evolutions) {
         StabilityInput input {evolution, m_questions.answeredMach(*evolution), std::nullopt};
         if (!airplane.FlutterEnvs.empty())
             input.required = requiredSpeed(*evolution, airplane, Requirement());
         report.evolutions.push_back(judged(input, report.settings));
-        if (!m_userInterface.showProgress(report.evolutions.size(), 2 * count + 1))
+        if (!goesOn(search, report.evolutions.size(), evolutions.size()))
             return std::nullopt;
     }
     Sheet sheet(stabilitySheetTitle);
-    const bool isComplete =
-        writeStability(report, sheet, [&](std::size_t done, std::size_t /*total*/) {
-            return m_userInterface.showProgress(count + done, 2 * count + 1);
-        });
+    const bool isComplete = writeStability(report, sheet, partOf(progress, 1, parts, 4));
     return isComplete ? std::optional(std::move(sheet)) : std::nullopt;
 }
 
-QString FlutterReportCommand::write(const Sheet& table, const Sheet& stability,
-                                    const QString& folder) const
+/// Empty after a stop.
+std::optional<QString> FlutterReportCommand::write(const Sheet& table, const Sheet& stability,
+                                                   const QString& folder, const Progress& progress)
 {
     QDir().mkpath(folder);
     QString path = freeName(folder);
-    writeSheets(std::array {&table, &stability}, path.toStdString());
-    return path;
+    const bool isWritten =
+        writeSheets(std::array {&table, &stability}, path.toStdString(), progress);
+    return isWritten ? std::optional(std::move(path)) : std::nullopt;
 }
 
 void FlutterReportCommand::open(const QString& path)

@@ -3,6 +3,7 @@
 
 #include "analysis/Sheet.h"
 #include "app/FlutterQuestions.h"
+#include "base/user/Progress.h"
 #include "base/user/UserInterface.h"
 
 #include <functional>
@@ -35,16 +36,19 @@ public:
 
     /// Writes the workbook to `folder`. First shows which rows of the plot have no curve and are
     /// left out. No answer to one of the two questions, or a stop by the user, ends the command
-    /// without a workbook. After
-    /// an error, reported in module "wndMain", the workbook contains the cells written so far and
-    /// the whole second sheet.
+    /// without a workbook. After an error, reported in module "wndMain", the workbook contains the
+    /// cells written so far and the whole second sheet.
     void run(const EvmPlot& plot, const AirplaneInfo& airplane, const QString& folder);
 
 private:
-    Sheet flutterTable(const EvmPlot& plot, const FlutterAnswers& answers);
+    std::optional<QString> makeWorkbook(const EvmPlot& plot, const AirplaneInfo& airplane,
+                                        const FlutterAnswers& answers, const QString& folder);
+    std::optional<Sheet> flutterTable(const EvmPlot& plot, const FlutterAnswers& answers,
+                                      const Progress& progress);
     std::optional<Sheet> stabilityTable(const EvmPlot& plot, const AirplaneInfo& airplane,
-                                        double damping) const;
-    QString write(const Sheet& table, const Sheet& stability, const QString& folder) const;
+                                        double damping, const Progress& progress) const;
+    static std::optional<QString> write(const Sheet& table, const Sheet& stability,
+                                        const QString& folder, const Progress& progress);
     void open(const QString& path);
 
     UserInterface& m_userInterface;

@@ -6,6 +6,7 @@
 #include "base/numbers/Numbers.h"
 #include "base/user/RunTimeError.h"
 #include "support/Errors.h"
+#include "support/RecordedProgress.h"
 #include "support/Separators.h"
 
 #include <gmock/gmock.h>
@@ -150,6 +151,28 @@ TEST(Report, laysOutBlocksOfTheLargestNumberOfCrossings)
     EXPECT_EQ(number(sheet, 3, 13), ISA::IsaAltitude(350, double {0.78F}, "knot"));
     EXPECT_EQ(number(sheet, 3, 14), 90);
     EXPECT_EQ(number(sheet, 3, 15), 120);
+}
+
+TEST(Report, canBeStoppedAtEachSearchAndEachRow)
+{
+    EVM evolution;
+    describe(evolution, true);
+    AeMode& mode = addMode(evolution, 1, {{300, -1, 4}, {400, 1, 6}});
+    const std::vector<ReportRow> rows(10, ReportRow {&mode, ""});
+    const FlutterReport report(0, 1000, noQuestion);
+    test::RecordedProgress whole;
+    Sheet sheet;
+    EXPECT_TRUE(report.write(rows, sheet, whole.receiver()));
+    EXPECT_EQ(sheet.rowCount(), 11U);
+    EXPECT_EQ(whole.count(), 20U);
+    EXPECT_TRUE(whole.rises());
+    for (std::size_t stop = 1; stop <= whole.count(); ++stop) {
+        test::RecordedProgress progress(stop);
+        Sheet part;
+        EXPECT_FALSE(report.write(rows, part, progress.receiver()));
+        EXPECT_EQ(progress.count(), stop);
+        EXPECT_EQ(part.rowCount(), stop <= 10 ? 1 : stop - 10 + 1);
+    }
 }
 
 TEST(Report, looksForTheReferenceDampingItself)

@@ -6,6 +6,7 @@
 #include "analysis/XlsxReader.h"
 #include "base/user/RunTimeError.h"
 #include "support/Errors.h"
+#include "support/RecordedProgress.h"
 #include "support/TestFiles.h"
 
 #include <gmock/gmock.h>
@@ -233,6 +234,29 @@ TEST(SheetAsXlsx, doesNotWidenAColumnForATextThatExtendsOverEmptyCells)
                 HasSubstr("<col min=\"1\" max=\"1\" width=\"22\" customWidth=\"1\"/>"
                           "<col min=\"2\" max=\"2\" width=\"17\" customWidth=\"1\"/>"
                           "<col min=\"3\" max=\"3\" width=\"10\" customWidth=\"1\"/>"));
+}
+
+TEST(SheetAsXlsx, canBeStoppedAtEachRowAndWhileItIsCompressed)
+{
+    const TemporaryFolder folder;
+    Sheet sheet;
+    constexpr std::size_t rows = 2000;
+    for (std::size_t row = 1; row <= rows; ++row)
+        sheet.setNumber(row, 1, std::sqrt(static_cast<double>(row)));
+    const std::array sheets {static_cast<const Sheet*>(&sheet)};
+    test::RecordedProgress whole;
+    EXPECT_TRUE(writeSheets(sheets, folder.file("whole.xlsx"), whole.receiver()));
+    EXPECT_GT(whole.count(), rows + 1) << "each row and column, and the library";
+    EXPECT_TRUE(whole.rises());
+    const std::string path = folder.write("a.xlsx", "old");
+    for (const std::size_t stop : {std::size_t {1}, rows / 2, rows + 2, whole.count()}) {
+        test::RecordedProgress progress(stop);
+        EXPECT_FALSE(writeSheets(sheets, path, progress.receiver()));
+        EXPECT_EQ(progress.count(), stop) << "no further look after a stop";
+        EXPECT_EQ(fileBytes(path), "old");
+    }
+    EXPECT_TRUE(writeSheets(sheets, path));
+    EXPECT_EQ(fileBytes(path), fileBytes(folder.file("whole.xlsx")));
 }
 
 TEST(SheetAsXlsx, givesEqualBytesForEqualSheets)

@@ -16,14 +16,16 @@ inline bool goesOn(const Progress& progress, std::size_t done, std::size_t total
     return !progress || progress(done, total);
 }
 
-/// The progress of a part of a computation of several equal parts, counted from 0.
-inline Progress partOf(const Progress& whole, std::size_t part, std::size_t parts)
+/// The progress of a part of a computation of several equal parts, counted from 0. `size` is the
+/// number of these parts that it covers.
+inline Progress partOf(const Progress& whole, std::size_t part, std::size_t parts,
+                       std::size_t size = 1)
 {
     constexpr std::size_t steps = 1000; // of each part
     if (!whole)
         return {};
-    return [whole, part, parts](std::size_t done, std::size_t total) {
-        return whole(part * steps + done * steps / total, parts * steps);
+    return [whole, part, parts, size](std::size_t done, std::size_t total) {
+        return whole(part * steps + done * size * steps / total, parts * steps);
     };
 }
 
@@ -39,7 +41,14 @@ public:
     /// Ends a step. Returns whether to go on.
     bool next()
     {
-        m_isStopped = m_isStopped || !goesOn(m_progress, ++m_done, m_total);
+        ++m_done;
+        return look();
+    }
+
+    /// Reports the steps so far again, within a long step. Returns whether to go on.
+    bool look()
+    {
+        m_isStopped = m_isStopped || !goesOn(m_progress, m_done, m_total);
         return !m_isStopped;
     }
 
