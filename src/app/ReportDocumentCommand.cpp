@@ -69,22 +69,22 @@ void ReportDocumentCommand::run()
         return;
     const BusyStatus status(m_user, writingReport);
     ReportInput input = inputOf(*answers);
-    addFlutterTable(input);
     m_user.showNote(write(input, *path) ? "The report document is in " + wholePath(*path)
                                         : "Stopped: no report document was written");
 }
 
-/// The stability, the content and the file are a third of the progress each. False after a stop.
-bool ReportDocumentCommand::write(ReportInput& input, const std::string& path) const
+/// False after a stop.
+bool ReportDocumentCommand::write(ReportInput& input, const std::string& path)
 {
     const Progress progress = [this](std::size_t done, std::size_t total) {
         return m_user.showProgress(done, total);
     };
-    constexpr std::size_t parts = 3;
-    if (!addStability(input, partOf(progress, 0, parts)))
+    constexpr std::size_t parts = 10; // of about the same time
+    if (!addFlutterTable(input, partOf(progress, 0, parts))
+        || !addStability(input, partOf(progress, 1, parts)))
         return false;
-    const auto content = reportContent(input, partOf(progress, 1, parts));
-    return content && writeReport(*content, path, partOf(progress, 2, parts));
+    const auto content = reportContent(input, partOf(progress, 2, parts, 2));
+    return content && writeReport(*content, path, partOf(progress, 4, parts, 6));
 }
 
 std::optional<std::string> ReportDocumentCommand::askFile()
@@ -117,7 +117,8 @@ ReportInput ReportDocumentCommand::inputOf(const FlutterAnswers& answers)
     return input;
 }
 
-void ReportDocumentCommand::addFlutterTable(ReportInput& input)
+/// False after a stop.
+bool ReportDocumentCommand::addFlutterTable(ReportInput& input, const Progress& progress)
 {
     std::vector<std::string> failures;
     const auto collect = [&failures](const RunTimeError& error) {
@@ -127,13 +128,14 @@ void ReportDocumentCommand::addFlutterTable(ReportInput& input)
     const auto askMach = [this](const AeMode& mode, std::string_view prompt) {
         return m_questions.askMachOnce(mode, prompt, writingReport);
     };
-    FlutterReport(input.referenceDamping, input.speedLimit, askMach)
-        .writeWhatCan(reportRows(input.record.plots, input.evolutions), input.flutterTable,
-                      collect);
-    if (!failures.empty())
+    const FlutterReport report(input.referenceDamping, input.speedLimit, askMach);
+    const bool isComplete = report.writeWhatCan(reportRows(input.record.plots, input.evolutions),
+                                                input.flutterTable, collect, progress);
+    if (isComplete && !failures.empty())
         m_user.showMessage("These cells of the flutter table stay empty:\n"
                                + shortList(failures, mostFileLines),
                            "Tarsil", MessageIcon::Exclamation);
+    return isComplete;
 }
 
 /// False after a stop.

@@ -33,8 +33,8 @@ public:
 private:
     std::optional<std::string> askFile();
     ReportInput inputOf(const FlutterAnswers& answers);
-    void addFlutterTable(ReportInput& input);
-    bool write(ReportInput& input, const std::string& path) const;
+    bool addFlutterTable(ReportInput& input, const Progress& progress);
+    bool write(ReportInput& input, const std::string& path);
     bool addStability(ReportInput& input, const Progress& progress) const;
 
     Document& m_document;

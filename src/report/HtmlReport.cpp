@@ -3,6 +3,7 @@
 
 #include "report/ReportContent.h"
 #include "report/ReportText.h"
+#include "report/WatchedPicture.h"
 #include "vgfplot/DrawnPicture.h"
 #include "vgfplot/PictureWriter.h"
 
@@ -73,10 +74,13 @@ std::vector<std::size_t> columnsOf(const Sheet& sheet)
     return columns;
 }
 
-/// Writes blocks as HTML elements.
+/// Writes blocks as HTML elements. Each row of a table is a step, and each other block; after a
+/// stop the page is incomplete.
 class HtmlBlocks
 {
 public:
+    explicit HtmlBlocks(StepCounter& steps) : m_steps(steps) { }
+
     void operator()(const ReportHeading& heading);
     void operator()(const ReportParagraph& paragraph);
     void operator()(const ReportTable& table);
@@ -85,25 +89,44 @@ public:
     void beginSection() { m_html += QStringLiteral("<section>\n"); }
     void endSection() { m_html += QStringLiteral("</section>\n"); }
 
-    const QString& html() const { return m_html; }
+    /// The elements so far, in UTF-8.
+    std::string takeBytes();
 
 private:
     void addRow(const ReportTable& table, std::size_t row);
+    void endStep();
 
-    QString m_html;
+    StepCounter& m_steps;
+    QString m_html; ///< what is not in the bytes yet
+    std::string m_bytes;
     int m_pictureCount = 0;
 };
+
+void HtmlBlocks::endStep()
+{
+    m_bytes += m_html.toStdString();
+    m_html.clear();
+    m_steps.next();
+}
+
+std::string HtmlBlocks::takeBytes()
+{
+    m_bytes += m_html.toStdString();
+    return std::move(m_bytes);
+}
 
 void HtmlBlocks::operator()(const ReportHeading& heading)
 {
     m_html += QStringLiteral("<h%1>%2</h%1>\n")
                   .arg(QString::number(heading.level + 1), shownText(heading.text).toHtmlEscaped());
+    endStep();
 }
 
 void HtmlBlocks::operator()(const ReportParagraph& paragraph)
 {
     m_html += QStringLiteral("<p%1>%2</p>\n")
                   .arg(classOf(paragraph.style), shownText(paragraph.text).toHtmlEscaped());
+    endStep();
 }
 
 void HtmlBlocks::addRow(const ReportTable& table, std::size_t row)
@@ -122,6 +145,7 @@ void HtmlBlocks::addRow(const ReportTable& table, std::size_t row)
         m_html += u'>' + cell.text.toHtmlEscaped() + QStringLiteral("</") + element + u'>';
     }
     m_html += QStringLiteral("</tr>\n");
+    endStep();
 }
 
 void HtmlBlocks::operator()(const ReportTable& table)
@@ -133,7 +157,8 @@ void HtmlBlocks::operator()(const ReportTable& table)
         m_html += QStringLiteral("</thead>\n");
     }
     m_html += QStringLiteral("<tbody>\n");
-    for (std::size_t row = table.hasHeadings ? 2 : 1; row <= table.cells.rowCount(); ++row)
+    const std::size_t rows = table.cells.rowCount();
+    for (std::size_t row = table.hasHeadings ? 2 : 1; row <= rows && !m_steps.isStopped(); ++row)
         addRow(table, row);
     m_html += QStringLiteral("</tbody>\n</table></div>\n");
 }
@@ -142,7 +167,8 @@ void HtmlBlocks::operator()(const ReportTable& table)
 /// share the page; a quote in a text is escaped, so that only ids are matched.
 void HtmlBlocks::operator()(const ReportPicture& picture)
 {
-    QString svg = QString::fromUtf8(pictureBytes(*picture.picture, PictureFormat::Svg));
+    QString svg = QString::fromUtf8(
+        pictureBytes(WatchedPicture(*picture.picture, m_steps), PictureFormat::Svg));
     svg.remove(0, svg.indexOf(QStringLiteral("<svg")));
     const QString prefix = QStringLiteral("picture%1-").arg(++m_pictureCount);
     svg.replace(QStringLiteral("id=\"clip"), QStringLiteral("id=\"%1clip").arg(prefix));
@@ -150,6 +176,7 @@ void HtmlBlocks::operator()(const ReportPicture& picture)
                 QStringLiteral("clip-path=\"url(#%1clip").arg(prefix));
     m_html += QStringLiteral("<figure>\n") + svg + QStringLiteral("<figcaption>")
         + shownText(picture.caption).toHtmlEscaped() + QStringLiteral("</figcaption>\n</figure>\n");
+    endStep();
 }
 
 QString head(const ReportContent& content)
@@ -166,13 +193,13 @@ QString head(const ReportContent& content)
 
 std::optional<std::string> htmlReport(const ReportContent& content, const Progress& progress)
 {
-    StepCounter steps(progress, blockCount(content) + 1);
-    HtmlBlocks blocks;
+    StepCounter steps(progress, stepCount(content) + 1);
+    HtmlBlocks blocks(steps);
     for (const ReportSection& section : content.sections) {
         blocks.beginSection();
         for (const ReportBlock& block : section.blocks) {
             std::visit(blocks, block);
-            if (!steps.next())
+            if (steps.isStopped())
                 return std::nullopt;
         }
         blocks.endSection();
@@ -181,7 +208,7 @@ std::optional<std::string> htmlReport(const ReportContent& content, const Progre
         QStringLiteral("<footer><p>%1 &middot; %2</p></footer>\n</body>\n</html>\n")
             .arg(shownText(content.program).toHtmlEscaped(),
                  shownText(content.date).toHtmlEscaped());
-    return (head(content) + blocks.html() + foot).toStdString();
+    return head(content).toStdString() + blocks.takeBytes() + foot.toStdString();
 }
 
 } // namespace tarsil

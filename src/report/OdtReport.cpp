@@ -8,6 +8,7 @@
 #include "report/ReportPages.h"
 #include "report/ReportText.h"
 #include "report/TableColumns.h"
+#include "report/WatchedPicture.h"
 #include "surface/PropertyDate.h"
 #include "vgfplot/DrawnPicture.h"
 #include "vgfplot/PictureWriter.h"
@@ -42,37 +43,19 @@ QString columnName(std::size_t table, std::size_t column)
     return tableName(table) + QStringLiteral(".%1").arg(column);
 }
 
-/// A table of the content in one or several parts.
-struct OdtTable
-{
-    const ReportTable* table = nullptr;
-    TableColumns columns;
-};
-
-/// The tables of the content, in its order.
-std::vector<OdtTable> tablesOf(const ReportContent& content)
-{
-    std::vector<OdtTable> tables;
-    for (const ReportSection& section : content.sections) {
-        const double width = paper::contentArea(section.isLandscape).width();
-        for (const ReportBlock& block : section.blocks) {
-            if (const auto* const table = std::get_if<ReportTable>(&block))
-                tables.push_back({table, fitColumns(*table, width)});
-        }
-    }
-    return tables;
-}
-
-/// Writes the content. Parts of tables are numbered from 1.
+/// Writes the content. Parts of tables are numbered from 1. Each row of a part is a step, and each
+/// other block; after a stop the content is incomplete.
 class OdtWriter
 {
 public:
-    explicit OdtWriter(const ReportContent& content)
-        : m_content(content), m_tables(tablesOf(content))
+    /// `tables` has the layout of each table, in the order of the content.
+    OdtWriter(const ReportContent& content, const std::vector<TableColumns>& tables,
+              StepCounter& steps)
+        : m_content(content), m_tables(tables), m_steps(steps)
     { }
 
-    /// The part "content.xml". Each block is a step; after a stop it is incomplete.
-    std::string body(StepCounter& steps);
+    /// The part "content.xml".
+    std::string body();
 
     /// The pictures; call after `body`.
     std::vector<ArchivePart> takePictures() { return std::move(m_pictures); }
@@ -80,16 +63,17 @@ public:
 private:
     void addTableStyles();
     void addTableStyle(const TablePart& part, std::size_t number);
-    void addSection(const ReportSection& section, bool isFirst, StepCounter& steps);
+    void addSection(const ReportSection& section, bool isFirst);
     void addBlock(const ReportHeading& heading);
     void addBlock(const ReportParagraph& paragraph);
     void addBlock(const ReportTable& table);
     void addBlock(const ReportPicture& picture);
-    void addPart(const OdtTable& table, const TablePart& part);
-    void addRow(const OdtTable& table, const TablePart& part, std::size_t row);
+    void addPart(const ReportTable& table, const TablePart& part, double points);
+    void addRow(const ReportTable& table, const TablePart& part, double points, std::size_t row);
 
     const ReportContent& m_content;
-    std::vector<OdtTable> m_tables;
+    const std::vector<TableColumns>& m_tables;
+    StepCounter& m_steps;
     std::size_t m_nextTable = 0;
     std::size_t m_partCount = 0;
     std::vector<ArchivePart> m_pictures;
@@ -122,8 +106,8 @@ void OdtWriter::addTableStyle(const TablePart& part, std::size_t number)
 void OdtWriter::addTableStyles()
 {
     std::size_t number = 0;
-    for (const OdtTable& table : m_tables) {
-        for (const TablePart& part : table.columns.parts)
+    for (const TableColumns& columns : m_tables) {
+        for (const TablePart& part : columns.parts)
             addTableStyle(part, ++number);
     }
 }
@@ -140,67 +124,72 @@ void OdtWriter::addBlock(const ReportHeading& heading)
             "text:h",
             {{"text:style-name", style}, {"text:outline-level", QString::number(heading.level)}},
             text);
+    m_steps.next();
 }
 
 void OdtWriter::addBlock(const ReportParagraph& paragraph)
 {
     m_xml.add("text:p", {{"text:style-name", paragraphStyle(paragraph.style)}},
               shownText(paragraph.text));
+    m_steps.next();
 }
 
-void OdtWriter::addRow(const OdtTable& table, const TablePart& part, std::size_t row)
+void OdtWriter::addRow(const ReportTable& table, const TablePart& part, double points,
+                       std::size_t row)
 {
-    const RowLook look = lookOf(table.table->cells.rowStyle(row));
-    const bool hasHeadings = table.table->hasHeadings;
+    const RowLook look = lookOf(table.cells.rowStyle(row));
+    const bool hasHeadings = table.hasHeadings;
     const bool isHeading = row == 1 && hasHeadings;
     m_xml.begin("table:table-row", {{"table:style-name", rowStyle}});
-    for (const RowCell& cell : rowCells(table.table->cells, row, part.columns)) {
+    for (const RowCell& cell : rowCells(table.cells, row, part.columns)) {
         const bool isBold = look.isBold || isHeading || (!hasHeadings && cell.column == 0);
         m_xml.begin("table:table-cell",
                     {{"table:style-name", cellStyle(isHeading ? headingFill : look.fill)},
                      {"table:number-columns-spanned", QString::number(cell.span)},
                      {"office:value-type", QStringLiteral("string")}});
         m_xml.add("text:p",
-                  {{"text:style-name",
-                    cellTextStyle(table.columns.points, look.color, isBold, cell.isNumber)}},
+                  {{"text:style-name", cellTextStyle(points, look.color, isBold, cell.isNumber)}},
                   cell.text);
         m_xml.end();
         for (std::size_t i = 1; i < cell.span; ++i)
             m_xml.add("table:covered-table-cell");
     }
     m_xml.end();
+    m_steps.next();
 }
 
-void OdtWriter::addPart(const OdtTable& table, const TablePart& part)
+void OdtWriter::addPart(const ReportTable& table, const TablePart& part, double points)
 {
     const std::size_t number = ++m_partCount;
     m_xml.begin("table:table",
                 {{"table:name", tableName(number)}, {"table:style-name", tableName(number)}});
     for (std::size_t i = 0; i < part.columns.size(); ++i)
         m_xml.add("table:table-column", {{"table:style-name", columnName(number, i + 1)}});
-    const bool hasHeadings = table.table->hasHeadings;
+    const bool hasHeadings = table.hasHeadings;
     if (hasHeadings) {
         m_xml.begin("table:table-header-rows");
-        addRow(table, part, 1);
+        addRow(table, part, points, 1);
         m_xml.end();
     }
-    for (std::size_t row = hasHeadings ? 2 : 1; row <= table.table->cells.rowCount(); ++row)
-        addRow(table, part, row);
+    const std::size_t rows = table.cells.rowCount();
+    for (std::size_t row = hasHeadings ? 2 : 1; row <= rows && !m_steps.isStopped(); ++row)
+        addRow(table, part, points, row);
     m_xml.end();
 }
 
-void OdtWriter::addBlock(const ReportTable& /*table*/)
+void OdtWriter::addBlock(const ReportTable& table)
 {
-    const OdtTable& table = m_tables[m_nextTable++];
-    for (const TablePart& part : table.columns.parts)
-        addPart(table, part);
+    const TableColumns& columns = m_tables[m_nextTable++];
+    for (const TablePart& part : columns.parts)
+        addPart(table, part, columns.points);
 }
 
 void OdtWriter::addBlock(const ReportPicture& picture)
 {
     const QString name = QStringLiteral("Pictures/picture%1.svg").arg(m_pictures.size() + 1);
+    const WatchedPicture watched(*picture.picture, m_steps);
     m_pictures.push_back(
-        {name.toStdString(), pictureBytes(*picture.picture, PictureFormat::Svg).toStdString()});
+        {name.toStdString(), pictureBytes(watched, PictureFormat::Svg).toStdString()});
     const QSizeF size = pictureSize(*picture.picture, m_area);
     const QString caption = shownText(picture.caption);
     m_xml.begin("text:p", {{"text:style-name", paragraphStyle(CellStyle::Plain)}});
@@ -218,21 +207,22 @@ void OdtWriter::addBlock(const ReportPicture& picture)
     m_xml.end();
     m_xml.end();
     m_xml.add("text:p", {{"text:style-name", QStringLiteral("Caption")}}, caption);
+    m_steps.next();
 }
 
-void OdtWriter::addSection(const ReportSection& section, bool isFirst, StepCounter& steps)
+void OdtWriter::addSection(const ReportSection& section, bool isFirst)
 {
     const auto& heading = std::get<ReportHeading>(section.blocks.front());
     m_pageHeading = pageHeadingStyle(heading.level, section.isLandscape, isFirst);
     m_area = paper::contentArea(section.isLandscape).size();
     for (const ReportBlock& block : section.blocks) {
         std::visit([this](const auto& one) { addBlock(one); }, block);
-        if (!steps.next())
+        if (m_steps.isStopped())
             return;
     }
 }
 
-std::string OdtWriter::body(StepCounter& steps)
+std::string OdtWriter::body()
 {
     m_xml.begin("office:automatic-styles");
     addContentStyles(m_xml);
@@ -242,8 +232,8 @@ std::string OdtWriter::body(StepCounter& steps)
     m_xml.begin("office:text");
     bool isFirst = true;
     for (const ReportSection& section : m_content.sections) {
-        if (!steps.isStopped())
-            addSection(section, std::exchange(isFirst, false), steps);
+        if (!m_steps.isStopped())
+            addSection(section, std::exchange(isFirst, false));
     }
     return m_xml.finish();
 }
@@ -274,19 +264,24 @@ std::string manifestOf(const std::vector<ArchivePart>& pictures)
 
 std::optional<std::string> odtReport(const ReportContent& content, const Progress& progress)
 {
-    StepCounter steps(progress, blockCount(content) + 1);
-    OdtWriter writer(content);
-    std::string body = writer.body(steps);
+    constexpr std::size_t parts = 4; // of about the same time
+    const auto tables = fitTables(content, partOf(progress, 0, parts, 2));
+    if (!tables)
+        return std::nullopt;
+    const Progress writing = partOf(progress, 2, parts);
+    StepCounter steps(writing, stepCount(content, *tables) + 1);
+    OdtWriter writer(content, *tables, steps);
+    std::string body = writer.body();
     if (steps.isStopped())
         return std::nullopt;
     std::vector<ArchivePart> pictures = writer.takePictures();
-    std::vector<ArchivePart> parts = {{"mimetype", mimeType, false},
+    std::vector<ArchivePart> files = {{"mimetype", mimeType, false},
                                       {"META-INF/manifest.xml", manifestOf(pictures)},
                                       {"meta.xml", metaOf(content)},
                                       {"styles.xml", odtStyles(content)},
                                       {"content.xml", std::move(body)}};
-    std::move(pictures.begin(), pictures.end(), std::back_inserter(parts));
-    return zipArchive(parts, "OdtReport");
+    std::move(pictures.begin(), pictures.end(), std::back_inserter(files));
+    return zipArchive(files, "OdtReport", partOf(progress, 3, parts));
 }
 
 } // namespace tarsil

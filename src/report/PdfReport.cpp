@@ -4,6 +4,7 @@
 #include "base/user/RunTimeError.h"
 #include "report/ReportPages.h"
 #include "report/ReportText.h"
+#include "report/WatchedPicture.h"
 #include "surface/PdfFile.h"
 #include "surface/PropertyDate.h"
 #include "vgfplot/PictureWriter.h"
@@ -13,6 +14,8 @@
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
+
+#include <cstddef>
 
 namespace tarsil {
 
@@ -30,12 +33,13 @@ QRectF pixelsOf(const QRectF& area)
     return {area.topLeft() * pixelsPerPoint, area.size() * pixelsPerPoint};
 }
 
-void drawPage(const ReportPage& page, QPainter& painter)
+/// After a stop a picture is incomplete.
+void drawPage(const ReportPage& page, QPainter& painter, StepCounter& steps)
 {
     for (const PageFill& fill : page.fills)
         painter.fillRect(pixelsOf(fill.area), QColor(fill.color));
     for (const PagePicture& picture : page.pictures)
-        drawPicture(*picture.picture, painter, pixelsOf(picture.area));
+        drawPicture(WatchedPicture(*picture.picture, steps), painter, pixelsOf(picture.area));
     for (const PageText& text : page.texts) {
         painter.setFont(pageFont(text.font));
         painter.setPen(QColor(text.color));
@@ -53,14 +57,15 @@ QPageLayout layoutOf(const ReportPage& page)
 /// False after a stop.
 bool drawPages(const std::vector<ReportPage>& pages, QPdfWriter& writer, const Progress& progress)
 {
+    StepCounter steps(progress, pages.size() + 1);
     QPainter painter;
     for (std::size_t i = 0; i < pages.size(); ++i) {
         writer.setPageLayout(layoutOf(pages[i]));
         const bool isReady = i == 0 ? painter.begin(&writer) : writer.newPage();
         if (!isReady)
             fail("the document cannot be drawn");
-        drawPage(pages[i], painter);
-        if (!goesOn(progress, i + 1, pages.size() + 1))
+        drawPage(pages[i], painter, steps);
+        if (!steps.next())
             return false;
     }
     return true;
@@ -73,7 +78,9 @@ std::optional<std::string> pdfReport(const ReportContent& content, const Progres
     PdfFile pdf(shownText(content.title + ": " + content.workspace));
     pdf.writer().setResolution(pointsPerInch * pixelsPerPoint);
     pdf.writer().setCreator(shownText(content.program));
-    if (!drawPages(reportPages(content), pdf.writer(), progress))
+    constexpr std::size_t parts = 3;
+    const auto pages = reportPages(content, partOf(progress, 0, parts, 2));
+    if (!pages || !drawPages(*pages, pdf.writer(), partOf(progress, 2, parts)))
         return std::nullopt;
     return pdf.bytes(propertyDate(QString::fromStdString(content.date))).toStdString();
 }

@@ -63,11 +63,17 @@ struct ReportContent
     std::vector<ReportSection> sections;
 };
 
-inline std::size_t blockCount(const ReportContent& content)
+/// The number of steps in which a document is written: each row of a table is one, and each other
+/// block.
+inline std::size_t stepCount(const ReportContent& content)
 {
     std::size_t count = 0;
-    for (const ReportSection& section : content.sections)
-        count += section.blocks.size();
+    for (const ReportSection& section : content.sections) {
+        for (const ReportBlock& block : section.blocks) {
+            const auto* const table = std::get_if<ReportTable>(&block);
+            count += table != nullptr ? table->cells.rowCount() : 1;
+        }
+    }
     return count;
 }
 

@@ -3,6 +3,7 @@
 
 #include "report/PageFlow.h"
 #include "report/ReportText.h"
+#include "report/TableColumns.h"
 #include "report/TableFlow.h"
 #include "vgfplot/DrawnPicture.h"
 
@@ -20,21 +21,27 @@ constexpr ReportFont edgeFont {8, false};
 const QString black = QStringLiteral("#000000");
 const QString grey = QStringLiteral("#5f5f5f");
 
-/// Lays out the blocks of a section.
+/// Lays out the blocks of a document. Each row of a table is a step, and each other block; after a
+/// stop the last block may be incomplete.
 class BlockFlow
 {
 public:
-    explicit BlockFlow(PageFlow& flow) : m_flow(flow) { }
+    /// `tables` has the layout of each table, in the order of the document.
+    BlockFlow(const std::vector<TableColumns>& tables, PageFlow& flow, StepCounter& steps)
+        : m_nextTable(tables.begin()), m_flow(flow), m_steps(steps)
+    { }
 
     void operator()(const ReportHeading& heading);
     void operator()(const ReportParagraph& paragraph);
-    void operator()(const ReportTable& table) { flowTable(table, m_flow); }
+    void operator()(const ReportTable& table) { flowTable(table, *m_nextTable++, m_flow, m_steps); }
     void operator()(const ReportPicture& picture);
 
 private:
     void addLines(const QString& text, const ReportFont& font, const QString& color);
 
+    std::vector<TableColumns>::const_iterator m_nextTable;
     PageFlow& m_flow;
+    StepCounter& m_steps;
 };
 
 void BlockFlow::addLines(const QString& text, const ReportFont& font, const QString& color)
@@ -56,6 +63,7 @@ void BlockFlow::operator()(const ReportHeading& heading)
         m_flow.skip(0.6 * font.points);
     addLines(shownText(heading.text), font, black);
     m_flow.skip(0.4 * font.points);
+    m_steps.next();
 }
 
 void BlockFlow::operator()(const ReportParagraph& paragraph)
@@ -72,6 +80,7 @@ void BlockFlow::operator()(const ReportParagraph& paragraph)
     }
     addLines(text, font, look.color);
     m_flow.skip(0.4 * font.points);
+    m_steps.next();
 }
 
 void BlockFlow::operator()(const ReportPicture& picture)
@@ -84,6 +93,7 @@ void BlockFlow::operator()(const ReportPicture& picture)
     m_flow.skip(size.height() + 0.4 * caption);
     addLines(shownText(picture.caption), captionFont, black);
     m_flow.skip(caption);
+    m_steps.next();
 }
 
 /// Adds a text at one of the edges of a page: 0 at the left, 1 at the right, 0.5 in the middle.
@@ -150,13 +160,23 @@ ReportFont headingFont(int level)
     return {sizes.at(static_cast<std::size_t>(level)), true};
 }
 
-std::vector<ReportPage> reportPages(const ReportContent& content)
+std::optional<std::vector<ReportPage>> reportPages(const ReportContent& content,
+                                                   const Progress& progress)
 {
+    const auto tables = fitTables(content, partOf(progress, 0, 2));
+    if (!tables)
+        return std::nullopt;
+    const Progress layout = partOf(progress, 1, 2);
+    StepCounter steps(layout, stepCount(content, *tables) + 1);
     PageFlow flow;
+    BlockFlow blocks(*tables, flow, steps);
     for (const ReportSection& section : content.sections) {
         flow.beginPage(section.isLandscape);
-        for (const ReportBlock& block : section.blocks)
-            std::visit(BlockFlow(flow), block);
+        for (const ReportBlock& block : section.blocks) {
+            std::visit(blocks, block);
+            if (steps.isStopped())
+                return std::nullopt;
+        }
     }
     std::vector<ReportPage> pages = flow.take();
     addEdges(pages, content);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "base/user/Progress.h"
 #include "report/ReportContent.h"
 #include "report/ReportFont.h"
 
@@ -9,6 +10,7 @@
 #include <QSizeF>
 #include <QString>
 
+#include <optional>
 #include <vector>
 
 namespace tarsil {
@@ -72,6 +74,8 @@ inline constexpr ReportFont captionFont {8.5, true};
 
 /// Lays out a document on A4 pages. Every section begins on a new page. The rows of a table are
 /// split between pages where needed, and its headings are repeated. The first page has no head.
-std::vector<ReportPage> reportPages(const ReportContent& content);
+/// Reports progress after each row that is measured or laid out. Empty after a stop.
+std::optional<std::vector<ReportPage>> reportPages(const ReportContent& content,
+                                                   const Progress& progress = {});
 
 } // namespace tarsil

@@ -16,7 +16,7 @@ inline constexpr std::array<std::string_view, 3> reportExtensions = {".pdf", ".o
 
 /// Writes a report document to a file, whole or not at all. The extension of `path`, in any case,
 /// selects the format. Equal contents give equal bytes. Needs a QGuiApplication. Reports progress
-/// after each page of a PDF, and each block of the other formats. Returns false after a stop, when
+/// after each row of a table, each other block, and each page. Returns false after a stop, when
 /// nothing is written. Errors: 5 for another extension; those of the pictures and of writing a
 /// file.
 bool writeReport(const ReportContent& content, const std::string& path,

@@ -2,6 +2,7 @@
 #include "report/TableColumns.h"
 
 #include "report/ReportFont.h"
+#include "report/ReportPages.h"
 #include "report/ReportText.h"
 
 #include <algorithm>
@@ -47,18 +48,19 @@ std::vector<std::size_t> allColumns(const Sheet& sheet)
 }
 
 /// A text that extends over several columns does not widen any of them, except that a heading must
-/// fit into its first one.
-std::vector<ColumnRange> rangesOf(const ReportTable& table, double points)
+/// fit into its first one. Each row is a step; after a stop the ranges are too narrow.
+std::vector<ColumnRange> rangesOf(const ReportTable& table, double points, StepCounter& steps)
 {
     const std::vector<std::size_t> columns = allColumns(table.cells);
     std::vector<ColumnRange> ranges(columns.size());
-    for (std::size_t row = 1; row <= table.cells.rowCount(); ++row) {
+    for (std::size_t row = 1; row <= table.cells.rowCount() && !steps.isStopped(); ++row) {
         const bool isHeading = row == 1 && table.hasHeadings;
         const ReportFont font {points, isHeading || lookOf(table.cells.rowStyle(row)).isBold};
         for (const RowCell& cell : rowCells(table.cells, row, columns)) {
             if (isHeading || cell.span == 1)
                 widen(ranges[cell.column], cell, font, isHeading);
         }
+        steps.next();
     }
     return ranges;
 }
@@ -149,17 +151,46 @@ TableColumns labelColumns(double width)
     return {tableFontSizes[0], {{{1, 2}, {labelShare * width, (1 - labelShare) * width}}}};
 }
 
+/// The number of rows whose cells are measured.
+std::size_t measuredRows(const ReportTable& table)
+{
+    return table.hasHeadings ? table.cells.rowCount() : 0;
+}
+
+/// A table with the width of its pages in points.
+struct TableOnPages
+{
+    const ReportTable* table = nullptr;
+    double width = 0;
+};
+
+std::vector<TableOnPages> tablesOf(const ReportContent& content)
+{
+    std::vector<TableOnPages> tables;
+    for (const ReportSection& section : content.sections) {
+        for (const ReportBlock& block : section.blocks) {
+            if (const auto* const table = std::get_if<ReportTable>(&block))
+                tables.push_back({table, paper::contentArea(section.isLandscape).width()});
+        }
+    }
+    return tables;
+}
+
 } // namespace
 
-TableColumns fitColumns(const ReportTable& table, double width)
+std::optional<TableColumns> fitColumns(const ReportTable& table, double width,
+                                       const Progress& progress)
 {
     if (!table.hasHeadings)
         return labelColumns(width);
+    StepCounter steps(progress, measuredRows(table) * tableFontSizes.size() + 1);
     TableColumns columns;
     std::vector<ColumnRange> ranges;
     for (const double points : tableFontSizes) {
         columns.points = points;
-        ranges = rangesOf(table, points);
+        ranges = rangesOf(table, points, steps);
+        if (steps.isStopped())
+            return std::nullopt;
         if (sumOf(&ColumnRange::comfortable, ranges, allColumns(table.cells)) <= width)
             break;
     }
@@ -169,6 +200,35 @@ TableColumns fitColumns(const ReportTable& table, double width)
         columns.parts.push_back({std::move(part), std::move(widths)});
     }
     return columns;
+}
+
+std::optional<std::vector<TableColumns>> fitTables(const ReportContent& content,
+                                                   const Progress& progress)
+{
+    const std::vector<TableOnPages> tables = tablesOf(content);
+    std::size_t rows = 0;
+    for (const auto& [table, width] : tables)
+        rows += measuredRows(*table);
+    std::size_t done = 0;
+    std::vector<TableColumns> fitted;
+    for (const auto& [table, width] : tables) {
+        const std::size_t count = measuredRows(*table);
+        auto columns = fitColumns(*table, width, partOf(progress, done, rows, count));
+        if (!columns)
+            return std::nullopt;
+        fitted.push_back(std::move(*columns));
+        done += count;
+    }
+    return fitted;
+}
+
+std::size_t stepCount(const ReportContent& content, const std::vector<TableColumns>& tables)
+{
+    const std::vector<TableOnPages> all = tablesOf(content);
+    std::size_t count = stepCount(content);
+    for (std::size_t i = 0; i < all.size(); ++i)
+        count += all[i].table->cells.rowCount() * (tables[i].parts.size() - 1);
+    return count;
 }
 
 } // namespace tarsil

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "report/TableFlow.h"
 
+#include "base/user/Progress.h"
 #include "report/PageFlow.h"
 #include "report/ReportText.h"
 #include "report/TableColumns.h"
@@ -43,7 +44,7 @@ public:
         : m_table(table), m_part(part), m_points(points), m_flow(flow)
     { }
 
-    void run();
+    void run(StepCounter& steps);
 
 private:
     FlowRow rowOf(std::size_t row) const;
@@ -144,23 +145,28 @@ void PartFlow::place(const FlowRow& row)
     }
 }
 
-void PartFlow::run()
+void PartFlow::run(StepCounter& steps)
 {
     constexpr double severalRows = 40;
     m_flow.require(severalRows);
     placeHeadings();
-    for (std::size_t row = hasHeadings() ? 2 : 1; row <= m_table.cells.rowCount(); ++row)
+    if (hasHeadings())
+        steps.next();
+    const std::size_t rows = m_table.cells.rowCount();
+    for (std::size_t row = hasHeadings() ? 2 : 1; row <= rows && !steps.isStopped(); ++row) {
         place(rowOf(row));
+        steps.next();
+    }
     m_flow.skip(gapAfterTable);
 }
 
 } // namespace
 
-void flowTable(const ReportTable& table, PageFlow& flow)
+void flowTable(const ReportTable& table, const TableColumns& columns, PageFlow& flow,
+               StepCounter& steps)
 {
-    const TableColumns columns = fitColumns(table, flow.area().width());
     for (const TablePart& part : columns.parts)
-        PartFlow(table, part, columns.points, flow).run();
+        PartFlow(table, part, columns.points, flow).run(steps);
 }
 
 } // namespace tarsil

@@ -13,6 +13,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <filesystem>
 
 using namespace tarsil;
@@ -128,6 +129,7 @@ TEST_F(Stop, writesNoReportDocument)
         EXPECT_THAT(user.note, EndsWith(name));
         std::filesystem::remove(folder.file(name));
         const std::size_t reports = user.progress.size();
+        // The first look is in the flutter table.
         for (const std::size_t stop : {std::size_t {1}, reports / 2, reports}) {
             write(stop);
             EXPECT_EQ(user.progress.size(), stop) << name;
@@ -137,6 +139,28 @@ TEST_F(Stop, writesNoReportDocument)
         }
     }
     EXPECT_THAT(user.messages, IsEmpty());
+}
+
+TEST_F(Stop, isOfferedOftenWhileAReportDocumentIsWritten)
+{
+    for (EVM* const evolution : window.document().load(copies("runs"), user)) {
+        for (const auto& mode : evolution->Modes)
+            plot().rows().add(*mode);
+    }
+    const std::size_t rows = plot().rows().count();
+    for (const char* const name : {"out.pdf", "out.odt", "out.html"}) {
+        user.texts = {"0", "400"};
+        user.saveFiles = {folder.file(name)};
+        user.progress.clear();
+        choose("writeDocument");
+        // Each mode is searched, and then written in the flutter table and in that of its plot.
+        EXPECT_GT(user.progress.size(), 4 * rows) << name;
+        const auto shareOf = [](const auto& report) {
+            return static_cast<double>(report.first) / static_cast<double>(report.second);
+        };
+        const auto isLess = [&](const auto& a, const auto& b) { return shareOf(a) < shareOf(b); };
+        EXPECT_TRUE(std::is_sorted(user.progress.begin(), user.progress.end(), isLess)) << name;
+    }
 }
 
 TEST_F(Stop, writesThePicturesDrawnSoFar)

@@ -37,7 +37,7 @@ double sum(const std::vector<double>& widths)
 
 TEST(TableColumnsTest, givesAFewColumnsTheSpaceThatTheyNeed)
 {
-    const TableColumns columns = fitColumns(numbers(3), page);
+    const TableColumns columns = fitColumns(numbers(3), page).value();
     ASSERT_EQ(columns.parts.size(), 1U);
     EXPECT_EQ(columns.points, tableFontSizes.front());
     EXPECT_LT(sum(columns.parts[0].widths), page / 2);
@@ -48,7 +48,7 @@ TEST(TableColumnsTest, givesAFewColumnsTheSpaceThatTheyNeed)
 
 TEST(TableColumnsTest, makesTheLettersOfAWideTableSmaller)
 {
-    const TableColumns columns = fitColumns(numbers(17), page);
+    const TableColumns columns = fitColumns(numbers(17), page).value();
     EXPECT_EQ(columns.parts.size(), 1U);
     EXPECT_LT(columns.points, tableFontSizes.front());
     EXPECT_LE(sum(columns.parts[0].widths), page + 0.01);
@@ -60,7 +60,7 @@ TEST(TableColumnsTest, keepsTheNamesOfACrowdedTableOnOneLine)
     const QString remark = QStringLiteral("a remark that is as long as that of a doubtful step ");
     table.cells.setText(1, 18, "Remark");
     table.cells.setText(2, 18, remark.repeated(5).toStdString());
-    const TableColumns columns = fitColumns(table, page);
+    const TableColumns columns = fitColumns(table, page).value();
     ASSERT_EQ(columns.parts.size(), 1U);
     const std::vector<double>& widths = columns.parts[0].widths;
     EXPECT_LE(sum(widths), page + 0.01);
@@ -74,7 +74,7 @@ TEST(TableColumnsTest, splitsATableWhoseNumbersDoNotFit)
 {
     ReportTable table = numbers(60);
     table.keyColumns = 2;
-    const TableColumns columns = fitColumns(table, page);
+    const TableColumns columns = fitColumns(table, page).value();
     ASSERT_GT(columns.parts.size(), 1U);
     std::size_t next = 3;
     for (const TablePart& part : columns.parts) {
