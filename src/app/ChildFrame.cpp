@@ -2,6 +2,7 @@
 #include "app/ChildFrame.h"
 
 #include <QCloseEvent>
+#include <QMdiArea>
 
 #include <algorithm>
 
@@ -27,8 +28,10 @@ std::vector<ChildFrame*> shownOf(const std::vector<ChildFrame*>& frames)
 
 } // namespace
 
-ChildFrame::ChildFrame(QWidget* content)
+/// Parent and area come first: a frame that gets them later is laid out again each time.
+ChildFrame::ChildFrame(QWidget* content, QMdiArea& area) : QMdiSubWindow(area.viewport())
 {
+    area.addSubWindow(this);
     setWidget(content);
     setObjectName(content->objectName() + QStringLiteral("Frame"));
     followTitle();

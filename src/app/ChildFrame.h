@@ -17,8 +17,8 @@ class ChildFrame : public QMdiSubWindow
     Q_OBJECT
 
 public:
-    /// Takes ownership of the content.
-    explicit ChildFrame(QWidget* content);
+    /// Adds the frame to the area and takes ownership of the content.
+    ChildFrame(QWidget* content, QMdiArea& area);
 
     /// Shows the window in front of the others, with the focus.
     void bringBack();

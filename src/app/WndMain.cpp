@@ -136,11 +136,7 @@ void wndMain::makeChildWindows()
 {
     m_evolPlot = new wndEvolPlot(m_document.plots(), m_userInterface);
     m_evolPlot->adviseOn(m_document.evolutions());
-    const auto frameOf = [this](QWidget* content) {
-        auto* const frame = new ChildFrame(content);
-        m_area->addSubWindow(frame);
-        return frame;
-    };
+    const auto frameOf = [this](QWidget* content) { return new ChildFrame(content, *m_area); };
     m_explorer = new wndEvolExplorer(m_document, *m_evolPlot, m_userInterface);
     m_data = new wndData(m_document, m_userInterface);
     m_frames.data = frameOf(m_data);

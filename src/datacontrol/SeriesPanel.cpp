@@ -135,7 +135,6 @@ void SeriesPanel::prepareColumns()
     grid().setItemDelegateForColumn(columnNumber(SeriesColumn::Line),
                                     new LineSampleDelegate(&grid()));
     QHeaderView& header = *grid().horizontalHeader();
-    header.setHighlightSections(false);
     constexpr std::array widths = {
         std::pair(SeriesColumn::Index, 36), std::pair(SeriesColumn::Tag, 44),
         std::pair(SeriesColumn::Mode, 52), std::pair(SeriesColumn::Line, 44),

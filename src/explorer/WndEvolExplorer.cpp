@@ -180,12 +180,22 @@ void wndEvolExplorer::tickShown(bool isTicked)
 /// The blank ticks all selected evolutions as the current one.
 bool wndEvolExplorer::eventFilter(QObject* watched, QEvent* event)
 {
+    if (!m_images.isLoaded() && event->type() == QEvent::Paint)
+        QMetaObject::invokeMethod(this, &wndEvolExplorer::loadImages, Qt::QueuedConnection);
     const bool isBlank = watched == m_tree && event->type() == QEvent::KeyPress
         && static_cast<const QKeyEvent*>(event)->key() == Qt::Key_Space;
     if (!isBlank || m_tree->selectedItems().size() < 2)
         return QWidget::eventFilter(watched, event);
     toggleSelected();
     return true;
+}
+
+/// Loads the images after the first frame of the window, and paints all that show them again.
+void wndEvolExplorer::loadImages()
+{
+    m_images.load();
+    for (QWidget* const child : findChildren<QWidget*>())
+        child->update();
 }
 
 void wndEvolExplorer::toggleSelected()

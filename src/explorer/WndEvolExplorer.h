@@ -126,6 +126,7 @@ private:
     void showReference(EVM* before, EVM* now);
     void showWarnings(EVM& evolution, const QString& warnings);
     void applyFilter();
+    void loadImages();
     void toggleSelected();
     QTreeWidgetItem* selectedNode() const;
 

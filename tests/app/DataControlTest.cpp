@@ -31,7 +31,7 @@ protected:
     DataControl()
     {
         OptionsStore(folder.file("tarsil.ini"))
-            .write({QString::fromStdString(sample("goland.inp")), {}, {}, {}, {}}, {});
+            .write({QString::fromStdString(sample("goland.inp")), {}, {}, {}, {}, {}}, {});
         load();
     }
 

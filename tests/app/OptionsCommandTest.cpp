@@ -31,6 +31,7 @@ protected:
                      QString::fromStdString(scale),
                      QString::fromStdString(thicks),
                      {},
+                     {},
                      {}},
                     {});
     }
@@ -86,7 +87,7 @@ TEST_F(Options, thatAreDamagedAreKeptBesideTheNewOnes)
     test::type(*dialog(), "txtVgfThicks", "4|3|2");
     choose("QuitMenu");
     EXPECT_EQ(test::fileBytes(folder.file("tarsil.ini.damaged")), damaged);
-    EXPECT_EQ(store.read(), (OptionTexts {{}, {}, QStringLiteral("4|3|2"), {}, {}}));
+    EXPECT_EQ(store.read(), (OptionTexts {{}, {}, QStringLiteral("4|3|2"), {}, {}, {}}));
 }
 
 TEST_F(Options, thatCannotBeReadStayAsTheyAre)
