@@ -131,7 +131,7 @@ int main(int argc, char** argv)
                                folder.path()};
     const auto compare = [&](const QStringList& reference, const char* text, const char* aim) {
         const auto times = benchmarks::bestOfTurns(
-            15, [&] { start(arguments.first(), program); },
+            50, [&] { start(arguments.first(), program); },
             [&] { start(arguments.first(), reference); });
         benchmarks::printRow("start to first painted frame, one sample", text, times, aim);
     };
