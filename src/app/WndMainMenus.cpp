@@ -5,11 +5,13 @@
 #include "app/WndMain.h"
 
 #include "app/PlotMenu.h"
+#include "app/StepKeys.h"
 #include "datacontrol/WndData.h"
 #include "explorer/WndEvolExplorer.h"
 #include "vgfplot/EvmPlot.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QKeySequence>
 #include <QMenu>
 #include <QMenuBar>
@@ -214,6 +216,7 @@ void wndMain::followHistory()
         showSteps();
         keepCopy();
     });
+    qApp->installEventFilter(new StepKeys(this));
     showSteps();
 }
 

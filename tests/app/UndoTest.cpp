@@ -7,7 +7,9 @@
 #include "support/FormParts.h"
 
 #include <QDialog>
+#include <QLineEdit>
 #include <QMouseEvent>
+#include <QTest>
 #include <QTextEdit>
 #include <QTreeWidget>
 
@@ -132,4 +134,34 @@ TEST_F(Undo, beginsAnewWithAnotherWorkspace)
     user.unsaved = {Unsaved::Discard};
     choose("mnuNewWorkspace");
     EXPECT_FALSE(action("mnuUndo").isEnabled());
+}
+
+TEST_F(Undo, worksByItsKeysInAFieldWithoutTyping)
+{
+    auto& filter = partOf<QLineEdit>(window, "txtEvolutionFilter");
+    choose("mnuAddRef");
+    test::click(partOf<QDialog>(window, "dlgRefSpeed"), "AddRefBtn");
+    partOf<QDialog>(window, "dlgRefSpeed").close();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    filter.setFocus();
+    QTest::keyClick(&filter, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_THAT(plot().references().referenceSpeeds(), IsEmpty());
+    QTest::keyClick(&filter, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(plot().references().referenceSpeeds().size(), 1U);
+}
+
+TEST_F(Undo, leavesItsKeysToAFieldWithTypingAndToEditorsInPlace)
+{
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    plot().properties().setCaption(QStringLiteral("wing"));
+    auto& filter = partOf<QLineEdit>(window, "txtEvolutionFilter");
+    QTest::keyClicks(&filter, QStringLiteral("wing"));
+    QTest::keyClick(&filter, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(filter.text(), QString());
+    auto& tree = partOf<QTreeWidget>(window, "tvwEvolExplorer");
+    tree.editItem(&nodeOf("wing"));
+    QTest::keyClick(test::openEditor(tree), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(plot().properties().Caption(), QStringLiteral("wing"));
 }
