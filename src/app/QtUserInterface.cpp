@@ -70,18 +70,34 @@ void followFilter(QFileDialog& dialog, const FileQuestion& question)
                      });
 }
 
-/// Runs a dialog and then restores the focus. Not every window manager activates the parent of the
+/// The nearest widget around a field that can have the focus, such as the tree of a label that is
+/// edited; null when there is none.
+QWidget* holderOf(const QWidget* field)
+{
+    QWidget* holder = field != nullptr ? field->parentWidget() : nullptr;
+    while (holder != nullptr && holder->focusPolicy() == Qt::NoFocus)
+        holder = holder->parentWidget();
+    return holder;
+}
+
+/// Runs a dialog and then restores the focus. A message can close the field that has it; what
+/// contains the field gets the focus then. Not every window manager activates the parent of the
 /// dialog again; the main window would then receive keys that were meant for a number field.
 int execOver(QWidget* asker, QDialog& dialog)
 {
     const QPointer<QWidget> window(asker);
     const QPointer<QWidget> field(QApplication::focusWidget());
+    const QPointer<QWidget> holder(holderOf(field));
     const int result = dialog.exec();
     if (window == nullptr || !window->isVisible())
         return result;
     window->activateWindow();
-    if (field != nullptr && field->window() == window && field->isVisible())
-        field->setFocus();
+    for (QWidget* const widget : {field.data(), holder.data()}) {
+        if (widget != nullptr && widget->window() == window && widget->isVisible()) {
+            widget->setFocus();
+            break;
+        }
+    }
     return result;
 }
 

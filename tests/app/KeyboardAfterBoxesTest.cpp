@@ -16,6 +16,7 @@
 #include <QDialog>
 #include <QMessageBox>
 #include <QTimer>
+#include <QTreeWidget>
 
 #include <gtest/gtest.h>
 
@@ -185,4 +186,24 @@ TEST_F(KeyboardAfterBoxes, isInTheCellWhoseModeWasNoNumber)
     EXPECT_EQ(curves(), before);
     EXPECT_EQ(grid.model()->index(0, static_cast<int>(SeriesColumn::Mode)).data().toString(),
               QStringLiteral("2"));
+}
+
+TEST_F(KeyboardAfterBoxes, isInTheTreeWhenTheNameOfAPlotIsRefused)
+{
+    window.document().plots().add(QStringLiteral("wing"));
+    auto& tree = partOf<QTreeWidget>(window, "tvwEvolExplorer");
+    const QList<QTreeWidgetItem*> nodes =
+        tree.findItems(QStringLiteral("wing"), Qt::MatchExactly | Qt::MatchRecursive);
+    ASSERT_EQ(nodes.size(), 1);
+    tree.setFocus();
+    tree.setCurrentItem(nodes.front());
+    tree.editItem(nodes.front());
+    test::openEditor(tree)->setText(window.document().plots().first().properties().Caption());
+    QTimer closer;
+    QObject::connect(&closer, &QTimer::timeout, &window, [this] { closeBox(); });
+    closer.start();
+    press(Qt::Key_Return);
+    QApplication::processEvents();
+    EXPECT_EQ(boxes, 1);
+    EXPECT_EQ(QApplication::focusWidget(), &tree);
 }
