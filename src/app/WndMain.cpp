@@ -238,8 +238,10 @@ void wndMain::MDIForm_Load(const std::vector<std::string>& arguments)
         }
         m_document.plots().activate(&m_document.plots().first());
         const auto workspace = mentionOf(arguments, workspaceExtension);
-        if (m_workspace.recover(*m_recovery))
+        if (m_workspace.recover(*m_recovery)) {
+            m_workspace.showNotOpened(arguments);
             return;
+        }
         if (workspace != arguments.end())
             m_workspace.OpenWorkSpace(*workspace);
         else if (nameEvolutions(arguments))

@@ -123,6 +123,20 @@ bool WorkspaceCommands::recover(RecoveryCopy& copy)
     return false;
 }
 
+void WorkspaceCommands::showNotOpened(const std::vector<std::string>& files)
+{
+    if (files.empty())
+        return;
+    std::vector<std::string> lines;
+    lines.reserve(files.size());
+    for (const std::string& file : files)
+        lines.push_back(shownPath(file));
+    m_userInterface.showMessage("The copy of the unsaved workspace is open. These files of the "
+                                "command line were not opened:\n"
+                                    + shortList(lines, mostFileLines),
+                                "Tarsil", MessageIcon::Exclamation);
+}
+
 void WorkspaceCommands::open(const std::string& path)
 {
     show(m_document.open(path, m_userInterface));

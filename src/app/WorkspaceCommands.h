@@ -41,6 +41,9 @@ public:
     /// now. The copy is removed only if the user confirms that, too.
     bool recover(RecoveryCopy& copy);
 
+    /// Shows which files of the command line were not opened because the copy is open.
+    void showNotOpened(const std::vector<std::string>& files);
+
     /// Asks for a file and writes it, whole or not at all. First shows which rows of the plots have
     /// no curve, because the file does not keep them. Returns whether it was written.
     bool SaveWorkSpace();

@@ -91,3 +91,15 @@ TEST_F(Recovery, leavesNothingWhenTheProgramEndsProperly)
     choose("QuitMenu");
     EXPECT_EQ(copies(), 0);
 }
+
+TEST_F(Recovery, namesTheFilesOfTheCommandLineThatAreNotOpened)
+{
+    leaveCopy();
+    user.confirmations = {true};
+    load({"wing.tsw", "case.ev2"});
+    ASSERT_EQ(user.messages.size(), 1U);
+    EXPECT_EQ(user.messages[0].text,
+              "The copy of the unsaved workspace is open. These files of "
+              "the command line were not opened:\nwing.tsw\ncase.ev2");
+    EXPECT_EQ(description(), "an evening");
+}
