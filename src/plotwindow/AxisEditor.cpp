@@ -88,7 +88,7 @@ float AxisEditor::minimum() const
 float AxisEditor::maximum() const
 {
     const float value = NumberInput(*m_max, axisModule).single();
-    if (value == minimum())
+    if (value == NumberInput(*m_min, axisModule).numberIfAny())
         throw RunTimeError(ErrorNumber::InvalidProcedureCall, std::string(axisModule),
                            "the axis begins and ends at " + shortestText(value));
     return value;

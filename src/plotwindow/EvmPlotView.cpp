@@ -92,6 +92,7 @@ bool EvmPlotView::event(QEvent* event)
 void EvmPlotView::resizeEvent(QResizeEvent* /*event*/)
 {
     fitPlot();
+    fitEditor();
 }
 
 void EvmPlotView::fitPlot()
@@ -475,15 +476,25 @@ void EvmPlotView::openEditor(InPlaceEditor& editor, QRect area, std::function<QS
 {
     m_editor = &editor;
     m_applyEditor = std::move(apply);
-    area.setSize(area.size().boundedTo(size()));
-    area.moveRight(std::min(area.right(), width() - 1));
-    area.moveBottom(std::min(area.bottom(), height() - 1));
-    editor.setGeometry(area);
+    m_editorArea = area;
+    fitEditor();
     connect(&editor, &InPlaceEditor::left, this, [this] { finishEditing(true); });
     connect(&editor, &InPlaceEditor::committed, this, &EvmPlotView::commitEditor);
     connect(&editor, &InPlaceEditor::cancelled, this, [this] { finishByKey(); });
     editor.show();
     editor.setFocus();
+}
+
+/// Shows the editor where it was opened, or at the nearest position within the view.
+void EvmPlotView::fitEditor()
+{
+    if (m_editor == nullptr)
+        return;
+    QRect area = m_editorArea;
+    area.setSize(area.size().boundedTo(size()));
+    area.moveRight(std::min(area.right(), width() - 1));
+    area.moveBottom(std::min(area.bottom(), height() - 1));
+    m_editor->setGeometry(area);
 }
 
 /// Applies the contents of the editor and closes it. It stays open, with a sign at the field, when

@@ -10,6 +10,7 @@
 #include "plotwindow/ZoomGesture.h"
 #include "vgfplot/EvmPlot.h"
 
+#include <QRect>
 #include <QWidget>
 
 #include <functional>
@@ -115,6 +116,7 @@ private:
     void startEditing(TextBox which);
     void editAxis(PlotZone axis, QPoint position);
     void openEditor(InPlaceEditor& editor, QRect area, std::function<QString()> apply);
+    void fitEditor();
     void commitEditor();
     void finishByKey();
     void finishEditing(bool keep);
@@ -143,6 +145,7 @@ private:
     QAction* m_move;
     bool m_isMoving = false; ///< a text box follows the pointer
     InPlaceEditor* m_editor = nullptr;
+    QRect m_editorArea; ///< where the editor was opened
     std::function<QString()> m_applyEditor; ///< returns the name of the undo step, or an empty text
     std::optional<TextBox> m_editedBox;
 };

@@ -232,3 +232,23 @@ TEST_F(PlotGestures, acceptsTheFieldsOfAnAxisWhenTheFocusGoesElsewhere)
     EXPECT_EQ(plot.axes().speed.max, 500);
     EXPECT_THAT(steps, ElementsAre("Set Scale"));
 }
+
+TEST_F(PlotGestures, marksOnlyTheFieldOfAnAxisThatIsNoNumber)
+{
+    doubleClick({300, 345});
+    ASSERT_NE(field("axisMin"), nullptr);
+    field("axisMin")->setText(QStringLiteral("low"));
+    EXPECT_NE(field("axisMin")->accessibleDescription(), QString());
+    EXPECT_EQ(field("axisMax")->accessibleDescription(), QString());
+}
+
+TEST_F(PlotGestures, keepsTheFieldsOfAnAxisInASmallerView)
+{
+    doubleClick({600, 345});
+    ASSERT_NE(field("axisMax"), nullptr);
+    const QRect opened = field("axisMax")->parentWidget()->geometry();
+    view.resize(500, 300);
+    EXPECT_TRUE(view.rect().contains(field("axisMax")->parentWidget()->geometry()));
+    view.resize(800, 600);
+    EXPECT_EQ(field("axisMax")->parentWidget()->geometry(), opened);
+}
