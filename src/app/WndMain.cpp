@@ -123,9 +123,12 @@ wndMain::wndMain(UserInterface& userInterface, FlutterReportCommand::FileOpener 
 }
 
 /// Deletes the child windows before the document that they show. Steps that end with the document
-/// are no longer followed.
+/// are no longer followed. An open editor is committed when it loses the focus; that must happen
+/// while all windows exist.
 wndMain::~wndMain()
 {
+    if (QWidget* const field = focusWidget())
+        field->clearFocus();
     m_document.history().steps().disconnect(this);
     closeDialogs();
     m_layout.reset();
