@@ -53,8 +53,7 @@ public:
     bool isComplete() const { return m_isComplete; }
 
     /// Why an evolution cannot be tracked: modes of unequal length, or points without eigenvalues.
-    /// One mode alone needs none, because nothing is exchanged.
-    /// Empty when it can be tracked, also for a single mode.
+    /// Empty when it can be tracked. A single mode needs no eigenvalues: nothing is exchanged.
     static std::optional<std::string> obstacle(const EVM& evolution);
 
     std::size_t points() const { return m_modes.size(); }

@@ -40,6 +40,16 @@ protected:
                           Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(&view(), &event);
     }
+    /// Makes an undo step by a dialog; the window is active after it.
+    void addReferenceSpeed()
+    {
+        choose("mnuAddRef");
+        auto& dialog = partOf<QDialog>(window, "dlgRefSpeed");
+        test::click(dialog, "AddRefBtn");
+        dialog.close();
+        window.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    }
     EvmPlotView& view() { return *window.evolPlot().viewOf(plot()); }
     QTreeWidgetItem& nodeOf(const char* text)
     {
@@ -138,12 +148,8 @@ TEST_F(Undo, beginsAnewWithAnotherWorkspace)
 
 TEST_F(Undo, worksByItsKeysInAFieldWithoutTyping)
 {
+    addReferenceSpeed();
     auto& filter = partOf<QLineEdit>(window, "txtEvolutionFilter");
-    choose("mnuAddRef");
-    test::click(partOf<QDialog>(window, "dlgRefSpeed"), "AddRefBtn");
-    partOf<QDialog>(window, "dlgRefSpeed").close();
-    window.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     filter.setFocus();
     QTest::keyClick(&filter, Qt::Key_Z, Qt::ControlModifier);
     EXPECT_THAT(plot().references().referenceSpeeds(), IsEmpty());
@@ -151,17 +157,23 @@ TEST_F(Undo, worksByItsKeysInAFieldWithoutTyping)
     EXPECT_EQ(plot().references().referenceSpeeds().size(), 1U);
 }
 
-TEST_F(Undo, leavesItsKeysToAFieldWithTypingAndToEditorsInPlace)
+TEST_F(Undo, leavesItsKeysToAFieldWithTyping)
 {
-    window.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-    plot().properties().setCaption(QStringLiteral("wing"));
+    addReferenceSpeed();
     auto& filter = partOf<QLineEdit>(window, "txtEvolutionFilter");
     QTest::keyClicks(&filter, QStringLiteral("wing"));
     QTest::keyClick(&filter, Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(filter.text(), QString());
+    EXPECT_EQ(plot().references().referenceSpeeds().size(), 1U);
+}
+
+TEST_F(Undo, leavesItsKeysToAnEditorInPlace)
+{
+    plot().properties().setCaption(QStringLiteral("wing"));
+    addReferenceSpeed();
     auto& tree = partOf<QTreeWidget>(window, "tvwEvolExplorer");
     tree.editItem(&nodeOf("wing"));
     QTest::keyClick(test::openEditor(tree), Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(plot().properties().Caption(), QStringLiteral("wing"));
+    EXPECT_EQ(plot().references().referenceSpeeds().size(), 1U);
+    EXPECT_NE(test::openEditor(tree), nullptr) << "open when the window ends";
 }

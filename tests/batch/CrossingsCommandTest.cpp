@@ -7,6 +7,10 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <string>
+#include <utility>
+#include <vector>
+
 using namespace tarsil;
 using test::fileBytes;
 using test::runBatch;
@@ -19,7 +23,16 @@ using namespace Qt::StringLiterals;
 namespace {
 
 class CrossingsCommand : public test::BatchFixture
-{ };
+{
+protected:
+    /// Runs the command with these options on one evolution.
+    test::BatchResult crossings(std::vector<std::string> options) const
+    {
+        options.insert(options.begin(), "crossings");
+        options.insert(options.end(), {"--output", file("out.csv"), writeEv2()});
+        return runBatch(options);
+    }
+};
 
 } // namespace
 
@@ -99,12 +112,9 @@ TEST_F(CrossingsCommand, endsWithStatusOneWhereAMarginIsMissing)
 
 TEST_F(CrossingsCommand, refusesARequirementWithoutItsParts)
 {
-    const std::string path = writeEv2();
     const std::string aircraft = folder().write("wing.inp", "");
     const auto status = [&](std::vector<std::string> options) {
-        options.insert(options.begin(), "crossings");
-        options.insert(options.end(), {"--output", file("out.csv"), path});
-        return runBatch(options).status;
+        return crossings(std::move(options)).status;
     };
     EXPECT_EQ(status({"--require"}), 2);
     EXPECT_EQ(status({"--aircraft", aircraft}), 2);
@@ -128,16 +138,10 @@ TEST_F(CrossingsCommand, refusesWordsForNumbersAndOtherOutputs)
 
 TEST_F(CrossingsCommand, namesTheTextThatIsWrong)
 {
-    const std::string path = writeEv2();
     const std::string aircraft = folder().write("wing.inp", "[FLUTTER ENVELOPE]\n0.78=1|2|1\n");
-    const auto errorOf = [&](std::vector<std::string> options) {
-        options.insert(options.begin(), "crossings");
-        options.insert(options.end(), {"--output", file("out.csv"), path});
-        return runBatch(options).err;
-    };
-    EXPECT_THAT(errorOf({"--tolerance", "-1"}),
+    EXPECT_THAT(crossings({"--tolerance", "-1"}).err,
                 HasSubstr("--tolerance: \"-1\" is not a number of at least 0"));
-    EXPECT_THAT(errorOf({"--require=-2", "--aircraft", aircraft}),
+    EXPECT_THAT(crossings({"--require=-2", "--aircraft", aircraft}).err,
                 HasSubstr("--require: \"-2\" is not a factor greater than 0"));
 }
 
