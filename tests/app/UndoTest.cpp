@@ -22,7 +22,6 @@ using namespace tarsil;
 using test::partOf;
 using test::sample;
 using test::WndMainTest;
-using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 namespace {
